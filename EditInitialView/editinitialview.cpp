@@ -1,0 +1,154 @@
+#include "editinitialview.h"
+
+#include "InitialViewSettings.h"
+
+#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
+#include "shared/CErrorHandler.h"
+#include "shared/CatchAllProtocol.h"
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <cmath>
+
+using namespace initialview;
+
+namespace {
+
+using Settings = QMap<QString, QVariant>;
+
+const int actionFlags = 0x10F;
+const int largestZoom = 1600;
+
+template <std::size_t rows>
+std::array<QString, rows> tableOf(const std::array<const char*, rows>& labels)
+{
+    std::array<QString, rows> table;
+    std::copy(labels.begin(), labels.end(), table.begin());
+    return table;
+}
+
+const auto gPageNavigationArr = tableOf(navigationLabels);
+const auto gPageLayoutArr = tableOf(pageLayoutLabels);
+const auto gMagnificationArr = tableOf(magnificationLabels);
+const auto gTitleArr = tableOf(titleLabels);
+
+/// The document's opening view that a magnification setting stands for.
+struct Magnification
+{
+    int destinationType;
+    int zoom; // percent, 0 for none
+};
+
+/// No zoom, and one above what viewers offer, become 100 %. What does not fit an int counts as above.
+int usableZoom(double zoom)
+{
+    const bool fits = zoom > INT_MIN && zoom < INT_MAX;
+    const int whole = fits ? static_cast<int>(zoom) : INT_MAX;
+    return whole == 0 || whole > largestZoom ? 100 : whole;
+}
+
+Magnification magnificationOf(const QVariant& stored)
+{
+    const int row = stored.toInt();
+    if (row <= 4)
+        return {row + 1, 0};
+    if (row <= 7)
+        return {pdflibrary::Zoomed, usableZoom((stored.toDouble() - 4) * 25)};
+    return {pdflibrary::Zoomed, usableZoom(std::ldexp(100.0, row - 8))};
+}
+
+void applyLayoutAndMagnification(TelvarPDFLibraryCPDylibCPP1311& library, const Settings& settings)
+{
+    const int mode = pageModeOfRow(settings.value(key::NavigationTab).toInt());
+    library.SetPageMode(mode);
+    library.SetViewerPreferences(pdflibrary::NonFullScreenMode, mode);
+    library.SetPageLayout(settings.value(key::PageLayout).toInt());
+
+    const Magnification magnification = magnificationOf(settings.value(key::Magnification));
+    const int saved = library.SelectedPage();
+    const int wanted = settings.value(key::OpenToPage).toInt();
+    const int page = wanted <= library.PageCount() ? wanted : 1;
+    library.SelectPage(page);
+    const double left = library.GetPageBox(pdflibrary::MediaBox, pdflibrary::BoxLeft);
+    const double top = library.GetPageBox(pdflibrary::MediaBox, pdflibrary::BoxTop);
+    const double right = library.GetPageBox(pdflibrary::MediaBox, pdflibrary::BoxRight);
+    const double bottom = library.GetPageBox(pdflibrary::MediaBox, pdflibrary::BoxBottom);
+    library.SetOpenActionDestinationFull(page, magnification.zoom, magnification.destinationType, left, top, right,
+                                         bottom);
+    library.SelectPage(saved);
+}
+
+void applyViewerPreferences(TelvarPDFLibraryCPDylibCPP1311& library, const Settings& settings)
+{
+    // The order of the keys is the order of the library's options, from 1.
+    int option = pdflibrary::HideToolBars;
+    for (const char* flag : {key::HideToolBars, key::HideMenuBar, key::HideCtrlWindows, key::ResizeWinToInitPage,
+                             key::CenterWinOnScreen})
+        library.SetViewerPreferences(option++, settings.value(flag).toInt());
+    if (settings.value(key::OpenInFullScreen).toBool())
+        library.SetPageMode(pdflibrary::FullScreen);
+    library.SetViewerPreferences(pdflibrary::TitleBar, settings.value(key::Show).toInt());
+}
+
+} // namespace
+
+int CEditInitialView::WorkProc(WorkProcInfoStruct* info)
+{
+    const bool done = runCatchAll(__FILE__, "WorkProc", __LINE__, [info] {
+        const Settings& settings = *info->pSettings;
+        if (settings.value(key::LayoutAndMagn).toBool())
+            applyLayoutAndMagnification(*info->pPDFLibrary, settings);
+        if (settings.value(key::ViewerPrefs).toBool())
+            applyViewerPreferences(*info->pPDFLibrary, settings);
+    });
+    if (done)
+        return 0;
+    info->pErrorHandler->StoreError("Error occurred while saving initial view data");
+    return 1;
+}
+
+int CEditInitialView::ShowDialogProc(QWidget*, DialogLoadStruct*)
+{
+    return 0;
+}
+
+int CEditInitialView::PreSequenceProc(WorkProcInfoStruct*)
+{
+    return 1;
+}
+
+int CEditInitialView::PostSequenceProc(WorkProcInfoStruct*)
+{
+    return 1;
+}
+
+QString CEditInitialView::GetActionName()
+{
+    return actionName;
+}
+
+QString CEditInitialView::GetDisplayName()
+{
+    return actionName;
+}
+
+QString CEditInitialView::GetActionHelp()
+{
+    return "Action_EditInitialView.html";
+}
+
+QString CEditInitialView::GetGroupName()
+{
+    return "Document Properties";
+}
+
+int CEditInitialView::GetActionFlags()
+{
+    return actionFlags;
+}
+
+QString CEditInitialView::GetDefaultIcon()
+{
+    return "Action_IntialView.png#Action_IntialView_Selected.png#Action_IntialView_Disabled.png";
+}

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <type_traits>
+
+/// How the library's functions look from outside: every one takes the instance id first; strings cross as
+/// pointers (see TelvarPDFLibraryCPDylibCPP1311), numbers as they are.
+namespace pdflibrary {
+
+static_assert(sizeof(int) == 4 && sizeof(wchar_t) == 4, "the library works with 32-bit integers and characters");
+
+template <class MemberType>
+struct Crossing
+{
+    using Argument = MemberType;
+    using Result = MemberType;
+};
+
+template <>
+struct Crossing<std::wstring>
+{
+    using Argument = char*;
+    using Result = wchar_t*;
+};
+
+template <>
+struct Crossing<std::string>
+{
+    using Argument = char*;
+    using Result = char*;
+};
+
+template <class Signature>
+struct LibraryFunction;
+
+template <class Result, class... Parameters>
+struct LibraryFunction<Result(Parameters...)>
+{
+    using Pointer = typename Crossing<std::remove_cvref_t<Result>>::Result (*)(
+        int, typename Crossing<std::remove_cvref_t<Parameters>>::Argument...);
+};
+
+} // namespace pdflibrary
+
+/// One loaded PDF library file and one library instance in it.
+///
+/// An object is either loaded or not from construction to destruction. Not loaded, every operation returns 0,
+/// 0.0 or an empty string and calls nothing. Loaded, an operation hands back the library's own result; failures
+/// of the library are values, never exceptions. One object is used by one thread at a time.
+///
+/// There is one public member per library function, of the same name without the "TPL" prefix: `int` and `double`
+/// pass unchanged; a wide string crosses as a library buffer of 32-bit code units (null when empty) that the
+/// library owns from then on; a byte string crosses as its own characters, or as a buffer released after the call
+/// when it holds a NUL. String results are copied; lengths are asked right after the call.
+class TelvarPDFLibraryCPDylibCPP1311
+{
+    using I = int;
+    using D = double;
+    using W = const std::wstring&;
+    using B = const std::string&;
+
+public:
+    /// Opens the library file, resolves every function and creates an instance.
+    /// \param libraryPath the low 8 bits of each character are the bytes of the path; a bare file name is searched
+    ///     for by the dynamic loader's own rules.
+    explicit TelvarPDFLibraryCPDylibCPP1311(const std::wstring& libraryPath);
+    ~TelvarPDFLibraryCPDylibCPP1311();
+    TelvarPDFLibraryCPDylibCPP1311(const TelvarPDFLibraryCPDylibCPP1311&) = delete;
+    TelvarPDFLibraryCPDylibCPP1311& operator=(const TelvarPDFLibraryCPDylibCPP1311&) = delete;
+
+    /// True when the file was opened and every function resolved.
+    bool LibraryLoaded() const { return !m_missing; }
+
+    /// Looks a name up in the open library file.
+    /// \param optional when false, a name that is not found makes the object count as not loaded.
+    /// \returns the entry point, or null.
+    void* AttachFunction(const char* name, bool optional = false);
+
+    /// Converts a byte-string argument.
+    /// \param[out] isBuffer 1 when the result is a library buffer that the caller releases after the call, else 0.
+    /// \returns the string's own characters, valid as long as the string, or that buffer.
+    char* StringParm(const std::string& text, int& isBuffer);
+
+    /// Converts a wide-string argument into a new library buffer of 4 bytes a character, without terminator.
+    /// \returns null for an empty string. The binding does not release the buffer.
+    char* WideStringParm(const std::wstring& text);
+
+    /// Copies `length` characters; empty when `length` is below 1.
+    std::wstring WideStringResult(wchar_t* characters, int length);
+
+    // One member per row: int SetPageLayout(int layout);
+#define TPL_OP(Result, Name, Arguments, ...) std::remove_cvref_t<Result> Name(__VA_ARGS__);
+#include "operations.def"
+#undef TPL_OP
+
+private:
+    struct Marshal;
+
+    void* m_library = nullptr;
+    std::int32_t m_instance = 0;
+    bool m_missing = false;
+
+    // One field per row: int (*m_SetPageLayout)(int instance, int layout);
+#define TPL_OP(Result, Name, Arguments, ...)                                                                      \
+    pdflibrary::LibraryFunction<Result(__VA_ARGS__)>::Pointer m_##Name = nullptr;
+#include "operations.def"
+#undef TPL_OP
+
+    int (*m_CreateLibrary)() = nullptr;
+    char* (*m_CreateBuffer)(int instance, int size) = nullptr;
+    void (*m_AddToBuffer)(int instance, char* buffer, const char* source, int size) = nullptr;
+    void (*m_ReleaseLibrary)(int instance) = nullptr;
+    int (*m_StringResultLength)(int instance) = nullptr;
+    int (*m_AnsiStringResultLength)(int instance) = nullptr;
+    void (*m_ReleaseBuffer)(int instance, char* buffer) = nullptr;
+};

@@ -1,0 +1,179 @@
+#include "CUtils.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QGLFormat>
+#include <QGuiApplication>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QStandardPaths>
+#include <QThread>
+
+QString CUtils::mApplicationName;
+
+namespace {
+
+const QString productFolder = QStringLiteral("/kelvane software");
+const QString applicationFolder = QStringLiteral("Plexor");
+const int lastTempFolderNumber = 99999;
+const int lastTempFileNumber = 9999;
+
+std::optional<bool> openGLSupport;
+
+/// QGLFormat::openGLVersionFlags crashes where no context can be made current, so that is tried first.
+std::optional<bool> askOpenGL()
+{
+    const auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
+    if (application == nullptr || QThread::currentThread() != application->thread())
+        return std::nullopt;
+    QOpenGLContext context;
+    if (!context.create())
+        return false;
+    QOffscreenSurface surface;
+    surface.setFormat(context.format());
+    surface.create();
+    if (!surface.isValid() || !context.makeCurrent(&surface))
+        return false;
+    const int flags = static_cast<int>(QGLFormat::openGLVersionFlags());
+    context.doneCurrent();
+    return CUtils::OpenGLFlagsSuffice(flags);
+}
+
+void makeMissing(QDir& directory, const QString& path)
+{
+    directory.setPath(path);
+    if (!directory.exists())
+        directory.mkdir(path);
+}
+
+void makeMissingInside(QDir& directory, const QString& path, const QString& name)
+{
+    directory.setPath(path);
+    if (!directory.exists(name))
+        directory.mkdir(name);
+}
+
+} // namespace
+
+void CUtils::SetAppName(QString name)
+{
+    mApplicationName = name;
+}
+
+QString CUtils::GetAppName()
+{
+    return mApplicationName.isEmpty() ? applicationFolder : mApplicationName;
+}
+
+QString CUtils::GetAppDataFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
+QString CUtils::GetAppDataToolsFolder()
+{
+    return GetAppDataFolder() + productFolder + "/" + applicationFolder + "/";
+}
+
+QString CUtils::GetSequenceFolder()
+{
+    return GetAppDataToolsFolder() + "Actions";
+}
+
+QString CUtils::GetReportsFolder()
+{
+    return GetAppDataToolsFolder() + "/Reports/Action Reports";
+}
+
+QString CUtils::GetAppLogFolder()
+{
+    return GetAppDataToolsFolder() + "/Reports/App Log";
+}
+
+QString CUtils::GetWFFolder()
+{
+    return GetAppDataToolsFolder() + "WF";
+}
+
+QString CUtils::GetSettingsFolder()
+{
+    return GetAppDataToolsFolder() + "/Settings";
+}
+
+QString CUtils::GetCollectionsFolder()
+{
+    return GetAppDataToolsFolder() + "/Settings/Favorites";
+}
+
+QString CUtils::GetAdvSplitTemplatesFolder()
+{
+    return GetAppDataToolsFolder() + "/Settings/AdvSplitTemplates";
+}
+
+QString CUtils::GetActionFolder()
+{
+    return QString("./Tools").replace('\\', '/');
+}
+
+void CUtils::SetupFolders()
+{
+    QDir directory;
+    QString base = GetAppDataFolder() + productFolder;
+    makeMissing(directory, base);
+    base += "/" + applicationFolder;
+    makeMissing(directory, base);
+    for (const char* suffix : {"/Actions", "/Reports", "/Scripts", "/Reports/Action Reports", "/Reports/App Log", "/WF",
+                               "/Settings", "/Settings/Favorites", "/Settings/AdvSplitTemplates"})
+        makeMissing(directory, base + suffix);
+
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString application = QCoreApplication::applicationName();
+    makeMissingInside(directory, documents, application);
+    makeMissingInside(directory, documents + "/" + application + "/", "Input");
+    makeMissingInside(directory, documents + "/" + application + "/", "Output");
+}
+
+QDir CUtils::GetNewTempFolder(QString* name)
+{
+    const QString temp = QDir::tempPath() + "/";
+    QString candidate = temp + *name;
+    for (int number = 0; number <= lastTempFolderNumber && QDir().exists(candidate); ++number)
+        candidate = temp + *name + "_" + QString::number(number);
+    if (!QDir().exists(candidate))
+        QDir().mkpath(candidate);
+    if (!QDir().exists(candidate)) {
+        *name = temp;
+        return QDir::temp();
+    }
+    *name = candidate;
+    return QDir(candidate);
+}
+
+QString CUtils::GetNewTempFile(char* prefix)
+{
+    const QString wanted = QString::fromUtf8(prefix);
+    for (int number = 1; number <= lastTempFileNumber; ++number) {
+        QString candidate = QDir::tempPath() + QString("/%1_%2.pdf").arg(wanted, QString::number(number));
+        candidate.replace('\\', '/');
+        if (!QFileInfo::exists(candidate))
+            return candidate;
+    }
+    return QString();
+}
+
+bool CUtils::OpenGLFlagsSuffice(int flags)
+{
+    return flags >= 32 && (flags <= 64 || flags >= 2048);
+}
+
+bool CUtils::CheckOpenGLSupport()
+{
+    if (!openGLSupport)
+        openGLSupport = askOpenGL();
+    return openGLSupport.value_or(false);
+}
+
+void CUtils::SetOpenGLSupport(std::optional<bool> answer)
+{
+    openGLSupport = answer;
+}
