@@ -4,8 +4,8 @@
 
 #include <array>
 
-/// The settings of an Initial View action: the keys of its map and the rows of its option tables. A list's row is
-/// the number stored in the map.
+/// The settings of an Initial View action: the keys of its map and the rows of its option tables. A list's
+/// row is the number stored in the map.
 namespace initialview {
 
 /// The action's name, as the host lists it and as saved settings record it.

@@ -74,8 +74,8 @@ void applyLayoutAndMagnification(TelvarPDFLibraryCPDylibCPP1311& library, const 
     const double top = library.GetPageBox(pdflibrary::MediaBox, pdflibrary::BoxTop);
     const double right = library.GetPageBox(pdflibrary::MediaBox, pdflibrary::BoxRight);
     const double bottom = library.GetPageBox(pdflibrary::MediaBox, pdflibrary::BoxBottom);
-    library.SetOpenActionDestinationFull(page, magnification.zoom, magnification.destinationType, left, top, right,
-                                         bottom);
+    library.SetOpenActionDestinationFull(page, magnification.zoom, magnification.destinationType, left, top,
+                                         right, bottom);
     library.SelectPage(saved);
 }
 
@@ -83,8 +83,8 @@ void applyViewerPreferences(TelvarPDFLibraryCPDylibCPP1311& library, const Setti
 {
     // The order of the keys is the order of the library's options, from 1.
     int option = pdflibrary::HideToolBars;
-    for (const char* flag : {key::HideToolBars, key::HideMenuBar, key::HideCtrlWindows, key::ResizeWinToInitPage,
-                             key::CenterWinOnScreen})
+    for (const char* flag : {key::HideToolBars, key::HideMenuBar, key::HideCtrlWindows,
+                             key::ResizeWinToInitPage, key::CenterWinOnScreen})
         library.SetViewerPreferences(option++, settings.value(flag).toInt());
     if (settings.value(key::OpenInFullScreen).toBool())
         library.SetPageMode(pdflibrary::FullScreen);

@@ -4,7 +4,8 @@
 
 #include <QObject>
 
-/// The action "Initial View": decides how a PDF opens. It keeps no state; all that it works on is lent by the host.
+/// The action "Initial View": decides how a PDF opens. It keeps no state; all that it works on is lent by the
+/// host.
 class CEditInitialView : public QObject, public CActionInterface
 {
     Q_OBJECT

@@ -83,7 +83,8 @@ struct TelvarPDFLibraryCPDylibCPP1311::Marshal
             return self.WideStringResult(raw, self.m_StringResultLength(self.m_instance));
         } else if constexpr (std::is_same_v<Result, std::string>) {
             const int length = self.m_AnsiStringResultLength(self.m_instance);
-            return length < 1 || raw == nullptr ? std::string() : std::string(raw, static_cast<std::size_t>(length));
+            return length < 1 || raw == nullptr ? std::string()
+                                                : std::string(raw, static_cast<std::size_t>(length));
         } else {
             return raw;
         }
@@ -163,9 +164,10 @@ std::wstring TelvarPDFLibraryCPDylibCPP1311::WideStringResult(wchar_t* character
 
 #define TPL_ARGUMENTS(...) __VA_OPT__(, ) __VA_ARGS__
 // int SetPageLayout(int layout) { return Marshal::call<int>(*this, m_SetPageLayout, layout); }
-#define TPL_OP(Result, Name, Arguments, ...)                                                                      \
-    std::remove_cvref_t<TelvarPDFLibraryCPDylibCPP1311::Result> TelvarPDFLibraryCPDylibCPP1311::Name(__VA_ARGS__) \
-    {                                                                                                             \
-        return Marshal::call<std::remove_cvref_t<Result>>(*this, m_##Name TPL_ARGUMENTS Arguments);               \
+#define TPL_OP(Result, Name, Arguments, ...)                                                                 \
+    std::remove_cvref_t<TelvarPDFLibraryCPDylibCPP1311::Result> TelvarPDFLibraryCPDylibCPP1311::Name(        \
+        __VA_ARGS__)                                                                                         \
+    {                                                                                                        \
+        return Marshal::call<std::remove_cvref_t<Result>>(*this, m_##Name TPL_ARGUMENTS Arguments);          \
     }
 #include "operations.def"

@@ -8,7 +8,8 @@
 /// pointers (see TelvarPDFLibraryCPDylibCPP1311), numbers as they are.
 namespace pdflibrary {
 
-static_assert(sizeof(int) == 4 && sizeof(wchar_t) == 4, "the library works with 32-bit integers and characters");
+static_assert(sizeof(int) == 4 && sizeof(wchar_t) == 4,
+              "the library works with 32-bit integers and characters");
 
 template <class MemberType>
 struct Crossing
@@ -46,13 +47,13 @@ struct LibraryFunction<Result(Parameters...)>
 /// One loaded PDF library file and one library instance in it.
 ///
 /// An object is either loaded or not from construction to destruction. Not loaded, every operation returns 0,
-/// 0.0 or an empty string and calls nothing. Loaded, an operation hands back the library's own result; failures
-/// of the library are values, never exceptions. One object is used by one thread at a time.
+/// 0.0 or an empty string and calls nothing. Loaded, an operation hands back the library's own result;
+/// failures of the library are values, never exceptions. One object is used by one thread at a time.
 ///
-/// There is one public member per library function, of the same name without the "TPL" prefix: `int` and `double`
-/// pass unchanged; a wide string crosses as a library buffer of 32-bit code units (null when empty) that the
-/// library owns from then on; a byte string crosses as its own characters, or as a buffer released after the call
-/// when it holds a NUL. String results are copied; lengths are asked right after the call.
+/// There is one public member per library function, of the same name without the "TPL" prefix: `int` and
+/// `double` pass unchanged; a wide string crosses as a library buffer of 32-bit code units (null when empty)
+/// that the library owns from then on; a byte string crosses as its own characters, or as a buffer released
+/// after the call when it holds a NUL. String results are copied; lengths are asked right after the call.
 class TelvarPDFLibraryCPDylibCPP1311
 {
     using I = int;
@@ -62,7 +63,8 @@ class TelvarPDFLibraryCPDylibCPP1311
 
 public:
     /// Opens the library file, resolves every function and creates an instance.
-    /// \param libraryPath the low 8 bits of each character are the bytes of the path; a bare file name is searched
+    /// \param libraryPath the low 8 bits of each character are the bytes of the path; a bare file name is
+    /// searched
     ///     for by the dynamic loader's own rules.
     explicit TelvarPDFLibraryCPDylibCPP1311(const std::wstring& libraryPath);
     ~TelvarPDFLibraryCPDylibCPP1311();
@@ -78,8 +80,8 @@ public:
     void* AttachFunction(const char* name, bool optional = false);
 
     /// Converts a byte-string argument.
-    /// \param[out] isBuffer 1 when the result is a library buffer that the caller releases after the call, else 0.
-    /// \returns the string's own characters, valid as long as the string, or that buffer.
+    /// \param[out] isBuffer 1 when the result is a library buffer that the caller releases after the call,
+    /// else 0. \returns the string's own characters, valid as long as the string, or that buffer.
     char* StringParm(const std::string& text, int& isBuffer);
 
     /// Converts a wide-string argument into a new library buffer of 4 bytes a character, without terminator.
@@ -102,7 +104,7 @@ private:
     bool m_missing = false;
 
     // One field per row: int (*m_SetPageLayout)(int instance, int layout);
-#define TPL_OP(Result, Name, Arguments, ...)                                                                      \
+#define TPL_OP(Result, Name, Arguments, ...)                                                                 \
     pdflibrary::LibraryFunction<Result(__VA_ARGS__)>::Pointer m_##Name = nullptr;
 #include "operations.def"
 #undef TPL_OP

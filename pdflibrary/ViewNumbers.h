@@ -4,7 +4,14 @@
 namespace pdflibrary {
 
 /// Page mode of GetPageMode, SetPageMode and viewer preference 7 (which never takes FullScreen).
-enum PageMode { PageOnly = 0, BookmarksPanel = 1, PagesPanel = 2, FullScreen = 3, LayersPanel = 4, AttachmentsPanel = 5 };
+enum PageMode {
+    PageOnly = 0,
+    BookmarksPanel = 1,
+    PagesPanel = 2,
+    FullScreen = 3,
+    LayersPanel = 4,
+    AttachmentsPanel = 5
+};
 
 /// Page layout of GetPageLayout and SetPageLayout; 6 stands for a document without the entry.
 enum PageLayout {
@@ -17,11 +24,12 @@ enum PageLayout {
     NoPageLayout = 6,
 };
 
-/// Destination type of GetDestType and SetOpenActionDestinationFull. Only Zoomed has a zoom (percent, 0 for none).
+/// Destination type of GetDestType and SetOpenActionDestinationFull. Only Zoomed has a zoom (percent, 0 for
+/// none).
 enum DestinationType { Zoomed = 1, FitPage = 2, FitWidth = 3, FitHeight = 4, FitVisible = 5 };
 
-/// Option of GetViewerPreferences and SetViewerPreferences: 1 yes, 0 no; TitleBar 0 file name, 1 document title;
-/// NonFullScreenMode a page mode.
+/// Option of GetViewerPreferences and SetViewerPreferences: 1 yes, 0 no; TitleBar 0 file name, 1 document
+/// title; NonFullScreenMode a page mode.
 enum ViewerPreference {
     HideToolBars = 1,
     HideMenuBar = 2,

@@ -11,8 +11,8 @@ class CErrorHandler;
 class QWidget;
 class TelvarPDFLibraryCPDylibCPP1311;
 
-/// What the host lends an action for one work call. The host builds the record and owns all that it points to;
-/// nothing else may use the library instance or the map during the call.
+/// What the host lends an action for one work call. The host builds the record and owns all that it points
+/// to; nothing else may use the library instance or the map during the call.
 struct WorkProcInfoStruct
 {
     /// The library instance; the document to change is the one selected in it. Never null.
@@ -59,8 +59,8 @@ static_assert(offsetof(DialogLoadStruct, moreHostFields) == 40);
 static_assert(offsetof(DialogLoadStruct, bHideAddToActionButton) == 48);
 static_assert(offsetof(DialogLoadStruct, bSkipDocumentRead) == 49);
 
-/// How the host talks to an action plug-in, on its GUI thread for the dialog and on one thread at a time for work.
-/// The order of the operations is the binary interface.
+/// How the host talks to an action plug-in, on its GUI thread for the dialog and on one thread at a time for
+/// work. The order of the operations is the binary interface.
 class CActionInterface
 {
 public:
@@ -86,7 +86,8 @@ public:
     /// The group under which the host lists the action.
     virtual QString GetGroupName() = 0;
     virtual int GetActionFlags() = 0;
-    /// Three image file names separated by "#": normal, selected, disabled; below ":/Quintar/Resources/Tools/".
+    /// Three image file names separated by "#": normal, selected, disabled; below
+    /// ":/Quintar/Resources/Tools/".
     virtual QString GetDefaultIcon() = 0;
 };
 

@@ -47,6 +47,4 @@ QString CErrorHandler::GetLast()
     return GetAt(GetCount() - 1);
 }
 
-void CErrorHandler::WriteToLog(const char*, bool)
-{
-}
+void CErrorHandler::WriteToLog(const char*, bool) {}

@@ -7,8 +7,8 @@
 
 /// The host's store of readable failure messages, oldest first.
 ///
-/// The host creates it and lends it to an action with every work call. It holds no lock: callers that share one
-/// store between threads take turns.
+/// The host creates it and lends it to an action with every work call. It holds no lock: callers that share
+/// one store between threads take turns.
 class CErrorHandler
 {
 public:

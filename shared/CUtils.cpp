@@ -122,8 +122,9 @@ void CUtils::SetupFolders()
     makeMissing(directory, base);
     base += "/" + applicationFolder;
     makeMissing(directory, base);
-    for (const char* suffix : {"/Actions", "/Reports", "/Scripts", "/Reports/Action Reports", "/Reports/App Log", "/WF",
-                               "/Settings", "/Settings/Favorites", "/Settings/AdvSplitTemplates"})
+    for (const char* suffix :
+         {"/Actions", "/Reports", "/Scripts", "/Reports/Action Reports", "/Reports/App Log", "/WF",
+          "/Settings", "/Settings/Favorites", "/Settings/AdvSplitTemplates"})
         makeMissing(directory, base + suffix);
 
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);

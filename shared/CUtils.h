@@ -7,8 +7,8 @@
 
 /// The host's per-user folders, fresh temporary names, and what the machine can draw.
 ///
-/// The getters only compose paths: they neither create nor check anything, and some paths hold a doubled slash,
-/// which the file system reads as one. None ends with a slash except GetAppDataToolsFolder.
+/// The getters only compose paths: they neither create nor check anything, and some paths hold a doubled
+/// slash, which the file system reads as one. None ends with a slash except GetAppDataToolsFolder.
 class CUtils
 {
 public:
@@ -33,8 +33,8 @@ public:
     static void SetupFolders();
 
     /// Creates a folder in the system's temporary folder.
-    /// \param[in,out] name the wanted name; afterwards the full path. A name that is taken gets "_0", "_1", ...
-    /// \returns the folder; the temporary folder itself when it cannot be made.
+    /// \param[in,out] name the wanted name; afterwards the full path. A name that is taken gets "_0", "_1",
+    /// ... \returns the folder; the temporary folder itself when it cannot be made.
     static QDir GetNewTempFolder(QString* name);
 
     /// \param prefix UTF-8.
@@ -42,8 +42,8 @@ public:
     ///     numbers 1 to 9999 are all taken. Nothing is created or reserved.
     static QString GetNewTempFile(char* prefix);
 
-    /// Whether OpenGL is good enough for translucent windows. False without a GUI application, without a usable
-    /// driver, and off the GUI thread. The first answer that a GUI application gives is kept.
+    /// Whether OpenGL is good enough for translucent windows. False without a GUI application, without a
+    /// usable driver, and off the GUI thread. The first answer that a GUI application gives is kept.
     static bool CheckOpenGLSupport();
 
     /// The test behind CheckOpenGLSupport, on flags as QGLFormat::openGLVersionFlags gives them.

@@ -42,8 +42,10 @@ private slots:
         CErrorHandler store;
         store.StoreError("page %d of %s", 3, "h\xc3\xb4tel.pdf");
         QCOMPARE(store.GetLast(), QString::fromUtf8("page 3 of h\xc3\xb4tel.pdf"));
-        store.StoreError(QString::fromUtf8("gr\xc3\xb6\xc3\x9f" "er"));
-        QCOMPARE(store.GetLast(), QString::fromUtf8("gr\xc3\xb6\xc3\x9f" "er"));
+        store.StoreError(QString::fromUtf8("gr\xc3\xb6\xc3\x9f"
+                                           "er"));
+        QCOMPARE(store.GetLast(), QString::fromUtf8("gr\xc3\xb6\xc3\x9f"
+                                                    "er"));
     }
 
     void mirrorsMessagesButNotTheirRemoval()

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+/// What LastErrorCode says of an instance's last call, and the library's other numbers that hosts act on. The
+/// header stands alone, so that a host can show the texts without linking the library.
+namespace engine {
+
+/// The numbers are part of the library's interface: never reuse or renumber one.
+enum class ErrorCode : int {
+    None = 0,
+    NotAvailable = 1,
+    NoDocument = 2,
+    UnknownDocument = 3,
+    BadArgument = 4,
+    UnknownPage = 5,
+    UnknownDestination = 6,
+    NothingChanged = 7,
+    CannotAppend = 8,
+    OutOfMemory = 9,
+    Internal = 10,
+    FileNotFound = 20,
+    AccessDenied = 21,
+    NotARegularFile = 22,
+    EmptyFile = 23,
+    ReadFailed = 24,
+    SourceChanged = 25,
+    WriteFailed = 26,
+    DiskFull = 27,
+    NotAPdf = 40,
+    Damaged = 41,
+    NoPages = 42,
+    WrongPassword = 43,
+    UnsupportedEncryption = 44,
+    TooComplex = 45,
+};
+
+struct ErrorText
+{
+    ErrorCode code;
+    std::string_view text;
+};
+
+// clang-format off
+inline constexpr std::array errorTexts{
+    ErrorText{ErrorCode::None,                  "no error"},
+    ErrorText{ErrorCode::NotAvailable,          "this function is not available here"},
+    ErrorText{ErrorCode::NoDocument,            "no document is selected"},
+    ErrorText{ErrorCode::UnknownDocument,       "there is no document with this id"},
+    ErrorText{ErrorCode::BadArgument,           "a number or text is outside what the function takes"},
+    ErrorText{ErrorCode::UnknownPage,           "the document has no page with this number"},
+    ErrorText{ErrorCode::UnknownDestination,    "there is no destination with this id"},
+    ErrorText{ErrorCode::NothingChanged,        "the document has not been changed"},
+    ErrorText{ErrorCode::CannotAppend,          "the change cannot be appended to this document, only written with all of it"},
+    ErrorText{ErrorCode::OutOfMemory,           "the document needs more memory than there is"},
+    ErrorText{ErrorCode::Internal,              "internal error"},
+    ErrorText{ErrorCode::FileNotFound,          "no such file or folder"},
+    ErrorText{ErrorCode::AccessDenied,          "permission denied"},
+    ErrorText{ErrorCode::NotARegularFile,       "not a regular file"},
+    ErrorText{ErrorCode::EmptyFile,             "the file is empty"},
+    ErrorText{ErrorCode::ReadFailed,            "the file cannot be read"},
+    ErrorText{ErrorCode::SourceChanged,         "the file was changed by another program meanwhile"},
+    ErrorText{ErrorCode::WriteFailed,           "the file cannot be written"},
+    ErrorText{ErrorCode::DiskFull,              "no space left on the device"},
+    ErrorText{ErrorCode::NotAPdf,               "not a PDF document"},
+    ErrorText{ErrorCode::Damaged,               "the document is damaged beyond repair"},
+    ErrorText{ErrorCode::NoPages,               "the document has no pages"},
+    ErrorText{ErrorCode::WrongPassword,         "a password is needed, and the one given is not right"},
+    ErrorText{ErrorCode::UnsupportedEncryption, "the document's encryption is not supported"},
+    ErrorText{ErrorCode::TooComplex,            "the document is nested too deeply or refers to itself"},
+};
+// clang-format on
+
+/// The text of a code as LastErrorCode returns it; that of Internal for a number that is none.
+constexpr std::string_view errorText(int code)
+{
+    for (const ErrorText& entry : errorTexts)
+        if (static_cast<int>(entry.code) == code)
+            return entry.text;
+    return "internal error";
+}
+
+/// What EncryptionStatus returns for the selected document.
+enum EncryptionStatus {
+    NotEncrypted = 0,
+    OpenedWithUserPassword = 1,
+    OpenedWithOwnerPassword = 2,
+};
+
+/// Items of SecurityInfo; other items are not available here.
+enum SecurityItem {
+    /// Number of signatures in the document, usage rights and certifications included.
+    SignatureCount = 101,
+    /// 1 when the encryption allows this user to modify the document (or there is none), else 0.
+    ModificationAllowed = 102,
+};
+
+} // namespace engine
