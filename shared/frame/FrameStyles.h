@@ -1,0 +1,78 @@
+#pragma once
+
+/// The style sheets of the dialog frame.
+namespace framestyles {
+
+// clang-format off
+
+/// "main_widget" is what every dialog calls its own widget, "button_widget" a row of buttons in it.
+inline constexpr char mainFrame[] =
+    R"(QWidget#main_widget {background-color: rgb(255,255,255);color: rgb(0, 0, 0);})"
+    R"(QFrame#QDmainFrame {background: rgb(147, 147 ,147);border: 1px solid rgb(50,50,170);})"
+    R"(QGroupBox {border: 1px solid rgb(190,190,190);margin: 4px;margin-top: 6px;padding-top: 5px;})"
+    R"(QGroupBox::title {padding-left: 2px;padding-right: 2px;left: 10px;top: -5 px;})"
+    R"(QLineEdit::disabled {background-color: rgb(235,235,235);})"
+    R"(QWidget#button_widget {color: white;background-color:)"
+    R"(qlineargradient(spread:repeat, x1:0, y1:0, x2:0, y2:1, stop:0 rgba(70,90,160), stop:1 rgba(40,60,90));)"
+    R"(border-top-left-radius: 6px;border-bottom-left-radius: 6px;)"
+    R"(border-top-right-radius: 6px;border-bottom-right-radius: 6px;})";
+
+struct Replacement
+{
+    const char* before;
+    const char* after;
+};
+
+/// What turns the main window's blue frame into the grey-brown one, in this order.
+inline constexpr Replacement greyBrown[] = {
+    {"background: rgb(0,0,31);", "background: rgb(40,36,36);"},
+    {"rgb(50,50,170);", "rgb(140,130,130);"},
+    {"rgba(70,90,160)", "rgba(140,130,130)"},
+    {"rgba(40,60,90)", "rgba(40,36,36)"},
+};
+
+inline constexpr char header[] =
+    "QFrame#QDheaderFrame {\n"
+    "background-image: url(:/Quintar/Resources/QuintarHeader.png);\n"
+    "background-repeat: no-repeat;\n"
+    "}";
+
+inline constexpr char prefix[] = "color:white;";
+inline constexpr char title[] = "color: white;";
+
+/// %1 object name, %2 image, %3 repeat, %4 position.
+inline constexpr char shadowCorner[] =
+    "QFrame#%1 {\n"
+    "background-image: url(:/Quintar/Resources/%2);\n"
+    "background-repeat: %3;\n"
+    "background-position: %4;\n"
+    "border: 0px transparent;\n"
+    "}";
+
+/// %1 object name, %2 image, %3 repeat.
+inline constexpr char shadowEdge[] =
+    "QFrame#%1 {\n"
+    "background-image: url(:/Quintar/Resources/%2);\n"
+    "background-repeat: %3;\n"
+    "border: 0px transparent;\n"
+    "\n"
+    "}";
+
+inline constexpr char headerButton[] =
+    R"(QToolButton {background-color: transparent;color: white;background-image: url(none.png);border: none;})"
+    R"(QToolButton QWidget {background-color: black;})"
+    R"(QToolButton:disabled{background-color: transparent;color: silver;background-image: url(none.png);border: none;})"
+    R"(QToolButton:checked{background-color: )"
+    R"(qlineargradient(spread:repeat, x1:0, y1:0, x2:1, y2:0, stop:0 rgba(210, 210, 210), stop:1 rgba(210, 210, 210));)"
+    R"(color: white;background-image: url(none.png);border: none;})"
+    R"(QToolButton:hover{background-color: )"
+    R"(qlineargradient(spread:repeat, x1:0, y1:0, x2:1, y2:0, stop:0 rgba(210, 210, 210), stop:1 rgba(210, 210, 210));)"
+    R"(color: white;background-image: url(none.png);border: none;})"
+    R"(QToolButton:pressed {background-color: )"
+    R"(qlineargradient(spread:repeat, x1:0, y1:0, x2:1, y2:0, stop:0 rgba(210, 210, 210), stop:1 rgba(210, 210, 210));)"
+    R"(color: white;background-image: url(none.png);border: none;})"
+    R"(QToolTip {background-color: white;color: black;background-image: url(none.png);border: none;})";
+
+// clang-format on
+
+} // namespace framestyles
