@@ -2,11 +2,30 @@
 
 #include <dlfcn.h>
 
-#include <climits>
+#include <array>
+#include <string_view>
 #include <tuple>
 #include <utility>
 
 namespace {
+
+constexpr std::array<std::string_view, 849> operationNames{
+#define TPL_OP(Result, Name, Arguments, ...) #Name,
+#include "operations.def"
+#undef TPL_OP
+};
+
+constexpr bool strictlyAscending()
+{
+    for (std::size_t row = 1; row < operationNames.size(); ++row) {
+        if (operationNames[row - 1] >= operationNames[row])
+            return false;
+    }
+    return true;
+}
+
+static_assert(strictlyAscending(),
+              "the rows of operations.def stand in ASCII order, none missing, none twice");
 
 std::string narrowed(const std::wstring& path)
 {
