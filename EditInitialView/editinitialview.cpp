@@ -43,7 +43,7 @@ struct Magnification
 /// No zoom, and one above what viewers offer, become 100 %. What does not fit an int counts as above.
 int usableZoom(double zoom)
 {
-    const bool fits = zoom > INT_MIN && zoom < INT_MAX;
+    const bool fits = zoom > INT_MIN - 1.0 && zoom < INT_MAX + 1.0;
     const int whole = fits ? static_cast<int>(zoom) : INT_MAX;
     return whole == 0 || whole > largestZoom ? 100 : whole;
 }

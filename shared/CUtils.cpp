@@ -13,8 +13,8 @@ QString CUtils::mApplicationName;
 
 namespace {
 
-const QString productFolder = QStringLiteral("/kelvane software");
-const QString applicationFolder = QStringLiteral("Plexor");
+const char productFolder[] = "/kelvane software";
+const char applicationFolder[] = "Plexor";
 const int lastTempFolderNumber = 99999;
 const int lastTempFileNumber = 9999;
 
@@ -72,7 +72,7 @@ QString CUtils::GetAppDataFolder()
 
 QString CUtils::GetAppDataToolsFolder()
 {
-    return GetAppDataFolder() + productFolder + "/" + applicationFolder + "/";
+    return GetAppDataFolder() + productFolder + '/' + applicationFolder + '/';
 }
 
 QString CUtils::GetSequenceFolder()
@@ -112,7 +112,7 @@ QString CUtils::GetAdvSplitTemplatesFolder()
 
 QString CUtils::GetActionFolder()
 {
-    return QString("./Tools").replace('\\', '/');
+    return "./Tools";
 }
 
 void CUtils::SetupFolders()
@@ -120,7 +120,7 @@ void CUtils::SetupFolders()
     QDir directory;
     QString base = GetAppDataFolder() + productFolder;
     makeMissing(directory, base);
-    base += "/" + applicationFolder;
+    base = base + '/' + applicationFolder;
     makeMissing(directory, base);
     for (const char* suffix :
          {"/Actions", "/Reports", "/Scripts", "/Reports/Action Reports", "/Reports/App Log", "/WF",

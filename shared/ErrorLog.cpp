@@ -1,7 +1,5 @@
-// The log entry points stand in a file of their own so that a program which links them statically can put its
-// own sink in their place.
+// A program that links this library statically can put a log of its own in this one's place. So each entry point
+// stands in a file of its own.
 #include "CErrorHandler.h"
 
 void StoreErrorToLog(const char*) {}
-
-void AddToDebugFile(const char*, ...) {}

@@ -1,0 +1,335 @@
+#include "InitialViewSettings.h"
+#include "editinitialview.h"
+#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
+#include "shared/CErrorHandler.h"
+#include "support/Recorder.h"
+
+#include <QtTest>
+
+using Settings = QMap<QString, QVariant>;
+
+namespace {
+
+QStringList exceptionRecords;
+
+} // namespace
+
+// Takes the place of the library's log entry point.
+void StoreErrorToLog(const char* text)
+{
+    exceptionRecords.append(QString::fromUtf8(text));
+}
+
+namespace {
+
+const char failureMessage[] = "Error occurred while saving initial view data";
+
+Settings everythingOn()
+{
+    return {
+        {"LayoutAndMagnCheckBox", true},
+        {"NavigationTabComboBox", 3},
+        {"PageLayoutComboBox", 5},
+        {"MagnificationComboBox", 6},
+        {"OpenToPageSpinBox", 7},
+        {"ViewerPrefsCheckBox", true},
+        {"HideToobarsCheckBox", true},
+        {"HideMenuBarCheckBox", false},
+        {"HideCtrlWindowsCheckBox", true},
+        {"CenterWinOnScreenCheckBox", 1},
+        {"ResizeWinToInitPageCheckBox", 0},
+        {"OpenInFullScreenCheckBox", true},
+        {"ShowComboBox", 1},
+        {"ActionName", "something else"},
+    };
+}
+
+const QStringList everythingsCalls{
+    "SetPageMode(4)",
+    "SetViewerPreferences(7, 4)",
+    "SetPageLayout(5)",
+    "SelectedPage()",
+    "PageCount()",
+    "SelectPage(7)",
+    "GetPageBox(1, 0)",
+    "GetPageBox(1, 1)",
+    "GetPageBox(1, 4)",
+    "GetPageBox(1, 5)",
+    "SetOpenActionDestinationFull(7, 50, 1, -1.5, 792, 612.25, 3)",
+    "SelectPage(4)",
+    "SetViewerPreferences(1, 1)",
+    "SetViewerPreferences(2, 0)",
+    "SetViewerPreferences(3, 1)",
+    "SetViewerPreferences(4, 0)",
+    "SetViewerPreferences(5, 1)",
+    "SetPageMode(3)",
+    "SetViewerPreferences(6, 1)",
+};
+
+/// A library that records, with a document of ten pages of which the fourth is selected, and the action.
+struct Fixture
+{
+    Fixture()
+    {
+        recorder.returns("PageCount", 10);
+        recorder.returns("SelectedPage", 4);
+        recorder.returns("GetPageBox(1, 0)", -1.5);
+        recorder.returns("GetPageBox(1, 1)", 792);
+        recorder.returns("GetPageBox(1, 4)", 612.25);
+        recorder.returns("GetPageBox(1, 5)", 3);
+        recorder.takeLog();
+        exceptionRecords.clear();
+    }
+
+    int work(Settings settings)
+    {
+        const Settings before = settings;
+        WorkProcInfoStruct info{&library, &errors, {}, &settings};
+        const int result = action.WorkProc(&info);
+        settingsKept = settings == before;
+        return result;
+    }
+
+    Recorder recorder;
+    TelvarPDFLibraryCPDylibCPP1311 library{Recorder::path()};
+    CErrorHandler errors;
+    CEditInitialView action;
+    bool settingsKept = false;
+};
+
+/// The call with the name out of what one work call did.
+QString callNamed(const QStringList& calls, const QString& name)
+{
+    const QStringList named = calls.filter(name + '(');
+    return named.size() == 1 ? named.first() : QString("%1 calls of %2").arg(named.size()).arg(name);
+}
+
+} // namespace
+
+class TestWorkProcedure : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void makesTheCallsInOrder_data()
+    {
+        QTest::addColumn<Settings>("settings");
+        QTest::addColumn<QStringList>("calls");
+
+        Settings settings = everythingOn();
+        QTest::newRow("everything on") << settings << everythingsCalls;
+        settings["OpenInFullScreenCheckBox"] = false;
+        QStringList calls = everythingsCalls;
+        calls.removeAll("SetPageMode(3)");
+        QTest::newRow("no full screen") << settings << calls;
+
+        settings = everythingOn();
+        settings["ViewerPrefsCheckBox"] = false;
+        QTest::newRow("layout only") << settings << QStringList(everythingsCalls.mid(0, 12));
+        settings = everythingOn();
+        settings.remove("LayoutAndMagnCheckBox");
+        QTest::newRow("preferences only") << settings << QStringList(everythingsCalls.mid(12));
+        QTest::newRow("preferences, nothing else stored")
+            << Settings{{"ViewerPrefsCheckBox", true}}
+            << QStringList{"SetViewerPreferences(1, 0)", "SetViewerPreferences(2, 0)",
+                           "SetViewerPreferences(3, 0)", "SetViewerPreferences(4, 0)",
+                           "SetViewerPreferences(5, 0)", "SetViewerPreferences(6, 0)"};
+        QTest::newRow("layout, nothing else stored")
+            << Settings{{"LayoutAndMagnCheckBox", true}}
+            << QStringList{"SetPageMode(0)",
+                           "SetViewerPreferences(7, 0)",
+                           "SetPageLayout(0)",
+                           "SelectedPage()",
+                           "PageCount()",
+                           "SelectPage(0)",
+                           "GetPageBox(1, 0)",
+                           "GetPageBox(1, 1)",
+                           "GetPageBox(1, 4)",
+                           "GetPageBox(1, 5)",
+                           "SetOpenActionDestinationFull(0, 0, 1, -1.5, 792, 612.25, 3)",
+                           "SelectPage(4)"};
+        QTest::newRow("nothing stored") << Settings() << QStringList();
+        settings = everythingOn();
+        settings["LayoutAndMagnCheckBox"] = settings["ViewerPrefsCheckBox"] = false;
+        QTest::newRow("both groups off") << settings << QStringList();
+    }
+
+    void makesTheCallsInOrder()
+    {
+        QFETCH(Settings, settings);
+        Fixture fixture;
+        QCOMPARE(fixture.work(settings), 0);
+        QTEST(fixture.recorder.takeLog(), "calls");
+        QVERIFY(fixture.settingsKept);
+        QCOMPARE(fixture.errors.GetCount(), 0L);
+        QVERIFY(exceptionRecords.isEmpty());
+    }
+
+    void readsEachKeyWithItsOwnConversion_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<QString>("call");
+        QTest::addColumn<bool>("made");
+        // A text "true" is a true flag, but the number 0.
+        for (const char* flag :
+             {"LayoutAndMagnCheckBox", "ViewerPrefsCheckBox", "OpenInFullScreenCheckBox"}) {
+            const QString call = QString(flag).startsWith("Layout")   ? "SetPageLayout(5)"
+                                 : QString(flag).startsWith("Viewer") ? "SetViewerPreferences(6, 1)"
+                                                                      : "SetPageMode(3)";
+            for (const QVariant& yes : {QVariant("true"), QVariant("no matter"), QVariant(-2)})
+                QTest::addRow("%s %s", flag, qPrintable(yes.toString())) << flag << yes << call << true;
+            for (const QVariant& no : {QVariant("false"), QVariant("0"), QVariant(""), QVariant(0.0)})
+                QTest::addRow("%s not %s", flag, qPrintable(no.toString())) << flag << no << call << false;
+        }
+        const QList<QPair<const char*, QString>> numbers{
+            {"HideToobarsCheckBox", "SetViewerPreferences(1, %1)"},
+            {"HideMenuBarCheckBox", "SetViewerPreferences(2, %1)"},
+            {"HideCtrlWindowsCheckBox", "SetViewerPreferences(3, %1)"},
+            {"ResizeWinToInitPageCheckBox", "SetViewerPreferences(4, %1)"},
+            {"CenterWinOnScreenCheckBox", "SetViewerPreferences(5, %1)"},
+            {"ShowComboBox", "SetViewerPreferences(6, %1)"},
+            {"PageLayoutComboBox", "SetPageLayout(%1)"},
+            {"NavigationTabComboBox", "SetViewerPreferences(7, %1)"},
+        };
+        const QList<QPair<QVariant, int>> values{
+            {"true", 0}, {true, 1}, {"2", 2},           {" 2", 2},
+            {1.5, 2},    {-3, -3},  {INT_MAX, INT_MAX}, {INT_MIN, INT_MIN},
+        };
+        for (const auto& [key, call] : numbers) {
+            for (const auto& [stored, number] : values)
+                QTest::addRow("%s as number %s", key, qPrintable(stored.toString()))
+                    << key << stored << call.arg(number) << true;
+        }
+    }
+
+    void readsEachKeyWithItsOwnConversion()
+    {
+        QFETCH(QString, key);
+        QFETCH(QVariant, stored);
+        QFETCH(QString, call);
+        Settings settings = everythingOn();
+        settings[key] = stored;
+        Fixture fixture;
+        QCOMPARE(fixture.work(settings), 0);
+        const QStringList calls = fixture.recorder.takeLog();
+        QFETCH(bool, made);
+        QVERIFY2(calls.contains(call) == made, qPrintable(calls.join('\n')));
+    }
+
+    void turnsNavigationRowsIntoPageModes()
+    {
+        const QList<QPair<int, int>> rows{{-1, -1}, {0, 0}, {1, 1}, {2, 2}, {3, 4}, {4, 5}, {5, 5}, {99, 99}};
+        for (const auto& [row, mode] : rows) {
+            Fixture fixture;
+            fixture.work({{"LayoutAndMagnCheckBox", true}, {"NavigationTabComboBox", row}});
+            const QStringList calls = fixture.recorder.takeLog().mid(0, 2);
+            QCOMPARE(calls, (QStringList{QString("SetPageMode(%1)").arg(mode),
+                                         QString("SetViewerPreferences(7, %1)").arg(mode)}));
+        }
+    }
+
+    void turnsMagnificationIntoZoomAndType_data()
+    {
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<int>("zoom");
+        QTest::addColumn<int>("type");
+        const int zooms[] = {0, 0, 0, 0, 0, 25, 50, 75, 100, 200, 400, 800, 1600};
+        for (int row = 0; row < 13; ++row)
+            QTest::addRow("row %d", row) << QVariant(row) << zooms[row] << (row < 5 ? row + 1 : 1);
+        QTest::newRow("below the table") << QVariant(-1) << 0 << 0;
+        QTest::newRow("lowest") << QVariant(INT_MIN) << 0 << INT_MIN + 1;
+        for (const int row : {13, 14, 31, 32, 40, 1031, 1032, 1033, INT_MAX})
+            QTest::addRow("above the table: %d", row) << QVariant(row) << 100 << 1;
+        QTest::newRow("text") << QVariant("7") << 75 << 1;
+        QTest::newRow("text with a fraction is no row") << QVariant("6.5") << 0 << 1;
+        QTest::newRow("text true is row 0") << QVariant("true") << 0 << 1;
+        QTest::newRow("flag is row 1") << QVariant(true) << 0 << 2;
+        QTest::newRow("rounded up to row 5") << QVariant(4.5) << 12 << 1;
+        QTest::newRow("row 6 and a bit") << QVariant(6.4) << 60 << 1;
+        QTest::newRow("just row 7") << QVariant(7.49) << 87 << 1;
+        QTest::newRow("rounded up to row 8") << QVariant(7.5) << 100 << 1;
+        // Its low 32 bits are row 5; the number itself is far above.
+        QTest::newRow("row 5 modulo 2^32") << QVariant(4294967301.0) << 100 << 1;
+        QTest::newRow("row 5 modulo 2^32, negative") << QVariant(-4294967291.0) << 100 << 1;
+    }
+
+    void turnsMagnificationIntoZoomAndType()
+    {
+        QFETCH(QVariant, stored);
+        QFETCH(int, zoom);
+        QFETCH(int, type);
+        Fixture fixture;
+        fixture.work(
+            {{"LayoutAndMagnCheckBox", true}, {"MagnificationComboBox", stored}, {"OpenToPageSpinBox", 2}});
+        QCOMPARE(
+            callNamed(fixture.recorder.takeLog(), "SetOpenActionDestinationFull"),
+            QString("SetOpenActionDestinationFull(2, %1, %2, -1.5, 792, 612.25, 3)").arg(zoom).arg(type));
+    }
+
+    void opensAtTheFirstPageWhereTheWantedOneIsMissing()
+    {
+        const QList<QPair<int, int>> pages{{10, 10}, {11, 1}, {INT_MAX, 1}, {1, 1}, {0, 0}, {-5, -5}};
+        for (const auto& [wanted, target] : pages) {
+            Fixture fixture;
+            fixture.work({{"LayoutAndMagnCheckBox", true}, {"OpenToPageSpinBox", wanted}});
+            const QStringList calls = fixture.recorder.takeLog();
+            QCOMPARE(calls.filter("SelectPage("),
+                     (QStringList{QString("SelectPage(%1)").arg(target), "SelectPage(4)"}));
+            QVERIFY(calls.contains(
+                QString("SetOpenActionDestinationFull(%1, 0, 1, -1.5, 792, 612.25, 3)").arg(target)));
+        }
+    }
+
+    void failsWhereACallThrows_data()
+    {
+        QTest::addColumn<int>("step");
+        for (int step = 0; step < everythingsCalls.size(); ++step)
+            QTest::addRow("step %d, %s", step + 1, qPrintable(everythingsCalls[step])) << step;
+    }
+
+    void failsWhereACallThrows()
+    {
+        QFETCH(int, step);
+        Fixture fixture;
+        fixture.errors.StoreError("earlier");
+        fixture.recorder.throws(qPrintable(everythingsCalls[step]));
+        QCOMPARE(fixture.work(everythingOn()), 1);
+        QCOMPARE(fixture.recorder.takeLog(), QStringList(everythingsCalls.mid(0, step + 1)));
+        QCOMPARE(fixture.errors.GetCount(), 2L);
+        QCOMPARE(fixture.errors.GetLast(), QString(failureMessage));
+
+        QCOMPARE(exceptionRecords.size(), 1);
+        const QStringList lines = exceptionRecords.first().split('\n');
+        QCOMPARE(lines.size(), 6);
+        QCOMPARE(lines[0], QString(30, '='));
+        QCOMPARE(lines[1], QString("Exception handled: system"));
+        QVERIFY(lines[2].startsWith("File: ") && lines[2].endsWith("editinitialview.cpp"));
+        QCOMPARE(lines[3], QString("Function: WorkProc"));
+        QVERIFY(QRegularExpression("^Line: [1-9][0-9]*$").match(lines[4]).hasMatch());
+        QVERIFY(lines[5].isEmpty());
+    }
+
+    void doesNotNoticeWhatTheLibraryReports()
+    {
+        Fixture fixture;
+        for (const char* call : {"SetPageMode", "SetViewerPreferences", "SetPageLayout", "SelectPage",
+                                 "SetOpenActionDestinationFull"})
+            fixture.recorder.returns(call, -1);
+        QCOMPARE(fixture.work(everythingOn()), 0);
+        QCOMPARE(fixture.recorder.takeLog(), everythingsCalls);
+        QCOMPARE(fixture.errors.GetCount(), 0L);
+    }
+
+    void endsWellWithoutALibrary()
+    {
+        TelvarPDFLibraryCPDylibCPP1311 library(L"/nowhere");
+        Settings settings = everythingOn();
+        CErrorHandler errors;
+        WorkProcInfoStruct info{&library, &errors, {}, &settings};
+        QCOMPARE(CEditInitialView().WorkProc(&info), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestWorkProcedure)
+#include "TestWorkProcedure.moc"
