@@ -21,7 +21,7 @@ namespace {
 
 // Long enough for the X server and the compositor to show a new window, even in software.
 const int settleMilliseconds = 800;
-const int margin = 24;
+const int margin = 40;
 
 QString folder;
 QString suffix;
@@ -29,7 +29,7 @@ QString suffix;
 [[noreturn]] void fail(const QString& reason)
 {
     std::fprintf(stderr, "%s\n", qPrintable(reason));
-    std::exit(1);
+    std::_Exit(1);
 }
 
 /// A host's window with a page in it, or the bare desk.
@@ -51,7 +51,7 @@ protected:
         light.setColorAt(1, QColor(58, 78, 104));
         painter.fillRect(rect(), light);
         if (!objectName().isEmpty())
-            paintPage(painter, QRect(rect().center().x() - 210, 30, 420, 594));
+            paintPage(painter, QRect(rect().center() - QPoint(280, 400), QSize(560, 800)));
     }
 
 private:
@@ -59,8 +59,7 @@ private:
     {
         painter.fillRect(page, Qt::white);
         for (int y = page.top() + 50; y < page.bottom() - 50; y += 18)
-            painter.fillRect(page.left() + 50, y, page.width() - 100 - (y * 7) % 60, 6,
-                             QColor(200, 204, 212));
+            painter.fillRect(page.left() + 30, y, page.width() - 60, 6, QColor(200, 204, 212));
     }
 };
 
@@ -128,8 +127,11 @@ void keepSettings(const QString& hostName, const QString& picture)
 void keepFurtherDialog(const QString& button, const QString& nameField, const QString& picture)
 {
     showSettings("QuintarClass", [&](QDialog& settings) {
-        withNextDialog([&](QDialog& dialog) {
-            dialog.findChild<QLineEdit*>(nameField)->setText("Open like a book");
+        withNextDialog([=](QDialog& dialog) {
+            auto* name = dialog.findChild<QLineEdit*>(nameField);
+            if (name == nullptr)
+                fail("No dialog with " + nameField + " appeared");
+            name->setText("Open like a book");
             keepPictureOf(dialog, picture);
         });
         settings.findChild<QToolButton*>(button)->click();
