@@ -1,0 +1,148 @@
+#include "CActionUtils.h"
+
+#include <QSet>
+#include <QVector>
+
+#include <algorithm>
+#include <climits>
+#include <new>
+
+namespace {
+
+/// Qt's lists address at most 2 GB, with a pointer's size for each entry.
+const qint64 longestPageList = (INT_MAX - 64) / static_cast<int>(sizeof(void*));
+
+struct PageRun
+{
+    int first;
+    int last;
+};
+
+bool startsNumber(QChar character)
+{
+    return character.isNumber() && character != '0';
+}
+
+bool ascends(const QString& text, int itemStart, int dash)
+{
+    const int comma = text.indexOf(',', dash);
+    const int itemEnd = comma < 0 ? text.size() : comma;
+    const int first = text.midRef(itemStart, dash - itemStart).toInt();
+    return first < text.midRef(dash + 1, itemEnd - dash - 1).toInt();
+}
+
+QVector<PageRun> runsOf(const QString& text, int pageCount)
+{
+    QVector<PageRun> runs;
+    for (const QStringRef& item : text.splitRef(',')) {
+        const int dash = item.indexOf('-');
+        const int first = item.left(dash).toInt();
+        const int last = dash < 0 ? first : item.mid(dash + 1).toInt();
+        if (first <= pageCount && first <= last)
+            runs.append({first, last});
+    }
+    return runs;
+}
+
+/// Ascending and without overlaps, so that a page named a thousand times costs no more than once.
+QVector<PageRun> united(QVector<PageRun> runs)
+{
+    std::sort(runs.begin(), runs.end(), [](PageRun a, PageRun b) { return a.first < b.first; });
+    QVector<PageRun> result;
+    for (const PageRun& run : qAsConst(runs)) {
+        if (!result.isEmpty() && run.first <= result.last().last)
+            result.last().last = std::max(result.last().last, run.last);
+        else
+            result.append(run);
+    }
+    return result;
+}
+
+/// What is left of the runs when neither odd nor even pages are wanted. A negative odd number leaves the
+/// remainder -1, so it does not count as an odd page.
+void dropCountedPages(QVector<PageRun>& runs)
+{
+    for (PageRun& run : runs)
+        run.last = std::min(run.last, -1);
+}
+
+void reserveFor(const QVector<PageRun>& runs, bool half, QList<int>* pages)
+{
+    qint64 size = pages->size();
+    for (const PageRun& run : runs)
+        size += std::max<qint64>(0, (qint64(run.last) - run.first) / (half ? 2 : 1) + 1);
+    if (size > longestPageList)
+        throw std::bad_alloc();
+    pages->reserve(static_cast<int>(size));
+}
+
+} // namespace
+
+bool CActionUtils::ValidatePageRange(QString pageRange, bool allowReverse)
+{
+    pageRange.remove(' ');
+    if (pageRange.isEmpty() || !startsNumber(pageRange.at(0)))
+        return false;
+    const int last = pageRange.size() - 1;
+    int itemStart = 0;
+    bool isRange = false;
+    for (int i = 0; i < last; ++i) {
+        const QChar next = pageRange.at(i + 1);
+        if (pageRange.at(i).isNumber()) {
+            if (next == '-' ? isRange || i + 1 == last : next != ',' && !next.isNumber())
+                return false;
+        } else if (!startsNumber(next)) {
+            return false;
+        } else if (pageRange.at(i) == ',') {
+            itemStart = i + 1;
+            isRange = false;
+        } else {
+            isRange = true;
+            if (!allowReverse && !ascends(pageRange, itemStart, i))
+                return false;
+        }
+    }
+    return true;
+}
+
+bool CActionUtils::ValidateSplitPageRange(QString splitRange)
+{
+    const QStringList parts = splitRange.split(';');
+    return std::all_of(parts.begin(), parts.end(),
+                       [](const QString& part) { return ValidatePageRange(part, true); });
+}
+
+bool CActionUtils::GetPageList(const QString& pageRange, int pageCount, bool skipOdd, bool skipEven,
+                               QList<int>* pages)
+{
+    if (pageRange.isEmpty())
+        return false;
+    QVector<PageRun> runs = united(runsOf(pageRange, pageCount));
+    if (skipOdd && skipEven)
+        dropCountedPages(runs);
+    reserveFor(runs, skipOdd || skipEven, pages);
+
+    const QSet<int> present(pages->cbegin(), pages->cend());
+    for (const PageRun& run : qAsConst(runs)) {
+        for (qint64 wide = run.first; wide <= run.last; ++wide) {
+            const int page = static_cast<int>(wide);
+            const bool skipped = (skipOdd && page % 2 == 1) || (skipEven && page % 2 == 0);
+            if (!skipped && !present.contains(page))
+                pages->append(page);
+        }
+    }
+    std::sort(pages->begin(), pages->end());
+    return true;
+}
+
+void CActionUtils::CollectPageList(QList<int>* pages, QList<int>* runs)
+{
+    for (int end = pages->size(); end > 0;) {
+        int first = end - 1;
+        while (first > 0 && qint64(pages->at(first - 1)) + 1 == pages->at(first))
+            --first;
+        runs->append(pages->at(first));
+        runs->append(end - first);
+        end = first;
+    }
+}
