@@ -1,0 +1,234 @@
+#include "shared/CUtils.h"
+#include "shared/actionutils/CActionUtils.h"
+
+#include <QDirIterator>
+#include <QtTest>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <optional>
+
+/// Folders and temporary names, in a home and a temporary folder of the test's own.
+class TestFolders : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_home.emplace();
+        QVERIFY(m_home->isValid());
+        for (const char* folder : {"data", "Documents", "temp"})
+            QVERIFY(QDir(m_home->path()).mkdir(folder));
+        qputenv("HOME", m_home->path().toUtf8());
+        qputenv("XDG_CONFIG_HOME", m_home->filePath("config").toUtf8());
+        qputenv("XDG_DATA_HOME", m_home->filePath("data").toUtf8());
+        qputenv("TMPDIR", m_home->filePath("temp").toUtf8());
+        QCoreApplication::setApplicationName("The Host");
+    }
+
+    void cleanup() { m_home.reset(); }
+
+    void composesPathsExactly()
+    {
+        const QString tools = m_home->filePath("data") + "/kelvane software/Plexor/";
+        CUtils::SetAppName("another name");
+        QCOMPARE(CUtils::GetAppDataFolder(), m_home->filePath("data"));
+        QCOMPARE(CUtils::GetAppDataToolsFolder(), tools);
+        QCOMPARE(CUtils::GetSequenceFolder(), tools + "Actions");
+        QCOMPARE(CUtils::GetWFFolder(), tools + "WF");
+        QCOMPARE(CUtils::GetReportsFolder(), tools + "/Reports/Action Reports");
+        QCOMPARE(CUtils::GetAppLogFolder(), tools + "/Reports/App Log");
+        QCOMPARE(CUtils::GetSettingsFolder(), tools + "/Settings");
+        QCOMPARE(CUtils::GetCollectionsFolder(), tools + "/Settings/Favorites");
+        QCOMPARE(CUtils::GetAdvSplitTemplatesFolder(), tools + "/Settings/AdvSplitTemplates");
+        QCOMPARE(CUtils::GetActionFolder(), QString("./Tools"));
+        QCOMPARE(CActionUtils::GetSettingsFolder(), CUtils::GetSettingsFolder());
+        QCOMPARE(CActionUtils::GetCollectionsFolder(), CUtils::GetCollectionsFolder());
+        QCOMPARE(CActionUtils::GetSequenceFolder(), CUtils::GetSequenceFolder());
+        QCOMPARE(CActionUtils::GetQuintarAppDataFolder(), CUtils::GetAppDataToolsFolder());
+        QVERIFY(foldersBelowHome().isEmpty());
+    }
+
+    void namesTheApplication()
+    {
+        CUtils::SetAppName(QString());
+        QCOMPARE(CUtils::GetAppName(), QString("Plexor"));
+        CUtils::SetAppName("Other");
+        QCOMPARE(CUtils::GetAppName(), QString("Other"));
+        CUtils::SetAppName("");
+        QCOMPARE(CUtils::GetAppName(), QString("Plexor"));
+    }
+
+    void setsTheFoldersUp_data()
+    {
+        QTest::addColumn<QStringList>("removed");
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QStringList>("missing");
+        QTest::newRow("all") << QStringList() << QStringList() << QStringList();
+        QTest::newRow("no data root") << QStringList{"data"} << QStringList() << QStringList{"data/"};
+        QTest::newRow("no documents root")
+            << QStringList{"Documents"} << QStringList() << QStringList{"Documents/"};
+        QTest::newRow("a file in the way of a parent")
+            << QStringList() << QStringList{"data/kelvane software/Plexor/Reports"}
+            << QStringList{"data/kelvane software/Plexor/Reports"};
+        QTest::newRow("a file in the way of Input")
+            << QStringList() << QStringList{"Documents/The Host/Input"}
+            << QStringList{"Documents/The Host/Input"};
+    }
+
+    void setsTheFoldersUp()
+    {
+        QFETCH(QStringList, removed);
+        QFETCH(QStringList, files);
+        QFETCH(QStringList, missing);
+        const QDir home(m_home->path());
+        for (const QString& folder : removed)
+            QVERIFY(home.rmdir(folder));
+        for (const QString& file : files) {
+            QVERIFY(home.mkpath(QFileInfo(file).path()));
+            QVERIFY(QFile(home.filePath(file)).open(QIODevice::WriteOnly));
+        }
+        QStringList expected = m_tree;
+        for (const QString& part : missing) {
+            const auto lacks = [&](const QString& folder) { return folder.startsWith(part); };
+            expected.erase(std::remove_if(expected.begin(), expected.end(), lacks), expected.end());
+        }
+        CUtils::SetupFolders();
+        QCOMPARE(foldersBelowHome(), expected);
+        CUtils::SetupFolders();
+        QCOMPARE(foldersBelowHome(), expected);
+    }
+
+    void makesTemporaryFolders_data()
+    {
+        QTest::addColumn<QStringList>("taken");
+        QTest::addColumn<QString>("made");
+        QTest::newRow("name is free") << QStringList{"job_0"} << "job";
+        QTest::newRow("name is taken") << QStringList{"job"} << "job_0";
+        QTest::newRow("first number too") << QStringList{"job", "job_0"} << "job_1";
+        QTest::newRow("gap") << QStringList{"job", "job_0", "job_2"} << "job_1";
+    }
+
+    void makesTemporaryFolders()
+    {
+        QFETCH(QStringList, taken);
+        QFETCH(QString, made);
+        for (const QString& name : taken)
+            QVERIFY(QDir::temp().mkdir(name));
+        QString name = "job";
+        const QDir folder = CUtils::GetNewTempFolder(&name);
+        QCOMPARE(name, QDir::tempPath() + '/' + made);
+        QCOMPARE(folder, QDir(name));
+        QVERIFY(folder.exists());
+    }
+
+    void countsAPlainFileAsATakenFolderName()
+    {
+        QVERIFY(QFile(QDir::tempPath() + "/job").open(QIODevice::WriteOnly));
+        QString name = "job";
+        CUtils::GetNewTempFolder(&name);
+        QCOMPARE(name, QDir::tempPath() + "/job_0");
+    }
+
+    void answersTheTemporaryFolderWhereNoneCanBeMade()
+    {
+        const QString file = m_home->filePath("file");
+        QVERIFY(QFile(file).open(QIODevice::WriteOnly));
+        qputenv("TMPDIR", file.toUtf8());
+        QString name = "job";
+        QCOMPARE(CUtils::GetNewTempFolder(&name), QDir::temp());
+        QCOMPARE(name, file + '/');
+    }
+
+    void answersTheLastFolderWhenAllNumbersAreTaken()
+    {
+        QDir temp = QDir::temp();
+        QVERIFY(temp.mkdir("job"));
+        const QByteArray target = temp.filePath("job").toUtf8();
+        for (int number = 0; number < 100000; ++number) {
+            const QByteArray link = target + '_' + QByteArray::number(number);
+            QCOMPARE(::symlink(target.constData(), link.constData()), 0);
+        }
+        QString name = "job";
+        CUtils::GetNewTempFolder(&name);
+        QCOMPARE(name, temp.filePath("job_99999"));
+
+        QVERIFY(QFile::remove(name));
+        name = "job";
+        CUtils::GetNewTempFolder(&name);
+        QCOMPARE(name, temp.filePath("job_99999"));
+        QVERIFY(!QFileInfo(name).isSymLink());
+    }
+
+    void findsTemporaryFileNames()
+    {
+        char prefix[] = "scan";
+        QCOMPARE(CUtils::GetNewTempFile(prefix), QDir::tempPath() + "/scan_1.pdf");
+        const auto take = [](int number) {
+            return QFile(QDir::tempPath() + QString("/scan_%1.pdf").arg(number)).open(QIODevice::WriteOnly);
+        };
+        QVERIFY(take(1));
+        QCOMPARE(CUtils::GetNewTempFile(prefix), QDir::tempPath() + "/scan_2.pdf");
+        for (int number = 3; number <= 9999; ++number)
+            QVERIFY(take(number));
+        QCOMPARE(CUtils::GetNewTempFile(prefix), QDir::tempPath() + "/scan_2.pdf");
+        QVERIFY(take(2));
+        QCOMPARE(CUtils::GetNewTempFile(prefix), QString());
+    }
+
+    void usesThePrefixAsItIs_data()
+    {
+        QTest::addColumn<QByteArray>("prefix");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("UTF-8") << QByteArray("\xc3\xa9t\xc3\xa9")
+                               << QString::fromUtf8("\xc3\xa9t\xc3\xa9_1.pdf");
+        QTest::newRow("placeholders") << QByteArray("%1%2%s%d") << "%1%2%s%d_1.pdf";
+        QTest::newRow("backslashes") << QByteArray("a\\b\\") << "a/b/_1.pdf";
+        QTest::newRow("empty") << QByteArray() << "_1.pdf";
+    }
+
+    void usesThePrefixAsItIs()
+    {
+        QFETCH(QByteArray, prefix);
+        QFETCH(QString, name);
+        QCOMPARE(CUtils::GetNewTempFile(prefix.data()), QDir::tempPath() + '/' + name);
+    }
+
+private:
+    /// The folders below the home, but for those that init makes.
+    QStringList foldersBelowHome() const
+    {
+        QStringList folders;
+        QDirIterator all(m_home->path(), QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+        while (all.hasNext()) {
+            const QString folder = QDir(m_home->path()).relativeFilePath(all.next());
+            if (folder.contains('/'))
+                folders.append(folder);
+        }
+        folders.sort();
+        return folders;
+    }
+
+    const QStringList m_tree{
+        "Documents/The Host",
+        "Documents/The Host/Input",
+        "Documents/The Host/Output",
+        "data/kelvane software",
+        "data/kelvane software/Plexor",
+        "data/kelvane software/Plexor/Actions",
+        "data/kelvane software/Plexor/Reports",
+        "data/kelvane software/Plexor/Reports/Action Reports",
+        "data/kelvane software/Plexor/Reports/App Log",
+        "data/kelvane software/Plexor/Scripts",
+        "data/kelvane software/Plexor/Settings",
+        "data/kelvane software/Plexor/Settings/AdvSplitTemplates",
+        "data/kelvane software/Plexor/Settings/Favorites",
+        "data/kelvane software/Plexor/WF",
+    };
+    std::optional<QTemporaryDir> m_home;
+};
+
+QTEST_GUILESS_MAIN(TestFolders)
+#include "TestFolders.moc"
