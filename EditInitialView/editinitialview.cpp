@@ -1,5 +1,6 @@
 #include "editinitialview.h"
 
+#include "CPrefsDialog.h"
 #include "InitialViewSettings.h"
 
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
@@ -19,6 +20,10 @@ using Settings = QMap<QString, QVariant>;
 
 const int actionFlags = 0x10F;
 const int largestZoom = 1600;
+
+/// In the order of the library's options, from 1.
+constexpr std::array viewerPreferenceKeys{key::HideToolBars, key::HideMenuBar, key::HideCtrlWindows,
+                                          key::ResizeWinToInitPage, key::CenterWinOnScreen};
 
 template <std::size_t rows>
 std::array<QString, rows> tableOf(const std::array<const char*, rows>& labels)
@@ -81,14 +86,58 @@ void applyLayoutAndMagnification(TelvarPDFLibraryCPDylibCPP1311& library, const 
 
 void applyViewerPreferences(TelvarPDFLibraryCPDylibCPP1311& library, const Settings& settings)
 {
-    // The order of the keys is the order of the library's options, from 1.
     int option = pdflibrary::HideToolBars;
-    for (const char* flag : {key::HideToolBars, key::HideMenuBar, key::HideCtrlWindows,
-                             key::ResizeWinToInitPage, key::CenterWinOnScreen})
+    for (const char* flag : viewerPreferenceKeys)
         library.SetViewerPreferences(option++, settings.value(flag).toInt());
     if (settings.value(key::OpenInFullScreen).toBool())
         library.SetPageMode(pdflibrary::FullScreen);
     library.SetViewerPreferences(pdflibrary::TitleBar, settings.value(key::Show).toInt());
+}
+
+/// Puts the document's present view into the settings. The document stays selected.
+void readDocument(TelvarPDFLibraryCPDylibCPP1311& library, int document, Settings& settings)
+{
+    library.SelectDocument(document);
+    settings.insert(key::NavigationTab, rowOfPageMode(library.GetPageMode()));
+    settings.insert(key::PageLayout, library.GetPageLayout());
+    const int destination = library.GetOpenActionDestination();
+    settings.insert(key::Magnification, destination != 0 ? library.GetDestType(destination) - 1 : 0);
+    settings.insert(key::OpenToPage, destination != 0 ? library.GetDestPage(destination) : firstPage);
+    int option = pdflibrary::HideToolBars;
+    for (const char* flag : viewerPreferenceKeys)
+        settings.insert(flag, library.GetViewerPreferences(option++) == 1);
+    settings.insert(key::OpenInFullScreen, library.GetPageMode() == pdflibrary::FullScreen);
+    settings.insert(key::LayoutAndMagn, true);
+    settings.insert(key::ViewerPrefs, true);
+}
+
+/// \param specification as CActionInterface::GetDefaultIcon gives it.
+QIcon iconOf(const QString& specification)
+{
+    const auto image = [&specification](int section) {
+        return QPixmap(":/Quintar/Resources/Tools/" + specification.section('#', section, section));
+    };
+    QIcon icon;
+    icon.addPixmap(image(1), QIcon::Selected, QIcon::Off);
+    icon.addPixmap(image(1), QIcon::Active, QIcon::Off);
+    icon.addPixmap(image(2), QIcon::Disabled, QIcon::Off);
+    icon.addPixmap(image(0), QIcon::Normal, QIcon::Off);
+    return icon;
+}
+
+template <class Table>
+void append(QComboBox* list, const Table& table)
+{
+    for (const QString& label : table)
+        list->addItem(label);
+}
+
+void fillLists(const Ui_EditInitialViewPrefsDialog& form)
+{
+    append(form.NavigationTabComboBox, gPageNavigationArr);
+    append(form.PageLayoutComboBox, gPageLayoutArr);
+    append(form.MagnificationComboBox, gMagnificationArr);
+    append(form.ShowComboBox, gTitleArr);
 }
 
 } // namespace
@@ -108,9 +157,23 @@ int CEditInitialView::WorkProc(WorkProcInfoStruct* info)
     return 1;
 }
 
-int CEditInitialView::ShowDialogProc(QWidget*, DialogLoadStruct*)
+int CEditInitialView::ShowDialogProc(QWidget* parent, DialogLoadStruct* load)
 {
-    return 0;
+    if (!load->bSkipDocumentRead && load->pPDFLibrary != nullptr && load->nDocumentID != 0)
+        readDocument(*load->pPDFLibrary, load->nDocumentID, *load->pSettings);
+
+    CPrefsDialog dialog(parent);
+    dialog.setWindowFlags(dialog.windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    dialog.setWindowIcon(iconOf(GetDefaultIcon()));
+    if (load->bHideAddToActionButton)
+        dialog.QDhideAddToActionListButton();
+    fillLists(dialog.ui);
+    if (!load->pSettings->isEmpty())
+        dialog.SetPrefs(load->pSettings);
+    if (dialog.exec() != QDialog::Accepted)
+        return 0;
+    dialog.GetPrefs(load->pSettings);
+    return 1;
 }
 
 int CEditInitialView::PreSequenceProc(WorkProcInfoStruct*)

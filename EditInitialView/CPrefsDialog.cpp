@@ -1,0 +1,93 @@
+#include "CPrefsDialog.h"
+
+#include "InitialViewSettings.h"
+
+#include "shared/CUtils.h"
+
+#include <QSettings>
+
+using namespace initialview;
+
+namespace {
+
+QString geometryFile()
+{
+    return CUtils::GetSettingsFolder() + "/QuintarViewerSettings.qsf";
+}
+
+QString geometryKey(const CPrefsDialog& dialog)
+{
+    return dialog.objectName() + "geometry";
+}
+
+} // namespace
+
+CPrefsDialog::CPrefsDialog(QWidget* parent) : CQuintarDialog(parent, true)
+{
+    ui.setupUi(this);
+    titleLabel->setText(windowTitle());
+    QDaddMainWidget(ui.main_widget, true);
+    QDaddTopButtons();
+    QDaddCloseButton();
+    if (underPreview())
+        restoreGeometry(
+            QSettings(geometryFile(), QSettings::IniFormat).value(geometryKey(*this)).toByteArray());
+}
+
+CPrefsDialog::~CPrefsDialog()
+{
+    if (underPreview())
+        QSettings(geometryFile(), QSettings::IniFormat).setValue(geometryKey(*this), saveGeometry());
+}
+
+void CPrefsDialog::SetPrefs(QMap<QString, QVariant>* prefs)
+{
+    const auto flag = [prefs](const char* name) { return prefs->value(name).toBool(); };
+    const auto number = [prefs](const char* name) { return prefs->value(name).toInt(); };
+
+    ui.LayoutAndMagnGrp->setChecked(flag(key::LayoutAndMagn));
+    ui.NavigationTabComboBox->setCurrentIndex(number(key::NavigationTab));
+    ui.PageLayoutComboBox->setCurrentIndex(number(key::PageLayout));
+    ui.MagnificationComboBox->setCurrentIndex(number(key::Magnification));
+    ui.OpenToPageSpinBox->setValue(number(key::OpenToPage));
+    ui.ViewerPrefsGrp->setChecked(flag(key::ViewerPrefs));
+    ui.HideToobarsCheckBox->setChecked(flag(key::HideToolBars));
+    ui.HideMenuBarCheckBox->setChecked(flag(key::HideMenuBar));
+    ui.HideCtrlWindowsCheckBox->setChecked(flag(key::HideCtrlWindows));
+    ui.ResizeWinToInitPageCheckBox->setChecked(flag(key::ResizeWinToInitPage));
+    ui.CenterWinOnScreenCheckBox->setChecked(flag(key::CenterWinOnScreen));
+    ui.OpenInFullScreenCheckBox->setChecked(flag(key::OpenInFullScreen));
+    ui.ShowComboBox->setCurrentIndex(number(key::Show));
+}
+
+void CPrefsDialog::GetPrefs(QMap<QString, QVariant>* prefs)
+{
+    prefs->insert(key::LayoutAndMagn, ui.LayoutAndMagnGrp->isChecked());
+    prefs->insert(key::NavigationTab, ui.NavigationTabComboBox->currentIndex());
+    prefs->insert(key::PageLayout, ui.PageLayoutComboBox->currentIndex());
+    prefs->insert(key::Magnification, ui.MagnificationComboBox->currentIndex());
+    prefs->insert(key::OpenToPage, ui.OpenToPageSpinBox->value());
+    prefs->insert(key::ViewerPrefs, ui.ViewerPrefsGrp->isChecked());
+    prefs->insert(key::HideToolBars, ui.HideToobarsCheckBox->isChecked());
+    prefs->insert(key::HideMenuBar, ui.HideMenuBarCheckBox->isChecked());
+    prefs->insert(key::HideCtrlWindows, ui.HideCtrlWindowsCheckBox->isChecked());
+    prefs->insert(key::ResizeWinToInitPage, ui.ResizeWinToInitPageCheckBox->isChecked());
+    prefs->insert(key::CenterWinOnScreen, ui.CenterWinOnScreenCheckBox->isChecked());
+    prefs->insert(key::OpenInFullScreen, ui.OpenInFullScreenCheckBox->isChecked());
+    prefs->insert(key::Show, ui.ShowComboBox->currentIndex());
+    prefs->insert(key::ActionName, QString(actionName));
+}
+
+void CPrefsDialog::on_QDShowSaveDialog() {}
+
+void CPrefsDialog::on_QDShowSaveCollectionDialog() {}
+
+void CPrefsDialog::accept()
+{
+    QDialog::accept();
+}
+
+void CPrefsDialog::reject()
+{
+    QDialog::reject();
+}
