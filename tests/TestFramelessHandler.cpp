@@ -1,0 +1,355 @@
+#include "shared/frame/CFramelessHandler.h"
+
+#include "support/Hand.h"
+
+#include <QtTest>
+
+namespace {
+
+/// The flags that are set, bands left out.
+QString shown(const CCursorPosCalculator& hit)
+{
+    const QList<QPair<bool, QString>> flags{
+        {hit.onLeftEdge, "left"},
+        {hit.onRightEdge, "right"},
+        {hit.onTopEdge, "top"},
+        {hit.onBottomEdge, "bottom"},
+        {hit.onTopLeftEdge, "top-left"},
+        {hit.onBottomLeftEdge, "bottom-left"},
+        {hit.onTopRightEdge, "top-right"},
+        {hit.onBottomRightEdge, "bottom-right"},
+        {hit.onMoveBar, "bar"},
+    };
+    QStringList set;
+    for (const auto& [flag, name] : flags)
+        if (flag)
+            set << name;
+    return set.join(' ');
+}
+
+/// A window with a handler, as the dialogs have it.
+class Window : public QWidget
+{
+    Q_OBJECT
+
+public:
+    Window() : QWidget(nullptr, Qt::FramelessWindowHint)
+    {
+        handler.activateOn(this);
+        handler.setBorderWidth(9);
+        handler.setMoveBarHeight(30);
+        setMinimumSize(120, 80);
+        setGeometry(100, 100, 400, 300);
+        show();
+    }
+
+    CFramelessHandler handler{nullptr};
+    int toggles = 0;
+    int updateRequests = 0;
+
+public slots:
+    void on_MaxRestore() { ++toggles; }
+    void on_MoveMaximized() {}
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::UpdateRequest)
+            ++updateRequests;
+        return QWidget::event(event);
+    }
+};
+
+const QPoint corner(100, 100);
+
+} // namespace
+
+class TestFramelessHandler : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void hitTest_data()
+    {
+        QTest::addColumn<QPoint>("position");
+        QTest::addColumn<QString>("hit");
+        const auto row = [](int x, int y, const char* hit) {
+            QTest::addRow("%d, %d", x, y) << QPoint(x, y) << QString(hit);
+        };
+        row(0, 0, "left top top-left bar");
+        row(15, 15, "top-left bar");
+        row(18, 18, "top-left bar");
+        row(19, 18, "bar");
+        row(18, 19, "bar");
+        // The top-right corner is half as wide and high as the others.
+        row(385, 15, "bar");
+        row(392, 8, "right top top-right bar");
+        row(391, 9, "right top top-right bar");
+        row(390, 9, "top bar");
+        row(391, 10, "right bar");
+        row(385, 285, "bottom-right");
+        row(382, 282, "bottom-right");
+        row(381, 282, "");
+        row(18, 282, "bottom-left");
+        row(19, 282, "");
+        row(5, 295, "left bottom bottom-left");
+        row(9, 150, "left");
+        row(10, 150, "");
+        row(-1, 150, "");
+        row(391, 150, "right");
+        row(390, 150, "");
+        // One past the last pixel belongs to the edge.
+        row(400, 150, "right");
+        row(401, 150, "");
+        row(200, 300, "bottom");
+        row(200, 301, "");
+        row(400, 300, "right bottom bottom-right");
+        row(200, 9, "top bar");
+        row(200, 30, "bar");
+        row(200, 31, "");
+        // The bar has neither sides nor an upper end.
+        row(-5000, -5000, "bar");
+    }
+
+    void hitTest()
+    {
+        QFETCH(QPoint, position);
+        QFETCH(QString, hit);
+        CCursorPosCalculator calculator;
+        calculator.borderWidth = 9;
+        calculator.moveBarHeight = 30;
+        for (const QPoint& place : {QPoint(0, 0), QPoint(-1900, -20), QPoint(700, 33)}) {
+            calculator.recalculate(position + place, QRect(place, QSize(400, 300)));
+            QCOMPARE(shown(calculator), hit);
+            QCOMPARE(calculator.onEdges, !hit.isEmpty() && hit != "bar");
+        }
+    }
+
+    void hitTestFillsTheBandsAndForgetsThem()
+    {
+        CCursorPosCalculator hit;
+        QCOMPARE(hit.borderWidth, 5);
+        QCOMPARE(hit.moveBarHeight, 0);
+        QCOMPARE(shown(hit), QString());
+        hit.recalculate(QPoint(10, 300), QRect(0, 0, 400, 300));
+        QVERIFY(hit.inLeftCornerBand && hit.inBottomCornerBand);
+        QVERIFY(!hit.inRightCornerBand && !hit.inTopCornerBand);
+        hit.recalculate(QPoint(390, 0), QRect(0, 0, 400, 300));
+        QVERIFY(hit.inRightCornerBand && hit.inTopCornerBand);
+        QVERIFY(!hit.inLeftCornerBand && !hit.inBottomCornerBand);
+        hit.borderWidth = INT_MAX;
+        hit.recalculate(QPoint(INT_MAX, INT_MIN), QRect(-7, -7, 400, 300));
+        hit.reset();
+        QVERIFY(!hit.onEdges && !hit.inRightCornerBand && !hit.inTopCornerBand);
+        QCOMPARE(shown(hit), QString());
+        QCOMPARE(hit.borderWidth, INT_MAX);
+    }
+
+    void keepsItsSettings()
+    {
+        CFramelessHandler handler(nullptr);
+        QVERIFY(handler.isWidgetMovable());
+        QVERIFY(handler.isWidgetResizable());
+        QCOMPARE(handler.borderWidth(), 5);
+        QCOMPARE(handler.moveBarHeight(), 0);
+        handler.setBorderWidth(0);
+        handler.setBorderWidth(-1);
+        handler.setMoveBarHeight(-3);
+        handler.activateOn(nullptr);
+        QCOMPARE(handler.borderWidth(), 0);
+        QCOMPARE(handler.moveBarHeight(), -3);
+    }
+
+    void warnsWhereTheWindowHasNoSlots()
+    {
+        QWidget window;
+        CFramelessHandler handler(nullptr);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("No such slot QWidget::on_MaxRestore\\(\\)"));
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression("No such slot QWidget::on_MoveMaximized\\(\\)"));
+        handler.activateOn(&window);
+        QVERIFY(window.testAttribute(Qt::WA_Hover));
+    }
+
+    void drags_data()
+    {
+        QTest::addColumn<QPoint>("from");
+        QTest::addColumn<QPoint>("by");
+        QTest::addColumn<QRect>("after");
+        const auto row = [](const char* name, QPoint from, QPoint by, int left, int top, int right,
+                            int bottom) {
+            QTest::newRow(name) << from << by << QRect(QPoint(left, top), QPoint(right, bottom));
+        };
+        row("bar", {200, 15}, {60, 40}, 160, 140, 559, 439);
+        row("bar beside the top-right corner", {385, 15}, {-20, 10}, 80, 110, 479, 409);
+        row("inside", {200, 150}, {60, 40}, 100, 100, 499, 399);
+        row("top-left", {15, 15}, {20, 10}, 135, 125, 499, 399);
+        row("bottom-left", {15, 290}, {-30, 50}, 85, 100, 499, 440);
+        row("top-right", {392, 8}, {40, -20}, 100, 88, 532, 399);
+        row("bottom-right", {385, 285}, {10, 20}, 100, 100, 495, 405);
+        row("left", {3, 150}, {-50, 70}, 53, 100, 499, 399);
+        row("right", {395, 150}, {-50, 70}, 100, 100, 445, 399);
+        row("top, within the bar", {200, 5}, {30, -40}, 100, 65, 499, 399);
+        row("bottom", {200, 298}, {30, 40}, 100, 100, 499, 438);
+        row("left beyond right", {3, 150}, {900, 0}, 100, 100, 499, 399);
+        row("bottom-left, too narrow", {3, 295}, {370, 60}, 100, 100, 499, 455);
+        row("bottom-right, too low", {395, 295}, {30, -250}, 100, 100, 525, 399);
+    }
+
+    void drags()
+    {
+        QFETCH(QPoint, from);
+        QFETCH(QPoint, by);
+        QFETCH(QRect, after);
+        Window window;
+        Hand hand(window);
+        hand.press(corner + from);
+        hand.moveTo(corner + from + by);
+        QCOMPARE(window.geometry(), after);
+        hand.release(corner + from + by);
+        hand.moveTo(corner + from);
+        QCOMPARE(window.geometry(), after);
+    }
+
+    void dragsOnlyWhatIsAllowed()
+    {
+        Window window;
+        Hand hand(window);
+        const QRect before = window.geometry();
+        window.handler.setWidgetResizable(false);
+        for (const QPoint& grip : {QPoint(3, 150), QPoint(200, 5), QPoint(15, 15), QPoint(395, 295)})
+            hand.drag(corner + grip, corner + grip + QPoint(40, 40));
+        QCOMPARE(window.geometry(), before);
+        hand.drag(corner + QPoint(200, 20), corner + QPoint(240, 60));
+        QCOMPARE(window.geometry(), before.translated(40, 40));
+
+        window.move(corner);
+        window.handler.setWidgetResizable(true);
+        window.handler.setWidgetMovable(false);
+        hand.drag(corner + QPoint(200, 20), corner + QPoint(240, 60));
+        QCOMPARE(window.geometry(), before);
+        hand.drag(corner + QPoint(200, 298), corner + QPoint(200, 338));
+        QCOMPARE(window.geometry(), before.adjusted(0, 0, 0, 39));
+    }
+
+    void dragsOnlyWithTheLeftButtonAndEndsWithAny()
+    {
+        Window window;
+        Hand hand(window);
+        const QPoint grip = corner + QPoint(200, 20);
+        hand.press(grip, Qt::RightButton);
+        hand.moveTo(grip + QPoint(40, 40));
+        hand.release(grip + QPoint(40, 40), Qt::RightButton);
+        QCOMPARE(window.pos(), corner);
+
+        hand.press(grip);
+        hand.moveTo(grip + QPoint(10, 10));
+        hand.press(grip + QPoint(10, 10), Qt::RightButton);
+        hand.moveTo(grip + QPoint(20, 20));
+        QCOMPARE(window.pos(), corner + QPoint(20, 20));
+        hand.release(grip + QPoint(20, 20), Qt::RightButton);
+        hand.moveTo(grip + QPoint(90, 90));
+        QCOMPARE(window.pos(), corner + QPoint(20, 20));
+    }
+
+    void announcesADoubleClickOnTheBar()
+    {
+        Window window;
+        Hand hand(window);
+        hand.doubleClick(corner + QPoint(200, 20));
+        QCOMPARE(window.toggles, 1);
+        hand.doubleClick(corner + QPoint(3, 20)); // an edge too
+        QCOMPARE(window.toggles, 2);
+        hand.doubleClick(corner + QPoint(200, 31));
+        hand.doubleClick(corner + QPoint(200, 20), Qt::RightButton);
+        QCOMPARE(window.toggles, 2);
+        window.handler.setMoveBarHeight(0);
+        hand.doubleClick(corner + QPoint(200, 1));
+        QCOMPARE(window.toggles, 2);
+        hand.doubleClick(corner + QPoint(200, 0));
+        QCOMPARE(window.toggles, 3);
+    }
+
+    void showsWhereTheWindowCanBeResized_data()
+    {
+        QTest::addColumn<QPoint>("position");
+        QTest::addColumn<Qt::CursorShape>("shape");
+        QTest::newRow("top-left") << QPoint(15, 15) << Qt::SizeFDiagCursor;
+        QTest::newRow("bottom-right") << QPoint(385, 285) << Qt::SizeFDiagCursor;
+        QTest::newRow("top-right") << QPoint(393, 7) << Qt::SizeBDiagCursor;
+        QTest::newRow("bottom-left") << QPoint(15, 285) << Qt::SizeBDiagCursor;
+        QTest::newRow("left") << QPoint(4, 150) << Qt::SizeHorCursor;
+        QTest::newRow("right") << QPoint(394, 150) << Qt::SizeHorCursor;
+        QTest::newRow("top") << QPoint(200, 4) << Qt::SizeVerCursor;
+        QTest::newRow("bottom") << QPoint(200, 294) << Qt::SizeVerCursor;
+    }
+
+    void showsWhereTheWindowCanBeResized()
+    {
+        QFETCH(QPoint, position);
+        QFETCH(Qt::CursorShape, shape);
+        Window window;
+        Hand hand(window);
+        hand.moveTo(corner + position);
+        QCOMPARE(window.cursor().shape(), shape);
+        hand.moveTo(corner + QPoint(200, 150));
+        QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
+        window.handler.setWidgetResizable(false);
+        hand.moveTo(corner + position);
+        QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void keepsTheCursorDuringADrag()
+    {
+        Window window;
+        Hand hand(window);
+        hand.moveTo(corner + QPoint(4, 150));
+        hand.press(corner + QPoint(4, 150));
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&window, &leave);
+        QCOMPARE(window.cursor().shape(), Qt::SizeHorCursor);
+        hand.release(corner + QPoint(4, 150));
+        QCoreApplication::sendEvent(&window, &leave);
+        QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void leavingClearsACursorThatItHasNotSet()
+    {
+        Window window;
+        window.setCursor(Qt::CrossCursor);
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&window, &leave);
+        QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void repaintsAWindowWhoseStateHasChanged()
+    {
+        Window window;
+        QCoreApplication::processEvents();
+        window.updateRequests = 0;
+        const QList<QPair<Qt::WindowStates, bool>> olds{
+            {Qt::WindowMinimized, true},
+            {Qt::WindowNoState, false},
+            {Qt::WindowMinimized | Qt::WindowMaximized, false},
+        };
+        for (const auto& [old, mapped] : olds) {
+            QWindowStateChangeEvent change(old);
+            QCoreApplication::sendEvent(&window, &change);
+            QCOMPARE(window.testAttribute(Qt::WA_Mapped), mapped);
+        }
+        QCoreApplication::sendPostedEvents(&window, QEvent::UpdateRequest);
+        QVERIFY(window.updateRequests >= 1);
+    }
+
+    void hasItsSignalsInOrder()
+    {
+        const QMetaObject& meta = CFramelessHandler::staticMetaObject;
+        QStringList methods;
+        for (int index = meta.methodOffset(); index < meta.methodCount(); ++index)
+            methods << meta.method(index).methodSignature();
+        QCOMPARE(methods, QStringList({"toggleMaximize()", "movingMaximized()"}));
+    }
+};
+
+QTEST_MAIN(TestFramelessHandler)
+#include "TestFramelessHandler.moc"

@@ -1,0 +1,345 @@
+#include "shared/CUtils.h"
+#include "shared/frame/CQuintarDialog.h"
+
+#include "support/Hand.h"
+#include "support/Mute.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QScreen>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+/// A dialog as plug-ins derive them, with the frame's members open to the tests.
+class Dialog : public CQuintarDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Dialog(QWidget* parent = nullptr) : CQuintarDialog(parent, false), content(new QWidget)
+    {
+        content->setObjectName("main_widget");
+        content->resize(400, 300);
+        connect(&framelessHandler, &CFramelessHandler::toggleMaximize, this, [this] { ++toggles; });
+    }
+
+    void addEverything(bool fixedSize = true)
+    {
+        QDaddMainWidget(content, fixedSize);
+        QDaddTopButtons();
+        QDaddCloseButton();
+    }
+
+    template <class Widget = QWidget>
+    Widget* child(const char* name) const
+    {
+        return findChild<Widget*>(name);
+    }
+
+    QWidget* content;
+    QStringList opened;
+    int toggles = 0;
+    using CQuintarDialog::addToActionListButton;
+    using CQuintarDialog::contentLayout;
+    using CQuintarDialog::framelessHandler;
+    using CQuintarDialog::mainFrame;
+    using CQuintarDialog::prefixLabel;
+    using CQuintarDialog::previewHost;
+
+public slots:
+    void on_QDShowSaveDialog() { opened << "action"; }
+    void on_QDShowSaveCollectionDialog() { opened << "favourite"; }
+};
+
+/// Widgets inside one another, the outermost first, so that a dialog can be opened from the innermost.
+class Ancestry
+{
+public:
+    explicit Ancestry(const QStringList& names)
+    {
+        for (const QString& name : names) {
+            auto* widget = new QWidget(m_innermost);
+            widget->setObjectName(name);
+            if (!m_outermost)
+                m_outermost.reset(widget);
+            m_innermost = widget;
+        }
+    }
+    QWidget* innermost() const { return m_innermost; }
+
+private:
+    std::unique_ptr<QWidget> m_outermost;
+    QWidget* m_innermost = nullptr;
+};
+
+QStringList namesOf(const QObjectList& objects)
+{
+    QStringList names;
+    for (const QObject* object : objects)
+        names << object->objectName();
+    return names;
+}
+
+QPoint middleOf(const QWidget* widget)
+{
+    return widget->mapToGlobal(widget->rect().center());
+}
+
+} // namespace
+
+class TestQuintarDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { muteFrameWarnings(); }
+    void init() { CUtils::SetOpenGLSupport(false); }
+    void cleanupTestCase() { CUtils::SetOpenGLSupport(std::nullopt); }
+
+    void buildsItsChromeInOrder()
+    {
+        Dialog dialog;
+        dialog.addEverything();
+        QCOMPARE(namesOf(dialog.children()),
+                 QStringList({"QDgridLayout", "QDshadowTopLeft", "QDshadowTop", "QDshadowTopRight",
+                              "QDshadowLeft", "QDmainFrame", "QDshadowRight", "QDshadowBtmLeft",
+                              "QDshadowBtm", "QDshadowBtmRight"}));
+        QCOMPARE(namesOf(dialog.mainFrame->children()),
+                 QStringList({"QDMainVerticalLayout", "QDheaderWidget", "QDcontentWidget"}));
+        QCOMPARE(namesOf(dialog.child("QDheaderWidget")->children()),
+                 QStringList({"QDHeaderHorizontalLayout", "QDPrefixLabel", "QDtitleLabel",
+                              "QDtoolbarAddToActionListButton", "QDtoolbarAddToCollectionsButton",
+                              "quintarHeaderCloseBtn"}));
+        QCOMPARE(dialog.content->parentWidget()->objectName(), QString("QDcontentWidget"));
+        QCOMPARE(dialog.contentLayout->contentsMargins(), QMargins());
+        QCOMPARE(dialog.property("iconSize"), QVariant(QSize(24, 24)));
+        QVERIFY(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
+    }
+
+    void drawsShadowsInTheOuterCells_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QSize>("least");
+        QTest::addColumn<QSize>("most");
+        QTest::addColumn<QString>("sheet");
+        const int most = QWIDGETSIZE_MAX;
+        const auto add = [](const char* name, int row, int column, QSize least, QSize most,
+                            const char* sheet) {
+            QTest::newRow(name) << row << column << least << most << QString(sheet);
+        };
+        add("QDshadowTopLeft", 0, 0, {8, 8}, {8, 8},
+            "QFrame#QDshadowTopLeft {\nbackground-image: url(:/Quintar/Resources/DialogShadow-TopLeft.png);\n"
+            "background-repeat: no-repeat;\nbackground-position: bottom right;\nborder: 0px transparent;\n}");
+        add("QDshadowTop", 0, 1, {0, 8}, {most, 8},
+            "QFrame#QDshadowTop {\nbackground-image: url(:/Quintar/Resources/DialogShadow-Top.png);\n"
+            "background-repeat: repeat-x;\nborder: 0px transparent;\n\n}");
+        add("QDshadowRight", 1, 2, {8, 0}, {8, most},
+            "QFrame#QDshadowRight {\nbackground-image: url(:/Quintar/Resources/DialogShadow-Right.png);\n"
+            "background-repeat: repeat-y;\nborder: 0px transparent;\n\n}");
+        add("QDshadowBtmRight", 2, 2, {8, 8}, {8, 8},
+            "QFrame#QDshadowBtmRight {\nbackground-image: "
+            "url(:/Quintar/Resources/DialogShadow-BtmRight.png);\n"
+            "background-repeat: no-repeat;\nbackground-position: top left;\nborder: 0px transparent;\n}");
+    }
+
+    void drawsShadowsInTheOuterCells()
+    {
+        QFETCH(int, row);
+        QFETCH(int, column);
+        Dialog dialog;
+        const auto* shadow = dialog.child<QFrame>(QTest::currentDataTag());
+        const auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
+        QCOMPARE(grid->itemAtPosition(row, column)->widget(), shadow);
+        QTEST(shadow->minimumSize(), "least");
+        QTEST(shadow->maximumSize(), "most");
+        QTEST(shadow->styleSheet(), "sheet");
+        QVERIFY(shadow->isHidden());
+        QCOMPARE(grid->itemAtPosition(1, 1)->widget(), dialog.mainFrame);
+    }
+
+    void followsTheHost_data()
+    {
+        QTest::addColumn<QStringList>("ancestry"); // outermost first
+        QTest::addColumn<bool>("prefixed");
+        QTest::addColumn<bool>("blue");
+        QTest::addColumn<int>("preview"); // position in the ancestry
+        QTest::newRow("none") << QStringList() << true << false << -1;
+        QTest::newRow("unknown") << QStringList{"quintarclass"} << true << false << -1;
+        QTest::newRow("main window") << QStringList{"QuintarClass"} << false << true << -1;
+        QTest::newRow("within the main window")
+            << QStringList{"QuintarClass", "a", "b"} << false << true << -1;
+        QTest::newRow("preview") << QStringList{"QuintarPreviewClass", "a"} << false << false << 0;
+        QTest::newRow("preview nearer")
+            << QStringList{"QuintarClass", "QuintarPreviewClass", "a"} << false << false << 1;
+        QTest::newRow("main window nearer")
+            << QStringList{"QuintarPreviewClass", "QuintarClass"} << false << true << -1;
+    }
+
+    void followsTheHost()
+    {
+        QFETCH(QStringList, ancestry);
+        QFETCH(bool, prefixed);
+        QFETCH(bool, blue);
+        QFETCH(int, preview);
+        const Ancestry hosts(ancestry);
+        const Dialog dialog(hosts.innermost());
+        QCOMPARE(dialog.prefixLabel->isHidden(), !prefixed);
+        QCOMPARE(dialog.prefixLabel->text(), prefixed ? QString("Kelvane Advanced Tools -") : QString());
+        const QWidget* host = dialog.previewHost;
+        QCOMPARE(host == nullptr, preview == -1);
+        if (host != nullptr)
+            QCOMPARE(host->objectName(), QString("QuintarPreviewClass"));
+
+        const QString sheet = dialog.mainFrame->styleSheet();
+        QVERIFY(
+            sheet.startsWith("QWidget#main_widget {background-color: rgb(255,255,255);color: rgb(0, 0, 0);}"
+                             "QFrame#QDmainFrame {background: rgb(147, 147 ,147);"));
+        QCOMPARE(sheet.contains("border: 1px solid rgb(50,50,170);}"), blue);
+        QCOMPARE(sheet.contains("stop:0 rgba(70,90,160), stop:1 rgba(40,60,90));"), blue);
+        QCOMPARE(sheet.contains("border: 1px solid rgb(140,130,130);}"), !blue);
+        QCOMPARE(sheet.contains("stop:0 rgba(140,130,130), stop:1 rgba(40,36,36));"), !blue);
+    }
+
+    void takesTheSizeOfItsContent_data()
+    {
+        QTest::addColumn<bool>("translucent");
+        QTest::addColumn<bool>("fixedSize");
+        QTest::addColumn<QSize>("least");
+        QTest::addColumn<QSize>("most");
+        const QSize any(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        QTest::newRow("opaque, fixed") << false << true << QSize(400, 335) << QSize(400, 335);
+        QTest::newRow("translucent, fixed") << true << true << QSize(400, 351) << QSize(400, 351);
+        QTest::newRow("opaque, free") << false << false << QSize(400, 335) << any;
+        QTest::newRow("translucent, free") << true << false << QSize(416, 351) << any;
+    }
+
+    void takesTheSizeOfItsContent()
+    {
+        QFETCH(bool, translucent);
+        QFETCH(bool, fixedSize);
+        QFETCH(QSize, least);
+        CUtils::SetOpenGLSupport(translucent);
+        Dialog dialog;
+        dialog.addEverything(fixedSize);
+        QCOMPARE(dialog.testAttribute(Qt::WA_TranslucentBackground), translucent);
+        QCOMPARE(dialog.minimumSize(), least);
+        QTEST(dialog.maximumSize(), "most");
+        QCOMPARE(dialog.size(), least);
+        QCOMPARE(dialog.framelessHandler.isWidgetResizable(), !fixedSize);
+        dialog.show();
+        QVERIFY(dialog.content->height() >= 300);
+    }
+
+    void centresItself_data()
+    {
+        QTest::addColumn<QRect>("preview");
+        QTest::addColumn<QPoint>("corner");
+        // 416 by 351, the extra width counted, whatever the width is afterwards.
+        QTest::newRow("preview") << QRect(100, 50, 1000, 701) << QPoint(599 - 207, 400 - 175);
+        QTest::newRow("left of the screen") << QRect(-1000, -901, 800, 600) << QPoint(-600 - 207, -601 - 175);
+    }
+
+    void centresItself()
+    {
+        QFETCH(QRect, preview);
+        CUtils::SetOpenGLSupport(true);
+        QWidget host;
+        host.setObjectName("QuintarPreviewClass");
+        host.setGeometry(preview);
+        Dialog dialog(&host);
+        dialog.addEverything();
+        QTEST(dialog.pos(), "corner");
+
+        // The host has meanwhile become something else.
+        Dialog other(&host);
+        host.setObjectName("other");
+        other.addEverything();
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        QCOMPARE(other.pos(), QPoint((screen.left() + screen.right()) / 2 - 207,
+                                     (screen.top() + screen.bottom()) / 2 - 175));
+    }
+
+    void hasButtonsInItsHeader()
+    {
+        Dialog dialog;
+        dialog.addEverything();
+        dialog.show();
+        const auto* action = dialog.child<QToolButton>("QDtoolbarAddToActionListButton");
+        QCOMPARE(action->toolTip(), QString("Add to/Create new Action"));
+        QCOMPARE(action->iconSize(), QSize(20, 20));
+        QCOMPARE(action->size(), QSize(24, 24));
+        QCOMPARE(action->focusPolicy(), Qt::NoFocus);
+        QVERIFY(action->autoRaise());
+        const auto* favourite = dialog.child<QToolButton>("QDtoolbarAddToCollectionsButton");
+        QCOMPARE(favourite->toolTip(), QString("Add to Favorites/Save settings"));
+        const auto* close = dialog.child<QToolButton>("quintarHeaderCloseBtn");
+        QCOMPARE(close->iconSize(), QSize(14, 14));
+
+        Hand hand(dialog);
+        hand.click(middleOf(favourite));
+        hand.click(middleOf(action));
+        QCOMPARE(dialog.opened, QStringList({"favourite", "action"}));
+        QVERIFY(dialog.isVisible());
+        hand.click(middleOf(close));
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+
+        dialog.QDhideAddToActionListButton();
+        QVERIFY(action->isHidden());
+        QVERIFY(!favourite->isHidden());
+    }
+
+    void doubleClicksReachTheHeaderButNotThroughAButton()
+    {
+        Dialog dialog;
+        dialog.addEverything();
+        dialog.show();
+        Hand hand(dialog);
+        hand.doubleClick(middleOf(dialog.addToActionListButton));
+        QCOMPARE(dialog.opened, QStringList{"action"});
+        QCOMPARE(dialog.toggles, 0);
+        hand.doubleClick(middleOf(dialog.child("QDtitleLabel")));
+        QCOMPARE(dialog.toggles, 1);
+    }
+
+    void isMovedByItsHeader_data()
+    {
+        QTest::addColumn<bool>("fixedSize");
+        QTest::newRow("fixed") << true;
+        QTest::newRow("free") << false;
+    }
+
+    void isMovedByItsHeader()
+    {
+        QFETCH(bool, fixedSize);
+        Dialog dialog;
+        dialog.addEverything(fixedSize);
+        dialog.move(100, 100);
+        dialog.show();
+        Hand hand(dialog);
+        const QPoint grip = middleOf(dialog.child("QDtitleLabel"));
+        hand.drag(grip, grip + QPoint(33, 44));
+        QCOMPARE(dialog.geometry(), QRect(133, 144, 400, 335));
+        const QPoint edge = dialog.geometry().bottomRight() - QPoint(2, 2);
+        hand.drag(edge, edge + QPoint(20, 30));
+        QCOMPARE(dialog.size(), fixedSize ? QSize(400, 335) : QSize(418, 363));
+    }
+
+    void addsOnlyItsOwnExecToTheMethods()
+    {
+        const QMetaObject& meta = CQuintarDialog::staticMetaObject;
+        QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+        const QMetaMethod method = meta.method(meta.methodOffset());
+        QCOMPARE(method.methodSignature(), QByteArray("exec()"));
+        QCOMPARE(method.methodType(), QMetaMethod::Slot);
+        QCOMPARE(method.returnType(), int(QMetaType::Int));
+        QCOMPARE(CQuintarHeaderButton::staticMetaObject.className(), "QToolButton");
+    }
+};
+
+QTEST_MAIN(TestQuintarDialog)
+#include "TestQuintarDialog.moc"
