@@ -2,9 +2,8 @@
 
 #include "InitialViewSettings.h"
 
+#include "shared/CIniFile.h"
 #include "shared/CUtils.h"
-
-#include <QSettings>
 
 using namespace initialview;
 
@@ -36,8 +35,11 @@ CPrefsDialog::CPrefsDialog(QWidget* parent) : CQuintarDialog(parent, true)
 
 CPrefsDialog::~CPrefsDialog()
 {
-    if (underPreview())
-        QSettings(geometryFile(), QSettings::IniFormat).setValue(geometryKey(*this), saveGeometry());
+    if (!underPreview())
+        return;
+    CIniFile settings(geometryFile(), CIniFile::Access::Extend);
+    settings.setValue(geometryKey(*this), saveGeometry());
+    settings.commit();
 }
 
 void CPrefsDialog::SetPrefs(QMap<QString, QVariant>* prefs)
