@@ -28,9 +28,10 @@ CPrefsDialog::CPrefsDialog(QWidget* parent) : CQuintarDialog(parent, true)
     QDaddMainWidget(ui.main_widget, true);
     QDaddTopButtons();
     QDaddCloseButton();
-    if (underPreview())
-        restoreGeometry(
-            QSettings(geometryFile(), QSettings::IniFormat).value(geometryKey(*this)).toByteArray());
+    if (!underPreview())
+        return;
+    const CIniFile settings(geometryFile(), CIniFile::Access::Read);
+    restoreGeometry(settings.value(geometryKey(*this)).toByteArray());
 }
 
 CPrefsDialog::~CPrefsDialog()
