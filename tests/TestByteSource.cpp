@@ -1,0 +1,158 @@
+#include "engine/ByteSource.h"
+#include "engine/DocumentTail.h"
+#include "engine/EngineError.h"
+#include "engine/SourceInput.h"
+
+#include <QtTest>
+
+#include <qpdf/FileInputSource.hh>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace engine;
+
+namespace {
+
+ErrorCode openingError(const QString& path)
+{
+    try {
+        ByteSource::openFile(path.toStdString());
+        return ErrorCode::None;
+    } catch (const EngineError& error) {
+        return error.code();
+    }
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+} // namespace
+
+class TestByteSource : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void opensRegularFilesOnly()
+    {
+        QTemporaryDir folder;
+        writeFile(folder.filePath("empty"), "");
+        writeFile(folder.filePath("file"), "content");
+        QCOMPARE(::mkfifo(folder.filePath("fifo").toLocal8Bit().constData(), 0600), 0);
+        QCOMPARE(openingError(folder.filePath("file")), ErrorCode::None);
+        QCOMPARE(openingError(folder.filePath("empty")), ErrorCode::EmptyFile);
+        QCOMPARE(openingError(folder.filePath("none")), ErrorCode::FileNotFound);
+        QCOMPARE(openingError(folder.filePath("file/below")), ErrorCode::FileNotFound);
+        QCOMPARE(openingError(folder.filePath("fifo")), ErrorCode::NotARegularFile);
+        QCOMPARE(openingError(folder.path()), ErrorCode::NotARegularFile);
+        QCOMPARE(openingError("/dev/null"), ErrorCode::NotARegularFile);
+    }
+
+    void noticesThatAFileChanged()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath("file");
+        writeFile(path, QByteArray(10000, 'x'));
+        const auto source = ByteSource::openFile(path.toStdString());
+        QVERIFY(source->unchangedSinceOpened());
+        QCOMPARE(source->text(9990, 100), std::string(10, 'x'));
+        QFile::resize(path, 50);
+        QVERIFY(!source->unchangedSinceOpened());
+        QCOMPARE(source->text(40, 100), std::string(10, 'x'));
+        SourceInput input(source, "cut short");
+        std::string into(200, ' ');
+        QCOMPARE(input.read(into.data(), 200), std::size_t(50));
+        QCOMPARE(input.findAndSkipNextEOL(), qpdf_offset_t(50));
+    }
+
+    void findsTheLastTail_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<qlonglong>("number");
+        QTest::addColumn<int>("behindEnd");
+        const QByteArray tail = "startxref\n116\n%%EOF";
+        QTest::newRow("usual") << "%PDF-1.4\n" + tail + "\n" << 116LL << 1;
+        QTest::newRow("carriage returns") << QByteArray("x\rstartxref\r9\r%%EOF\r") << 9LL << 1;
+        QTest::newRow("no marker") << QByteArray("x startxref 7\n") << 7LL << 1;
+        QTest::newRow("the last of two") << tail + "\nstartxref\n5\n%%EOF" << 5LL << 0;
+        QTest::newRow("last without number") << tail + "\nstartxref\nnone" << 116LL << 15;
+        QTest::newRow("far back") << tail + QByteArray(300000, 'z') << 116LL << 300000;
+        QTest::newRow("across a step") << tail + QByteArray(2048 - 14, 'z') << 116LL << 2048 - 14;
+        QTest::newRow("none") << QByteArray(70000, 'z') << -1LL << 0;
+        QTest::newRow("number too large") << QByteArray("startxref 99999999999999999999") << -1LL << 0;
+    }
+
+    void findsTheLastTail()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(qlonglong, number);
+        QFETCH(int, behindEnd);
+        const auto source = ByteSource::fromBytes(text.toStdString());
+        const auto tail = findDocumentTail(*source);
+        QCOMPARE(tail.has_value(), number >= 0);
+        if (tail) {
+            QCOMPARE(tail->startxref, std::uint64_t(number));
+            QCOMPARE(source->size() - tail->end, std::uint64_t(behindEnd));
+        }
+    }
+
+    void leavesOutALongTailWithoutObjects()
+    {
+        const std::string document = "%PDF-1.4\nstartxref\n9\n%%EOF";
+        const auto endOf = [](const std::string& text) { return documentEnd(*ByteSource::fromBytes(text)); };
+        QCOMPARE(endOf(document + std::string(500, '\n')), document.size() + 500);
+        QCOMPARE(endOf(document + std::string(5000, '\n')), document.size());
+        const std::string update = document + "\n7 0 obj\nnull\nendobj\n" + std::string(5000, ' ');
+        QCOMPARE(endOf(update), update.size());
+    }
+
+    // libqpdf's own input over a file says what is right.
+    void readsAsLibqpdfDoes()
+    {
+        std::string text;
+        for (int i = 0; i < 3000; ++i)
+            text += std::to_string(i) + (i % 7 == 0    ? "\r\n"
+                                         : i % 5 == 0  ? "\r"
+                                         : i % 11 == 0 ? "\n\n"
+                                                       : " ");
+        text += std::string(20000, 'x');
+        QTemporaryDir folder;
+        const QString path = folder.filePath("file");
+        writeFile(path, QByteArray::fromStdString(text));
+        SourceInput input(ByteSource::openFile(path.toStdString()), "ours");
+        FileInputSource expected(path.toLocal8Bit().constData());
+        std::string ours(40000, ' ');
+        std::string theirs(40000, ' ');
+        quint32 state = 12345;
+        for (int i = 0; i < 5000; ++i) {
+            state = state * 1664525 + 1013904223;
+            const auto number = static_cast<qpdf_offset_t>((state >> 8) % (text.size() + 100));
+            const std::size_t size = i % 50 == 0 ? 15000 : number % 300;
+            if (i % 3 == 0) {
+                input.seek(number, SEEK_SET);
+                expected.seek(number, SEEK_SET);
+            }
+            if (i % 4 == 0)
+                QCOMPARE(input.findAndSkipNextEOL(), expected.findAndSkipNextEOL());
+            const std::size_t count = input.read(ours.data(), size);
+            QCOMPARE(count, expected.read(theirs.data(), size));
+            QCOMPARE(ours.substr(0, count), theirs.substr(0, count));
+            QCOMPARE(input.tell(), expected.tell());
+            QCOMPARE(input.getLastOffset(), expected.getLastOffset());
+            if (count > 0) {
+                input.unreadCh(ours[count - 1]);
+                expected.unreadCh(ours[count - 1]);
+                QCOMPARE(input.readLine(100), expected.readLine(100));
+            }
+        }
+        QVERIFY_EXCEPTION_THROWN(input.seek(-1, SEEK_SET), std::runtime_error);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestByteSource)
+#include "TestByteSource.moc"
