@@ -1,4 +1,5 @@
 #include "shared/CIniFile.h"
+#include "support/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -15,7 +16,7 @@ namespace {
 
 using Access = CIniFile::Access;
 
-const int additions = 40;
+const int additions = 20;
 const char* const addCommand = "--add";
 const char* const addPlainlyCommand = "--add-plainly";
 
@@ -29,19 +30,6 @@ bool store(const QString& path, const QString& key, const QVariant& value, Acces
 QVariant plainly(const QString& path, const QString& key)
 {
     return QSettings(path, QSettings::IniFormat).value(key);
-}
-
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 bool makeFifo(const QString& path)
@@ -124,7 +112,7 @@ private slots:
 
     void extendsOrReplaces()
     {
-        write(m_path, "[General]\nold=1\n\n[group]\nk=2\n");
+        QVERIFY(writeFile(m_path, "[General]\nold=1\n\n[group]\nk=2\n"));
         QVERIFY(QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner));
         QVERIFY(store(m_path, "new", 3));
         QCOMPARE(plainly(m_path, "old").toInt(), 1);
@@ -147,7 +135,7 @@ private slots:
 
     void leavesNoTraceWithoutCommit()
     {
-        write(m_path, "[General]\nk=1\n");
+        QVERIFY(writeFile(m_path, "[General]\nk=1\n"));
         {
             CIniFile file(m_path, Access::Replace);
             file.setValue("k", 2);
@@ -195,9 +183,9 @@ private slots:
         else if (kind == "link")
             QVERIFY(makeFifo(m_path + ".fifo") && QFile::link(m_path + ".fifo", lock));
         else if (kind == "dead")
-            write(lock, "999999999\nquintar\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+            QVERIFY(writeFile(lock, "999999999\nquintar\n" + QSysInfo::machineHostName().toUtf8() + "\n"));
         else
-            write(lock, QByteArray());
+            QVERIFY(writeFile(lock, QByteArray()));
         if (kind == "huge")
             QVERIFY(QFile::resize(lock, qint64(1) << 36));
         const utimbuf longAgo{1000000000, 1000000000};
@@ -226,7 +214,7 @@ private slots:
         QVERIFY(!QFileInfo(fifo).isFile());
 
         const QString huge = m_folder.filePath("huge.ini");
-        write(huge, "[General]\nk=5\n");
+        QVERIFY(writeFile(huge, "[General]\nk=5\n"));
         QVERIFY(QFile::resize(huge, qint64(1) << 36));
         QVERIFY(!CIniFile(huge, Access::Read).contains("k"));
         QVERIFY(!store(huge, "k", 1));
@@ -245,7 +233,7 @@ private slots:
     void writesThroughLinks()
     {
         const QString real = m_folder.filePath("real.ini");
-        write(real, "[General]\nold=1\n");
+        QVERIFY(writeFile(real, "[General]\nold=1\n"));
         QVERIFY(QFile::link(real, m_path));
         QVERIFY(store(m_path, "new", 2));
         QVERIFY(QFileInfo(m_path).isSymLink());
@@ -266,7 +254,7 @@ private slots:
 
     void replacesWhatCannotBeParsed()
     {
-        write(m_path, "no settings at all\n[open\n=\n\xff\xfe");
+        QVERIFY(writeFile(m_path, "no settings at all\n[open\n=\n\xff\xfe"));
         QVERIFY(!CIniFile(m_path, Access::Read).contains("k"));
         QVERIFY(store(m_path, "k", 1));
         QCOMPARE(plainly(m_path, "k").toInt(), 1);

@@ -30,6 +30,20 @@ public:
     /// CUtils::GetAppDataToolsFolder.
     static QString GetQuintarAppDataFolder();
 
+    // Action lists in the sequence folder.
+
+    /// Writes the settings as an action list, named by the map's "ActionListName" with "_" for each space; or
+    /// adds them to the list of that name, when there is one and "ActionListOverwrite" is not true. A name
+    /// that holds a "/" or a NUL is refused: nothing happens. No failure is reported.
+    /// \param[in,out] prefs the settings with "ActionName", "ActionListName", "ActionListCategory" and
+    ///     "ActionListOverwrite". After a new list these four are gone; the map stays as it was after an
+    ///     addition, and when the file in the new list's place cannot be replaced.
+    static void SaveAsCustomActionList(QMap<QString, QVariant>* prefs);
+
+    /// \returns "Default", "Favorites", then the other categories of the stored lists in the lists' order,
+    ///     each once whatever its letter case.
+    static QStringList GetActionListCategories();
+
     // Page ranges: text such as "1-3,7,10-12"; pages count from 1. Any thread.
 
     /// Whether the text is a well formed page list; spaces do not matter.

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+
+/// The keys of the files that keep an action's settings, and those that the save dialogs add to a settings
+/// map. All files are INI files in QSettings' format with their keys at the top level; a settings map is one
+/// value, a QVariantMap.
+namespace settingsfiles {
+
+/// Action lists, "*.xqq": a named series of actions.
+namespace actionlist {
+inline constexpr char suffix[] = ".xqq";
+inline constexpr char sequenceName[] = "SequenceName";
+inline constexpr char sequenceCategory[] = "SequenceCategory";
+inline constexpr char ioSettings[] = "IOSettings";
+
+/// The key of entry `number`, from 0, that holds the action's name. An entry is present when this key is.
+inline QString actionNameKey(int number)
+{
+    return QStringLiteral("ActionName") + QString::number(number);
+}
+
+/// The key of the same entry's settings map.
+inline QString actionPrefsKey(int number)
+{
+    return QStringLiteral("ActionPrefs") + QString::number(number);
+}
+} // namespace actionlist
+
+/// Favourites, "*.ini": a settings map with an icon, a QImage.
+namespace favorite {
+inline constexpr char suffix[] = ".ini";
+inline constexpr char actionPrefs[] = "ActionPrefs";
+inline constexpr char actionIcon[] = "ActionIcon";
+} // namespace favorite
+
+/// Tool settings files, "*.tsf": a settings map alone.
+namespace toolsettings {
+inline constexpr char toolSettings[] = "ToolSettings";
+} // namespace toolsettings
+
+/// What the save dialogs put into a settings map beside the action's own keys.
+namespace request {
+inline constexpr char actionName[] = "ActionName";
+inline constexpr char actionListName[] = "ActionListName";
+inline constexpr char actionListCategory[] = "ActionListCategory";
+inline constexpr char actionListOverwrite[] = "ActionListOverwrite";
+inline constexpr char collectionName[] = "CollectionName";
+} // namespace request
+
+} // namespace settingsfiles

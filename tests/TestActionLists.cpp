@@ -1,0 +1,236 @@
+#include "shared/actionutils/CActionUtils.h"
+#include "support/ManualsSettings.h"
+#include "support/TemporaryHome.h"
+
+#include <QSettings>
+#include <QtTest>
+
+#include <sys/stat.h>
+
+namespace {
+
+using Map = QMap<QString, QVariant>;
+
+Map request(const QString& name, bool overwrite, const QString& category = "Work")
+{
+    Map prefs = manualsSettings();
+    prefs["ActionListName"] = name;
+    prefs["ActionListCategory"] = category;
+    prefs["ActionListOverwrite"] = overwrite;
+    return prefs;
+}
+
+Map save(Map prefs)
+{
+    CActionUtils::SaveAsCustomActionList(&prefs);
+    return prefs;
+}
+
+Map contentOf(const QString& path)
+{
+    const QSettings file(path, QSettings::IniFormat);
+    Map content;
+    for (const QString& key : file.allKeys())
+        content[key] = file.value(key);
+    return content;
+}
+
+Map entryPrefs()
+{
+    Map prefs = manualsSettings();
+    prefs.remove("ActionName");
+    return prefs;
+}
+
+QStringList sequenceFolder()
+{
+    return QDir(CUtils::GetSequenceFolder())
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+} // namespace
+
+class TestActionLists : public QObject
+{
+    Q_OBJECT
+
+    TemporaryHome m_home;
+
+private slots:
+    void init() { m_home.reset(); }
+
+    void writesANewList()
+    {
+        QCOMPARE(save(request("My list 2", true)), entryPrefs());
+        QCOMPARE(contentOf(m_home.actionList("My_list_2.xqq")), (Map{{"SequenceName", "My list 2"},
+                                                                     {"SequenceCategory", "Work"},
+                                                                     {"IOSettings", "0"},
+                                                                     {"ActionName0", "Initial View"},
+                                                                     {"ActionPrefs0", entryPrefs()}}));
+    }
+
+    void namesTheFileAfterTheList_data()
+    {
+        QTest::addColumn<QVariant>("name");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("sequenceName");
+        QTest::newRow("absent") << QVariant() << "Action.xqq"
+                                << "";
+        QTest::newRow("empty") << QVariant("") << ".xqq"
+                               << "";
+        QTest::newRow("only spaces change") << QVariant("a.b  c") << "a.b__c.xqq"
+                                            << "a.b  c";
+        QTest::newRow("a tab stays") << QVariant("a\tb:*?\\") << "a\tb:*?\\.xqq"
+                                     << "a\tb:*?\\";
+        QTest::newRow("dots") << QVariant("..") << "...xqq"
+                              << "..";
+        QTest::newRow("not Latin") << QVariant(QString::fromUtf8("\xe6\x97\xa5 \xe6\x9c\xac"))
+                                   << QString::fromUtf8("\xe6\x97\xa5_\xe6\x9c\xac.xqq")
+                                   << QString::fromUtf8("\xe6\x97\xa5 \xe6\x9c\xac");
+    }
+
+    void namesTheFileAfterTheList()
+    {
+        QFETCH(const QVariant, name);
+        QFETCH(const QString, file);
+        QFETCH(const QString, sequenceName);
+        Map prefs = request("", true);
+        prefs.remove("ActionListName");
+        if (name.isValid())
+            prefs["ActionListName"] = name;
+        save(prefs);
+        QCOMPARE(sequenceFolder(), QStringList{file});
+        QCOMPARE(contentOf(m_home.actionList(file)).value("SequenceName").toString(), sequenceName);
+    }
+
+    void defaultsTheCategory()
+    {
+        save(request("empty", true, ""));
+        QCOMPARE(contentOf(m_home.actionList("empty.xqq")).value("SequenceCategory").toString(),
+                 QString("Favorites"));
+        Map bare{{"ActionListName", "bare"}};
+        CActionUtils::SaveAsCustomActionList(&bare);
+        QVERIFY(bare.isEmpty());
+        QCOMPARE(contentOf(m_home.actionList("bare.xqq")), (Map{{"SequenceName", "bare"},
+                                                                {"SequenceCategory", "Favorites"},
+                                                                {"IOSettings", "0"},
+                                                                {"ActionName0", ""},
+                                                                {"ActionPrefs0", Map()}}));
+    }
+
+    void replacesAList()
+    {
+        save(request("one", true));
+        save(request("one", false));
+        QVERIFY(contentOf(m_home.actionList("one.xqq")).contains("ActionName1"));
+        QCOMPARE(save(request("one", true, "Other")), entryPrefs());
+        const Map content = contentOf(m_home.actionList("one.xqq"));
+        QVERIFY(!content.contains("ActionName1"));
+        QCOMPARE(content.value("SequenceCategory").toString(), QString("Other"));
+    }
+
+    void addsToAList_data()
+    {
+        QTest::addColumn<QByteArray>("entries");
+        QTest::addColumn<int>("number");
+        QTest::newRow("at the end") << QByteArray("ActionName0=a\nActionPrefs0=p\nActionName1=b\n") << 2;
+        QTest::newRow("into the gap") << QByteArray("ActionName0=a\nActionName2=b\n") << 1;
+        QTest::newRow("only names count") << QByteArray("ActionPrefs0=p\nactionname0=q\n") << 0;
+        QTest::newRow("an empty name counts") << QByteArray("ActionName0=\n") << 1;
+        QTest::newRow("no leading zeros") << QByteArray("ActionName0=a\nActionName01=b\n") << 1;
+    }
+
+    void addsToAList()
+    {
+        QFETCH(const QByteArray, entries);
+        QFETCH(const int, number);
+        const QString path = m_home.actionList("my_list.xqq");
+        QVERIFY(writeFile(path, "[General]\nSequenceName=old\nIOSettings=5\n" + entries + "\n[host]\nk=1\n"));
+        Map expected = contentOf(path);
+        const Map prefs = request("my list", false);
+        expected["ActionName" + QString::number(number)] = "Initial View";
+        expected["ActionPrefs" + QString::number(number)] = prefs;
+        QCOMPARE(save(prefs), prefs);
+        QCOMPARE(contentOf(path), expected);
+    }
+
+    void createsTheListToAddTo()
+    {
+        QCOMPARE(save(request("new", false)), entryPrefs());
+        QCOMPARE(contentOf(m_home.actionList("new.xqq")).value("SequenceCategory").toString(),
+                 QString("Work"));
+    }
+
+    void refusesNamesOfOtherFolders()
+    {
+        for (const QString& name : {QString("sub/x"), QString("/tmp/x"), QString("../x"), QString("x/"),
+                                    QString("x") + QChar(0) + "y"})
+            for (const bool overwrite : {true, false}) {
+                const Map prefs = request(name, overwrite);
+                QCOMPARE(save(prefs), prefs);
+            }
+        QVERIFY(sequenceFolder().isEmpty());
+        QVERIFY(!QFile::exists(CUtils::GetAppDataToolsFolder() + "x.xqq"));
+    }
+
+    void keepsTheMapWhereNothingCanBeReplaced()
+    {
+        const Map prefs = request("folder", true);
+        QVERIFY(QDir().mkpath(m_home.actionList("folder.xqq/filled")));
+        QCOMPARE(save(prefs), prefs);
+        QVERIFY(QFile::exists(m_home.actionList("folder.xqq/filled")));
+    }
+
+    void changesTheMapWhereNothingCanBeWritten()
+    {
+        const QString longName(300, 'n');
+        QCOMPARE(save(request(longName, true)), entryPrefs());
+        QVERIFY(sequenceFolder().isEmpty());
+    }
+
+    void listsNoCategoriesOfItsOwn()
+    {
+        const QStringList standard{"Default", "Favorites"};
+        QCOMPARE(CActionUtils::GetActionListCategories(), standard);
+        QVERIFY(QDir(CUtils::GetSequenceFolder()).removeRecursively());
+        QCOMPARE(CActionUtils::GetActionListCategories(), standard);
+    }
+
+    void listsEachCategoryOnce()
+    {
+        const QByteArray head = "[General]\nSequenceCategory=";
+        const QList<QPair<QString, QByteArray>> files{{"B.XQQ", head + "Reports\n"},
+                                                      {"a.xqq", head + "Archive\n"},
+                                                      {"c.xqq", head + "\n"},
+                                                      {"d.xqq", head + "favorites\n"},
+                                                      {"e.xqq", head + "reports\n"},
+                                                      {"f.xqq", "no settings"},
+                                                      {"g.xqq", "[General]\n"},
+                                                      {"h.xqq", head + "\"a, b\"\n"},
+                                                      {".i.xqq", head + "Hidden\n"},
+                                                      {"j.ini", head + "Other\n"},
+                                                      {"k.xqq", "[x]\nSequenceCategory=Group\n"}};
+        for (const auto& [name, content] : files)
+            QVERIFY(writeFile(m_home.actionList(name), content));
+        QVERIFY(QDir().mkpath(m_home.actionList("folder.xqq")));
+        QCOMPARE(mkfifo(QFile::encodeName(m_home.actionList("z.xqq")).constData(), 0600), 0);
+        QVERIFY(QFile::link(m_home.actionList("z.xqq"), m_home.actionList("link.xqq")));
+        QCOMPARE(CActionUtils::GetActionListCategories(),
+                 (QStringList{"Default", "Favorites", "Archive", "Reports", "a, b"}));
+    }
+
+    void readsAndWritesTheStoredSample()
+    {
+        const QString sample = QString(TEST_DATA_DIR) + "/manuals.xqq";
+        QCOMPARE(contentOf(sample), (Map{{"SequenceName", "Manuals"},
+                                         {"SequenceCategory", "Reports"},
+                                         {"IOSettings", "0"},
+                                         {"ActionName0", "Initial View"},
+                                         {"ActionPrefs0", entryPrefs()}}));
+        save(request("Manuals", true, "Reports"));
+        QCOMPARE(bytesOf(m_home.actionList("Manuals.xqq")), bytesOf(sample));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestActionLists)
+#include "TestActionLists.moc"
