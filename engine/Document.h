@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/ErrorCodes.h"
+
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjGen.hh>
 #include <qpdf/QPDFObjectHandle.hh>
@@ -12,6 +14,9 @@
 namespace engine {
 
 class ByteSource;
+
+/// What a libqpdf failure is called at the library's boundary.
+ErrorCode errorCodeOf(const QPDFExc& error);
 
 /// One open document: the bytes that it was read from, libqpdf's view of them, and which of its objects were
 /// changed since. Failures are thrown as EngineError.
@@ -48,7 +53,9 @@ public:
     bool openedWithPassword() const { return m_openedWithPassword; }
 
 private:
-    void open(const std::string& password);
+    /// False when the password is not right.
+    bool open(const std::string& password);
+    void collectWarnings();
 
     std::shared_ptr<ByteSource> m_source;
     std::string m_fileName;

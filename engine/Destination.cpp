@@ -1,0 +1,152 @@
+#include "engine/Destination.h"
+
+#include "engine/Document.h"
+#include "engine/NamedDestinations.h"
+#include "engine/PageTree.h"
+
+#include <qpdf/QUtil.hh>
+
+#include <array>
+#include <climits>
+#include <string_view>
+
+namespace engine {
+
+namespace {
+
+const int written = 6; // decimal places of a number
+
+/// A type of explicit destination, and which operands follow it, in their order.
+struct DestinationForm
+{
+    const char* name;
+    int type;
+    std::array<double Destination::*, 4> operands;
+};
+
+// clang-format off
+const DestinationForm forms[] = {
+    {"/XYZ",   1, {&Destination::left, &Destination::top, &Destination::zoom}},
+    {"/Fit",   2, {}},
+    {"/FitH",  3, {&Destination::top}},
+    {"/FitV",  4, {&Destination::left}},
+    {"/FitBH", 5, {&Destination::top}},
+    // What follows is read, never written.
+    {"/FitB",  5, {}},
+    {"/FitBV", 5, {&Destination::left}},
+    {"/FitR",  1, {&Destination::left, &Destination::bottom, &Destination::right, &Destination::top}},
+};
+// clang-format on
+
+/// A destination without a type that is known shows the page as /XYZ without operands does.
+const DestinationForm& formOf(QPDFObjectHandle name)
+{
+    for (const DestinationForm& form : forms)
+        if (name.isNameAndEquals(form.name))
+            return form;
+    return forms[0];
+}
+
+QPDFObjectHandle arrayOf(QPDFObjectHandle destination)
+{
+    return destination.isDictionary() ? destination.getKey("/D") : destination;
+}
+
+int pageOf(QPDFObjectHandle target, PageTree& pages)
+{
+    if (!target.isInteger())
+        return pages.numberOf(target);
+    const long long index = target.getIntValue();
+    return index >= 0 && index < pages.pageCount() ? static_cast<int>(index) + 1 : 0;
+}
+
+QPDFObjectHandle numberOrNull(double value, bool isNull)
+{
+    return isNull ? QPDFObjectHandle::newNull() : QPDFObjectHandle::newReal(value + 0.0, written); // no "-0"
+}
+
+bool isNone(QPDFObjectHandle zoom)
+{
+    return zoom.isNull() || (zoom.isNumber() && zoom.getNumericValue() == 0);
+}
+
+bool sameOperand(QPDFObjectHandle one, QPDFObjectHandle other)
+{
+    if (one.isNumber() && other.isNumber())
+        return QUtil::double_to_string(one.getNumericValue() + 0.0, written) ==
+               QUtil::double_to_string(other.getNumericValue() + 0.0, written);
+    return one.isNull() && other.isNull();
+}
+
+} // namespace
+
+std::optional<OpenActionTarget> openActionTarget(Document& document)
+{
+    QPDFObjectHandle action = document.catalog().getKey("/OpenAction");
+    if (action.isDictionary())
+        action =
+            action.getKey("/S").isNameAndEquals("/GoTo") ? action.getKey("/D") : QPDFObjectHandle::newNull();
+    OpenActionTarget target{action, {}};
+    if (action.isName() || action.isString()) {
+        target.array = arrayOf(findNamedDestination(document.catalog(), action));
+        target.name = action.isName() ? action.getName().substr(1) : action.getUTF8Value();
+    }
+    if (!target.array.isArray() || target.array.getArrayNItems() == 0)
+        return std::nullopt;
+    return target;
+}
+
+std::optional<Destination> readDestination(OpenActionTarget target, PageTree& pages)
+{
+    Destination destination;
+    destination.name = std::move(target.name);
+    destination.page = pageOf(target.array.getArrayItem(0), pages);
+    if (destination.page == 0)
+        return std::nullopt;
+    const int size = target.array.getArrayNItems();
+    const DestinationForm& form =
+        formOf(size > 1 ? target.array.getArrayItem(1) : QPDFObjectHandle::newNull());
+    destination.type = form.type;
+    for (int index = 2; index < size && index - 2 < 4 && form.operands[index - 2] != nullptr; ++index) {
+        QPDFObjectHandle operand = target.array.getArrayItem(index);
+        if (operand.isNumber())
+            destination.*form.operands[index - 2] = operand.getNumericValue();
+    }
+    destination.zoom *= 100;
+    return destination;
+}
+
+QPDFObjectHandle destinationOperands(int type, int zoom, double left, double top)
+{
+    Destination values;
+    values.left = left;
+    values.top = top;
+    values.zoom = zoom / 100.0;
+    const DestinationForm& form = forms[type - 1];
+    QPDFObjectHandle operands = QPDFObjectHandle::newArray();
+    operands.appendItem(QPDFObjectHandle::newName(form.name));
+    for (double Destination::*operand : form.operands)
+        if (operand != nullptr)
+            operands.appendItem(numberOrNull(values.*operand, operand == &Destination::zoom && zoom == 0));
+    return operands;
+}
+
+bool isWrittenAs(QPDFObjectHandle array, const QPDFObjectHandle& page, QPDFObjectHandle operands)
+{
+    QPDFObjectHandle target = array.getArrayItem(0);
+    const int size = operands.getArrayNItems();
+    if (!page.isIndirect() || target.getObjGen() != page.getObjGen() || array.getArrayNItems() != size + 1 ||
+        !array.getArrayItem(1).isNameAndEquals(operands.getArrayItem(0).getName()))
+        return false;
+    const bool zooms = operands.getArrayItem(0).isNameAndEquals("/XYZ");
+    for (int index = 1; index < size; ++index) {
+        QPDFObjectHandle stored = array.getArrayItem(index + 1);
+        QPDFObjectHandle wanted = operands.getArrayItem(index);
+        const bool noZoom = zooms && index == size - 1 && isNone(stored) && isNone(wanted);
+        if (!noZoom && !sameOperand(stored, wanted))
+            return false;
+    }
+    return true;
+}
+
+} // namespace engine

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <optional>
+#include <string>
+
+namespace engine {
+
+class Document;
+class PageTree;
+
+/// What a destination shows, in the library's numbers. Coordinates that the destination leaves open are 0.
+struct Destination
+{
+    int page = 0; ///< From 1.
+    int type = 0; ///< 1 to 5, see docs/engine.md.
+    double left = 0;
+    double top = 0;
+    double right = 0;
+    double bottom = 0;
+    double zoom = 0;  ///< Percent, 0 for none.
+    std::string name; ///< UTF-8; empty unless it is a named destination.
+
+    bool operator==(const Destination&) const = default;
+};
+
+/// Where the document's open action leads to, as the document has it.
+struct OpenActionTarget
+{
+    QPDFObjectHandle array; ///< The explicit destination.
+    std::string name;       ///< As in Destination.
+};
+
+/// Nothing when there is no open action, when it does not go to a destination, or when its name is not
+/// defined.
+std::optional<OpenActionTarget> openActionTarget(Document& document);
+
+/// Nothing when the target's page is no page of the document.
+std::optional<Destination> readDestination(OpenActionTarget target, PageTree& pages);
+
+/// What follows the page in an explicit destination: its type and all operands.
+/// \param type 1 to 5.
+/// \param zoom in percent.
+QPDFObjectHandle destinationOperands(int type, int zoom, double left, double top);
+
+/// True when an explicit destination shows this page object with these operands, exactly as it would be
+/// written.
+bool isWrittenAs(QPDFObjectHandle array, const QPDFObjectHandle& page, QPDFObjectHandle operands);
+
+} // namespace engine

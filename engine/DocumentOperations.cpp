@@ -1,0 +1,152 @@
+#include "engine/ByteSource.h"
+#include "engine/EngineError.h"
+#include "engine/FileNameCodec.h"
+#include "engine/Operations.h"
+#include "engine/Session.h"
+#include "engine/Signatures.h"
+#include "engine/Text.h"
+
+#include <array>
+
+namespace engine::operations {
+
+namespace {
+
+const char* const libraryVersion = "13.11";
+
+// At the library's number for it; 0 is the PDF version.
+const std::array informationKeys{"",         "/Title",    "/Author",       "/Subject", "/Keywords",
+                                 "/Creator", "/Producer", "/CreationDate", "/ModDate"};
+
+std::string pathFrom(std::wstring_view fileName)
+{
+    if (fileName.find(L'\0') != std::wstring_view::npos)
+        throw EngineError(ErrorCode::BadArgument, "a file name with a NUL");
+    return fileNameFromWide(fileName);
+}
+
+int open(Session& session, std::shared_ptr<ByteSource> source, std::string fileName,
+         std::wstring_view password)
+{
+    auto document =
+        std::make_unique<OpenDocument>(std::move(source), std::move(fileName), fileNameFromWide(password));
+    if (!document->pages.hasPages())
+        throw EngineError(ErrorCode::NoPages);
+    session.add(std::move(document));
+    return 1;
+}
+
+/// The higher of the versions that the header and the catalog state, "1.7".
+std::string versionOf(Document& document)
+{
+    const std::string header = document.pdf().getPDFVersion();
+    QPDFObjectHandle stated = document.catalog().getKey("/Version");
+    return stated.isName() ? std::max(header, stated.getName().substr(1)) : header;
+}
+
+bool modificationAllowed(QPDF& pdf)
+{
+    return !pdf.isEncrypted() || pdf.ownerPasswordMatched() || pdf.allowModifyOther();
+}
+
+} // namespace
+
+int LoadFromFile(Session& session, std::wstring_view fileName, std::wstring_view password)
+{
+    const std::string path = pathFrom(fileName);
+    return open(session, ByteSource::openFile(path), path, password);
+}
+
+int LoadFromString(Session& session, std::string_view source, std::wstring_view password)
+{
+    return open(session, ByteSource::fromBytes(std::string(source)), {}, password);
+}
+
+int DocumentCount(Session& session)
+{
+    return static_cast<int>(session.documentIds().size());
+}
+
+int GetDocumentID(Session& session, int index)
+{
+    const std::vector<int> ids = session.documentIds();
+    if (index < 1 || static_cast<std::size_t>(index) > ids.size())
+        throw EngineError(ErrorCode::UnknownDocument);
+    return ids[index - 1];
+}
+
+int SelectDocument(Session& session, int documentId)
+{
+    session.select(documentId);
+    return 1;
+}
+
+int SelectedDocument(Session& session)
+{
+    return session.selectedId();
+}
+
+int RemoveDocument(Session& session, int documentId)
+{
+    session.remove(documentId);
+    return 1;
+}
+
+std::wstring GetDocumentFileName(Session& session)
+{
+    return wideFromFileName(session.document().document.fileName());
+}
+
+int GetDocumentRepaired(Session& session)
+{
+    return session.document().document.crossReferenceRebuilt();
+}
+
+std::wstring GetInformation(Session& session, int key)
+{
+    Document& document = session.document().document;
+    if (key < 0 || static_cast<std::size_t>(key) >= informationKeys.size())
+        throw EngineError(ErrorCode::BadArgument);
+    if (key == 0)
+        return wideFromUtf8(versionOf(document));
+    QPDFObjectHandle information = document.pdf().getTrailer().getKey("/Info");
+    QPDFObjectHandle value =
+        information.isDictionary() ? information.getKey(informationKeys[key]) : information;
+    return value.isString() ? wideFromUtf8(value.getUTF8Value()) : std::wstring();
+}
+
+int IsLinearized(Session& session)
+{
+    return session.document().document.pdf().isLinearized();
+}
+
+int EncryptionStatus(Session& session)
+{
+    QPDF& pdf = session.document().document.pdf();
+    if (!pdf.isEncrypted())
+        return NotEncrypted;
+    return pdf.ownerPasswordMatched() ? OpenedWithOwnerPassword : OpenedWithUserPassword;
+}
+
+int SecurityInfo(Session& session, int item)
+{
+    const bool available =
+        session.selectedId() != 0 && (item == SignatureCount || item == ModificationAllowed);
+    if (!available)
+        throw EngineError(ErrorCode::NotAvailable);
+    Document& document = session.document().document;
+    return item == SignatureCount ? countSignatures(document) : modificationAllowed(document.pdf());
+}
+
+int LastErrorCode(Session& session)
+{
+    session.setLastError(session.errorBefore());
+    return static_cast<int>(session.errorBefore());
+}
+
+std::wstring LibraryVersion(Session&)
+{
+    return wideFromUtf8(libraryVersion + (" (libqpdf " + QPDF::QPDFVersion() + ")"));
+}
+
+} // namespace engine::operations

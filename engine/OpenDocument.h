@@ -1,0 +1,20 @@
+#pragma once
+
+#include "engine/Document.h"
+#include "engine/PageTree.h"
+
+namespace engine {
+
+/// A document of a session, with the page that is selected in it.
+struct OpenDocument
+{
+    OpenDocument(std::shared_ptr<ByteSource> source, std::string fileName, std::string_view password)
+        : document(std::move(source), std::move(fileName), password), pages(document)
+    {}
+
+    Document document;
+    PageTree pages;
+    int selectedPage = 1;
+};
+
+} // namespace engine

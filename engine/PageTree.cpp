@@ -1,0 +1,320 @@
+#include "engine/PageTree.h"
+
+#include "engine/Document.h"
+#include "engine/EngineError.h"
+
+#include <algorithm>
+#include <climits>
+#include <set>
+#include <string>
+
+namespace engine {
+
+namespace {
+
+// Up to this many pages the whole tree is read, and so counts that lie do no harm.
+const int smallTree = 256;
+
+enum class Kind { Page, Node, Neither };
+
+Kind kindOf(QPDFObjectHandle object)
+{
+    if (!object.isDictionary())
+        return Kind::Neither;
+    if (object.getKey("/Kids").isArray())
+        return Kind::Node;
+    return object.getKey("/Type").isNameAndEquals("/Pages") ? Kind::Neither : Kind::Page;
+}
+
+/// /Count where it can be right.
+std::optional<int> statedCount(QPDFObjectHandle node)
+{
+    QPDFObjectHandle count = node.getKey("/Count");
+    if (!count.isInteger() || count.getIntValue() < 0 || count.getIntValue() > INT_MAX)
+        return std::nullopt;
+    return static_cast<int>(count.getIntValue());
+}
+
+std::optional<int> pagesUnder(QPDFObjectHandle kid)
+{
+    switch (kindOf(kid)) {
+    case Kind::Page:
+        return 1;
+    case Kind::Node:
+        return statedCount(kid);
+    case Kind::Neither:
+        break;
+    }
+    return std::nullopt;
+}
+
+/// The pages before each kid of a node and, as the last number, all of them; nothing when the node's count
+/// does not agree with its kids'. A node with as many kids as pages has only pages, which need not be looked
+/// at.
+class KidCounts
+{
+public:
+    static std::optional<KidCounts> of(QPDFObjectHandle node)
+    {
+        KidCounts counts;
+        QPDFObjectHandle kids = node.getKey("/Kids");
+        const std::optional<int> total = statedCount(node);
+        counts.m_kids = kids.getArrayNItems();
+        if (total == counts.m_kids)
+            return counts;
+        if (!total || !counts.addUp(kids, *total))
+            return std::nullopt;
+        return counts;
+    }
+
+    int pagesBefore(int kid) const { return m_before.empty() ? kid : m_before[kid]; }
+
+    /// The last kid with fewer than `page` pages before it.
+    int kidWith(int page) const
+    {
+        if (m_before.empty())
+            return page - 1;
+        return static_cast<int>(std::lower_bound(m_before.begin(), m_before.end(), page) - m_before.begin()) -
+               1;
+    }
+
+private:
+    bool addUp(QPDFObjectHandle kids, int total)
+    {
+        int sum = 0;
+        for (int kid = 0; kid < m_kids; ++kid) {
+            const std::optional<int> pages = pagesUnder(kids.getArrayItem(kid));
+            if (!pages || *pages > total - sum)
+                return false;
+            m_before.push_back(sum);
+            sum += *pages;
+        }
+        m_before.push_back(sum);
+        return sum == total;
+    }
+
+    int m_kids = 0;
+    std::vector<int> m_before;
+};
+
+int placeIn(QPDFObjectHandle kids, QPDFObjGen object)
+{
+    for (int kid = 0, size = kids.getArrayNItems(); kid < size; ++kid)
+        if (kids.getArrayItem(kid).getObjGen() == object)
+            return kid;
+    return -1;
+}
+
+} // namespace
+
+QPDFObjectHandle PagePath::inherited(const std::string& key, bool (*wellFormed)(QPDFObjectHandle)) const
+{
+    QPDFObjectHandle own = QPDFObjectHandle(page).getKey(key);
+    if (wellFormed(own))
+        return own;
+    for (auto node = nodes.rbegin(); node != nodes.rend(); ++node) {
+        QPDFObjectHandle value = QPDFObjectHandle(*node).getKey(key);
+        if (wellFormed(value))
+            return value;
+    }
+    return QPDFObjectHandle::newNull();
+}
+
+QPDFObjectHandle PageTree::root()
+{
+    return m_document.catalog().getKey("/Pages");
+}
+
+bool PageTree::hasPages()
+{
+    // A count can promise pages that are not there.
+    if (pageCount() > smallTree && !descend(1))
+        walk();
+    return pageCount() > 0;
+}
+
+int PageTree::pageCount()
+{
+    if (const std::optional<int> count = trustedCount())
+        return *count;
+    walk();
+    return static_cast<int>(m_leaves.size());
+}
+
+std::optional<int> PageTree::trustedCount()
+{
+    if (m_walked || kindOf(root()) != Kind::Node)
+        return std::nullopt;
+    const std::optional<int> count = statedCount(root());
+    const bool fits = count && *count > smallTree && KidCounts::of(root());
+    return fits ? count : std::nullopt;
+}
+
+const PagePath& PageTree::page(int number)
+{
+    if (number == m_lastNumber && number > 0)
+        return m_lastPath;
+    if (number < 1 || number > pageCount())
+        throw EngineError(ErrorCode::UnknownPage);
+    std::optional<PagePath> path = m_walked ? std::nullopt : descend(number);
+    if (!path) {
+        walk();
+        if (static_cast<std::size_t>(number) > m_leaves.size())
+            throw EngineError(ErrorCode::UnknownPage);
+        path = walkedPath(m_leaves[number - 1]);
+    }
+    m_lastPath = std::move(*path);
+    m_lastNumber = number;
+    return m_lastPath;
+}
+
+std::optional<PagePath> PageTree::descend(int number)
+{
+    PagePath path;
+    std::set<QPDFObjGen> seen;
+    QPDFObjectHandle node = root();
+    while (true) {
+        const std::optional<KidCounts> counts = KidCounts::of(node);
+        if (!counts || !seen.insert(node.getObjGen()).second)
+            return std::nullopt;
+        path.nodes.push_back(node);
+        path.kid = counts->kidWith(number);
+        number -= counts->pagesBefore(path.kid);
+        node = node.getKey("/Kids").getArrayItem(path.kid);
+        const Kind kind = kindOf(node);
+        if (kind == Kind::Page && number == 1) {
+            path.page = node;
+            return path;
+        }
+        if (kind != Kind::Node || number > statedCount(node))
+            return std::nullopt;
+    }
+}
+
+void PageTree::walk()
+{
+    if (m_walked)
+        return;
+    m_walked = true;
+    m_lastNumber = 0;
+    struct Step
+    {
+        int node;
+        QPDFObjectHandle kids;
+        int size;
+        int next = 0;
+    };
+    std::vector<Step> steps;
+    std::set<QPDFObjGen> seen;
+    const auto enter = [&](QPDFObjectHandle node, int parent) {
+        if (node.isIndirect() && !seen.insert(node.getObjGen()).second)
+            return;
+        m_nodes.push_back({node, parent});
+        QPDFObjectHandle kids = node.getKey("/Kids");
+        steps.push_back({static_cast<int>(m_nodes.size()) - 1, kids, kids.getArrayNItems()});
+    };
+    if (kindOf(root()) == Kind::Page)
+        m_leaves.push_back({-1, 0});
+    else if (kindOf(root()) == Kind::Node)
+        enter(root(), -1);
+    while (!steps.empty()) {
+        if (steps.back().next == steps.back().size) {
+            steps.pop_back();
+            continue;
+        }
+        Step& step = steps.back();
+        const int kid = step.next++;
+        QPDFObjectHandle object = step.kids.getArrayItem(kid);
+        const Kind kind = kindOf(object);
+        if (kind == Kind::Page)
+            m_leaves.push_back({step.node, kid});
+        else if (kind == Kind::Node)
+            enter(object, step.node);
+    }
+}
+
+QPDFObjectHandle PageTree::walkedPage(const Leaf& leaf) const
+{
+    if (leaf.node < 0)
+        return m_document.catalog().getKey("/Pages");
+    return QPDFObjectHandle(m_nodes[leaf.node].dictionary).getKey("/Kids").getArrayItem(leaf.kid);
+}
+
+PagePath PageTree::walkedPath(const Leaf& leaf) const
+{
+    PagePath path{walkedPage(leaf), {}, leaf.kid};
+    for (int node = leaf.node; node >= 0; node = m_nodes[node].parent)
+        path.nodes.push_back(m_nodes[node].dictionary);
+    std::reverse(path.nodes.begin(), path.nodes.end());
+    return path;
+}
+
+int PageTree::numberOf(const QPDFObjectHandle& page)
+{
+    if (!page.isIndirect())
+        return 0;
+    const QPDFObjGen wanted = page.getObjGen();
+    if (trustedCount()) {
+        const std::optional<int> number = climb(page);
+        if (number && this->page(*number).page.getObjGen() == wanted)
+            return *number;
+    }
+    walk();
+    const auto found = std::find_if(m_leaves.begin(), m_leaves.end(),
+                                    [&](const Leaf& leaf) { return walkedPage(leaf).getObjGen() == wanted; });
+    return found == m_leaves.end() ? 0 : static_cast<int>(found - m_leaves.begin()) + 1;
+}
+
+std::optional<int> PageTree::climb(QPDFObjectHandle page)
+{
+    std::set<QPDFObjGen> seen;
+    const QPDFObjGen top = root().getObjGen();
+    int number = 1;
+    for (QPDFObjectHandle node = page; node.getObjGen() != top;) {
+        if (!node.isDictionary() || !seen.insert(node.getObjGen()).second)
+            return std::nullopt;
+        QPDFObjectHandle parent = node.getKey("/Parent");
+        if (kindOf(parent) != Kind::Node)
+            return std::nullopt;
+        const int kid = placeIn(parent.getKey("/Kids"), node.getObjGen());
+        const std::optional<KidCounts> counts = KidCounts::of(parent);
+        if (kid < 0 || !counts || counts->pagesBefore(kid) > INT_MAX - number)
+            return std::nullopt;
+        number += counts->pagesBefore(kid);
+        node = parent;
+    }
+    return number;
+}
+
+/// The indirect object in which the /Kids that list the page are written.
+QPDFObjectHandle PageTree::holderOfKids(const PagePath& path)
+{
+    for (auto node = path.nodes.rbegin(); node != path.nodes.rend(); ++node) {
+        QPDFObjectHandle kids = QPDFObjectHandle(*node).getKey("/Kids");
+        if (kids.isIndirect())
+            return kids;
+        if (node->isIndirect())
+            return *node;
+    }
+    return m_document.catalog();
+}
+
+QPDFObjectHandle PageTree::reference(int number)
+{
+    const PagePath& path = page(number);
+    if (path.page.isIndirect())
+        return path.page;
+    QPDFObjectHandle made = m_document.pdf().makeIndirectObject(path.page);
+    if (path.nodes.empty()) {
+        m_document.catalog().replaceKey("/Pages", made);
+        m_document.markChanged(m_document.catalog());
+    } else {
+        QPDFObjectHandle(path.nodes.back()).getKey("/Kids").setArrayItem(path.kid, made);
+        m_document.markChanged(holderOfKids(path));
+    }
+    m_document.markChanged(made);
+    m_lastNumber = 0;
+    return made;
+}
+
+} // namespace engine

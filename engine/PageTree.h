@@ -1,0 +1,82 @@
+#pragma once
+
+#include <qpdf/QPDFObjGen.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace engine {
+
+class Document;
+
+/// One page and the way to it.
+struct PagePath
+{
+    QPDFObjectHandle page;
+    std::vector<QPDFObjectHandle> nodes; ///< From the root to the node whose /Kids lists the page.
+    int kid = 0;                         ///< The page's place in that /Kids.
+
+    /// The value of an inheritable attribute, taken from the way down to the page and not from /Parent, which
+    /// may lead elsewhere. \param wellFormed says whether a value counts; others are as good as absent.
+    QPDFObjectHandle inherited(const std::string& key, bool (*wellFormed)(QPDFObjectHandle)) const;
+};
+
+/// The pages of a document, numbered from 1, without reading those that nobody asks for.
+///
+/// A large tree whose counts fit together is descended by them. A small one, or one in which something does
+/// not fit, is walked whole, once: every dictionary without /Kids is a page (unless it says that it is a
+/// node), a node counts where it is met first, and what is no dictionary does not count. Neither way uses
+/// recursion.
+class PageTree
+{
+public:
+    explicit PageTree(Document& document) : m_document(document) {}
+
+    /// At least one, and the first can be reached.
+    bool hasPages();
+
+    int pageCount();
+
+    /// Throws UnknownPage.
+    const PagePath& page(int number);
+
+    /// The number of the page that an indirect object is; its first place when it is listed more than once.
+    /// \returns 0 when it is no page of the document.
+    int numberOf(const QPDFObjectHandle& page);
+
+    /// A reference to the page for a destination. A page that stands directly in its /Kids becomes an object
+    /// of its own first. Throws UnknownPage.
+    QPDFObjectHandle reference(int number);
+
+private:
+    struct Node
+    {
+        QPDFObjectHandle dictionary;
+        int parent; ///< Index of the node above, -1 for the root.
+    };
+    struct Leaf
+    {
+        int node; ///< Index of the node above, -1 for a root that is a page itself.
+        int kid;
+    };
+
+    QPDFObjectHandle root();
+    void walk();
+    PagePath walkedPath(const Leaf& leaf) const;
+    QPDFObjectHandle walkedPage(const Leaf& leaf) const;
+    std::optional<int> trustedCount();
+    std::optional<PagePath> descend(int number);
+    QPDFObjectHandle holderOfKids(const PagePath& path);
+    std::optional<int> climb(QPDFObjectHandle page);
+
+    Document& m_document;
+    bool m_walked = false;
+    std::vector<Node> m_nodes;
+    std::vector<Leaf> m_leaves;
+    int m_lastNumber = 0; ///< Number of the page in m_lastPath, 0 for none.
+    PagePath m_lastPath;
+};
+
+} // namespace engine

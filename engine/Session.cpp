@@ -1,0 +1,120 @@
+#include "engine/Session.h"
+
+#include "engine/EngineError.h"
+
+#include <climits>
+#include <mutex>
+#include <unordered_map>
+
+namespace engine {
+
+namespace {
+
+struct Registry
+{
+    std::mutex mutex;
+    std::unordered_map<int, std::shared_ptr<Session>> sessions;
+    int lastId = 0;
+};
+
+Registry& registry()
+{
+    static Registry instance;
+    return instance;
+}
+
+} // namespace
+
+int Session::create()
+{
+    auto session = std::make_shared<Session>();
+    Registry& all = registry();
+    const std::scoped_lock lock(all.mutex);
+    if (all.lastId == INT_MAX)
+        return 0;
+    all.sessions.emplace(all.lastId + 1, std::move(session));
+    return ++all.lastId;
+}
+
+void Session::release(int instance)
+{
+    Registry& all = registry();
+    std::unique_lock lock(all.mutex);
+    const auto released = all.sessions.extract(instance);
+    // Closing documents can take a while and concerns no other session.
+    lock.unlock();
+}
+
+std::shared_ptr<Session> Session::find(int instance)
+{
+    Registry& all = registry();
+    const std::scoped_lock lock(all.mutex);
+    const auto found = all.sessions.find(instance);
+    return found == all.sessions.end() ? nullptr : found->second;
+}
+
+int Session::add(std::unique_ptr<OpenDocument> document)
+{
+    m_documents.emplace(m_lastDocumentId + 1, std::move(document));
+    return m_selected = ++m_lastDocumentId;
+}
+
+std::vector<int> Session::documentIds() const
+{
+    std::vector<int> ids;
+    for (const auto& [id, document] : m_documents)
+        ids.push_back(id);
+    return ids;
+}
+
+void Session::select(int id)
+{
+    if (m_documents.count(id) == 0)
+        throw EngineError(ErrorCode::UnknownDocument);
+    m_selected = id;
+}
+
+void Session::remove(int id)
+{
+    if (m_documents.erase(id) == 0)
+        throw EngineError(ErrorCode::UnknownDocument);
+    for (auto& known : m_destinations)
+        if (known && known->documentId == id)
+            known.reset();
+    if (m_selected == id)
+        m_selected = 0;
+}
+
+OpenDocument& Session::document()
+{
+    if (m_selected == 0)
+        throw EngineError(ErrorCode::NoDocument);
+    return *m_documents.at(m_selected);
+}
+
+int Session::destinationId(const Destination& destination)
+{
+    std::size_t freeSlot = m_destinations.size();
+    for (std::size_t slot = m_destinations.size(); slot-- > 0;) {
+        const auto& known = m_destinations[slot];
+        if (!known)
+            freeSlot = slot;
+        else if (known->documentId == m_selected && known->destination == destination)
+            return static_cast<int>(slot) + 1;
+    }
+    if (freeSlot == m_destinations.size())
+        m_destinations.emplace_back();
+    m_destinations[freeSlot] = KnownDestination{m_selected, destination};
+    return static_cast<int>(freeSlot) + 1;
+}
+
+const Destination& Session::destination(int id)
+{
+    document();
+    const bool inRange = id > 0 && static_cast<std::size_t>(id) <= m_destinations.size();
+    if (!inRange || !m_destinations[id - 1] || m_destinations[id - 1]->documentId != m_selected)
+        throw EngineError(ErrorCode::UnknownDestination);
+    return m_destinations[id - 1]->destination;
+}
+
+} // namespace engine

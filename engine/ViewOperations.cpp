@@ -1,0 +1,206 @@
+#include "engine/EngineError.h"
+#include "engine/FileNameCodec.h"
+#include "engine/Operations.h"
+#include "engine/Session.h"
+#include "engine/Text.h"
+
+#include <array>
+#include <cmath>
+
+namespace engine::operations {
+
+namespace {
+
+const int fullScreen = 3;
+const int noLayout = 6;
+const int nonFullScreenOption = 7;
+const int lastDestinationType = 5;
+
+// At the library's number for it.
+const std::array pageModes{"/UseNone",    "/UseOutlines", "/UseThumbs",
+                           "/FullScreen", "/UseOC",       "/UseAttachments"};
+const std::array pageLayouts{"/SinglePage",     "/OneColumn",   "/TwoColumnLeft",
+                             "/TwoColumnRight", "/TwoPageLeft", "/TwoPageRight"};
+const std::array preferences{"",           "/HideToolbar",  "/HideMenubar",     "/HideWindowUI",
+                             "/FitWindow", "/CenterWindow", "/DisplayDocTitle", "/NonFullScreenPageMode"};
+
+/// An entry's value as the getter returns it, and whether setting that value would change anything.
+struct Stored
+{
+    int value;
+    bool replaceable; ///< Something stands there that is no valid value.
+
+    bool is(int wanted) const { return value == wanted && !replaceable; }
+};
+
+Stored storedName(QPDFObjectHandle entry, const auto& names, int absent)
+{
+    for (std::size_t number = 0; number < names.size(); ++number)
+        if (entry.isNameAndEquals(names[number]))
+            return {static_cast<int>(number), false};
+    return {absent, !entry.isNull()};
+}
+
+Stored storedPageMode(QPDFObjectHandle catalog)
+{
+    return storedName(catalog.getKey("/PageMode"), pageModes, 0);
+}
+
+Stored storedPageLayout(QPDFObjectHandle catalog)
+{
+    return storedName(catalog.getKey("/PageLayout"), pageLayouts, noLayout);
+}
+
+Stored storedPreference(QPDFObjectHandle catalog, int option)
+{
+    QPDFObjectHandle dictionary = catalog.getKey("/ViewerPreferences");
+    if (!dictionary.isDictionary())
+        return {0, !dictionary.isNull()};
+    QPDFObjectHandle entry = dictionary.getKey(preferences[option]);
+    if (option != nonFullScreenOption)
+        return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{0, !entry.isNull()};
+    const Stored mode = storedName(entry, pageModes, 0);
+    return mode.value == fullScreen ? Stored{0, true} : mode;
+}
+
+void require(bool condition, ErrorCode code)
+{
+    if (!condition)
+        throw EngineError(code);
+}
+
+void requireWithin(int value, int first, int last)
+{
+    require(value >= first && value <= last, ErrorCode::BadArgument);
+}
+
+void setCatalogEntry(Document& document, const char* key, const QPDFObjectHandle& value)
+{
+    document.catalog().replaceKeyAndGetNew(key, value);
+    document.markChanged(document.catalog());
+}
+
+/// The dictionary that a viewer preference is written to, marked as changed.
+QPDFObjectHandle changedPreferences(Document& document)
+{
+    QPDFObjectHandle dictionary = document.catalog().getKey("/ViewerPreferences");
+    if (!dictionary.isDictionary()) {
+        dictionary = QPDFObjectHandle::newDictionary();
+        document.catalog().replaceKey("/ViewerPreferences", dictionary);
+    }
+    document.markChanged(dictionary.isIndirect() ? dictionary : document.catalog());
+    return dictionary;
+}
+
+} // namespace
+
+int GetPageMode(Session& session)
+{
+    return storedPageMode(session.document().document.catalog()).value;
+}
+
+int SetPageMode(Session& session, int mode)
+{
+    Document& document = session.document().document;
+    requireWithin(mode, 0, pageModes.size() - 1);
+    if (!storedPageMode(document.catalog()).is(mode))
+        setCatalogEntry(document, "/PageMode", QPDFObjectHandle::newName(pageModes[mode]));
+    return 1;
+}
+
+int GetPageLayout(Session& session)
+{
+    return storedPageLayout(session.document().document.catalog()).value;
+}
+
+int SetPageLayout(Session& session, int layout)
+{
+    Document& document = session.document().document;
+    requireWithin(layout, 0, noLayout);
+    if (!storedPageLayout(document.catalog()).is(layout))
+        setCatalogEntry(document, "/PageLayout",
+                        layout == noLayout ? QPDFObjectHandle::newNull()
+                                           : QPDFObjectHandle::newName(pageLayouts[layout]));
+    return 1;
+}
+
+int GetViewerPreferences(Session& session, int option)
+{
+    QPDFObjectHandle catalog = session.document().document.catalog();
+    requireWithin(option, 1, nonFullScreenOption);
+    return storedPreference(catalog, option).value;
+}
+
+int SetViewerPreferences(Session& session, int option, int value)
+{
+    Document& document = session.document().document;
+    requireWithin(option, 1, nonFullScreenOption);
+    const bool isMode = option == nonFullScreenOption;
+    requireWithin(value, 0, isMode ? pageModes.size() - 1 : 1);
+    require(!isMode || value != fullScreen, ErrorCode::BadArgument);
+    if (!storedPreference(document.catalog(), option).is(value))
+        changedPreferences(document).replaceKey(preferences[option],
+                                                isMode ? QPDFObjectHandle::newName(pageModes[value])
+                                                       : QPDFObjectHandle::newBool(value != 0));
+    return 1;
+}
+
+int GetOpenActionDestination(Session& session)
+{
+    OpenDocument& open = session.document();
+    const auto target = openActionTarget(open.document);
+    const auto destination = target ? readDestination(*target, open.pages) : std::nullopt;
+    return destination ? session.destinationId(*destination) : 0;
+}
+
+int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destType, double left, double top,
+                                 double right, double bottom)
+{
+    OpenDocument& open = session.document();
+    requireWithin(destType, 1, lastDestinationType);
+    require(zoom >= 0, ErrorCode::BadArgument);
+    for (const double coordinate : {left, top, right, bottom})
+        require(std::isfinite(coordinate), ErrorCode::BadArgument);
+    const QPDFObjectHandle target = open.pages.page(page).page;
+    QPDFObjectHandle operands = destinationOperands(destType, zoom, left, top);
+    const auto present = openActionTarget(open.document);
+    if (present && isWrittenAs(present->array, target, operands))
+        return 1;
+    operands.insertItem(0, open.pages.reference(page));
+    setCatalogEntry(open.document, "/OpenAction", operands);
+    return 1;
+}
+
+int RemoveOpenAction(Session& session)
+{
+    Document& document = session.document().document;
+    if (document.catalog().hasKey("/OpenAction"))
+        setCatalogEntry(document, "/OpenAction", QPDFObjectHandle::newNull());
+    return 1;
+}
+
+int GetDestType(Session& session, int destId)
+{
+    return session.destination(destId).type;
+}
+
+int GetDestPage(Session& session, int destId)
+{
+    return session.destination(destId).page;
+}
+
+double GetDestValue(Session& session, int destId, int valueKey)
+{
+    const Destination& destination = session.destination(destId);
+    const std::array values{&Destination::left, &Destination::top, &Destination::right, &Destination::bottom,
+                            &Destination::zoom};
+    requireWithin(valueKey, 1, values.size());
+    return destination.*values[valueKey - 1];
+}
+
+std::wstring GetDestName(Session& session, int destId)
+{
+    return wideFromUtf8(session.destination(destId).name);
+}
+
+} // namespace engine::operations

@@ -1,0 +1,249 @@
+#include "engine/EngineError.h"
+#include "engine/OperationSlots.h"
+#include "engine/Operations.h"
+#include "engine/Session.h"
+
+#include <algorithm>
+#include <climits>
+#include <exception>
+#include <new>
+#include <type_traits>
+
+namespace {
+
+using namespace engine;
+
+// What the library really has. Everything else is not available.
+constexpr OperationSlots implemented()
+{
+    OperationSlots slots;
+    slots.LoadFromFile = operations::LoadFromFile;
+    slots.LoadFromString = operations::LoadFromString;
+    slots.DocumentCount = operations::DocumentCount;
+    slots.GetDocumentID = operations::GetDocumentID;
+    slots.SelectDocument = operations::SelectDocument;
+    slots.SelectedDocument = operations::SelectedDocument;
+    slots.RemoveDocument = operations::RemoveDocument;
+    slots.GetDocumentFileName = operations::GetDocumentFileName;
+    slots.GetDocumentRepaired = operations::GetDocumentRepaired;
+    slots.GetInformation = operations::GetInformation;
+    slots.IsLinearized = operations::IsLinearized;
+    slots.EncryptionStatus = operations::EncryptionStatus;
+    slots.SecurityInfo = operations::SecurityInfo;
+    slots.LastErrorCode = operations::LastErrorCode;
+    slots.LibraryVersion = operations::LibraryVersion;
+
+    slots.GetPageMode = operations::GetPageMode;
+    slots.SetPageMode = operations::SetPageMode;
+    slots.GetPageLayout = operations::GetPageLayout;
+    slots.SetPageLayout = operations::SetPageLayout;
+    slots.GetViewerPreferences = operations::GetViewerPreferences;
+    slots.SetViewerPreferences = operations::SetViewerPreferences;
+    slots.GetOpenActionDestination = operations::GetOpenActionDestination;
+    slots.SetOpenActionDestinationFull = operations::SetOpenActionDestinationFull;
+    slots.RemoveOpenAction = operations::RemoveOpenAction;
+    slots.GetDestType = operations::GetDestType;
+    slots.GetDestPage = operations::GetDestPage;
+    slots.GetDestValue = operations::GetDestValue;
+    slots.GetDestName = operations::GetDestName;
+
+    slots.PageCount = operations::PageCount;
+    slots.SelectPage = operations::SelectPage;
+    slots.SelectedPage = operations::SelectedPage;
+    slots.GetPageBox = operations::GetPageBox;
+    slots.PageWidth = operations::PageWidth;
+    slots.PageHeight = operations::PageHeight;
+    slots.PageRotation = operations::PageRotation;
+
+    slots.GetInstalledFontsByCharset = operations::GetInstalledFontsByCharset;
+    return slots;
+}
+
+constexpr OperationSlots implementations = implemented();
+
+/// How a type crosses the C boundary: numbers as they are, strings as pointers.
+template <class Type>
+struct Crossing
+{
+    using Argument = Type;
+    using Result = Type;
+    static Type in(Session&, Type value) { return value; }
+    static Type out(Session&, Type value) { return value; }
+};
+
+template <>
+struct Crossing<std::wstring>
+{
+    using Argument = char*;
+    using Result = wchar_t*;
+    static std::wstring_view in(Session& session, char* buffer) { return session.buffers.takeWide(buffer); }
+    static wchar_t* out(Session& session, std::wstring&& text)
+    {
+        session.wideResult = std::move(text);
+        return session.wideResult.data();
+    }
+};
+
+template <>
+struct Crossing<std::string>
+{
+    using Argument = char*;
+    using Result = char*;
+    static std::string_view in(Session& session, const char* text) { return session.buffers.bytes(text); }
+    static char* out(Session& session, std::string&& bytes)
+    {
+        session.byteResult = std::move(bytes);
+        return session.byteResult.data();
+    }
+};
+
+/// The code for the exception being handled.
+ErrorCode codeOfCurrentException() noexcept
+{
+    try {
+        throw;
+    } catch (const EngineError& error) {
+        return error.code();
+    } catch (const QPDFExc& error) {
+        return errorCodeOf(error);
+    } catch (const std::bad_alloc&) {
+        return ErrorCode::OutOfMemory;
+    } catch (const std::logic_error&) {
+        return ErrorCode::Internal;
+    } catch (const std::runtime_error&) {
+        // libqpdf's way to say that numbers in the document are beyond what can be
+        return ErrorCode::Damaged;
+    } catch (...) {
+        return ErrorCode::Internal;
+    }
+}
+
+/// One call of an instance. The results of the call before stay until it ends, since an argument may point to
+/// them.
+class Call
+{
+public:
+    explicit Call(Session& session)
+        : m_session(session), m_oldWide(std::move(session.wideResult)),
+          m_oldBytes(std::move(session.byteResult))
+    {
+        session.beginCall();
+        session.wideResult.clear();
+        session.byteResult.clear();
+    }
+    ~Call() { m_session.buffers.releaseTaken(); }
+    Call(const Call&) = delete;
+    Call& operator=(const Call&) = delete;
+
+private:
+    Session& m_session;
+    std::wstring m_oldWide;
+    std::string m_oldBytes;
+};
+
+/// The one way into the library: finds the session, runs the implementation, and turns whatever it throws
+/// into an error code and the empty result.
+template <class Signature>
+struct Entry;
+
+template <class Result, class... Parameters>
+struct Entry<Result(Parameters...)>
+{
+    using Returned = typename Crossing<Result>::Result;
+
+    static Returned call(typename SlotFor<Result(Parameters...)>::Pointer slot, int instance,
+                         typename Crossing<Parameters>::Argument... arguments) noexcept
+    {
+        const std::shared_ptr<Session> session = Session::find(instance);
+        if (session == nullptr)
+            return Returned();
+        const Call running(*session);
+        try {
+            return Crossing<Result>::out(*session,
+                                         slot(*session, Crossing<Parameters>::in(*session, arguments)...));
+        } catch (...) {
+            session->setLastError(codeOfCurrentException());
+            return Crossing<Result>::out(*session, Result());
+        }
+    }
+};
+
+template <class Result, class Function>
+Result guarded(Function function) noexcept
+{
+    try {
+        return function();
+    } catch (...) {
+        return Result();
+    }
+}
+
+int lengthOf(std::size_t length)
+{
+    return static_cast<int>(std::min<std::size_t>(length, INT_MAX));
+}
+
+} // namespace
+
+#define TPL_ARGUMENTS(...) __VA_OPT__(, ) __VA_ARGS__
+
+extern "C" {
+
+using I = int;
+using D = double;
+using W = char*;
+using B = char*;
+
+// int TPLSetPageLayout(int instance, int layout)
+// { return Entry<Signatures::SetPageLayout>::call(implementations.SetPageLayout, instance, layout); }
+#define TPL_OP(Result, Name, Arguments, ...)                                                                 \
+    Entry<Signatures::Name>::Returned TPL##Name(int instance TPL_ARGUMENTS(__VA_ARGS__))                     \
+    {                                                                                                        \
+        return Entry<Signatures::Name>::call(implementations.Name, instance TPL_ARGUMENTS Arguments);        \
+    }
+#include "pdflibrary/operations.def"
+#undef TPL_OP
+
+int TPLCreateLibrary()
+{
+    return guarded<int>([] { return Session::create(); });
+}
+
+void TPLReleaseLibrary(int instance)
+{
+    guarded<int>([&] { return Session::release(instance), 0; });
+}
+
+char* TPLCreateBuffer(int instance, int size)
+{
+    return guarded<char*>([&]() -> char* {
+        const auto session = Session::find(instance);
+        return session != nullptr ? session->buffers.create(size) : nullptr;
+    });
+}
+
+void TPLAddToBuffer(int instance, char* buffer, const char* source, int size)
+{
+    if (const auto session = Session::find(instance))
+        session->buffers.add(buffer, source, size);
+}
+
+void TPLReleaseBuffer(int instance, char* buffer)
+{
+    if (const auto session = Session::find(instance))
+        session->buffers.release(buffer);
+}
+
+int TPLStringResultLength(int instance)
+{
+    const auto session = Session::find(instance);
+    return session != nullptr ? lengthOf(session->wideResult.size()) : 0;
+}
+
+int TPLAnsiStringResultLength(int instance)
+{
+    const auto session = Session::find(instance);
+    return session != nullptr ? lengthOf(session->byteResult.size()) : 0;
+}
+
+} // extern "C"
