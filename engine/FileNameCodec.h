@@ -56,7 +56,7 @@ inline void appendUtf8(std::string& bytes, char32_t code)
         return;
     }
     const int continuations = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
-    bytes.push_back(static_cast<char>((0xf00u >> continuations & 0xff) | code >> 6 * continuations));
+    bytes.push_back(static_cast<char>((0xff00u >> (continuations + 1) & 0xff) | code >> 6 * continuations));
     for (int left = continuations - 1; left >= 0; --left)
         bytes.push_back(static_cast<char>(0x80 | (code >> 6 * left & 0x3f)));
 }

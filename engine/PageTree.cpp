@@ -213,7 +213,7 @@ void PageTree::walk()
         QPDFObjectHandle kids = node.getKey("/Kids");
         steps.push_back({static_cast<int>(m_nodes.size()) - 1, kids, kids.getArrayNItems()});
     };
-    if (kindOf(root()) == Kind::Page)
+    if (root().isDictionaryOfType("/Page") && kindOf(root()) == Kind::Page)
         m_leaves.push_back({-1, 0});
     else if (kindOf(root()) == Kind::Node)
         enter(root(), -1);
