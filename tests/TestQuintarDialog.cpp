@@ -19,7 +19,7 @@ class Dialog : public CQuintarDialog
     Q_OBJECT
 
 public:
-    explicit Dialog(QWidget* parent = nullptr) : CQuintarDialog(parent, false), content(new QWidget)
+    explicit Dialog(QWidget* parent = nullptr) : CQuintarDialog(parent, false), content(new QWidget(this))
     {
         content->setObjectName("main_widget");
         content->resize(400, 300);

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// One drawn row; a row without lines or outline still shows its background.
+/// One drawn row.
 struct Sample
 {
     QString label;
@@ -130,10 +130,9 @@ Picker lineWeightPicker()
     return {QSize(30, 14), false, samples, 15, 0};
 }
 
-QPixmap painted(const Sample& sample, const QSize& size, qreal pixelRatio)
+QPixmap painted(const Sample& sample, const QSize& size)
 {
-    QPixmap pixmap(size * pixelRatio);
-    pixmap.setDevicePixelRatio(pixelRatio);
+    QPixmap pixmap(size);
     pixmap.fill(sample.background);
     QPainter painter(&pixmap);
     painter.setPen(sample.pen);
@@ -142,28 +141,25 @@ QPixmap painted(const Sample& sample, const QSize& size, qreal pixelRatio)
     return pixmap;
 }
 
-QStandardItem* itemFor(const Sample& sample, const QSize& iconSize, qreal pixelRatio)
+QStandardItem* itemFor(const Sample& sample, const QSize& iconSize)
 {
     auto* item = new QStandardItem;
     if (!sample.label.isEmpty())
         item->setText(sample.label);
     if (sample.value.isValid())
         item->setData(sample.value);
-    QIcon icon(painted(sample, iconSize, 1));
-    if (pixelRatio > 1)
-        icon.addPixmap(painted(sample, iconSize, pixelRatio));
-    item->setData(icon, Qt::DecorationRole);
+    item->setData(QIcon(painted(sample, iconSize)), Qt::DecorationRole);
     return item;
 }
 
-QStandardItemModel* modelFor(const Picker& picker, qreal pixelRatio)
+QStandardItemModel* modelFor(const Picker& picker)
 {
     auto* model = new QStandardItemModel(0, 0, nullptr);
     model->setProperty(ownModelMark, true);
     if (picker.hasNoneRow)
         model->setItem(0, new QStandardItem(noneLabel));
     for (const Sample& sample : picker.samples)
-        model->setItem(model->rowCount(), itemFor(sample, picker.iconSize, pixelRatio));
+        model->setItem(model->rowCount(), itemFor(sample, picker.iconSize));
     return model;
 }
 
@@ -192,7 +188,7 @@ void fitView(QTableView* view, int width, int rows, int rowHeight)
 void setUp(QComboBox* box, const Picker& picker)
 {
     box->setIconSize(picker.iconSize);
-    QStandardItemModel* const model = modelFor(picker, box->devicePixelRatioF());
+    QStandardItemModel* const model = modelFor(picker);
     auto* view = new QTableView(box);
     installModel(box, model);
     box->setView(view);

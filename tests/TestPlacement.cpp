@@ -1,0 +1,354 @@
+#include "CActionUtils.h"
+#include "CUtils.h"
+
+#include <QFont>
+#include <QPainter>
+#include <QRandomGenerator>
+#include <QTextOption>
+#include <QtTest>
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+using Prefs = QMap<QString, QVariant>;
+
+const double pageWidth = 612;
+const double pageHeight = 792;
+const QTransform untouched(1, 2, 3, 4, 5, 6, 7, 8, 9);
+
+QMatrix placed(Prefs prefs, double width = 100, double height = 50)
+{
+    return CActionUtils::Prefs2Matrix(&prefs, width, height, pageWidth, pageHeight);
+}
+
+QRectF placedBox(const Prefs& prefs, double width = 100, double height = 50)
+{
+    return placed(prefs, width, height).mapRect(QRectF(0, 0, 1, 1));
+}
+
+/// QTransform::map takes a perspective of less than 1e-12 for none.
+QPointF mapped(const QTransform& m, double x, double y)
+{
+    const double w = m.m13() * x + m.m23() * y + m.m33();
+    return QPointF((m.m11() * x + m.m21() * y + m.m31()) / w, (m.m12() * x + m.m22() * y + m.m32()) / w);
+}
+
+bool isNear(QPointF a, QPointF b, double tolerance)
+{
+    return std::abs(a.x() - b.x()) <= tolerance && std::abs(a.y() - b.y()) <= tolerance;
+}
+
+std::array<double, 9> elements(const QTransform& m)
+{
+    return {m.m11(), m.m12(), m.m13(), m.m21(), m.m22(), m.m23(), m.m31(), m.m32(), m.m33()};
+}
+
+bool isNear(const QTransform& a, const QTransform& b)
+{
+    const auto first = elements(a);
+    const auto second = elements(b);
+    return std::equal(first.begin(), first.end(), second.begin(),
+                      [](double x, double y) { return std::abs(x - y) < 1e-8; });
+}
+
+/// The same numbers in every run.
+class Numbers
+{
+public:
+    double between(double low, double high) { return low + m_generator.generateDouble() * (high - low); }
+    QPointF pointNear(double x, double y, double spread)
+    {
+        return QPointF(x + between(-spread, spread), y + between(-spread, spread));
+    }
+
+private:
+    QRandomGenerator m_generator{7};
+};
+
+} // namespace
+
+class TestPlacement : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void converts_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<double>("result");
+        const double v = 7.3;
+        const double results[4][4] = {{v, v * 2.54, v * 2.54 * 10, v * 72},
+                                      {v / 2.54, v, v * 10, v * 72 / 2.54},
+                                      {v / 25.4, v / 10, v, v * 72 / 25.4},
+                                      {v / 72, v * 2.54 / 72, v * 2.54 * 10 / 72, v}};
+        for (int from = 0; from < 4; ++from) {
+            for (int to = 0; to < 4; ++to)
+                QTest::addRow("%d to %d", from, to) << from << v << to << results[from][to];
+        }
+        QTest::newRow("an inch of centimetres in points") << 1 << 2.54 << 3 << 72.0;
+        QTest::newRow("an inch of points in millimetres") << 3 << 72.0 << 2 << 25.4;
+        QTest::newRow("unknown source") << 5 << 7.0 << 0 << 7.0;
+        QTest::newRow("negative source") << -1 << 7.0 << 3 << 7.0;
+        QTest::newRow("unknown target") << 0 << 7.0 << 4 << 7.0;
+        QTest::newRow("negative target") << 0 << 7.0 << -1 << 7.0;
+    }
+
+    void converts()
+    {
+        QFETCH(int, from);
+        QFETCH(double, value);
+        QFETCH(int, to);
+        QFETCH(double, result);
+        const double converted = CUtils::Convert(from, value, to);
+        QVERIFY2(converted == result, qPrintable(QString::number(converted, 'g', 17)));
+    }
+
+    void convertsNoWideUnitNumbers()
+    {
+        QCOMPARE(CUtils::Convert(4294967296L, 7, 3), 7.0);
+        QCOMPARE(CUtils::Convert(LONG_MIN, 7, LONG_MAX), 7.0);
+    }
+
+    void places_data()
+    {
+        QTest::addColumn<Prefs>("prefs");
+        QTest::addColumn<QMatrix>("matrix");
+        const auto row = [](const char* why, const Prefs& prefs, const QMatrix& matrix) {
+            QTest::newRow(why) << prefs << matrix;
+        };
+        row("top left corner by default", {}, QMatrix(100, 0, 0, 50, 0, 742));
+        row("centre", {{"horizontalFromCombo", 2}, {"verticalFromCombo", 2}},
+            QMatrix(100, 0, 0, 50, 256, 371));
+        row("bottom right corner", {{"horizontalFromCombo", 1}, {"verticalFromCombo", 1}},
+            QMatrix(100, 0, 0, 50, 512, 0));
+        row("an inch from the left, down from the top",
+            {{"unitsComboBox", 0}, {"horiznotalSpinBox", 1}, {"verticalSpinBox", 1}},
+            QMatrix(100, 0, 0, 50, 72, 670));
+        row("an inch in from the right, up from the bottom",
+            {{"unitsComboBox", 0},
+             {"horiznotalSpinBox", 1},
+             {"verticalSpinBox", 1},
+             {"horizontalFromCombo", 1},
+             {"verticalFromCombo", 1}},
+            QMatrix(100, 0, 0, 50, 440, 72));
+        row("right of and below the centre",
+            {{"horiznotalSpinBox", 10},
+             {"verticalSpinBox", 20},
+             {"horizontalFromCombo", 2},
+             {"verticalFromCombo", 2}},
+            QMatrix(100, 0, 0, 50, 266, 351));
+        row("any other reference shifts from the origin",
+            {{"horiznotalSpinBox", 10},
+             {"verticalSpinBox", 20},
+             {"horizontalFromCombo", 3},
+             {"verticalFromCombo", -1}},
+            QMatrix(100, 0, 0, 50, 10, 20));
+        row("any other unit counts as points", {{"unitsComboBox", 9}, {"horiznotalSpinBox", 10}},
+            QMatrix(100, 0, 0, 50, 10, 742));
+        row("size in percent", {{"sizeSpinBox", 50}, {"sizeSpinBoxY", 200}}, QMatrix(50, 0, 0, 100, 0, 692));
+        row("one size alone", {{"sizeSpinBoxY", 10}}, QMatrix(100, 0, 0, 5, 0, 787));
+        row("a quarter turn clockwise", {{"rotationSpinBox", 90}}, QMatrix(0, -100, 50, 0, 0, 792));
+        row("half a turn", {{"rotationSpinBox", 180}}, QMatrix(-100, 0, 0, -50, 100, 792));
+        row("texts are numbers too", {{"sizeSpinBox", "50"}, {"horizontalFromCombo", "1"}},
+            QMatrix(50, 0, 0, 50, 562, 742));
+    }
+
+    void places()
+    {
+        QFETCH(Prefs, prefs);
+        QFETCH(QMatrix, matrix);
+        const QMatrix result = placed(prefs);
+        QVERIFY2(qFuzzyCompare(result, matrix), QTest::toString(QTransform(result)));
+    }
+
+    void readsWithoutChangingThePrefs()
+    {
+        Prefs prefs{{"rotationSpinBox", 30}};
+        CActionUtils::Prefs2Matrix(&prefs, 100, 50, pageWidth, pageHeight);
+        QCOMPARE(prefs, (Prefs{{"rotationSpinBox", 30}}));
+    }
+
+    void keepsTheBoxAtItsEdges()
+    {
+        Numbers numbers;
+        const double tolerance = 1e-9;
+        for (int round = 0; round < 500; ++round) {
+            Prefs prefs{{"rotationSpinBox", numbers.between(-400, 400)},
+                        {"sizeSpinBox", numbers.between(1, 300)},
+                        {"sizeSpinBoxY", numbers.between(1, 300)}};
+            const double width = numbers.between(1, 500);
+            const double height = numbers.between(1, 500);
+            const QRectF topLeft = placedBox(prefs, width, height);
+            QVERIFY(std::abs(topLeft.left()) < tolerance);
+            QVERIFY(std::abs(topLeft.bottom() - pageHeight) < tolerance);
+
+            prefs["horizontalFromCombo"] = prefs["verticalFromCombo"] = 1;
+            const QRectF bottomRight = placedBox(prefs, width, height);
+            QVERIFY(std::abs(bottomRight.right() - pageWidth) < tolerance);
+            QVERIFY(std::abs(bottomRight.top()) < tolerance);
+
+            prefs["horizontalFromCombo"] = prefs["verticalFromCombo"] = 2;
+            const QPointF middle = placedBox(prefs, width, height).center();
+            QVERIFY(isNear(middle, QPointF(pageWidth / 2, pageHeight / 2), tolerance));
+        }
+    }
+
+    void adjugates()
+    {
+        Numbers numbers;
+        for (int round = 0; round < 500; ++round) {
+            const auto n = [&numbers] { return numbers.between(-10, 10); };
+            const QTransform a(n(), n(), n(), n(), n(), n(), n(), n(), n());
+            QTransform adjoint;
+            const double det = CUtils::mx3d_adjoint(a, adjoint);
+            QVERIFY(std::abs(det - a.determinant()) < 1e-9);
+            QVERIFY(isNear(a * adjoint, QTransform(det, 0, 0, 0, det, 0, 0, 0, det)));
+        }
+    }
+
+    void adjugatesSingularMatrices()
+    {
+        QTransform adjoint;
+        QCOMPARE(CUtils::mx3d_adjoint(untouched, adjoint), 0.0);
+        QCOMPARE(adjoint, QTransform(-3, 6, -3, 6, -12, 6, -3, 6, -3));
+    }
+
+    void mapsTheSquare_data()
+    {
+        QTest::addColumn<QVector<QPointF>>("quad");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QTransform>("matrix");
+        using Quad = QVector<QPointF>;
+        QTest::newRow("square") << Quad{{0, 0}, {2, 0}, {2, 2}, {0, 2}} << 1
+                                << QTransform(2, 0, 0, 0, 2, 0, 0, 0, 1);
+        QTest::newRow("parallelogram")
+            << Quad{{1, 2}, {4, 3}, {6, 7}, {3, 6}} << 1 << QTransform(3, 1, 0, 2, 4, 0, 1, 2, 1);
+        QTest::newRow("parallel but for a trifle") << Quad{{0, 0}, {2, 0}, {2, 2 + 4e-14}, {0, 2}} << 1
+                                                   << QTransform(2, 0, 0, 0, 2 + 4e-14, 0, 0, 0, 1);
+        QTest::newRow("parallel but for more")
+            << Quad{{0, 0}, {2, 0}, {2, 2 + 1e-12}, {0, 2}} << 2 << QTransform(2, 0, 0, 0, 2, 0, 0, 0, 1);
+        QTest::newRow("projective") << Quad{{0, 0}, {2, 0}, {3, 3}, {0, 2}} << 2
+                                    << QTransform(1.5, 0, -0.25, 0, 1.5, -0.25, 0, 0, 1);
+        QTest::newRow("last three in line") << Quad{{0, 0}, {2, 0}, {1, 1}, {0, 2}} << 0 << untouched;
+        QTest::newRow("four in line") << Quad{{0, 0}, {1, 1}, {2, 2}, {5, 5}} << 0 << untouched;
+        QTest::newRow("one point") << Quad{{3, 3}, {3, 3}, {3, 3}, {3, 3}} << 1
+                                   << QTransform(0, 0, 0, 0, 0, 0, 3, 3, 1);
+    }
+
+    void mapsTheSquare()
+    {
+        QFETCH(QVector<QPointF>, quad);
+        QTransform result = untouched;
+        QTEST(CUtils::pmap_square_quad(quad[0], quad[1], quad[2], quad[3], result), "kind");
+        QFETCH(QTransform, matrix);
+        QVERIFY2(isNear(result, matrix), QTest::toString(result));
+    }
+
+    void mapsRandomRectangles()
+    {
+        Numbers numbers;
+        for (int round = 0; round < 500; ++round) {
+            const QPointF quad[] = {numbers.pointNear(0, 0, 30), numbers.pointNear(100, 0, 30),
+                                    numbers.pointNear(100, 100, 30), numbers.pointNear(0, 100, 30)};
+            const double u0 = numbers.between(-50, 50);
+            const double v0 = numbers.between(-50, 50);
+            const double u1 = u0 + numbers.between(1, 90);
+            const double v1 = v0 - numbers.between(1, 90);
+            const QPointF corners[] = {{u0, v0}, {u1, v0}, {u1, v1}, {u0, v1}};
+            QTransform toQuad;
+            QVERIFY(CUtils::pmap_quad_rect(u0, v0, u1, v1, quad[0], quad[1], quad[2], quad[3], toQuad));
+            QTransform back;
+            CUtils::mx3d_adjoint(toQuad, back);
+            for (int i = 0; i < 4; ++i) {
+                QVERIFY(isNear(mapped(toQuad, corners[i].x(), corners[i].y()), quad[i], 1e-6));
+                QVERIFY(isNear(mapped(back, quad[i].x(), quad[i].y()), corners[i], 1e-6));
+            }
+        }
+    }
+
+    void mapsARectangle()
+    {
+        const QPointF p0(0, 0), p1(2, 0), p2(3, 3), p3(0, 2);
+        QTransform m = untouched;
+        QVERIFY(CUtils::pmap_quad_rect(10, 20, 30, 60, p0, p1, p2, p3, m));
+        QVERIFY(isNear(mapped(m, 10, 20), p0, 1e-12) && isNear(mapped(m, 30, 20), p1, 1e-12));
+        QVERIFY(isNear(mapped(m, 30, 60), p2, 1e-12) && isNear(mapped(m, 10, 60), p3, 1e-12));
+
+        m = untouched;
+        QVERIFY2(!CUtils::pmap_quad_rect(10, 20, 10, 60, p0, p1, p2, p3, m), "no width");
+        QVERIFY2(!CUtils::pmap_quad_rect(10, 20, 30, 20, p0, p1, p2, p3, m), "no height");
+        QVERIFY2(!CUtils::pmap_quad_rect(10, 20, 30, 60, p0, p1, {1, 1}, p3, m), "no area on one side");
+        QCOMPARE(m, untouched);
+    }
+
+    void measuresText()
+    {
+        const QFont font("DejaVu Sans", 12);
+        QFont larger = font;
+        larger.setPointSize(24);
+        const QString words = "some words that need several lines where the width is small";
+        const double single = CActionUtils::GetTextItemHeight(font, words, 5000);
+        const double wrapped = CActionUtils::GetTextItemHeight(font, words, 80);
+        QVERIFY(single > 0);
+        QVERIFY(wrapped > 2 * single);
+        QVERIFY(CActionUtils::GetTextItemHeight(larger, words, 5000) > 1.5 * single);
+        QVERIFY(CActionUtils::GetTextItemHeight(font, "a<br>b<br>c", 5000) > 2 * single);
+    }
+
+    void drawsTextIcons_data()
+    {
+        QTest::addColumn<double>("width");
+        QTest::addColumn<double>("height");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("wide") << 300.9 << 150.9 << QSize(128, 64);
+        QTest::newRow("high") << 100.0 << 400.0 << QSize(32, 128);
+        QTest::newRow("small is enlarged") << 16.0 << 8.0 << QSize(128, 64);
+        QTest::newRow("narrow keeps a pixel") << 1000.0 << 1.0 << QSize(128, 1);
+        QTest::newRow("huge") << 1e9 << 5e8 << QSize(128, 64);
+        QTest::newRow("beyond int") << 1e300 << 1e300 << QSize(128, 128);
+        QTest::newRow("no width") << 0.9 << 10.0 << QSize();
+        QTest::newRow("negative height") << 10.0 << -10.0 << QSize();
+        QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 10.0 << QSize();
+    }
+
+    void drawsTextIcons()
+    {
+        QFETCH(double, width);
+        QFETCH(double, height);
+        QFETCH(QSize, size);
+        QIcon icon;
+        CActionUtils::GenerateTextItemIcon(width, height, "text", &icon);
+        const QList<QSize> sizes = icon.availableSizes(QIcon::Normal, QIcon::Off);
+        QCOMPARE(sizes, size.isValid() ? QList<QSize>{size} : QList<QSize>());
+    }
+
+    void drawsTheTextOfAnIcon()
+    {
+        QImage image(200, 100, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.drawText(QRectF(0, 0, 200, 100), "some text that wraps at the edge", QTextOption());
+        painter.end();
+        const QImage expected = QPixmap::fromImage(image)
+                                    .scaled(128, 128, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                                    .toImage();
+        QIcon icon;
+        CActionUtils::GenerateTextItemIcon(200.7, 100.2, "some text that wraps at the edge", &icon);
+        const QImage drawn = icon.pixmap(128, 64).toImage();
+        QCOMPARE(drawn.convertToFormat(QImage::Format_ARGB32),
+                 expected.convertToFormat(QImage::Format_ARGB32));
+        QImage empty = drawn;
+        empty.fill(Qt::transparent);
+        QVERIFY2(drawn != empty, "there is something to see");
+    }
+};
+
+QTEST_MAIN(TestPlacement)
+#include "TestPlacement.moc"
