@@ -25,6 +25,9 @@ CPrefsDialog::CPrefsDialog(QWidget* parent) : CQuintarDialog(parent, true)
 {
     ui.setupUi(this);
     titleLabel->setText(windowTitle());
+    // The labels differ in their last words, and the dialog is too narrow to show them.
+    connect(ui.PageLayoutComboBox, &QComboBox::currentTextChanged, ui.PageLayoutComboBox,
+            &QWidget::setToolTip);
     QDaddMainWidget(ui.main_widget, true);
     QDaddTopButtons();
     QDaddCloseButton();
