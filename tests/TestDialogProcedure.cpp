@@ -1,0 +1,294 @@
+#include "EditInitialView/CPrefsDialog.h"
+#include "EditInitialView/InitialViewSettings.h"
+#include "EditInitialView/editinitialview.h"
+#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
+#include "shared/CUtils.h"
+
+#include "support/Mute.h"
+#include "support/Recorder.h"
+
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+
+using namespace initialview;
+
+namespace {
+
+using Prefs = QMap<QString, QVariant>;
+using Visit = std::function<void(CPrefsDialog&)>;
+
+const int document = 7;
+
+template <class Labels>
+QStringList listOf(const Labels& labels)
+{
+    return QStringList(labels.begin(), labels.end());
+}
+
+QStringList itemsOf(const QComboBox* list)
+{
+    QStringList items;
+    for (int row = 0; row < list->count(); ++row)
+        items << list->itemText(row);
+    return items;
+}
+
+void pressOk(CPrefsDialog& dialog)
+{
+    dialog.ui.okButton->click();
+}
+
+void pressCancel(CPrefsDialog& dialog)
+{
+    dialog.ui.cancelButton->click();
+}
+
+} // namespace
+
+class TestDialogProcedure : public QObject
+{
+    Q_OBJECT
+
+private:
+    Recorder m_recorder;
+    TelvarPDFLibraryCPDylibCPP1311 m_library{Recorder::path()};
+    Prefs m_prefs;
+
+    DialogLoadStruct load()
+    {
+        DialogLoadStruct load{};
+        load.pPDFLibrary = &m_library;
+        load.nDocumentID = document;
+        load.pSettings = &m_prefs;
+        return load;
+    }
+
+    /// Runs the procedure; `visit` uses the dialog once it is up.
+    static int run(DialogLoadStruct load, const Visit& visit, QWidget* parent = nullptr)
+    {
+        bool visited = false;
+        QTimer::singleShot(0, [&] {
+            if (auto* dialog = qobject_cast<CPrefsDialog*>(QApplication::activeModalWidget())) {
+                visited = true;
+                visit(*dialog);
+                if (dialog->isVisible())
+                    dialog->reject();
+            }
+        });
+        const int result = CEditInitialView().ShowDialogProc(parent, &load);
+        return visited ? result : -1;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        muteFrameWarnings();
+        CUtils::SetOpenGLSupport(false);
+    }
+
+    void init()
+    {
+        m_recorder.reset();
+        m_prefs.clear();
+    }
+
+    void readsTheDocumentInOrder()
+    {
+        m_recorder.returns("GetPageMode", 4);
+        m_recorder.returns("GetPageLayout", 5);
+        m_recorder.returns("GetOpenActionDestination", 12);
+        m_recorder.returns("GetDestType", 3);
+        m_recorder.returns("GetDestPage", 70);
+        m_recorder.returns("GetViewerPreferences(1)", 1);
+        m_recorder.returns("GetViewerPreferences(2)", 2); // only 1 means yes
+        m_recorder.returns("GetViewerPreferences(4)", 1);
+        m_recorder.returns("GetViewerPreferences(5)", -1);
+        m_prefs = {{key::Show, 1}, {key::PageLayout, 2}, {"CollectionName", "kept"}};
+        QCOMPARE(run(load(), pressCancel), 0);
+        QCOMPARE(m_recorder.takeLog(),
+                 QStringList({"SelectDocument(7)", "GetPageMode()", "GetPageLayout()",
+                              "GetOpenActionDestination()", "GetDestType(12)", "GetDestPage(12)",
+                              "GetViewerPreferences(1)", "GetViewerPreferences(2)", "GetViewerPreferences(3)",
+                              "GetViewerPreferences(4)", "GetViewerPreferences(5)", "GetPageMode()"}));
+        const Prefs expected{{key::NavigationTab, 3},
+                             {key::PageLayout, 5},
+                             {key::Magnification, 2},
+                             {key::OpenToPage, 70},
+                             {key::HideToolBars, true},
+                             {key::HideMenuBar, false},
+                             {key::HideCtrlWindows, false},
+                             {key::ResizeWinToInitPage, true},
+                             {key::CenterWinOnScreen, false},
+                             {key::OpenInFullScreen, false},
+                             {key::LayoutAndMagn, true},
+                             {key::ViewerPrefs, true},
+                             {key::Show, 1},
+                             {"CollectionName", "kept"}};
+        QCOMPARE(m_prefs, expected);
+    }
+
+    void asksNothingOfAMissingDestination()
+    {
+        m_recorder.returns("GetDestType", 4);
+        m_recorder.returns("GetDestPage", 9);
+        QCOMPARE(run(load(), pressCancel), 0);
+        QCOMPARE(m_recorder.takeLog().mid(3, 2),
+                 QStringList({"GetOpenActionDestination()", "GetViewerPreferences(1)"}));
+        QCOMPARE(m_prefs[key::Magnification], QVariant(0));
+        QCOMPARE(m_prefs[key::OpenToPage], QVariant(1));
+        QVERIFY(!m_prefs.contains(key::Show) && !m_prefs.contains(key::ActionName));
+    }
+
+    void turnsPageModesIntoRows_data()
+    {
+        QTest::addColumn<int>("first");  // what the library answers first
+        QTest::addColumn<int>("second"); // and then
+        QTest::addColumn<int>("row");
+        QTest::addColumn<bool>("fullScreen");
+        QTest::newRow("page only") << 0 << 0 << 0 << false;
+        QTest::newRow("pages") << 2 << 2 << 2 << false;
+        QTest::newRow("full screen") << 3 << 3 << 3 << true;
+        QTest::newRow("layers") << 4 << 4 << 3 << false;
+        QTest::newRow("attachments") << 5 << 5 << 4 << false;
+        QTest::newRow("unknown") << 6 << 6 << 6 << false;
+        QTest::newRow("asked anew") << 1 << 3 << 1 << true;
+    }
+
+    void turnsPageModesIntoRows()
+    {
+        QFETCH(int, first);
+        QFETCH(int, second);
+        m_recorder.returns("GetPageMode", first);
+        m_recorder.returns("GetPageMode", second);
+        QCOMPARE(run(load(), pressCancel), 0);
+        QTEST(m_prefs[key::NavigationTab].toInt(), "row");
+        QTEST(m_prefs[key::OpenInFullScreen].toBool(), "fullScreen");
+    }
+
+    void leavesTheLibraryAlone_data()
+    {
+        QTest::addColumn<bool>("skip");
+        QTest::addColumn<bool>("library");
+        QTest::addColumn<int>("document");
+        QTest::newRow("told so") << true << true << document;
+        QTest::newRow("no library") << false << false << document;
+        QTest::newRow("no document") << false << true << 0;
+    }
+
+    void leavesTheLibraryAlone()
+    {
+        QFETCH(bool, skip);
+        QFETCH(bool, library);
+        QFETCH(int, document);
+        DialogLoadStruct load = this->load();
+        load.bSkipDocumentRead = skip;
+        load.pPDFLibrary = library ? &m_library : nullptr;
+        load.nDocumentID = document;
+        m_prefs = {{key::Magnification, 8}};
+        QCOMPARE(run(load, pressCancel), 0);
+        QCOMPARE(m_recorder.takeLog(), QStringList());
+        QCOMPARE(m_prefs, Prefs({{key::Magnification, 8}}));
+        QCOMPARE(run(load, pressOk), 1);
+        QCOMPARE(m_prefs.size(), int(keys.size()));
+        QCOMPARE(m_prefs[key::Magnification], QVariant(8));
+        QCOMPARE(m_prefs[key::LayoutAndMagn], QVariant(false));
+    }
+
+    void writesTheDialogBackOnOk()
+    {
+        m_recorder.returns("GetPageMode", 1);
+        QCOMPARE(run(load(),
+                     [](CPrefsDialog& dialog) {
+                         QCOMPARE(dialog.ui.NavigationTabComboBox->currentIndex(), 1);
+                         dialog.ui.ShowComboBox->setCurrentIndex(1);
+                         dialog.ui.OpenToPageSpinBox->setValue(33);
+                         pressOk(dialog);
+                     }),
+                 1);
+        QCOMPARE(m_prefs.size(), int(keys.size()));
+        QCOMPARE(m_prefs[key::NavigationTab], QVariant(1));
+        QCOMPARE(m_prefs[key::Show], QVariant(1));
+        QCOMPARE(m_prefs[key::OpenToPage], QVariant(33));
+        QCOMPARE(m_prefs[key::ActionName], QVariant("Initial View"));
+    }
+
+    void leavesTheDialogAsItIsForAnEmptyMap()
+    {
+        DialogLoadStruct load = this->load();
+        load.bSkipDocumentRead = true;
+        QCOMPARE(run(load, pressOk), 1);
+        QCOMPARE(m_prefs.size(), int(keys.size()));
+        QCOMPARE(m_prefs[key::LayoutAndMagn], QVariant(true));
+        QCOMPARE(m_prefs[key::ViewerPrefs], QVariant(true));
+    }
+
+    void fillsTheListsInOrder()
+    {
+        m_prefs = {{key::NavigationTab, 99}, {key::PageLayout, "text"}};
+        DialogLoadStruct load = this->load();
+        load.bSkipDocumentRead = true;
+        const auto check = [](CPrefsDialog& dialog) {
+            QCOMPARE(itemsOf(dialog.ui.NavigationTabComboBox), listOf(navigationLabels));
+            QCOMPARE(itemsOf(dialog.ui.PageLayoutComboBox), listOf(pageLayoutLabels));
+            QCOMPARE(itemsOf(dialog.ui.MagnificationComboBox), listOf(magnificationLabels));
+            QCOMPARE(itemsOf(dialog.ui.ShowComboBox), listOf(titleLabels));
+            QCOMPARE(dialog.ui.NavigationTabComboBox->itemData(0), QVariant());
+        };
+        QCOMPARE(run(load, check), 0);
+    }
+
+    void dressesTheDialog()
+    {
+        QWidget parent;
+        const auto image = [](const char* name) {
+            return QPixmap(QString(":/Quintar/Resources/Tools/Action_IntialView%1.png").arg(name)).toImage();
+        };
+        QVERIFY(image("") != image("_Selected") && image("_Selected") != image("_Disabled"));
+        const auto check = [&](CPrefsDialog& dialog) {
+            QCOMPARE(dialog.parentWidget(), &parent);
+            QVERIFY(!dialog.windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
+            QVERIFY(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
+            const auto drawn = [&](QIcon::Mode mode) {
+                return dialog.windowIcon().pixmap(image("").size(), mode, QIcon::Off).toImage();
+            };
+            QCOMPARE(drawn(QIcon::Normal), image(""));
+            QCOMPARE(drawn(QIcon::Selected), image("_Selected"));
+            QCOMPARE(drawn(QIcon::Active), image("_Selected"));
+            QCOMPARE(drawn(QIcon::Disabled), image("_Disabled"));
+        };
+        QCOMPARE(run(load(), check, &parent), 0);
+    }
+
+    void hidesTheAddToActionButtonWhenTold()
+    {
+        for (const bool hide : {false, true}) {
+            DialogLoadStruct load = this->load();
+            load.bHideAddToActionButton = hide;
+            const auto check = [hide](CPrefsDialog& dialog) {
+                const auto visible = [&](const char* name) {
+                    return dialog.findChild<QToolButton*>(name)->isVisible();
+                };
+                QCOMPARE(visible("QDtoolbarAddToActionListButton"), !hide);
+                QVERIFY(visible("QDtoolbarAddToCollectionsButton"));
+                QVERIFY(visible("quintarHeaderCloseBtn"));
+            };
+            QCOMPARE(run(load, check), 0);
+        }
+    }
+
+    void countsTheCloseButtonAsCancel()
+    {
+        const auto close = [](CPrefsDialog& dialog) {
+            dialog.findChild<QToolButton*>("quintarHeaderCloseBtn")->click();
+        };
+        DialogLoadStruct load = this->load();
+        load.bSkipDocumentRead = true;
+        QCOMPARE(run(load, close), 0);
+        QVERIFY(m_prefs.isEmpty());
+    }
+};
+
+QTEST_MAIN(TestDialogProcedure)
+#include "TestDialogProcedure.moc"
