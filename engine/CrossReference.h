@@ -1,0 +1,73 @@
+#pragma once
+
+#include "engine/ByteSource.h"
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+#include <qpdf/QPDFTokenizer.hh>
+
+#include <cstdint>
+#include <memory>
+#include <set>
+
+namespace engine {
+
+/// What a further revision must know of a document's cross-reference: read from the bytes themselves, section
+/// by section along the chain, and not from libqpdf, which repairs without saying how much.
+class CrossReference
+{
+public:
+    enum class Kind { Table, Stream };
+
+    /// \throws EngineError with CannotAppend unless every section is where the chain says, and the newest one
+    ///     names the catalog that `pdf` uses.
+    CrossReference(QPDF& pdf, std::shared_ptr<const ByteSource> source);
+
+    /// Kind of the newest section; a table with a stream beside it (a hybrid file) counts as a table.
+    Kind kind() const { return m_kind; }
+
+    /// Where the newest section begins, counted as the document counts: from its header.
+    std::uint64_t newestOffset() const { return m_newestOffset; }
+
+    /// How many bytes lie before the header.
+    std::uint64_t headerOffset() const { return m_headerOffset; }
+
+    /// The newest trailer, strings as they stand in the file.
+    const QPDFObjectHandle& trailer() const { return m_trailer; }
+
+    /// One more than the highest object number that any section has an entry for.
+    int entryEnd() const { return m_entryEnd; }
+
+    /// The largest of all Size entries and entryEnd().
+    int size() const { return m_size; }
+
+private:
+    struct Section
+    {
+        Kind kind = Kind::Table;
+        QPDFObjectHandle dictionary;
+    };
+
+    void readChain(QPDF& pdf, std::uint64_t offset);
+    Section readSection(QPDF& pdf, std::uint64_t offset);
+    Section readTable(QPDF& pdf, std::uint64_t position);
+    Section readStream(QPDF& pdf, std::uint64_t position);
+    QPDFObjectHandle readDictionary(QPDF& pdf);
+    std::uint64_t skipWhitespace(std::uint64_t position) const;
+    void noteEntries(long long first, long long count);
+    void noteIndex(QPDFObjectHandle dictionary);
+    void requireSameDocument(QPDF& pdf);
+
+    std::shared_ptr<const ByteSource> m_source;
+    std::shared_ptr<InputSource> m_input;
+    QPDFTokenizer m_tokenizer;
+    std::set<std::uint64_t> m_visited;
+    Kind m_kind = Kind::Table;
+    std::uint64_t m_newestOffset = 0;
+    std::uint64_t m_headerOffset = 0;
+    QPDFObjectHandle m_trailer;
+    int m_entryEnd = 0;
+    int m_size = 0;
+};
+
+} // namespace engine

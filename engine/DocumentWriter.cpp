@@ -1,0 +1,100 @@
+#include "engine/DocumentWriter.h"
+
+#include "engine/ByteSource.h"
+#include "engine/Document.h"
+#include "engine/EngineError.h"
+#include "engine/IncrementalUpdate.h"
+#include "engine/OutputFile.h"
+
+#include <qpdf/Pipeline.hh>
+#include <qpdf/Pl_String.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <algorithm>
+
+namespace engine {
+
+namespace {
+
+// QPDFWriter writes a few bytes at a time.
+class FilePipeline : public Pipeline
+{
+public:
+    explicit FilePipeline(OutputFile& file) : Pipeline("file", nullptr), m_file(file) {}
+
+    void write(const unsigned char* data, std::size_t size) override
+    {
+        m_waiting.append(reinterpret_cast<const char*>(data), size);
+        if (m_waiting.size() >= 1 << 18)
+            finish();
+    }
+
+    void finish() override
+    {
+        m_file.write(m_waiting);
+        m_waiting.clear();
+    }
+
+private:
+    OutputFile& m_file;
+    std::string m_waiting;
+};
+
+bool hasObjectStreams(QPDF& pdf)
+{
+    const auto table = pdf.getXRefTable();
+    return std::any_of(table.begin(), table.end(),
+                       [](const auto& entry) { return entry.second.getType() == 2; });
+}
+
+void writeInto(Document& document, Pipeline& output)
+{
+    if (!document.source()->unchangedSinceOpened())
+        throw EngineError(ErrorCode::SourceChanged);
+    QPDFWriter writer(document.pdf());
+    writer.setOutputPipeline(&output);
+    writer.setDecodeLevel(qpdf_dl_none);
+    // Without this, object streams that were compressed would be written plain.
+    writer.setCompressStreams(hasObjectStreams(document.pdf()));
+    writer.write();
+    if (!document.source()->unchangedSinceOpened())
+        throw EngineError(ErrorCode::SourceChanged);
+}
+
+} // namespace
+
+void appendUpdate(Document& document, const std::string& path)
+{
+    const std::shared_ptr<ByteSource>& source = document.source();
+    if (document.changedObjects().empty())
+        throw EngineError(ErrorCode::NothingChanged);
+    if (!source->unchangedSinceOpened())
+        throw EngineError(ErrorCode::SourceChanged);
+    const IncrementalUpdate update(document.pdf(), source, document.changedObjects());
+    if (document.crossReferenceRebuilt())
+        throw EngineError(ErrorCode::CannotAppend, "the cross-reference was rebuilt");
+    OutputFile file(path);
+    file.copy(*source);
+    file.write(update.bytes());
+    if (!source->unchangedSinceOpened())
+        throw EngineError(ErrorCode::SourceChanged);
+    file.commit();
+}
+
+void writeWhole(Document& document, const std::string& path)
+{
+    OutputFile file(path);
+    FilePipeline pipeline(file);
+    writeInto(document, pipeline);
+    file.commit();
+}
+
+std::string wholeToString(Document& document)
+{
+    std::string bytes;
+    Pl_String pipeline("memory", nullptr, bytes);
+    writeInto(document, pipeline);
+    return bytes;
+}
+
+} // namespace engine

@@ -1,0 +1,202 @@
+#include "engine/IncrementalUpdate.h"
+
+#include "engine/EngineError.h"
+
+#include <qpdf/QPDFCryptoProvider.hh>
+
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+#include <vector>
+
+namespace engine {
+
+namespace {
+
+constexpr std::uint64_t largestTableOffset = 9'999'999'999;
+
+// Of the newest trailer these describe the section itself; all other entries belong to the document.
+constexpr std::string_view sectionKeys[] = {
+    "/Prev", "/XRefStm", "/Size", "/Type",    "/W",           "/Index",        "/Length",
+    "/DL",   "/Filter",  "/F",    "/FFilter", "/DecodeParms", "/FDecodeParms",
+};
+
+std::string bigEndian(std::uint64_t number, int bytes)
+{
+    std::string text(static_cast<std::size_t>(bytes), '\0');
+    for (auto byte = text.rbegin(); byte != text.rend(); ++byte, number >>= 8)
+        *byte = static_cast<char>(number & 0xff);
+    return text;
+}
+
+int bytesFor(std::uint64_t number)
+{
+    int bytes = 1;
+    while (number >>= 8)
+        ++bytes;
+    return bytes;
+}
+
+std::string digest(const std::string& text)
+{
+    const auto crypto = QPDFCryptoProvider::getImpl();
+    QPDFCryptoImpl::MD5_Digest result;
+    crypto->MD5_init();
+    crypto->MD5_update(reinterpret_cast<const unsigned char*>(text.data()), text.size());
+    crypto->MD5_finalize();
+    crypto->MD5_digest(result);
+    return std::string(reinterpret_cast<const char*>(result), sizeof(result));
+}
+
+// First number and length of each stretch of consecutive numbers.
+template <class Entries>
+std::vector<std::pair<int, int>> stretches(const Entries& entries)
+{
+    std::vector<std::pair<int, int>> result;
+    for (const auto& [number, entry] : entries) {
+        if (result.empty() || number != result.back().first + result.back().second)
+            result.emplace_back(number, 0);
+        ++result.back().second;
+    }
+    return result;
+}
+
+bool endsWithLine(const ByteSource& source)
+{
+    const std::string last = source.text(source.size() - 1, 1);
+    return last == "\n" || last == "\r";
+}
+
+} // namespace
+
+IncrementalUpdate::IncrementalUpdate(QPDF& pdf, std::shared_ptr<const ByteSource> source,
+                                     const std::set<QPDFObjGen>& changed)
+    : m_crossReference(pdf, source), m_cipher(pdf), m_serializer(&m_cipher), m_sourceSize(source->size())
+{
+    if (changed.empty())
+        throw EngineError(ErrorCode::NothingChanged);
+    if (!endsWithLine(*source))
+        m_bytes = "\n";
+    writeObjects(pdf, changed);
+    if (m_crossReference.kind() == CrossReference::Kind::Table)
+        writeTable();
+    else
+        writeStream();
+}
+
+void IncrementalUpdate::writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& changed)
+{
+    for (const QPDFObjGen object : changed)
+        writeObject(pdf.getObject(object));
+    // Writing a new object may bring further references.
+    for (std::size_t next = 0; next < m_serializer.references().size(); ++next) {
+        const QPDFObjGen reference = m_serializer.references()[next];
+        if (reference.getObj() < m_crossReference.entryEnd() || m_entries.contains(reference.getObj()))
+            continue;
+        QPDFObjectHandle object = pdf.getObject(reference);
+        if (!object.isNull())
+            writeObject(object);
+    }
+}
+
+void IncrementalUpdate::writeObject(QPDFObjectHandle object)
+{
+    const QPDFObjGen id = object.getObjGen();
+    if (id.getObj() <= 0 || !m_entries.try_emplace(id.getObj(), Entry{nextOffset(), id.getGen()}).second)
+        throw EngineError(ErrorCode::CannotAppend, "two changed objects have the same number");
+    m_bytes += id.unparse(' ') + " obj\n" + m_serializer.write(object, id) + "\nendobj\n";
+}
+
+void IncrementalUpdate::writeTable()
+{
+    const std::uint64_t start = nextOffset();
+    if (start > largestTableOffset)
+        throw EngineError(ErrorCode::CannotAppend, "the offset does not fit a cross-reference table");
+    const std::string trailer = ObjectSerializer().write(newTrailer(sizeWith(m_entries.rbegin()->first)));
+    m_bytes += "xref\n";
+    for (const auto& [first, count] : stretches(m_entries)) {
+        m_bytes += std::to_string(first) + " " + std::to_string(count) + "\n";
+        for (int number = first; number < first + count; ++number) {
+            const Entry& entry = m_entries.at(number);
+            char line[32];
+            std::snprintf(line, sizeof(line), "%010llu %05d n \n",
+                          static_cast<unsigned long long>(entry.offset), entry.generation);
+            m_bytes += line;
+        }
+    }
+    m_bytes += "trailer\n" + trailer;
+    writeEnd(start);
+}
+
+void IncrementalUpdate::writeStream()
+{
+    const std::uint64_t start = nextOffset();
+    const int number = std::max(m_crossReference.size(), m_entries.rbegin()->first + 1);
+    m_entries.emplace(number, Entry{start, 0});
+    const int offsetBytes = bytesFor(start);
+    QPDFObjectHandle index = QPDFObjectHandle::newArray();
+    std::string content;
+    for (const auto& [first, count] : stretches(m_entries)) {
+        index.appendItem(QPDFObjectHandle::newInteger(first));
+        index.appendItem(QPDFObjectHandle::newInteger(count));
+    }
+    for (const auto& [ignored, entry] : m_entries)
+        content += bigEndian(1, 1) + bigEndian(entry.offset, offsetBytes) +
+                   bigEndian(static_cast<std::uint64_t>(entry.generation), 2);
+    QPDFObjectHandle dictionary = newTrailer(sizeWith(number));
+    dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XRef"));
+    dictionary.replaceKey("/W", QPDFObjectHandle::parse("[1 " + std::to_string(offsetBytes) + " 2]"));
+    dictionary.replaceKey("/Index", index);
+    dictionary.replaceKey("/Length", QPDFObjectHandle::newInteger(static_cast<long long>(content.size())));
+    m_bytes += std::to_string(number) + " 0 obj\n" + ObjectSerializer().write(dictionary) + "\nstream\n" +
+               content + "\nendstream\nendobj";
+    writeEnd(start);
+}
+
+void IncrementalUpdate::writeEnd(std::uint64_t sectionOffset)
+{
+    m_bytes += "\nstartxref\n" + std::to_string(sectionOffset) + "\n%%EOF\n";
+}
+
+QPDFObjectHandle IncrementalUpdate::newTrailer(int size) const
+{
+    QPDFObjectHandle trailer = QPDFObjectHandle::newDictionary();
+    for (auto& [key, value] : QPDFObjectHandle(m_crossReference.trailer()).getDictAsMap())
+        if (std::find(std::begin(sectionKeys), std::end(sectionKeys), key) == std::end(sectionKeys))
+            trailer.replaceKey(key, value);
+    trailer.replaceKey("/Size", QPDFObjectHandle::newInteger(size));
+    const auto previous = static_cast<long long>(m_crossReference.newestOffset());
+    trailer.replaceKey("/Prev", QPDFObjectHandle::newInteger(previous));
+    QPDFObjectHandle identifier = nextIdentifier();
+    if (!identifier.isNull())
+        trailer.replaceKey("/ID", identifier);
+    return trailer;
+}
+
+// The second identifier stands for a revision. It is made from the bytes, so that the same edit of the same
+// document always gives the same file.
+QPDFObjectHandle IncrementalUpdate::nextIdentifier() const
+{
+    QPDFObjectHandle trailer = m_crossReference.trailer();
+    QPDFObjectHandle old = trailer.getKey("/ID");
+    if (trailer.hasKey("/Encrypt") || old.isIndirect() || !old.isArray() || old.getArrayNItems() != 2)
+        return QPDFObjectHandle::newNull();
+    QPDFObjectHandle first = old.getArrayItem(0);
+    QPDFObjectHandle second = old.getArrayItem(1);
+    if (!first.isString() || !second.isString())
+        return QPDFObjectHandle::newNull();
+    const std::string state = second.getStringValue() + std::to_string(m_sourceSize) + m_bytes;
+    return QPDFObjectHandle::newArray({first, QPDFObjectHandle::newString(digest(state))});
+}
+
+std::uint64_t IncrementalUpdate::nextOffset() const
+{
+    return m_sourceSize + m_bytes.size() - m_crossReference.headerOffset();
+}
+
+int IncrementalUpdate::sizeWith(int objectNumber) const
+{
+    return std::max(m_crossReference.size(), objectNumber + 1);
+}
+
+} // namespace engine

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "engine/CrossReference.h"
+#include "engine/ObjectSerializer.h"
+#include "engine/StringCipher.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+
+namespace engine {
+
+/// The bytes that, put behind a document's own, make its next revision: the changed objects, a
+/// cross-reference section of the kind that the document ends with, and the new end.
+class IncrementalUpdate
+{
+public:
+    /// \param changed the indirect objects that differ from `source`. Objects that are new and referred to by
+    ///     these need not be named when their numbers lie above the document's.
+    /// \throws EngineError with CannotAppend when the document is such that an update would not be right.
+    IncrementalUpdate(QPDF& pdf, std::shared_ptr<const ByteSource> source,
+                      const std::set<QPDFObjGen>& changed);
+
+    const std::string& bytes() const { return m_bytes; }
+
+private:
+    struct Entry
+    {
+        std::uint64_t offset;
+        int generation;
+    };
+
+    void writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& changed);
+    void writeObject(QPDFObjectHandle object);
+    void writeTable();
+    void writeStream();
+    void writeEnd(std::uint64_t sectionOffset);
+    QPDFObjectHandle newTrailer(int size) const;
+    QPDFObjectHandle nextIdentifier() const;
+    std::uint64_t nextOffset() const;
+    int sizeWith(int objectNumber) const;
+
+    CrossReference m_crossReference;
+    StringCipher m_cipher;
+    ObjectSerializer m_serializer;
+    std::uint64_t m_sourceSize;
+    std::map<int, Entry> m_entries;
+    std::string m_bytes;
+};
+
+} // namespace engine

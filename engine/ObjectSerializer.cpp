@@ -1,0 +1,103 @@
+#include "engine/ObjectSerializer.h"
+
+#include "engine/EngineError.h"
+#include "engine/StringCipher.h"
+
+#include <map>
+
+namespace engine {
+
+namespace {
+
+constexpr int deepest = 500;
+
+// The bytes of a signature are the one string in an object that is never encrypted.
+bool isSignature(const std::map<std::string, QPDFObjectHandle>& entries)
+{
+    const auto type = entries.find("/Type");
+    const auto contents = entries.find("/Contents");
+    return type != entries.end() && contents != entries.end() && entries.contains("/ByteRange") &&
+           QPDFObjectHandle(type->second).isNameAndEquals("/Sig") && !contents->second.isIndirect() &&
+           QPDFObjectHandle(contents->second).isString();
+}
+
+} // namespace
+
+std::string ObjectSerializer::write(QPDFObjectHandle value, QPDFObjGen owner)
+{
+    m_owner = owner;
+    m_text.clear();
+    writeDirect(value, 0);
+    return m_text;
+}
+
+void ObjectSerializer::writeValue(QPDFObjectHandle value, int depth)
+{
+    if (!value.isIndirect()) {
+        writeDirect(value, depth);
+        return;
+    }
+    m_references.push_back(value.getObjGen());
+    m_text += value.getObjGen().unparse(' ') + " R";
+}
+
+void ObjectSerializer::writeDirect(QPDFObjectHandle value, int depth)
+{
+    if (depth > deepest)
+        throw EngineError(ErrorCode::TooComplex);
+    switch (value.getTypeCode()) {
+    case ::ot_array:
+        return writeArray(value, depth);
+    case ::ot_dictionary:
+        return writeDictionary(value, depth);
+    case ::ot_string:
+        return writeString(value);
+    case ::ot_null:
+    case ::ot_boolean:
+    case ::ot_integer:
+    case ::ot_real:
+    case ::ot_name:
+        m_text += value.unparseResolved();
+        return;
+    default:
+        throw EngineError(ErrorCode::CannotAppend,
+                          std::string("cannot append an object of type ") + value.getTypeName());
+    }
+}
+
+void ObjectSerializer::writeArray(QPDFObjectHandle array, int depth)
+{
+    m_text += "[";
+    for (const QPDFObjectHandle& item : array.getArrayAsVector()) {
+        m_text += " ";
+        writeValue(item, depth + 1);
+    }
+    m_text += " ]";
+}
+
+void ObjectSerializer::writeDictionary(QPDFObjectHandle dictionary, int depth)
+{
+    const auto entries = dictionary.getDictAsMap();
+    const bool signature = isSignature(entries);
+    m_text += "<<";
+    for (auto [key, value] : entries) {
+        m_text += " " + QPDFObjectHandle::newName(key).unparse() + " ";
+        if (signature && key == "/Contents")
+            m_text += value.unparseBinary();
+        else
+            writeValue(value, depth + 1);
+    }
+    m_text += " >>";
+}
+
+void ObjectSerializer::writeString(QPDFObjectHandle string)
+{
+    if (m_cipher == nullptr || !m_cipher->changesStrings()) {
+        m_text += string.unparseResolved();
+        return;
+    }
+    const std::string bytes = m_cipher->encrypted(string.getStringValue(), m_owner);
+    m_text += QPDFObjectHandle::newString(bytes).unparseBinary();
+}
+
+} // namespace engine

@@ -1,0 +1,190 @@
+#include "engine/OutputFile.h"
+
+#include "engine/ByteSource.h"
+#include "engine/EngineError.h"
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/random.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <utility>
+#include <vector>
+
+namespace engine {
+
+namespace {
+
+[[noreturn]] void fail(int error)
+{
+    ErrorCode code = ErrorCode::WriteFailed;
+    if (error == ENOSPC || error == EDQUOT)
+        code = ErrorCode::DiskFull;
+    else if (error == EACCES || error == EPERM || error == EROFS)
+        code = ErrorCode::AccessDenied;
+    else if (error == ENOENT || error == ENOTDIR)
+        code = ErrorCode::FileNotFound;
+    throw EngineError(code, std::strerror(error));
+}
+
+std::string followed(const std::string& path)
+{
+    struct stat status = {};
+    if (::lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode))
+        return path;
+    char* resolved = ::realpath(path.c_str(), nullptr);
+    if (resolved == nullptr)
+        fail(errno);
+    const std::string target(resolved);
+    std::free(resolved);
+    return target;
+}
+
+std::string folderOf(const std::string& path)
+{
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
+}
+
+std::string unguessableName()
+{
+    std::uint64_t number = 0;
+    if (::getrandom(&number, sizeof(number), 0) != sizeof(number))
+        fail(errno);
+    char digits[17];
+    std::snprintf(digits, sizeof(digits), "%016llx", static_cast<unsigned long long>(number));
+    return std::string(OutputFile::temporaryPrefix) + digits + ".tmp";
+}
+
+} // namespace
+
+OutputFile::OutputFile(const std::string& path) : m_target(followed(path))
+{
+    struct stat status = {};
+    const bool replaces = ::stat(m_target.c_str(), &status) == 0;
+    if (!replaces && errno != ENOENT)
+        fail(errno);
+    if (replaces && !S_ISREG(status.st_mode))
+        throw EngineError(ErrorCode::NotARegularFile);
+    create(folderOf(m_target), replaces ? 0600 : 0666);
+    if (replaces && ::fchmod(m_fd, status.st_mode & 07777) != 0)
+        fail(errno);
+}
+
+OutputFile::~OutputFile()
+{
+    if (m_fd >= 0)
+        ::close(m_fd);
+    if (!m_temporary.empty())
+        ::unlink(m_temporary.c_str());
+}
+
+void OutputFile::create(const std::string& folder, unsigned mode)
+{
+    while (m_fd < 0) {
+        const std::string name = folder + unguessableName();
+        m_fd = ::open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        if (m_fd >= 0)
+            m_temporary = name;
+        else if (errno != EEXIST && errno != EINTR)
+            fail(errno);
+    }
+}
+
+void OutputFile::copy(const ByteSource& source)
+{
+    const std::uint64_t size = source.size();
+    if (source.fd() < 0)
+        copyThroughMemory(source, 0, size);
+    else if (::ioctl(m_fd, FICLONE, source.fd()) != 0)
+        copyExtents(source);
+    if (::ftruncate(m_fd, static_cast<off_t>(size)) != 0)
+        fail(errno);
+    m_size = size;
+}
+
+void OutputFile::copyExtents(const ByteSource& source)
+{
+    const std::uint64_t size = source.size();
+    std::uint64_t offset = 0;
+    while (offset < size) {
+        const off_t data = ::lseek(source.fd(), static_cast<off_t>(offset), SEEK_DATA);
+        if (data < 0 && errno == ENXIO) // nothing but a hole up to the end
+            return;
+        const off_t hole = data < 0 ? -1 : ::lseek(source.fd(), data, SEEK_HOLE);
+        if (data >= 0)
+            offset = static_cast<std::uint64_t>(data);
+        const std::uint64_t end = hole < 0 ? size : std::min(size, static_cast<std::uint64_t>(hole));
+        copyRange(source, offset, end);
+        offset = end;
+    }
+}
+
+void OutputFile::copyRange(const ByteSource& source, std::uint64_t offset, std::uint64_t end)
+{
+    off_t from = static_cast<off_t>(offset);
+    off_t to = from;
+    while (static_cast<std::uint64_t>(from) < end) {
+        const auto rest = static_cast<std::size_t>(end - static_cast<std::uint64_t>(from));
+        const ssize_t count = ::copy_file_range(source.fd(), &from, m_fd, &to, rest, 0);
+        if (count == 0)
+            throw EngineError(ErrorCode::SourceChanged);
+        if (count > 0 || errno == EINTR)
+            continue;
+        if (errno != EXDEV && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
+            fail(errno);
+        return copyThroughMemory(source, static_cast<std::uint64_t>(from), end);
+    }
+}
+
+void OutputFile::copyThroughMemory(const ByteSource& source, std::uint64_t offset, std::uint64_t end)
+{
+    std::vector<char> buffer(static_cast<std::size_t>(std::min<std::uint64_t>(end - offset, 1 << 18)));
+    while (offset < end) {
+        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(buffer.size(), end - offset));
+        const std::size_t count = source.read(offset, buffer.data(), wanted);
+        if (count == 0)
+            throw EngineError(ErrorCode::SourceChanged);
+        writeAt(offset, {buffer.data(), count});
+        offset += count;
+    }
+}
+
+void OutputFile::writeAt(std::uint64_t offset, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t count = ::pwrite(m_fd, bytes.data(), bytes.size(), static_cast<off_t>(offset));
+        if (count < 0 && errno != EINTR)
+            fail(errno);
+        if (count <= 0)
+            continue;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+        offset += static_cast<std::uint64_t>(count);
+    }
+}
+
+void OutputFile::write(std::string_view bytes)
+{
+    writeAt(m_size, bytes);
+    m_size += bytes.size();
+}
+
+void OutputFile::commit()
+{
+    // Some file systems report a full disk only on closing.
+    const int fd = std::exchange(m_fd, -1);
+    if (::close(fd) != 0 && errno != EINTR)
+        fail(errno);
+    if (::rename(m_temporary.c_str(), m_target.c_str()) != 0)
+        fail(errno);
+    m_temporary.clear();
+}
+
+} // namespace engine
