@@ -1,0 +1,86 @@
+#include "CSaveAsCollectionDialog.h"
+
+#include "CActionHistoryAPI.h"
+#include "CIniFile.h"
+#include "SettingsFiles.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QIcon>
+#include <QPixmap>
+
+#include <utility>
+
+using namespace settingsfiles;
+
+namespace {
+
+const int leastHeight = 236;
+const int iconSide = 128;
+
+void writeToolSettings(const QString& path, const QMap<QString, QVariant>& prefs)
+{
+    CIniFile file(path, CIniFile::Access::Extend);
+    file.setValue(toolsettings::toolSettings, prefs);
+    file.commit();
+}
+
+} // namespace
+
+CSaveAsCollectionDialog::CSaveAsCollectionDialog(QWidget* parent, Qt::WindowFlags)
+    : CQuintarDialog(parent, false)
+{
+    ui.setupUi(this);
+    titleLabel->setText(windowTitle());
+    QDaddMainWidget(ui.main_widget, true);
+    if (height() < leastHeight) {
+        setMaximumHeight(leastHeight);
+        setMinimumHeight(leastHeight);
+    }
+}
+
+void CSaveAsCollectionDialog::LoadPrefsData(QMap<QString, QVariant>* prefs)
+{
+    m_pPrefs = prefs;
+}
+
+void CSaveAsCollectionDialog::on_UpdateUI()
+{
+    const QString name = ui.collectionNameLineEdit->text().simplified().remove(' ');
+    ui.saveButton->setDisabled(name.isEmpty());
+}
+
+void CSaveAsCollectionDialog::on_Save()
+{
+    QMap<QString, QVariant>* prefs = ui.saveButton->isEnabled() ? std::exchange(m_pPrefs, nullptr) : nullptr;
+    if (prefs == nullptr)
+        return;
+    prefs->insert(request::collectionName, ui.collectionNameLineEdit->text());
+    QIcon icon = ui.icon_toolButton->icon();
+    CActionHistoryAPI(parent() != nullptr ? parent()->objectName() : QString())
+        .SaveSettingsToHistory(prefs, &icon);
+    accept();
+}
+
+void CSaveAsCollectionDialog::on_CollectionIcon()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, "Kelvane Advanced Tools", QString(), "Image files (*.bmp;*.jpg;*.gif;*.png;*.tif;*.wmf;*.emf)");
+    if (path.isNull())
+        return;
+    const QPixmap image(path);
+    ui.icon_toolButton->setIcon(
+        QIcon(image.scaled(iconSide, iconSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
+}
+
+void CSaveAsCollectionDialog::on_SaveToFile()
+{
+    const QString path = QFileDialog::getSaveFileName(this, "Save Tool settings to file", QDir::homePath(),
+                                                      "Tool Settings Files (*.tsf)");
+    // Whoever hears of the rejection may take the settings, or the dialog itself, away.
+    const QMap<QString, QVariant>* lent = std::exchange(m_pPrefs, nullptr);
+    const QMap<QString, QVariant> prefs = lent != nullptr ? *lent : QMap<QString, QVariant>();
+    reject();
+    if (lent != nullptr && !path.isEmpty())
+        writeToolSettings(path, prefs);
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "shared/frame/CQuintarDialog.h"
+#include "ui_saveAsCollectionDialog.h"
+
+#include <QMap>
+#include <QVariant>
+
+/// Stores an action's settings as a favourite with a name and an icon, or in a file of the user's choice. It
+/// saves once for each call of LoadPrefsData().
+class CSaveAsCollectionDialog : public CQuintarDialog
+{
+    Q_OBJECT
+
+public:
+    /// \param flags not used.
+    explicit CSaveAsCollectionDialog(QWidget* parent, Qt::WindowFlags flags = Qt::WindowFlags());
+
+    /// Lends the settings to the dialog, before it is shown. Saving a favourite puts "CollectionName" into
+    /// them.
+    void LoadPrefsData(QMap<QString, QVariant>* prefs);
+
+public slots:
+    /// Stores the favourite and accepts, unless the name is blank. Failures are not shown.
+    void on_Save();
+    /// Lets the user pick an image for the favourite.
+    void on_CollectionIcon();
+    /// A blank name cannot be saved.
+    void on_UpdateUI();
+    /// Asks for a file, rejects, and writes the settings to the file if one was named. Failures are not
+    /// shown.
+    void on_SaveToFile();
+
+public:
+    Ui_saveAsCollectionDialog ui;
+
+private:
+    QMap<QString, QVariant>* m_pPrefs = nullptr; // null again once saved
+};

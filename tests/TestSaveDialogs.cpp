@@ -1,0 +1,496 @@
+#include "shared/actionutils/CActionUtils.h"
+#include "shared/lists/CSaveAsActionlistDialog.h"
+#include "shared/lists/CSaveAsCollectionDialog.h"
+#include "support/ManualsSettings.h"
+#include "support/TemporaryHome.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QPixmap>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTimer>
+#include <QTranslator>
+#include <QtTest>
+
+namespace {
+
+using Map = QMap<QString, QVariant>;
+
+const char* const blankNames[] = {"", " ", "\t", " \t  ", "\xe2\x80\x83"};
+
+/// Translates everything into its own context and text.
+class ContextTranslator : public QTranslator
+{
+public:
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        return QByteArray(context) == "saveAsActionlistDialog" ||
+                       QByteArray(context) == "saveAsCollectionDialog"
+                   ? QString("%1/%2").arg(context, text)
+                   : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+QStringList methodsOf(const QMetaObject& type)
+{
+    QStringList methods;
+    for (int i = type.methodOffset(); i < type.methodCount(); ++i)
+        methods.append(QString(type.method(i).methodType() == QMetaMethod::Signal ? "signal " : "slot ") +
+                       type.method(i).methodSignature());
+    return methods;
+}
+
+/// The names of the widgets that Tab leads to, from the first one on.
+QStringList tabOrder(QWidget* dialog, QWidget* first)
+{
+    first->setFocus();
+    QStringList names;
+    for (QWidget* at = first; at != nullptr && !names.contains(at->objectName());
+         at = dialog->focusWidget()) {
+        names.append(at->objectName());
+        QTest::keyClick(at, Qt::Key_Tab);
+    }
+    return names;
+}
+
+template <class Dialog>
+void open(Dialog& dialog, Map* prefs)
+{
+    dialog.LoadPrefsData(prefs);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+}
+
+void click(QWidget* widget)
+{
+    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier,
+                      qobject_cast<QRadioButton*>(widget) ? QPoint(10, widget->height() / 2) : QPoint());
+}
+
+/// Runs an action in the file dialog that opens next.
+template <class Action>
+void whenFileDialogOpens(Action action)
+{
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, [timer, action] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        timer->deleteLater();
+        timer->stop();
+        action(dialog);
+    });
+    timer->start(10);
+}
+
+void nameFile(const QString& path)
+{
+    whenFileDialogOpens([path](QFileDialog* dialog) {
+        auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+        name->setText(path);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+}
+
+void cancelFileDialog()
+{
+    whenFileDialogOpens([](QFileDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+}
+
+QVariant stored(const QString& path, const QString& key)
+{
+    return QSettings(path, QSettings::IniFormat).value(key);
+}
+
+QStringList keysOf(const QString& path)
+{
+    return QSettings(path, QSettings::IniFormat).allKeys();
+}
+
+QStringList filesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden);
+}
+
+} // namespace
+
+class TestSaveDialogs : public QObject
+{
+    Q_OBJECT
+
+    TemporaryHome m_home;
+    Map m_prefs;
+    QWidget m_parent;
+
+private slots:
+    void initTestCase() { m_parent.setObjectName("EditInitialViewPrefsDialog"); }
+
+    void init()
+    {
+        m_home.reset();
+        m_prefs = manualsSettings();
+    }
+
+    void declaresItsMethodsInOrder()
+    {
+        QCOMPARE(methodsOf(CSaveAsActionlistDialog::staticMetaObject),
+                 (QStringList{"signal actionListChanged(QString)", "slot on_Save()", "slot on_UpdateUI()"}));
+        QCOMPARE(methodsOf(CSaveAsCollectionDialog::staticMetaObject),
+                 (QStringList{"slot on_Save()", "slot on_CollectionIcon()", "slot on_UpdateUI()",
+                              "slot on_SaveToFile()"}));
+    }
+
+    void opensWithItsInitialState()
+    {
+        QVERIFY(writeFile(m_home.actionList("a.xqq"), "[General]\nSequenceCategory=Reports\n"));
+        CSaveAsActionlistDialog list(&m_parent);
+        open(list, &m_prefs);
+        QCOMPARE(list.objectName(), QString("saveAsActionlistDialog"));
+        QCOMPARE(list.windowTitle(), QString("Add To Action"));
+        QCOMPARE(list.findChild<QLabel*>("QDtitleLabel")->text(), list.windowTitle());
+        QVERIFY(list.ui.newActionListRadioButton->isChecked() && !list.ui.saveButton->isEnabled());
+        QStringList categories;
+        for (int i = 0; i < list.ui.categoryComboBox->count(); ++i)
+            categories.append(list.ui.categoryComboBox->itemText(i));
+        QCOMPARE(categories, (QStringList{"Default", "Favorites", "Reports"}));
+        QCOMPARE(list.ui.categoryComboBox->currentText(), QString("Default"));
+        QCOMPARE(list.size(), QSize(401, 191 + 35));
+
+        CSaveAsCollectionDialog collection(&m_parent);
+        open(collection, &m_prefs);
+        QCOMPARE(collection.objectName(), QString("saveAsCollectionDialog"));
+        QCOMPARE(collection.windowTitle(), QString("Add To Favorites"));
+        QCOMPARE(collection.findChild<QLabel*>("QDtitleLabel")->text(), collection.windowTitle());
+        QVERIFY(!collection.ui.saveButton->isEnabled());
+        QVERIFY(!collection.ui.icon_toolButton->icon().isNull());
+        QCOMPARE(collection.ui.icon_toolButton->size(), QSize(60, 60));
+        QCOMPARE(collection.size(), QSize(361, 201 + 35));
+    }
+
+    void clipsNoText()
+    {
+        // A desktop's usual size; without a desktop the text is a third larger.
+        const QFont standard = QApplication::font();
+        QFont usual = standard;
+        usual.setPointSize(9);
+        QApplication::setFont(usual);
+        CSaveAsActionlistDialog list(&m_parent);
+        CSaveAsCollectionDialog collection(&m_parent);
+        open(list, &m_prefs);
+        open(collection, &m_prefs);
+        const auto buttons =
+            list.findChildren<QAbstractButton*>() + collection.findChildren<QAbstractButton*>();
+        for (const QAbstractButton* button : buttons)
+            QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->objectName()));
+        QVERIFY(collection.ui.label_2->height() >= collection.ui.label_2->heightForWidth(collection.width()));
+        QApplication::setFont(standard);
+    }
+
+    void translatesItsTextsInItsContext()
+    {
+        ContextTranslator translator;
+        qApp->installTranslator(&translator);
+        CSaveAsActionlistDialog list(&m_parent);
+        CSaveAsCollectionDialog collection(&m_parent);
+        QCOMPARE(list.ui.label_2->text(), QString("saveAsActionlistDialog/Category:"));
+        QCOMPARE(list.windowTitle(), QString("saveAsActionlistDialog/Add To Action"));
+        QCOMPARE(collection.ui.icon_toolButton->toolTip(), QString("saveAsCollectionDialog/Change Icon"));
+        QCOMPARE(
+            collection.ui.label_2->text(),
+            QString("saveAsCollectionDialog/<html><head/><body><p>Store your current tool preferences into "
+                    "the favorites and easily access them. </p></body></html>"));
+        // The categories that the box offers are values, not texts.
+        QCOMPARE(list.ui.categoryComboBox->itemText(0), QString("Default"));
+        qApp->removeTranslator(&translator);
+    }
+
+    void leadsTheTabKeyInOrder()
+    {
+        CSaveAsActionlistDialog list(&m_parent);
+        open(list, &m_prefs);
+        list.ui.actionListNameLineEdit->setText("x");
+        QCOMPARE(tabOrder(&list, list.ui.actionListNameLineEdit),
+                 (QStringList{"actionListNameLineEdit", "categoryComboBox", "cancelButton", "saveButton",
+                              "newActionListRadioButton"}));
+        list.hide();
+
+        CSaveAsCollectionDialog collection(&m_parent);
+        open(collection, &m_prefs);
+        collection.ui.collectionNameLineEdit->setText("x");
+        QCOMPARE(tabOrder(&collection, collection.ui.icon_toolButton),
+                 (QStringList{"icon_toolButton", "collectionNameLineEdit", "saveSettingsToFileButton",
+                              "saveButton", "cancelButton"}));
+    }
+
+    void savesOnlyUnderAVisibleName()
+    {
+        CSaveAsActionlistDialog list(&m_parent);
+        CSaveAsCollectionDialog collection(&m_parent);
+        for (const char* blank : blankNames) {
+            list.ui.actionListNameLineEdit->setText(QString(" a ") + blank);
+            collection.ui.collectionNameLineEdit->setText(QString(" a ") + blank);
+            QVERIFY(list.ui.saveButton->isEnabled() && collection.ui.saveButton->isEnabled());
+            list.ui.actionListNameLineEdit->setText(QString::fromUtf8(blank));
+            collection.ui.collectionNameLineEdit->setText(QString::fromUtf8(blank));
+            QVERIFY(!list.ui.saveButton->isEnabled() && !collection.ui.saveButton->isEnabled());
+        }
+    }
+
+    void savesANewList()
+    {
+        CSaveAsActionlistDialog dialog(&m_parent);
+        const QSignalSpy changed(&dialog, SIGNAL(actionListChanged(QString)));
+        open(dialog, &m_prefs);
+        QTest::keyClicks(dialog.ui.actionListNameLineEdit, "Monthly reports");
+        click(dialog.ui.saveButton);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(!dialog.isVisible() && changed.isEmpty());
+        const QString path = m_home.actionList("Monthly_reports.xqq");
+        QCOMPARE(stored(path, "SequenceName").toString(), QString("Monthly reports"));
+        QCOMPARE(stored(path, "SequenceCategory").toString(), QString("Default"));
+        Map expected = manualsSettings();
+        expected.remove("ActionName");
+        QCOMPARE(m_prefs, expected);
+    }
+
+    void offersTheCategoryForNewListsOnly()
+    {
+        CSaveAsActionlistDialog dialog(&m_parent);
+        open(dialog, &m_prefs);
+        click(dialog.ui.addToActionListRadioButton);
+        QVERIFY(!dialog.ui.categoryComboBox->isEnabled());
+        click(dialog.ui.newActionListRadioButton);
+        QVERIFY(dialog.ui.categoryComboBox->isEnabled());
+    }
+
+    void storesATypedCategory_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("category");
+        QTest::newRow("new") << "My own"
+                             << "My own";
+        QTest::newRow("emptied") << ""
+                                 << "Favorites";
+    }
+
+    void storesATypedCategory()
+    {
+        QFETCH(const QString, typed);
+        QFETCH(const QString, category);
+        CSaveAsActionlistDialog dialog(&m_parent);
+        open(dialog, &m_prefs);
+        QTest::keyClicks(dialog.ui.actionListNameLineEdit, "one");
+        QLineEdit* box = dialog.ui.categoryComboBox->lineEdit();
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClick(box, Qt::Key_Delete);
+        QTest::keyClicks(box, typed);
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(stored(m_home.actionList("one.xqq"), "SequenceCategory").toString(), category);
+    }
+
+    void savesOnceForOneReturn_data()
+    {
+        QTest::addColumn<bool>("add");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("inField");
+        QTest::newRow("new, Return") << false << int(Qt::Key_Return) << true;
+        QTest::newRow("new, Enter") << false << int(Qt::Key_Enter) << true;
+        QTest::newRow("add, Return") << true << int(Qt::Key_Return) << true;
+        QTest::newRow("add, elsewhere") << true << int(Qt::Key_Enter) << false;
+    }
+
+    void savesOnceForOneReturn()
+    {
+        QFETCH(const bool, add);
+        QFETCH(const int, key);
+        QFETCH(const bool, inField);
+        Map first = manualsSettings();
+        first["ActionListName"] = "my list";
+        CActionUtils::SaveAsCustomActionList(&first);
+
+        CSaveAsActionlistDialog dialog(&m_parent);
+        const QSignalSpy changed(&dialog, SIGNAL(actionListChanged(QString)));
+        const QSignalSpy finished(&dialog, SIGNAL(finished(int)));
+        open(dialog, &m_prefs);
+        if (add)
+            click(dialog.ui.addToActionListRadioButton);
+        QTest::keyClicks(dialog.ui.actionListNameLineEdit, "my list");
+        QWidget* focus = inField ? static_cast<QWidget*>(dialog.ui.actionListNameLineEdit)
+                                 : dialog.ui.addToActionListRadioButton;
+        focus->setFocus();
+        QTest::keyClick(focus, Qt::Key(key));
+
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(changed.size(), add ? 1 : 0);
+        QVERIFY(!add || changed.first().first().toString() == "my list");
+        const QString path = m_home.actionList("my_list.xqq");
+        QCOMPARE(keysOf(path).filter("ActionName").size(), add ? 2 : 1);
+        QCOMPARE(stored(path, "ActionName0").toString(), QString("Initial View"));
+        QVERIFY(!add || stored(path, "ActionPrefs1").toMap() == m_prefs);
+        QCOMPARE(m_prefs.value("ActionListOverwrite", true).toBool(), !add);
+    }
+
+    void writesNothingWhenRejected_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("key");
+        QTest::newRow("Escape") << "one" << int(Qt::Key_Escape);
+        QTest::newRow("Cancel") << "one" << 0;
+        QTest::newRow("Return without a name") << " " << int(Qt::Key_Return);
+        QTest::newRow("Enter without a name") << "" << int(Qt::Key_Enter);
+    }
+
+    void writesNothingWhenRejected()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const int, key);
+        CSaveAsActionlistDialog list(&m_parent);
+        CSaveAsCollectionDialog collection(&m_parent);
+        const auto leave = [key, name](QDialog* dialog, QLineEdit* field, QPushButton* cancel) {
+            QTest::keyClicks(field, name);
+            if (key == 0)
+                click(cancel);
+            else
+                QTest::keyClick(field, Qt::Key(key));
+            QCOMPARE(dialog->isVisible(), name.simplified().isEmpty());
+            QCOMPARE(dialog->result(), int(QDialog::Rejected));
+        };
+        open(list, &m_prefs);
+        leave(&list, list.ui.actionListNameLineEdit, list.ui.cancelButton);
+        open(collection, &m_prefs);
+        leave(&collection, collection.ui.collectionNameLineEdit, collection.ui.cancelButton);
+        QCOMPARE(m_prefs, manualsSettings());
+        QVERIFY(filesIn(CUtils::GetSequenceFolder()).isEmpty());
+        QVERIFY(filesIn(CUtils::GetCollectionsFolder()).isEmpty());
+    }
+
+    void savesAFavorite_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("Save") << false;
+        QTest::newRow("Return") << true;
+    }
+
+    void savesAFavorite()
+    {
+        QFETCH(const bool, byKey);
+        CSaveAsCollectionDialog dialog(&m_parent);
+        const QSignalSpy finished(&dialog, SIGNAL(finished(int)));
+        open(dialog, &m_prefs);
+        QTest::keyClicks(dialog.ui.collectionNameLineEdit, "Work set");
+        if (byKey)
+            QTest::keyClick(dialog.ui.collectionNameLineEdit, Qt::Key_Return);
+        else
+            click(dialog.ui.saveButton);
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        const QString path = m_home.favorite("Work set.ini");
+        Map expected = manualsSettings();
+        expected["CollectionName"] = "Work set";
+        QCOMPARE(m_prefs, expected);
+        QCOMPARE(stored(path, "ActionPrefs").toMap(), expected);
+        const QSize icon = stored(path, "ActionIcon").value<QImage>().size();
+        QVERIFY(!icon.isEmpty() && icon.width() <= 42 && icon.height() <= 42);
+    }
+
+    void savesWithAPickedImage()
+    {
+        QImage image(300, 100, QImage::Format_RGB32);
+        image.fill(Qt::blue);
+        QVERIFY(image.save(m_home.filePath("wide.png")));
+        CSaveAsCollectionDialog dialog(&m_parent);
+        open(dialog, &m_prefs);
+        nameFile(m_home.filePath("wide.png"));
+        click(dialog.ui.icon_toolButton);
+        const QIcon picked = dialog.ui.icon_toolButton->icon();
+        QCOMPARE(picked.availableSizes(), QList<QSize>{QSize(128, 128)});
+
+        cancelFileDialog();
+        click(dialog.ui.icon_toolButton);
+        QCOMPARE(dialog.ui.icon_toolButton->icon().cacheKey(), picked.cacheKey());
+
+        QTest::keyClicks(dialog.ui.collectionNameLineEdit, "blue");
+        click(dialog.ui.saveButton);
+        const auto icon = stored(m_home.favorite("blue.ini"), "ActionIcon").value<QImage>();
+        QCOMPARE(icon.size(), QSize(42, 42));
+        QCOMPARE(icon.pixelColor(20, 20), QColor(Qt::blue));
+    }
+
+    void picksAnEmptyIconFromNoImage()
+    {
+        QVERIFY(writeFile(m_home.filePath("broken.png"), "no image"));
+        CSaveAsCollectionDialog dialog(&m_parent);
+        open(dialog, &m_prefs);
+        nameFile(m_home.filePath("broken.png"));
+        QTest::ignoreMessage(QtWarningMsg, "QPixmap::scaled: Pixmap is a null pixmap");
+        click(dialog.ui.icon_toolButton);
+        QVERIFY(dialog.ui.icon_toolButton->icon().isNull());
+    }
+
+    void savesSettingsToAFile()
+    {
+        const QString path = m_home.filePath("preset.tsf");
+        CSaveAsCollectionDialog dialog(&m_parent);
+        bool writtenTooEarly = false;
+        connect(&dialog, &QDialog::rejected, [&] { writtenTooEarly = QFile::exists(path); });
+        open(dialog, &m_prefs);
+        QTest::keyClicks(dialog.ui.collectionNameLineEdit, "not a favourite");
+        nameFile(path);
+        click(dialog.ui.saveSettingsToFileButton);
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        QVERIFY(!dialog.isVisible() && !writtenTooEarly);
+        QCOMPARE(keysOf(path), QStringList{"ToolSettings"});
+        QCOMPARE(stored(path, "ToolSettings").toMap(), manualsSettings());
+        QCOMPARE(m_prefs, manualsSettings());
+        QVERIFY(filesIn(CUtils::GetCollectionsFolder()).isEmpty());
+        // The format does not drift.
+        QCOMPARE(bytesOf(path), bytesOf(QString(TEST_DATA_DIR) + "/manuals.tsf"));
+    }
+
+    void closesWhenTheFileDialogIsCancelled()
+    {
+        CSaveAsCollectionDialog dialog(&m_parent);
+        open(dialog, &m_prefs);
+        QString folder;
+        whenFileDialogOpens([&folder](QFileDialog* files) {
+            folder = files->directory().absolutePath();
+            QTest::keyClick(files, Qt::Key_Escape);
+        });
+        click(dialog.ui.saveSettingsToFileButton);
+        QCOMPARE(folder, QDir::homePath());
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        QVERIFY(filesIn(QDir::homePath()).isEmpty());
+    }
+
+    void survivesBeingDeletedByARejection()
+    {
+        auto* prefs = new Map(manualsSettings());
+        auto* dialog = new CSaveAsCollectionDialog(&m_parent);
+        open(*dialog, prefs);
+        connect(dialog, &QDialog::rejected, [&prefs] {
+            delete prefs;
+            prefs = nullptr;
+        });
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        nameFile(m_home.filePath("preset.tsf"));
+        click(dialog->ui.saveSettingsToFileButton);
+        QVERIFY(prefs == nullptr);
+        QCOMPARE(stored(m_home.filePath("preset.tsf"), "ToolSettings").toMap(), manualsSettings());
+    }
+
+    void readsTheStoredSample()
+    {
+        const QSettings file(QString(TEST_DATA_DIR) + "/manuals.tsf", QSettings::IniFormat);
+        QCOMPARE(file.allKeys(), QStringList{"ToolSettings"});
+        QCOMPARE(file.value("ToolSettings").toMap(), manualsSettings());
+    }
+};
+
+QTEST_MAIN(TestSaveDialogs)
+#include "TestSaveDialogs.moc"
