@@ -1,4 +1,5 @@
 #include "engine/ByteSource.h"
+#include "engine/DocumentWriter.h"
 #include "engine/EngineError.h"
 #include "engine/FileNameCodec.h"
 #include "engine/Operations.h"
@@ -60,6 +61,23 @@ int LoadFromFile(Session& session, std::wstring_view fileName, std::wstring_view
 int LoadFromString(Session& session, std::string_view source, std::wstring_view password)
 {
     return open(session, ByteSource::fromBytes(std::string(source)), {}, password);
+}
+
+int SaveToFile(Session& session, std::wstring_view fileName)
+{
+    writeWhole(session.document().document, pathFrom(fileName));
+    return 1;
+}
+
+int AppendToFile(Session& session, std::wstring_view fileName)
+{
+    appendUpdate(session.document().document, pathFrom(fileName));
+    return 1;
+}
+
+std::string SaveToString(Session& session)
+{
+    return wholeToString(session.document().document);
 }
 
 int DocumentCount(Session& session)

@@ -14,6 +14,9 @@ namespace operations {
 // DocumentOperations.cpp
 int LoadFromFile(Session& session, std::wstring_view fileName, std::wstring_view password);
 int LoadFromString(Session& session, std::string_view source, std::wstring_view password);
+int SaveToFile(Session& session, std::wstring_view fileName);
+int AppendToFile(Session& session, std::wstring_view fileName);
+std::string SaveToString(Session& session);
 int DocumentCount(Session& session);
 int GetDocumentID(Session& session, int index);
 int SelectDocument(Session& session, int documentId);

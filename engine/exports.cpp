@@ -19,6 +19,9 @@ constexpr OperationSlots implemented()
     OperationSlots slots;
     slots.LoadFromFile = operations::LoadFromFile;
     slots.LoadFromString = operations::LoadFromString;
+    slots.SaveToFile = operations::SaveToFile;
+    slots.AppendToFile = operations::AppendToFile;
+    slots.SaveToString = operations::SaveToString;
     slots.DocumentCount = operations::DocumentCount;
     slots.GetDocumentID = operations::GetDocumentID;
     slots.SelectDocument = operations::SelectDocument;
