@@ -1,0 +1,541 @@
+#include "engine/EngineError.h"
+#include "engine/Operations.h"
+#include "engine/Session.h"
+#include "support/PdfBuilder.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <functional>
+
+using namespace engine;
+using namespace engine::operations;
+
+Q_DECLARE_METATYPE(std::string)
+Q_DECLARE_METATYPE(std::function<int(Session&)>)
+
+namespace {
+
+using Setter = std::function<int(Session&)>;
+
+const double letterTop = 792;
+
+/// A session with one document, whose objects are looked at behind the operations' back.
+struct Opened
+{
+    explicit Opened(const std::string& bytes) { LoadFromString(session, bytes, {}); }
+
+    Document& document() { return session.document().document; }
+    QByteArray entry(const char* key)
+    {
+        return QByteArray::fromStdString(document().catalog().getKey(key).unparse());
+    }
+    QByteArray changed()
+    {
+        QByteArrayList objects;
+        for (const QPDFObjGen& object : document().changedObjects())
+            objects << QByteArray::number(object.getObj());
+        return objects.join(' ');
+    }
+
+    Session session;
+};
+
+/// Three pages, objects 3 to 5; further objects from 10 on.
+std::string document(const std::string& catalogEntries, const std::map<int, std::string>& objects = {})
+{
+    PdfBuilder builder;
+    builder.catalog(catalogEntries).pages(3);
+    for (const auto& [number, body] : objects)
+        builder.object(number, body);
+    return builder.bytes();
+}
+
+/// Page, type and name of the open action's destination, and its left, top, right, bottom and zoom.
+QByteArray openAction(Session& session)
+{
+    const int id = GetOpenActionDestination(session);
+    if (id == 0)
+        return "none";
+    QByteArray text = QByteArray::number(GetDestPage(session, id)) + " type " +
+                      QByteArray::number(GetDestType(session, id));
+    for (int key = 1; key <= 5; ++key)
+        text += ' ' + QByteArray::number(GetDestValue(session, id, key));
+    const std::wstring name = GetDestName(session, id);
+    return name.empty() ? text : text + ' ' + QString::fromStdWString(name).toUtf8();
+}
+
+ErrorCode failureOf(const Setter& call, Session& session)
+{
+    try {
+        call(session);
+    } catch (const EngineError& error) {
+        return error.code();
+    }
+    return ErrorCode::None;
+}
+
+Setter destination(int page, int zoom, int type, double left = 0, double top = letterTop)
+{
+    return [=](Session& session) {
+        return SetOpenActionDestinationFull(session, page, zoom, type, left, top, 612, 0);
+    };
+}
+
+Setter preference(int option, int value)
+{
+    return [=](Session& session) { return SetViewerPreferences(session, option, value); };
+}
+
+Setter pageMode(int mode)
+{
+    return [=](Session& session) { return SetPageMode(session, mode); };
+}
+
+Setter pageLayout(int layout)
+{
+    return [=](Session& session) { return SetPageLayout(session, layout); };
+}
+
+} // namespace
+
+class TestEngineView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void numbersModesAndLayouts()
+    {
+        const char* const modes[] = {"UseNone",    "UseOutlines", "UseThumbs",
+                                     "FullScreen", "UseOC",       "UseAttachments"};
+        for (int mode = 0; mode < 6; ++mode) {
+            const std::string name = std::string("/") + modes[mode];
+            Opened opened(document("/PageMode " + name + " /ViewerPreferences << /NonFullScreenPageMode " +
+                                   name + " >>"));
+            QCOMPARE(GetPageMode(opened.session), mode);
+            QCOMPARE(GetViewerPreferences(opened.session, 7), mode == 3 ? 0 : mode);
+            Opened plain(document("/PageMode /Other"));
+            SetPageMode(plain.session, mode);
+            QCOMPARE(plain.entry("/PageMode"), QByteArray::fromStdString(name));
+        }
+        const char* const layouts[] = {"SinglePage",     "OneColumn",   "TwoColumnLeft",
+                                       "TwoColumnRight", "TwoPageLeft", "TwoPageRight"};
+        for (int layout = 0; layout < 6; ++layout) {
+            const std::string name = std::string("/") + layouts[layout];
+            Opened opened(document("/PageLayout " + name));
+            QCOMPARE(GetPageLayout(opened.session), layout);
+            Opened plain(document(""));
+            SetPageLayout(plain.session, layout);
+            QCOMPARE(plain.entry("/PageLayout"), QByteArray::fromStdString(name));
+        }
+    }
+
+    void numbersPreferences()
+    {
+        const char* const keys[] = {"",           "/HideToolbar",  "/HideMenubar",    "/HideWindowUI",
+                                    "/FitWindow", "/CenterWindow", "/DisplayDocTitle"};
+        for (int option = 1; option <= 6; ++option) {
+            Opened opened(document("/ViewerPreferences << " + std::string(keys[option]) + " true >>"));
+            for (int other = 1; other <= 6; ++other)
+                QCOMPARE(GetViewerPreferences(opened.session, other), other == option ? 1 : 0);
+            SetViewerPreferences(opened.session, option, 0);
+            QCOMPARE(opened.entry("/ViewerPreferences"), QByteArray("<< ") + keys[option] + " false >>");
+        }
+    }
+
+    void readsWhatIsMissingOrWrongAsAbsent_data()
+    {
+        QTest::addColumn<std::string>("entries");
+        QTest::newRow("nothing") << std::string();
+        QTest::newRow("wrong types") << std::string("/PageMode (UseOC) /PageLayout 3 /ViewerPreferences [ << "
+                                                    "/HideToolbar true >> ] /OpenAction (none)");
+        QTest::newRow("unknown values") << std::string(
+            "/PageMode /UseBookmarks /PageLayout /Single /ViewerPreferences << /HideToolbar 1 "
+            "/HideMenubar (true) /NonFullScreenPageMode true >> /OpenAction << /S /URI /D [3 0 R /Fit] >>");
+        QTest::newRow("missing objects") << std::string(
+            "/PageMode 90 0 R /PageLayout 90 0 R /ViewerPreferences 90 0 R /OpenAction 90 0 R");
+    }
+
+    void readsWhatIsMissingOrWrongAsAbsent()
+    {
+        QFETCH(std::string, entries);
+        Opened opened(document(entries));
+        QCOMPARE(GetPageMode(opened.session), 0);
+        QCOMPARE(GetPageLayout(opened.session), 6);
+        for (int option = 1; option <= 7; ++option)
+            QCOMPARE(GetViewerPreferences(opened.session, option), 0);
+        QCOMPARE(GetOpenActionDestination(opened.session), 0);
+    }
+
+    void readsIndirectAndEscapedEntries()
+    {
+        Opened opened(document("/PageMode 10 0 R /PageLayout /One#43olumn /ViewerPreferences 11 0 R",
+                               {{10, "/UseOutlines"}, {11, "<< /FitWindow 12 0 R >>"}, {12, "true"}}));
+        QCOMPARE(GetPageMode(opened.session), 1);
+        QCOMPARE(GetPageLayout(opened.session), 1);
+        QCOMPARE(GetViewerPreferences(opened.session, 4), 1);
+    }
+
+    void changesOnlyWhatDiffers_data()
+    {
+        QTest::addColumn<std::string>("entries");
+        QTest::addColumn<Setter>("setter");
+        QTest::addColumn<QByteArray>("key");
+        QTest::addColumn<QByteArray>("value"); // null for nothing changed
+        QTest::addColumn<QByteArray>("changed");
+        const QByteArray nothing;
+        const auto row = [&](const char* what, const char* entries, const Setter& setter, const char* key,
+                             const char* value = nullptr, const char* changed = "1") {
+            QTest::newRow(what) << std::string(entries) << setter << QByteArray(key) << QByteArray(value)
+                                << QByteArray(value != nullptr ? changed : "");
+        };
+        row("same mode", "/PageMode /UseOC", pageMode(4), "/PageMode");
+        row("default mode", "", pageMode(0), "/PageMode");
+        row("default mode for a wrong one", "/PageMode /Odd", pageMode(0), "/PageMode", "/UseNone");
+        row("other mode", "/PageMode 10 0 R", pageMode(5), "/PageMode", "/UseAttachments");
+        row("same layout", "/PageLayout /OneColumn", pageLayout(1), "/PageLayout");
+        row("no layout", "/PageLayout /OneColumn", pageLayout(6), "/PageLayout", "null");
+        row("no layout where there is none", "", pageLayout(6), "/PageLayout");
+        row("no layout for a wrong one", "/PageLayout 7", pageLayout(6), "/PageLayout", "null");
+        row("same preference", "/ViewerPreferences << /FitWindow true >>", preference(4, 1),
+            "/ViewerPreferences");
+        row("default preference", "", preference(4, 0), "/ViewerPreferences");
+        row("default for a wrong one", "/ViewerPreferences << /FitWindow 1 >>", preference(4, 0),
+            "/ViewerPreferences", "<< /FitWindow false >>");
+        row("new preferences", "", preference(1, 1), "/ViewerPreferences", "<< /HideToolbar true >>");
+        row("other keys stay", "/ViewerPreferences << /Direction /R2L /Foo (x) >>", preference(7, 5),
+            "/ViewerPreferences", "<< /Direction /R2L /Foo (x) /NonFullScreenPageMode /UseAttachments >>");
+        row("in place", "/ViewerPreferences 11 0 R", preference(2, 1), "/ViewerPreferences", "11 0 R", "11");
+        row("an array replaced", "/ViewerPreferences 12 0 R", preference(2, 1), "/ViewerPreferences",
+            "<< /HideMenubar true >>");
+        row("missing preferences", "/ViewerPreferences 90 0 R", preference(2, 1), "/ViewerPreferences",
+            "<< /HideMenubar true >>");
+    }
+
+    void changesOnlyWhatDiffers()
+    {
+        QFETCH(std::string, entries);
+        QFETCH(Setter, setter);
+        QFETCH(QByteArray, key);
+        QFETCH(QByteArray, value);
+        QFETCH(QByteArray, changed);
+        Opened opened(
+            document(entries, {{10, "/UseThumbs"}, {11, "<< /HideToolbar true >>"}, {12, "[1 2]"}}));
+        const QByteArray before = opened.entry(key);
+        QCOMPARE(setter(opened.session), 1);
+        QCOMPARE(opened.entry(key), value.isNull() ? before : value);
+        QCOMPARE(opened.changed(), changed);
+        QCOMPARE(setter(opened.session), 1);
+        QCOMPARE(opened.entry(key), value.isNull() ? before : value);
+    }
+
+    void readsOpenActions_data()
+    {
+        QTest::addColumn<std::string>("action");
+        QTest::addColumn<QByteArray>("expected");
+        const auto row = [](const char* action, const char* expected) {
+            QTest::newRow(action) << std::string(action) << QByteArray(expected);
+        };
+        row("[4 0 R /XYZ 10 20.5 1.5]", "2 type 1 10 20.5 0 0 150");
+        row("[4 0 R /XYZ null null null]", "2 type 1 0 0 0 0 0");
+        row("[4 0 R /XYZ]", "2 type 1 0 0 0 0 0");
+        row("[4 0 R]", "2 type 1 0 0 0 0 0");
+        row("[4 0 R /Odd 1 2 3]", "2 type 1 1 2 0 0 300");
+        row("[5 0 R /Fit]", "3 type 2 0 0 0 0 0");
+        row("[5 0 R /FitH 700]", "3 type 3 0 700 0 0 0");
+        row("[5 0 R /FitV 30]", "3 type 4 30 0 0 0 0");
+        row("[5 0 R /FitB]", "3 type 5 0 0 0 0 0");
+        row("[5 0 R /FitBH 600]", "3 type 5 0 600 0 0 0");
+        row("[5 0 R /FitBV 40]", "3 type 5 40 0 0 0 0");
+        row("[5 0 R /FitR 1 2 3 4]", "3 type 1 1 4 3 2 0");
+        row("[0 /Fit]", "1 type 2 0 0 0 0 0");
+        row("[2 /Fit]", "3 type 2 0 0 0 0 0");
+        row("[3 /Fit]", "none");
+        row("[-1 /Fit]", "none");
+        row("[null /Fit]", "none");
+        row("[1 0 R /Fit]", "none");
+        row("[]", "none");
+        row("10 0 R", "1 type 2 0 0 0 0 0");
+        row("<< /S /GoTo /D [4 0 R /Fit] >>", "2 type 2 0 0 0 0 0");
+        row("11 0 R", "2 type 2 0 0 0 0 0");
+        row("<< /S /JavaScript /JS (x) >>", "none");
+        row("<< /S /GoTo >>", "none");
+        row("<< /S /GoTo /D /old >>", "2 type 2 0 0 0 0 0 old");
+        row("<< /S /GoTo /D (new) >>", "3 type 3 0 5 0 0 0 new");
+        row("<< /S /GoTo /D (inside) >>", "1 type 2 0 0 0 0 0 inside");
+        row("<< /S /GoTo /D (lied) >>", "1 type 4 7 0 0 0 0 lied");
+        row("<< /S /GoTo /D (old) >>", "2 type 2 0 0 0 0 0 old");
+        row("<< /S /GoTo /D /new >>", "3 type 3 0 5 0 0 0 new");
+        row("<< /S /GoTo /D (nowhere) >>", "none");
+        row("(new)", "3 type 3 0 5 0 0 0 new");
+        row("<< /S /GoTo /D <FEFF00E9> >>", "1 type 2 0 0 0 0 0 \xc3\xa9");
+    }
+
+    void readsOpenActions()
+    {
+        QFETCH(std::string, action);
+        QFETCH(QByteArray, expected);
+        Opened opened(
+            document("/OpenAction " + action + " /Dests << /old [4 0 R /Fit] >> /Names << /Dests 20 0 R >>",
+                     {{10, "[12 0 R /Fit]"},
+                      {11, "<< /S /GoTo /D 13 0 R >>"},
+                      {12, "0"},
+                      {13, "[4 0 R 14 0 R]"},
+                      {14, "/Fit"},
+                      {20, "<< /Kids [21 0 R 22 0 R 20 0 R 23 0 R 7] >>"},
+                      {21, "<< /Limits [(a) (j)] /Names [(inside) << /D [3 0 R /Fit] >> (odd)] >>"},
+                      {22, "<< /Limits [(k) (p)] /Names [(new) [5 0 R /FitH 5]] >>"},
+                      {23, "<< /Limits [(y) (z)] /Names [(lied) [3 0 R /FitV 7] <FEFF00E9> [3 0 R /Fit]] "
+                           "/Kids [20 0 R] >>"}}));
+        QCOMPARE(openAction(opened.session), expected);
+        QCOMPARE(opened.changed(), QByteArray());
+    }
+
+    void searchesADeepNameTree()
+    {
+        std::map<int, std::string> nodes;
+        const int last = 100000;
+        for (int each = 10; each < last; ++each)
+            nodes[each] = "<< /Limits [(k) (m)] /Kids [" + std::to_string(each + 1) + " 0 R 10 0 R] >>";
+        nodes[last] = "<< /Names [(key) [5 0 R /Fit]] >>";
+        Opened opened(document("/OpenAction (key) /Names << /Dests 10 0 R >>", nodes));
+        QCOMPARE(openAction(opened.session), QByteArray("3 type 2 0 0 0 0 0 key"));
+    }
+
+    void writesDestinations_data()
+    {
+        QTest::addColumn<Setter>("setter");
+        QTest::addColumn<QByteArray>("written");
+        QTest::addColumn<QByteArray>("read");
+        QTest::newRow("zoom") << destination(2, 150, 1, 5, 700) << QByteArray("[ 4 0 R /XYZ 5 700 1.5 ]")
+                              << QByteArray("2 type 1 5 700 0 0 150");
+        QTest::newRow("no zoom") << destination(1, 0, 1) << QByteArray("[ 3 0 R /XYZ 0 792 null ]")
+                                 << QByteArray("1 type 1 0 792 0 0 0");
+        QTest::newRow("page") << destination(3, 0, 2) << QByteArray("[ 5 0 R /Fit ]")
+                              << QByteArray("3 type 2 0 0 0 0 0");
+        QTest::newRow("width") << destination(3, 75, 3) << QByteArray("[ 5 0 R /FitH 792 ]")
+                               << QByteArray("3 type 3 0 792 0 0 0");
+        QTest::newRow("height") << destination(1, 0, 4, -7.25) << QByteArray("[ 3 0 R /FitV -7.25 ]")
+                                << QByteArray("1 type 4 -7.25 0 0 0 0");
+        QTest::newRow("visible") << destination(1, 0, 5, 0, 841.889763779528)
+                                 << QByteArray("[ 3 0 R /FitBH 841.889764 ]")
+                                 << QByteArray("1 type 5 0 841.89 0 0 0");
+        QTest::newRow("minus zero") << destination(1, 33, 1, -0.0, 1e-9)
+                                    << QByteArray("[ 3 0 R /XYZ 0 0 0.33 ]")
+                                    << QByteArray("1 type 1 0 0 0 0 33");
+    }
+
+    void writesDestinations()
+    {
+        QFETCH(Setter, setter);
+        QFETCH(QByteArray, written);
+        QFETCH(QByteArray, read);
+        for (const char* before : {"", "/OpenAction 10 0 R", "/OpenAction << /S /JavaScript /JS (x) >>"}) {
+            Opened opened(document(before, {{10, "[3 0 R /XYZ 1 1 1]"}}));
+            QCOMPARE(setter(opened.session), 1);
+            QCOMPARE(opened.entry("/OpenAction"), written);
+            QCOMPARE(openAction(opened.session), read);
+            QCOMPARE(opened.changed(), QByteArray("1"));
+            QCOMPARE(setter(opened.session), 1);
+            QCOMPARE(opened.entry("/OpenAction"), written);
+        }
+    }
+
+    void leavesAnOpenActionThatAlreadyShowsIt_data()
+    {
+        QTest::addColumn<std::string>("action");
+        QTest::addColumn<Setter>("setter");
+        QTest::addColumn<bool>("same");
+        const auto row = [](const char* action, const Setter& setter, bool same) {
+            QTest::newRow(action) << std::string(action) << setter << same;
+        };
+        row("[4 0 R /Fit]", destination(2, 0, 2), true);
+        row("<< /S /GoTo /D [4 0 R /Fit] /Next << /S /URI >> >>", destination(2, 0, 2), true);
+        row("(name)", destination(2, 0, 2), true);
+        row("<< /S /GoTo /D (name) >>", destination(2, 0, 2), true);
+        row("<< /S /GoTo /D (name)  >>", destination(1, 0, 2), false);
+        row("[4 0 R /XYZ 0 792.0 0]", destination(2, 0, 1), true);
+        row("[4 0 R /XYZ 0.0 792 null]", destination(2, 0, 1), true);
+        row("[4 0 R /XYZ null null null]", destination(2, 0, 1), false);
+        row("[4 0 R /XYZ 0 792]", destination(2, 0, 1), false);
+        row("[4 0 R /XYZ 0 792 1]", destination(2, 0, 1), false);
+        row("[4 0 R /FitB]", destination(2, 0, 5), false);
+        row("[4 0 R /FitBH 792]", destination(2, 0, 5), true);
+        row("[1 /Fit]", destination(2, 0, 2), false);
+    }
+
+    void leavesAnOpenActionThatAlreadyShowsIt()
+    {
+        QFETCH(std::string, action);
+        QFETCH(Setter, setter);
+        QFETCH(bool, same);
+        Opened opened(
+            document("/OpenAction " + action + " /Names << /Dests << /Names [(name) [4 0 R /Fit]] >> >>"));
+        const QByteArray before = opened.entry("/OpenAction");
+        QCOMPARE(setter(opened.session), 1);
+        QCOMPARE(opened.entry("/OpenAction") == before, same);
+        QCOMPARE(opened.changed(), QByteArray(same ? "" : "1"));
+    }
+
+    void refusesWhatItDoesNotKnow_data()
+    {
+        QTest::addColumn<Setter>("call");
+        QTest::addColumn<int>("code");
+        const auto row = [](const char* what, const Setter& call, ErrorCode code) {
+            QTest::newRow(what) << call << static_cast<int>(code);
+        };
+        const double nan = std::nan("");
+        const ErrorCode bad = ErrorCode::BadArgument;
+        row("mode -1", pageMode(-1), bad);
+        row("mode 6", pageMode(6), bad);
+        row("layout -1", pageLayout(-1), bad);
+        row("layout 7", pageLayout(7), bad);
+        row("preference 0", preference(0, 1), bad);
+        row("preference 8", preference(8, 1), bad);
+        row("preference value 2", preference(1, 2), bad);
+        row("preference value -1", preference(6, -1), bad);
+        row("full screen outside full screen", preference(7, 3), bad);
+        row("mode 6 outside full screen", preference(7, 6), bad);
+        row("page 0", destination(0, 0, 2), ErrorCode::UnknownPage);
+        row("page 4", destination(4, 0, 2), ErrorCode::UnknownPage);
+        row("type 0", destination(1, 0, 0), bad);
+        row("type 6", destination(1, 0, 6), bad);
+        row("negative zoom", destination(1, -5, 1), bad);
+        row("left no number", destination(1, 0, 1, nan), bad);
+        row("top infinite", destination(1, 0, 1, 0, HUGE_VAL), bad);
+        row(
+            "read preference 8", [](Session& s) { return GetViewerPreferences(s, 8); }, bad);
+        row(
+            "destination 0", [](Session& s) { return GetDestPage(s, 0); }, ErrorCode::UnknownDestination);
+        row(
+            "destination 7", [](Session& s) { return GetDestType(s, 7); }, ErrorCode::UnknownDestination);
+        row(
+            "destination -1", [](Session& s) { return GetDestType(s, -1); }, ErrorCode::UnknownDestination);
+        row(
+            "value 0", [](Session& s) { return static_cast<int>(GetDestValue(s, 1, 0)); }, bad);
+        row(
+            "value 6", [](Session& s) { return static_cast<int>(GetDestValue(s, 1, 6)); }, bad);
+        row(
+            "select page 4", [](Session& s) { return SelectPage(s, 4); }, ErrorCode::UnknownPage);
+        row(
+            "box 0", [](Session& s) { return static_cast<int>(GetPageBox(s, 0, 0)); }, bad);
+        row(
+            "box 6", [](Session& s) { return static_cast<int>(GetPageBox(s, 6, 0)); }, bad);
+        row(
+            "dimension 6", [](Session& s) { return static_cast<int>(GetPageBox(s, 1, 6)); }, bad);
+        row(
+            "dimension -1", [](Session& s) { return static_cast<int>(GetPageBox(s, 1, -1)); }, bad);
+    }
+
+    void refusesWhatItDoesNotKnow()
+    {
+        QFETCH(Setter, call);
+        QFETCH(int, code);
+        Opened opened(document("/OpenAction [3 0 R /Fit]"));
+        QCOMPARE(GetOpenActionDestination(opened.session), 1);
+        QCOMPARE(static_cast<int>(failureOf(call, opened.session)), code);
+        QCOMPARE(opened.changed(), QByteArray());
+        QCOMPARE(SelectedPage(opened.session), 1);
+        Session empty;
+        QCOMPARE(failureOf(call, empty), ErrorCode::NoDocument);
+    }
+
+    void removesAnOpenAction()
+    {
+        Opened opened(document("/OpenAction (anything)"));
+        QCOMPARE(RemoveOpenAction(opened.session), 1);
+        QCOMPARE(opened.entry("/OpenAction"), QByteArray("null"));
+        QCOMPARE(opened.changed(), QByteArray("1"));
+        Opened without(document(""));
+        QCOMPARE(RemoveOpenAction(without.session), 1);
+        QCOMPARE(without.changed(), QByteArray());
+    }
+
+    void keepsDestinationIdsWhileTheirDocumentIsOpen()
+    {
+        Opened opened(document("/OpenAction [3 0 R /Fit]"));
+        Session& session = opened.session;
+        const int first = GetOpenActionDestination(session);
+        destination(2, 0, 2)(session);
+        const int second = GetOpenActionDestination(session);
+        QVERIFY(first != second);
+        QCOMPARE(GetDestPage(session, first), 1);
+        QCOMPARE(GetDestPage(session, second), 2);
+        QCOMPARE(GetOpenActionDestination(session), second);
+        LoadFromString(session, document("/OpenAction [5 0 R /Fit]"), {});
+        QVERIFY_EXCEPTION_THROWN(GetDestPage(session, first), EngineError);
+        RemoveDocument(session, 1);
+        QCOMPARE(GetOpenActionDestination(session), first);
+        QCOMPARE(GetDestPage(session, first), 3);
+    }
+
+    void measuresPages_data()
+    {
+        QTest::addColumn<std::string>("page");
+        QTest::addColumn<int>("box");
+        QTest::addColumn<QByteArray>("expected"); // left top width height right bottom
+        const auto row = [](const char* page, int box, const char* expected) {
+            QTest::newRow(qPrintable(QString("%1 box %2").arg(page).arg(box)))
+                << std::string(page) << box << QByteArray(expected);
+        };
+        row("", 1, "0 792 612 792 612 0");
+        row("/MediaBox [10 20 110 220]", 1, "10 220 100 200 110 20");
+        row("/MediaBox [110 220 10 20]", 1, "10 220 100 200 110 20");
+        row("/MediaBox [0 0 100]", 1, "0 792 612 792 612 0");
+        row("/MediaBox [0 0 100 /x]", 1, "0 792 612 792 612 0");
+        row("/MediaBox 10 0 R", 1, "-5 50 15 48.5 10 1.5");
+        row("/MediaBox [0 0 200 300]", 2, "0 300 200 300 200 0");
+        row("/CropBox [5 5 50 60]", 2, "5 60 45 55 50 5");
+        row("/CropBox [5 5 50 60]", 3, "5 60 45 55 50 5");
+        row("/CropBox [5 5 50 60] /TrimBox [6 6 40 50]", 4, "6 50 34 44 40 6");
+        row("/CropBox [5 5 50 60] /TrimBox [6 6 40 50]", 5, "5 60 45 55 50 5");
+        row("/ArtBox [7 7 8 9]", 5, "7 9 1 2 8 7");
+    }
+
+    void measuresPages()
+    {
+        QFETCH(std::string, page);
+        QFETCH(int, box);
+        QFETCH(QByteArray, expected);
+        Opened opened(PdfBuilder().catalog("").pages(1, 3, page).object(10, "[-5 1.5 10 50]").bytes());
+        QByteArrayList found;
+        for (int dimension = 0; dimension < 6; ++dimension)
+            found << QByteArray::number(GetPageBox(opened.session, box, dimension));
+        QCOMPARE(found.join(' '), expected);
+        if (box == 1) {
+            QCOMPARE(QByteArray::number(PageWidth(opened.session)), found[2]);
+            QCOMPARE(QByteArray::number(PageHeight(opened.session)), found[3]);
+        }
+    }
+
+    void takesAnUnstatedSizeForLetter()
+    {
+        Opened opened(
+            PdfBuilder().catalog("").object(2, "<< /Kids [3 0 R] /Count 1 >>").object(3, "<< >>").bytes());
+        QCOMPARE(PageWidth(opened.session), 612.0);
+        QCOMPARE(PageHeight(opened.session), 792.0);
+    }
+
+    void rotatesPages_data()
+    {
+        QTest::addColumn<std::string>("rotate");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("none") << std::string() << 0;
+        QTest::newRow("right") << std::string("/Rotate 90") << 90;
+        QTest::newRow("left") << std::string("/Rotate -90") << 270;
+        QTest::newRow("more than once round") << std::string("/Rotate 630") << 270;
+        QTest::newRow("slanted") << std::string("/Rotate 45") << 0;
+        QTest::newRow("no number") << std::string("/Rotate /Left") << 0;
+    }
+
+    void rotatesPages()
+    {
+        QFETCH(std::string, rotate);
+        QFETCH(int, expected);
+        Opened opened(PdfBuilder().catalog("").pages(1, 3, rotate).bytes());
+        QCOMPARE(PageRotation(opened.session), expected);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestEngineView)
+#include "TestEngineView.moc"
