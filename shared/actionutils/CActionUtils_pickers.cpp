@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPen>
 #include <QPixmap>
+#include <QPointer>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QVector>
@@ -163,14 +164,15 @@ QStandardItemModel* modelFor(const Picker& picker)
     return model;
 }
 
-/// The model has no parent that would end it.
+/// A model without a parent is nobody's to end, so that is arranged here.
 void installModel(QComboBox* box, QStandardItemModel* model)
 {
-    QAbstractItemModel* const previous = box->model();
+    QPointer<QAbstractItemModel> previous;
+    if (box->model()->property(ownModelMark).toBool())
+        previous = box->model();
     box->setModel(model);
+    delete previous;
     QObject::connect(box, &QObject::destroyed, model, [model] { delete model; });
-    if (previous != nullptr && previous->property(ownModelMark).toBool())
-        delete previous;
 }
 
 void fitView(QTableView* view, int width, int rows, int rowHeight)
