@@ -73,7 +73,10 @@ void settle()
 void keepPictureOf(const QWidget& dialog, const QString& name)
 {
     settle();
-    const QRect area = dialog.frameGeometry().adjusted(-margin, -margin, margin, margin);
+    QRect area = dialog.frameGeometry();
+    if (const auto* below = qobject_cast<QDialog*>(dialog.parentWidget()))
+        area |= below->frameGeometry();
+    area.adjust(-margin, -margin, margin, margin);
     const QString file = folder + "/" + name + suffix + ".png";
     if (!dialog.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height()).save(file))
         fail("Cannot write " + file);
