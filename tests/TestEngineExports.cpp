@@ -1,0 +1,105 @@
+#include "support/LoadedLibrary.h"
+#include "support/PdfBuilder.h"
+
+#include "engine/ErrorCodes.h"
+
+#include <QtTest>
+
+#include <dlfcn.h>
+
+namespace {
+
+const QSet<QString> infrastructure{"CreateLibrary",         "ReleaseLibrary", "CreateBuffer",
+                                   "AddToBuffer",           "ReleaseBuffer",  "StringResultLength",
+                                   "AnsiStringResultLength"};
+
+QByteArray contents(const char* path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Calls any operation with zeros and empty strings.
+template <class Result, class... Parameters>
+Result callEmpty(LoadedLibrary& library, Result (TelvarPDFLibraryCPDylibCPP1311::*operation)(Parameters...))
+{
+    return (library.*operation)(std::remove_cvref_t<Parameters>()...);
+}
+
+} // namespace
+
+class TestEngineExports : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void exportsTheTableAndNothingElse()
+    {
+        QSet<QString> expected = infrastructure;
+        for (const QByteArray& line : contents(TEST_DATA_DIR "/operations.txt").trimmed().split('\n'))
+            expected << QString(line.mid(2)).section('(', 0, 0).trimmed();
+        QCOMPARE(expected.size(), 849 + 7);
+        QProcess nm;
+        nm.start("nm", {"-D", "--defined-only", "--format=posix", ENGINE_FILE});
+        QVERIFY2(nm.waitForFinished(), qPrintable(nm.errorString()));
+        QSet<QString> found;
+        for (const QByteArray& line : nm.readAllStandardOutput().trimmed().split('\n')) {
+            QVERIFY2(line.startsWith("TPL"), line);
+            found << line.mid(3, line.indexOf(' ') - 3);
+        }
+        QCOMPARE(found, expected);
+    }
+
+    void saysOfTheRestThatItIsNotAvailable()
+    {
+        LoadedLibrary library;
+        QVERIFY(library.LibraryLoaded());
+        QCOMPARE(library.LoadFromString(PdfBuilder::simple(), L""), 1);
+        QSet<QString> available{"SecurityInfo"}; // it has two items and says so of all others
+#define TPL_OP(Result, Name, Arguments, ...)                                                                 \
+    {                                                                                                        \
+        library.DocumentCount(); /* succeeds */                                                              \
+        const auto result = callEmpty(library, &TelvarPDFLibraryCPDylibCPP1311::Name);                       \
+        if (library.LastErrorCode() != static_cast<int>(engine::ErrorCode::NotAvailable))                    \
+            available << #Name;                                                                              \
+        else                                                                                                 \
+            QCOMPARE(result, std::remove_cvref_t<decltype(result)>());                                       \
+    }
+#include "pdflibrary/operations.def"
+#undef TPL_OP
+        // The manual describes exactly the operations that there are, one table row each.
+        QSet<QString> described;
+        QRegularExpressionMatchIterator rows =
+            QRegularExpression("^\\| `([A-Za-z]+)\\(", QRegularExpression::MultilineOption)
+                .globalMatch(contents(SOURCE_DIR "/docs/engine.md"));
+        while (rows.hasNext())
+            described << rows.next().captured(1);
+        QCOMPARE(available, described);
+    }
+
+    void describesEveryErrorCode()
+    {
+        const QByteArray manual = contents(SOURCE_DIR "/docs/engine.md");
+        for (const engine::ErrorText& entry : engine::errorTexts) {
+            const QByteArray row = "| " + QByteArray::number(static_cast<int>(entry.code)) + " | " +
+                                   QByteArray(entry.text.data(), static_cast<int>(entry.text.size())) + " |";
+            QVERIFY2(manual.contains(row), row);
+        }
+    }
+
+    void canBeUnloaded()
+    {
+        {
+            LoadedLibrary library;
+            QCOMPARE(library.LoadFromString(PdfBuilder::simple(), L""), 1);
+            QVERIFY(!library.GetInstalledFontsByCharset(2, 1).empty());
+            void* const loaded = dlopen(ENGINE_FILE, RTLD_LAZY | RTLD_NOLOAD);
+            QVERIFY(loaded != nullptr);
+            dlclose(loaded);
+        }
+        QCOMPARE(dlopen(ENGINE_FILE, RTLD_LAZY | RTLD_NOLOAD), nullptr);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestEngineExports)
+#include "TestEngineExports.moc"

@@ -1,0 +1,404 @@
+#include "support/LoadedLibrary.h"
+#include "support/PdfBuilder.h"
+
+#include "engine/ErrorCodes.h"
+#include "engine/FileNameCodec.h"
+
+#include <QtTest>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <sys/stat.h>
+
+#include <atomic>
+#include <climits>
+#include <fstream>
+#include <thread>
+
+using engine::ErrorCode;
+
+Q_DECLARE_METATYPE(std::string)
+Q_DECLARE_METATYPE(std::wstring)
+
+namespace {
+
+/// A document encrypted with revision 2, 3, 4 or 6; the passwords are bytes as they go into the key.
+std::string encrypted(int revision, const char* user, const char* owner)
+{
+    QPDF pdf;
+    const std::string plain = PdfBuilder::simple();
+    pdf.processMemoryFile("plain", plain.data(), plain.size());
+    QPDFWriter writer(pdf);
+    writer.setOutputMemory();
+    if (revision == 2)
+        writer.setR2EncryptionParametersInsecure(user, owner, true, false, true, true);
+    else if (revision == 3)
+        writer.setR3EncryptionParametersInsecure(user, owner, true, true, true, true, true, false,
+                                                 qpdf_r3p_full);
+    else if (revision == 4)
+        writer.setR4EncryptionParametersInsecure(user, owner, true, true, true, true, true, false,
+                                                 qpdf_r3p_full, true, true);
+    else
+        writer.setR6EncryptionParameters(user, owner, true, true, true, true, true, false, qpdf_r3p_full,
+                                         true);
+    writer.write();
+    const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
+    return {reinterpret_cast<const char*>(buffer->getBuffer()), buffer->getSize()};
+}
+
+std::wstring wide(const QString& text)
+{
+    return text.toStdWString();
+}
+
+} // namespace
+
+class TestEngineSession : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+    QString file(const QString& name, const std::string& contents)
+    {
+        QFile made(m_folder.filePath(name));
+        if (!made.open(QIODevice::WriteOnly) || made.write(contents.data(), contents.size()) < 0)
+            qFatal("cannot write %s", qPrintable(made.fileName()));
+        return made.fileName();
+    }
+
+private slots:
+    void keepsSeveralDocumentsApart()
+    {
+        LoadedLibrary library;
+        QCOMPARE(library.SelectedDocument(), 0);
+        QCOMPARE(library.PageCount(), 0);
+        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::NoDocument));
+        for (int pages = 1; pages <= 3; ++pages)
+            QCOMPARE(library.LoadFromString(PdfBuilder::simple("", pages), L""), 1);
+        QCOMPARE(library.DocumentCount(), 3);
+        const int first = library.GetDocumentID(1);
+        const int third = library.GetDocumentID(3);
+        QCOMPARE(library.SelectedDocument(), third);
+        QCOMPARE(library.PageCount(), 3);
+        QCOMPARE(library.SelectPage(2), 1);
+        QCOMPARE(library.SelectDocument(first), 1);
+        QCOMPARE(library.PageCount(), 1);
+        QCOMPARE(library.SelectedPage(), 1);
+        QCOMPARE(library.SelectDocument(third), 1);
+        QCOMPARE(library.SelectedPage(), 2);
+
+        QCOMPARE(library.RemoveDocument(first), 1);
+        QCOMPARE(library.SelectedDocument(), third);
+        QCOMPARE(library.RemoveDocument(third), 1);
+        QCOMPARE(library.SelectedDocument(), 0);
+        QCOMPARE(library.DocumentCount(), 1);
+        for (const int unknown : {first, third, 0, -1, INT_MAX}) {
+            QCOMPARE(library.SelectDocument(unknown), 0);
+            QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::UnknownDocument));
+            QCOMPARE(library.RemoveDocument(unknown), 0);
+        }
+        QCOMPARE(library.GetDocumentID(0), 0);
+        QCOMPARE(library.GetDocumentID(2), 0);
+        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::UnknownDocument));
+    }
+
+    void remembersTheErrorOfTheLastCallOnly()
+    {
+        LoadedLibrary library;
+        library.PageCount();
+        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::NoDocument));
+        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::NoDocument));
+        library.DocumentCount();
+        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::None));
+    }
+
+    void refusesWhatIsNoDocument_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("code");
+        const auto row = [](const char* what, const QString& path, ErrorCode code) {
+            QTest::newRow(what) << path << static_cast<int>(code);
+        };
+        const std::string sound = PdfBuilder::simple();
+        row("no name", "", ErrorCode::FileNotFound);
+        row("missing", m_folder.filePath("missing.pdf"), ErrorCode::FileNotFound);
+        row("name with a NUL", file("named.pdf", sound) + QChar(0) + ".pdf", ErrorCode::BadArgument);
+        row("folder", m_folder.path(), ErrorCode::NotARegularFile);
+        row("empty", file("empty.pdf", ""), ErrorCode::EmptyFile);
+        row("text", file("text.pdf", "Dear reader,\n\nthis is no document.\n"), ErrorCode::NotAPdf);
+        row("header only", file("header.pdf", "%PDF-1.7\n"), ErrorCode::Damaged);
+        row("cut short", file("short.pdf", sound.substr(0, 60)), ErrorCode::Damaged);
+        row("no pages", file("none.pdf", PdfBuilder::simple("", 0)), ErrorCode::NoPages);
+        row("password", file("secret.pdf", encrypted(6, "user", "owner")), ErrorCode::WrongPassword);
+        row("key of a person",
+            file("person.pdf", PdfBuilder()
+                                   .catalog("")
+                                   .pages(1)
+                                   .trailer("/Encrypt << /Filter /Adobe.PubSec /V 4 >> /ID [<01> <01>]")
+                                   .bytes()),
+            ErrorCode::UnsupportedEncryption);
+        const QString pipe = m_folder.filePath("pipe.pdf");
+        mkfifo(QFile::encodeName(pipe), 0600);
+        row("pipe", pipe, ErrorCode::NotARegularFile);
+    }
+
+    void refusesWhatIsNoDocument()
+    {
+        QFETCH(QString, path);
+        QFETCH(int, code);
+        LoadedLibrary library;
+        QCOMPARE(library.LoadFromFile(wide(path), L"wrong"), 0);
+        QCOMPARE(library.LastErrorCode(), code);
+        QCOMPARE(library.DocumentCount(), 0);
+        QCOMPARE(library.SelectedDocument(), 0);
+    }
+
+    void opensFilesOfAnyName()
+    {
+        for (const std::string name :
+             {"plain.pdf", "h\xc3\xb4tel \xe6\x96\x87.pdf", "latin-1 h\xf4tel.pdf"}) {
+            const std::string path = m_folder.path().toStdString() + "/" + name;
+            std::ofstream(path, std::ios::binary) << PdfBuilder::simple();
+            LoadedLibrary library;
+            QCOMPARE(library.LoadFromFile(engine::wideFromFileName(path), L""), 1);
+            QCOMPARE(engine::fileNameFromWide(library.GetDocumentFileName()), path);
+            std::remove(path.c_str()); // Qt cannot name it
+        }
+    }
+
+    void opensWithEitherPassword_data()
+    {
+        QTest::addColumn<std::string>("bytes");
+        QTest::addColumn<std::wstring>("password");
+        QTest::addColumn<int>("status"); // -1 for refused
+        const auto row = [](const char* what, const std::string& bytes, const std::wstring& password,
+                            int status) { QTest::newRow(what) << bytes << password << status; };
+        row("not encrypted", PdfBuilder::simple(), L"given", engine::NotEncrypted);
+        row("none needed", encrypted(3, "", "owner"), L"", engine::OpenedWithUserPassword);
+        row("none needed but one given", encrypted(3, "", "owner"), L"other", engine::OpenedWithUserPassword);
+        for (const int revision : {2, 3, 4, 6}) {
+            const char* const accented = revision == 6 ? "h\xc3\xb4tel" : "h\xf4tel";
+            const std::string bytes = encrypted(revision, accented, "owner");
+            const auto named = [&](const char* what) { return std::string(what) + std::to_string(revision); };
+            row(named("user ").c_str(), bytes, L"h\u00f4tel", engine::OpenedWithUserPassword);
+            row(named("owner ").c_str(), bytes, L"owner", engine::OpenedWithOwnerPassword);
+            row(named("wrong ").c_str(), bytes, L"hotel", -1);
+            row(named("missing ").c_str(), bytes, L"", -1);
+        }
+    }
+
+    void opensWithEitherPassword()
+    {
+        QFETCH(std::string, bytes);
+        QFETCH(std::wstring, password);
+        QFETCH(int, status);
+        LoadedLibrary library;
+        QCOMPARE(library.LoadFromString(bytes, password), status < 0 ? 0 : 1);
+        if (status < 0) {
+            QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::WrongPassword));
+            return;
+        }
+        QCOMPARE(library.EncryptionStatus(), status);
+        QCOMPARE(library.PageCount(), 3);
+        QCOMPARE(library.SecurityInfo(engine::ModificationAllowed),
+                 status == engine::OpenedWithUserPassword ? 0 : 1);
+    }
+
+    void tellsAboutADocument()
+    {
+        const std::string information =
+            "<< /Title (A \\(title\\)) /Author <FEFF00C9006D0069006C0065> /Subject /Name "
+            "/Producer <EFBBBFE69687> /ModDate (D:2024) >>";
+        LoadedLibrary library;
+        QCOMPARE(library.LoadFromString(PdfBuilder()
+                                            .catalog("/Version /2.0")
+                                            .pages(1)
+                                            .object(9, information)
+                                            .trailer("/Info 9 0 R")
+                                            .bytes(),
+                                        L""),
+                 1);
+        const std::wstring expected[] = {L"2.0", L"A (title)", L"\u00c9mile", L"",      L"",
+                                         L"",    L"\u6587",    L"",           L"D:2024"};
+        for (int key = 0; key <= 8; ++key)
+            QCOMPARE(library.GetInformation(key), expected[key]);
+        QCOMPARE(library.GetInformation(9), std::wstring());
+        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::BadArgument));
+        QCOMPARE(library.GetDocumentFileName(), std::wstring());
+        QCOMPARE(library.GetDocumentRepaired(), 0);
+        QCOMPARE(library.IsLinearized(), 0);
+        QVERIFY(QString::fromStdWString(library.LibraryVersion()).startsWith("13.11"));
+    }
+
+    void noticesRepair()
+    {
+        std::string bytes = PdfBuilder::simple("/PageMode /UseOC");
+        bytes.replace(bytes.rfind("startxref"), 10, "startxref\n9");
+        LoadedLibrary library;
+        QCOMPARE(library.LoadFromString(bytes, L""), 1);
+        QCOMPARE(library.GetDocumentRepaired(), 1);
+        QCOMPARE(library.GetPageMode(), 4);
+    }
+
+    void countsSignatures_data()
+    {
+        QTest::addColumn<std::string>("catalog");
+        QTest::addColumn<int>("count");
+        QTest::newRow("no form") << std::string() << 0;
+        QTest::newRow("unsigned field") << std::string("/AcroForm << /Fields [10 0 R] >>") << 0;
+        QTest::newRow("signed field") << std::string("/AcroForm << /Fields [11 0 R] >>") << 1;
+        QTest::newRow("type inherited, in a circle") << std::string("/AcroForm << /Fields [12 0 R] >>") << 1;
+        QTest::newRow("text field") << std::string("/AcroForm << /Fields [14 0 R] >>") << 0;
+        QTest::newRow("certified") << std::string(
+                                          "/AcroForm << /Fields [11 0 R] >> /Perms << /DocMDP 20 0 R >>")
+                                   << 1;
+        QTest::newRow("usage rights") << std::string("/Perms << /UR3 20 0 R >>") << 1;
+        QTest::newRow("two") << std::string("/AcroForm << /Fields [11 0 R 15 0 R 11 0 R null] >>") << 2;
+        QTest::newRow("nonsense") << std::string("/AcroForm [1] /Perms (x)") << 0;
+    }
+
+    void countsSignatures()
+    {
+        QFETCH(std::string, catalog);
+        QFETCH(int, count);
+        LoadedLibrary library;
+        library.LoadFromString(PdfBuilder()
+                                   .catalog(catalog)
+                                   .pages(1)
+                                   .object(10, "<< /FT /Sig /T (empty) >>")
+                                   .object(11, "<< /FT /Sig /V 20 0 R >>")
+                                   .object(12, "<< /FT /Sig /Kids [13 0 R 12 0 R] >>")
+                                   .object(13, "<< /V 20 0 R /Parent 12 0 R >>")
+                                   .object(14, "<< /FT /Tx /V << /Type /Sig >> >>")
+                                   .object(15, "<< /FT /Sig /V << /Type /Sig >> >>")
+                                   .object(20, "<< /Type /Sig /ByteRange [0 1 2 3] >>")
+                                   .bytes(),
+                               L"");
+        QCOMPARE(library.SecurityInfo(engine::SignatureCount), count);
+        QCOMPARE(library.SecurityInfo(engine::ModificationAllowed), 1);
+        QCOMPARE(library.SecurityInfo(100), 0);
+        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::NotAvailable));
+    }
+
+    void survivesMisuse()
+    {
+        LoadedLibrary library;
+        auto* const create = library.function<int()>("TPLCreateLibrary");
+        auto* const release = library.function<void(int)>("TPLReleaseLibrary");
+        auto* const pageCount = library.function<int(int)>("TPLPageCount");
+        auto* const version = library.function<wchar_t*(int)>("TPLLibraryVersion");
+        auto* const length = library.function<int(int)>("TPLStringResultLength");
+        for (const int unknown : {0, -1, INT_MAX}) {
+            QCOMPARE(pageCount(unknown), 0);
+            QCOMPARE(version(unknown), nullptr);
+            QCOMPARE(length(unknown), 0);
+            release(unknown);
+        }
+        const int one = create();
+        QVERIFY(one > 0);
+        QVERIFY(version(one) != nullptr);
+        QVERIFY(length(one) > 5);
+        QCOMPARE(pageCount(one), 0);
+        QCOMPARE(length(one), 0);
+        release(one);
+        release(one);
+        QCOMPARE(version(one), nullptr);
+        QVERIFY(create() != one);
+    }
+
+    void guardsItsBuffers()
+    {
+        LoadedLibrary library;
+        const int one = library.function<int()>("TPLCreateLibrary")();
+        const int other = library.function<int()>("TPLCreateLibrary")();
+        auto* const create = library.function<char*(int, int)>("TPLCreateBuffer");
+        auto* const add = library.function<void(int, char*, const char*, int)>("TPLAddToBuffer");
+        auto* const release = library.function<void(int, char*)>("TPLReleaseBuffer");
+        auto* const load = library.function<int(int, char*, char*)>("TPLLoadFromString");
+        auto* const code = library.function<int(int)>("TPLLastErrorCode");
+        QCOMPARE(create(one, -1), nullptr);
+        QCOMPARE(create(0, 10), nullptr);
+        char outside[] = "not a buffer";
+        add(one, outside, "xxxx", 4);
+        QCOMPARE(outside, "not a buffer");
+        release(one, outside);
+        release(one, nullptr);
+
+        // In pieces, one of them beyond the end, and from the wrong instance.
+        const std::string bytes = PdfBuilder::simple();
+        const int size = static_cast<int>(bytes.size());
+        char* const buffer = create(one, size);
+        add(one, buffer, bytes.data(), 100);
+        add(other, buffer, "wrong", 5);
+        add(one, buffer, nullptr, 5);
+        add(one, buffer, bytes.data(), -5);
+        add(one, buffer, (bytes + "beyond").data() + 100, size - 100 + 6);
+        QCOMPARE(load(one, buffer, nullptr), 1);
+        QCOMPARE(load(one, nullptr, nullptr), 0);
+        QCOMPARE(code(one), static_cast<int>(ErrorCode::EmptyFile));
+        QCOMPARE(load(one, buffer, outside), 0);
+        QCOMPARE(code(one), static_cast<int>(ErrorCode::BadArgument));
+        release(one, buffer);
+        release(one, buffer);
+
+        // A wide string belongs to the library once a call had it.
+        char* const password = create(one, 8);
+        add(one, password, "\0\0\0a\0\0\0b", 8);
+        QCOMPARE(load(one, const_cast<char*>(bytes.c_str()), password), 1);
+        QCOMPARE(load(one, const_cast<char*>(bytes.c_str()), password), 0);
+        create(one, 1000); // goes with its instance
+        library.function<void(int)>("TPLReleaseLibrary")(one);
+        library.function<void(int)>("TPLReleaseLibrary")(other);
+    }
+
+    void servesThreadsWithAnInstanceEach()
+    {
+        std::atomic<int> wrong = 0;
+        const auto work = [&](int mode, int pages) {
+            LoadedLibrary library;
+            const std::string bytes = PdfBuilder::simple("/PageLayout /OneColumn", pages);
+            for (int round = 0; round < 100; ++round) {
+                library.LoadFromString(bytes, L"");
+                library.SetPageMode(mode);
+                library.SetOpenActionDestinationFull(pages, 0, 2, 0, 0, 0, 0);
+                wrong += library.GetPageMode() != mode || library.PageCount() != pages ||
+                         library.GetDestPage(library.GetOpenActionDestination()) != pages ||
+                         library.LastErrorCode() != 0;
+                library.RemoveDocument(library.SelectedDocument());
+            }
+        };
+        std::thread first(work, 1, 7);
+        std::thread second(work, 5, 3);
+        first.join();
+        second.join();
+        QCOMPARE(wrong.load(), 0);
+    }
+
+    void listsFonts()
+    {
+        LoadedLibrary library;
+        const QStringList names =
+            QString::fromStdWString(library.GetInstalledFontsByCharset(2, 1)).split("\r\n");
+        QProcess list;
+        list.start("fc-list", {":", "family"});
+        if (!list.waitForFinished())
+            QSKIP("needs fc-list");
+        QStringList expected;
+        for (const QString& line :
+             QString::fromUtf8(list.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts))
+            expected << line.section(',', 0, 0).remove('\\');
+        expected.removeDuplicates();
+        QStringList sorted = names;
+        sorted.sort();
+        expected.sort();
+        QCOMPARE(sorted, expected);
+        for (const int charset : {-1, 0, 1, 3})
+            QCOMPARE(library.GetInstalledFontsByCharset(charset, 1), std::wstring());
+        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::BadArgument));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestEngineSession)
+#include "TestEngineSession.moc"
