@@ -128,14 +128,14 @@ void CActionUtils::SetTargetLabels(QLabel* navBarLabel, QTextEdit* infoLabel)
 
 void CActionUtils::SetCurrentSection(QString text)
 {
-    if (navBarWatch)
-        navBarWatch->setText(text);
+    if (mNavBarLabel != nullptr && navBarWatch == mNavBarLabel)
+        mNavBarLabel->setText(text);
 }
 
 void CActionUtils::SetHelpHtml(QString html)
 {
-    if (infoWatch)
-        infoWatch->setText(html);
+    if (mInfoLabel != nullptr && infoWatch == mInfoLabel)
+        mInfoLabel->setText(html);
 }
 
 void CActionUtils::SetHelp(QString name)
