@@ -94,6 +94,8 @@ enum SecurityItem {
     SignatureCount = 101,
     /// 1 when the encryption allows this user to modify the document (or there is none), else 0.
     ModificationAllowed = 102,
+    /// 1 when the document differs from what was loaded, else 0.
+    UnsavedChanges = 103,
 };
 
 } // namespace engine

@@ -1,0 +1,168 @@
+#include "BatchRun.h"
+
+#include "FileDescriptor.h"
+#include "FileNames.h"
+#include "InstallLayout.h"
+#include "PluginHost.h"
+#include "Progress.h"
+#include "Report.h"
+#include "RunPlan.h"
+#include "SafeOutput.h"
+#include "StopSignal.h"
+#include "cli/Command.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <set>
+#include <stdexcept>
+
+namespace host {
+
+namespace {
+
+/// A document at a time, in a process of its own.
+class DocumentWorker : public Worker
+{
+public:
+    DocumentWorker(CActionInterface& action, const std::string& libraryFile, const ProcessingOptions& options)
+        : m_processor(action, libraryFile, options)
+    {}
+
+    Answer answer(const std::string& record) override
+    {
+        const std::optional<DocumentJob> job = DocumentJob::fromRecord(record);
+        if (!job)
+            throw std::runtime_error("the worker process was given an order that it does not know");
+        return {m_processor.process(*job).toRecord(), m_processor.isWornOut()};
+    }
+
+private:
+    DocumentProcessor m_processor;
+};
+
+void print(int descriptor, const std::string& text)
+{
+    writeAll(descriptor, text.data(), text.size()); // nobody may be listening
+}
+
+} // namespace
+
+BatchRun::BatchRun(const RunPlan& plan, const ProcessingOptions& options, Report* report, bool quiet)
+    : m_plan(plan), m_options(options), m_report(report), m_quiet(quiet),
+      m_ended(plan.documents().size(), false)
+{}
+
+BatchRun::~BatchRun() = default;
+
+int BatchRun::run(const WorkerPool::Limits& limits)
+{
+    PluginHost plugin(installlayout::pluginFile());
+    const std::string libraryFile = installlayout::libraryFile();
+    // Kept open, so that every worker finds the library in memory.
+    const TelvarPDFLibraryCPDylibCPP1311 library(toLibraryPath(libraryFile));
+    if (!library.LibraryLoaded())
+        throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
+
+    if (!m_quiet && isatty(STDERR_FILENO) != 0)
+        m_progress = std::make_unique<Progress>(STDERR_FILENO, m_plan.documents().size());
+    planJobs();
+    if (!m_options.dryRun)
+        removeLeftovers();
+    runJobs(plugin.action(), libraryFile, limits);
+    m_progress.reset();
+    sumUp();
+    return exitStatus();
+}
+
+void BatchRun::planJobs()
+{
+    const std::vector<RunPlan::Document>& documents = m_plan.documents();
+    for (std::size_t index = 0; index < documents.size(); ++index) {
+        const RunPlan::Document& document = documents[index];
+        if (!document.problem.empty()) {
+            documentEnded(index, DocumentResult::failed(document.problem));
+            continue;
+        }
+        // In place, the library opens what links lead to: the file that is about to be replaced.
+        m_jobs.push_back({m_options.inPlace ? document.target : document.name, document.target,
+                          SafeOutput::temporaryNameFor(document.target)});
+        m_documentOfJob.push_back(index);
+    }
+}
+
+void BatchRun::removeLeftovers() const
+{
+    std::set<std::string> folders;
+    for (const DocumentJob& job : m_jobs)
+        if (folders.insert(SafeOutput::folderOf(job.target)).second)
+            SafeOutput::removeLeftovers(SafeOutput::folderOf(job.target));
+}
+
+void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
+                       const WorkerPool::Limits& limits)
+{
+    WorkerPool::Limits fitting = limits;
+    fitting.workers =
+        static_cast<int>(std::clamp<std::size_t>(m_jobs.size(), 1, static_cast<std::size_t>(limits.workers)));
+    StopSignal stop;
+    WorkerPool pool(fitting,
+                    [&] { return std::make_unique<DocumentWorker>(action, libraryFile, m_options); });
+    pool.run(
+        m_jobs.size(), [this](std::size_t job) { return m_jobs[job].toRecord(); },
+        [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); }, stop);
+    m_stopped = stop.count() > 0;
+}
+
+void BatchRun::jobEnded(std::size_t job, const WorkOutcome& outcome)
+{
+    if (outcome.kind != WorkOutcome::Answered)
+        SafeOutput::removeTemporary(m_jobs[job].temporary);
+    if (outcome.kind == WorkOutcome::Stopped)
+        return;
+    const auto result = outcome.kind == WorkOutcome::Answered
+                            ? DocumentResult::fromRecord(outcome.text)
+                            : std::optional(DocumentResult::failed(outcome.text));
+    documentEnded(m_documentOfJob[job],
+                  result.value_or(DocumentResult::failed("the worker process gave no proper answer")));
+}
+
+void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
+{
+    const RunPlan::Document& planned = m_plan.documents()[document];
+    m_ended[document] = true;
+    m_summary.add(planned.name, result);
+    if (m_report != nullptr)
+        m_report->add(document, {planned.name,
+                                 result.status == Status::Failed ? std::string() : planned.target, result});
+    if (m_progress)
+        m_progress->advance(result.status == Status::Failed);
+    else if (!m_quiet && result.status != Status::Failed)
+        print(STDOUT_FILENO, RunSummary::lineFor(planned.name, result, m_options.dryRun));
+}
+
+void BatchRun::sumUp() const
+{
+    RunSummary summary = m_summary;
+    for (std::size_t index = 0; index < m_ended.size(); ++index)
+        if (!m_ended[index])
+            summary.addNotDone(m_plan.documents()[index].name);
+    print(STDERR_FILENO, summary.failures());
+    if (!m_quiet)
+        print(STDOUT_FILENO, summary.counts(m_options.dryRun));
+    if (m_report == nullptr)
+        return;
+    m_report->flush();
+    if (!m_report->problem().empty())
+        print(STDERR_FILENO, "quintar: " + forTerminal(m_report->problem()) + "\n");
+}
+
+int BatchRun::exitStatus() const
+{
+    if (m_stopped)
+        return exitstatus::stopped;
+    const bool reportComplete = m_report == nullptr || m_report->problem().empty();
+    return m_summary.anyFailed() || !reportComplete ? exitstatus::someFailed : exitstatus::done;
+}
+
+} // namespace host

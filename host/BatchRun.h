@@ -1,0 +1,53 @@
+#pragma once
+
+#include "DocumentProcessor.h"
+#include "RunSummary.h"
+#include "WorkerPool.h"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+class CActionInterface;
+
+namespace host {
+
+class Progress;
+class Report;
+class RunPlan;
+
+/// Works through a plan: gives the documents to worker processes, reports what became of each, and sums up.
+class BatchRun
+{
+public:
+    /// Everything lent must outlive the object. \param report null for none. \param quiet shows failures
+    /// only.
+    BatchRun(const RunPlan& plan, const ProcessingOptions& options, Report* report, bool quiet);
+    ~BatchRun();
+
+    /// \returns the exit status. Throws std::runtime_error when plug-in or library cannot be used.
+    int run(const WorkerPool::Limits& limits);
+
+private:
+    void planJobs();
+    void removeLeftovers() const;
+    void runJobs(CActionInterface& action, const std::string& libraryFile, const WorkerPool::Limits& limits);
+    void jobEnded(std::size_t job, const WorkOutcome& outcome);
+    void documentEnded(std::size_t document, const DocumentResult& result);
+    void sumUp() const;
+    int exitStatus() const;
+
+    const RunPlan& m_plan;
+    const ProcessingOptions& m_options;
+    Report* m_report;
+    bool m_quiet;
+    std::vector<DocumentJob> m_jobs;
+    /// The document that each job is about.
+    std::vector<std::size_t> m_documentOfJob;
+    std::vector<bool> m_ended;
+    std::unique_ptr<Progress> m_progress;
+    RunSummary m_summary;
+    bool m_stopped = false;
+};
+
+} // namespace host

@@ -1,0 +1,77 @@
+#include "DocumentJob.h"
+
+#include "Record.h"
+
+namespace host {
+
+const char* nameOf(Status status)
+{
+    switch (status) {
+    case Status::Changed:
+        return "changed";
+    case Status::Unchanged:
+        return "unchanged";
+    case Status::Failed:
+        break;
+    }
+    return "failed";
+}
+
+const char* nameOf(Saved saved)
+{
+    switch (saved) {
+    case Saved::Appended:
+        return "appended";
+    case Saved::Rewritten:
+        return "rewritten";
+    case Saved::Copied:
+        return "copied";
+    case Saved::Not:
+        break;
+    }
+    return "";
+}
+
+std::string DocumentJob::toRecord() const
+{
+    return RecordWriter().add(source).add(target).add(temporary).bytes();
+}
+
+std::optional<DocumentJob> DocumentJob::fromRecord(const std::string& record)
+{
+    RecordReader reader(record);
+    DocumentJob job{reader.text(), reader.text(), reader.text()};
+    return reader.complete() ? std::optional(job) : std::nullopt;
+}
+
+DocumentResult DocumentResult::failed(const std::string& reason, std::int64_t milliseconds)
+{
+    return {Status::Failed, Saved::Not, reason, milliseconds};
+}
+
+std::string DocumentResult::toRecord() const
+{
+    return RecordWriter()
+        .add(static_cast<std::int64_t>(status))
+        .add(static_cast<std::int64_t>(saved))
+        .add(reason)
+        .add(milliseconds)
+        .bytes();
+}
+
+std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& record)
+{
+    RecordReader reader(record);
+    const std::int64_t status = reader.number();
+    const std::int64_t saved = reader.number();
+    std::string reason = reader.text();
+    const std::int64_t milliseconds = reader.number();
+    const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
+                       saved <= static_cast<int>(Saved::Copied);
+    if (!reader.complete() || !known)
+        return std::nullopt;
+    return DocumentResult{static_cast<Status>(status), static_cast<Saved>(saved), std::move(reason),
+                          milliseconds};
+}
+
+} // namespace host

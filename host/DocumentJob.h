@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace host {
+
+/// What became of a document.
+enum class Status { Changed, Unchanged, Failed };
+
+/// How its output came about.
+enum class Saved { Not, Appended, Rewritten, Copied };
+
+/// The words of the report.
+const char* nameOf(Status status);
+const char* nameOf(Saved saved);
+
+/// One document to work on. Paths are bytes; both are absolute or relative to the current folder.
+struct DocumentJob
+{
+    std::string source;
+    std::string target;
+    /// Where the new file is written before it takes the target's place; beside the target.
+    std::string temporary;
+
+    std::string toRecord() const;
+    static std::optional<DocumentJob> fromRecord(const std::string& record);
+};
+
+struct DocumentResult
+{
+    Status status = Status::Failed;
+    Saved saved = Saved::Not;
+    /// Why it failed; UTF-8, may hold bytes of file names.
+    std::string reason;
+    std::int64_t milliseconds = 0;
+
+    static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
+    std::string toRecord() const;
+    static std::optional<DocumentResult> fromRecord(const std::string& record);
+};
+
+} // namespace host

@@ -1,0 +1,171 @@
+#include "DocumentProcessor.h"
+
+#include "FileCopy.h"
+#include "FileDescriptor.h"
+#include "FileNames.h"
+#include "SafeOutput.h"
+
+#include "engine/ErrorCodes.h"
+#include "engine/FileNameCodec.h"
+#include "shared/CActionInterface.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <chrono>
+#include <stdexcept>
+
+namespace host {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+bool isCode(int code, engine::ErrorCode wanted)
+{
+    return code == static_cast<int>(wanted);
+}
+
+} // namespace
+
+DocumentProcessor::DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
+                                     const ProcessingOptions& options)
+    : m_action(action), m_options(options), m_library(toLibraryPath(libraryFile))
+{
+    if (!m_library.LibraryLoaded())
+        throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
+    bracket(&CActionInterface::PreSequenceProc);
+}
+
+DocumentProcessor::~DocumentProcessor()
+{
+    bracket(&CActionInterface::PostSequenceProc);
+}
+
+void DocumentProcessor::bracket(Bracket call)
+{
+    for (const ActionEntry& entry : m_options.entries) {
+        SettingsMap settings = entry.settings;
+        WorkProcInfoStruct info{&m_library, &m_errors, {}, &settings};
+        (m_action.*call)(&info);
+    }
+}
+
+DocumentResult DocumentProcessor::process(const DocumentJob& job)
+{
+    const Clock::time_point begin = Clock::now();
+    DocumentResult result;
+    try {
+        result = work(job);
+    } catch (const std::bad_alloc&) {
+        m_wornOut = true;
+        result = DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::OutOfMemory))));
+    } catch (const std::exception& error) {
+        result = DocumentResult::failed(error.what());
+    }
+    result.milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - begin).count();
+    return result;
+}
+
+DocumentResult DocumentProcessor::work(const DocumentJob& job)
+{
+    if (m_library.LoadFromFile(engine::wideFromFileName(job.source),
+                               engine::wideFromFileName(m_options.password)) == 0)
+        return libraryFailure();
+    const int document = m_library.SelectedDocument();
+    m_library.SelectDocument(document);
+    const DocumentResult result = applyAndSave(job);
+    m_library.RemoveDocument(document);
+    return result;
+}
+
+DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
+{
+    m_errors.ClearAll();
+    if (!applyEntries())
+        return DocumentResult::failed(m_errors.GetLast().toStdString());
+    if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
+        return m_options.inPlace || m_options.dryRun ? DocumentResult{Status::Unchanged, Saved::Not, {}, 0}
+                                                     : copy(job);
+    if (std::string reason = refusal(); !reason.empty())
+        return DocumentResult::failed(reason);
+    return m_options.dryRun ? DocumentResult{Status::Changed, Saved::Not, {}, 0} : save(job);
+}
+
+bool DocumentProcessor::applyEntries()
+{
+    for (const ActionEntry& entry : m_options.entries) {
+        SettingsMap settings = entry.settings;
+        WorkProcInfoStruct info{&m_library, &m_errors, {}, &settings};
+        if (m_action.WorkProc(&info) != 0)
+            return false;
+    }
+    return true;
+}
+
+/// Why the document may not be changed; empty when it may.
+std::string DocumentProcessor::refusal()
+{
+    if (m_library.SecurityInfo(engine::ModificationAllowed) == 0)
+        return "its encryption does not allow changes; the owner password is needed";
+    if (m_options.signedDocuments == SignedDocuments::Refuse &&
+        m_library.SecurityInfo(engine::SignatureCount) > 0)
+        return "it is signed, and viewers report any later change; --signed append changes it all the same";
+    return {};
+}
+
+DocumentResult DocumentProcessor::save(const DocumentJob& job)
+{
+    struct stat original;
+    if (stat(job.source.c_str(), &original) != 0)
+        return DocumentResult::failed(systemError(errno));
+    SafeOutput output(job.target, job.temporary);
+    if (std::string problem = output.prepareFolder(); !problem.empty())
+        return DocumentResult::failed(problem);
+    DocumentResult result = write(job);
+    if (result.status == Status::Failed)
+        return result;
+    if (std::string problem = output.commit(original, m_options.flush); !problem.empty())
+        return DocumentResult::failed(problem);
+    return result;
+}
+
+DocumentResult DocumentProcessor::write(const DocumentJob& job)
+{
+    const std::wstring target = engine::wideFromFileName(job.temporary);
+    if (m_library.AppendToFile(target) != 0)
+        return {Status::Changed, Saved::Appended, {}, 0};
+    if (!isCode(m_library.LastErrorCode(), engine::ErrorCode::CannotAppend))
+        return libraryFailure("not saved: ");
+    if (m_library.SecurityInfo(engine::SignatureCount) > 0)
+        return DocumentResult::failed(
+            "it is signed, and the change cannot be appended to it; writing it anew "
+            "would break its signatures");
+    if (m_library.SaveToFile(target) == 0)
+        return libraryFailure("not saved: ");
+    return {Status::Changed, Saved::Rewritten, {}, 0};
+}
+
+DocumentResult DocumentProcessor::copy(const DocumentJob& job)
+{
+    struct stat original;
+    if (stat(job.source.c_str(), &original) != 0)
+        return DocumentResult::failed(systemError(errno));
+    SafeOutput output(job.target, job.temporary);
+    std::string problem = output.prepareFolder();
+    if (problem.empty())
+        problem = copyFile(job.source, job.temporary);
+    if (problem.empty())
+        problem = output.commit(original, m_options.flush);
+    return problem.empty() ? DocumentResult{Status::Unchanged, Saved::Copied, {}, 0}
+                           : DocumentResult::failed(problem);
+}
+
+DocumentResult DocumentProcessor::libraryFailure(const std::string& what)
+{
+    const int code = m_library.LastErrorCode();
+    m_wornOut = m_wornOut || isCode(code, engine::ErrorCode::OutOfMemory);
+    return DocumentResult::failed(what + std::string(engine::errorText(code)));
+}
+
+} // namespace host

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "DocumentJob.h"
+#include "SettingsFile.h"
+
+#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
+#include "shared/CErrorHandler.h"
+
+#include <string>
+#include <vector>
+
+class CActionInterface;
+struct WorkProcInfoStruct;
+
+namespace host {
+
+enum class SignedDocuments { Refuse, Append };
+
+/// What holds for every document of a run.
+struct ProcessingOptions
+{
+    std::vector<ActionEntry> entries;
+    std::string password;
+    SignedDocuments signedDocuments = SignedDocuments::Refuse;
+    /// The target is the source: a document that needs no change is left alone instead of copied.
+    bool inPlace = false;
+    /// Nothing is written; the result says what would be.
+    bool dryRun = false;
+    /// Every output is flushed to the disk before it takes its place.
+    bool flush = false;
+};
+
+/// Runs the action over documents, one at a time: load, select, work, save, close. Brackets the run from its
+/// construction to its destruction.
+class DocumentProcessor
+{
+public:
+    /// The action and the options must outlive the object. Throws std::runtime_error when the library file
+    /// cannot be used.
+    DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
+                      const ProcessingOptions& options);
+    ~DocumentProcessor();
+    DocumentProcessor(const DocumentProcessor&) = delete;
+    DocumentProcessor& operator=(const DocumentProcessor&) = delete;
+
+    /// Never throws; a failure of any kind leaves the target as it was.
+    DocumentResult process(const DocumentJob& job);
+
+    /// True once a document needed more memory than there is: what is left may be in pieces.
+    bool isWornOut() const { return m_wornOut; }
+
+private:
+    using Bracket = int (CActionInterface::*)(WorkProcInfoStruct*);
+
+    void bracket(Bracket call);
+    DocumentResult work(const DocumentJob& job);
+    DocumentResult applyAndSave(const DocumentJob& job);
+    bool applyEntries();
+    std::string refusal();
+    DocumentResult save(const DocumentJob& job);
+    DocumentResult write(const DocumentJob& job);
+    DocumentResult copy(const DocumentJob& job);
+    DocumentResult libraryFailure(const std::string& what = {});
+
+    CActionInterface& m_action;
+    const ProcessingOptions& m_options;
+    TelvarPDFLibraryCPDylibCPP1311 m_library;
+    CErrorHandler m_errors;
+    bool m_wornOut = false;
+};
+
+} // namespace host

@@ -1,0 +1,69 @@
+#include "FolderWalk.h"
+
+#include "FileDescriptor.h"
+
+#include <dirent.h>
+#include <strings.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace host {
+
+namespace {
+
+const int deepest = 512;
+
+bool isPdfName(const std::string& name)
+{
+    return name.size() > 4 && strcasecmp(name.c_str() + name.size() - 4, ".pdf") == 0;
+}
+
+/// \returns false with errno set when the folder cannot be read.
+bool listNames(const std::string& folder, std::vector<std::string>& names)
+{
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
+    if (listing == nullptr)
+        return false;
+    errno = 0;
+    while (const dirent* entry = readdir(listing.get()))
+        if (entry->d_name[0] != '.')
+            names.emplace_back(entry->d_name);
+    std::sort(names.begin(), names.end());
+    return errno == 0;
+}
+
+} // namespace
+
+FolderWalk::FolderWalk(Found found, Skip skip) : m_found(std::move(found)), m_skip(std::move(skip)) {}
+
+void FolderWalk::walk(const std::string& folder)
+{
+    visit(folder, {}, 0);
+}
+
+void FolderWalk::visit(const std::string& folder, const std::string& relative, int depth)
+{
+    std::vector<std::string> names;
+    if (depth > deepest || !listNames(folder, names)) {
+        m_found(relative, depth > deepest ? "the folders are nested too deeply" : systemError(errno));
+        return;
+    }
+    for (const std::string& name : names) {
+        const std::string path = folder + "/" + name;
+        const std::string below = relative.empty() ? name : relative + "/" + name;
+        struct stat status;
+        if (lstat(path.c_str(), &status) != 0)
+            continue; // it has gone since
+        if (S_ISDIR(status.st_mode) && !m_skip(status))
+            visit(path, below, depth + 1);
+        else if (S_ISREG(status.st_mode) && isPdfName(name))
+            m_found(below, {});
+    }
+}
+
+} // namespace host

@@ -1,0 +1,136 @@
+#include "OpeningView.h"
+
+#include "EditInitialView/InitialViewSettings.h"
+#include "engine/ErrorCodes.h"
+#include "engine/FileNameCodec.h"
+#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
+#include "pdflibrary/ViewNumbers.h"
+
+#include <QJsonValue>
+#include <QLocale>
+
+namespace host {
+
+namespace {
+
+const int zoomValue = 5; // of GetDestValue
+const std::size_t labelWidth = 22;
+
+constexpr std::array pageModeNames{"UseNone",    "UseOutlines", "UseThumbs",
+                                   "FullScreen", "UseOC",       "UseAttachments"};
+constexpr std::array pageLayoutNames{"SinglePage",     "OneColumn",   "TwoColumnLeft",
+                                     "TwoColumnRight", "TwoPageLeft", "TwoPageRight"};
+constexpr std::array destinationNames{"", "XYZ", "Fit", "FitH", "FitV", "FitBH"};
+constexpr std::array preferenceNames{"",          "HideToolbar",  "HideMenubar",     "HideWindowUI",
+                                     "FitWindow", "CenterWindow", "DisplayDocTitle", "NonFullScreenPageMode"};
+constexpr std::array preferenceWords{
+    "", "Hide tool bars", "Hide menu bar", "Hide window controls", "Fit window to page", "Center window"};
+
+template <class Table>
+const char* at(const Table& table, int index, const char* otherwise)
+{
+    return index >= 0 && index < static_cast<int>(table.size()) ? table[static_cast<std::size_t>(index)]
+                                                                : otherwise;
+}
+
+std::string modeInWords(int mode)
+{
+    if (mode == pdflibrary::FullScreen)
+        return "Full screen";
+    return at(initialview::navigationLabels, initialview::rowOfPageMode(mode), "unknown");
+}
+
+std::string percent(double zoom)
+{
+    return QLocale::c().toString(zoom, 'g', 6).toStdString() + "%";
+}
+
+std::string magnificationInWords(const OpeningView::Destination& destination)
+{
+    if (destination.type == pdflibrary::Zoomed && destination.zoom > 0)
+        return percent(destination.zoom);
+    return at(initialview::magnificationLabels, destination.type - 1, "unknown");
+}
+
+std::string line(const std::string& label, const std::string& text)
+{
+    return "  " + label + std::string(label.size() < labelWidth ? labelWidth - label.size() : 1, ' ') + text +
+           "\n";
+}
+
+std::string destinationInWords(const std::optional<OpeningView::Destination>& destination)
+{
+    if (!destination)
+        return line("Open at page", "not set in document") + line("Magnification", "not set in document");
+    const std::string name =
+        destination->name.empty() ? "" : " (named destination \"" + destination->name + "\")";
+    return line("Open at page", std::to_string(destination->page) + name) +
+           line("Magnification", magnificationInWords(*destination));
+}
+
+QJsonValue destinationToJson(const std::optional<OpeningView::Destination>& destination)
+{
+    if (!destination)
+        return {};
+    QJsonObject object{{"page", destination->page}, {"type", at(destinationNames, destination->type, "")}};
+    object.insert("zoom", destination->zoom > 0 ? QJsonValue(destination->zoom) : QJsonValue());
+    object.insert("name", destination->name.empty() ? QJsonValue()
+                                                    : QJsonValue(QString::fromStdString(destination->name)));
+    return object;
+}
+
+} // namespace
+
+OpeningView OpeningView::read(TelvarPDFLibraryCPDylibCPP1311& library)
+{
+    OpeningView view;
+    view.pageCount = library.PageCount();
+    view.signatures = library.SecurityInfo(engine::SignatureCount);
+    view.encrypted = library.EncryptionStatus() != engine::NotEncrypted;
+    view.pageMode = library.GetPageMode();
+    view.pageLayout = library.GetPageLayout();
+    if (const int id = library.GetOpenActionDestination(); id != 0)
+        view.destination = {library.GetDestType(id), library.GetDestPage(id),
+                            library.GetDestValue(id, zoomValue),
+                            engine::fileNameFromWide(library.GetDestName(id))};
+    for (int option = 1; option < static_cast<int>(view.preferences.size()); ++option)
+        view.preferences[static_cast<std::size_t>(option)] = library.GetViewerPreferences(option);
+    return view;
+}
+
+std::string OpeningView::inWords() const
+{
+    std::string text = line("Pages", std::to_string(pageCount));
+    if (encrypted)
+        text += line("Encrypted", "yes");
+    if (signatures > 0)
+        text += line("Signatures", std::to_string(signatures));
+    text += line("Navigation tab", modeInWords(pageMode));
+    text += line("Page layout", at(initialview::pageLayoutLabels, pageLayout, "unknown"));
+    text += destinationInWords(destination);
+    for (std::size_t option = 1; option < preferenceWords.size(); ++option)
+        text += line(preferenceWords[option], preferences[option] == 1 ? "yes" : "no");
+    text +=
+        line("Title bar shows", at(initialview::titleLabels, preferences[pdflibrary::TitleBar], "unknown"));
+    return text + line("After full screen", modeInWords(preferences[pdflibrary::NonFullScreenMode]));
+}
+
+QJsonObject OpeningView::toJson() const
+{
+    QJsonObject settings;
+    for (int option = pdflibrary::HideToolBars; option <= pdflibrary::TitleBar; ++option)
+        settings.insert(preferenceNames[static_cast<std::size_t>(option)],
+                        preferences[static_cast<std::size_t>(option)] == 1);
+    settings.insert(preferenceNames[pdflibrary::NonFullScreenMode],
+                    at(pageModeNames, preferences[pdflibrary::NonFullScreenMode], ""));
+    const char* layout = at(pageLayoutNames, pageLayout, nullptr);
+    return {{"pages", pageCount},
+            {"encrypted", encrypted},
+            {"signatures", signatures},
+            {"pageMode", at(pageModeNames, pageMode, "")},
+            {"pageLayout", layout == nullptr ? QJsonValue() : QJsonValue(layout)},
+            {"openAction", destinationToJson(destination)},
+            {"viewerPreferences", settings}};
+}
+
+} // namespace host

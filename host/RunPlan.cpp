@@ -1,0 +1,137 @@
+#include "RunPlan.h"
+
+#include "FileDescriptor.h"
+#include "FolderWalk.h"
+#include "UsageError.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+using FileId = std::pair<dev_t, ino_t>;
+
+FileId idOf(const struct stat& status)
+{
+    return {status.st_dev, status.st_ino};
+}
+
+/// The path with all links resolved; of what does not exist yet, as far as it does.
+std::string resolved(const std::string& path)
+{
+    if (const std::unique_ptr<char, void (*)(void*)> real(realpath(path.c_str(), nullptr), std::free); real)
+        return real.get();
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string::npos)
+        return resolved(".") + "/" + path;
+    if (slash == 0)
+        return path;
+    return resolved(path.substr(0, slash)) + path.substr(slash);
+}
+
+std::string withoutTrailingSlashes(std::string path)
+{
+    while (path.size() > 1 && path.back() == '/')
+        path.pop_back();
+    return path;
+}
+
+} // namespace
+
+RunPlan::RunPlan(std::string outputFolder) : m_outputFolder(withoutTrailingSlashes(std::move(outputFolder)))
+{}
+
+void RunPlan::add(const std::string& path)
+{
+    if (path.empty())
+        throw UsageError("a document's name is empty");
+    struct stat status;
+    if (stat(path.c_str(), &status) != 0)
+        m_documents.push_back({path, {}, systemError(errno)});
+    else if (S_ISDIR(status.st_mode))
+        addFolder(withoutTrailingSlashes(path));
+    else if (!S_ISREG(status.st_mode))
+        m_documents.push_back({path, {}, systemError(EINVAL)});
+    else
+        addDocument(path, path.substr(path.rfind('/') + 1));
+}
+
+void RunPlan::addDocument(const std::string& path, const std::string& pathBelowOutput)
+{
+    m_documents.push_back({path, targetOf(path, pathBelowOutput), {}});
+}
+
+void RunPlan::addFolder(const std::string& folder)
+{
+    const std::size_t before = m_documents.size();
+    const std::string prefix = folder == "/" ? folder : folder + "/";
+    FolderWalk walk(
+        [&](const std::string& path, const std::string& problem) {
+            if (problem.empty())
+                addDocument(prefix + path, path);
+            else
+                m_documents.push_back({path.empty() ? folder : prefix + path, {}, problem});
+        },
+        [&](const struct stat& status) { return isOutputFolder(status); });
+    walk.walk(folder);
+    if (m_documents.size() == before)
+        m_emptyFolders.push_back(folder);
+}
+
+/// The outputs of an earlier run are not documents of this one.
+bool RunPlan::isOutputFolder(const struct stat& status) const
+{
+    struct stat output;
+    return !m_outputFolder.empty() && stat(m_outputFolder.c_str(), &output) == 0 &&
+           idOf(status) == idOf(output);
+}
+
+std::string RunPlan::targetOf(const std::string& path, const std::string& pathBelowOutput) const
+{
+    return resolved(m_outputFolder.empty() ? path : m_outputFolder + "/" + pathBelowOutput);
+}
+
+void RunPlan::checkTargets() const
+{
+    std::map<std::string, const Document*> targets;
+    std::map<FileId, const Document*> inputs;
+    struct stat status;
+    for (const Document& document : m_documents) {
+        if (!document.problem.empty())
+            continue;
+        const auto [other, added] = targets.try_emplace(document.target, &document);
+        if (!added)
+            throw UsageError(other->second->name + " and " + document.name + " would have the same output, " +
+                             document.target);
+        if (!m_outputFolder.empty() && stat(document.name.c_str(), &status) == 0)
+            inputs.emplace(idOf(status), &document);
+    }
+    for (const auto& [target, document] : targets) {
+        if (inputs.empty() || stat(target.c_str(), &status) != 0)
+            continue;
+        if (const auto input = inputs.find(idOf(status)); input != inputs.end())
+            throw UsageError("the output of " + document->name + " would overwrite the document " +
+                             input->second->name + "; --in-place says that this is wanted");
+    }
+}
+
+void RunPlan::checkNotADocument(const std::string& path, const char* what) const
+{
+    struct stat status;
+    if (stat(path.c_str(), &status) != 0)
+        return;
+    const FileId id = idOf(status);
+    for (const Document& document : m_documents)
+        if (document.problem.empty() && stat(document.name.c_str(), &status) == 0 && idOf(status) == id)
+            throw UsageError(std::string(what) + " would overwrite the document " + document.name);
+}
+
+} // namespace host

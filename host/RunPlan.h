@@ -1,0 +1,53 @@
+#pragma once
+
+#include <sys/stat.h>
+
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// Which documents a run works on, and where each goes. Everything that can be refused is refused here,
+/// before anything is written.
+class RunPlan
+{
+public:
+    struct Document
+    {
+        /// As the user knows it.
+        std::string name;
+        /// Where the output lies; in place, what a symbolic link leads to.
+        std::string target;
+        /// Why it cannot be worked on, found out already; else empty.
+        std::string problem;
+    };
+
+    /// \param outputFolder the folder for the outputs; empty for work in place.
+    explicit RunPlan(std::string outputFolder);
+
+    /// Adds a document, or the documents in a folder.
+    void add(const std::string& path);
+
+    /// Throws UsageError when two documents would have the same output, or an output would overwrite an
+    /// input.
+    void checkTargets() const;
+
+    /// Throws UsageError when the file at the path is one of the documents.
+    void checkNotADocument(const std::string& path, const char* what) const;
+
+    const std::vector<Document>& documents() const { return m_documents; }
+    /// Folders in which there was nothing to do.
+    const std::vector<std::string>& emptyFolders() const { return m_emptyFolders; }
+
+private:
+    void addDocument(const std::string& path, const std::string& pathBelowOutput);
+    void addFolder(const std::string& folder);
+    bool isOutputFolder(const struct stat& status) const;
+    std::string targetOf(const std::string& path, const std::string& pathBelowOutput) const;
+
+    std::string m_outputFolder;
+    std::vector<Document> m_documents;
+    std::vector<std::string> m_emptyFolders;
+};
+
+} // namespace host

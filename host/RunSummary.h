@@ -1,0 +1,41 @@
+#pragma once
+
+#include "DocumentJob.h"
+
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// Counts what became of the documents, and says it in the end.
+class RunSummary
+{
+public:
+    void add(const std::string& name, const DocumentResult& result);
+    void addNotDone(const std::string& name) { m_notDone.push_back(name); }
+
+    bool anyFailed() const { return !m_failures.empty(); }
+    bool anyNotDone() const { return !m_notDone.empty(); }
+
+    /// One line about one document, for readers without a progress bar. Safe to print.
+    static std::string lineFor(const std::string& name, const DocumentResult& result, bool dryRun);
+
+    /// Each failure with its file and reason, a line each, and what was not done. Safe to print.
+    std::string failures() const;
+    /// "3 changed, 1 unchanged, 0 failed", with a line feed.
+    std::string counts(bool dryRun) const;
+
+private:
+    struct Failure
+    {
+        std::string name;
+        std::string reason;
+    };
+
+    std::size_t m_changed = 0;
+    std::size_t m_unchanged = 0;
+    std::vector<Failure> m_failures;
+    std::vector<std::string> m_notDone;
+};
+
+} // namespace host

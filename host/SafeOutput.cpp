@@ -1,0 +1,169 @@
+#include "SafeOutput.h"
+
+#include "FileDescriptor.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <charconv>
+#include <cstdio>
+#include <ctime>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+const std::string_view prefix = ".quintar-";
+const std::time_t strangerAge = 24 * 60 * 60;
+
+/// Process numbers mean something only on one machine since its start and in one container, so names carry
+/// this too: ".quintar-<place>-<process>-<count>".
+std::string placeOfProcesses()
+{
+    std::string bootId;
+    const FileDescriptor file(::open("/proc/sys/kernel/random/boot_id", O_RDONLY | O_CLOEXEC));
+    readAll(file.get(), bootId, 4096);
+    char processes[64] = "";
+    const ssize_t length = readlink("/proc/self/ns/pid", processes, sizeof processes);
+    bootId.append(processes, length > 0 ? static_cast<std::size_t>(length) : 0);
+    char text[20];
+    std::snprintf(text, sizeof text, "%016zx", std::hash<std::string>()(bootId));
+    return text;
+}
+
+const std::string& place()
+{
+    static const std::string text = placeOfProcesses();
+    return text;
+}
+
+/// The process a temporary name belongs to, or 0 when it belongs to another machine or container.
+pid_t ownerOf(std::string_view name)
+{
+    const std::string ours = std::string(prefix) + place() + "-";
+    pid_t owner = 0;
+    if (name.substr(0, ours.size()) == ours)
+        std::from_chars(name.data() + ours.size(), name.data() + name.size(), owner);
+    return owner;
+}
+
+bool isLeftOver(int folder, const char* name)
+{
+    struct stat status;
+    if (fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0 || !S_ISREG(status.st_mode))
+        return false;
+    if (const pid_t owner = ownerOf(name); owner > 0)
+        return kill(owner, 0) != 0 && errno == ESRCH;
+    return std::time(nullptr) - status.st_mtime > strangerAge;
+}
+
+template <class Matches>
+void removeFiles(const std::string& folder, Matches matches)
+{
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
+    if (listing == nullptr)
+        return;
+    while (const dirent* entry = readdir(listing.get()))
+        if (matches(dirfd(listing.get()), entry->d_name))
+            unlinkat(dirfd(listing.get()), entry->d_name, 0);
+}
+
+bool flushFolder(const std::string& folder)
+{
+    const FileDescriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return directory.isOpen() && fsync(directory.get()) == 0;
+}
+
+/// Permissions never become wider than they were for anyone: what was granted to an owner or a group that the
+/// new file cannot have is not granted to another one.
+bool giveAttributes(int file, const struct stat& like)
+{
+    mode_t mode = like.st_mode & 07777;
+    if (fchown(file, like.st_uid, like.st_gid) != 0) {
+        mode &= 0777;
+        if (fchown(file, static_cast<uid_t>(-1), like.st_gid) != 0)
+            mode &= 0707;
+    }
+    return fchmod(file, mode) == 0;
+}
+
+} // namespace
+
+SafeOutput::SafeOutput(std::string target, std::string temporary)
+    : m_target(std::move(target)), m_temporary(std::move(temporary))
+{}
+
+SafeOutput::~SafeOutput()
+{
+    if (!m_committed)
+        removeTemporary(m_temporary);
+}
+
+std::string SafeOutput::prepareFolder()
+{
+    return makeFolder(folderOf(m_target));
+}
+
+std::string SafeOutput::makeFolder(const std::string& folder)
+{
+    struct stat status;
+    if (stat(folder.c_str(), &status) == 0)
+        return S_ISDIR(status.st_mode) ? std::string() : folder + " is not a folder";
+    if (std::string problem = makeFolder(folderOf(folder)); !problem.empty())
+        return problem;
+    if (mkdir(folder.c_str(), 0777) != 0 && errno != EEXIST)
+        return "the folder " + folder + " cannot be made: " + systemError(errno);
+    return {};
+}
+
+std::string SafeOutput::folderOf(const std::string& file)
+{
+    const std::size_t slash = file.find_last_of('/');
+    return slash == std::string::npos ? "." : file.substr(0, slash == 0 ? 1 : slash);
+}
+
+std::string SafeOutput::commit(const struct stat& like, bool flush)
+{
+    const auto problem = [this] { return m_target + " cannot be written: " + systemError(errno); };
+    const FileDescriptor file(::open(m_temporary.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
+    if (!file.isOpen() || !giveAttributes(file.get(), like) || (flush && fsync(file.get()) != 0))
+        return problem();
+    if (rename(m_temporary.c_str(), m_target.c_str()) != 0)
+        return problem();
+    m_committed = true;
+    return flush && !flushFolder(folderOf(m_target)) ? problem() : std::string();
+}
+
+std::string SafeOutput::temporaryNameFor(const std::string& target)
+{
+    static unsigned long count = 0;
+    return folderOf(target) + "/" + std::string(prefix) + place() + "-" + std::to_string(getpid()) + "-" +
+           std::to_string(++count);
+}
+
+void SafeOutput::removeTemporary(const std::string& temporary)
+{
+    if (unlink(temporary.c_str()) == 0)
+        return;
+    const std::string name = temporary.substr(temporary.rfind('/') + 1);
+    removeFiles(folderOf(temporary), [&](int, std::string_view entry) {
+        return entry == name || entry.find(name + ".") != std::string_view::npos;
+    });
+}
+
+void SafeOutput::removeLeftovers(const std::string& folder)
+{
+    removeFiles(folder, [](int directory, const char* name) {
+        return std::string_view(name).substr(0, prefix.size()) == prefix && isLeftOver(directory, name);
+    });
+}
+
+} // namespace host

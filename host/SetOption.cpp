@@ -1,0 +1,139 @@
+#include "SetOption.h"
+
+#include "UsageError.h"
+
+#include "EditInitialView/InitialViewSettings.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace host::setoption {
+
+namespace {
+
+using initialview::Key;
+using initialview::ValueType;
+using Labels = std::vector<const char*>;
+
+const std::size_t nameWidth = 28;
+
+template <class Table>
+Labels listOf(const Table& table)
+{
+    return Labels(table.begin(), table.end());
+}
+
+Labels labelsOf(const std::string& key)
+{
+    if (key == initialview::key::NavigationTab)
+        return listOf(initialview::navigationLabels);
+    if (key == initialview::key::PageLayout)
+        return listOf(initialview::pageLayoutLabels);
+    if (key == initialview::key::Magnification)
+        return listOf(initialview::magnificationLabels);
+    if (key == initialview::key::Show)
+        return listOf(initialview::titleLabels);
+    return {};
+}
+
+/// \param separator stands between the rows of a list.
+std::string choicesOf(const Key& key, const std::string& separator)
+{
+    if (key.type == ValueType::Flag)
+        return "true or false";
+    if (key.type == ValueType::Text)
+        return std::string("\"") + initialview::actionName + "\"";
+    const Labels labels = labelsOf(key.name);
+    if (labels.empty())
+        return std::to_string(key.lowest) + " to " + std::to_string(key.highest);
+    std::string text;
+    for (std::size_t row = 0; row < labels.size(); ++row)
+        text += separator + std::to_string(row) + "  " + labels[row];
+    return text;
+}
+
+[[noreturn]] void refuseKey(const std::string& name)
+{
+    std::string text = "unknown setting \"" + name + "\"; the settings are:";
+    for (const Key& key : initialview::keys)
+        text += std::string("\n  ") + key.name;
+    throw UsageError(text);
+}
+
+[[noreturn]] void refuseValue(const Key& key, const std::string& value)
+{
+    throw UsageError(std::string(key.name) + " cannot be \"" + value + "\"; it takes " + choicesOf(key, "\n  "));
+}
+
+bool isOneOf(const QString& value, std::initializer_list<const char*> words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [&](const char* word) { return value.compare(word, Qt::CaseInsensitive) == 0; });
+}
+
+QVariant flagOf(const Key& key, const std::string& value)
+{
+    const QString text = QString::fromStdString(value).trimmed();
+    if (isOneOf(text, {"true", "yes", "on", "1"}))
+        return true;
+    if (isOneOf(text, {"false", "no", "off", "0"}))
+        return false;
+    refuseValue(key, value);
+}
+
+QVariant numberOf(const Key& key, const std::string& value)
+{
+    const QString text = QString::fromStdString(value).trimmed();
+    bool whole = false;
+    const int number = text.toInt(&whole);
+    if (whole && number >= key.lowest && number <= key.highest)
+        return number;
+    const Labels labels = labelsOf(key.name);
+    const auto label = std::find_if(labels.begin(), labels.end(), [&](const char* each) {
+        return text.compare(each, Qt::CaseInsensitive) == 0;
+    });
+    if (label == labels.end())
+        refuseValue(key, value);
+    return static_cast<int>(label - labels.begin());
+}
+
+QVariant valueOf(const Key& key, const std::string& value)
+{
+    if (key.type == ValueType::Flag)
+        return flagOf(key, value);
+    if (key.type == ValueType::Number)
+        return numberOf(key, value);
+    if (value != initialview::actionName)
+        refuseValue(key, value);
+    return QString(initialview::actionName);
+}
+
+} // namespace
+
+void apply(const std::string& word, SettingsMap& map)
+{
+    const std::size_t equals = word.find('=');
+    if (equals == std::string::npos)
+        throw UsageError("\"" + word + "\" is not a setting: it takes the form KEY=VALUE");
+    const std::string name = word.substr(0, equals);
+    const auto key = std::find_if(initialview::keys.begin(), initialview::keys.end(),
+                                  [&](const Key& each) { return name == each.name; });
+    if (key == initialview::keys.end())
+        refuseKey(name);
+    map.insert(key->name, valueOf(*key, word.substr(equals + 1)));
+}
+
+std::string describeKeys()
+{
+    std::string text;
+    for (const Key& key : initialview::keys) {
+        if (key.type == ValueType::Text)
+            continue;
+        const std::string name = key.name;
+        text +=
+            "  " + name + std::string(name.size() < 28 ? 28 - name.size() : 1, ' ') + choicesOf(key) + "\n";
+    }
+    return text;
+}
+
+} // namespace host::setoption

@@ -1,0 +1,290 @@
+#include "WorkerPool.h"
+
+#include "StopSignal.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <exception>
+
+namespace host {
+
+namespace {
+
+const std::size_t largestRecord = 128 << 10;
+const std::chrono::seconds stopGrace(5);
+const int millisecondsToEnd = 2000;
+
+// The first byte of an answer.
+const char fit = 'f';
+const char wornOut = 'w';
+const char notStarted = 'n';
+
+#if defined(__SANITIZE_ADDRESS__)
+const bool sanitized = true; // needs address space without bound, and tells what it found on standard error
+#else
+const bool sanitized = false;
+#endif
+
+/// \returns the length, 0 at the other side's end, -1 on failure. A record keeps its bounds on the way.
+ssize_t receiveRecord(int channel, std::string& record, int flags)
+{
+    record.resize(largestRecord);
+    ssize_t length = 0;
+    do
+        length = recv(channel, record.data(), record.size(), flags);
+    while (length < 0 && errno == EINTR);
+    record.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    return length;
+}
+
+bool sendRecord(int channel, const std::string& record)
+{
+    ssize_t length = 0;
+    do
+        length = send(channel, record.data(), record.size(), MSG_NOSIGNAL);
+    while (length < 0 && errno == EINTR);
+    return length == static_cast<ssize_t>(record.size());
+}
+
+void limitWorker(int memoryMiB)
+{
+    const rlimit none{0, 0};
+    setrlimit(RLIMIT_CORE, &none);
+    if (sanitized)
+        return;
+    // Counts what the worker allocates, not the files and libraries that it maps.
+    const auto bytes = static_cast<rlim_t>(memoryMiB) << 20;
+    const rlimit memory{bytes, bytes};
+    setrlimit(RLIMIT_DATA, &memory);
+    // What a crash or a library prints would tear up the progress bar; the reason reaches the user otherwise.
+    const FileDescriptor null(open("/dev/null", O_WRONLY | O_CLOEXEC));
+    dup2(null.get(), STDERR_FILENO);
+}
+
+std::string describeEnd(int status)
+{
+    if (WIFSIGNALED(status))
+        return "the worker process crashed on it: " + std::string(strsignal(WTERMSIG(status)));
+    return "the worker process ended on it with status " + std::to_string(WEXITSTATUS(status));
+}
+
+} // namespace
+
+struct WorkerPool::Process
+{
+    pid_t id = 0;
+    FileDescriptor channel;
+    bool busy = false;
+    std::size_t piece = 0;
+    Clock::time_point deadline;
+};
+
+WorkerPool::WorkerPool(Limits limits, MakeWorker makeWorker)
+    : m_limits(limits), m_makeWorker(std::move(makeWorker)),
+      m_processes(static_cast<std::size_t>(limits.workers))
+{}
+
+WorkerPool::~WorkerPool()
+{
+    for (Process& process : m_processes)
+        process.channel.close(); // a worker takes this as the end of the run
+    for (Process& process : m_processes)
+        if (process.id != 0)
+            end(process);
+}
+
+void WorkerPool::run(std::size_t count, const WorkOf& workOf, const Done& done, StopSignal& stop)
+{
+    m_next = 0;
+    for (;;) {
+        if (m_stopSignals == 0)
+            giveWork(count, workOf, done);
+        if (!anyBusy())
+            return;
+        waitForNews(done, stop);
+    }
+}
+
+void WorkerPool::giveWork(std::size_t count, const WorkOf& workOf, const Done& done)
+{
+    for (Process& process : m_processes) {
+        while (!process.busy && m_next < count) {
+            const std::size_t piece = m_next++;
+            if (give(process, workOf(piece))) {
+                process.piece = piece;
+                process.busy = true;
+                process.deadline = Clock::now() + std::chrono::seconds(m_limits.timeoutSeconds);
+            } else {
+                done(piece, {WorkOutcome::Lost, "no worker process can be started: " + systemError(errno)});
+            }
+        }
+    }
+}
+
+/// An idle worker may have ended since its last answer, so a second one is tried.
+bool WorkerPool::give(Process& process, const std::string& record)
+{
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        if (process.id == 0 && !start(process))
+            return false;
+        if (sendRecord(process.channel.get(), record))
+            return true;
+        const int problem = errno;
+        end(process);
+        errno = problem;
+    }
+    return false;
+}
+
+bool WorkerPool::start(Process& process)
+{
+    int ends[2];
+    if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0)
+        return false;
+    process.channel = FileDescriptor(ends[0]);
+    FileDescriptor theirs(ends[1]);
+    const pid_t parent = getpid();
+    process.id = fork();
+    if (process.id == 0) {
+        for (Process& other : m_processes)
+            other.channel.close();
+        serve(theirs.get(), parent);
+    }
+    if (process.id > 0)
+        return true;
+    process.id = 0;
+    process.channel.close();
+    return false;
+}
+
+/// The life of a worker process.
+void WorkerPool::serve(int channel, pid_t parent)
+{
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != parent)
+        _exit(0);
+    limitWorker(m_limits.memoryMiB);
+    std::string record;
+    try {
+        const std::unique_ptr<Worker> worker = m_makeWorker();
+        bool last = false;
+        while (!last && receiveRecord(channel, record, 0) > 0) {
+            const Worker::Answer answer = worker->answer(record);
+            last = answer.last || !sendRecord(channel, (answer.last ? wornOut : fit) + answer.record);
+        }
+    } catch (const std::exception& error) {
+        sendRecord(channel, notStarted + std::string(error.what()).substr(0, largestRecord / 2));
+    }
+    _exit(0);
+}
+
+void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
+{
+    std::vector<pollfd> waiting;
+    for (const Process& process : m_processes)
+        waiting.push_back({process.busy ? process.channel.get() : -1, POLLIN, 0});
+    waiting.push_back({stop.descriptor(), POLLIN, 0});
+    poll(waiting.data(), waiting.size(), millisecondsToNextDeadline());
+
+    for (std::size_t index = 0; index < m_processes.size(); ++index)
+        if (waiting[index].revents != 0)
+            receive(m_processes[index], done);
+    const int signals = stop.count();
+    if (m_stopSignals == 0 && signals > 0)
+        m_stopDeadline = Clock::now() + stopGrace;
+    m_stopSignals = signals;
+    endOverdue(done);
+    endStopped(done);
+}
+
+void WorkerPool::receive(Process& process, const Done& done)
+{
+    std::string record;
+    const ssize_t length = receiveRecord(process.channel.get(), record, MSG_DONTWAIT);
+    if (length < 0 && errno == EAGAIN)
+        return;
+    if (length <= 0) {
+        lose(process, done, WorkOutcome::Lost, end(process));
+        return;
+    }
+    const char state = record[0];
+    record.erase(0, 1);
+    process.busy = false;
+    if (state != fit)
+        end(process);
+    done(process.piece, {state == notStarted ? WorkOutcome::Lost : WorkOutcome::Answered, record});
+}
+
+void WorkerPool::lose(Process& process, const Done& done, WorkOutcome::Kind kind, const std::string& reason)
+{
+    if (process.id != 0)
+        end(process);
+    process.busy = false;
+    done(process.piece, {kind, reason});
+}
+
+/// Waits for the end of a process that has none to talk to any more. \returns how it ended.
+std::string WorkerPool::end(Process& process)
+{
+    process.channel.close();
+    const FileDescriptor news(static_cast<int>(syscall(SYS_pidfd_open, process.id, 0)));
+    pollfd waiting{news.get(), POLLIN, 0};
+    if (poll(&waiting, 1, millisecondsToEnd) <= 0)
+        kill(process.id, SIGKILL);
+    int status = 0;
+    waitpid(process.id, &status, 0);
+    process.id = 0;
+    return describeEnd(status);
+}
+
+void WorkerPool::endOverdue(const Done& done)
+{
+    for (Process& process : m_processes)
+        if (process.busy && Clock::now() >= process.deadline) {
+            kill(process.id, SIGKILL);
+            lose(process, done, WorkOutcome::Lost,
+                 "it took longer than " + std::to_string(m_limits.timeoutSeconds) + " s");
+        }
+}
+
+void WorkerPool::endStopped(const Done& done)
+{
+    if (m_stopSignals == 0 || (m_stopSignals == 1 && Clock::now() < m_stopDeadline))
+        return;
+    for (Process& process : m_processes)
+        if (process.busy) {
+            kill(process.id, SIGKILL);
+            lose(process, done, WorkOutcome::Stopped, "stopped");
+        }
+}
+
+bool WorkerPool::anyBusy() const
+{
+    return std::any_of(m_processes.begin(), m_processes.end(),
+                       [](const Process& process) { return process.busy; });
+}
+
+int WorkerPool::millisecondsToNextDeadline() const
+{
+    Clock::time_point next = Clock::time_point::max();
+    for (const Process& process : m_processes)
+        if (process.busy)
+            next = std::min(next, process.deadline);
+    if (m_stopSignals > 0)
+        next = std::min(next, m_stopDeadline);
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(next - Clock::now()).count();
+    return static_cast<int>(std::clamp<std::int64_t>(left, 0, 1 << 30));
+}
+
+} // namespace host

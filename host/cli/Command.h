@@ -1,0 +1,27 @@
+#pragma once
+
+namespace host {
+
+/// The program's exit statuses.
+namespace exitstatus {
+inline constexpr int done = 0;
+inline constexpr int someFailed = 1;
+inline constexpr int usage = 2;
+inline constexpr int stopped = 130;
+} // namespace exitstatus
+
+/// One of the program's commands.
+class Command
+{
+public:
+    virtual ~Command() = default;
+
+    virtual const char* name() const = 0;
+    /// A line for the list of commands.
+    virtual const char* summary() const = 0;
+    /// \param argv the arguments, the command's name first.
+    /// \returns the exit status. Throws UsageError.
+    virtual int run(int argc, char** argv) = 0;
+};
+
+} // namespace host

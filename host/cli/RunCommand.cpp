@@ -1,0 +1,260 @@
+#include "RunCommand.h"
+
+#include "OptionParser.h"
+
+#include "host/BatchRun.h"
+#include "host/FileDescriptor.h"
+#include "host/FileNames.h"
+#include "host/Report.h"
+#include "host/RunPlan.h"
+#include "host/SafeOutput.h"
+#include "host/SetOption.h"
+#include "host/SettingsFile.h"
+#include "host/UsageError.h"
+
+#include "EditInitialView/InitialViewSettings.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <thread>
+
+namespace host {
+
+namespace {
+
+const std::size_t largestPasswordFile = 64 << 10;
+const int leastMemory = 32;
+const int longestTimeout = 24 * 60 * 60;
+
+const char helpText[] =
+    R"(Usage: quintar run SETTINGS (-o DIR | --in-place) [OPTION ...] DOCUMENT|FOLDER ...
+
+Makes PDF documents open as the settings say. A folder stands for the PDF documents in it and its subfolders.
+
+Settings, from one source:
+  --list FILE.xqq           an action list; its entries are applied in their order
+  --favorite FILE.ini       a favourite
+  --tool-settings FILE.tsf  a tool settings file
+  --set KEY=VALUE           one setting; may be repeated
+
+Where the results go:
+  -o, --output DIR          into a folder, made if it is missing; a document that needs no change is copied
+  --in-place                in the documents' own places; one that needs no change is not touched
+
+Options:
+  --password P              opens encrypted documents; other users of the machine can see it in its list of
+                            processes
+  --password-file FILE      the same, kept in the first line of a file
+  --files-from FILE|-       takes further documents and folders from a file or standard input, one a line
+  --null                    the names in that list end with NUL instead
+  --report FILE.jsonl       writes a JSON object a line about each document
+  --signed refuse|append    what becomes of signed documents: refused (the default), or changed by an update
+                            behind what is signed
+  --dry-run                 writes nothing and tells what would be changed
+  --sync                    with -o, flushes each document to the disk before the next; in place that is always so
+  --jobs N                  works on N documents at a time (default: the number of processors)
+  --timeout SECONDS         gives a document up after this time (default: 60)
+  --memory MIB              gives a document up that needs more memory (default: 1024)
+  --quiet                   prints failures only
+  -h, --help                prints this text
+
+Exit status: 0 all well, 1 some documents failed, 2 nothing was begun, 130 stopped by a signal.
+
+Settings for --set; a row of a list can be given by its number or its text:
+)";
+
+std::string readLines(const std::string& path, std::size_t limit, const char* what)
+{
+    const FileDescriptor file(path == "-" ? dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    std::string bytes;
+    if (!file.isOpen() || !readAll(file.get(), bytes, limit))
+        throw UsageError(std::string(what) + " " + path + " cannot be read: " + systemError(errno));
+    return bytes;
+}
+
+OptionParser::Take append(std::vector<std::string>& values)
+{
+    return [&values](const std::string& value) { values.push_back(value); };
+}
+
+OptionParser::Take setOnce(std::optional<std::string>& value, const char* name)
+{
+    return [&value, name](const std::string& given) {
+        if (value)
+            throw UsageError(std::string(name) + " is given twice");
+        value = given;
+    };
+}
+
+SignedDocuments signedDocuments(const std::string& value)
+{
+    if (value == "append")
+        return SignedDocuments::Append;
+    if (value != "refuse")
+        throw UsageError("--signed takes refuse or append, not \"" + value + "\"");
+    return SignedDocuments::Refuse;
+}
+
+void note(const std::string& text)
+{
+    const std::string line = "quintar: note: " + forTerminal(text) + "\n";
+    writeAll(STDERR_FILENO, line.data(), line.size());
+}
+
+} // namespace
+
+int RunCommand::run(int argc, char** argv)
+{
+    m_limits.workers = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+    parse(argc, argv);
+    if (m_help) {
+        std::printf("%s%s", helpText, setoption::describeKeys().c_str());
+        return exitstatus::done;
+    }
+    check();
+    readSettings();
+    readPassword();
+    if (m_fileList)
+        readFileList();
+    warnOfSettingsWithoutEffect();
+
+    const RunPlan plan = this->plan();
+    std::optional<Report> report;
+    if (m_reportFile)
+        report.emplace(*m_reportFile);
+    if (m_outputFolder && !m_options.dryRun)
+        if (const std::string problem = SafeOutput::makeFolder(*m_outputFolder); !problem.empty())
+            throw UsageError(problem);
+    return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet).run(m_limits);
+}
+
+void RunCommand::parse(int argc, char** argv)
+{
+    OptionParser parser;
+    parser.addValue("list", append(m_lists));
+    parser.addValue("favorite", append(m_favorites));
+    parser.addValue("tool-settings", append(m_toolSettings));
+    parser.addValue("set", append(m_settingWords));
+    parser.addValue("output", setOnce(m_outputFolder, "-o"), 'o');
+    parser.addFlag("in-place", m_options.inPlace);
+    parser.addValue("password", setOnce(m_password, "--password"));
+    parser.addValue("password-file", setOnce(m_passwordFile, "--password-file"));
+    parser.addValue("files-from", setOnce(m_fileList, "--files-from"));
+    parser.addFlag("null", m_nullSeparated);
+    parser.addValue("report", setOnce(m_reportFile, "--report"));
+    parser.addValue("signed",
+                    [this](const std::string& value) { m_options.signedDocuments = signedDocuments(value); });
+    parser.addFlag("dry-run", m_options.dryRun);
+    parser.addFlag("sync", m_options.flush);
+    parser.addValue("jobs", [this](const std::string& value) {
+        m_limits.workers = numberOption("--jobs", value, 1, 1024);
+    });
+    parser.addValue("timeout", [this](const std::string& value) {
+        m_limits.timeoutSeconds = numberOption("--timeout", value, 1, longestTimeout);
+    });
+    parser.addValue("memory", [this](const std::string& value) {
+        m_limits.memoryMiB = numberOption("--memory", value, leastMemory, 1 << 20);
+    });
+    parser.addFlag("quiet", m_quiet);
+    parser.addFlag("help", m_help, 'h');
+    m_inputs = parser.parse(argc, argv);
+    m_options.flush = m_options.flush || m_options.inPlace;
+}
+
+void RunCommand::check() const
+{
+    const std::size_t sources =
+        m_lists.size() + m_favorites.size() + m_toolSettings.size() + (m_settingWords.empty() ? 0 : 1);
+    if (sources != 1)
+        throw UsageError(sources == 0
+                             ? "which settings? Give --list, --favorite, --tool-settings or --set"
+                             : "settings come from one source: --list, --favorite, --tool-settings or "
+                               "--set");
+    if (m_outputFolder.has_value() == m_options.inPlace)
+        throw UsageError(m_options.inPlace ? "-o and --in-place exclude each other"
+                                           : "where to? Give -o DIR or --in-place");
+    if (m_outputFolder && m_outputFolder->empty())
+        throw UsageError("the name of the output folder is empty");
+    struct stat status;
+    if (m_outputFolder && stat(m_outputFolder->c_str(), &status) == 0 && !S_ISDIR(status.st_mode))
+        throw UsageError(*m_outputFolder + " is not a folder");
+    if (m_password && m_passwordFile)
+        throw UsageError("--password and --password-file exclude each other");
+    if (m_nullSeparated && !m_fileList)
+        throw UsageError("--null goes with --files-from");
+    if (m_inputs.empty() && !m_fileList)
+        throw UsageError("which documents? Name documents or folders, or give --files-from");
+}
+
+void RunCommand::readSettings()
+{
+    if (!m_lists.empty()) {
+        m_options.entries = settingsfile::readActionList(m_lists.front());
+    } else if (!m_favorites.empty()) {
+        m_options.entries = settingsfile::readFavorite(m_favorites.front());
+    } else if (!m_toolSettings.empty()) {
+        m_options.entries = settingsfile::readToolSettings(m_toolSettings.front());
+    } else {
+        ActionEntry entry{initialview::actionName, {}};
+        for (const std::string& word : m_settingWords)
+            setoption::apply(word, entry.settings);
+        m_options.entries = {entry};
+    }
+}
+
+void RunCommand::readPassword()
+{
+    if (m_passwordFile)
+        m_password = readLines(*m_passwordFile, largestPasswordFile, "the password file");
+    m_options.password = m_password.value_or("");
+    if (m_passwordFile)
+        m_options.password = m_options.password.substr(0, m_options.password.find_first_of("\r\n"));
+}
+
+void RunCommand::readFileList()
+{
+    const std::string bytes = readLines(*m_fileList, std::string::npos / 2, "the list of documents");
+    const char separator = m_nullSeparated ? '\0' : '\n';
+    for (std::size_t begin = 0; begin < bytes.size();) {
+        const std::size_t end = std::min(bytes.find(separator, begin), bytes.size());
+        if (end > begin)
+            m_inputs.push_back(bytes.substr(begin, end - begin));
+        begin = end + 1;
+    }
+}
+
+void RunCommand::warnOfSettingsWithoutEffect() const
+{
+    for (const ActionEntry& entry : m_options.entries) {
+        const bool layout = entry.settings.value(initialview::key::LayoutAndMagn).toBool();
+        const bool viewer = entry.settings.value(initialview::key::ViewerPrefs).toBool();
+        if (!layout && !viewer)
+            note("neither LayoutAndMagnCheckBox nor ViewerPrefsCheckBox is on, so nothing will be changed");
+        else if (layout &&
+                 entry.settings.value(initialview::key::OpenToPage).toInt() < initialview::firstPage)
+            note("OpenToPageSpinBox is not set, so page and magnification stay as they are");
+    }
+}
+
+RunPlan RunCommand::plan() const
+{
+    RunPlan plan(m_outputFolder.value_or(""));
+    for (const std::string& input : m_inputs)
+        plan.add(input);
+    plan.checkTargets();
+    if (m_reportFile)
+        plan.checkNotADocument(*m_reportFile, "the report");
+    for (const std::string& folder : plan.emptyFolders())
+        note("no PDF documents in " + folder);
+    if (plan.documents().empty() && plan.emptyFolders().empty())
+        note("the list of documents is empty");
+    return plan;
+}
+
+} // namespace host

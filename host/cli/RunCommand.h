@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Command.h"
+
+#include "host/DocumentProcessor.h"
+#include "host/WorkerPool.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace host {
+
+class RunPlan;
+
+/// "quintar run": applies stored settings to documents.
+class RunCommand : public Command
+{
+public:
+    const char* name() const override { return "run"; }
+    const char* summary() const override { return "apply settings to documents"; }
+    int run(int argc, char** argv) override;
+
+private:
+    void parse(int argc, char** argv);
+    void readSettings();
+    void readPassword();
+    void readFileList();
+    void check() const;
+    void warnOfSettingsWithoutEffect() const;
+    RunPlan plan() const;
+
+    bool m_help = false;
+    bool m_quiet = false;
+    bool m_nullSeparated = false;
+    std::vector<std::string> m_lists;
+    std::vector<std::string> m_favorites;
+    std::vector<std::string> m_toolSettings;
+    std::vector<std::string> m_settingWords;
+    std::optional<std::string> m_outputFolder;
+    std::optional<std::string> m_password;
+    std::optional<std::string> m_passwordFile;
+    std::optional<std::string> m_fileList;
+    std::optional<std::string> m_reportFile;
+    std::vector<std::string> m_inputs;
+    ProcessingOptions m_options;
+    WorkerPool::Limits m_limits;
+};
+
+} // namespace host

@@ -1,0 +1,119 @@
+#include "ShowCommand.h"
+
+#include "OptionParser.h"
+
+#include "host/FileDescriptor.h"
+#include "host/FileNames.h"
+#include "host/InstallLayout.h"
+#include "host/OpeningView.h"
+#include "host/StopSignal.h"
+#include "host/UsageError.h"
+#include "host/WorkerPool.h"
+
+#include "engine/ErrorCodes.h"
+#include "engine/FileNameCodec.h"
+#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
+
+#include <QJsonDocument>
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace host {
+
+namespace {
+
+const char helpText[] =
+    R"(Usage: quintar show [--json] [--password P] DOCUMENT ...
+
+Tells how each document opens: panel, layout, page, magnification and viewer preferences.
+
+Options:
+  --json        prints a JSON object a line about each document
+  --password P  opens encrypted documents
+  -h, --help    prints this text
+
+Exit status: 0 all well, 1 some documents cannot be read, 2 nothing was begun.
+)";
+
+// The first character of a worker's answer.
+const char readable = 'r';
+const char unreadable = 'u';
+
+/// Reads one document after the other, in a process of its own: the documents may be anybody's.
+class ShowWorker : public Worker
+{
+public:
+    ShowWorker(std::string password, bool json)
+        : m_password(std::move(password)), m_json(json),
+          m_library(toLibraryPath(installlayout::libraryFile()))
+    {
+        if (!m_library.LibraryLoaded())
+            throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
+    }
+
+    Answer answer(const std::string& file) override
+    {
+        if (m_library.LoadFromFile(engine::wideFromFileName(file), engine::wideFromFileName(m_password)) == 0)
+            return {unreadable + std::string(engine::errorText(m_library.LastErrorCode()))};
+        const OpeningView view = OpeningView::read(m_library);
+        m_library.RemoveDocument(m_library.SelectedDocument());
+        return {readable + (m_json ? jsonLine(file, view)
+                                   : forTerminal(file) + "\n" + forTerminalLines(view.inWords()))};
+    }
+
+private:
+    static std::string jsonLine(const std::string& file, const OpeningView& view)
+    {
+        QJsonObject object = view.toJson();
+        object.insert("file", QString::fromStdString(file));
+        if (!isUtf8(file))
+            object.insert("fileBytes", QString::fromStdString(percentEncoded(file)));
+        return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + "\n";
+    }
+
+    std::string m_password;
+    bool m_json;
+    TelvarPDFLibraryCPDylibCPP1311 m_library;
+};
+
+} // namespace
+
+int ShowCommand::run(int argc, char** argv)
+{
+    bool json = false;
+    bool help = false;
+    std::string password;
+    OptionParser parser;
+    parser.addFlag("json", json);
+    parser.addFlag("help", help, 'h');
+    parser.addValue("password", [&](const std::string& value) { password = value; });
+    const std::vector<std::string> files = parser.parse(argc, argv);
+    if (help) {
+        std::fputs(helpText, stdout);
+        return exitstatus::done;
+    }
+    if (files.empty())
+        throw UsageError("which documents?");
+
+    bool failed = false;
+    StopSignal stop;
+    WorkerPool pool({}, [&] { return std::make_unique<ShowWorker>(password, json); });
+    pool.run(
+        files.size(), [&](std::size_t index) { return files[index]; },
+        [&](std::size_t index, const WorkOutcome& outcome) {
+            const bool good = outcome.kind == WorkOutcome::Answered && outcome.text[0] == readable;
+            const std::string text =
+                outcome.kind == WorkOutcome::Answered ? outcome.text.substr(1) : outcome.text;
+            const std::string line =
+                good ? text : "quintar: " + forTerminal(files[index]) + ": " + forTerminal(text) + "\n";
+            writeAll(good ? STDOUT_FILENO : STDERR_FILENO, line.data(), line.size());
+            failed = failed || !good;
+        },
+        stop);
+    return stop.count() > 0 ? exitstatus::stopped : failed ? exitstatus::someFailed : exitstatus::done;
+}
+
+} // namespace host

@@ -1,0 +1,81 @@
+#include "FileDescriptor.h"
+#include "FileNames.h"
+#include "UsageError.h"
+#include "cli/RunCommand.h"
+#include "cli/ShowCommand.h"
+
+#include <QCoreApplication>
+
+#include <unistd.h>
+
+#include <clocale>
+#include <csignal>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Commands = std::vector<std::unique_ptr<host::Command>>;
+
+Commands allCommands()
+{
+    Commands commands;
+    commands.push_back(std::make_unique<host::RunCommand>());
+    commands.push_back(std::make_unique<host::ShowCommand>());
+    return commands;
+}
+
+std::string helpText(const Commands& commands)
+{
+    std::string text =
+        "Usage: quintar COMMAND ...\n\nChanges how PDF documents open in a viewer.\n\nCommands:\n";
+    for (const auto& command : commands)
+        text += "  " + std::string(command->name()) +
+                std::string(12 - std::string(command->name()).size(), ' ') + command->summary() + "\n";
+    return text + "\nquintar COMMAND --help tells about a command; quintar --version prints the version.\n";
+}
+
+int complain(const std::string& message, int status)
+{
+    const std::string line = "quintar: " + host::forTerminalLines(message) + "\n";
+    host::writeAll(STDERR_FILENO, line.data(), line.size());
+    return status;
+}
+
+int runCommand(int argc, char** argv)
+{
+    const Commands commands = allCommands();
+    const std::string word = argc > 1 ? argv[1] : "";
+    if (word == "--help" || word == "-h" || word == "help") {
+        std::fputs(helpText(commands).c_str(), stdout);
+        return host::exitstatus::done;
+    }
+    if (word == "--version") {
+        std::puts("quintar " QUINTAR_VERSION);
+        return host::exitstatus::done;
+    }
+    for (const auto& command : commands)
+        if (word == command->name())
+            return command->run(argc - 1, argv + 1);
+    throw host::UsageError((word.empty() ? "which command?" : "unknown command \"" + word + "\"") + "\n\n" +
+                           helpText(commands));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::signal(SIGPIPE, SIG_IGN); // a reader of our output that goes away does not end a batch
+    int qtArguments = 1;
+    const QCoreApplication application(qtArguments, argv);
+    QCoreApplication::setApplicationName("quintar");
+    QCoreApplication::setApplicationVersion(QUINTAR_VERSION);
+    std::setlocale(LC_NUMERIC, "C"); // Qt takes over the user's, whose decimal comma is none of PDF's
+    try {
+        return runCommand(argc, argv);
+    } catch (const std::exception& error) {
+        return complain(error.what(), host::exitstatus::usage);
+    }
+}
