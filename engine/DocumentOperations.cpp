@@ -148,12 +148,19 @@ int EncryptionStatus(Session& session)
 
 int SecurityInfo(Session& session, int item)
 {
-    const bool available =
-        session.selectedId() != 0 && (item == SignatureCount || item == ModificationAllowed);
-    if (!available)
+    if (session.selectedId() == 0)
         throw EngineError(ErrorCode::NotAvailable);
     Document& document = session.document().document;
-    return item == SignatureCount ? countSignatures(document) : modificationAllowed(document.pdf());
+    switch (item) {
+    case SignatureCount:
+        return countSignatures(document);
+    case ModificationAllowed:
+        return modificationAllowed(document.pdf());
+    case UnsavedChanges:
+        return document.changedObjects().empty() ? 0 : 1;
+    default:
+        throw EngineError(ErrorCode::NotAvailable);
+    }
 }
 
 int LastErrorCode(Session& session)

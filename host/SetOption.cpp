@@ -62,7 +62,8 @@ std::string choicesOf(const Key& key, const std::string& separator)
 
 [[noreturn]] void refuseValue(const Key& key, const std::string& value)
 {
-    throw UsageError(std::string(key.name) + " cannot be \"" + value + "\"; it takes " + choicesOf(key, "\n  "));
+    throw UsageError(std::string(key.name) + " cannot be \"" + value + "\"; it takes " +
+                     choicesOf(key, "\n  "));
 }
 
 bool isOneOf(const QString& value, std::initializer_list<const char*> words)
@@ -130,8 +131,8 @@ std::string describeKeys()
         if (key.type == ValueType::Text)
             continue;
         const std::string name = key.name;
-        text +=
-            "  " + name + std::string(name.size() < 28 ? 28 - name.size() : 1, ' ') + choicesOf(key) + "\n";
+        text += "  " + name + std::string(name.size() < nameWidth ? nameWidth - name.size() : 1, ' ') +
+                choicesOf(key, "\n      ") + "\n";
     }
     return text;
 }

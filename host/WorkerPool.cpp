@@ -177,9 +177,12 @@ void WorkerPool::serve(int channel, pid_t parent)
     limitWorker(m_limits.memoryMiB);
     std::string record;
     try {
-        const std::unique_ptr<Worker> worker = m_makeWorker();
+        std::unique_ptr<Worker> worker;
         bool last = false;
         while (!last && receiveRecord(channel, record, 0) > 0) {
+            // Not before the first order: a worker that ends with one unread would take its answer along.
+            if (!worker)
+                worker = m_makeWorker();
             const Worker::Answer answer = worker->answer(record);
             last = answer.last || !sendRecord(channel, (answer.last ? wornOut : fit) + answer.record);
         }

@@ -90,8 +90,9 @@ void TestRunPlan::findsWhatAFolderHolds()
     QCOMPARE(mkfifo("in/fifo.pdf", 0600), 0);
     RunPlan plan("out");
     plan.add("in//");
-    QCOMPARE(targets(plan), std::string("in/a/z.Pdf>out/a/z.Pdf in/a.PDF>out/a.PDF in/b.pdf>out/b.pdf "
-                                        "in/deep/er/y.pdf>out/deep/er/y.pdf in/x\xff\n.pdf>out/x\xff\n.pdf "));
+    QCOMPARE(targets(plan),
+             std::string("in/a/z.Pdf>out/a/z.Pdf in/a.PDF>out/a.PDF in/b.pdf>out/b.pdf "
+                         "in/deep/er/y.pdf>out/deep/er/y.pdf in/x\xff\n.pdf>out/x\xff\n.pdf "));
     QVERIFY(refusalOf(plan).empty());
     plan.add("in/folder.pdf");
     QCOMPARE(plan.emptyFolders(), std::vector<std::string>{"in/folder.pdf"});
@@ -128,8 +129,9 @@ void TestRunPlan::namesWhatCannotBeWorkedOn()
     fs::create_symlink("nowhere", "broken.pdf");
     make("file");
     RunPlan plan("out");
-    for (const std::string& name : {std::string("missing.pdf"), std::string("fifo.pdf"), std::string("broken.pdf"),
-                                    std::string("file/x.pdf"), std::string(5000, 'x')})
+    for (const std::string& name :
+         {std::string("missing.pdf"), std::string("fifo.pdf"), std::string("broken.pdf"),
+          std::string("file/x.pdf"), std::string(5000, 'x')})
         plan.add(name);
     QStringList problems;
     for (const RunPlan::Document& document : plan.documents())

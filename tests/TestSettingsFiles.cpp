@@ -15,13 +15,14 @@ namespace {
 using Read = std::vector<ActionEntry> (*)(const std::string&);
 
 const SettingsMap sample{
-    {"LayoutAndMagnCheckBox", true},  {"NavigationTabComboBox", 1}, {"OpenToPageSpinBox", 12},
-    {"HideToobarsCheckBox", false},   {"ShowComboBox", 1},          {"ActionName", "Initial View"},
+    {"LayoutAndMagnCheckBox", true}, {"NavigationTabComboBox", 1}, {"OpenToPageSpinBox", 12},
+    {"HideToobarsCheckBox", false},  {"ShowComboBox", 1},          {"ActionName", "Initial View"},
     {"MagnificationComboBox", 255},
 };
 
-const char stored[] = "@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x18\\0S\\0h\\0o\\0w\\0\\x43\\0o\\0m\\0\\x62\\0o"
-                      "\\0\\x42\\0o\\0x\\0\\0\\0\\x2\\0\\0\\0\\x1)";
+const char stored[] =
+    "@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x18\\0S\\0h\\0o\\0w\\0\\x43\\0o\\0m\\0\\x62\\0o"
+    "\\0\\x42\\0o\\0x\\0\\0\\0\\x2\\0\\0\\0\\x1)";
 
 } // namespace
 
@@ -82,9 +83,9 @@ void TestSettingsFiles::readsWhatQSettingsWrites()
         QSettings tool(m_folder.filePath("tool.tsf"), QSettings::IniFormat);
         tool.setValue("ToolSettings", sample);
     }
-    for (const auto& entries : {settingsfile::readActionList(path("list.xqq")),
-                                settingsfile::readFavorite(path("favorite.ini")),
-                                settingsfile::readToolSettings(path("tool.tsf"))}) {
+    for (const auto& entries :
+         {settingsfile::readActionList(path("list.xqq")), settingsfile::readFavorite(path("favorite.ini")),
+          settingsfile::readToolSettings(path("tool.tsf"))}) {
         QCOMPARE(entries.size(), std::size_t(1));
         QCOMPARE(entries[0].action, QString("Initial View"));
         QCOMPARE(entries[0].settings, sample);
@@ -165,12 +166,14 @@ void TestSettingsFiles::refuses_data()
     row("escape at the end", map("@Variant(\\"), "damaged");
     row("escape too large", map("@Variant(\\x12345)"), "damaged");
     row("more than bytes", map("@Variant(\\x100\\0\\0\\b)"), "not a settings map");
-    row("claims more than it has", map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x2\\0\\0\\0\\x2\\0k\\0\\0\\0\\x1\\x1)"),
-        "cut off");
+    row("claims more than it has",
+        map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x2\\0\\0\\0\\x2\\0k\\0\\0\\0\\x1\\x1)"), "cut off");
     row("claims four milliards", map("@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xff)"), "cut off");
-    row("a text of four gigabytes", map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\xff\\xff\\xff\\xfe\\0k)"), "cut off");
+    row("a text of four gigabytes", map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\xff\\xff\\xff\\xfe\\0k)"),
+        "cut off");
     row("a map in the map",
-        map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0k\\0\\0\\0\\b\\0\\0\\0\\0)"), "its value \"k\"");
+        map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0k\\0\\0\\0\\b\\0\\0\\0\\0)"),
+        "its value \"k\"");
     row("something left over", map(QByteArray(stored).chopped(1) + "x)"), "something follows");
     row("settings of nobody", map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0k\\0\\0\\0\\x1\\x1)"),
         "another action");
@@ -190,7 +193,8 @@ void TestSettingsFiles::refuses()
 
 void TestSettingsFiles::refusesWhatIsNoOrdinaryFile()
 {
-    QCOMPARE(refusalOf(settingsfile::readFavorite, path("none")), path("none") + ": no such file or directory");
+    QCOMPARE(refusalOf(settingsfile::readFavorite, path("none")),
+             path("none") + ": no such file or directory");
     QCOMPARE(mkfifo(path("fifo").c_str(), 0600), 0);
     QCOMPARE(refusalOf(settingsfile::readFavorite, path("fifo")), path("fifo") + ": not a regular file");
     QCOMPARE(refusalOf(settingsfile::readFavorite, path(".")), path(".") + ": is a directory");
