@@ -55,7 +55,7 @@ private slots:
         LoadedLibrary library;
         QVERIFY(library.LibraryLoaded());
         QCOMPARE(library.LoadFromString(PdfBuilder::simple(), L""), 1);
-        QSet<QString> available{"SecurityInfo"}; // it has two items and says so of all others
+        QSet<QString> available{"SecurityInfo"}; // it has three items and says so of all others
 #define TPL_OP(Result, Name, Arguments, ...)                                                                 \
     {                                                                                                        \
         library.DocumentCount(); /* succeeds */                                                              \
