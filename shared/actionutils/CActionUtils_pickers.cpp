@@ -79,8 +79,9 @@ Picker colorPicker(bool none)
 {
     QVector<Sample> samples;
     for (const NamedColor& named : namedColors) {
-        samples.append(swatch(named.label, named.color));
-        samples.last().value = named.color;
+        Sample sample = swatch(named.label, named.color);
+        sample.value = named.color;
+        samples.append(sample);
     }
     samples.append(swatch("Custom...", Qt::white));
     return {QSize(15, 15), none, samples, 17, 4};
