@@ -4,6 +4,8 @@
 
 #include "shared/CIniFile.h"
 #include "shared/CUtils.h"
+#include "shared/lists/CSaveAsActionlistDialog.h"
+#include "shared/lists/CSaveAsCollectionDialog.h"
 
 using namespace initialview;
 
@@ -17,6 +19,11 @@ QString geometryFile()
 QString geometryKey(const CPrefsDialog& dialog)
 {
     return dialog.objectName() + "geometry";
+}
+
+void withoutContextHelp(QDialog& dialog)
+{
+    dialog.setWindowFlags(dialog.windowFlags() & ~Qt::WindowContextHelpButtonHint);
 }
 
 } // namespace
@@ -84,9 +91,31 @@ void CPrefsDialog::GetPrefs(QMap<QString, QVariant>* prefs)
     prefs->insert(key::ActionName, QString(actionName));
 }
 
-void CPrefsDialog::on_QDShowSaveDialog() {}
+void CPrefsDialog::on_QDShowSaveDialog()
+{
+    CSaveAsActionlistDialog dialog(this, Qt::WindowFlags());
+    withoutContextHelp(dialog);
+    QMap<QString, QVariant> prefs;
+    GetPrefs(&prefs);
+    dialog.LoadPrefsData(&prefs);
+    dialog.exec();
+}
 
-void CPrefsDialog::on_QDShowSaveCollectionDialog() {}
+void CPrefsDialog::on_QDShowSaveCollectionDialog()
+{
+    CSaveAsCollectionDialog dialog(this, Qt::WindowFlags());
+    withoutContextHelp(dialog);
+    QMap<QString, QVariant> prefs;
+    GetPrefs(&prefs);
+    dialog.LoadPrefsData(&prefs);
+    QIcon icon;
+    icon.addPixmap(windowIcon().pixmap(QSize(128, 128), QIcon::Selected, QIcon::Off), QIcon::Normal,
+                   QIcon::Off);
+    dialog.ui.icon_toolButton->setIcon(icon);
+    dialog.exec();
+    // The settings are kept now; whoever runs this dialog is not to take them over as well.
+    QDialog::reject();
+}
 
 void CPrefsDialog::accept()
 {

@@ -5,10 +5,14 @@
 #include "support/Mute.h"
 
 #include <QDir>
+#include <QLineEdit>
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
+
+#include <functional>
 
 using namespace initialview;
 
@@ -57,6 +61,16 @@ QVariant valueOf(const Key& key, int number)
     return key.type == ValueType::Flag ? QVariant(number != 0) : QVariant(number);
 }
 
+/// The key's whole range, long ones in strides.
+QVector<int> numbersOf(const Key& key)
+{
+    QVector<int> numbers{key.highest};
+    const int stride = std::max(1, (key.highest - key.lowest) / 200);
+    for (int number = key.lowest; number < key.highest; number += stride)
+        numbers << number;
+    return numbers;
+}
+
 Prefs randomPrefs(QRandomGenerator& random)
 {
     Prefs prefs;
@@ -74,6 +88,18 @@ QString focusName()
 void type(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+}
+
+/// Once a further dialog is up, hands it over; closes it if it is still up then.
+void withNextDialog(const std::function<void(QDialog&)>& use)
+{
+    QTimer::singleShot(0, [use] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog != nullptr);
+        use(*dialog);
+        if (dialog->isVisible())
+            dialog->reject();
+    });
 }
 
 /// The objects that Tab reaches, beginning with the one that has the focus.
@@ -154,7 +180,7 @@ private slots:
         Dialog dialog;
         QRandomGenerator random(20240229);
         for (const Key& key : keys)
-            for (int number = key.lowest; number <= key.highest; ++number) {
+            for (const int number : numbersOf(key)) {
                 Prefs prefs = randomPrefs(random);
                 prefs[key.name] = valueOf(key, number);
                 QCOMPARE(dialog.prefsAfter(prefs), prefs);
@@ -298,6 +324,65 @@ private slots:
         QDir().mkpath(geometryFile());
         openAndMove("QuintarPreviewClass", {123, 45}, "QuintarPreviewClass");
         QVERIFY(QFileInfo(geometryFile()).isDir());
+    }
+
+    void addsItsSettingsToAnActionListAndStays()
+    {
+        Dialog dialog;
+        dialog.show();
+        Prefs prefs = dialog.prefsAfter({{key::PageLayout, 4}, {key::HideMenuBar, true}});
+        withNextDialog([&](QDialog& further) {
+            QCOMPARE(further.metaObject()->className(), "CSaveAsActionlistDialog");
+            QCOMPARE(further.parentWidget(), &dialog);
+            further.findChild<QLineEdit*>("actionListNameLineEdit")->setText("Two pages");
+            further.findChild<QPushButton*>("saveButton")->click();
+        });
+        dialog.findChild<QToolButton*>("QDtoolbarAddToActionListButton")->click();
+        QVERIFY(dialog.isVisible());
+        const QSettings list(CUtils::GetSequenceFolder() + "/Two_pages.xqq", QSettings::IniFormat);
+        QCOMPARE(list.value("ActionName0").toString(), QString(actionName));
+        prefs.remove(key::ActionName); // it has a place of its own in the list
+        QCOMPARE(list.value("ActionPrefs0").toMap(), prefs);
+        QCOMPARE(dialog.prefs()[key::ActionName], QVariant(actionName));
+    }
+
+    void closesAsRejectedAfterTheFavourites_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::newRow("saved") << "saveButton";
+        QTest::newRow("cancelled") << "cancelButton";
+    }
+
+    void closesAsRejectedAfterTheFavourites()
+    {
+        QFETCH(QString, button);
+        Dialog dialog;
+        QPixmap image(128, 128);
+        image.fill(Qt::red);
+        QIcon icon;
+        icon.addPixmap(image, QIcon::Selected, QIcon::Off);
+        dialog.setWindowIcon(icon);
+        dialog.setResult(QDialog::Accepted);
+        dialog.show();
+        const Prefs prefs = dialog.prefsAfter({{key::OpenToPage, 17}});
+        withNextDialog([&](QDialog& further) {
+            QCOMPARE(further.metaObject()->className(), "CSaveAsCollectionDialog");
+            const QIcon icon = further.findChild<QToolButton*>("icon_toolButton")->icon();
+            QCOMPARE(icon.pixmap(QSize(128, 128)).toImage(), image.toImage());
+            further.findChild<QLineEdit*>("collectionNameLineEdit")->setText("Page 17 " + button);
+            further.findChild<QPushButton*>(button)->click();
+        });
+        dialog.findChild<QToolButton*>("QDtoolbarAddToCollectionsButton")->click();
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+
+        const QString file = CUtils::GetCollectionsFolder() + "/Page 17 " + button + ".ini";
+        QCOMPARE(QFile::exists(file), button == "saveButton");
+        if (button == "saveButton") {
+            Prefs stored = QSettings(file, QSettings::IniFormat).value("ActionPrefs").toMap();
+            QCOMPARE(stored.take("CollectionName"), QVariant("Page 17 saveButton"));
+            QCOMPARE(stored, prefs);
+        }
     }
 
     void hasItsSlotsInOrder()
