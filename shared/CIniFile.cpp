@@ -14,7 +14,7 @@
 
 namespace {
 
-const qint64 largestFile = 16 * 1024 * 1024;
+const qint64 largestFile = qint64(16) * 1024 * 1024;
 const qint64 largestLock = 4096;
 const qint64 longestWait = 2000;
 const unsigned long pause = 5;

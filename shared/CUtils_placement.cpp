@@ -14,8 +14,8 @@ struct Conversion
     double over;
 };
 
-/// From the row's unit to the column's: inch, centimetre, millimetre, point. The order of the three steps decides
-/// the last bit of a result.
+/// From the row's unit to the column's: inch, centimetre, millimetre, point. The order of the three steps
+/// decides the last bit of a result.
 // clang-format off
 constexpr Conversion conversions[4][4] = {
     {{1, 1, 1},     {2.54, 1, 1},  {2.54, 10, 1},  {72, 1, 1}},
