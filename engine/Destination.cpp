@@ -47,9 +47,9 @@ const DestinationForm& formOf(QPDFObjectHandle name)
     return forms[0];
 }
 
-QPDFObjectHandle arrayOf(QPDFObjectHandle destination)
+QPDFObjectHandle arrayOf(Document& document, QPDFObjectHandle destination)
 {
-    return destination.isDictionary() ? destination.getKey("/D") : destination;
+    return destination.isDictionary() ? document.key(destination, "/D") : destination;
 }
 
 int pageOf(QPDFObjectHandle target, PageTree& pages)
@@ -82,13 +82,13 @@ bool sameOperand(QPDFObjectHandle one, QPDFObjectHandle other)
 
 std::optional<OpenActionTarget> openActionTarget(Document& document)
 {
-    QPDFObjectHandle action = document.catalog().getKey("/OpenAction");
+    QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
     if (action.isDictionary())
-        action =
-            action.getKey("/S").isNameAndEquals("/GoTo") ? action.getKey("/D") : QPDFObjectHandle::newNull();
+        action = document.key(action, "/S").isNameAndEquals("/GoTo") ? document.key(action, "/D")
+                                                                     : QPDFObjectHandle::newNull();
     OpenActionTarget target{action, {}};
     if (action.isName() || action.isString()) {
-        target.array = arrayOf(findNamedDestination(document.catalog(), action));
+        target.array = arrayOf(document, findNamedDestination(document, action));
         target.name = action.isName() ? action.getName().substr(1) : action.getUTF8Value();
     }
     if (!target.array.isArray() || target.array.getArrayNItems() == 0)
@@ -96,19 +96,19 @@ std::optional<OpenActionTarget> openActionTarget(Document& document)
     return target;
 }
 
-std::optional<Destination> readDestination(OpenActionTarget target, PageTree& pages)
+std::optional<Destination> readDestination(Document& document, OpenActionTarget target, PageTree& pages)
 {
     Destination destination;
     destination.name = std::move(target.name);
-    destination.page = pageOf(target.array.getArrayItem(0), pages);
+    destination.page = pageOf(document.item(target.array, 0), pages);
     if (destination.page == 0)
         return std::nullopt;
     const int size = target.array.getArrayNItems();
     const DestinationForm& form =
-        formOf(size > 1 ? target.array.getArrayItem(1) : QPDFObjectHandle::newNull());
+        formOf(size > 1 ? document.item(target.array, 1) : QPDFObjectHandle::newNull());
     destination.type = form.type;
     for (int index = 2; index < size && index - 2 < 4 && form.operands[index - 2] != nullptr; ++index) {
-        QPDFObjectHandle operand = target.array.getArrayItem(index);
+        QPDFObjectHandle operand = document.item(target.array, index);
         if (operand.isNumber())
             destination.*form.operands[index - 2] = operand.getNumericValue();
     }
@@ -131,16 +131,17 @@ QPDFObjectHandle destinationOperands(int type, int zoom, double left, double top
     return operands;
 }
 
-bool isWrittenAs(QPDFObjectHandle array, const QPDFObjectHandle& page, QPDFObjectHandle operands)
+bool isWrittenAs(Document& document, QPDFObjectHandle array, const QPDFObjectHandle& page,
+                 QPDFObjectHandle operands)
 {
-    QPDFObjectHandle target = array.getArrayItem(0);
+    QPDFObjectHandle target = document.item(array, 0);
     const int size = operands.getArrayNItems();
     if (!page.isIndirect() || target.getObjGen() != page.getObjGen() || array.getArrayNItems() != size + 1 ||
-        !array.getArrayItem(1).isNameAndEquals(operands.getArrayItem(0).getName()))
+        !document.item(array, 1).isNameAndEquals(operands.getArrayItem(0).getName()))
         return false;
     const bool zooms = operands.getArrayItem(0).isNameAndEquals("/XYZ");
     for (int index = 1; index < size; ++index) {
-        QPDFObjectHandle stored = array.getArrayItem(index + 1);
+        QPDFObjectHandle stored = document.item(array, index + 1);
         QPDFObjectHandle wanted = operands.getArrayItem(index);
         const bool noZoom = zooms && index == size - 1 && isNone(stored) && isNone(wanted);
         if (!noZoom && !sameOperand(stored, wanted))

@@ -37,7 +37,7 @@ struct OpenActionTarget
 std::optional<OpenActionTarget> openActionTarget(Document& document);
 
 /// Nothing when the target's page is no page of the document.
-std::optional<Destination> readDestination(OpenActionTarget target, PageTree& pages);
+std::optional<Destination> readDestination(Document& document, OpenActionTarget target, PageTree& pages);
 
 /// What follows the page in an explicit destination: its type and all operands.
 /// \param type 1 to 5.
@@ -46,6 +46,7 @@ QPDFObjectHandle destinationOperands(int type, int zoom, double left, double top
 
 /// True when an explicit destination shows this page object with these operands, exactly as it would be
 /// written.
-bool isWrittenAs(QPDFObjectHandle array, const QPDFObjectHandle& page, QPDFObjectHandle operands);
+bool isWrittenAs(Document& document, QPDFObjectHandle array, const QPDFObjectHandle& page,
+                 QPDFObjectHandle operands);
 
 } // namespace engine

@@ -1,7 +1,9 @@
 #include "engine/Document.h"
 
 #include "engine/ByteSource.h"
+#include "engine/DirectReader.h"
 #include "engine/EngineError.h"
+#include "engine/ObjectSerializer.h"
 #include "engine/SourceInput.h"
 
 #include <qpdf/QUtil.hh>
@@ -50,10 +52,52 @@ ErrorCode errorCodeOf(const QPDFExc& error)
 Document::Document(std::shared_ptr<ByteSource> source, std::string fileName, std::string_view password)
     : m_source(std::move(source)), m_fileName(std::move(fileName))
 {
-    for (const std::string& attempt : passwordsToTry(password))
+    m_password = password;
+    if (!openSkeleton())
+        openWhole();
+}
+
+bool Document::openSkeleton()
+{
+    m_direct = DirectReader::open(m_source);
+    auto skeleton = m_direct ? m_direct->skeleton() : std::nullopt;
+    if (!skeleton) {
+        m_direct.reset();
+        return false;
+    }
+    m_skeleton = std::move(*skeleton);
+    m_pdf = QPDF::create();
+    m_pdf->setSuppressWarnings(true);
+    try {
+        m_pdf->processMemoryFile(m_fileName.c_str(), m_skeleton.data(), m_skeleton.size());
+        m_fetched = {catalog().getObjGen(), catalog().getKey("/Pages").getObjGen()};
+    } catch (const QPDFExc&) {
+        m_direct.reset();
+    }
+    if (m_pdf->anyWarnings())
+        m_direct.reset();
+    return m_direct != nullptr;
+}
+
+void Document::openWhole()
+{
+    for (const std::string& attempt : passwordsToTry(m_password))
         if (open(attempt))
             return;
     throw EngineError(ErrorCode::WrongPassword);
+}
+
+void Document::readWhole()
+{
+    if (m_direct == nullptr)
+        return;
+    std::map<QPDFObjGen, std::string> changed;
+    for (const QPDFObjGen& id : m_changed)
+        changed[id] = ObjectSerializer().write(m_pdf->getObject(id));
+    m_direct.reset();
+    openWhole();
+    for (const auto& [id, text] : changed)
+        m_pdf->replaceObject(id, QPDFObjectHandle::parse(m_pdf.get(), text));
 }
 
 Document::~Document() = default;
@@ -79,6 +123,37 @@ bool Document::open(const std::string& password)
 QPDFObjectHandle Document::catalog()
 {
     return m_pdf->getRoot();
+}
+
+QPDFObjectHandle Document::key(QPDFObjectHandle dictionary, const std::string& key)
+{
+    return dictionary.isDictionary() ? fetched(dictionary.getKey(key)) : QPDFObjectHandle::newNull();
+}
+
+QPDFObjectHandle Document::item(QPDFObjectHandle array, int index)
+{
+    const bool within = array.isArray() && index >= 0 && index < array.getArrayNItems();
+    return within ? fetched(array.getArrayItem(index)) : QPDFObjectHandle::newNull();
+}
+
+QPDFObjectHandle Document::fetched(QPDFObjectHandle object)
+{
+    if (m_direct == nullptr || !object.isIndirect() || !m_fetched.insert(object.getObjGen()).second)
+        return object;
+    const auto text = m_direct->object(object.getObjectID(), object.getGeneration());
+    if (!text)
+        throw DirectReadingEnded();
+    m_pdf->replaceObject(object.getObjGen(), QPDFObjectHandle::parse(m_pdf.get(), *text));
+    if (m_pdf->anyWarnings())
+        throw DirectReadingEnded();
+    return object;
+}
+
+QPDFObjectHandle Document::makeIndirect(const QPDFObjectHandle& object)
+{
+    QPDFObjectHandle made = m_pdf->makeIndirectObject(object);
+    m_fetched.insert(made.getObjGen());
+    return made;
 }
 
 void Document::markChanged(const QPDFObjectHandle& object)

@@ -6,6 +6,7 @@
 #include <qpdf/QPDFObjGen.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -14,12 +15,23 @@
 namespace engine {
 
 class ByteSource;
+class DirectReader;
+
+/// A direct reader had to give up: thrown by whatever reads an object. Open the document whole, and try
+/// again.
+struct DirectReadingEnded
+{};
 
 /// What a libqpdf failure is called at the library's boundary.
 ErrorCode errorCodeOf(const QPDFExc& error);
 
 /// One open document: the bytes that it was read from, libqpdf's view of them, and which of its objects were
 /// changed since. Failures are thrown as EngineError.
+///
+/// libqpdf reads the whole cross-reference of a document before anything else. So a document that allows it
+/// is opened as a skeleton into which its objects are fetched one by one as they are asked for. References
+/// must therefore be followed by key(), item() and fetched() and by nothing else: libqpdf takes an object
+/// that has not been fetched for null.
 class Document
 {
 public:
@@ -33,11 +45,25 @@ public:
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 
+    /// What is edited: the skeleton, or the document.
     QPDF& pdf() { return *m_pdf; }
+
+    /// From now on all of the document is in pdf(), with the changes so far. Handles from before are stale.
+    void readWhole();
+
     const std::shared_ptr<ByteSource>& source() const { return m_source; }
     const std::string& fileName() const { return m_fileName; }
 
     QPDFObjectHandle catalog();
+
+    /// An entry of a dictionary, null where there is none or where `dictionary` is not one.
+    QPDFObjectHandle key(QPDFObjectHandle dictionary, const std::string& key);
+    /// An element of an array, null outside it.
+    QPDFObjectHandle item(QPDFObjectHandle array, int index);
+    /// The same object, read.
+    QPDFObjectHandle fetched(QPDFObjectHandle object);
+    /// Makes a direct object an indirect one with a new number.
+    QPDFObjectHandle makeIndirect(const QPDFObjectHandle& object);
 
     /// Notes that an indirect object differs from the source. For a direct object the caller marks the
     /// indirect one that holds it.
@@ -53,12 +79,18 @@ public:
     bool openedWithPassword() const { return m_openedWithPassword; }
 
 private:
+    bool openSkeleton();
+    void openWhole();
     /// False when the password is not right.
     bool open(const std::string& password);
     void collectWarnings();
 
     std::shared_ptr<ByteSource> m_source;
     std::string m_fileName;
+    std::string m_password;
+    std::unique_ptr<DirectReader> m_direct; // null when m_pdf has the whole document
+    std::string m_skeleton;
+    std::set<QPDFObjGen> m_fetched;
     std::shared_ptr<QPDF> m_pdf;
     std::set<QPDFObjGen> m_changed;
     bool m_rebuilt = false;

@@ -26,12 +26,22 @@ std::string pathFrom(std::wstring_view fileName)
     return fileNameFromWide(fileName);
 }
 
+bool hasPages(OpenDocument& document)
+{
+    try {
+        return document.pages.hasPages();
+    } catch (const DirectReadingEnded&) {
+        document.readWhole();
+        return document.pages.hasPages();
+    }
+}
+
 int open(Session& session, std::shared_ptr<ByteSource> source, std::string fileName,
          std::wstring_view password)
 {
     auto document =
         std::make_unique<OpenDocument>(std::move(source), std::move(fileName), fileNameFromWide(password));
-    if (!document->pages.hasPages())
+    if (!hasPages(*document))
         throw EngineError(ErrorCode::NoPages);
     session.add(std::move(document));
     return 1;
@@ -41,7 +51,7 @@ int open(Session& session, std::shared_ptr<ByteSource> source, std::string fileN
 std::string versionOf(Document& document)
 {
     const std::string header = document.pdf().getPDFVersion();
-    QPDFObjectHandle stated = document.catalog().getKey("/Version");
+    QPDFObjectHandle stated = document.key(document.catalog(), "/Version");
     return stated.isName() ? std::max(header, stated.getName().substr(1)) : header;
 }
 
@@ -65,6 +75,7 @@ int LoadFromString(Session& session, std::string_view source, std::wstring_view 
 
 int SaveToFile(Session& session, std::wstring_view fileName)
 {
+    session.document().readWhole();
     writeWhole(session.document().document, pathFrom(fileName));
     return 1;
 }
@@ -77,6 +88,7 @@ int AppendToFile(Session& session, std::wstring_view fileName)
 
 std::string SaveToString(Session& session)
 {
+    session.document().readWhole();
     return wholeToString(session.document().document);
 }
 
@@ -127,14 +139,15 @@ std::wstring GetInformation(Session& session, int key)
         throw EngineError(ErrorCode::BadArgument);
     if (key == 0)
         return wideFromUtf8(versionOf(document));
-    QPDFObjectHandle information = document.pdf().getTrailer().getKey("/Info");
+    QPDFObjectHandle information = document.key(document.pdf().getTrailer(), "/Info");
     QPDFObjectHandle value =
-        information.isDictionary() ? information.getKey(informationKeys[key]) : information;
+        information.isDictionary() ? document.key(information, informationKeys[key]) : information;
     return value.isString() ? wideFromUtf8(value.getUTF8Value()) : std::wstring();
 }
 
 int IsLinearized(Session& session)
 {
+    session.document().readWhole();
     return session.document().document.pdf().isLinearized();
 }
 

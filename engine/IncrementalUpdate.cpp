@@ -143,11 +143,11 @@ void IncrementalUpdate::writeStream()
     for (const auto& [ignored, entry] : m_entries)
         content += bigEndian(1, 1) + bigEndian(entry.offset, offsetBytes) +
                    bigEndian(static_cast<std::uint64_t>(entry.generation), 2);
-    QPDFObjectHandle dictionary = newTrailer(sizeWith(number));
-    dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XRef"));
-    dictionary.replaceKey("/W", QPDFObjectHandle::parse("[1 " + std::to_string(offsetBytes) + " 2]"));
-    dictionary.replaceKey("/Index", index);
-    dictionary.replaceKey("/Length", QPDFObjectHandle::newInteger(static_cast<long long>(content.size())));
+    auto dictionary = newTrailer(sizeWith(number));
+    dictionary["/Type"] = QPDFObjectHandle::newName("/XRef");
+    dictionary["/W"] = QPDFObjectHandle::parse("[1 " + std::to_string(offsetBytes) + " 2]");
+    dictionary["/Index"] = index;
+    dictionary["/Length"] = QPDFObjectHandle::newInteger(static_cast<long long>(content.size()));
     m_bytes += std::to_string(number) + " 0 obj\n" + ObjectSerializer().write(dictionary) + "\nstream\n" +
                content + "\nendstream\nendobj";
     writeEnd(start);
@@ -158,18 +158,16 @@ void IncrementalUpdate::writeEnd(std::uint64_t sectionOffset)
     m_bytes += "\nstartxref\n" + std::to_string(sectionOffset) + "\n%%EOF\n";
 }
 
-QPDFObjectHandle IncrementalUpdate::newTrailer(int size) const
+std::map<std::string, QPDFObjectHandle> IncrementalUpdate::newTrailer(int size) const
 {
-    QPDFObjectHandle trailer = QPDFObjectHandle::newDictionary();
-    for (auto& [key, value] : QPDFObjectHandle(m_crossReference.trailer()).getDictAsMap())
-        if (std::find(std::begin(sectionKeys), std::end(sectionKeys), key) == std::end(sectionKeys))
-            trailer.replaceKey(key, value);
-    trailer.replaceKey("/Size", QPDFObjectHandle::newInteger(size));
-    const auto previous = static_cast<long long>(m_crossReference.newestOffset());
-    trailer.replaceKey("/Prev", QPDFObjectHandle::newInteger(previous));
-    QPDFObjectHandle identifier = nextIdentifier();
-    if (!identifier.isNull())
-        trailer.replaceKey("/ID", identifier);
+    auto trailer = QPDFObjectHandle(m_crossReference.trailer()).getDictAsMap();
+    for (const std::string_view key : sectionKeys)
+        trailer.erase(std::string(key));
+    trailer["/Size"] = QPDFObjectHandle::newInteger(size);
+    trailer["/Prev"] = QPDFObjectHandle::newInteger(static_cast<long long>(m_crossReference.newestOffset()));
+    const QPDFObjectHandle identifier = nextIdentifier();
+    if (!QPDFObjectHandle(identifier).isNull())
+        trailer["/ID"] = identifier;
     return trailer;
 }
 

@@ -38,7 +38,7 @@ private:
     void writeTable();
     void writeStream();
     void writeEnd(std::uint64_t sectionOffset);
-    QPDFObjectHandle newTrailer(int size) const;
+    std::map<std::string, QPDFObjectHandle> newTrailer(int size) const;
     QPDFObjectHandle nextIdentifier() const;
     std::uint64_t nextOffset() const;
     int sizeWith(int objectNumber) const;

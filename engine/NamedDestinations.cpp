@@ -1,5 +1,7 @@
 #include "engine/NamedDestinations.h"
 
+#include "engine/Document.h"
+
 #include <set>
 #include <string>
 #include <vector>
@@ -8,31 +10,32 @@ namespace engine {
 
 namespace {
 
-QPDFObjectHandle valueInLeaf(QPDFObjectHandle node, const std::string& key)
+QPDFObjectHandle valueInLeaf(Document& document, const QPDFObjectHandle& node, const std::string& key)
 {
-    QPDFObjectHandle names = node.getKey("/Names");
+    QPDFObjectHandle names = document.key(node, "/Names");
     const int size = names.isArray() ? names.getArrayNItems() : 0;
     for (int index = 0; index + 1 < size; index += 2) {
-        QPDFObjectHandle name = names.getArrayItem(index);
+        QPDFObjectHandle name = document.item(names, index);
         if (name.isString() && name.getStringValue() == key)
-            return names.getArrayItem(index + 1);
+            return document.item(names, index + 1);
     }
     return QPDFObjectHandle::newNull();
 }
 
-bool limitsHold(QPDFObjectHandle node, const std::string& key)
+bool limitsHold(Document& document, QPDFObjectHandle node, const std::string& key)
 {
-    QPDFObjectHandle limits = node.isDictionary() ? node.getKey("/Limits") : node;
+    QPDFObjectHandle limits = node.isDictionary() ? document.key(node, "/Limits") : node;
     if (!limits.isArray() || limits.getArrayNItems() != 2)
         return false;
-    QPDFObjectHandle first = limits.getArrayItem(0);
-    QPDFObjectHandle last = limits.getArrayItem(1);
+    QPDFObjectHandle first = document.item(limits, 0);
+    QPDFObjectHandle last = document.item(limits, 1);
     return first.isString() && last.isString() && first.getStringValue() <= key &&
            key <= last.getStringValue();
 }
 
 /// Searches a name tree node by node, each once: those whose limits hold the key, or all of them.
-QPDFObjectHandle searchTree(QPDFObjectHandle root, const std::string& key, bool byLimits)
+QPDFObjectHandle searchTree(Document& document, const QPDFObjectHandle& root, const std::string& key,
+                            bool byLimits)
 {
     std::vector<QPDFObjectHandle> waiting{root};
     std::set<QPDFObjGen> seen;
@@ -41,40 +44,40 @@ QPDFObjectHandle searchTree(QPDFObjectHandle root, const std::string& key, bool 
         waiting.pop_back();
         if (!node.isDictionary() || (node.isIndirect() && !seen.insert(node.getObjGen()).second))
             continue;
-        QPDFObjectHandle value = valueInLeaf(node, key);
+        QPDFObjectHandle value = valueInLeaf(document, node, key);
         if (!value.isNull())
             return value;
-        QPDFObjectHandle kids = node.getKey("/Kids");
+        QPDFObjectHandle kids = document.key(node, "/Kids");
         for (int kid = kids.isArray() ? kids.getArrayNItems() : 0; kid-- > 0;)
-            if (!byLimits || limitsHold(kids.getArrayItem(kid), key))
-                waiting.push_back(kids.getArrayItem(kid));
+            if (!byLimits || limitsHold(document, document.item(kids, kid), key))
+                waiting.push_back(document.item(kids, kid));
     }
     return QPDFObjectHandle::newNull();
 }
 
-QPDFObjectHandle inNameTree(QPDFObjectHandle catalog, const std::string& key)
+QPDFObjectHandle inNameTree(Document& document, const std::string& key)
 {
-    QPDFObjectHandle names = catalog.getKey("/Names");
-    QPDFObjectHandle root = names.isDictionary() ? names.getKey("/Dests") : names;
-    QPDFObjectHandle value = searchTree(root, key, true);
-    return value.isNull() ? searchTree(root, key, false) : value;
+    QPDFObjectHandle names = document.key(document.catalog(), "/Names");
+    QPDFObjectHandle root = names.isDictionary() ? document.key(names, "/Dests") : names;
+    QPDFObjectHandle value = searchTree(document, root, key, true);
+    return value.isNull() ? searchTree(document, root, key, false) : value;
 }
 
-QPDFObjectHandle inDictionary(QPDFObjectHandle catalog, const std::string& key)
+QPDFObjectHandle inDictionary(Document& document, const std::string& key)
 {
-    QPDFObjectHandle destinations = catalog.getKey("/Dests");
-    return destinations.isDictionary() ? destinations.getKey("/" + key) : QPDFObjectHandle::newNull();
+    QPDFObjectHandle destinations = document.key(document.catalog(), "/Dests");
+    return destinations.isDictionary() ? document.key(destinations, "/" + key) : QPDFObjectHandle::newNull();
 }
 
 } // namespace
 
-QPDFObjectHandle findNamedDestination(QPDFObjectHandle catalog, QPDFObjectHandle name)
+QPDFObjectHandle findNamedDestination(Document& document, QPDFObjectHandle name)
 {
     const std::string key = name.isName() ? name.getName().substr(1) : name.getStringValue();
-    QPDFObjectHandle value = name.isName() ? inDictionary(catalog, key) : inNameTree(catalog, key);
+    QPDFObjectHandle value = name.isName() ? inDictionary(document, key) : inNameTree(document, key);
     if (!value.isNull())
         return value;
-    return name.isName() ? inNameTree(catalog, key) : inDictionary(catalog, key);
+    return name.isName() ? inNameTree(document, key) : inDictionary(document, key);
 }
 
 } // namespace engine

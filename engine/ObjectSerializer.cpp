@@ -3,8 +3,6 @@
 #include "engine/EngineError.h"
 #include "engine/StringCipher.h"
 
-#include <map>
-
 namespace engine {
 
 namespace {
@@ -31,6 +29,13 @@ std::string ObjectSerializer::write(QPDFObjectHandle value, QPDFObjGen owner)
     return m_text;
 }
 
+std::string ObjectSerializer::write(const std::map<std::string, QPDFObjectHandle>& entries)
+{
+    m_text.clear();
+    writeDictionary(entries, 0);
+    return m_text;
+}
+
 void ObjectSerializer::writeValue(QPDFObjectHandle value, int depth)
 {
     if (!value.isIndirect()) {
@@ -49,7 +54,7 @@ void ObjectSerializer::writeDirect(QPDFObjectHandle value, int depth)
     case ::ot_array:
         return writeArray(value, depth);
     case ::ot_dictionary:
-        return writeDictionary(value, depth);
+        return writeDictionary(value.getDictAsMap(), depth);
     case ::ot_string:
         return writeString(value);
     case ::ot_null:
@@ -75,9 +80,8 @@ void ObjectSerializer::writeArray(QPDFObjectHandle array, int depth)
     m_text += " ]";
 }
 
-void ObjectSerializer::writeDictionary(QPDFObjectHandle dictionary, int depth)
+void ObjectSerializer::writeDictionary(const std::map<std::string, QPDFObjectHandle>& entries, int depth)
 {
-    const auto entries = dictionary.getDictAsMap();
     const bool signature = isSignature(entries);
     m_text += "<<";
     for (auto [key, value] : entries) {

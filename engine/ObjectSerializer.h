@@ -3,6 +3,7 @@
 #include <qpdf/QPDFObjGen.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,9 @@ public:
     ///     arrays and dictionaries nested more deeply than libqpdf reads.
     std::string write(QPDFObjectHandle value, QPDFObjGen owner = {});
 
+    /// A dictionary with these entries, which belongs to no object: its strings are not encrypted.
+    std::string write(const std::map<std::string, QPDFObjectHandle>& entries);
+
     /// The references met by all calls of write(), in that order.
     const std::vector<QPDFObjGen>& references() const { return m_references; }
 
@@ -29,7 +33,7 @@ private:
     void writeValue(QPDFObjectHandle value, int depth);
     void writeDirect(QPDFObjectHandle value, int depth);
     void writeArray(QPDFObjectHandle array, int depth);
-    void writeDictionary(QPDFObjectHandle dictionary, int depth);
+    void writeDictionary(const std::map<std::string, QPDFObjectHandle>& entries, int depth);
     void writeString(QPDFObjectHandle string);
 
     const StringCipher* m_cipher;

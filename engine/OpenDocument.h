@@ -12,6 +12,13 @@ struct OpenDocument
         : document(std::move(source), std::move(fileName), password), pages(document)
     {}
 
+    /// Opens the document whole when reading it piece by piece came to its end.
+    void readWhole()
+    {
+        document.readWhole();
+        pages.forget();
+    }
+
     Document document;
     PageTree pages;
     int selectedPage = 1;

@@ -18,13 +18,15 @@ const std::array boxKeys{"", "/MediaBox", "/CropBox", "/BleedBox", "/TrimBox", "
 // What viewers take for a page that states no size.
 const QPDFObjectHandle::Rectangle letterSize(0, 0, 612, 792);
 
-bool isBox(QPDFObjectHandle object)
+bool isBox(Document& document, QPDFObjectHandle object)
 {
-    if (!object.isRectangle())
+    if (!object.isArray() || object.getArrayNItems() != 4)
         return false;
-    for (int index = 0; index < 4; ++index)
-        if (!std::isfinite(object.getArrayItem(index).getNumericValue()))
+    for (int index = 0; index < 4; ++index) {
+        QPDFObjectHandle corner = document.item(object, index);
+        if (!corner.isNumber() || !std::isfinite(corner.getNumericValue()))
             return false;
+    }
     return true;
 }
 
@@ -36,16 +38,16 @@ QPDFObjectHandle::Rectangle normalised(QPDFObjectHandle box)
 }
 
 /// The media and crop boxes are inherited; the crop box is by default the media box, the others the crop box.
-QPDFObjectHandle::Rectangle pageBox(const PagePath& path, int box)
+QPDFObjectHandle::Rectangle pageBox(Document& document, const PagePath& path, int box)
 {
     const bool inherits = box == Media || box == Crop;
-    QPDFObjectHandle own = QPDFObjectHandle(path.page).getKey(boxKeys[box]);
-    QPDFObjectHandle stored = inherits ? path.inherited(boxKeys[box], isBox) : own;
-    if (isBox(stored))
+    QPDFObjectHandle own = document.key(path.page, boxKeys[box]);
+    QPDFObjectHandle stored = inherits ? path.inherited(document, boxKeys[box], isBox) : own;
+    if (isBox(document, stored))
         return normalised(stored);
     if (box == Media)
         return letterSize;
-    return pageBox(path, box == Crop ? Media : Crop);
+    return pageBox(document, path, box == Crop ? Media : Crop);
 }
 
 const PagePath& selectedPage(Session& session)
@@ -74,7 +76,7 @@ double dimensionOf(const QPDFObjectHandle::Rectangle& box, int dimension)
     }
 }
 
-bool isInteger(QPDFObjectHandle object)
+bool isInteger(Document&, QPDFObjectHandle object)
 {
     return object.isInteger();
 }
@@ -104,7 +106,7 @@ double GetPageBox(Session& session, int box, int dimension)
     const PagePath& path = selectedPage(session);
     if (box < Media || box > Art)
         throw EngineError(ErrorCode::BadArgument);
-    return dimensionOf(pageBox(path, box), dimension);
+    return dimensionOf(pageBox(session.document().document, path, box), dimension);
 }
 
 double PageWidth(Session& session)
@@ -119,7 +121,8 @@ double PageHeight(Session& session)
 
 int PageRotation(Session& session)
 {
-    QPDFObjectHandle rotate = selectedPage(session).inherited("/Rotate", isInteger);
+    QPDFObjectHandle rotate =
+        selectedPage(session).inherited(session.document().document, "/Rotate", isInteger);
     const long long degrees = rotate.isInteger() ? rotate.getIntValue() % 360 : 0;
     return degrees % 90 == 0 ? static_cast<int>((degrees + 360) % 360) : 0;
 }

@@ -17,31 +17,31 @@ const int smallTree = 256;
 
 enum class Kind { Page, Node, Neither };
 
-Kind kindOf(QPDFObjectHandle object)
+Kind kindOf(Document& document, QPDFObjectHandle object)
 {
     if (!object.isDictionary())
         return Kind::Neither;
-    if (object.getKey("/Kids").isArray())
+    if (document.key(object, "/Kids").isArray())
         return Kind::Node;
-    return object.getKey("/Type").isNameAndEquals("/Pages") ? Kind::Neither : Kind::Page;
+    return document.key(object, "/Type").isNameAndEquals("/Pages") ? Kind::Neither : Kind::Page;
 }
 
 /// /Count where it can be right.
-std::optional<int> statedCount(QPDFObjectHandle node)
+std::optional<int> statedCount(Document& document, const QPDFObjectHandle& node)
 {
-    QPDFObjectHandle count = node.getKey("/Count");
+    QPDFObjectHandle count = document.key(node, "/Count");
     if (!count.isInteger() || count.getIntValue() < 0 || count.getIntValue() > INT_MAX)
         return std::nullopt;
     return static_cast<int>(count.getIntValue());
 }
 
-std::optional<int> pagesUnder(QPDFObjectHandle kid)
+std::optional<int> pagesUnder(Document& document, const QPDFObjectHandle& kid)
 {
-    switch (kindOf(kid)) {
+    switch (kindOf(document, kid)) {
     case Kind::Page:
         return 1;
     case Kind::Node:
-        return statedCount(kid);
+        return statedCount(document, kid);
     case Kind::Neither:
         break;
     }
@@ -54,15 +54,15 @@ std::optional<int> pagesUnder(QPDFObjectHandle kid)
 class KidCounts
 {
 public:
-    static std::optional<KidCounts> of(QPDFObjectHandle node)
+    static std::optional<KidCounts> of(Document& document, QPDFObjectHandle node)
     {
         KidCounts counts;
-        QPDFObjectHandle kids = node.getKey("/Kids");
-        const std::optional<int> total = statedCount(node);
+        QPDFObjectHandle kids = document.key(node, "/Kids");
+        const std::optional<int> total = statedCount(document, node);
         counts.m_kids = kids.getArrayNItems();
         if (total == counts.m_kids)
             return counts;
-        if (!total || !counts.addUp(kids, *total))
+        if (!total || !counts.addUp(document, kids, *total))
             return std::nullopt;
         return counts;
     }
@@ -79,11 +79,11 @@ public:
     }
 
 private:
-    bool addUp(QPDFObjectHandle kids, int total)
+    bool addUp(Document& document, const QPDFObjectHandle& kids, int total)
     {
         int sum = 0;
         for (int kid = 0; kid < m_kids; ++kid) {
-            const std::optional<int> pages = pagesUnder(kids.getArrayItem(kid));
+            const std::optional<int> pages = pagesUnder(document, document.item(kids, kid));
             if (!pages || *pages > total - sum)
                 return false;
             m_before.push_back(sum);
@@ -107,14 +107,15 @@ int placeIn(QPDFObjectHandle kids, QPDFObjGen object)
 
 } // namespace
 
-QPDFObjectHandle PagePath::inherited(const std::string& key, bool (*wellFormed)(QPDFObjectHandle)) const
+QPDFObjectHandle PagePath::inherited(Document& document, const std::string& key,
+                                     bool (*wellFormed)(Document&, QPDFObjectHandle)) const
 {
-    QPDFObjectHandle own = QPDFObjectHandle(page).getKey(key);
-    if (wellFormed(own))
+    QPDFObjectHandle own = document.key(page, key);
+    if (wellFormed(document, own))
         return own;
     for (auto node = nodes.rbegin(); node != nodes.rend(); ++node) {
-        QPDFObjectHandle value = QPDFObjectHandle(*node).getKey(key);
-        if (wellFormed(value))
+        QPDFObjectHandle value = document.key(*node, key);
+        if (wellFormed(document, value))
             return value;
     }
     return QPDFObjectHandle::newNull();
@@ -122,7 +123,15 @@ QPDFObjectHandle PagePath::inherited(const std::string& key, bool (*wellFormed)(
 
 QPDFObjectHandle PageTree::root()
 {
-    return m_document.catalog().getKey("/Pages");
+    return m_document.key(m_document.catalog(), "/Pages");
+}
+
+void PageTree::forget()
+{
+    m_walked = false;
+    m_nodes.clear();
+    m_leaves.clear();
+    m_lastNumber = 0;
 }
 
 bool PageTree::hasPages()
@@ -143,10 +152,10 @@ int PageTree::pageCount()
 
 std::optional<int> PageTree::trustedCount()
 {
-    if (m_walked || kindOf(root()) != Kind::Node)
+    if (m_walked || kindOf(m_document, root()) != Kind::Node)
         return std::nullopt;
-    const std::optional<int> count = statedCount(root());
-    const bool fits = count && *count > smallTree && KidCounts::of(root());
+    const std::optional<int> count = statedCount(m_document, root());
+    const bool fits = count && *count > smallTree && KidCounts::of(m_document, root());
     return fits ? count : std::nullopt;
 }
 
@@ -174,19 +183,19 @@ std::optional<PagePath> PageTree::descend(int number)
     std::set<QPDFObjGen> seen;
     QPDFObjectHandle node = root();
     while (true) {
-        const std::optional<KidCounts> counts = KidCounts::of(node);
+        const std::optional<KidCounts> counts = KidCounts::of(m_document, node);
         if (!counts || !seen.insert(node.getObjGen()).second)
             return std::nullopt;
         path.nodes.push_back(node);
         path.kid = counts->kidWith(number);
         number -= counts->pagesBefore(path.kid);
-        node = node.getKey("/Kids").getArrayItem(path.kid);
-        const Kind kind = kindOf(node);
+        node = m_document.item(m_document.key(node, "/Kids"), path.kid);
+        const Kind kind = kindOf(m_document, node);
         if (kind == Kind::Page && number == 1) {
             path.page = node;
             return path;
         }
-        if (kind != Kind::Node || number > statedCount(node))
+        if (kind != Kind::Node || number > statedCount(m_document, node))
             return std::nullopt;
     }
 }
@@ -210,12 +219,12 @@ void PageTree::walk()
         if (node.isIndirect() && !seen.insert(node.getObjGen()).second)
             return;
         m_nodes.push_back({node, parent});
-        QPDFObjectHandle kids = node.getKey("/Kids");
+        QPDFObjectHandle kids = m_document.key(node, "/Kids");
         steps.push_back({static_cast<int>(m_nodes.size()) - 1, kids, kids.getArrayNItems()});
     };
-    if (root().isDictionaryOfType("/Page") && kindOf(root()) == Kind::Page)
+    if (m_document.key(root(), "/Type").isNameAndEquals("/Page") && kindOf(m_document, root()) == Kind::Page)
         m_leaves.push_back({-1, 0});
-    else if (kindOf(root()) == Kind::Node)
+    else if (kindOf(m_document, root()) == Kind::Node)
         enter(root(), -1);
     while (!steps.empty()) {
         if (steps.back().next == steps.back().size) {
@@ -224,8 +233,8 @@ void PageTree::walk()
         }
         Step& step = steps.back();
         const int kid = step.next++;
-        QPDFObjectHandle object = step.kids.getArrayItem(kid);
-        const Kind kind = kindOf(object);
+        QPDFObjectHandle object = m_document.item(step.kids, kid);
+        const Kind kind = kindOf(m_document, object);
         if (kind == Kind::Page)
             m_leaves.push_back({step.node, kid});
         else if (kind == Kind::Node)
@@ -236,8 +245,8 @@ void PageTree::walk()
 QPDFObjectHandle PageTree::walkedPage(const Leaf& leaf) const
 {
     if (leaf.node < 0)
-        return m_document.catalog().getKey("/Pages");
-    return QPDFObjectHandle(m_nodes[leaf.node].dictionary).getKey("/Kids").getArrayItem(leaf.kid);
+        return m_document.key(m_document.catalog(), "/Pages");
+    return m_document.item(m_document.key(m_nodes[leaf.node].dictionary, "/Kids"), leaf.kid);
 }
 
 PagePath PageTree::walkedPath(const Leaf& leaf) const
@@ -270,14 +279,14 @@ std::optional<int> PageTree::climb(QPDFObjectHandle page)
     std::set<QPDFObjGen> seen;
     const QPDFObjGen top = root().getObjGen();
     int number = 1;
-    for (QPDFObjectHandle node = page; node.getObjGen() != top;) {
+    for (QPDFObjectHandle node = m_document.fetched(page); node.getObjGen() != top;) {
         if (!node.isDictionary() || !seen.insert(node.getObjGen()).second)
             return std::nullopt;
-        QPDFObjectHandle parent = node.getKey("/Parent");
-        if (kindOf(parent) != Kind::Node)
+        QPDFObjectHandle parent = m_document.key(node, "/Parent");
+        if (kindOf(m_document, parent) != Kind::Node)
             return std::nullopt;
-        const int kid = placeIn(parent.getKey("/Kids"), node.getObjGen());
-        const std::optional<KidCounts> counts = KidCounts::of(parent);
+        const int kid = placeIn(m_document.key(parent, "/Kids"), node.getObjGen());
+        const std::optional<KidCounts> counts = KidCounts::of(m_document, parent);
         if (kid < 0 || !counts || counts->pagesBefore(kid) > INT_MAX - number)
             return std::nullopt;
         number += counts->pagesBefore(kid);
@@ -290,7 +299,7 @@ std::optional<int> PageTree::climb(QPDFObjectHandle page)
 QPDFObjectHandle PageTree::holderOfKids(const PagePath& path)
 {
     for (auto node = path.nodes.rbegin(); node != path.nodes.rend(); ++node) {
-        QPDFObjectHandle kids = QPDFObjectHandle(*node).getKey("/Kids");
+        QPDFObjectHandle kids = m_document.key(*node, "/Kids");
         if (kids.isIndirect())
             return kids;
         if (node->isIndirect())
@@ -304,12 +313,12 @@ QPDFObjectHandle PageTree::reference(int number)
     const PagePath& path = page(number);
     if (path.page.isIndirect())
         return path.page;
-    QPDFObjectHandle made = m_document.pdf().makeIndirectObject(path.page);
+    QPDFObjectHandle made = m_document.makeIndirect(path.page);
     if (path.nodes.empty()) {
         m_document.catalog().replaceKey("/Pages", made);
         m_document.markChanged(m_document.catalog());
     } else {
-        QPDFObjectHandle(path.nodes.back()).getKey("/Kids").setArrayItem(path.kid, made);
+        m_document.key(path.nodes.back(), "/Kids").setArrayItem(path.kid, made);
         m_document.markChanged(holderOfKids(path));
     }
     m_document.markChanged(made);

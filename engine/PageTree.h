@@ -20,7 +20,8 @@ struct PagePath
 
     /// The value of an inheritable attribute, taken from the way down to the page and not from /Parent, which
     /// may lead elsewhere. \param wellFormed says whether a value counts; others are as good as absent.
-    QPDFObjectHandle inherited(const std::string& key, bool (*wellFormed)(QPDFObjectHandle)) const;
+    QPDFObjectHandle inherited(Document& document, const std::string& key,
+                               bool (*wellFormed)(Document&, QPDFObjectHandle)) const;
 };
 
 /// The pages of a document, numbered from 1, without reading those that nobody asks for.
@@ -33,6 +34,9 @@ class PageTree
 {
 public:
     explicit PageTree(Document& document) : m_document(document) {}
+
+    /// Forgets what was read; the document is read anew.
+    void forget();
 
     /// At least one, and the first can be reached.
     bool hasPages();

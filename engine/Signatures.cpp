@@ -12,6 +12,8 @@ namespace {
 class SignatureCounter
 {
 public:
+    explicit SignatureCounter(Document& document) : m_document(document) {}
+
     void add(QPDFObjectHandle value)
     {
         if (value.isDictionary() && (!value.isIndirect() || m_counted.insert(value.getObjGen()).second))
@@ -28,12 +30,12 @@ public:
             waiting.pop_back();
             if (!field.isDictionary() || (field.isIndirect() && !m_fields.insert(field.getObjGen()).second))
                 continue;
-            QPDFObjectHandle type = field.getKey("/FT"); // inherited by the kids
+            QPDFObjectHandle type = m_document.key(field, "/FT"); // inherited by the kids
             if (type.isName())
                 isSignature = type.isNameAndEquals("/Sig");
             if (isSignature)
-                add(field.getKey("/V"));
-            push(waiting, field.getKey("/Kids"), isSignature);
+                add(m_document.key(field, "/V"));
+            push(waiting, m_document.key(field, "/Kids"), isSignature);
         }
     }
 
@@ -46,12 +48,13 @@ private:
         bool isSignature;
     };
 
-    static void push(std::vector<Field>& waiting, QPDFObjectHandle kids, bool isSignature)
+    void push(std::vector<Field>& waiting, QPDFObjectHandle kids, bool isSignature)
     {
         for (int kid = kids.isArray() ? kids.getArrayNItems() : 0; kid-- > 0;)
-            waiting.push_back({kids.getArrayItem(kid), isSignature});
+            waiting.push_back({m_document.item(kids, kid), isSignature});
     }
 
+    Document& m_document;
     int m_count = 0;
     std::set<QPDFObjGen> m_counted;
     std::set<QPDFObjGen> m_fields;
@@ -61,14 +64,14 @@ private:
 
 int countSignatures(Document& document)
 {
-    SignatureCounter counter;
-    QPDFObjectHandle form = document.catalog().getKey("/AcroForm");
+    SignatureCounter counter(document);
+    QPDFObjectHandle form = document.key(document.catalog(), "/AcroForm");
     if (form.isDictionary())
-        counter.addFields(form.getKey("/Fields"));
-    QPDFObjectHandle permissions = document.catalog().getKey("/Perms");
+        counter.addFields(document.key(form, "/Fields"));
+    QPDFObjectHandle permissions = document.key(document.catalog(), "/Perms");
     if (permissions.isDictionary())
         for (const char* kind : {"/DocMDP", "/UR", "/UR3"})
-            counter.add(permissions.getKey(kind));
+            counter.add(document.key(permissions, kind));
     return counter.count();
 }
 

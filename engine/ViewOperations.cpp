@@ -41,22 +41,22 @@ Stored storedName(QPDFObjectHandle entry, const auto& names, int absent)
     return {absent, !entry.isNull()};
 }
 
-Stored storedPageMode(QPDFObjectHandle catalog)
+Stored storedPageMode(Document& document)
 {
-    return storedName(catalog.getKey("/PageMode"), pageModes, 0);
+    return storedName(document.key(document.catalog(), "/PageMode"), pageModes, 0);
 }
 
-Stored storedPageLayout(QPDFObjectHandle catalog)
+Stored storedPageLayout(Document& document)
 {
-    return storedName(catalog.getKey("/PageLayout"), pageLayouts, noLayout);
+    return storedName(document.key(document.catalog(), "/PageLayout"), pageLayouts, noLayout);
 }
 
-Stored storedPreference(QPDFObjectHandle catalog, int option)
+Stored storedPreference(Document& document, int option)
 {
-    QPDFObjectHandle dictionary = catalog.getKey("/ViewerPreferences");
+    QPDFObjectHandle dictionary = document.key(document.catalog(), "/ViewerPreferences");
     if (!dictionary.isDictionary())
         return {0, !dictionary.isNull()};
-    QPDFObjectHandle entry = dictionary.getKey(preferences[option]);
+    QPDFObjectHandle entry = document.key(dictionary, preferences[option]);
     if (option != nonFullScreenOption)
         return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{0, !entry.isNull()};
     const Stored mode = storedName(entry, pageModes, 0);
@@ -83,7 +83,7 @@ void setCatalogEntry(Document& document, const char* key, const QPDFObjectHandle
 /// The dictionary that a viewer preference is written to, marked as changed.
 QPDFObjectHandle changedPreferences(Document& document)
 {
-    QPDFObjectHandle dictionary = document.catalog().getKey("/ViewerPreferences");
+    QPDFObjectHandle dictionary = document.key(document.catalog(), "/ViewerPreferences");
     if (!dictionary.isDictionary()) {
         dictionary = QPDFObjectHandle::newDictionary();
         document.catalog().replaceKey("/ViewerPreferences", dictionary);
@@ -96,28 +96,28 @@ QPDFObjectHandle changedPreferences(Document& document)
 
 int GetPageMode(Session& session)
 {
-    return storedPageMode(session.document().document.catalog()).value;
+    return storedPageMode(session.document().document).value;
 }
 
 int SetPageMode(Session& session, int mode)
 {
     Document& document = session.document().document;
     requireWithin(mode, 0, pageModes.size() - 1);
-    if (!storedPageMode(document.catalog()).is(mode))
+    if (!storedPageMode(document).is(mode))
         setCatalogEntry(document, "/PageMode", QPDFObjectHandle::newName(pageModes[mode]));
     return 1;
 }
 
 int GetPageLayout(Session& session)
 {
-    return storedPageLayout(session.document().document.catalog()).value;
+    return storedPageLayout(session.document().document).value;
 }
 
 int SetPageLayout(Session& session, int layout)
 {
     Document& document = session.document().document;
     requireWithin(layout, 0, noLayout);
-    if (!storedPageLayout(document.catalog()).is(layout))
+    if (!storedPageLayout(document).is(layout))
         setCatalogEntry(document, "/PageLayout",
                         layout == noLayout ? QPDFObjectHandle::newNull()
                                            : QPDFObjectHandle::newName(pageLayouts[layout]));
@@ -126,9 +126,9 @@ int SetPageLayout(Session& session, int layout)
 
 int GetViewerPreferences(Session& session, int option)
 {
-    QPDFObjectHandle catalog = session.document().document.catalog();
+    Document& document = session.document().document;
     requireWithin(option, 1, nonFullScreenOption);
-    return storedPreference(catalog, option).value;
+    return storedPreference(document, option).value;
 }
 
 int SetViewerPreferences(Session& session, int option, int value)
@@ -138,7 +138,7 @@ int SetViewerPreferences(Session& session, int option, int value)
     const bool isMode = option == nonFullScreenOption;
     requireWithin(value, 0, isMode ? pageModes.size() - 1 : 1);
     require(!isMode || value != fullScreen, ErrorCode::BadArgument);
-    if (!storedPreference(document.catalog(), option).is(value))
+    if (!storedPreference(document, option).is(value))
         changedPreferences(document).replaceKey(preferences[option],
                                                 isMode ? QPDFObjectHandle::newName(pageModes[value])
                                                        : QPDFObjectHandle::newBool(value != 0));
@@ -149,7 +149,7 @@ int GetOpenActionDestination(Session& session)
 {
     OpenDocument& open = session.document();
     const auto target = openActionTarget(open.document);
-    const auto destination = target ? readDestination(*target, open.pages) : std::nullopt;
+    const auto destination = target ? readDestination(open.document, *target, open.pages) : std::nullopt;
     return destination ? session.destinationId(*destination) : 0;
 }
 
@@ -164,7 +164,7 @@ int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destT
     const QPDFObjectHandle target = open.pages.page(page).page;
     QPDFObjectHandle operands = destinationOperands(destType, zoom, left, top);
     const auto present = openActionTarget(open.document);
-    if (present && isWrittenAs(present->array, target, operands))
+    if (present && isWrittenAs(open.document, present->array, target, operands))
         return 1;
     operands.insertItem(0, open.pages.reference(page));
     setCatalogEntry(open.document, "/OpenAction", operands);
@@ -174,7 +174,7 @@ int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destT
 int RemoveOpenAction(Session& session)
 {
     Document& document = session.document().document;
-    if (document.catalog().hasKey("/OpenAction"))
+    if (!document.key(document.catalog(), "/OpenAction").isNull())
         setCatalogEntry(document, "/OpenAction", QPDFObjectHandle::newNull());
     return 1;
 }

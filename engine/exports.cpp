@@ -154,6 +154,19 @@ struct Entry<Result(Parameters...)>
 {
     using Returned = typename Crossing<Result>::Result;
 
+    /// A direct reader may have to give up at any object.
+    template <class... Arguments>
+    static Result run(typename SlotFor<Result(Parameters...)>::Pointer slot, Session& session,
+                      Arguments... arguments)
+    {
+        try {
+            return slot(session, arguments...);
+        } catch (const DirectReadingEnded&) {
+            session.document().readWhole();
+            return slot(session, arguments...);
+        }
+    }
+
     static Returned call(typename SlotFor<Result(Parameters...)>::Pointer slot, int instance,
                          typename Crossing<Parameters>::Argument... arguments) noexcept
     {
@@ -162,8 +175,8 @@ struct Entry<Result(Parameters...)>
             return Returned();
         const Call running(*session);
         try {
-            return Crossing<Result>::out(*session,
-                                         slot(*session, Crossing<Parameters>::in(*session, arguments)...));
+            return Crossing<Result>::out(
+                *session, run(slot, *session, Crossing<Parameters>::in(*session, arguments)...));
         } catch (...) {
             session->setLastError(codeOfCurrentException());
             return Crossing<Result>::out(*session, Result());

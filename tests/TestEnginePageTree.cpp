@@ -211,8 +211,8 @@ private slots:
         QCOMPARE(count, 1 + pagesPerLevel * levels);
         QCOMPARE(opened.objectOfPage(count), QByteArray::number(last));
         QCOMPARE(opened.pages.numberOf(opened.document.pdf().getObjectByID(last, 0)), count);
-        const auto isInteger = [](QPDFObjectHandle value) { return value.isInteger(); };
-        QCOMPARE(opened.pages.page(count).inherited("/Rotate", isInteger).getIntValueAsInt(), 90);
+        const auto isInteger = [](Document&, QPDFObjectHandle value) { return value.isInteger(); };
+        QCOMPARE(opened.pages.page(count).inherited(opened.document, "/Rotate", isInteger).getIntValueAsInt(), 90);
     }
 
     void inheritsByTheWayDownAndNotByParent()
@@ -221,10 +221,10 @@ private slots:
                             {3, node(1, "4 0 R", "/Rotate 90")},
                             {4, "<< /Type /Page /Parent 2 0 R >>"},
                             {5, "<< /Type /Page /Parent 5 0 R /Rotate /Wrong >>"}}));
-        const auto isInteger = [](QPDFObjectHandle value) { return value.isInteger(); };
-        QCOMPARE(opened.pages.page(1).inherited("/Rotate", isInteger).getIntValueAsInt(), 90);
-        QCOMPARE(opened.pages.page(2).inherited("/Rotate", isInteger).getIntValueAsInt(), 180);
-        QVERIFY(opened.pages.page(2).inherited("/MediaBox", isInteger).isNull());
+        const auto isInteger = [](Document&, QPDFObjectHandle value) { return value.isInteger(); };
+        QCOMPARE(opened.pages.page(1).inherited(opened.document, "/Rotate", isInteger).getIntValueAsInt(), 90);
+        QCOMPARE(opened.pages.page(2).inherited(opened.document, "/Rotate", isInteger).getIntValueAsInt(), 180);
+        QVERIFY(opened.pages.page(2).inherited(opened.document, "/MediaBox", isInteger).isNull());
     }
 
     void makesADirectPageAnObject_data()

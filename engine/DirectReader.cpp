@@ -1,0 +1,554 @@
+#include "engine/DirectReader.h"
+
+#include "engine/SyntaxScanner.h"
+
+#include <zlib.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <set>
+
+namespace engine {
+
+namespace {
+
+const std::size_t tailSize = 1024;
+const std::size_t firstWindow = 1024;
+const std::size_t largestWindow = 4 << 20;
+const std::size_t largestDecoded = 64 << 20;
+const std::size_t mostContainerBytes = 32 << 20;
+const std::size_t mostSections = 256;
+const std::size_t mostRuns = 100'000;
+const std::int64_t entriesAtOnce = 4096;
+const std::int64_t entrySize = 20; // of a table
+const std::size_t longestObjectHeader = 40;
+
+// Of a trailer these describe its section; all other entries belong to the document.
+const std::string_view sectionKeys[] = {"Prev",  "Size",   "Type",   "W",
+                                        "Index", "Length", "Filter", "DecodeParms"};
+
+using Entries = std::map<std::string_view, std::string_view>;
+
+std::optional<std::string> inflated(std::string_view data)
+{
+    z_stream stream{};
+    if (inflateInit(&stream) != Z_OK)
+        return std::nullopt;
+    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(data.data()));
+    stream.avail_in = static_cast<uInt>(data.size());
+    std::string decoded;
+    int result = Z_OK;
+    while (result == Z_OK && decoded.size() < largestDecoded) {
+        char block[32768];
+        stream.next_out = reinterpret_cast<Bytef*>(block);
+        stream.avail_out = sizeof block;
+        result = inflate(&stream, Z_NO_FLUSH);
+        decoded.append(block, sizeof block - stream.avail_out);
+    }
+    inflateEnd(&stream);
+    return result == Z_STREAM_END ? std::optional(std::move(decoded)) : std::nullopt;
+}
+
+/// Undoes the "Up" predictor of PNG, the only one that writers of cross-reference streams use besides none.
+std::optional<std::string> withoutPredictor(const std::string& data, std::size_t columns)
+{
+    const std::size_t row = columns + 1;
+    if (columns == 0 || columns > 64 || data.size() % row != 0)
+        return std::nullopt;
+    std::string plain;
+    plain.reserve(data.size() / row * columns);
+    for (std::size_t start = 0; start < data.size(); start += row) {
+        const char kind = data[start];
+        if (kind != 0 && kind != 2)
+            return std::nullopt;
+        for (std::size_t column = 0; column < columns; ++column) {
+            const bool up = kind == 2 && plain.size() >= columns;
+            const char above = up ? plain[plain.size() - columns] : '\0';
+            plain.push_back(static_cast<char>(data[start + 1 + column] + above));
+        }
+    }
+    return plain;
+}
+
+std::optional<std::string> unpredicted(std::string data, std::string_view parameters)
+{
+    const auto entries = dictionaryEntries(parameters);
+    if (!entries)
+        return std::nullopt;
+    const auto value = [&](std::string_view key, std::int64_t otherwise) {
+        const auto found = entries->find(key);
+        return found == entries->end() ? std::optional(otherwise) : wholeInteger(found->second);
+    };
+    const auto predictor = value("Predictor", 1);
+    const auto columns = value("Columns", 1);
+    if (value("Colors", 1) != 1 || value("BitsPerComponent", 8) != 8 || !predictor || !columns)
+        return std::nullopt;
+    if (*predictor == 1)
+        return data;
+    return *predictor >= 10 && *predictor <= 15 ? withoutPredictor(data, static_cast<std::size_t>(*columns))
+                                                : std::nullopt;
+}
+
+std::optional<std::string> decoded(const Entries& dictionary, std::string data)
+{
+    const auto filter = dictionary.find("Filter");
+    const auto parameters = dictionary.find("DecodeParms");
+    if (filter == dictionary.end())
+        return parameters == dictionary.end() ? std::optional(std::move(data)) : std::nullopt;
+    if (filter->second != "/FlateDecode")
+        return std::nullopt;
+    auto plain = inflated(data);
+    if (!plain || parameters == dictionary.end())
+        return plain;
+    return unpredicted(std::move(*plain), parameters->second);
+}
+
+std::optional<std::vector<std::int64_t>> integerArray(std::string_view text)
+{
+    if (!text.starts_with("[") || !text.ends_with("]"))
+        return std::nullopt;
+    std::vector<std::int64_t> numbers;
+    SyntaxScanner scanner(text.substr(0, text.size() - 1), 1);
+    for (scanner.skipSpace(); !scanner.atEnd(); scanner.skipSpace()) {
+        const auto number = scanner.integer();
+        if (!number)
+            return std::nullopt;
+        numbers.push_back(*number);
+    }
+    return numbers;
+}
+
+std::optional<std::int64_t> integerOf(const Entries& entries, std::string_view key)
+{
+    const auto found = entries.find(key);
+    return found == entries.end() ? std::nullopt : wholeInteger(found->second);
+}
+
+std::optional<std::int64_t> fixedNumber(std::string_view digits)
+{
+    std::int64_t value = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    const bool whole = error == std::errc() && end == digits.data() + digits.size();
+    return whole && value >= 0 ? std::optional(value) : std::nullopt;
+}
+
+bool isTableEntry(std::string_view entry)
+{
+    return entry.size() == static_cast<std::size_t>(entrySize) && fixedNumber(entry.substr(0, 10)) &&
+           entry[10] == ' ' && fixedNumber(entry.substr(11, 5)) && entry[16] == ' ' &&
+           (entry[17] == 'n' || entry[17] == 'f') && isSpace(entry[18]) && isSpace(entry[19]);
+}
+
+bool isNumberInRange(std::optional<std::int64_t> number, std::int64_t largest)
+{
+    return number && *number <= largest;
+}
+
+} // namespace
+
+std::unique_ptr<DirectReader> DirectReader::open(std::shared_ptr<ByteSource> source)
+{
+    std::unique_ptr<DirectReader> reader(new DirectReader(std::move(source)));
+    if (!reader->bytes(0, 8).starts_with("%PDF-1."))
+        return nullptr;
+    const auto last = reader->lastStartXref();
+    return last && reader->readSections(*last) ? std::move(reader) : nullptr;
+}
+
+std::string DirectReader::bytes(std::int64_t offset, std::size_t count) const
+{
+    return m_source->text(static_cast<std::uint64_t>(offset), count);
+}
+
+/// The number behind the last "startxref", when nothing but the end-of-file marker follows it.
+std::optional<std::int64_t> DirectReader::lastStartXref() const
+{
+    const auto total = static_cast<std::int64_t>(m_source->size());
+    const std::int64_t start = std::max<std::int64_t>(0, total - static_cast<std::int64_t>(tailSize));
+    const std::string tail = bytes(start, tailSize);
+    const std::size_t found = tail.rfind("startxref");
+    if (found == std::string::npos)
+        return std::nullopt;
+    SyntaxScanner scanner(tail, found + std::string_view("startxref").size());
+    scanner.skipSpace();
+    const auto offset = scanner.integer();
+    scanner.skipSpace();
+    std::string_view rest = std::string_view(tail).substr(scanner.position());
+    if (!offset || *offset >= total || !rest.starts_with("%%EOF"))
+        return std::nullopt;
+    rest.remove_prefix(std::string_view("%%EOF").size());
+    return std::all_of(rest.begin(), rest.end(), isSpace) ? offset : std::nullopt;
+}
+
+bool DirectReader::readSections(std::int64_t offset)
+{
+    std::set<std::int64_t> seen;
+    while (offset >= 0) {
+        if (!seen.insert(offset).second || seen.size() > mostSections)
+            return false;
+        auto section = readSection(offset);
+        if (!section)
+            return false;
+        offset = section->previous;
+        m_sections.push_back(std::move(*section));
+    }
+    return true;
+}
+
+std::optional<DirectReader::Section> DirectReader::readSection(std::int64_t offset)
+{
+    auto section = bytes(offset, 4) == "xref" ? readTable(offset) : readStream(offset);
+    if (!section || !complete(*section))
+        return std::nullopt;
+    section->offset = offset;
+    return section;
+}
+
+/// Reads what both kinds of section state in their dictionary.
+bool DirectReader::complete(Section& section)
+{
+    const auto entries = dictionaryEntries(section.dictionary);
+    if (!entries || entries->contains("Encrypt") || entries->contains("XRefStm"))
+        return false;
+    const auto size = integerOf(*entries, "Size");
+    if (!isNumberInRange(size, INT32_MAX) || *size < 1)
+        return false;
+    if (entries->contains("Prev")) {
+        const auto previous = integerOf(*entries, "Prev");
+        if (!isNumberInRange(previous, static_cast<std::int64_t>(m_source->size()) - 1))
+            return false;
+        section.previous = *previous;
+    }
+    m_size = std::max(m_size, static_cast<int>(*size));
+    for (const Run& run : section.runs)
+        if (run.first + static_cast<std::int64_t>(run.count) > *size)
+            return false;
+    return true;
+}
+
+std::optional<DirectReader::Section> DirectReader::readTable(std::int64_t offset)
+{
+    Section section;
+    std::int64_t at = offset + 4;
+    for (;;) {
+        const std::string head = bytes(at, 64);
+        SyntaxScanner scanner(head);
+        scanner.skipSpace();
+        if (scanner.keyword("trailer")) {
+            at += static_cast<std::int64_t>(scanner.position());
+            break;
+        }
+        const auto first = scanner.integer();
+        scanner.skipSpace();
+        const auto count = scanner.integer();
+        scanner.skipSpace();
+        if (!isNumberInRange(first, INT32_MAX) || !isNumberInRange(count, INT32_MAX))
+            return std::nullopt;
+        at += static_cast<std::int64_t>(scanner.position());
+        section.runs.push_back({static_cast<int>(*first), static_cast<int>(*count), at});
+        at += *count * entrySize;
+        if (at >= static_cast<std::int64_t>(m_source->size()) || section.runs.size() > mostRuns ||
+            !hasGoodEntries(section.runs.back()))
+            return std::nullopt;
+    }
+    std::int64_t unused = 0;
+    auto dictionary = valueAt(at, -1, 0, &unused);
+    if (!dictionary)
+        return std::nullopt;
+    section.dictionary = std::move(*dictionary);
+    return section;
+}
+
+/// One bad entry, of whatever object, makes other readers distrust all of them.
+bool DirectReader::hasGoodEntries(const Run& run) const
+{
+    for (std::int64_t done = 0; done < run.count; done += entriesAtOnce) {
+        const std::int64_t count = std::min(entriesAtOnce, run.count - done);
+        const std::string entries =
+            bytes(run.offset + done * entrySize, static_cast<std::size_t>(count * entrySize));
+        for (std::size_t at = 0; at < static_cast<std::size_t>(count * entrySize); at += entrySize)
+            if (at > entries.size() || !isTableEntry(std::string_view(entries).substr(at, entrySize)))
+                return false;
+    }
+    return true;
+}
+
+std::optional<DirectReader::Section> DirectReader::readStream(std::int64_t offset)
+{
+    Section section;
+    section.isStream = true;
+    auto data = streamAt(offset, -1, section.dictionary);
+    const auto entries = dictionaryEntries(section.dictionary);
+    if (!data || !entries || !entries->contains("Type") || entries->at("Type") != "/XRef" ||
+        !entries->contains("W"))
+        return std::nullopt;
+    const auto widths = integerArray(entries->at("W"));
+    if (!widths || widths->size() != 3)
+        return std::nullopt;
+    for (std::size_t field = 0; field < 3; ++field) {
+        if ((*widths)[field] > 8)
+            return std::nullopt;
+        section.widths[field] = static_cast<int>((*widths)[field]);
+    }
+    const auto size = integerOf(*entries, "Size");
+    const auto index = entries->contains("Index")
+                           ? integerArray(entries->at("Index"))
+                           : std::optional(std::vector<std::int64_t>{0, size.value_or(0)});
+    if (!size || !index || index->size() % 2 != 0)
+        return std::nullopt;
+    const std::int64_t width = section.widths[0] + section.widths[1] + section.widths[2];
+    std::int64_t at = 0;
+    for (std::size_t pair = 0; pair < index->size(); pair += 2) {
+        const std::int64_t first = (*index)[pair];
+        const std::int64_t count = (*index)[pair + 1];
+        if (first > INT32_MAX || count > INT32_MAX)
+            return std::nullopt;
+        section.runs.push_back({static_cast<int>(first), static_cast<int>(count), at});
+        at += count * width;
+    }
+    if (width == 0 || at != static_cast<std::int64_t>(data->size()))
+        return std::nullopt;
+    section.entries = std::move(*data);
+    return section;
+}
+
+std::optional<DirectReader::Entry> DirectReader::find(int number) const
+{
+    for (const Section& section : m_sections)
+        for (const Run& run : section.runs)
+            if (number >= run.first && number - run.first < run.count)
+                return section.isStream ? streamEntry(section, run, number) : tableEntry(run, number);
+    return Entry{EntryKind::Free, 0, 0};
+}
+
+std::optional<DirectReader::Entry> DirectReader::tableEntry(const Run& run, int number) const
+{
+    const std::string entry = bytes(run.offset + (number - run.first) * entrySize, entrySize);
+    if (!isTableEntry(entry))
+        return std::nullopt;
+    const std::string_view text = entry;
+    const auto kind = entry[17] == 'n' ? EntryKind::Plain : EntryKind::Free;
+    return Entry{kind, *fixedNumber(text.substr(0, 10)), static_cast<int>(*fixedNumber(text.substr(11, 5)))};
+}
+
+std::optional<DirectReader::Entry> DirectReader::streamEntry(const Section& section, const Run& run,
+                                                             int number) const
+{
+    const int width = section.widths[0] + section.widths[1] + section.widths[2];
+    std::size_t at =
+        static_cast<std::size_t>(run.offset + static_cast<std::int64_t>(number - run.first) * width);
+    std::array<std::uint64_t, 3> fields{section.widths[0] == 0 ? 1U : 0U, 0, 0};
+    for (std::size_t field = 0; field < 3; ++field)
+        for (int byte = 0; byte < section.widths[field]; ++byte)
+            fields[field] = fields[field] << 8 | static_cast<unsigned char>(section.entries[at++]);
+    if (fields[0] > 2 || fields[1] > INT64_MAX || fields[2] > INT32_MAX)
+        return std::nullopt;
+    return Entry{static_cast<EntryKind>(fields[0]), static_cast<std::int64_t>(fields[1]),
+                 static_cast<int>(fields[2])};
+}
+
+std::optional<DirectReader::Reference> DirectReader::reference(std::string_view text)
+{
+    const std::string ended = std::string(text) + ' ';
+    SyntaxScanner scanner(ended);
+    const auto number = scanner.integer();
+    scanner.skipSpace();
+    const auto generation = scanner.integer();
+    scanner.skipSpace();
+    if (!isNumberInRange(number, INT32_MAX) || !isNumberInRange(generation, UINT16_MAX) ||
+        !scanner.keyword("R"))
+        return std::nullopt;
+    return Reference{static_cast<int>(*number), static_cast<int>(*generation)};
+}
+
+std::string DirectReader::skeletonTrailer() const
+{
+    const auto entries = dictionaryEntries(trailer());
+    std::string text = "<<";
+    for (const auto& [key, value] : *entries)
+        if (std::find(std::begin(sectionKeys), std::end(sectionKeys), key) == std::end(sectionKeys))
+            text += "/" + std::string(key) + " " + std::string(value) + "\n";
+    return text + "/Size " + std::to_string(m_size) + " >>";
+}
+
+std::optional<std::string> DirectReader::skeleton()
+{
+    const auto entries = dictionaryEntries(trailer());
+    const auto root = entries->contains("Root") ? reference(entries->at("Root")) : std::nullopt;
+    const auto catalog = root ? object(root->number, root->generation) : std::nullopt;
+    const auto catalogEntries = catalog ? dictionaryEntries(*catalog) : std::nullopt;
+    if (!catalogEntries || !catalogEntries->contains("Pages"))
+        return std::nullopt;
+    const auto pagesReference = reference(catalogEntries->at("Pages"));
+    const auto pages =
+        pagesReference ? object(pagesReference->number, pagesReference->generation) : std::nullopt;
+    if (!pages || !pages->starts_with("<<") || pagesReference->number == root->number)
+        return std::nullopt;
+
+    std::string text = bytes(0, 8) + "\n";
+    std::string table;
+    const auto add = [&](const Reference& id, const std::string& value) {
+        char entry[32];
+        std::snprintf(entry, sizeof entry, "%010zu %05d n \n", text.size(), id.generation);
+        table += std::to_string(id.number) + " 1\n" + entry;
+        text +=
+            std::to_string(id.number) + " " + std::to_string(id.generation) + " obj\n" + value + "\nendobj\n";
+    };
+    add(*root, *catalog);
+    add(*pagesReference, *pages);
+    // New objects are numbered from the last one on.
+    if (root->number != m_size - 1 && pagesReference->number != m_size - 1)
+        add({m_size - 1, 0}, "null");
+    const std::size_t start = text.size();
+    return text + "xref\n" + table + "trailer\n" + skeletonTrailer() + "\nstartxref\n" +
+           std::to_string(start) + "\n%%EOF\n";
+}
+
+std::optional<std::string> DirectReader::object(int number, int generation)
+{
+    const auto entry = find(number);
+    if (!entry)
+        return std::nullopt;
+    switch (entry->kind) {
+    case EntryKind::Free:
+        return "null";
+    case EntryKind::Plain:
+        if (entry->detail != generation)
+            return std::nullopt;
+        return valueAt(entry->position, number, generation, nullptr);
+    case EntryKind::Compressed:
+        if (generation != 0 || entry->position > INT32_MAX)
+            return std::nullopt;
+        return compressed(static_cast<int>(entry->position), entry->detail, number);
+    }
+    return std::nullopt;
+}
+
+/// Reads a value that stands in the file, behind an object header unless `number` is -1 and a trailer is
+/// meant. \param streamData where a stream's data begins, or 0; without it a stream makes the reader give up.
+std::optional<std::string> DirectReader::valueAt(std::int64_t offset, int number, int generation,
+                                                 std::int64_t* streamData)
+{
+    for (std::size_t window = firstWindow; window <= largestWindow; window *= 4) {
+        const std::string text = bytes(offset, window);
+        SyntaxScanner scanner(text);
+        if (number >= 0) {
+            const auto foundNumber = scanner.integer();
+            scanner.skipSpace();
+            const auto foundGeneration = scanner.integer();
+            scanner.skipSpace();
+            if (foundNumber != number || foundGeneration != generation || !scanner.keyword("obj"))
+                return std::nullopt;
+        }
+        scanner.skipSpace();
+        const std::size_t start = scanner.position();
+        const auto outcome = scanner.skipValue();
+        const std::size_t end = scanner.position();
+        scanner.skipSpace();
+        const bool cutOff =
+            outcome == SyntaxScanner::Outcome::CutOff || end + longestObjectHeader > text.size();
+        if (cutOff && text.size() == window)
+            continue;
+        if (outcome != SyntaxScanner::Outcome::Complete)
+            return std::nullopt;
+        std::string value = text.substr(start, end - start);
+        if (scanner.keyword("endobj") || (number < 0 && scanner.keyword("startxref")))
+            return value;
+        if (streamData == nullptr || !scanner.keyword("stream"))
+            return std::nullopt;
+        const std::string_view data = std::string_view(text).substr(scanner.position());
+        if (!data.starts_with("\n") && !data.starts_with("\r\n"))
+            return std::nullopt;
+        *streamData = offset + static_cast<std::int64_t>(scanner.position() + (data.front() == '\n' ? 1 : 2));
+        return value;
+    }
+    return std::nullopt;
+}
+
+/// Reads and decodes the stream at an offset; `number` -1 accepts any object number.
+std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int number, std::string& dictionary)
+{
+    const std::string head = bytes(offset, longestObjectHeader);
+    SyntaxScanner scanner(head);
+    const auto found = scanner.integer();
+    if (!isNumberInRange(found, INT32_MAX) || (number >= 0 && *found != number))
+        return std::nullopt;
+    std::int64_t start = 0;
+    auto text = valueAt(offset, static_cast<int>(*found), 0, &start);
+    if (!text || start == 0)
+        return std::nullopt;
+    dictionary = std::move(*text);
+    const auto entries = dictionaryEntries(dictionary);
+    const auto length = entries ? integerOf(*entries, "Length") : std::nullopt;
+    if (!isNumberInRange(length, static_cast<std::int64_t>(largestDecoded)))
+        return std::nullopt;
+    const auto size = static_cast<std::size_t>(*length);
+    std::string data = bytes(start, size + longestObjectHeader);
+    if (data.size() < size)
+        return std::nullopt;
+    SyntaxScanner behind(data, size);
+    behind.skipSpace();
+    if (!behind.keyword("endstream"))
+        return std::nullopt;
+    data.resize(size);
+    return decoded(*entries, std::move(data));
+}
+
+std::optional<std::string> DirectReader::compressed(int container, int index, int number)
+{
+    const Container* stream = containerOf(container);
+    if (stream == nullptr || index < 0 || static_cast<std::size_t>(index) >= stream->objects.size())
+        return std::nullopt;
+    const auto& [found, start] = stream->objects[static_cast<std::size_t>(index)];
+    if (found != number)
+        return std::nullopt;
+    SyntaxScanner scanner(stream->data, start);
+    scanner.skipSpace();
+    const std::size_t valueStart = scanner.position();
+    if (scanner.skipValue() != SyntaxScanner::Outcome::Complete)
+        return std::nullopt;
+    return stream->data.substr(valueStart, scanner.position() - valueStart);
+}
+
+const DirectReader::Container* DirectReader::containerOf(int number)
+{
+    if (const auto known = m_containers.find(number); known != m_containers.end())
+        return &known->second;
+    const auto entry = find(number);
+    if (!entry || entry->kind != EntryKind::Plain || entry->detail != 0)
+        return nullptr;
+    std::string dictionary;
+    auto data = streamAt(entry->position, number, dictionary);
+    const auto entries = dictionaryEntries(dictionary);
+    if (!data || !entries || !entries->contains("Type") || entries->at("Type") != "/ObjStm")
+        return nullptr;
+    const auto count = integerOf(*entries, "N");
+    const auto first = integerOf(*entries, "First");
+    if (!isNumberInRange(count, INT32_MAX) ||
+        !isNumberInRange(first, static_cast<std::int64_t>(data->size())))
+        return nullptr;
+    Container container;
+    SyntaxScanner scanner(std::string_view(*data).substr(0, static_cast<std::size_t>(*first)));
+    for (std::int64_t object = 0; object < *count; ++object) {
+        scanner.skipSpace();
+        const auto objectNumber = scanner.integer();
+        scanner.skipSpace();
+        const auto start = scanner.integer();
+        if (!isNumberInRange(objectNumber, INT32_MAX) || !start ||
+            *first + *start >= static_cast<std::int64_t>(data->size()))
+            return nullptr;
+        container.objects.emplace_back(static_cast<int>(*objectNumber),
+                                       static_cast<std::size_t>(*first + *start));
+    }
+    m_containerBytes += data->size();
+    if (m_containerBytes > mostContainerBytes) {
+        m_containers.clear();
+        m_containerBytes = data->size();
+    }
+    container.data = std::move(*data);
+    container.data.push_back('\n'); // ends a last word
+    return &m_containers.emplace(number, std::move(container)).first->second;
+}
+
+} // namespace engine

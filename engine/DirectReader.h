@@ -1,0 +1,112 @@
+#pragma once
+
+#include "engine/ByteSource.h"
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace engine {
+
+/// Reads single objects of a well-formed PDF without reading the rest of it.
+///
+/// It looks entries up in the file's cross-reference sections where they lie, so the cost follows what is
+/// asked for, not the size of the document. It accepts strict files only: at the first thing that is not
+/// exactly as it should be it gives up, and the document is for a reader that repairs. Encrypted and hybrid
+/// files are not accepted.
+class DirectReader
+{
+public:
+    /// \returns null when the document is not one for this reader.
+    static std::unique_ptr<DirectReader> open(std::shared_ptr<ByteSource> source);
+
+    /// The text of an object's value; "null" for an object that is free or that no section lists.
+    /// \returns nothing when the reader has to give up, also for a stream.
+    std::optional<std::string> object(int number, int generation);
+
+    /// The newest section's trailer dictionary, as text.
+    const std::string& trailer() const { return m_sections.front().dictionary; }
+
+    /// A small PDF with this one's trailer, catalog and root of the page tree, and an empty object in the
+    /// place of the last one. Its other objects are missing: whoever works on it puts in what object() gives.
+    /// \returns nothing when the reader has to give up.
+    std::optional<std::string> skeleton();
+
+private:
+    /// A run of consecutive object numbers in a section.
+    struct Run
+    {
+        int first;
+        int count;
+        std::int64_t offset; // in the file for a table, in `entries` for a stream
+    };
+
+    struct Section
+    {
+        std::int64_t offset = 0;
+        std::int64_t previous = -1;
+        bool isStream = false;
+        std::string dictionary;
+        std::vector<Run> runs;
+        std::string entries;            // decoded, of a stream
+        std::array<int, 3> widths = {}; // of a stream's fields
+    };
+
+    enum class EntryKind { Free, Plain, Compressed };
+
+    struct Entry
+    {
+        EntryKind kind;
+        std::int64_t position; // offset, or number of the object stream
+        int detail;            // generation, or index in the object stream
+    };
+
+    /// A decoded object stream.
+    struct Container
+    {
+        std::string data;
+        std::vector<std::pair<int, std::size_t>> objects; // number, start in data
+    };
+
+    explicit DirectReader(std::shared_ptr<ByteSource> source) : m_source(std::move(source)) {}
+
+    struct Reference
+    {
+        int number;
+        int generation;
+    };
+
+    std::string bytes(std::int64_t offset, std::size_t count) const;
+    static std::optional<Reference> reference(std::string_view text);
+    std::string skeletonTrailer() const;
+    std::optional<std::int64_t> lastStartXref() const;
+    bool readSections(std::int64_t offset);
+    std::optional<Section> readSection(std::int64_t offset);
+    std::optional<Section> readTable(std::int64_t offset);
+    bool hasGoodEntries(const Run& run) const;
+    std::optional<Section> readStream(std::int64_t offset);
+    bool complete(Section& section);
+
+    std::optional<Entry> find(int number) const;
+    std::optional<Entry> tableEntry(const Run& run, int number) const;
+    std::optional<Entry> streamEntry(const Section& section, const Run& run, int number) const;
+
+    std::optional<std::string> valueAt(std::int64_t offset, int number, int generation,
+                                       std::int64_t* streamData);
+    std::optional<std::string> streamAt(std::int64_t offset, int number, std::string& dictionary);
+    std::optional<std::string> compressed(int container, int index, int number);
+    const Container* containerOf(int number);
+
+    std::shared_ptr<ByteSource> m_source;
+    std::vector<Section> m_sections; // newest first
+    int m_size = 0;
+    std::map<int, Container> m_containers;
+    std::size_t m_containerBytes = 0;
+};
+
+} // namespace engine

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string_view>
+
+namespace engine {
+
+/// Steps through PDF syntax strictly: comments, unknown keywords and unbalanced brackets are odd.
+class SyntaxScanner
+{
+public:
+    enum class Outcome {
+        Complete,
+        CutOff, // the text ends too early: more of it may make it complete
+        Odd,
+    };
+
+    explicit SyntaxScanner(std::string_view text, std::size_t at = 0) : m_text(text), m_at(at) {}
+
+    std::size_t position() const { return m_at; }
+    bool atEnd() const { return m_at >= m_text.size(); }
+    void skipSpace();
+
+    /// Skips `word` when it stands here and ends here. \returns whether it did.
+    bool keyword(std::string_view word);
+
+    /// Reads an unsigned decimal number of at most 18 digits, which ends here.
+    std::optional<std::int64_t> integer();
+
+    /// Skips one object: a number, name, string, array, dictionary, boolean or null, or a reference.
+    Outcome skipValue();
+
+private:
+    Outcome skipToken();
+    Outcome skipLiteralString();
+    Outcome skipHexString();
+    Outcome skipWord();
+
+    std::string_view m_text;
+    std::size_t m_at;
+};
+
+/// The entries of a dictionary's text, keys without their slash.
+/// \returns nothing for text that is not exactly one dictionary, and for repeated or escaped keys.
+std::optional<std::map<std::string_view, std::string_view>> dictionaryEntries(std::string_view text);
+
+/// The number that a text consists of.
+std::optional<std::int64_t> wholeInteger(std::string_view text);
+
+bool isSpace(char character);
+
+} // namespace engine
