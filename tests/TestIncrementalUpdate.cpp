@@ -1,0 +1,473 @@
+#include "engine/ByteSource.h"
+#include "engine/EngineError.h"
+#include "engine/IncrementalUpdate.h"
+#include "engine/SourceInput.h"
+#include "support/PdfBuilder.h"
+
+#include <QtTest>
+
+#include <qpdf/QPDFExc.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <functional>
+
+using namespace engine;
+
+Q_DECLARE_METATYPE(std::string)
+
+namespace {
+
+const char* const password = "user";
+const char* const text = "plain \\ (text) \x01\xff";
+
+/// A document in memory as the library reads it.
+struct Opened
+{
+    explicit Opened(const std::string& bytes) : source(ByteSource::fromBytes(bytes))
+    {
+        pdf.setSuppressWarnings(true);
+        pdf.processInputSource(std::make_shared<SourceInput>(source, "document"), password);
+    }
+
+    QPDFObjectHandle catalog() { return pdf.getRoot(); }
+
+    std::string update(const std::set<QPDFObjGen>& changed)
+    {
+        return IncrementalUpdate(pdf, source, changed).bytes();
+    }
+
+    std::shared_ptr<ByteSource> source;
+    QPDF pdf;
+};
+
+/// The update that gives the catalog another page mode and a string.
+std::string updateOf(const std::string& bytes, const char* mode = "/UseOutlines")
+{
+    Opened document(bytes);
+    document.catalog().replaceKey("/PageMode", QPDFObjectHandle::newName(mode));
+    document.catalog().replaceKey("/Text", QPDFObjectHandle::newString(text));
+    return document.update({document.catalog().getObjGen()});
+}
+
+ErrorCode refusal(const std::function<void()>& function)
+{
+    try {
+        function();
+        return ErrorCode::None;
+    } catch (const EngineError& error) {
+        return error.code();
+    }
+}
+
+std::string rewritten(const std::string& bytes, const std::function<void(QPDFWriter&)>& set)
+{
+    QPDF pdf;
+    pdf.processMemoryFile("document", bytes.data(), bytes.size());
+    QPDFWriter writer(pdf);
+    writer.setOutputMemory();
+    writer.setDeterministicID(true);
+    set(writer);
+    writer.write();
+    const auto buffer = writer.getBufferSharedPointer();
+    return std::string(reinterpret_cast<const char*>(buffer->getBuffer()), buffer->getSize());
+}
+
+std::string withObjectStreams()
+{
+    return rewritten(PdfBuilder::simple(), [](QPDFWriter& writer) {
+        writer.setObjectStreamMode(qpdf_o_generate);
+        writer.setCompressStreams(false);
+    });
+}
+
+std::string linearized()
+{
+    return rewritten(PdfBuilder::simple(), [](QPDFWriter& writer) { writer.setLinearization(true); });
+}
+
+std::string replaced(std::string bytes, const std::string& old, const std::string& with)
+{
+    const std::size_t at = bytes.rfind(old);
+    return at == std::string::npos ? std::string() : bytes.replace(at, old.size(), with);
+}
+
+std::string everywhere(const std::string& bytes, const char* old, const char* with)
+{
+    return QByteArray::fromStdString(bytes).replace(old, with).toStdString();
+}
+
+std::string tableEntry(std::size_t offset)
+{
+    return QString("%1 00000 n \n").arg(offset, 10, 10, QChar('0')).toStdString();
+}
+
+/// Object 6 lies in an object stream that only readers of cross-reference streams know of.
+std::string hybrid()
+{
+    std::string out = "%PDF-1.5\n";
+    std::map<int, std::size_t> offsets;
+    const auto add = [&](int number, const std::string& body) {
+        offsets[number] = out.size();
+        out += std::to_string(number) + " 0 obj\n" + body + "\nendobj\n";
+    };
+    add(1, "<< /Type /Catalog /Pages 2 0 R /ViewerPreferences 6 0 R >>");
+    add(2, "<< /Type /Pages /Count 1 /Kids [3 0 R] >>");
+    add(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] >>");
+    add(5, "<< /Type /ObjStm /N 1 /First 4 /Length 23 >>\nstream\n6 0 << /FitWindow true>>\nendstream");
+    const auto two = [](std::size_t number) {
+        return std::string{static_cast<char>(number >> 8), static_cast<char>(number & 0xff)};
+    };
+    const std::size_t stream = out.size();
+    add(7, "<< /Type /XRef /Size 8 /Index [5 3] /W [1 2 1] /Length 12 >>\nstream\n\x01" + two(offsets[5]) +
+               std::string("\0\x02\0\x05\0\x01", 6) + two(stream) + std::string("\0", 1) + "\nendstream");
+    const std::size_t table = out.size();
+    out += "xref\n0 4\n0000000000 65535 f \n" + tableEntry(offsets[1]) + tableEntry(offsets[2]) +
+           tableEntry(offsets[3]);
+    out += "trailer\n<< /Size 8 /Root 1 0 R /XRefStm " + std::to_string(stream) + " >>\n";
+    return out + "startxref\n" + std::to_string(table) + "\n%%EOF\n";
+}
+
+/// A second revision whose trailer has these entries; nothing in it but a catalog like the first's.
+std::string withRevision(const std::string& first, const std::string& entries)
+{
+    const std::string object = "1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n";
+    return first + object + "xref\n1 1\n" + tableEntry(first.size()) + "trailer\n<< /Root 1 0 R " + entries +
+           " >>\nstartxref\n" + std::to_string(first.size() + object.size()) + "\n%%EOF\n";
+}
+
+/// What mutool shows of an object.
+QByteArray asAnotherReaderSees(const std::string& bytes, const char* object)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath("document.pdf"));
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    file.write(bytes.data(), qint64(bytes.size()));
+    file.close();
+    QProcess reader;
+    reader.start("mutool", {"show", "-p", password, file.fileName(), object});
+    reader.waitForFinished();
+    return reader.readAll().trimmed();
+}
+
+std::string previous(const std::string& bytes)
+{
+    const std::size_t at = bytes.rfind("startxref\n") + 10;
+    return "/Prev " + bytes.substr(at, bytes.find('\n', at) - at);
+}
+
+} // namespace
+
+class TestIncrementalUpdate : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void appendsToAllKindsOfDocuments_data()
+    {
+        QTest::addColumn<std::string>("bytes");
+        QTest::addColumn<bool>("stream");
+        QTest::addColumn<int>("size");
+        const std::string simple = PdfBuilder::simple();
+        const std::string compressed = withObjectStreams();
+        const std::string junk = "HTTP/1.1 200 OK\r\n\r\n";
+        QTest::newRow("table") << simple << false << 6;
+        QTest::newRow("carriage returns") << everywhere(simple, "\n", "\r") << false << 6;
+        QTest::newRow("entries of 19 bytes") << everywhere(simple, " \n", "\n") << false << 6;
+        QTest::newRow("object streams") << compressed << true << 9;
+        QTest::newRow("linearized") << linearized() << false << 9;
+        QTest::newRow("hybrid") << hybrid() << false << 8;
+        QTest::newRow("junk before the header") << junk + simple << false << 6;
+        QTest::newRow("junk before, stream") << junk + compressed << true << 9;
+        QTest::newRow("no last line end") << simple.substr(0, simple.size() - 1) << false << 6;
+        QTest::newRow("no end-of-file marker") << simple.substr(0, simple.size() - 6) << false << 6;
+        QTest::newRow("long tail") << simple + std::string(20000, '\n') << false << 6;
+        QTest::newRow("long tail of zeros, stream") << compressed + std::string(5000, '\0') << true << 9;
+        QTest::newRow("startxref a little early") << replaced(simple, "\nxref", "\n\n\nxref") << false << 6;
+        QTest::newRow("size too large") << replaced(simple, "/Size 6", "/Size 600") << false << 600;
+        const std::string revised = withRevision(simple, "/Size 2 " + previous(simple));
+        QTest::newRow("older size larger") << revised << false << 6;
+        QTest::newRow("no further revision") << withRevision(simple, "/Size 6 /Prev 0") << false << 6;
+    }
+
+    void appendsToAllKindsOfDocuments()
+    {
+        QFETCH(std::string, bytes);
+        QFETCH(bool, stream);
+        QFETCH(int, size);
+        // Twice, so that an update is also appended to an update.
+        for (const char* mode : {"/UseOutlines", "/UseThumbs"}) {
+            const std::string update = updateOf(bytes, mode);
+            QCOMPARE(update.find("\nxref\n") == std::string::npos, stream);
+            QVERIFY(update.find("/XRefStm") == std::string::npos);
+            Opened before(bytes);
+            const CrossReference old(before.pdf, before.source);
+            bytes += update;
+            Opened after(bytes);
+            QCOMPARE(after.catalog().getKey("/PageMode").getName(), std::string(mode));
+            QCOMPARE(after.catalog().getKey("/Text").getStringValue(), std::string(text));
+            QCOMPARE(after.pdf.getAllPages().size(), before.pdf.getAllPages().size());
+            QVERIFY(after.pdf.numWarnings() <= before.pdf.numWarnings());
+            QCOMPARE(after.pdf.getTrailer().getKey("/Size").getIntValueAsInt(), size);
+            QCOMPARE(after.pdf.getTrailer().getKey("/Prev").getUIntValue(), old.newestOffset());
+            size += stream ? 1 : 0;
+        }
+    }
+
+    void refusesWhatCannotBeBuiltUpon_data()
+    {
+        QTest::addColumn<std::string>("bytes");
+        const std::string simple = PdfBuilder::simple();
+        const std::string revised = withRevision(simple, "/Size 6 " + previous(simple));
+        QTest::newRow("no startxref") << replaced(simple, "startxref", "startxxxx");
+        QTest::newRow("startxref at an object") << replaced(simple, previous(simple).substr(6), "15");
+        QTest::newRow("startxref behind the end") << replaced(simple, previous(simple).substr(6), "99999");
+        QTest::newRow("not a table") << replaced(simple, "00000 n", "00000 x");
+        QTest::newRow("no size") << replaced(simple, "/Size", "/Sixe");
+        QTest::newRow("impossible size") << replaced(simple, "/Size 6", "/Size 99999999999");
+        QTest::newRow("direct catalog")
+            << replaced(simple, "/Root 1 0 R", "/Root << /Type /Catalog /Pages 2 0 R >>");
+        QTest::newRow("no catalog in the last trailer") << replaced(revised, "/Root 1 0 R", "/Size 6");
+        QTest::newRow("loop") << withRevision(simple, "/Size 6 " + previous(revised));
+        QTest::newRow("previous section is none") << withRevision(simple, "/Size 6 /Prev 3");
+        QTest::newRow("previous section is no number") << withRevision(simple, "/Size 6 /Prev (3)");
+        QTest::newRow("stream of a wrong type") << replaced(withObjectStreams(), "/XRef", "/XReg");
+        QTest::newRow("hybrid without its stream") << replaced(hybrid(), "/XRefStm ", "/XRefStm 1");
+    }
+
+    void refusesWhatCannotBeBuiltUpon()
+    {
+        QFETCH(std::string, bytes);
+        QVERIFY(!bytes.empty());
+        try {
+            Opened document(bytes);
+            QPDFObjectHandle catalog = document.pdf.getTrailer().getKey("/Root");
+            QCOMPARE(refusal([&] { document.update({catalog.getObjGen()}); }), ErrorCode::CannotAppend);
+        } catch (const QPDFExc&) {
+            // libqpdf cannot open it either.
+        }
+    }
+
+    void refusesObjectsThatItCannotWrite()
+    {
+        Opened document(PdfBuilder().catalog("").pages(1).stream(7, "", "data").bytes());
+        QCOMPARE(refusal([&] { document.update({}); }), ErrorCode::NothingChanged);
+        QCOMPARE(refusal([&] { document.update({QPDFObjGen(7, 0)}); }), ErrorCode::CannotAppend);
+        QPDFObjectHandle deep = QPDFObjectHandle::newNull();
+        for (int level = 0; level < 600; ++level)
+            deep = QPDFObjectHandle::newArray({deep});
+        document.catalog().replaceKey("/Deep", deep);
+        QCOMPARE(refusal([&] { document.update({QPDFObjGen(1, 0)}); }), ErrorCode::TooComplex);
+    }
+
+    void keepsTheGeneration()
+    {
+        std::string bytes = replaced(PdfBuilder::simple(), "/Root 1 0 R", "/Root 1 3 R");
+        bytes.replace(bytes.find("1 0 obj"), 7, "1 3 obj");
+        bytes.replace(bytes.find("00000 n"), 7, "00003 n");
+        const std::string update = updateOf(bytes);
+        QVERIFY(update.starts_with("1 3 obj\n"));
+        QVERIFY(update.find(" 00003 n \n") != std::string::npos);
+        QCOMPARE(Opened(bytes + update).catalog().getKey("/Text").getStringValue(), std::string(text));
+    }
+
+    void writesAnObjectOfAHybridFilePlainly()
+    {
+        const std::string bytes = hybrid();
+        Opened document(bytes);
+        QPDFObjectHandle preferences = document.catalog().getKey("/ViewerPreferences");
+        QVERIFY(preferences.getKey("/FitWindow").getBoolValue());
+        preferences.replaceKey("/FitWindow", QPDFObjectHandle::newBool(false));
+        const std::string update = document.update({preferences.getObjGen()});
+        QVERIFY(update.starts_with("6 0 obj\n<< /FitWindow false >>\nendobj\nxref\n6 1\n"));
+        Opened after(bytes + update);
+        QVERIFY(!after.catalog().getKey("/ViewerPreferences").getKey("/FitWindow").getBoolValue());
+    }
+
+    void keepsTheTrailersOwnEntriesOnly()
+    {
+        const std::string bytes = PdfBuilder()
+                                      .catalog("")
+                                      .pages(1)
+                                      .object(9, "<< /Title (t) >>")
+                                      .trailer("/Info 9 0 R /ID [<61> <62>] /Private [(kept) 1.50 null] "
+                                               "/Type /XRef /W [1 2 1] /Index [0 1] /Filter /F /Length 5")
+                                      .bytes();
+        Opened document(bytes + updateOf(bytes));
+        QPDFObjectHandle trailer = document.pdf.getTrailer();
+        QCOMPARE(trailer.getKeys(),
+                 (std::set<std::string>{"/ID", "/Info", "/Prev", "/Private", "/Root", "/Size"}));
+        QCOMPARE(trailer.getKey("/Private").unparse(), std::string("[ (kept) 1.50 null ]"));
+        QCOMPARE(trailer.getKey("/ID").getArrayItem(0).getStringValue(), std::string("a"));
+        QCOMPARE(trailer.getKey("/ID").getArrayItem(1).getStringValue().size(), std::size_t(16));
+        QCOMPARE(updateOf(bytes), updateOf(bytes));
+    }
+
+    void addsNewObjectsThatAreReferredTo()
+    {
+        for (const std::string& bytes : {PdfBuilder::simple(), withObjectStreams()}) {
+            Opened document(bytes);
+            QPDFObjectHandle inner = document.pdf.makeIndirectObject(QPDFObjectHandle::parse("(inner)"));
+            QPDFObjectHandle outer = document.pdf.makeIndirectObject(QPDFObjectHandle::newArray({inner}));
+            document.pdf.makeIndirectObject(QPDFObjectHandle::parse("(lost)"));
+            document.catalog().replaceKey("/Outer", outer);
+            document.catalog().replaceKey("/Missing", document.pdf.getObject(900, 0));
+            const std::string update = document.update({document.catalog().getObjGen()});
+            Opened after(bytes + update);
+            QCOMPARE(after.catalog().getKey("/Outer").getArrayItem(0).getStringValue(), std::string("inner"));
+            QVERIFY(update.find("lost") == std::string::npos);
+            QVERIFY(update.find("900 0 obj") == std::string::npos);
+            QCOMPARE(after.pdf.numWarnings(), std::size_t(0));
+        }
+    }
+
+    void writesEveryKindOfObjectFaithfully_data()
+    {
+        QTest::addColumn<std::string>("value");
+        for (const char* value : {"null",
+                                  "true",
+                                  "-0",
+                                  "42",
+                                  "0.0001",
+                                  "-.5",
+                                  "4.",
+                                  "1.50",
+                                  "/Name",
+                                  "/A#20B#23#2f#28",
+                                  "/",
+                                  "()",
+                                  "(a\\(b\\)\\\\ c)",
+                                  "<00ff0d0a>",
+                                  "(line\nbreak)",
+                                  "[]",
+                                  "[1 [2 [3 /A (b) 5 0 R] null]]",
+                                  "<<>>",
+                                  "<</A 1/B#20C<</D[<</E null/F 4 0 R>>]>>>>",
+                                  "99999999999"})
+            QTest::newRow(value) << std::string(value);
+    }
+
+    void writesEveryKindOfObjectFaithfully()
+    {
+        QFETCH(std::string, value);
+        Opened document(PdfBuilder::simple());
+        QPDFObjectHandle parsed = QPDFObjectHandle::parse(&document.pdf, value);
+        const std::string written = ObjectSerializer().write(parsed);
+        QPDFObjectHandle again = QPDFObjectHandle::parse(&document.pdf, written);
+        QCOMPARE(again.unparse(), parsed.unparse());
+        if (parsed.isReal())
+            QCOMPARE(written, value);
+    }
+
+    void encryptsTheStringsOfChangedObjects_data()
+    {
+        QTest::addColumn<std::string>("bytes");
+        const auto add = [](const char* name, const std::function<void(QPDFWriter&)>& set) {
+            for (const auto streams : {qpdf_o_disable, qpdf_o_generate}) {
+                const std::string bytes = rewritten(PdfBuilder::simple(), [&](QPDFWriter& writer) {
+                    writer.setDeterministicID(false);
+                    writer.setStaticID(true);
+                    set(writer);
+                    writer.setObjectStreamMode(streams);
+                });
+                QTest::newRow(QByteArray(name) + (streams == qpdf_o_generate ? ", streams" : "")) << bytes;
+            }
+        };
+        const auto all = qpdf_r3p_full;
+        add("RC4 40",
+            [](auto& w) { w.setR2EncryptionParametersInsecure(password, "o", true, true, true, true); });
+        add("RC4 128", [&](auto& w) {
+            w.setR3EncryptionParametersInsecure(password, "o", true, true, true, true, true, true, all);
+        });
+        for (const bool aes : {false, true})
+            add(aes ? "AES 128" : "RC4 filter", [&](auto& w) {
+                w.setR4EncryptionParametersInsecure(password, "o", true, true, true, true, true, true, all,
+                                                    true, aes);
+            });
+        add("AES 256 old", [&](auto& w) {
+            w.setR5EncryptionParameters(password, "o", true, true, true, true, true, true, all, true);
+        });
+        add("AES 256", [&](auto& w) {
+            w.setR6EncryptionParameters(password, "o", true, true, true, true, true, true, all, true);
+        });
+    }
+
+    void encryptsTheStringsOfChangedObjects()
+    {
+        QFETCH(std::string, bytes);
+        const std::string signature =
+            "<< /Type /Sig /ByteRange [0 1 2 3] /Contents <736967> /Name (nested name) >>";
+        Opened document(bytes);
+        document.catalog().replaceKey("/Text", QPDFObjectHandle::newString(text));
+        document.catalog().replaceKey("/Empty", QPDFObjectHandle::newString(""));
+        document.catalog().replaceKey("/Sig", QPDFObjectHandle::parse(signature));
+        const std::string update = document.update({document.catalog().getObjGen()});
+        QVERIFY(update.find("plain") == std::string::npos);
+        QVERIFY(update.find("nested") == std::string::npos);
+        QVERIFY(update.find("/Contents <736967>") != std::string::npos);
+        Opened after(bytes + update);
+        QCOMPARE(after.catalog().getKey("/Text").getStringValue(), std::string(text));
+        QCOMPARE(after.catalog().getKey("/Empty").getStringValue(), std::string());
+        QCOMPARE(after.catalog().getKey("/Sig").getKey("/Name").getStringValue(), std::string("nested name"));
+        QCOMPARE(after.pdf.getTrailer().getKey("/ID").unparse(),
+                 document.pdf.getTrailer().getKey("/ID").unparse());
+        QCOMPARE(after.pdf.numWarnings(), std::size_t(0));
+        QCOMPARE(asAnotherReaderSees(bytes + update, "trailer/Root/Sig/Name"), QByteArray("(nested name)"));
+    }
+
+    void givesNoIdentifierToAnEncryptedDocument()
+    {
+        // The last revision of the standard security handler makes its key without the identifier.
+        std::string bytes = rewritten(PdfBuilder::simple(), [](QPDFWriter& writer) {
+            writer.setDeterministicID(false);
+            writer.setR6EncryptionParameters(password, "o", true, true, true, true, true, true, qpdf_r3p_full,
+                                             true);
+        });
+        bytes = replaced(bytes, "/ID [", "/IX [");
+        const std::string update = updateOf(bytes);
+        QVERIFY(update.find("/ID") == std::string::npos);
+        QCOMPARE(Opened(bytes + update).catalog().getKey("/Text").getStringValue(), std::string(text));
+    }
+
+    void refusesAnUnknownMethodForStrings()
+    {
+        std::string bytes = rewritten(PdfBuilder::simple(), [](QPDFWriter& writer) {
+            writer.setDeterministicID(false);
+            writer.setR4EncryptionParametersInsecure(password, "o", true, true, true, true, true, true,
+                                                     qpdf_r3p_full, true, true);
+        });
+        bytes = replaced(bytes, "/StrF /StdCF", "/StrF /OddCF");
+        QCOMPARE(refusal([&] { updateOf(bytes); }), ErrorCode::CannotAppend);
+    }
+
+    void appendsBehindFourGigabytes()
+    {
+        const quint64 far = 5ULL << 30;
+        const std::string simple = PdfBuilder::simple();
+        const std::size_t table = simple.rfind("\nxref") + 1;
+        const std::string end =
+            replaced(simple.substr(table), previous(simple).substr(6), std::to_string(far));
+        QTemporaryDir folder;
+        QFile file(folder.filePath("large.pdf"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(simple.data(), qint64(table));
+        if (!file.seek(qint64(far)) || file.write(end.data(), qint64(end.size())) < 0)
+            QSKIP("no room for a sparse file");
+        file.close();
+        const auto source = ByteSource::openFile(file.fileName().toStdString());
+        QPDF pdf;
+        pdf.processInputSource(std::make_shared<SourceInput>(source, "large"));
+        pdf.getRoot().replaceKey("/Text", QPDFObjectHandle::newString(text));
+        const std::string update = IncrementalUpdate(pdf, source, {QPDFObjGen(1, 0)}).bytes();
+        QVERIFY(file.open(QIODevice::Append));
+        file.write(update.data(), qint64(update.size()));
+        file.close();
+        QPDF after;
+        after.processFile(file.fileName().toLocal8Bit().constData());
+        QCOMPARE(after.getRoot().getKey("/Text").getStringValue(), std::string(text));
+        QVERIFY(!after.anyWarnings());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestIncrementalUpdate)
+#include "TestIncrementalUpdate.moc"
