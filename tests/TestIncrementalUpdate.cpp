@@ -6,7 +6,6 @@
 
 #include <QtTest>
 
-#include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFWriter.hh>
 
 #include <functional>
@@ -231,7 +230,6 @@ private slots:
         QTest::newRow("loop") << withRevision(simple, "/Size 6 " + previous(revised));
         QTest::newRow("previous section is none") << withRevision(simple, "/Size 6 /Prev 3");
         QTest::newRow("previous section is no number") << withRevision(simple, "/Size 6 /Prev (3)");
-        QTest::newRow("stream of a wrong type") << replaced(withObjectStreams(), "/XRef", "/XReg");
         QTest::newRow("hybrid without its stream") << replaced(hybrid(), "/XRefStm ", "/XRefStm 1");
     }
 
@@ -239,13 +237,9 @@ private slots:
     {
         QFETCH(std::string, bytes);
         QVERIFY(!bytes.empty());
-        try {
-            Opened document(bytes);
-            QPDFObjectHandle catalog = document.pdf.getTrailer().getKey("/Root");
-            QCOMPARE(refusal([&] { document.update({catalog.getObjGen()}); }), ErrorCode::CannotAppend);
-        } catch (const QPDFExc&) {
-            // libqpdf cannot open it either.
-        }
+        Opened document(bytes);
+        QPDFObjectHandle catalog = document.pdf.getTrailer().getKey("/Root");
+        QCOMPARE(refusal([&] { document.update({catalog.getObjGen()}); }), ErrorCode::CannotAppend);
     }
 
     void refusesObjectsThatItCannotWrite()

@@ -1,0 +1,262 @@
+#include "engine/ByteSource.h"
+#include "engine/Document.h"
+#include "engine/DocumentWriter.h"
+#include "engine/EngineError.h"
+#include "engine/OutputFile.h"
+#include "support/PdfBuilder.h"
+
+#include <QtTest>
+
+#include <qpdf/QPDFWriter.hh>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <functional>
+
+using namespace engine;
+
+Q_DECLARE_METATYPE(std::string)
+
+namespace {
+
+using Settings = std::function<void(QPDFWriter&)>;
+
+ErrorCode errorOf(const std::function<void()>& function)
+{
+    try {
+        function();
+        return ErrorCode::None;
+    } catch (const EngineError& error) {
+        return error.code();
+    }
+}
+
+void store(const QString& path, const std::string& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes.data(), qint64(bytes.size()));
+}
+
+std::string content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
+
+std::unique_ptr<Document> opened(const QString& path)
+{
+    return std::make_unique<Document>(ByteSource::openFile(path.toStdString()), path.toStdString(), "user");
+}
+
+void change(Document& document)
+{
+    document.catalog().replaceKey("/PageMode", QPDFObjectHandle::newName("/UseThumbs"));
+    document.markChanged(document.catalog());
+}
+
+QByteArray pageMode(const QString& path)
+{
+    return QByteArray::fromStdString(opened(path)->catalog().getKey("/PageMode").unparse());
+}
+
+std::string withSettings(const Settings& set)
+{
+    QPDF pdf;
+    const std::string bytes = PdfBuilder()
+                                  .catalog("")
+                                  .pages(2)
+                                  .object(9, "<< /Title (A title) >>")
+                                  .stream(10, "", std::string(5000, 'x'))
+                                  .trailer("/Info 9 0 R /Kept 10 0 R /ID [<6131> <6232>]")
+                                  .bytes();
+    pdf.processMemoryFile("document", bytes.data(), bytes.size());
+    QPDFWriter writer(pdf);
+    writer.setOutputMemory();
+    writer.setCompressStreams(false);
+    set(writer);
+    writer.write();
+    const auto buffer = writer.getBufferSharedPointer();
+    return std::string(reinterpret_cast<const char*>(buffer->getBuffer()), buffer->getSize());
+}
+
+} // namespace
+
+class TestDocumentWriter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_source = m_folder->filePath("source.pdf");
+        m_target = m_folder->filePath("target.pdf");
+        store(m_source, PdfBuilder::simple());
+    }
+
+    void appendsBehindTheOriginalBytes()
+    {
+        for (const QString& target : {m_target, m_source}) {
+            const std::string original = content(m_source);
+            const auto document = opened(m_source);
+            change(*document);
+            appendUpdate(*document, target.toStdString());
+            QVERIFY(content(target).starts_with(original));
+            QCOMPARE(pageMode(target), QByteArray("/UseThumbs"));
+            QVERIFY(content(target).size() < original.size() + 300);
+        }
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+    }
+
+    void appendsNothingWhenItWouldNotBeRight()
+    {
+        const auto document = opened(m_source);
+        const auto append = [&](Document& each) {
+            return errorOf([&] { appendUpdate(each, m_target.toStdString()); });
+        };
+        QCOMPARE(append(*document), ErrorCode::NothingChanged);
+        change(*document);
+        QFile::resize(m_source, 100);
+        QCOMPARE(append(*document), ErrorCode::SourceChanged);
+        // Objects without an end, far behind the last startxref: only a search finds them.
+        store(m_source, PdfBuilder::simple() + "8 0 obj\nnull\nendobj\n" + std::string(5000, '\n'));
+        const auto rebuilt = opened(m_source);
+        change(*rebuilt);
+        QCOMPARE(append(*rebuilt), ErrorCode::CannotAppend);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
+        writeWhole(*rebuilt, m_target.toStdString());
+        QCOMPARE(pageMode(m_target), QByteArray("/UseThumbs"));
+    }
+
+    void keepsWhatTheDocumentIs_data()
+    {
+        QTest::addColumn<std::string>("bytes");
+        const auto all = qpdf_r3p_full;
+        const std::pair<const char*, Settings> cases[] = {
+            {"plain", [](QPDFWriter&) {}},
+            {"object streams",
+             [](QPDFWriter& w) {
+                 w.setObjectStreamMode(qpdf_o_generate);
+                 w.setCompressStreams(true);
+             }},
+            {"linearized", [](QPDFWriter& w) { w.setLinearization(true); }},
+            {"version", [](QPDFWriter& w) { w.forcePDFVersion("1.3"); }},
+            {"RC4",
+             [](QPDFWriter& w) {
+                 w.setR3EncryptionParametersInsecure("user", "o", true, true, true, true, true, false, all);
+             }},
+            {"AES",
+             [](QPDFWriter& w) {
+                 w.setR6EncryptionParameters("user", "o", true, true, true, true, true, false, all, true);
+             }},
+        };
+        for (const auto& [name, settings] : cases)
+            QTest::newRow(name) << withSettings(settings);
+    }
+
+    void keepsWhatTheDocumentIs()
+    {
+        QFETCH(std::string, bytes);
+        store(m_source, bytes);
+        const auto before = opened(m_source);
+        change(*before);
+        writeWhole(*before, m_target.toStdString());
+        const auto after = opened(m_target);
+        QPDF& pdf = after->pdf();
+        QPDFObjectHandle trailer = pdf.getTrailer();
+        QCOMPARE(pageMode(m_target), QByteArray("/UseThumbs"));
+        QVERIFY(!after->anyWarnings());
+        QCOMPARE(pdf.getAllPages().size(), std::size_t(2));
+        QCOMPARE(pdf.getPDFVersion(), before->pdf().getPDFVersion());
+        QCOMPARE(trailer.getKey("/Info").getKey("/Title").getStringValue(), std::string("A title"));
+        QCOMPARE(trailer.getKey("/ID").getArrayItem(0).getStringValue(), std::string("a1"));
+        QCOMPARE(trailer.getKey("/Kept").getRawStreamData()->getSize(),
+                 before->pdf().getTrailer().getKey("/Kept").getRawStreamData()->getSize());
+        QCOMPARE(pdf.isEncrypted(), before->pdf().isEncrypted());
+        QCOMPARE(pdf.allowModifyForm(), before->pdf().allowModifyForm());
+        QCOMPARE(content(m_target).find("/ObjStm") == std::string::npos,
+                 bytes.find("/ObjStm") == std::string::npos);
+        QVERIFY(content(m_target).size() < bytes.size() + 300);
+    }
+
+    void writesIntoMemoryWhatItWritesIntoAFile()
+    {
+        const auto document = opened(m_source);
+        change(*document);
+        const std::string bytes = wholeToString(*document);
+        writeWhole(*document, m_source.toStdString());
+        QCOMPARE(bytes.size(), content(m_source).size());
+        Document again(ByteSource::fromBytes(bytes), {}, {});
+        QCOMPARE(again.catalog().getKey("/PageMode").getName(), std::string("/UseThumbs"));
+    }
+
+    void replacesInOneStepOrNotAtAll()
+    {
+        store(m_target, "old");
+        QVERIFY(QFile::setPermissions(m_target, QFile::ReadOwner | QFile::WriteOwner));
+        const QString link = m_folder->filePath("link.pdf");
+        QVERIFY(QFile::link(m_target, link));
+        {
+            OutputFile abandoned(link.toStdString());
+            abandoned.write("new");
+            QCOMPARE(QDir(m_folder->path()).entryList({".quintar-*"}, QDir::Files | QDir::Hidden).size(), 1);
+        }
+        QCOMPARE(content(m_target), std::string("old"));
+        OutputFile file(link.toStdString());
+        file.write("new");
+        file.commit();
+        QCOMPARE(content(m_target), std::string("new"));
+        QVERIFY(QFileInfo(link).isSymLink());
+        struct stat status = {};
+        QCOMPARE(::stat(qPrintable(m_target), &status), 0);
+        QCOMPARE(status.st_mode & 0777, 0600u);
+        QCOMPARE(QDir(m_folder->path()).entryList({".quintar-*"}, QDir::Files | QDir::Hidden).size(), 0);
+    }
+
+    void saysWhyAFileCannotBeWritten()
+    {
+        const auto errorAt = [](const QString& path) {
+            return errorOf([&] { OutputFile(path.toStdString()).commit(); });
+        };
+        QCOMPARE(errorAt(m_folder->filePath("none/file.pdf")), ErrorCode::FileNotFound);
+        QCOMPARE(errorAt(m_source + "/file.pdf"), ErrorCode::FileNotFound);
+        QCOMPARE(errorAt(m_folder->path()), ErrorCode::NotARegularFile);
+        QCOMPARE(errorAt("/dev/null"), ErrorCode::NotARegularFile);
+        if (::geteuid() != 0) {
+            QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner));
+            QCOMPARE(errorAt(m_target), ErrorCode::AccessDenied);
+            QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        }
+    }
+
+    void copiesHolesAsHoles()
+    {
+        QFile file(m_source);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.seek(64 << 20) && file.write("middle") == 6 && file.resize(128 << 20));
+        file.close();
+        const auto source = ByteSource::openFile(m_source.toStdString());
+        OutputFile output(m_target.toStdString());
+        output.copy(*source);
+        output.write("end");
+        output.commit();
+        const auto copied = ByteSource::openFile(m_target.toStdString());
+        QCOMPARE(copied->size(), source->size() + 3);
+        QCOMPARE(copied->text(0, 500), source->text(0, 500));
+        QCOMPARE(copied->text((64 << 20) - 2, 10), std::string("\0\0middle\0\0", 10));
+        QCOMPARE(copied->text((128 << 20) - 1, 10), std::string("\0end", 4));
+        struct stat status = {};
+        QCOMPARE(::stat(qPrintable(m_target), &status), 0);
+        QVERIFY(status.st_blocks < 2000);
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_source;
+    QString m_target;
+};
+
+QTEST_GUILESS_MAIN(TestDocumentWriter)
+#include "TestDocumentWriter.moc"
