@@ -47,10 +47,25 @@ bool hasObjectStreams(QPDF& pdf)
                        [](const auto& entry) { return entry.second.getType() == 2; });
 }
 
+// QPDFWriter takes some entries over as they are, though libqpdf itself did without them in reading.
+void completeTrailer(QPDF& pdf)
+{
+    QPDFObjectHandle trailer = pdf.getTrailer();
+    if (!trailer.getKey("/Root").isIndirect())
+        trailer.replaceKey("/Root", pdf.makeIndirectObject(pdf.getRoot()));
+    if (!trailer.getKey("/Size").isInteger())
+        trailer.replaceKey("/Size", QPDFObjectHandle::newInteger(1));
+    if (pdf.isEncrypted()) {
+        const auto bits = static_cast<long long>(pdf.getEncryptionKey().size()) * 8;
+        trailer.getKey("/Encrypt").replaceKey("/Length", QPDFObjectHandle::newInteger(bits));
+    }
+}
+
 void writeInto(Document& document, Pipeline& output)
 {
     if (!document.source()->unchangedSinceOpened())
         throw EngineError(ErrorCode::SourceChanged);
+    completeTrailer(document.pdf());
     QPDFWriter writer(document.pdf());
     writer.setOutputPipeline(&output);
     writer.setDecodeLevel(qpdf_dl_none);

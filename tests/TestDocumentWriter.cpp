@@ -61,6 +61,12 @@ QByteArray pageMode(const QString& path)
     return QByteArray::fromStdString(opened(path)->catalog().getKey("/PageMode").unparse());
 }
 
+std::string replaced(std::string bytes, const std::string& old, const std::string& with)
+{
+    const std::size_t at = bytes.rfind(old);
+    return at == std::string::npos ? std::string() : bytes.replace(at, old.size(), with);
+}
+
 std::string withSettings(const Settings& set)
 {
     QPDF pdf;
@@ -172,13 +178,41 @@ private slots:
         QCOMPARE(pdf.getPDFVersion(), before->pdf().getPDFVersion());
         QCOMPARE(trailer.getKey("/Info").getKey("/Title").getStringValue(), std::string("A title"));
         QCOMPARE(trailer.getKey("/ID").getArrayItem(0).getStringValue(), std::string("a1"));
-        QCOMPARE(trailer.getKey("/Kept").getRawStreamData()->getSize(),
-                 before->pdf().getTrailer().getKey("/Kept").getRawStreamData()->getSize());
+        const auto kept = trailer.getKey("/Kept").getStreamData();
+        QCOMPARE(std::string(reinterpret_cast<char*>(kept->getBuffer()), kept->getSize()),
+                 std::string(5000, 'x'));
         QCOMPARE(pdf.isEncrypted(), before->pdf().isEncrypted());
         QCOMPARE(pdf.allowModifyForm(), before->pdf().allowModifyForm());
         QCOMPARE(content(m_target).find("/ObjStm") == std::string::npos,
                  bytes.find("/ObjStm") == std::string::npos);
         QVERIFY(content(m_target).size() < bytes.size() + 300);
+    }
+
+    void completesTheTrailer_data()
+    {
+        QTest::addColumn<std::string>("bytes");
+        const std::string plain = PdfBuilder::simple();
+        const std::string encrypted = withSettings([](QPDFWriter& writer) {
+            writer.setR3EncryptionParametersInsecure("user", "o", true, true, true, true, true, true,
+                                                     qpdf_r3p_full);
+        });
+        const std::string catalog = "/Root << /Type /Catalog /Pages 2 0 R >>";
+        QTest::newRow("no size") << replaced(plain, "/Size", "/Sixe");
+        QTest::newRow("direct catalog") << replaced(plain, "/Root 1 0 R", catalog);
+        QTest::newRow("no key length") << replaced(encrypted, "/Length 128", "/Wength 128");
+    }
+
+    void completesTheTrailer()
+    {
+        QFETCH(std::string, bytes);
+        store(m_source, bytes);
+        const auto before = opened(m_source);
+        writeWhole(*before, m_target.toStdString());
+        const auto after = opened(m_target);
+        QVERIFY(!after->anyWarnings());
+        QVERIFY(after->pdf().getTrailer().getKey("/Size").getIntValue() > 5);
+        QPDFObjectHandle kept = after->pdf().getTrailer().getKey("/Kept");
+        QVERIFY(!after->pdf().isEncrypted() || kept.getStreamData()->getBuffer()[0] == 'x');
     }
 
     void writesIntoMemoryWhatItWritesIntoAFile()
