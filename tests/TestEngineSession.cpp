@@ -47,6 +47,14 @@ std::string encrypted(int revision, const char* user, const char* owner)
     return {reinterpret_cast<const char*>(buffer->getBuffer()), buffer->getSize()};
 }
 
+/// A catalog entry as MuPDF reads it, on one line.
+QByteArray shown(const QString& path, const QString& entry)
+{
+    QProcess mutool;
+    mutool.start("mutool", {"show", path, "trailer/Root/" + entry});
+    return mutool.waitForFinished() ? mutool.readAllStandardOutput().simplified() : QByteArray("no mutool");
+}
+
 std::wstring wide(const QString& text)
 {
     return text.toStdWString();
@@ -280,6 +288,38 @@ private slots:
         QCOMPARE(library.SecurityInfo(engine::ModificationAllowed), 1);
         QCOMPARE(library.SecurityInfo(100), 0);
         QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::NotAvailable));
+    }
+
+    void writesWhatOtherReadersRead()
+    {
+        LoadedLibrary library;
+        const std::string turned = "<< /Type /Page /Parent 2 0 R /Rotate 90 >>";
+        library.LoadFromString(PdfBuilder().catalog("").pages(3).object(4, turned).bytes(), L"");
+        library.SetPageMode(5);
+        library.SetPageLayout(3);
+        library.SetViewerPreferences(1, 1);
+        library.SetViewerPreferences(6, 1);
+        library.SetViewerPreferences(7, 2);
+        library.SetOpenActionDestinationFull(2, 125, 1, 10, 700, 0, 0);
+        const QString whole = m_folder.filePath("whole.pdf");
+        const QString appended = m_folder.filePath("appended.pdf");
+        QCOMPARE(library.SaveToFile(wide(whole)), 1);
+        QCOMPARE(library.AppendToFile(wide(appended)), 1);
+        for (const QString& path : {whole, appended}) {
+            QCOMPARE(shown(path, "PageMode"), QByteArray("/UseAttachments"));
+            QCOMPARE(shown(path, "PageLayout"), QByteArray("/TwoColumnRight"));
+            QCOMPARE(shown(path, "ViewerPreferences"),
+                     QByteArray(
+                         "<< /DisplayDocTitle true /HideToolbar true /NonFullScreenPageMode /UseThumbs >>"));
+            QCOMPARE(shown(path, "OpenAction/1/Rotate"), QByteArray("90"));
+            QVERIFY(shown(path, "OpenAction").endsWith(" 0 R /XYZ 10 700 1.25 ]"));
+            LoadedLibrary again;
+            QCOMPARE(again.LoadFromFile(wide(path), L""), 1);
+            QCOMPARE(again.GetDestPage(again.GetOpenActionDestination()), 2);
+        }
+        LoadedLibrary third;
+        QCOMPARE(third.LoadFromString(library.SaveToString(), L""), 1);
+        QCOMPARE(third.GetPageMode(), 5);
     }
 
     void survivesMisuse()
