@@ -2,6 +2,7 @@
 #include "engine/Operations.h"
 #include "engine/Text.h"
 
+#include <dlfcn.h>
 #include <fontconfig/fontconfig.h>
 
 #include <memory>
@@ -20,8 +21,20 @@ struct Destroy
     void operator()(auto* object) const { destroy(object); }
 };
 
+/// Fontconfig keeps things in static variables for good. Unloaded along with this library, it would lose
+/// them, each time again.
+void keepFontconfigLoaded()
+{
+    Dl_info library;
+    if (dladdr(reinterpret_cast<void*>(FcConfigDestroy), &library) == 0)
+        return;
+    if (void* const handle = dlopen(library.dli_fname, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE))
+        dlclose(handle);
+}
+
 std::set<std::string> installedFamilies()
 {
+    keepFontconfigLoaded();
     // A configuration of our own: the process's belongs to whoever else uses fontconfig in it.
     const std::unique_ptr<FcConfig, Destroy<FcConfigDestroy>> config(FcInitLoadConfigAndFonts());
     const std::unique_ptr<FcPattern, Destroy<FcPatternDestroy>> everyFont(FcPatternCreate());

@@ -294,7 +294,7 @@ private slots:
     void searchesADeepNameTree()
     {
         std::map<int, std::string> nodes;
-        const int last = 100000;
+        const int last = 40000;
         for (int each = 10; each < last; ++each)
             nodes[each] = "<< /Limits [(k) (m)] /Kids [" + std::to_string(each + 1) + " 0 R 10 0 R] >>";
         nodes[last] = "<< /Names [(key) [5 0 R /Fit]] >>";
