@@ -184,7 +184,7 @@ void WorkerPool::serve(int channel, pid_t parent)
             if (!worker)
                 worker = m_makeWorker();
             const Worker::Answer answer = worker->answer(record);
-            last = answer.last || !sendRecord(channel, (answer.last ? wornOut : fit) + answer.record);
+            last = !sendRecord(channel, (answer.last ? wornOut : fit) + answer.record) || answer.last;
         }
     } catch (const std::exception& error) {
         sendRecord(channel, notStarted + std::string(error.what()).substr(0, largestRecord / 2));
