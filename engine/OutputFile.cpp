@@ -53,6 +53,12 @@ std::string folderOf(const std::string& path)
     return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
 }
 
+bool isUnfinished(const std::string& path)
+{
+    const std::string_view name = std::string_view(path).substr(path.rfind('/') + 1);
+    return name.substr(0, OutputFile::temporaryPrefix.size()) == OutputFile::temporaryPrefix;
+}
+
 std::string unguessableName()
 {
     std::uint64_t number = 0;
@@ -67,6 +73,12 @@ std::string unguessableName()
 
 OutputFile::OutputFile(const std::string& path) : m_target(followed(path))
 {
+    if (isUnfinished(m_target)) {
+        createAt(m_target, 0600);
+        if (m_fd < 0)
+            fail(errno);
+        return;
+    }
     struct stat status = {};
     const bool replaces = ::stat(m_target.c_str(), &status) == 0;
     if (!replaces && errno != ENOENT)
@@ -89,13 +101,17 @@ OutputFile::~OutputFile()
 void OutputFile::create(const std::string& folder, unsigned mode)
 {
     while (m_fd < 0) {
-        const std::string name = folder + unguessableName();
-        m_fd = ::open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-        if (m_fd >= 0)
-            m_temporary = name;
-        else if (errno != EEXIST && errno != EINTR)
+        createAt(folder + unguessableName(), mode);
+        if (m_fd < 0 && errno != EEXIST && errno != EINTR)
             fail(errno);
     }
+}
+
+void OutputFile::createAt(const std::string& name, unsigned mode)
+{
+    m_fd = ::open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    if (m_fd >= 0)
+        m_temporary = name;
 }
 
 void OutputFile::copy(const ByteSource& source)
@@ -182,7 +198,7 @@ void OutputFile::commit()
     const int fd = std::exchange(m_fd, -1);
     if (::close(fd) != 0 && errno != EINTR)
         fail(errno);
-    if (::rename(m_temporary.c_str(), m_target.c_str()) != 0)
+    if (m_temporary != m_target && ::rename(m_temporary.c_str(), m_target.c_str()) != 0)
         fail(errno);
     m_temporary.clear();
 }

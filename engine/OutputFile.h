@@ -20,6 +20,9 @@ public:
     /// A symbolic link is followed, so that its target is what is replaced. The mode of a file that is
     /// replaced is kept; a new one has what the umask leaves. \throws EngineError with NotARegularFile when
     /// the path names something else.
+    ///
+    /// A host that finishes files itself names one that begins with `temporaryPrefix` and does not exist yet:
+    /// that file is written, for its owner alone, and no other name is ever used.
     explicit OutputFile(const std::string& path);
     ~OutputFile();
     OutputFile(const OutputFile&) = delete;
@@ -35,6 +38,7 @@ public:
 
 private:
     void create(const std::string& folder, unsigned mode);
+    void createAt(const std::string& name, unsigned mode);
     void copyExtents(const ByteSource& source);
     void copyRange(const ByteSource& source, std::uint64_t offset, std::uint64_t end);
     void copyThroughMemory(const ByteSource& source, std::uint64_t offset, std::uint64_t end);

@@ -21,7 +21,7 @@ namespace host {
 
 namespace {
 
-const std::string_view prefix = ".quintar-";
+const std::string_view prefix = ".quintar-"; // the library writes files of such names as they are
 const std::time_t strangerAge = 24 * 60 * 60;
 
 /// Process numbers mean something only on one machine since its start and in one container, so names carry
@@ -63,17 +63,6 @@ bool isLeftOver(int folder, const char* name)
     if (const pid_t owner = ownerOf(name); owner > 0)
         return kill(owner, 0) != 0 && errno == ESRCH;
     return std::time(nullptr) - status.st_mtime > strangerAge;
-}
-
-template <class Matches>
-void removeFiles(const std::string& folder, Matches matches)
-{
-    const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
-    if (listing == nullptr)
-        return;
-    while (const dirent* entry = readdir(listing.get()))
-        if (matches(dirfd(listing.get()), entry->d_name))
-            unlinkat(dirfd(listing.get()), entry->d_name, 0);
 }
 
 bool flushFolder(const std::string& folder)
@@ -151,19 +140,19 @@ std::string SafeOutput::temporaryNameFor(const std::string& target)
 
 void SafeOutput::removeTemporary(const std::string& temporary)
 {
-    if (unlink(temporary.c_str()) == 0)
-        return;
-    const std::string name = temporary.substr(temporary.rfind('/') + 1);
-    removeFiles(folderOf(temporary), [&](int, std::string_view entry) {
-        return entry == name || entry.find(name + ".") != std::string_view::npos;
-    });
+    unlink(temporary.c_str());
 }
 
 void SafeOutput::removeLeftovers(const std::string& folder)
 {
-    removeFiles(folder, [](int directory, const char* name) {
-        return std::string_view(name).substr(0, prefix.size()) == prefix && isLeftOver(directory, name);
-    });
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
+    if (listing == nullptr)
+        return;
+    const int directory = dirfd(listing.get());
+    while (const dirent* entry = readdir(listing.get()))
+        if (std::string_view(entry->d_name).substr(0, prefix.size()) == prefix &&
+            isLeftOver(directory, entry->d_name))
+            unlinkat(directory, entry->d_name, 0);
 }
 
 } // namespace host

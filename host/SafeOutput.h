@@ -34,7 +34,7 @@ public:
     /// process they belong to, so that `removeLeftovers` can find those of processes that are gone.
     static std::string temporaryNameFor(const std::string& target);
 
-    /// Removes a temporary file, and what the library may have begun under names derived from it.
+    /// Removes a temporary file, if it is there.
     static void removeTemporary(const std::string& temporary);
 
     /// Removes temporary files from a folder that ended processes left there.

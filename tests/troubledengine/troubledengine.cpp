@@ -24,10 +24,9 @@ Function real(Function, const char* name)
 
 [[noreturn]] void eat()
 {
-    for (;;) {
-        const std::size_t size = 16 << 20;
-        std::memset(new char[size], 1, size);
-    }
+    const std::size_t piece = 16 << 20;
+    for (;;)
+        *static_cast<volatile char*>(::operator new(piece)) = 1;
 }
 
 } // namespace
