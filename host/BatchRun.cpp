@@ -131,7 +131,7 @@ void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
 {
     const RunPlan::Document& planned = m_plan.documents()[document];
     m_ended[document] = true;
-    m_summary.add(planned.name, result);
+    m_summary.add(document, planned.name, result);
     if (m_report != nullptr)
         m_report->add(document, {planned.name,
                                  result.status == Status::Failed ? std::string() : planned.target, result});

@@ -10,12 +10,12 @@ const std::size_t mostNames = 20;
 
 } // namespace
 
-void RunSummary::add(const std::string& name, const DocumentResult& result)
+void RunSummary::add(std::size_t place, const std::string& name, const DocumentResult& result)
 {
     m_changed += result.status == Status::Changed ? 1 : 0;
     m_unchanged += result.status == Status::Unchanged ? 1 : 0;
     if (result.status == Status::Failed)
-        m_failures.push_back({name, result.reason});
+        m_failures.insert_or_assign(place, Failure{name, result.reason});
 }
 
 std::string RunSummary::lineFor(const std::string& name, const DocumentResult& result, bool dryRun)
@@ -32,7 +32,7 @@ std::string RunSummary::lineFor(const std::string& name, const DocumentResult& r
 std::string RunSummary::failures() const
 {
     std::string text;
-    for (const Failure& failure : m_failures)
+    for (const auto& [place, failure] : m_failures)
         text += "failed: " + forTerminal(failure.name) + ": " + forTerminal(failure.reason) + "\n";
     for (std::size_t index = 0; index < m_notDone.size() && index < mostNames; ++index)
         text += "not done: " + forTerminal(m_notDone[index]) + "\n";

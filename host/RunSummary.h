@@ -2,6 +2,8 @@
 
 #include "DocumentJob.h"
 
+#include <cstddef>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -11,7 +13,8 @@ namespace host {
 class RunSummary
 {
 public:
-    void add(const std::string& name, const DocumentResult& result);
+    /// \param place the document's in the input; failures are told in that order.
+    void add(std::size_t place, const std::string& name, const DocumentResult& result);
     void addNotDone(const std::string& name) { m_notDone.push_back(name); }
 
     bool anyFailed() const { return !m_failures.empty(); }
@@ -34,7 +37,7 @@ private:
 
     std::size_t m_changed = 0;
     std::size_t m_unchanged = 0;
-    std::vector<Failure> m_failures;
+    std::map<std::size_t, Failure> m_failures;
     std::vector<std::string> m_notDone;
 };
 

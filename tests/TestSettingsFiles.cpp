@@ -33,6 +33,7 @@ class TestSettingsFiles : public QObject
 private slots:
     void init() { QVERIFY(m_folder.isValid()); }
     void readsWhatQSettingsWrites();
+    void readsStoredSamples();
     void readsEveryKindOfValueAndText();
     void readsEntriesInTheOrderOfTheirNumbers();
     void namesEntriesOfOtherActions();
@@ -89,6 +90,21 @@ void TestSettingsFiles::readsWhatQSettingsWrites()
         QCOMPARE(entries.size(), std::size_t(1));
         QCOMPARE(entries[0].action, QString("Initial View"));
         QCOMPARE(entries[0].settings, sample);
+    }
+}
+
+void TestSettingsFiles::readsStoredSamples()
+{
+    const std::string folder = TEST_DATA_DIR;
+    const SettingsMap list = settingsfile::readActionList(folder + "/manuals.xqq").at(0).settings;
+    QCOMPARE(list.size(), 13);
+    QCOMPARE(list.value("MagnificationComboBox"), QVariant(2));
+    QCOMPARE(list.value("CenterWinOnScreenCheckBox"), QVariant(true));
+    for (SettingsMap other : {settingsfile::readFavorite(folder + "/manuals.ini").at(0).settings,
+                              settingsfile::readToolSettings(folder + "/manuals.tsf").at(0).settings}) {
+        QCOMPARE(other.take("ActionName"), QVariant("Initial View"));
+        other.remove("CollectionName");
+        QCOMPARE(other, list);
     }
 }
 
