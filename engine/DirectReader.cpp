@@ -368,7 +368,7 @@ std::string DirectReader::skeletonTrailer() const
     std::string text = "<<";
     for (const auto& [key, value] : *entries)
         if (std::find(std::begin(sectionKeys), std::end(sectionKeys), key) == std::end(sectionKeys))
-            text += "/" + std::string(key) + " " + std::string(value) + "\n";
+            text.append("/").append(key).append(" ").append(value).append("\n");
     return text + "/Size " + std::to_string(m_size) + " >>";
 }
 
