@@ -65,6 +65,7 @@ void writeInto(Document& document, Pipeline& output)
 {
     if (!document.source()->unchangedSinceOpened())
         throw EngineError(ErrorCode::SourceChanged);
+    document.readWhole();
     completeTrailer(document.pdf());
     QPDFWriter writer(document.pdf());
     writer.setOutputPipeline(&output);

@@ -13,10 +13,11 @@ class Document;
 ///     or the codes of OutputFile.
 void appendUpdate(Document& document, const std::string& path);
 
-/// Writes all of the document anew: encryption, object streams, version, first identifier and information as
-/// they were, streams not compressed again. A linearized document becomes a plain one. What was at `path` is
-/// replaced in one step, or left alone when anything fails; it may be the document's own file. \throws
-/// EngineError with SourceChanged or the codes of OutputFile; QPDFExc as libqpdf reports damage.
+/// Reads all of the document, so that handles from before are stale, and writes it anew: encryption, object
+/// streams, version, first identifier and information as they were, streams not compressed again. A
+/// linearized document becomes a plain one. What was at `path` is replaced in one step, or left alone when
+/// anything fails; it may be the document's own file. \throws EngineError with SourceChanged or the codes of
+/// OutputFile; QPDFExc as libqpdf reports damage.
 void writeWhole(Document& document, const std::string& path);
 
 /// The same into memory.

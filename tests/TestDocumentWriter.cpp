@@ -170,6 +170,8 @@ private slots:
         change(*before);
         writeWhole(*before, m_target.toStdString());
         const auto after = opened(m_target);
+        before->readWhole();
+        after->readWhole();
         QPDF& pdf = after->pdf();
         QPDFObjectHandle trailer = pdf.getTrailer();
         QCOMPARE(pageMode(m_target), QByteArray("/UseThumbs"));
@@ -209,6 +211,7 @@ private slots:
         const auto before = opened(m_source);
         writeWhole(*before, m_target.toStdString());
         const auto after = opened(m_target);
+        after->readWhole();
         QVERIFY(!after->anyWarnings());
         QVERIFY(after->pdf().getTrailer().getKey("/Size").getIntValue() > 5);
         QPDFObjectHandle kept = after->pdf().getTrailer().getKey("/Kept");
