@@ -158,20 +158,24 @@ char* TelvarPDFLibraryCPDylibCPP1311::StringParm(const std::string& text, int& i
     isBuffer = 0;
     if (text.find('\0') == std::string::npos)
         return const_cast<char*>(text.c_str()); // the library's C functions take char* and leave it alone
-    isBuffer = 1;
-    const int size = static_cast<int>(text.size());
-    char* buffer = m_CreateBuffer(m_instance, size);
-    m_AddToBuffer(m_instance, buffer, text.data(), size);
-    return buffer;
+    isBuffer = m_missing ? 0 : 1;
+    return newBuffer(text.data(), text.size());
 }
 
 char* TelvarPDFLibraryCPDylibCPP1311::WideStringParm(const std::wstring& text)
 {
     if (text.empty())
         return nullptr;
-    const int size = static_cast<int>(text.size() * sizeof(wchar_t));
+    return newBuffer(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t));
+}
+
+char* TelvarPDFLibraryCPDylibCPP1311::newBuffer(const char* bytes, std::size_t length)
+{
+    if (m_missing) // perhaps just the functions that this needs
+        return nullptr;
+    const int size = static_cast<int>(length);
     char* buffer = m_CreateBuffer(m_instance, size);
-    m_AddToBuffer(m_instance, buffer, reinterpret_cast<const char*>(text.data()), size);
+    m_AddToBuffer(m_instance, buffer, bytes, size);
     return buffer;
 }
 

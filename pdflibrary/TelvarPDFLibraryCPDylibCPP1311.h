@@ -81,11 +81,13 @@ public:
 
     /// Converts a byte-string argument.
     /// \param[out] isBuffer 1 when the result is a library buffer that the caller releases after the call,
-    /// else 0. \returns the string's own characters, valid as long as the string, or that buffer.
+    /// else 0. \returns the string's own characters, valid as long as the string, or that buffer; null when a
+    /// buffer is needed and the object is not loaded.
     char* StringParm(const std::string& text, int& isBuffer);
 
     /// Converts a wide-string argument into a new library buffer of 4 bytes a character, without terminator.
-    /// \returns null for an empty string. The binding does not release the buffer.
+    /// \returns null for an empty string and when the object is not loaded. The binding does not release the
+    /// buffer.
     char* WideStringParm(const std::wstring& text);
 
     /// Copies `length` characters; empty when `length` is below 1.
@@ -98,6 +100,8 @@ public:
 
 private:
     struct Marshal;
+
+    char* newBuffer(const char* bytes, std::size_t length);
 
     void* m_library = nullptr;
     std::int32_t m_instance = 0;

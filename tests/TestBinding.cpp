@@ -338,6 +338,9 @@ private slots:
 #define TPL_OP(Result, Name, Arguments, ...) QVERIFY2(givesNothing(library, &Library::Name), #Name);
 #include "pdflibrary/operations.def"
 #undef TPL_OP
+            int isBuffer = 7;
+            QVERIFY(library.StringParm(std::string("a\0b", 3), isBuffer) == nullptr && isBuffer == 0);
+            QVERIFY(library.WideStringParm(L"text") == nullptr);
         }
         QCOMPARE(closed, closings);
         QVERIFY(!recorder || recorder->takeLog().isEmpty());
