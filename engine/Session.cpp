@@ -2,6 +2,8 @@
 
 #include "engine/EngineError.h"
 
+#include <qpdf/QPDF.hh>
+
 #include <climits>
 #include <mutex>
 #include <unordered_map>
@@ -10,8 +12,19 @@ namespace engine {
 
 namespace {
 
+/// Destroys a document, so that libqpdf makes the static objects that it needs for that. What is made before
+/// the registry outlives it, and the documents that are still open when the program ends.
+void prepareForLateClosing()
+{
+    const auto pdf = QPDF::create();
+    pdf->emptyPDF();
+    pdf->getRoot();
+}
+
 struct Registry
 {
+    Registry() { prepareForLateClosing(); }
+
     std::mutex mutex;
     std::unordered_map<int, std::shared_ptr<Session>> sessions;
     int lastId = 0;

@@ -6,6 +6,8 @@
 #include <QtTest>
 
 #include <dlfcn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -17,6 +19,16 @@ QByteArray contents(const char* path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Ends the program with a document open and the instance never released, as a host may that gives up.
+[[noreturn]] void leaveWithoutClosing()
+{
+    static auto* const library = new LoadedLibrary; // static: for the leak check it is in use
+    const bool opened = library->LoadFromString(PdfBuilder::simple(), L"") == 1 &&
+                        library->LoadFromString(PdfBuilder::simple(), L"") == 1 &&
+                        library->RemoveDocument(1) == 1 && library->PageCount() > 0;
+    std::exit(opened ? 0 : 1);
 }
 
 /// Calls any operation with zeros and empty strings.
@@ -33,6 +45,17 @@ class TestEngineExports : public QObject
     Q_OBJECT
 
 private slots:
+    // First, since libqpdf stays in a process that has once used it, with what it made by then.
+    void survivesAnExitWithOpenDocuments()
+    {
+        const pid_t child = fork();
+        if (child == 0)
+            leaveWithoutClosing();
+        int status = -1;
+        QCOMPARE(waitpid(child, &status, 0), child);
+        QVERIFY2(WIFEXITED(status) && WEXITSTATUS(status) == 0, qPrintable(QString::number(status)));
+    }
+
     void exportsTheTableAndNothingElse()
     {
         QSet<QString> expected = infrastructure;
