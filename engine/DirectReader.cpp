@@ -1,6 +1,7 @@
 #include "engine/DirectReader.h"
 
 #include "engine/SyntaxScanner.h"
+#include "engine/TableScanner.h"
 
 #include <zlib.h>
 
@@ -133,13 +134,6 @@ std::optional<std::int64_t> fixedNumber(std::string_view digits)
     return whole && value >= 0 ? std::optional(value) : std::nullopt;
 }
 
-bool isTableEntry(std::string_view entry)
-{
-    return entry.size() == static_cast<std::size_t>(entrySize) && fixedNumber(entry.substr(0, 10)) &&
-           entry[10] == ' ' && fixedNumber(entry.substr(11, 5)) && entry[16] == ' ' &&
-           (entry[17] == 'n' || entry[17] == 'f') && isSpace(entry[18]) && isSpace(entry[19]);
-}
-
 bool isNumberInRange(std::optional<std::int64_t> number, std::int64_t largest)
 {
     return number && *number <= largest;
@@ -268,7 +262,7 @@ bool DirectReader::hasGoodEntries(const Run& run) const
         const std::string entries =
             bytes(run.offset + done * entrySize, static_cast<std::size_t>(count * entrySize));
         for (std::size_t at = 0; at < static_cast<std::size_t>(count * entrySize); at += entrySize)
-            if (at > entries.size() || !isTableEntry(std::string_view(entries).substr(at, entrySize)))
+            if (at > entries.size() || !isUsualTableEntry(std::string_view(entries).substr(at, entrySize)))
                 return false;
     }
     return true;
@@ -325,7 +319,7 @@ std::optional<DirectReader::Entry> DirectReader::find(int number) const
 std::optional<DirectReader::Entry> DirectReader::tableEntry(const Run& run, int number) const
 {
     const std::string entry = bytes(run.offset + (number - run.first) * entrySize, entrySize);
-    if (!isTableEntry(entry))
+    if (!isUsualTableEntry(entry))
         return std::nullopt;
     const std::string_view text = entry;
     const auto kind = entry[17] == 'n' ? EntryKind::Plain : EntryKind::Free;

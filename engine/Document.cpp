@@ -149,6 +149,16 @@ QPDFObjectHandle Document::fetched(QPDFObjectHandle object)
     return object;
 }
 
+std::optional<std::string> Document::unreadItem(QPDFObjectHandle array, int index)
+{
+    if (m_direct == nullptr)
+        return std::nullopt;
+    const QPDFObjectHandle object = array.getArrayItem(index);
+    if (!object.isIndirect() || m_fetched.contains(object.getObjGen()))
+        return std::nullopt;
+    return m_direct->object(object.getObjectID(), object.getGeneration());
+}
+
 QPDFObjectHandle Document::makeIndirect(const QPDFObjectHandle& object)
 {
     QPDFObjectHandle made = m_pdf->makeIndirectObject(object);

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -62,6 +63,9 @@ public:
     QPDFObjectHandle item(QPDFObjectHandle array, int index);
     /// The same object, read.
     QPDFObjectHandle fetched(QPDFObjectHandle object);
+    /// The text of an array's element that is an object nobody has read yet, for looking at without reading
+    /// it.
+    std::optional<std::string> unreadItem(QPDFObjectHandle array, int index);
     /// Makes a direct object an indirect one with a new number.
     QPDFObjectHandle makeIndirect(const QPDFObjectHandle& object);
 

@@ -2,6 +2,7 @@
 
 #include "engine/Document.h"
 #include "engine/EngineError.h"
+#include "engine/SyntaxScanner.h"
 
 #include <algorithm>
 #include <climits>
@@ -35,6 +36,19 @@ std::optional<int> statedCount(Document& document, const QPDFObjectHandle& node)
     return static_cast<int>(count.getIntValue());
 }
 
+/// The count of a node that nobody has read yet, from its text alone: adding up the nodes of a large tree
+/// must not cost reading all that they list.
+std::optional<int> unreadCount(Document& document, QPDFObjectHandle kids, int kid)
+{
+    const std::optional<std::string> text = document.unreadItem(kids, kid);
+    const auto entries = text ? dictionaryEntries(*text) : std::nullopt;
+    const bool isNode = entries && entries->contains("Count") && entries->contains("Kids");
+    if (!isNode || !entries->at("Kids").starts_with('['))
+        return std::nullopt;
+    const auto count = wholeInteger(entries->at("Count"));
+    return count && *count <= INT_MAX ? std::optional(static_cast<int>(*count)) : std::nullopt;
+}
+
 std::optional<int> pagesUnder(Document& document, const QPDFObjectHandle& kid)
 {
     switch (kindOf(document, kid)) {
@@ -47,6 +61,8 @@ std::optional<int> pagesUnder(Document& document, const QPDFObjectHandle& kid)
     }
     return std::nullopt;
 }
+
+} // namespace
 
 /// The pages before each kid of a node and, as the last number, all of them; nothing when the node's count
 /// does not agree with its kids'. A node with as many kids as pages has only pages, which need not be looked
@@ -83,7 +99,8 @@ private:
     {
         int sum = 0;
         for (int kid = 0; kid < m_kids; ++kid) {
-            const std::optional<int> pages = pagesUnder(document, document.item(kids, kid));
+            const std::optional<int> unread = unreadCount(document, kids, kid);
+            const std::optional<int> pages = unread ? unread : pagesUnder(document, document.item(kids, kid));
             if (!pages || *pages > total - sum)
                 return false;
             m_before.push_back(sum);
@@ -96,6 +113,8 @@ private:
     int m_kids = 0;
     std::vector<int> m_before;
 };
+
+namespace {
 
 int placeIn(QPDFObjectHandle kids, QPDFObjGen object)
 {
@@ -131,6 +150,7 @@ void PageTree::forget()
     m_walked = false;
     m_nodes.clear();
     m_leaves.clear();
+    m_counts.reset();
     m_lastNumber = 0;
 }
 
@@ -150,12 +170,27 @@ int PageTree::pageCount()
     return static_cast<int>(m_leaves.size());
 }
 
+std::shared_ptr<const KidCounts> PageTree::countsOf(const QPDFObjectHandle& node)
+{
+    // The root's are asked for again and again.
+    if (node.getObjGen() != m_countedNode || m_counts == nullptr) {
+        const std::optional<KidCounts> counts = KidCounts::of(m_document, node);
+        if (!counts)
+            return nullptr;
+        if (node.getObjGen() != root().getObjGen())
+            return std::make_shared<KidCounts>(*counts);
+        m_countedNode = node.getObjGen();
+        m_counts = std::make_shared<KidCounts>(*counts);
+    }
+    return m_counts;
+}
+
 std::optional<int> PageTree::trustedCount()
 {
     if (m_walked || kindOf(m_document, root()) != Kind::Node)
         return std::nullopt;
     const std::optional<int> count = statedCount(m_document, root());
-    const bool fits = count && *count > smallTree && KidCounts::of(m_document, root());
+    const bool fits = count && *count > smallTree && countsOf(root());
     return fits ? count : std::nullopt;
 }
 
@@ -183,7 +218,7 @@ std::optional<PagePath> PageTree::descend(int number)
     std::set<QPDFObjGen> seen;
     QPDFObjectHandle node = root();
     while (true) {
-        const std::optional<KidCounts> counts = KidCounts::of(m_document, node);
+        const std::shared_ptr<const KidCounts> counts = countsOf(node);
         if (!counts || !seen.insert(node.getObjGen()).second)
             return std::nullopt;
         path.nodes.push_back(node);
@@ -286,7 +321,7 @@ std::optional<int> PageTree::climb(QPDFObjectHandle page)
         if (kindOf(m_document, parent) != Kind::Node)
             return std::nullopt;
         const int kid = placeIn(m_document.key(parent, "/Kids"), node.getObjGen());
-        const std::optional<KidCounts> counts = KidCounts::of(m_document, parent);
+        const std::shared_ptr<const KidCounts> counts = countsOf(parent);
         if (kid < 0 || !counts || counts->pagesBefore(kid) > INT_MAX - number)
             return std::nullopt;
         number += counts->pagesBefore(kid);

@@ -4,12 +4,14 @@
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace engine {
 
 class Document;
+class KidCounts;
 
 /// One page and the way to it.
 struct PagePath
@@ -70,6 +72,7 @@ private:
     void walk();
     PagePath walkedPath(const Leaf& leaf) const;
     QPDFObjectHandle walkedPage(const Leaf& leaf) const;
+    std::shared_ptr<const KidCounts> countsOf(const QPDFObjectHandle& node);
     std::optional<int> trustedCount();
     std::optional<PagePath> descend(int number);
     QPDFObjectHandle holderOfKids(const PagePath& path);
@@ -79,6 +82,8 @@ private:
     bool m_walked = false;
     std::vector<Node> m_nodes;
     std::vector<Leaf> m_leaves;
+    std::shared_ptr<const KidCounts> m_counts; ///< Of the root.
+    QPDFObjGen m_countedNode;
     int m_lastNumber = 0; ///< Number of the page in m_lastPath, 0 for none.
     PagePath m_lastPath;
 };

@@ -2,6 +2,7 @@
 
 #include "engine/EngineError.h"
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr std::size_t chunkSize = 65536;
 constexpr std::size_t longestWord = 20;
+constexpr std::size_t usualEntrySize = 20;
 
 [[noreturn]] void refuse()
 {
@@ -23,7 +25,19 @@ bool isSpace(int character)
            character == '\f' || character == '\0';
 }
 
+bool areDigits(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char digit) { return digit >= '0' && digit <= '9'; });
+}
+
 } // namespace
+
+bool isUsualTableEntry(std::string_view text)
+{
+    return text.size() == usualEntrySize && areDigits(text.substr(0, 10)) && text[10] == ' ' &&
+           areDigits(text.substr(11, 5)) && text[16] == ' ' && (text[17] == 'n' || text[17] == 'f') &&
+           isSpace(text[18]) && isSpace(text[19]);
+}
 
 TableScanner::TableScanner(const ByteSource& source, std::uint64_t position)
     : m_source(source), m_chunkStart(position)
@@ -36,7 +50,7 @@ std::optional<TableScanner::Subsection> TableScanner::nextSubsection()
         return std::nullopt;
     Subsection subsection = {number(start), 0};
     subsection.count = number(word());
-    for (long long entry = 0; entry < subsection.count; ++entry) {
+    for (long long entry = skipUsualEntries(subsection.count); entry < subsection.count; ++entry) {
         number(word());
         number(word());
         const std::string_view kind = word();
@@ -44,6 +58,25 @@ std::optional<TableScanner::Subsection> TableScanner::nextSubsection()
             refuse();
     }
     return subsection;
+}
+
+/// Steps over as many entries of the usual 20 bytes as there are.
+long long TableScanner::skipUsualEntries(long long count)
+{
+    while (isSpace(peek()))
+        ++m_next;
+    long long skipped = 0;
+    for (; skipped < count; ++skipped) {
+        if (m_chunk.size() - m_next < usualEntrySize) {
+            m_chunkStart += m_next;
+            m_chunk = m_source.text(m_chunkStart, chunkSize);
+            m_next = 0;
+        }
+        if (!isUsualTableEntry(std::string_view(m_chunk).substr(m_next, usualEntrySize)))
+            break;
+        m_next += usualEntrySize;
+    }
+    return skipped;
 }
 
 int TableScanner::peek()

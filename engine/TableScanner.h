@@ -9,6 +9,9 @@
 
 namespace engine {
 
+/// Whether these are the 20 bytes of an entry as ISO 32000 has it: offset, generation, kind, line end.
+bool isUsualTableEntry(std::string_view text);
+
 /// Walks over a cross-reference table without keeping its entries. Entries need not be 20 bytes long: readers
 /// take those of 19 too.
 class TableScanner
@@ -31,6 +34,7 @@ public:
     std::uint64_t behindTrailerKeyword() const { return m_chunkStart + m_next; }
 
 private:
+    long long skipUsualEntries(long long count);
     int peek();
     std::string_view word();
     long long number(std::string_view text) const;
