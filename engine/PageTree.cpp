@@ -235,12 +235,31 @@ std::optional<PagePath> PageTree::descend(int number)
     }
 }
 
-void PageTree::walk()
+/// Goes through a whole tree, node by node, without recursion.
+class PageTree::Walker
 {
-    if (m_walked)
-        return;
-    m_walked = true;
-    m_lastNumber = 0;
+public:
+    explicit Walker(Document& document) : m_document(document) {}
+
+    void walk(const QPDFObjectHandle& root)
+    {
+        const Kind kind = kindOf(m_document, root);
+        if (kind == Kind::Page && m_document.key(root, "/Type").isNameAndEquals("/Page"))
+            leaves.push_back({-1, 0});
+        else if (kind == Kind::Node)
+            enter(root, -1);
+        while (!m_steps.empty()) {
+            if (m_steps.back().next == m_steps.back().size)
+                m_steps.pop_back();
+            else
+                meetNextKid();
+        }
+    }
+
+    std::vector<Node> nodes;
+    std::vector<Leaf> leaves;
+
+private:
     struct Step
     {
         int node;
@@ -248,33 +267,44 @@ void PageTree::walk()
         int size;
         int next = 0;
     };
-    std::vector<Step> steps;
-    std::set<QPDFObjGen> seen;
-    const auto enter = [&](QPDFObjectHandle node, int parent) {
-        if (node.isIndirect() && !seen.insert(node.getObjGen()).second)
+
+    void enter(const QPDFObjectHandle& node, int parent)
+    {
+        if (node.isIndirect() && !m_seen.insert(node.getObjGen()).second)
             return;
-        m_nodes.push_back({node, parent});
+        nodes.push_back({node, parent});
         QPDFObjectHandle kids = m_document.key(node, "/Kids");
-        steps.push_back({static_cast<int>(m_nodes.size()) - 1, kids, kids.getArrayNItems()});
-    };
-    if (m_document.key(root(), "/Type").isNameAndEquals("/Page") && kindOf(m_document, root()) == Kind::Page)
-        m_leaves.push_back({-1, 0});
-    else if (kindOf(m_document, root()) == Kind::Node)
-        enter(root(), -1);
-    while (!steps.empty()) {
-        if (steps.back().next == steps.back().size) {
-            steps.pop_back();
-            continue;
-        }
-        Step& step = steps.back();
+        m_steps.push_back({static_cast<int>(nodes.size()) - 1, kids, kids.getArrayNItems()});
+    }
+
+    void meetNextKid()
+    {
+        Step& step = m_steps.back();
         const int kid = step.next++;
-        QPDFObjectHandle object = m_document.item(step.kids, kid);
+        const int node = step.node;
+        const QPDFObjectHandle object = m_document.item(step.kids, kid);
         const Kind kind = kindOf(m_document, object);
         if (kind == Kind::Page)
-            m_leaves.push_back({step.node, kid});
+            leaves.push_back({node, kid});
         else if (kind == Kind::Node)
-            enter(object, step.node);
+            enter(object, node);
     }
+
+    Document& m_document;
+    std::vector<Step> m_steps;
+    std::set<QPDFObjGen> m_seen;
+};
+
+void PageTree::walk()
+{
+    if (m_walked)
+        return;
+    Walker walker(m_document);
+    walker.walk(root());
+    m_nodes = std::move(walker.nodes);
+    m_leaves = std::move(walker.leaves);
+    m_walked = true;
+    m_lastNumber = 0;
 }
 
 QPDFObjectHandle PageTree::walkedPage(const Leaf& leaf) const

@@ -68,6 +68,8 @@ private:
         int kid;
     };
 
+    class Walker;
+
     QPDFObjectHandle root();
     void walk();
     PagePath walkedPath(const Leaf& leaf) const;
