@@ -89,8 +89,9 @@ void IncrementalUpdate::writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& chan
     for (const QPDFObjGen object : changed)
         writeObject(pdf.getObject(object));
     // Writing a new object may bring further references.
-    for (std::size_t next = 0; next < m_serializer.references().size(); ++next) {
-        const QPDFObjGen reference = m_serializer.references()[next];
+    std::size_t next = 0;
+    while (next < m_serializer.references().size()) {
+        const QPDFObjGen reference = m_serializer.references()[next++];
         if (reference.getObj() < m_crossReference.entryEnd() || m_entries.contains(reference.getObj()))
             continue;
         QPDFObjectHandle object = pdf.getObject(reference);

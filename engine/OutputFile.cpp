@@ -42,7 +42,7 @@ std::string followed(const std::string& path)
     char* resolved = ::realpath(path.c_str(), nullptr);
     if (resolved == nullptr)
         fail(errno);
-    const std::string target(resolved);
+    std::string target(resolved);
     std::free(resolved);
     return target;
 }

@@ -18,11 +18,8 @@ public:
     static constexpr std::string_view temporaryPrefix = ".quintar-";
 
     /// A symbolic link is followed, so that its target is what is replaced. The mode of a file that is
-    /// replaced is kept; a new one has what the umask leaves. \throws EngineError with NotARegularFile when
-    /// the path names something else.
-    ///
-    /// A host that finishes files itself names one that begins with `temporaryPrefix` and does not exist yet:
-    /// that file is written, for its owner alone, and no other name is ever used.
+    /// replaced is kept; a new one has what the umask leaves.
+    /// \throws EngineError with NotARegularFile when the path names something else.
     explicit OutputFile(const std::string& path);
     ~OutputFile();
     OutputFile(const OutputFile&) = delete;

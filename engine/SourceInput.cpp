@@ -41,7 +41,7 @@ void SourceInput::moveWindow()
     // Parsers step back a little, so the window begins before the position.
     m_windowSize = 0;
     m_windowStart = m_position - m_position % 512;
-    const auto size = std::min<qpdf_offset_t>(m_window.size(), m_end - m_windowStart);
+    const auto size = std::min(static_cast<qpdf_offset_t>(m_window.size()), m_end - m_windowStart);
     m_windowSize = m_source->read(static_cast<std::uint64_t>(m_windowStart), m_window.data(),
                                   static_cast<std::size_t>(size));
 }
