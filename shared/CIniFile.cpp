@@ -1,5 +1,7 @@
 #include "CIniFile.h"
 
+#include "IniCheck.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
@@ -23,6 +25,12 @@ const qint64 clockDoubt = 1000;
 bool isOrdinary(const QFileInfo& file)
 {
     return file.isFile() && file.size() <= largestFile;
+}
+
+bool isHarmless(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && isHarmlessIni(file.read(largestFile));
 }
 
 /// QLockFile reads what stands in the lock's place, and a FIFO would stop it there.
@@ -103,7 +111,7 @@ CIniFile::~CIniFile() = default;
 
 void CIniFile::openForReading(const QString& path)
 {
-    if (isOrdinary(QFileInfo(path)))
+    if (isOrdinary(QFileInfo(path)) && isHarmless(path))
         m_settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
 }
 
@@ -127,7 +135,7 @@ bool CIniFile::copyTarget(const QString& copy) const
     const QFileInfo target(m_target);
     if (!target.exists())
         return true;
-    return isOrdinary(target) && target.isWritable() && QFile::copy(m_target, copy) &&
+    return isOrdinary(target) && target.isWritable() && QFile::copy(m_target, copy) && isHarmless(copy) &&
            QFile::setPermissions(copy, target.permissions() | QFile::ReadOwner | QFile::WriteOwner);
 }
 

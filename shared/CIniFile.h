@@ -18,7 +18,7 @@ class QTemporaryDir;
 /// nothing.
 ///
 /// What cannot be read counts as empty, and what cannot be written stays as it was. That holds for everything
-/// but an ordinary file of at most 16 MiB.
+/// but an ordinary file of at most 16 MiB whose variants isHarmlessIni() accepts.
 class CIniFile
 {
 public:
