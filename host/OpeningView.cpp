@@ -1,5 +1,7 @@
 #include "OpeningView.h"
 
+#include "ViewWords.h"
+
 #include "EditInitialView/InitialViewSettings.h"
 #include "engine/ErrorCodes.h"
 #include "engine/FileNameCodec.h"
@@ -11,10 +13,13 @@
 
 namespace host {
 
+using viewwords::labelAt;
+using viewwords::line;
+using viewwords::yesOrNo;
+
 namespace {
 
 const int zoomValue = 5; // of GetDestValue
-const std::size_t labelWidth = 22;
 
 constexpr std::array pageModeNames{"UseNone",    "UseOutlines", "UseThumbs",
                                    "FullScreen", "UseOC",       "UseAttachments"};
@@ -23,21 +28,12 @@ constexpr std::array pageLayoutNames{"SinglePage",     "OneColumn",   "TwoColumn
 constexpr std::array destinationNames{"", "XYZ", "Fit", "FitH", "FitV", "FitBH"};
 constexpr std::array preferenceNames{"",          "HideToolbar",  "HideMenubar",     "HideWindowUI",
                                      "FitWindow", "CenterWindow", "DisplayDocTitle", "NonFullScreenPageMode"};
-constexpr std::array preferenceWords{
-    "", "Hide tool bars", "Hide menu bar", "Hide window controls", "Fit window to page", "Center window"};
-
-template <class Table>
-const char* at(const Table& table, int index, const char* otherwise)
-{
-    return index >= 0 && index < static_cast<int>(table.size()) ? table[static_cast<std::size_t>(index)]
-                                                                : otherwise;
-}
 
 std::string modeInWords(int mode)
 {
     if (mode == pdflibrary::FullScreen)
         return "Full screen";
-    return at(initialview::navigationLabels, initialview::rowOfPageMode(mode), "unknown");
+    return labelAt(initialview::navigationLabels, initialview::rowOfPageMode(mode), "unknown");
 }
 
 std::string percent(double zoom)
@@ -49,13 +45,7 @@ std::string magnificationInWords(const OpeningView::Destination& destination)
 {
     if (destination.type == pdflibrary::Zoomed && destination.zoom > 0)
         return percent(destination.zoom);
-    return at(initialview::magnificationLabels, destination.type - 1, "unknown");
-}
-
-std::string line(const std::string& label, const std::string& text)
-{
-    return "  " + label + std::string(label.size() < labelWidth ? labelWidth - label.size() : 1, ' ') + text +
-           "\n";
+    return labelAt(initialview::magnificationLabels, destination.type - 1, "unknown");
 }
 
 std::string destinationInWords(const std::optional<OpeningView::Destination>& destination)
@@ -72,7 +62,8 @@ QJsonValue destinationToJson(const std::optional<OpeningView::Destination>& dest
 {
     if (!destination)
         return {};
-    QJsonObject object{{"page", destination->page}, {"type", at(destinationNames, destination->type, "")}};
+    QJsonObject object{{"page", destination->page},
+                       {"type", labelAt(destinationNames, destination->type, "")}};
     object.insert("zoom", destination->zoom > 0 ? QJsonValue(destination->zoom) : QJsonValue());
     object.insert("name", destination->name.empty() ? QJsonValue()
                                                     : QJsonValue(QString::fromStdString(destination->name)));
@@ -106,12 +97,12 @@ std::string OpeningView::inWords() const
     if (signatures > 0)
         text += line("Signatures", std::to_string(signatures));
     text += line("Navigation tab", modeInWords(pageMode));
-    text += line("Page layout", at(initialview::pageLayoutLabels, pageLayout, "unknown"));
+    text += line("Page layout", labelAt(initialview::pageLayoutLabels, pageLayout, "unknown"));
     text += destinationInWords(destination);
-    for (std::size_t option = 1; option < preferenceWords.size(); ++option)
-        text += line(preferenceWords[option], preferences[option] == 1 ? "yes" : "no");
-    text +=
-        line("Title bar shows", at(initialview::titleLabels, preferences[pdflibrary::TitleBar], "unknown"));
+    for (std::size_t option = pdflibrary::HideToolBars; option <= pdflibrary::CenterWindow; ++option)
+        text += line(viewwords::preference(option), yesOrNo(preferences[option] == 1));
+    text += line("Title bar shows",
+                 labelAt(initialview::titleLabels, preferences[pdflibrary::TitleBar], "unknown"));
     return text + line("After full screen", modeInWords(preferences[pdflibrary::NonFullScreenMode]));
 }
 
@@ -122,12 +113,12 @@ QJsonObject OpeningView::toJson() const
         settings.insert(preferenceNames[static_cast<std::size_t>(option)],
                         preferences[static_cast<std::size_t>(option)] == 1);
     settings.insert(preferenceNames[pdflibrary::NonFullScreenMode],
-                    at(pageModeNames, preferences[pdflibrary::NonFullScreenMode], ""));
-    const char* layout = at(pageLayoutNames, pageLayout, nullptr);
+                    labelAt(pageModeNames, preferences[pdflibrary::NonFullScreenMode], ""));
+    const char* layout = labelAt(pageLayoutNames, pageLayout, nullptr);
     return {{"pages", pageCount},
             {"encrypted", encrypted},
             {"signatures", signatures},
-            {"pageMode", at(pageModeNames, pageMode, "")},
+            {"pageMode", labelAt(pageModeNames, pageMode, "")},
             {"pageLayout", layout == nullptr ? QJsonValue() : QJsonValue(layout)},
             {"openAction", destinationToJson(destination)},
             {"viewerPreferences", settings}};

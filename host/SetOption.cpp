@@ -5,7 +5,6 @@
 #include "EditInitialView/InitialViewSettings.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace host::setoption {
 
@@ -122,6 +121,25 @@ void apply(const std::string& word, SettingsMap& map)
     if (key == initialview::keys.end())
         refuseKey(name);
     map.insert(key->name, valueOf(*key, word.substr(equals + 1)));
+}
+
+std::vector<std::string> wordsOf(const SettingsMap& map, std::vector<std::string>& leftOut)
+{
+    std::vector<std::string> words;
+    for (const Key& key : initialview::keys) {
+        if (key.type == ValueType::Text)
+            continue;
+        const QVariant value = map.value(key.name);
+        const int number = value.toInt();
+        const std::string name = key.name;
+        if (!value.isValid() || number < key.lowest || number > key.highest)
+            leftOut.push_back(name);
+        else if (key.type == ValueType::Flag)
+            words.push_back(name + (value.toBool() ? "=true" : "=false"));
+        else
+            words.push_back(name + "=" + std::to_string(number));
+    }
+    return words;
 }
 
 std::string describeKeys()

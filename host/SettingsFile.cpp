@@ -5,6 +5,7 @@
 #include "UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
+#include "shared/lists/SettingsFiles.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -12,6 +13,8 @@
 namespace host::settingsfile {
 
 namespace {
+
+using namespace settingsfiles;
 
 const std::size_t largestFile = 16 << 20;
 const std::string entryNameKey = "ActionName";
@@ -56,14 +59,22 @@ bool hasKnownKey(const SettingsMap& map)
                        [&](const initialview::Key& key) { return map.contains(key.name); });
 }
 
+/// The action's name; empty where the settings do not tell and are none of ours.
+QString actionOf(const SettingsMap& map)
+{
+    const QString ours = hasKnownKey(map) ? initialview::actionName : "";
+    const QString action = map.value(initialview::key::ActionName, ours).toString();
+    return action == initialview::actionName ? ours : action;
+}
+
 std::vector<ActionEntry> readSingle(const std::string& path, const std::string& key)
 {
     const SettingsMap map = readMap(readIni(path), path, key);
-    const QString action = map.value(initialview::key::ActionName, initialview::actionName).toString();
-    if (action != initialview::actionName || !hasKnownKey(map))
-        refuse(path, QString("these are settings of another action%1; only \"%2\" can be run")
-                         .arg(action == initialview::actionName ? QString() : " (\"" + action + "\")",
-                              initialview::actionName));
+    const QString action = actionOf(map);
+    if (action != initialview::actionName)
+        refuse(path,
+               QString("these are settings of another action%1; only \"%2\" can be run")
+                   .arg(action.isEmpty() ? QString() : " (\"" + action + "\")", initialview::actionName));
     return {{action, map}};
 }
 
@@ -84,13 +95,33 @@ std::vector<int> entryNumbers(const IniText& ini)
     return numbers;
 }
 
-void refuseOtherActions(const std::string& path, const IniText& ini, const std::vector<int>& numbers)
+QString textOf(const IniText& ini, const std::string& key)
+{
+    return unmarkedText(ini.text(key).value_or(QString()));
+}
+
+StoredSettings describe(const std::string& path, const IniText& ini)
+{
+    StoredSettings list{textOf(ini, actionlist::sequenceName), textOf(ini, actionlist::sequenceCategory), {}};
+    for (const int number : entryNumbers(ini)) {
+        const QString action = textOf(ini, entryNameKey + std::to_string(number));
+        const bool ours = action == initialview::actionName;
+        list.entries.push_back(
+            {action, ours ? readMap(ini, path, entrySettingsKey + std::to_string(number)) : SettingsMap(),
+             number});
+    }
+    if (list.entries.empty())
+        refuse(path, "not an action list: it has no \"ActionName0\"");
+    return list;
+}
+
+void refuseOtherActions(const std::string& path, const IniText& ini)
 {
     QStringList others;
-    for (const int number : numbers) {
-        const auto name = ini.text(entryNameKey + std::to_string(number)).value_or(QString());
-        if (unmarkedText(name) != initialview::actionName)
-            others += QString("entry %1 is \"%2\"").arg(number).arg(unmarkedText(name));
+    for (const int number : entryNumbers(ini)) {
+        const QString name = textOf(ini, entryNameKey + std::to_string(number));
+        if (name != initialview::actionName)
+            others += QString("entry %1 is \"%2\"").arg(number).arg(name);
     }
     if (!others.isEmpty())
         refuse(path, QString("the list holds other actions, and only \"%1\" can be run: %2")
@@ -102,15 +133,21 @@ void refuseOtherActions(const std::string& path, const IniText& ini, const std::
 std::vector<ActionEntry> readActionList(const std::string& path)
 {
     const IniText ini = readIni(path);
-    const std::vector<int> numbers = entryNumbers(ini);
-    if (numbers.empty())
-        refuse(path, "not an action list: it has no \"ActionName0\"");
-    refuseOtherActions(path, ini, numbers);
-    std::vector<ActionEntry> entries;
-    for (const int number : numbers)
-        entries.push_back(
-            {initialview::actionName, readMap(ini, path, entrySettingsKey + std::to_string(number))});
-    return entries;
+    refuseOtherActions(path, ini);
+    return describe(path, ini).entries;
+}
+
+StoredSettings describeActionList(const std::string& path)
+{
+    return describe(path, readIni(path));
+}
+
+StoredSettings describeFavorite(const std::string& path)
+{
+    const SettingsMap map = readMap(readIni(path), path, entrySettingsKey);
+    const QString action = actionOf(map);
+    const bool ours = action == initialview::actionName;
+    return {map.value(request::collectionName).toString(), {}, {{action, ours ? map : SettingsMap()}}};
 }
 
 std::vector<ActionEntry> readFavorite(const std::string& path)

@@ -12,6 +12,18 @@ struct ActionEntry
 {
     QString action;
     SettingsMap settings;
+    /// In an action list, the number of the entry's keys.
+    int number = 0;
+};
+
+/// What a file of stored settings holds. Entries of other actions have no settings.
+struct StoredSettings
+{
+    /// As its user named it; may differ from the file's name. Empty where the file does not tell.
+    QString name;
+    /// Of an action list.
+    QString category;
+    std::vector<ActionEntry> entries;
 };
 
 /// Reads the files in which settings are stored. What cannot be read whole and understood is refused with a
@@ -28,6 +40,12 @@ std::vector<ActionEntry> readFavorite(const std::string& path);
 
 /// The settings of a tool settings file (.tsf).
 std::vector<ActionEntry> readToolSettings(const std::string& path);
+
+/// All of an action list. Other actions are no reason to refuse it.
+StoredSettings describeActionList(const std::string& path);
+
+/// The same of a favourite.
+StoredSettings describeFavorite(const std::string& path);
 
 } // namespace settingsfile
 

@@ -1,14 +1,14 @@
 #include "FileDescriptor.h"
 #include "FileNames.h"
+#include "HostApplication.h"
 #include "UsageError.h"
+#include "cli/ConfigureCommand.h"
+#include "cli/ListsCommand.h"
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
 
-#include <QCoreApplication>
-
 #include <unistd.h>
 
-#include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <memory>
@@ -24,6 +24,8 @@ Commands allCommands()
     Commands commands;
     commands.push_back(std::make_unique<host::RunCommand>());
     commands.push_back(std::make_unique<host::ShowCommand>());
+    commands.push_back(std::make_unique<host::ConfigureCommand>());
+    commands.push_back(std::make_unique<host::ListsCommand>());
     return commands;
 }
 
@@ -44,6 +46,15 @@ int complain(const std::string& message, int status)
     return status;
 }
 
+host::Command& commandNamed(const Commands& commands, const std::string& word)
+{
+    for (const auto& command : commands)
+        if (word == command->name())
+            return *command;
+    throw host::UsageError((word.empty() ? "which command?" : "unknown command \"" + word + "\"") + "\n\n" +
+                           helpText(commands));
+}
+
 int runCommand(int argc, char** argv)
 {
     const Commands commands = allCommands();
@@ -56,11 +67,12 @@ int runCommand(int argc, char** argv)
         std::puts("quintar " QUINTAR_VERSION);
         return host::exitstatus::done;
     }
-    for (const auto& command : commands)
-        if (word == command->name())
-            return command->run(argc - 1, argv + 1);
-    throw host::UsageError((word.empty() ? "which command?" : "unknown command \"" + word + "\"") + "\n\n" +
-                           helpText(commands));
+    host::Command& command = commandNamed(commands, word);
+    int qtArguments = 1;
+    std::unique_ptr<QCoreApplication> application;
+    if (!command.showsWindows())
+        application = host::hostapplication::forTerminal(qtArguments, argv);
+    return command.run(argc - 1, argv + 1);
 }
 
 } // namespace
@@ -68,11 +80,6 @@ int runCommand(int argc, char** argv)
 int main(int argc, char** argv)
 {
     std::signal(SIGPIPE, SIG_IGN); // a reader of our output that goes away does not end a batch
-    int qtArguments = 1;
-    const QCoreApplication application(qtArguments, argv);
-    QCoreApplication::setApplicationName("quintar");
-    QCoreApplication::setApplicationVersion(QUINTAR_VERSION);
-    std::setlocale(LC_NUMERIC, "C"); // Qt takes over the user's, whose decimal comma is none of PDF's
     try {
         return runCommand(argc, argv);
     } catch (const std::exception& error) {

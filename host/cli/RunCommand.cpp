@@ -10,6 +10,7 @@
 #include "host/SafeOutput.h"
 #include "host/SetOption.h"
 #include "host/SettingsFile.h"
+#include "host/SettingsFolder.h"
 #include "host/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
@@ -38,8 +39,8 @@ const char helpText[] =
 Makes PDF documents open as the settings say. A folder stands for the PDF documents in it and its subfolders.
 
 Settings, from one source:
-  --list FILE.xqq           an action list; its entries are applied in their order
-  --favorite FILE.ini       a favourite
+  --list FILE.xqq|NAME      an action list; its entries are applied in their order
+  --favorite FILE.ini|NAME  a favourite; "quintar lists" tells the names
   --tool-settings FILE.tsf  a tool settings file
   --set KEY=VALUE           one setting; may be repeated
 
@@ -195,9 +196,9 @@ void RunCommand::check() const
 void RunCommand::readSettings()
 {
     if (!m_lists.empty()) {
-        m_options.entries = settingsfile::readActionList(m_lists.front());
+        m_options.entries = settingsfile::readActionList(SettingsFolder::actionLists().find(m_lists.front()));
     } else if (!m_favorites.empty()) {
-        m_options.entries = settingsfile::readFavorite(m_favorites.front());
+        m_options.entries = settingsfile::readFavorite(SettingsFolder::favorites().find(m_favorites.front()));
     } else if (!m_toolSettings.empty()) {
         m_options.entries = settingsfile::readToolSettings(m_toolSettings.front());
     } else {

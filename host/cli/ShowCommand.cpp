@@ -5,6 +5,7 @@
 #include "host/FileDescriptor.h"
 #include "host/FileNames.h"
 #include "host/InstallLayout.h"
+#include "host/JsonLine.h"
 #include "host/OpeningView.h"
 #include "host/StopSignal.h"
 #include "host/UsageError.h"
@@ -13,8 +14,6 @@
 #include "engine/ErrorCodes.h"
 #include "engine/FileNameCodec.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
-
-#include <QJsonDocument>
 
 #include <unistd.h>
 
@@ -60,18 +59,16 @@ public:
             return {unreadable + std::string(engine::errorText(m_library.LastErrorCode()))};
         const OpeningView view = OpeningView::read(m_library);
         m_library.RemoveDocument(m_library.SelectedDocument());
-        return {readable + (m_json ? jsonLine(file, view)
-                                   : forTerminal(file) + "\n" + forTerminalLines(view.inWords()))};
+        return {readable +
+                (m_json ? toJson(file, view) : forTerminal(file) + "\n" + forTerminalLines(view.inWords()))};
     }
 
 private:
-    static std::string jsonLine(const std::string& file, const OpeningView& view)
+    static std::string toJson(const std::string& file, const OpeningView& view)
     {
         QJsonObject object = view.toJson();
-        object.insert("file", QString::fromStdString(file));
-        if (!isUtf8(file))
-            object.insert("fileBytes", QString::fromStdString(percentEncoded(file)));
-        return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + "\n";
+        insertFile(object, file);
+        return jsonLine(object);
     }
 
     std::string m_password;

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "StoredVariant.h"
+
+#include <QImage>
+
+#include <string>
+
+class CIniFile;
+
+namespace host {
+
+/// A file that settings are to be written to: an action list, a favourite or tool settings, as its suffix
+/// says.
+class SettingsOutput
+{
+public:
+    /// Where the settings come from when the same file is changed: everything else in it stays.
+    struct Edit
+    {
+        /// The file; empty when there is none.
+        std::string file;
+        /// In an action list, the number of the entry's keys.
+        int entry = 0;
+    };
+
+    /// Throws UsageError when the suffix is unknown or no file can be written there.
+    explicit SettingsOutput(const std::string& path);
+
+    /// Replaces the file as a whole, or leaves it as it was.
+    /// \param edit when it names this very file, its other content is kept.
+    /// \param icon goes with a favourite that has none.
+    /// \returns empty, or the reason of the failure.
+    std::string write(const SettingsMap& settings, const Edit& edit, const QImage& icon) const;
+
+private:
+    enum class Kind { ActionList, Favorite, ToolSettings };
+
+    static Kind kindOf(const std::string& path);
+    void checkPlace() const;
+    bool isSameFile(const std::string& path) const;
+    bool compose(const QString& draft, const SettingsMap& settings, int entry, const QImage& icon) const;
+    void composeActionList(CIniFile& file, const SettingsMap& settings, int entry) const;
+    void composeFavorite(CIniFile& file, SettingsMap settings, const QImage& icon) const;
+    std::string putInPlace(const std::string& draft) const;
+    QString baseName() const;
+
+    std::string m_path;
+    Kind m_kind;
+};
+
+} // namespace host

@@ -1,0 +1,238 @@
+#include "ConfigureCommand.h"
+
+#include "OptionParser.h"
+
+#include "host/FileDescriptor.h"
+#include "host/FileNames.h"
+#include "host/HostApplication.h"
+#include "host/InstallLayout.h"
+#include "host/PluginHost.h"
+#include "host/SetOption.h"
+#include "host/SettingsFolder.h"
+#include "host/UsageError.h"
+
+#include "EditInitialView/InitialViewSettings.h"
+#include "engine/ErrorCodes.h"
+#include "engine/FileNameCodec.h"
+#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
+#include "shared/CActionInterface.h"
+#include "shared/lists/SettingsFiles.h"
+
+#include <QApplication>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace host {
+
+namespace {
+
+using namespace settingsfiles;
+
+const int mostEntries = 1 << 20;
+const int iconSide = 42;
+
+const char helpText[] =
+    R"(Usage: quintar configure [DOCUMENT] [--list|--favorite|--tool-settings FILE] [-o FILE]
+
+Shows the settings in a window. They start as the document opens now, or as the file has them; with both, the
+file counts. OK prints them as words for "quintar run", or writes them to a file; Cancel does nothing.
+
+Options:
+  --list FILE.xqq|NAME      starts from an entry of an action list
+  --entry N                 of its several entries the one that "quintar lists" shows in place N
+  --favorite FILE.ini|NAME  starts from a favourite
+  --tool-settings FILE.tsf  starts from a tool settings file
+  -o, --output FILE         writes to an action list (.xqq), a favourite (.ini) or a tool settings file (.tsf);
+                            where that is the file that the settings come from, the rest of it stays
+  --password P              opens an encrypted document
+  -h, --help                prints this text
+
+Exit status: 0 done, 1 cancelled or not written, 2 nothing was begun.
+)";
+
+void tell(const std::string& text)
+{
+    const std::string line = "quintar: " + forTerminal(text) + "\n";
+    writeAll(STDERR_FILENO, line.data(), line.size());
+}
+
+OptionParser::Take append(std::vector<std::string>& values)
+{
+    return [&values](const std::string& value) { values.push_back(value); };
+}
+
+/// The window's save buttons fail without a word.
+void noteMissingFolders()
+{
+    for (const SettingsFolder& folder : {SettingsFolder::actionLists(), SettingsFolder::favorites()})
+        if (const std::string problem = folder.make(); !problem.empty())
+            tell(std::string("note: no ") + folder.kind() + " can be stored: " + problem);
+}
+
+/// The document, open in the library for as long as the object lives.
+class OpenDocument
+{
+public:
+    OpenDocument(const std::string& file, const std::string& password)
+        : m_library(toLibraryPath(installlayout::libraryFile()))
+    {
+        if (!m_library.LibraryLoaded())
+            throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
+        if (m_library.LoadFromFile(engine::wideFromFileName(file), engine::wideFromFileName(password)) == 0)
+            throw UsageError(file + ": " + std::string(engine::errorText(m_library.LastErrorCode())));
+    }
+
+    void lendTo(DialogLoadStruct& load)
+    {
+        load.pPDFLibrary = &m_library;
+        load.nDocumentID = m_library.SelectedDocument();
+    }
+
+private:
+    TelvarPDFLibraryCPDylibCPP1311 m_library;
+};
+
+/// The one of the action's images that stands out, as its dialog gives it to favourites.
+QImage iconOf(CActionInterface& action)
+{
+    const QImage image(":/Quintar/Resources/Tools/" + action.GetDefaultIcon().section('#', 1, 1));
+    return image.scaled(iconSide, iconSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
+int ConfigureCommand::run(int argc, char** argv)
+{
+    parse(argc, argv);
+    if (m_help) {
+        std::fputs(helpText, stdout);
+        return exitstatus::done;
+    }
+    check();
+    readSettings();
+    if (showDialog())
+        return deliver();
+    tell("the window was closed without OK: no settings were " +
+         std::string(m_output ? "written" : "printed"));
+    return exitstatus::someFailed;
+}
+
+void ConfigureCommand::parse(int argc, char** argv)
+{
+    OptionParser parser;
+    parser.addValue("list", append(m_lists));
+    parser.addValue("favorite", append(m_favorites));
+    parser.addValue("tool-settings", append(m_toolSettings));
+    parser.addValue("entry", [this](const std::string& value) {
+        m_entry = numberOption("--entry", value, 1, mostEntries);
+    });
+    parser.addValue(
+        "output",
+        [this](const std::string& value) {
+            if (m_output)
+                throw UsageError("-o is given twice");
+            m_output.emplace(value);
+        },
+        'o');
+    parser.addValue("password", [this](const std::string& value) { m_password = value; });
+    parser.addFlag("help", m_help, 'h');
+    m_documents = parser.parse(argc, argv);
+}
+
+void ConfigureCommand::check() const
+{
+    if (m_documents.size() > 1)
+        throw UsageError("configure takes one document, not " + std::to_string(m_documents.size()));
+    if (m_lists.size() + m_favorites.size() + m_toolSettings.size() > 1)
+        throw UsageError("settings come from one file: --list, --favorite or --tool-settings");
+    if (m_entry != 0 && m_lists.empty())
+        throw UsageError("--entry goes with --list");
+}
+
+void ConfigureCommand::readSettings()
+{
+    if (!m_lists.empty()) {
+        m_source.file = SettingsFolder::actionLists().find(m_lists.front());
+        chooseEntry(settingsfile::describeActionList(m_source.file));
+    } else if (!m_favorites.empty()) {
+        m_source.file = SettingsFolder::favorites().find(m_favorites.front());
+        m_settings = settingsfile::readFavorite(m_source.file).front().settings;
+    } else if (!m_toolSettings.empty()) {
+        m_source.file = m_toolSettings.front();
+        m_settings = settingsfile::readToolSettings(m_source.file).front().settings;
+    }
+}
+
+void ConfigureCommand::chooseEntry(const StoredSettings& list)
+{
+    const auto ours = [](const ActionEntry& entry) { return entry.action == initialview::actionName; };
+    const auto& entries = list.entries;
+    const auto first = std::find_if(entries.begin(), entries.end(), ours);
+    auto chosen = first;
+    if (m_entry != 0)
+        chosen = entries.begin() + std::min<std::ptrdiff_t>(m_entry - 1, std::ssize(entries));
+    else if (std::count_if(entries.begin(), entries.end(), ours) > 1)
+        throw UsageError(m_source.file + " holds several entries; say which with --entry");
+    if (chosen == entries.end() || !ours(*chosen))
+        throw UsageError(m_source.file + (m_entry != 0 ? " has no entry of \"" : " holds no \"") +
+                         initialview::actionName + "\"" +
+                         (m_entry != 0 ? " in place " + std::to_string(m_entry) : ""));
+    m_source.entry = chosen->number;
+    m_settings = chosen->settings;
+}
+
+bool ConfigureCommand::showDialog()
+{
+    std::optional<OpenDocument> document;
+    if (!m_documents.empty())
+        document.emplace(m_documents.front(), m_password);
+    char program[] = "quintar";
+    char* arguments[] = {program, nullptr};
+    int count = 1;
+    std::unique_ptr<QCoreApplication> application;
+    if (QCoreApplication::instance() == nullptr)
+        application = hostapplication::forWindows(count, arguments);
+    const PluginHost plugin(installlayout::pluginFile());
+    noteMissingFolders();
+
+    DialogLoadStruct load{};
+    load.pSettings = &m_settings;
+    load.bSkipDocumentRead = !m_source.file.empty();
+    if (document)
+        document->lendTo(load);
+    m_icon = iconOf(plugin.action());
+    return plugin.action().ShowDialogProc(nullptr, &load) == 1;
+}
+
+int ConfigureCommand::deliver()
+{
+    for (const char* request :
+         {request::actionListName, request::actionListCategory, request::actionListOverwrite})
+        m_settings.remove(request);
+    return m_output ? write() : print();
+}
+
+int ConfigureCommand::print() const
+{
+    std::vector<std::string> leftOut;
+    std::string line;
+    for (const std::string& word : setoption::wordsOf(m_settings, leftOut))
+        line += (line.empty() ? "--set " : " --set ") + word;
+    for (const std::string& key : leftOut)
+        tell("note: " + key + " is left out: no value is chosen");
+    line += "\n";
+    return writeAll(STDOUT_FILENO, line.data(), line.size()) ? exitstatus::done : exitstatus::someFailed;
+}
+
+int ConfigureCommand::write() const
+{
+    const std::string problem = m_output->write(m_settings, m_source, m_icon);
+    if (!problem.empty())
+        tell(problem);
+    return problem.empty() ? exitstatus::done : exitstatus::someFailed;
+}
+
+} // namespace host

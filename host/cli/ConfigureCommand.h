@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Command.h"
+
+#include "host/SettingsFile.h"
+#include "host/SettingsOutput.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// "quintar configure": lets the user set up the action in its dialog.
+class ConfigureCommand : public Command
+{
+public:
+    const char* name() const override { return "configure"; }
+    const char* summary() const override { return "make settings in a window"; }
+    bool showsWindows() const override { return true; }
+    int run(int argc, char** argv) override;
+
+private:
+    void parse(int argc, char** argv);
+    void check() const;
+    void readSettings();
+    void chooseEntry(const StoredSettings& list);
+    bool showDialog();
+    int deliver();
+    int print() const;
+    int write() const;
+
+    bool m_help = false;
+    std::vector<std::string> m_documents;
+    std::vector<std::string> m_lists;
+    std::vector<std::string> m_favorites;
+    std::vector<std::string> m_toolSettings;
+    std::string m_password;
+    int m_entry = 0; // 0 is none in particular
+    std::optional<SettingsOutput> m_output;
+    SettingsOutput::Edit m_source;
+    SettingsMap m_settings;
+    QImage m_icon;
+};
+
+} // namespace host

@@ -1,0 +1,163 @@
+#include "ListsCommand.h"
+
+#include "OptionParser.h"
+
+#include "host/FileDescriptor.h"
+#include "host/FileNames.h"
+#include "host/JsonLine.h"
+#include "host/SettingsFolder.h"
+#include "host/SettingsWords.h"
+#include "host/UsageError.h"
+
+#include "EditInitialView/InitialViewSettings.h"
+
+#include <QJsonArray>
+
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace host {
+
+namespace {
+
+const char helpText[] =
+    R"(Usage: quintar lists [--json]
+
+Tells which action lists and favourites there are in the user's folders, and what they would do. "quintar run"
+takes them by their names, with --list and --favorite.
+
+Options:
+  --json      prints a JSON object a line about each
+  -h, --help  prints this text
+
+Exit status: 0 all well, 1 some cannot be read, 2 nothing was begun.
+)";
+
+bool isOurs(const ActionEntry& entry)
+{
+    return entry.action == initialview::actionName;
+}
+
+std::string actionInWords(const ActionEntry& entry)
+{
+    const std::string name = entry.action.isEmpty() ? "another action" : entry.action.toStdString();
+    return isOurs(entry) ? name : name + " (cannot be run here)";
+}
+
+/// The settings' lines, further in.
+std::string indented(const std::string& lines)
+{
+    std::string text;
+    for (std::size_t begin = 0; begin < lines.size();) {
+        const std::size_t end = lines.find('\n', begin) + 1;
+        text += "    " + lines.substr(begin, end - begin);
+        begin = end;
+    }
+    return text;
+}
+
+/// Prints the files of the user's folders, each as it is read.
+class Listing
+{
+public:
+    explicit Listing(bool json) : m_json(json) {}
+
+    void print(const SettingsFolder& folder, const std::string& title)
+    {
+        try {
+            const std::vector<std::string> files = folder.files();
+            if (!m_json)
+                write(STDOUT_FILENO,
+                      title + " in " + forTerminal(folder.path()) + (files.empty() ? ": none\n" : ":\n"));
+            for (const std::string& file : files)
+                printFile(folder, file);
+        } catch (const UsageError& error) {
+            complain(error);
+        }
+    }
+
+    bool failed() const { return m_failed; }
+
+private:
+    void printFile(const SettingsFolder& folder, const std::string& file)
+    {
+        try {
+            const StoredSettings stored = folder.describe(file);
+            write(STDOUT_FILENO, m_json ? toJson(folder, file, stored) : inWords(folder, file, stored));
+        } catch (const UsageError& error) {
+            complain(error);
+        }
+    }
+
+    void complain(const UsageError& error)
+    {
+        m_failed = true;
+        write(STDERR_FILENO, "quintar: " + forTerminal(error.what()) + "\n");
+    }
+
+    static std::string inWords(const SettingsFolder& folder, const std::string& file,
+                               const StoredSettings& stored)
+    {
+        std::string text = "\n" + forTerminal(folder.nameOf(file, stored)) + "\n";
+        text += "  File: " + forTerminal(file) + "\n";
+        if (!stored.category.isEmpty())
+            text += "  Category: " + forTerminal(stored.category.toStdString()) + "\n";
+        int place = 0;
+        for (const ActionEntry& entry : stored.entries) {
+            text += "  " + std::to_string(++place) + ". " + forTerminal(actionInWords(entry)) + "\n";
+            if (isOurs(entry))
+                text += indented(forTerminalLines(settingsInWords(entry.settings)));
+        }
+        return text;
+    }
+
+    static std::string toJson(const SettingsFolder& folder, const std::string& file,
+                              const StoredSettings& stored)
+    {
+        QJsonArray actions;
+        for (const ActionEntry& entry : stored.entries)
+            actions.append(QJsonObject{
+                {"action", entry.action},
+                {"settings",
+                 isOurs(entry) ? QJsonValue(QJsonObject::fromVariantMap(entry.settings)) : QJsonValue()}});
+        QJsonObject object{{"kind", folder.kind()},
+                           {"name", QString::fromStdString(folder.nameOf(file, stored))},
+                           {"category", stored.category.isEmpty() ? QJsonValue() : stored.category},
+                           {"actions", actions}};
+        insertFile(object, folder.pathOf(file));
+        return jsonLine(object);
+    }
+
+    static void write(int descriptor, const std::string& text)
+    {
+        writeAll(descriptor, text.data(), text.size());
+    }
+
+    bool m_json;
+    bool m_failed = false;
+};
+
+} // namespace
+
+int ListsCommand::run(int argc, char** argv)
+{
+    bool json = false;
+    bool help = false;
+    OptionParser parser;
+    parser.addFlag("json", json);
+    parser.addFlag("help", help, 'h');
+    const std::vector<std::string> words = parser.parse(argc, argv);
+    if (help) {
+        std::fputs(helpText, stdout);
+        return exitstatus::done;
+    }
+    if (!words.empty())
+        throw UsageError("lists takes no names: " + words.front());
+    Listing listing(json);
+    listing.print(SettingsFolder::actionLists(), "Action lists");
+    listing.print(SettingsFolder::favorites(), json ? "" : "\nFavourites");
+    return listing.failed() ? exitstatus::someFailed : exitstatus::done;
+}
+
+} // namespace host
