@@ -92,7 +92,7 @@ std::string SettingsFolder::namesOf(const std::vector<std::string>& files) const
             name = nameOf(file, describe(file));
         } catch (const UsageError&) {
         }
-        text += "\n  " + name + "  (" + file + ")";
+        text.append("\n  ").append(name).append("  (").append(file).append(")");
     }
     return text;
 }

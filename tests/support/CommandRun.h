@@ -19,10 +19,13 @@ struct CommandRun
     template <class Command>
     CommandRun(Command command, const QStringList& words)
     {
-        std::vector<QByteArray> bytes{QByteArray(command.name())};
+        std::vector<QByteArray> bytes;
+        bytes.reserve(static_cast<std::size_t>(words.size()) + 1);
+        bytes.emplace_back(command.name());
         for (const QString& word : words)
             bytes.push_back(word.toUtf8());
         std::vector<char*> arguments;
+        arguments.reserve(bytes.size() + 1);
         for (QByteArray& word : bytes)
             arguments.push_back(word.data());
         arguments.push_back(nullptr);
