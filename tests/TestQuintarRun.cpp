@@ -568,7 +568,8 @@ void TestQuintarRun::leavesNothingBehindWhenKilled()
         QVERIFY(process.waitForStarted());
         QTest::qWait(15 * round);
         process.kill();
-        QVERIFY(process.waitForFinished());
+        // A quick run has ended by itself.
+        QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished());
         const ProgramRun next = quintar(QStringList{"run", "--in-place", "in"} + panelAndPage);
         QCOMPARE(next.status, 0);
         QCOMPARE(strays(), QStringList());
