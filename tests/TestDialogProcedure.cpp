@@ -69,7 +69,9 @@ private:
     static int run(DialogLoadStruct load, const Visit& visit, QWidget* parent = nullptr)
     {
         bool visited = false;
-        QTimer::singleShot(0, [&] {
+        QTimer timer;
+        timer.setSingleShot(true);
+        connect(&timer, &QTimer::timeout, [&] {
             if (auto* dialog = qobject_cast<CPrefsDialog*>(QApplication::activeModalWidget())) {
                 visited = true;
                 visit(*dialog);
@@ -77,6 +79,7 @@ private:
                     dialog->reject();
             }
         });
+        timer.start(0);
         const int result = CEditInitialView().ShowDialogProc(parent, &load);
         return visited ? result : -1;
     }

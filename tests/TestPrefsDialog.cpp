@@ -93,13 +93,17 @@ void type(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 /// Once a further dialog is up, hands it over; closes it if it is still up then.
 void withNextDialog(const std::function<void(QDialog&)>& use)
 {
-    QTimer::singleShot(0, [use] {
+    auto* timer = new QTimer(qApp);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, [timer, use] {
+        timer->deleteLater();
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         QVERIFY(dialog != nullptr);
         use(*dialog);
         if (dialog->isVisible())
             dialog->reject();
     });
+    timer->start(0);
 }
 
 /// The objects that Tab reaches, beginning with the one that has the focus.
