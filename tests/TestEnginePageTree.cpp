@@ -212,7 +212,8 @@ private slots:
         QCOMPARE(opened.objectOfPage(count), QByteArray::number(last));
         QCOMPARE(opened.pages.numberOf(opened.document.pdf().getObjectByID(last, 0)), count);
         const auto isInteger = [](Document&, QPDFObjectHandle value) { return value.isInteger(); };
-        QCOMPARE(opened.pages.page(count).inherited(opened.document, "/Rotate", isInteger).getIntValueAsInt(), 90);
+        QCOMPARE(opened.pages.page(count).inherited(opened.document, "/Rotate", isInteger).getIntValueAsInt(),
+                 90);
     }
 
     void inheritsByTheWayDownAndNotByParent()
@@ -222,8 +223,10 @@ private slots:
                             {4, "<< /Type /Page /Parent 2 0 R >>"},
                             {5, "<< /Type /Page /Parent 5 0 R /Rotate /Wrong >>"}}));
         const auto isInteger = [](Document&, QPDFObjectHandle value) { return value.isInteger(); };
-        QCOMPARE(opened.pages.page(1).inherited(opened.document, "/Rotate", isInteger).getIntValueAsInt(), 90);
-        QCOMPARE(opened.pages.page(2).inherited(opened.document, "/Rotate", isInteger).getIntValueAsInt(), 180);
+        QCOMPARE(opened.pages.page(1).inherited(opened.document, "/Rotate", isInteger).getIntValueAsInt(),
+                 90);
+        QCOMPARE(opened.pages.page(2).inherited(opened.document, "/Rotate", isInteger).getIntValueAsInt(),
+                 180);
         QVERIFY(opened.pages.page(2).inherited(opened.document, "/MediaBox", isInteger).isNull());
     }
 
