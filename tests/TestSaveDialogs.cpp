@@ -466,6 +466,11 @@ private slots:
         QVERIFY(!dialog.isVisible());
         QCOMPARE(dialog.result(), int(QDialog::Rejected));
         QVERIFY(filesIn(QDir::homePath()).isEmpty());
+
+        // It can be shown once more.
+        dialog.ui.collectionNameLineEdit->setText("after all");
+        dialog.on_Save();
+        QCOMPARE(stored(m_home.favorite("after all.ini"), "ActionPrefs").toMap(), m_prefs);
     }
 
     void survivesBeingDeletedByARejection()

@@ -9,8 +9,6 @@
 #include <QIcon>
 #include <QPixmap>
 
-#include <utility>
-
 using namespace settingsfiles;
 
 namespace {
@@ -52,13 +50,12 @@ void CSaveAsCollectionDialog::on_UpdateUI()
 
 void CSaveAsCollectionDialog::on_Save()
 {
-    QMap<QString, QVariant>* prefs = ui.saveButton->isEnabled() ? std::exchange(m_pPrefs, nullptr) : nullptr;
-    if (prefs == nullptr)
+    if (!ui.saveButton->isEnabled() || m_pPrefs == nullptr)
         return;
-    prefs->insert(request::collectionName, ui.collectionNameLineEdit->text());
+    m_pPrefs->insert(request::collectionName, ui.collectionNameLineEdit->text());
     QIcon icon = ui.icon_toolButton->icon();
     CActionHistoryAPI(parent() != nullptr ? parent()->objectName() : QString())
-        .SaveSettingsToHistory(prefs, &icon);
+        .SaveSettingsToHistory(m_pPrefs, &icon);
     accept();
 }
 
@@ -78,7 +75,7 @@ void CSaveAsCollectionDialog::on_SaveToFile()
     const QString path = QFileDialog::getSaveFileName(this, "Save Tool settings to file", QDir::homePath(),
                                                       "Tool Settings Files (*.tsf)");
     // Whoever hears of the rejection may take the settings, or the dialog itself, away.
-    const QMap<QString, QVariant>* lent = std::exchange(m_pPrefs, nullptr);
+    const QMap<QString, QVariant>* lent = m_pPrefs;
     const QMap<QString, QVariant> prefs = lent != nullptr ? *lent : QMap<QString, QVariant>();
     reject();
     if (lent != nullptr && !path.isEmpty())

@@ -6,8 +6,7 @@
 #include <QMap>
 #include <QVariant>
 
-/// Stores an action's settings as a favourite with a name and an icon, or in a file of the user's choice. It
-/// saves once for each call of LoadPrefsData().
+/// Stores an action's settings as a favourite with a name and an icon, or in a file of the user's choice.
 class CSaveAsCollectionDialog : public CQuintarDialog
 {
     Q_OBJECT
@@ -35,5 +34,5 @@ public:
     Ui_saveAsCollectionDialog ui;
 
 private:
-    QMap<QString, QVariant>* m_pPrefs = nullptr; // null again once saved
+    QMap<QString, QVariant>* m_pPrefs = nullptr;
 };
