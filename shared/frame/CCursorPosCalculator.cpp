@@ -1,8 +1,5 @@
 #include "CCursorPosCalculator.h"
 
-#include <QPoint>
-#include <QRect>
-
 namespace {
 
 // Wide enough that no width, height or distance overflows.

@@ -1,7 +1,7 @@
 #pragma once
 
-class QPoint;
-class QRect;
+#include <QPoint>
+#include <QRect>
 
 /// The hit test of CFramelessHandler: where a position lies on a window's frame. Units are pixels of the
 /// screen.

@@ -17,7 +17,7 @@ class CFramelessHandler : public QObject
     Q_OBJECT
 
 public:
-    explicit CFramelessHandler(QObject* parent);
+    explicit CFramelessHandler(QObject* parent = nullptr);
     ~CFramelessHandler() override;
 
     /// Starts watching a window, which is not owned; to be called once. Null is ignored. The signals are
