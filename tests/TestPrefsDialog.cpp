@@ -294,6 +294,37 @@ private slots:
         QVERIFY(!dialog.isVisible());
     }
 
+    void clipsNoTextInAnyFont_data()
+    {
+        QTest::addColumn<int>("pixels");
+        for (const int pixels : {11, 13, 16, 24})
+            QTest::addRow("%d pixels", pixels) << pixels;
+    }
+
+    void clipsNoTextInAnyFont()
+    {
+        QFETCH(int, pixels);
+        const QFont standard = QApplication::font();
+        QFont font = standard;
+        font.setPixelSize(pixels);
+        QApplication::setFont(font);
+        Dialog dialog;
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        for (const QCheckBox* box : dialog.findChildren<QCheckBox*>())
+            QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable(box->text()));
+        for (const QLabel* label : dialog.findChildren<QLabel*>())
+            QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
+        // Too long for the closed list, but told apart by their last words.
+        const auto shown = [&dialog](int row) {
+            dialog.ui.PageLayoutComboBox->setCurrentIndex(row);
+            return dialog.ui.PageLayoutComboBox->grab().toImage();
+        };
+        QVERIFY(shown(2) != shown(3));
+        QVERIFY(shown(4) != shown(5));
+        QApplication::setFont(standard);
+    }
+
     void remembersItsPlaceUnderThePreview()
     {
         QDir().mkpath(CUtils::GetSettingsFolder());

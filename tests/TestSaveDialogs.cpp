@@ -171,11 +171,6 @@ private slots:
 
     void clipsNoText()
     {
-        // A desktop's usual size; without a desktop the text is a third larger.
-        const QFont standard = QApplication::font();
-        QFont usual = standard;
-        usual.setPointSize(9);
-        QApplication::setFont(usual);
         CSaveAsActionlistDialog list(&m_parent);
         CSaveAsCollectionDialog collection(&m_parent);
         open(list, &m_prefs);
@@ -185,7 +180,6 @@ private slots:
         for (const QAbstractButton* button : buttons)
             QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->objectName()));
         QVERIFY(collection.ui.label_2->height() >= collection.ui.label_2->heightForWidth(collection.width()));
-        QApplication::setFont(standard);
     }
 
     void translatesItsTextsInItsContext()

@@ -4,12 +4,16 @@
 
 #include "CUtils.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFontInfo>
 #include <QFrame>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -78,6 +82,7 @@ const HeaderButton addToCollectionsForm{"QDtoolbarAddToCollectionsButton",
 const int moveBarHeight = 30;
 const int borderWidth = 9;
 const int headerButtonSize = 24;
+const int leastFontPixels = 9;
 
 QFrame* newShadow(QGridLayout* grid, const ShadowCell& cell)
 {
@@ -119,6 +124,42 @@ QPoint centred(const QRect& rectangle, const QRect& area)
 {
     return QPoint((area.left() + area.right()) / 2 - (rectangle.right() - rectangle.left()) / 2,
                   (area.top() + area.bottom()) / 2 - (rectangle.bottom() - rectangle.top()) / 2);
+}
+
+/// The least size at which no text is cut off.
+QSize leastSize(const QWidget& frame)
+{
+    QSize least = frame.minimumSizeHint();
+    // Layouts take a least width that was set for a button for enough.
+    for (const QPushButton* button : frame.findChildren<QPushButton*>())
+        if (button->minimumWidth() > 0)
+            least.rwidth() +=
+                qMax(0, qMin(button->sizeHint().width(), button->maximumWidth()) - button->minimumWidth());
+    return least;
+}
+
+bool fits(const QSize& size, const QSize& room)
+{
+    return size.width() <= room.width() && size.height() <= room.height();
+}
+
+/// Dialogs of a fixed size count it in pixels: texts larger than they were drawn for would be cut off.
+void shrinkFontToFit(QWidget& frame, const QSize& room)
+{
+    const QList<QWidget*> widgets = frame.findChildren<QWidget*>();
+    int pixels = QFontInfo(frame.font()).pixelSize();
+    while (!fits(leastSize(frame), room) && pixels > leastFontPixels) {
+        --pixels;
+        // One by one: under a style sheet a font does not reach widgets further within.
+        for (QWidget* widget : widgets) {
+            QFont font = widget->font();
+            font.setPixelSize(pixels);
+            widget->setFont(font);
+            // Lists remember the least size that they had with the former one.
+            QEvent forget(QEvent::StyleChange);
+            QCoreApplication::sendEvent(widget, &forget);
+        }
+    }
 }
 
 } // namespace
@@ -296,6 +337,8 @@ void CQuintarDialog::QDaddMainWidget(QWidget* mainWidget, bool fixedSize)
     contentLayout->addWidget(mainWidget);
     contentLayout->setContentsMargins(0, 0, 0, 0);
     framelessHandler.setWidgetResizable(!fixedSize);
+    if (fixedSize)
+        shrinkFontToFit(*mainFrame, maximumSize());
 }
 
 void CQuintarDialog::QDaddCloseButton()

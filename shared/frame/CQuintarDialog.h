@@ -32,7 +32,8 @@ public slots:
 public:
     /// Puts the derived dialog's widget, which should be named "main_widget", below the header, and sizes and
     /// centres the dialog by that widget's size.
-    /// \param fixedSize the dialog cannot be resized; else the widget's size is the least one.
+    /// \param fixedSize the dialog cannot be resized, and gets a smaller font where texts would be cut off;
+    ///     else the widget's size is the least one.
     void QDaddMainWidget(QWidget* mainWidget, bool fixedSize);
 
     /// Appends a button that rejects the dialog to the header.
