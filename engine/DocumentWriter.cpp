@@ -5,6 +5,7 @@
 #include "engine/EngineError.h"
 #include "engine/IncrementalUpdate.h"
 #include "engine/OutputFile.h"
+#include "engine/PageTree.h"
 
 #include <qpdf/Pipeline.hh>
 #include <qpdf/Pl_String.hh>
@@ -61,12 +62,24 @@ void completeTrailer(QPDF& pdf)
     }
 }
 
+/// Readers that take the number of pages from the root's count open nothing where it cannot be right.
+void completePageCount(Document& document)
+{
+    QPDFObjectHandle root = document.key(document.catalog(), "/Pages");
+    QPDFObjectHandle count = document.key(root, "/Count");
+    const auto most = static_cast<long long>(document.pdf().getObjectCount());
+    const bool possible = count.isInteger() && count.getIntValue() >= 0 && count.getIntValue() <= most;
+    if (root.isDictionary() && !possible)
+        root.replaceKey("/Count", QPDFObjectHandle::newInteger(PageTree(document).pageCount()));
+}
+
 void writeInto(Document& document, Pipeline& output)
 {
     if (!document.source()->unchangedSinceOpened())
         throw EngineError(ErrorCode::SourceChanged);
     document.readWhole();
     completeTrailer(document.pdf());
+    completePageCount(document);
     QPDFWriter writer(document.pdf());
     writer.setOutputPipeline(&output);
     writer.setDecodeLevel(qpdf_dl_none);

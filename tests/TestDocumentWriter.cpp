@@ -127,13 +127,15 @@ private slots:
         QFile::resize(m_source, 100);
         QCOMPARE(append(*document), ErrorCode::SourceChanged);
         // Objects without an end, far behind the last startxref: only a search finds them.
-        store(m_source, PdfBuilder::simple() + "8 0 obj\nnull\nendobj\n" + std::string(5000, '\n'));
+        store(m_source, replaced(PdfBuilder::simple(), "/Count 3", "/Count x") + "8 0 obj\nnull\nendobj\n" +
+                            std::string(5000, '\n'));
         const auto rebuilt = opened(m_source);
         change(*rebuilt);
         QCOMPARE(append(*rebuilt), ErrorCode::CannotAppend);
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
         writeWhole(*rebuilt, m_target.toStdString());
         QCOMPARE(pageMode(m_target), QByteArray("/UseThumbs"));
+        QVERIFY(QString::fromStdString(content(m_target)).contains("/Count 3"));
     }
 
     void keepsWhatTheDocumentIs_data()
