@@ -26,6 +26,12 @@ bool isCode(int code, engine::ErrorCode wanted)
     return code == static_cast<int>(wanted);
 }
 
+bool isSameState(const struct stat& one, const struct stat& other)
+{
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_size == other.st_size &&
+           one.st_mtim.tv_sec == other.st_mtim.tv_sec && one.st_mtim.tv_nsec == other.st_mtim.tv_nsec;
+}
+
 } // namespace
 
 DocumentProcessor::DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
@@ -69,6 +75,8 @@ DocumentResult DocumentProcessor::process(const DocumentJob& job)
 
 DocumentResult DocumentProcessor::work(const DocumentJob& job)
 {
+    if (stat(job.source.c_str(), &m_original) != 0)
+        return DocumentResult::failed(systemError(errno));
     if (m_library.LoadFromFile(engine::wideFromFileName(job.source),
                                engine::wideFromFileName(m_options.password)) == 0)
         return libraryFailure();
@@ -116,18 +124,11 @@ std::string DocumentProcessor::refusal()
 
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
 {
-    struct stat original;
-    if (stat(job.source.c_str(), &original) != 0)
-        return DocumentResult::failed(systemError(errno));
     SafeOutput output(job.target, job.temporary);
     if (std::string problem = output.prepareFolder(); !problem.empty())
         return DocumentResult::failed(problem);
-    DocumentResult result = write(job);
-    if (result.status == Status::Failed)
-        return result;
-    if (std::string problem = output.commit(original, m_options.flush); !problem.empty())
-        return DocumentResult::failed(problem);
-    return result;
+    const DocumentResult result = write(job);
+    return result.status == Status::Failed ? result : commit(output, job, result);
 }
 
 DocumentResult DocumentProcessor::write(const DocumentJob& job)
@@ -148,17 +149,23 @@ DocumentResult DocumentProcessor::write(const DocumentJob& job)
 
 DocumentResult DocumentProcessor::copy(const DocumentJob& job)
 {
-    struct stat original;
-    if (stat(job.source.c_str(), &original) != 0)
-        return DocumentResult::failed(systemError(errno));
     SafeOutput output(job.target, job.temporary);
     std::string problem = output.prepareFolder();
     if (problem.empty())
         problem = copyFile(job.source, job.temporary);
-    if (problem.empty())
-        problem = output.commit(original, m_options.flush);
-    return problem.empty() ? DocumentResult{Status::Unchanged, Saved::Copied, {}, 0}
+    return problem.empty() ? commit(output, job, {Status::Unchanged, Saved::Copied, {}, 0})
                            : DocumentResult::failed(problem);
+}
+
+/// Puts the new file in its place, unless the document is no longer the one that was read.
+DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& job,
+                                         const DocumentResult& result)
+{
+    struct stat now;
+    if (stat(job.source.c_str(), &now) != 0 || !isSameState(now, m_original))
+        return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
+    const std::string problem = output.commit(m_original, m_options.flush);
+    return problem.empty() ? result : DocumentResult::failed(problem);
 }
 
 DocumentResult DocumentProcessor::libraryFailure(const std::string& what)

@@ -6,6 +6,8 @@
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "shared/CErrorHandler.h"
 
+#include <sys/stat.h>
+
 #include <string>
 #include <vector>
 
@@ -13,6 +15,8 @@ class CActionInterface;
 struct WorkProcInfoStruct;
 
 namespace host {
+
+class SafeOutput;
 
 enum class SignedDocuments { Refuse, Append };
 
@@ -60,12 +64,14 @@ private:
     DocumentResult save(const DocumentJob& job);
     DocumentResult write(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);
+    DocumentResult commit(SafeOutput& output, const DocumentJob& job, const DocumentResult& result);
     DocumentResult libraryFailure(const std::string& what = {});
 
     CActionInterface& m_action;
     const ProcessingOptions& m_options;
     TelvarPDFLibraryCPDylibCPP1311 m_library;
     CErrorHandler m_errors;
+    struct stat m_original = {}; ///< The document's file before it was read.
     bool m_wornOut = false;
 };
 

@@ -1,9 +1,10 @@
 // Loads documents as the real library does, except those whose names ask for trouble: "crash", "hang",
-// "hungry".
+// "hungry", "replaced".
 #include <dlfcn.h>
 #include <unistd.h>
 
 #include <cstddef>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -50,5 +51,8 @@ EXPORTED int TPLLoadFromFile(int instance, char* fileName, char* password)
         eat();
     while (asksFor(L"hang"))
         pause();
-    return real(TPLLoadFromFile, "TPLLoadFromFile")(instance, fileName, password);
+    const int loaded = real(TPLLoadFromFile, "TPLLoadFromFile")(instance, fileName, password);
+    if (asksFor(L"replaced"))
+        std::rename("newer", "replaced.pdf");
+    return loaded;
 }
