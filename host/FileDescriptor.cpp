@@ -39,7 +39,7 @@ FileDescriptor openRegularFile(const std::string& path)
     if (S_ISREG(status.st_mode))
         return file;
     file.close();
-    errno = S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+    errno = S_ISDIR(status.st_mode) ? EISDIR : notARegularFile;
     return FileDescriptor();
 }
 
@@ -78,7 +78,7 @@ bool readAll(int descriptor, std::string& bytes, std::size_t limit)
 
 std::string systemError(int number)
 {
-    if (number == EINVAL)
+    if (number == notARegularFile)
         return "not a regular file";
     std::string text = std::strerror(number);
     if (!text.empty() && text[0] >= 'A' && text[0] <= 'Z')

@@ -24,8 +24,11 @@ private:
     int m_descriptor;
 };
 
+/// Stands in errno for a file that is not a regular one.
+inline constexpr int notARegularFile = -1;
+
 /// Opens a regular file for reading without ever waiting for a writer. \returns a closed descriptor and errno
-/// on failure; EINVAL stands for a file that is not a regular one.
+/// on failure.
 FileDescriptor openRegularFile(const std::string& path);
 
 /// Writes all bytes. \returns false with errno set on failure.

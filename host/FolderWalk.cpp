@@ -23,6 +23,15 @@ bool isPdfName(const std::string& name)
     return name.size() > 4 && strcasecmp(name.c_str() + name.size() - 4, ".pdf") == 0;
 }
 
+/// Whether an entry may be a document or a folder; some file systems do not tell.
+bool mayMatter(const dirent& entry)
+{
+    if (entry.d_name[0] == '.')
+        return false;
+    return entry.d_type == DT_UNKNOWN || entry.d_type == DT_DIR ||
+           (entry.d_type == DT_REG && isPdfName(entry.d_name));
+}
+
 /// \returns false with errno set when the folder cannot be read.
 bool listNames(const std::string& folder, std::vector<std::string>& names)
 {
@@ -31,7 +40,7 @@ bool listNames(const std::string& folder, std::vector<std::string>& names)
         return false;
     errno = 0;
     while (const dirent* entry = readdir(listing.get()))
-        if (entry->d_name[0] != '.')
+        if (mayMatter(*entry))
             names.emplace_back(entry->d_name);
     std::sort(names.begin(), names.end());
     return errno == 0;
@@ -57,8 +66,11 @@ void FolderWalk::visit(const std::string& folder, const std::string& relative, i
         const std::string path = folder + "/" + name;
         const std::string below = relative.empty() ? name : relative + "/" + name;
         struct stat status;
-        if (lstat(path.c_str(), &status) != 0)
-            continue; // it has gone since
+        if (lstat(path.c_str(), &status) != 0) {
+            if (errno != ENOENT) // it has gone since
+                m_found(below, systemError(errno));
+            continue;
+        }
         if (S_ISDIR(status.st_mode) && !m_skip(status))
             visit(path, below, depth + 1);
         else if (S_ISREG(status.st_mode) && isPdfName(name))

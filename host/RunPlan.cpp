@@ -31,7 +31,7 @@ std::string resolved(const std::string& path)
         return real.get();
     const std::size_t slash = path.rfind('/');
     if (slash == std::string::npos)
-        return resolved(".") + "/" + path;
+        return path == "." ? path : resolved(".") + "/" + path; // the current folder may be gone
     if (slash == 0)
         return path;
     return resolved(path.substr(0, slash)) + path.substr(slash);
@@ -59,7 +59,7 @@ void RunPlan::add(const std::string& path)
     else if (S_ISDIR(status.st_mode))
         addFolder(withoutTrailingSlashes(path));
     else if (!S_ISREG(status.st_mode))
-        m_documents.push_back({path, {}, systemError(EINVAL)});
+        m_documents.push_back({path, {}, systemError(notARegularFile)});
     else
         addDocument(path, path.substr(path.rfind('/') + 1));
 }
@@ -123,15 +123,24 @@ void RunPlan::checkTargets() const
     }
 }
 
-void RunPlan::checkNotADocument(const std::string& path, const char* what) const
+void RunPlan::checkReport(const std::string& path, const std::vector<std::string>& filesRead) const
 {
+    const std::string target = resolved(path);
+    for (const Document& document : m_documents)
+        if (document.problem.empty() && document.target == target)
+            throw UsageError("the report and " + document.name + " would have the same output, " + target);
     struct stat status;
-    if (stat(path.c_str(), &status) != 0)
+    if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
         return;
     const FileId id = idOf(status);
+    const auto check = [&](const std::string& file, const char* what) {
+        if (stat(file.c_str(), &status) == 0 && idOf(status) == id)
+            throw UsageError(std::string("the report would overwrite ") + what + " " + file);
+    };
     for (const Document& document : m_documents)
-        if (document.problem.empty() && stat(document.name.c_str(), &status) == 0 && idOf(status) == id)
-            throw UsageError(std::string(what) + " would overwrite the document " + document.name);
+        check(document.name, "the document");
+    for (const std::string& file : filesRead)
+        check(file, "what this run reads,");
 }
 
 } // namespace host

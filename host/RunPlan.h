@@ -32,8 +32,9 @@ public:
     /// input.
     void checkTargets() const;
 
-    /// Throws UsageError when the file at the path is one of the documents.
-    void checkNotADocument(const std::string& path, const char* what) const;
+    /// Throws UsageError when the report would overwrite one of the documents, their outputs or other files
+    /// that the run reads, or be overwritten by an output.
+    void checkReport(const std::string& path, const std::vector<std::string>& filesRead) const;
 
     const std::vector<Document>& documents() const { return m_documents; }
     /// Folders in which there was nothing to do.

@@ -14,6 +14,7 @@
 #include <ctime>
 #include <functional>
 #include <memory>
+#include <regex>
 #include <string_view>
 #include <utility>
 
@@ -53,6 +54,13 @@ pid_t ownerOf(std::string_view name)
     if (name.substr(0, ours.size()) == ours)
         std::from_chars(name.data() + ours.size(), name.data() + name.size(), owner);
     return owner;
+}
+
+/// Whether it is a name of this program or of the library; other files may begin so and be somebody's.
+bool isTemporaryName(const char* name)
+{
+    static const std::regex form("\\.quintar-[0-9a-f]{16}(-[0-9]+-[0-9]+|\\.tmp)");
+    return std::string_view(name).starts_with(prefix) && std::regex_match(name, form);
 }
 
 bool isLeftOver(int folder, const char* name)
@@ -108,9 +116,12 @@ std::string SafeOutput::makeFolder(const std::string& folder)
         return S_ISDIR(status.st_mode) ? std::string() : folder + " is not a folder";
     if (std::string problem = makeFolder(folderOf(folder)); !problem.empty())
         return problem;
-    if (mkdir(folder.c_str(), 0777) != 0 && errno != EEXIST)
-        return "the folder " + folder + " cannot be made: " + systemError(errno);
-    return {};
+    if (mkdir(folder.c_str(), 0777) == 0 || (stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode)))
+        return {}; // another worker may have made it
+    const int problem = errno;
+    if (lstat(folder.c_str(), &status) == 0 && S_ISLNK(status.st_mode))
+        return folder + " is a symbolic link that leads nowhere";
+    return "the folder " + folder + " cannot be made: " + systemError(problem);
 }
 
 std::string SafeOutput::folderOf(const std::string& file)
@@ -150,8 +161,7 @@ void SafeOutput::removeLeftovers(const std::string& folder)
         return;
     const int directory = dirfd(listing.get());
     while (const dirent* entry = readdir(listing.get()))
-        if (std::string_view(entry->d_name).substr(0, prefix.size()) == prefix &&
-            isLeftOver(directory, entry->d_name))
+        if (isTemporaryName(entry->d_name) && isLeftOver(directory, entry->d_name))
             unlinkat(directory, entry->d_name, 0);
 }
 

@@ -96,6 +96,19 @@ void TestRunPlan::findsWhatAFolderHolds()
     QVERIFY(refusalOf(plan).empty());
     plan.add("in/folder.pdf");
     QCOMPARE(plan.emptyFolders(), std::vector<std::string>{"in/folder.pdf"});
+
+    const fs::path here = fs::current_path();
+    const std::string name(250, 'd');
+    for (int depth = 0; depth < 20; ++depth) {
+        fs::create_directory(name);
+        fs::current_path(name);
+    }
+    fs::current_path(here);
+    RunPlan tooLong("out");
+    tooLong.add(name);
+    QCOMPARE(tooLong.documents().size(), std::size_t(1));
+    QCOMPARE(tooLong.documents()[0].problem, std::string("file name too long"));
+    fs::remove_all(name); // beyond QTemporaryDir
 }
 
 void TestRunPlan::leavesOutTheOutputFolder()
@@ -195,8 +208,11 @@ void TestRunPlan::refusesToOverwriteADocument()
     QVERIFY(refused("out", {"a/x.pdf", "b/y.pdf"}));
     RunPlan plan("out");
     plan.add("a/x.pdf");
-    QVERIFY_EXCEPTION_THROWN(plan.checkNotADocument("linked/x.pdf", "the report"), UsageError);
-    plan.checkNotADocument("report.jsonl", "the report");
+    QVERIFY_EXCEPTION_THROWN(plan.checkReport("linked/x.pdf", {}), UsageError);
+    QVERIFY_EXCEPTION_THROWN(plan.checkReport("out/x.pdf", {}), UsageError);
+    make("settings");
+    QVERIFY_EXCEPTION_THROWN(plan.checkReport("linked/../settings", {"settings"}), UsageError);
+    plan.checkReport("report.jsonl", {"settings"});
 }
 
 void TestRunPlan::followsLinksInPlace()

@@ -132,8 +132,10 @@ void TestSafeOutput::removesWhatEndedProcessesLeft()
     const std::string oldStranger = "./.quintar-0123456789abcdef-1-2";
     for (const std::string& name : {running, stranger, oldStranger, std::string(".quintarfile")})
         put(name);
+    put(".quintar-notes"); // somebody's own
     const timespec old[2] = {{1, 0}, {1, 0}};
-    QCOMPARE(utimensat(AT_FDCWD, oldStranger.c_str(), old, 0), 0);
+    for (const char* name : {oldStranger.c_str(), ".quintar-notes"})
+        QCOMPARE(utimensat(AT_FDCWD, name, old, 0), 0);
     fs::create_symlink("nowhere", ".quintar-link");
     SafeOutput::removeLeftovers(".");
     QStringList left;
@@ -142,7 +144,7 @@ void TestSafeOutput::removesWhatEndedProcessesLeft()
             left += QString::fromStdString(entry.path().string());
     left.sort();
     QStringList wanted{QString::fromStdString(running), QString::fromStdString(stranger), "./.quintar-link",
-                       "./.quintarfile"};
+                       "./.quintar-notes", "./.quintarfile"};
     wanted.sort();
     QCOMPARE(left, wanted);
     QVERIFY(ended.find(".quintar-") != std::string::npos);

@@ -11,6 +11,7 @@
 #include "host/SetOption.h"
 #include "host/SettingsFile.h"
 #include "host/SettingsFolder.h"
+#include "host/StandardOutput.h"
 #include "host/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
@@ -22,7 +23,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <climits>
-#include <cstdio>
 #include <thread>
 
 namespace host {
@@ -115,7 +115,7 @@ int RunCommand::run(int argc, char** argv)
     m_limits.workers = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
     parse(argc, argv);
     if (m_help) {
-        std::printf("%s%s", helpText, setoption::describeKeys().c_str());
+        printResult(helpText + setoption::describeKeys());
         return exitstatus::done;
     }
     check();
@@ -126,12 +126,12 @@ int RunCommand::run(int argc, char** argv)
     warnOfSettingsWithoutEffect();
 
     const RunPlan plan = this->plan();
-    std::optional<Report> report;
-    if (m_reportFile)
-        report.emplace(*m_reportFile);
     if (m_outputFolder && !m_options.dryRun)
         if (const std::string problem = SafeOutput::makeFolder(*m_outputFolder); !problem.empty())
             throw UsageError(problem);
+    std::optional<Report> report; // may lie in the output folder
+    if (m_reportFile)
+        report.emplace(*m_reportFile);
     return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet).run(m_limits);
 }
 
@@ -196,11 +196,14 @@ void RunCommand::check() const
 void RunCommand::readSettings()
 {
     if (!m_lists.empty()) {
-        m_options.entries = settingsfile::readActionList(SettingsFolder::actionLists().find(m_lists.front()));
+        m_filesRead.push_back(SettingsFolder::actionLists().find(m_lists.front()));
+        m_options.entries = settingsfile::readActionList(m_filesRead.back());
     } else if (!m_favorites.empty()) {
-        m_options.entries = settingsfile::readFavorite(SettingsFolder::favorites().find(m_favorites.front()));
+        m_filesRead.push_back(SettingsFolder::favorites().find(m_favorites.front()));
+        m_options.entries = settingsfile::readFavorite(m_filesRead.back());
     } else if (!m_toolSettings.empty()) {
-        m_options.entries = settingsfile::readToolSettings(m_toolSettings.front());
+        m_filesRead.push_back(m_toolSettings.front());
+        m_options.entries = settingsfile::readToolSettings(m_filesRead.back());
     } else {
         ActionEntry entry{initialview::actionName, {}};
         for (const std::string& word : m_settingWords)
@@ -211,16 +214,21 @@ void RunCommand::readSettings()
 
 void RunCommand::readPassword()
 {
-    if (m_passwordFile)
-        m_password = readLines(*m_passwordFile, largestPasswordFile, "the password file");
+    if (m_passwordFile) {
+        m_filesRead.push_back(*m_passwordFile);
+        const std::string lines = readLines(*m_passwordFile, largestPasswordFile, "the password file");
+        m_password = lines.substr(0, lines.find_first_of("\r\n"));
+    }
     m_options.password = m_password.value_or("");
-    if (m_passwordFile)
-        m_options.password = m_options.password.substr(0, m_options.password.find_first_of("\r\n"));
 }
 
 void RunCommand::readFileList()
 {
     const std::string bytes = readLines(*m_fileList, std::string::npos / 2, "the list of documents");
+    m_filesRead.push_back(*m_fileList);
+    if (!m_nullSeparated && bytes.find('\0') != std::string::npos)
+        throw UsageError("the list of documents " + *m_fileList +
+                         " holds NUL characters; --null says that they end the names");
     const char separator = m_nullSeparated ? '\0' : '\n';
     for (std::size_t begin = 0; begin < bytes.size();) {
         const std::size_t end = std::min(bytes.find(separator, begin), bytes.size());
@@ -250,7 +258,7 @@ RunPlan RunCommand::plan() const
         plan.add(input);
     plan.checkTargets();
     if (m_reportFile)
-        plan.checkNotADocument(*m_reportFile, "the report");
+        plan.checkReport(*m_reportFile, m_filesRead);
     for (const std::string& folder : plan.emptyFolders())
         note("no PDF documents in " + folder);
     if (plan.documents().empty() && plan.emptyFolders().empty())

@@ -42,6 +42,7 @@ private:
     std::optional<std::string> m_passwordFile;
     std::optional<std::string> m_fileList;
     std::optional<std::string> m_reportFile;
+    std::vector<std::string> m_filesRead; ///< Besides the documents.
     std::vector<std::string> m_inputs;
     ProcessingOptions m_options;
     WorkerPool::Limits m_limits;
