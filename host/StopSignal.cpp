@@ -11,8 +11,12 @@ StopSignal::StopSignal()
 {
     sigset_t stopping;
     sigemptyset(&stopping);
-    for (const int number : {SIGINT, SIGTERM, SIGHUP})
-        sigaddset(&stopping, number);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction now;
+        // What nohup or a shell ignores for a job in the background would come through once blocked.
+        if (sigaction(number, nullptr, &now) != 0 || now.sa_handler != SIG_IGN)
+            sigaddset(&stopping, number);
+    }
     sigprocmask(SIG_BLOCK, &stopping, nullptr);
     m_signals = FileDescriptor(signalfd(-1, &stopping, SFD_CLOEXEC | SFD_NONBLOCK));
 }

@@ -4,8 +4,8 @@
 
 namespace host {
 
-/// Turns SIGINT, SIGTERM and SIGHUP into something to wait for, from construction on; workers started later
-/// do not receive them at all.
+/// Turns SIGINT, SIGTERM and SIGHUP into something to wait for, from construction on, except those that are
+/// ignored; workers started later do not receive them at all.
 class StopSignal
 {
 public:

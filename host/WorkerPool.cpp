@@ -7,7 +7,6 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
-#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,7 +14,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <exception>
+#include <stdexcept>
 
 namespace host {
 
@@ -98,7 +97,7 @@ WorkerPool::WorkerPool(Limits limits, MakeWorker makeWorker)
 WorkerPool::~WorkerPool()
 {
     for (Process& process : m_processes)
-        process.channel.close(); // a worker takes this as the end of the run
+        shutdown(process.channel.get(), SHUT_WR); // a worker takes this as the end of the run
     for (Process& process : m_processes)
         if (process.id != 0)
             end(process);
@@ -118,18 +117,30 @@ void WorkerPool::run(std::size_t count, const WorkOf& workOf, const Done& done, 
 
 void WorkerPool::giveWork(std::size_t count, const WorkOf& workOf, const Done& done)
 {
-    for (Process& process : m_processes) {
-        while (!process.busy && m_next < count) {
-            const std::size_t piece = m_next++;
-            if (give(process, workOf(piece))) {
-                process.piece = piece;
-                process.busy = true;
-                process.deadline = Clock::now() + std::chrono::seconds(m_limits.timeoutSeconds);
-            } else {
-                done(piece, {WorkOutcome::Lost, "no worker process can be started: " + systemError(errno)});
-            }
+    while (m_next < count) {
+        Process* const process = idleProcess();
+        if (process == nullptr)
+            return;
+        if (give(*process, workOf(m_next))) {
+            process->piece = m_next++;
+            process->busy = true;
+            process->deadline = Clock::now() + std::chrono::seconds(m_limits.timeoutSeconds);
+        } else if (anyBusy()) {
+            return; // there cannot be as many workers as wanted: those that there are do the rest
+        } else {
+            done(m_next++, {WorkOutcome::Lost, "no worker process can be started: " + systemError(errno)});
         }
     }
+}
+
+/// One that has been started already, if there is any.
+WorkerPool::Process* WorkerPool::idleProcess()
+{
+    Process* idle = nullptr;
+    for (Process& process : m_processes)
+        if (!process.busy && (idle == nullptr || (idle->id == 0 && process.id != 0)))
+            idle = &process;
+    return idle;
 }
 
 /// An idle worker may have ended since its last answer, so a second one is tried.
@@ -184,6 +195,8 @@ void WorkerPool::serve(int channel, pid_t parent)
             if (!worker)
                 worker = m_makeWorker();
             const Worker::Answer answer = worker->answer(record);
+            if (answer.record.size() >= largestRecord)
+                throw std::runtime_error("what there is to tell of it is longer than 128 KiB");
             last = !sendRecord(channel, (answer.last ? wornOut : fit) + answer.record) || answer.last;
         }
     } catch (const std::exception& error) {
@@ -194,15 +207,19 @@ void WorkerPool::serve(int channel, pid_t parent)
 
 void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
 {
-    std::vector<pollfd> waiting;
-    for (const Process& process : m_processes)
-        waiting.push_back({process.busy ? process.channel.get() : -1, POLLIN, 0});
+    std::vector<pollfd> waiting; // no more than there are open descriptors: poll takes that for an error
+    std::vector<Process*> busy;
+    for (Process& process : m_processes)
+        if (process.busy) {
+            busy.push_back(&process);
+            waiting.push_back({process.channel.get(), POLLIN, 0});
+        }
     waiting.push_back({stop.descriptor(), POLLIN, 0});
     poll(waiting.data(), waiting.size(), millisecondsToNextDeadline());
 
-    for (std::size_t index = 0; index < m_processes.size(); ++index)
+    for (std::size_t index = 0; index < busy.size(); ++index)
         if (waiting[index].revents != 0)
-            receive(m_processes[index], done);
+            receive(*busy[index], done);
     const int signals = stop.count();
     if (m_stopSignals == 0 && signals > 0)
         m_stopDeadline = Clock::now() + stopGrace;
@@ -237,14 +254,14 @@ void WorkerPool::lose(Process& process, const Done& done, WorkOutcome::Kind kind
     done(process.piece, {kind, reason});
 }
 
-/// Waits for the end of a process that has none to talk to any more. \returns how it ended.
+/// Waits for the end of a process that gets no more work. \returns how it ended.
 std::string WorkerPool::end(Process& process)
 {
-    process.channel.close();
-    const FileDescriptor news(static_cast<int>(syscall(SYS_pidfd_open, process.id, 0)));
-    pollfd waiting{news.get(), POLLIN, 0};
+    shutdown(process.channel.get(), SHUT_WR);
+    pollfd waiting{process.channel.get(), 0, 0}; // tells when the other end is closed
     if (poll(&waiting, 1, millisecondsToEnd) <= 0)
         kill(process.id, SIGKILL);
+    process.channel.close();
     int status = 0;
     waitpid(process.id, &status, 0);
     process.id = 0;

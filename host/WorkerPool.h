@@ -73,6 +73,7 @@ private:
     struct Process;
 
     void giveWork(std::size_t count, const WorkOf& workOf, const Done& done);
+    Process* idleProcess();
     bool give(Process& process, const std::string& record);
     bool start(Process& process);
     [[noreturn]] void serve(int channel, pid_t parent);

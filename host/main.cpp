@@ -1,16 +1,17 @@
 #include "FileDescriptor.h"
 #include "FileNames.h"
 #include "HostApplication.h"
+#include "StandardOutput.h"
 #include "UsageError.h"
 #include "cli/ConfigureCommand.h"
 #include "cli/ListsCommand.h"
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
@@ -39,6 +40,15 @@ std::string helpText(const Commands& commands)
     return text + "\nquintar COMMAND --help tells about a command; quintar --version prints the version.\n";
 }
 
+/// Else a document or the report could be opened in the place of a closed one, and what is printed would go
+/// into it. Opened the wrong way round, reading and printing still fail.
+void occupyStandardDescriptors()
+{
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(descriptor, F_GETFD) < 0)
+            open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
+
 int complain(const std::string& message, int status)
 {
     const std::string line = "quintar: " + host::forTerminalLines(message) + "\n";
@@ -60,11 +70,11 @@ int runCommand(int argc, char** argv)
     const Commands commands = allCommands();
     const std::string word = argc > 1 ? argv[1] : "";
     if (word == "--help" || word == "-h" || word == "help") {
-        std::fputs(helpText(commands).c_str(), stdout);
+        host::printResult(helpText(commands));
         return host::exitstatus::done;
     }
     if (word == "--version") {
-        std::puts("quintar " QUINTAR_VERSION);
+        host::printResult("quintar " QUINTAR_VERSION "\n");
         return host::exitstatus::done;
     }
     host::Command& command = commandNamed(commands, word);
@@ -80,8 +90,14 @@ int runCommand(int argc, char** argv)
 int main(int argc, char** argv)
 {
     std::signal(SIGPIPE, SIG_IGN); // a reader of our output that goes away does not end a batch
+    std::signal(SIGXFSZ, SIG_IGN); // nor does a file that grows beyond a limit
+    std::signal(SIGCHLD, SIG_DFL); // ignored, it would hide how workers end
+    occupyStandardDescriptors();
     try {
         return runCommand(argc, argv);
+    } catch (const host::OutputError& error) {
+        return error.readerHasGone() ? host::exitstatus::someFailed
+                                     : complain(error.what(), host::exitstatus::someFailed);
     } catch (const std::exception& error) {
         return complain(error.what(), host::exitstatus::usage);
     }

@@ -83,6 +83,8 @@ private slots:
     void survivesAFullDisk();
     void survivesAReadOnlyFolder();
     void survivesAFullReport();
+    void livesWithWhatTheShellGives();
+    void refusesWhatChangedMeanwhile();
     void replacesWorkersThatGetIntoTrouble();
     void stopsWhenAsked();
     void leavesNothingBehindWhenKilled();
@@ -356,7 +358,7 @@ void TestQuintarRun::refusesBeforeAnythingIsWritten()
     QCOMPARE(run.status, 2);
     QVERIFY2(run.err.contains(named), run.err);
     QVERIFY(contentOf("a.pdf") == original);
-    QVERIFY(!fs::exists("out"));
+    QVERIFY(!fs::exists("out") || fs::is_empty("out"));
 }
 
 void TestQuintarRun::guardsSignedDocuments()
@@ -495,6 +497,56 @@ void TestQuintarRun::survivesAFullReport()
     QCOMPARE(run.status, 1);
     QVERIFY2(run.err.contains("the report /dev/full is incomplete: no space left on device"), run.err);
     QVERIFY(fs::exists("out/a.pdf"));
+}
+
+// Closed streams, few descriptors, a folder that has gone, and signals that a parent ignores.
+void TestQuintarRun::livesWithWhatTheShellGives()
+{
+    for (int number = 0; number < 20; ++number)
+        put("in/" + std::to_string(number) + ".pdf");
+    const auto shell = [&](const QString& script, const QStringList& arguments) {
+        return ProgramRun("sh", QStringList{"-c", script, PROGRAM_FILE} + arguments, m_folder->path());
+    };
+    const QStringList run = QStringList{"run", "--report", "out/report", "--jobs", "20", "in"} + panelAndPage;
+    const QStringList toOut = run + QStringList{"-o", "out"};
+    QCOMPARE(shell("exec \"$0\" \"$@\" <&- >&- 2>&-", toOut).status, 0);
+    QCOMPARE(contentOf("out/report").find("20 changed"), std::string::npos);
+    QCOMPARE(shell("ulimit -n 16; exec \"$0\" \"$@\"", toOut).status, 0);
+    const ProgramRun gone = shell("mkdir x; cd x; rmdir ../x; exec \"$0\" \"$@\"",
+                                  QStringList{"run", "-o", "out", path("in")} + panelAndPage);
+    QCOMPARE(gone.status, 2);
+    const ProgramRun full = shell("exec \"$0\" \"$@\" >/dev/full", {"show", "in/1.pdf"});
+    QCOMPARE(full.status, 1);
+    QVERIFY2(full.err.contains("no space left"), full.err);
+
+    put("1-hang.pdf");
+    put("2-good.pdf");
+    const QString program = programWithTroubledLibrary();
+    QProcess process;
+    process.start("sh", QStringList{"-c", "trap '' HUP; exec \"$0\" \"$@\"", program, "run", "--jobs", "1",
+                                    "--timeout", "2", "--report", "report", "--in-place", "1-hang.pdf",
+                                    "2-good.pdf"} +
+                            panelAndPage);
+    QVERIFY(waitFor([] { return fs::exists("report"); }));
+    QTest::qWait(200);
+    ::kill(pid_t(process.processId()), SIGHUP);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(contentOf("2-good.pdf") != PdfBuilder::simple());
+}
+
+void TestQuintarRun::refusesWhatChangedMeanwhile()
+{
+    for (const QStringList& target : {QStringList{"--in-place"}, QStringList{"-o", "out"}}) {
+        put("replaced.pdf");
+        const std::string newer = put("newer", PdfBuilder::simple("/PageMode /UseThumbs"));
+        const ProgramRun run(programWithTroubledLibrary(),
+                             QStringList{"run", "replaced.pdf"} + target + panelAndPage, m_folder->path());
+        QVERIFY2(reasonFor(run.err, "replaced.pdf").contains("changed by another program"), run.err);
+        QVERIFY(contentOf("replaced.pdf") == newer);
+        QVERIFY(!fs::exists("out/replaced.pdf"));
+        fs::remove_all("installed");
+    }
 }
 
 void TestQuintarRun::replacesWorkersThatGetIntoTrouble()

@@ -9,6 +9,7 @@
 #include "host/PluginHost.h"
 #include "host/SetOption.h"
 #include "host/SettingsFolder.h"
+#include "host/StandardOutput.h"
 #include "host/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
@@ -23,7 +24,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace host {
 
@@ -108,7 +108,7 @@ int ConfigureCommand::run(int argc, char** argv)
 {
     parse(argc, argv);
     if (m_help) {
-        std::fputs(helpText, stdout);
+        printResult(helpText);
         return exitstatus::done;
     }
     check();
@@ -223,8 +223,8 @@ int ConfigureCommand::print() const
         line += (line.empty() ? "--set " : " --set ") + word;
     for (const std::string& key : leftOut)
         tell("note: " + key + " is left out: no value is chosen");
-    line += "\n";
-    return writeAll(STDOUT_FILENO, line.data(), line.size()) ? exitstatus::done : exitstatus::someFailed;
+    printResult(line + "\n");
+    return exitstatus::done;
 }
 
 int ConfigureCommand::write() const

@@ -7,6 +7,7 @@
 #include "host/JsonLine.h"
 #include "host/SettingsFolder.h"
 #include "host/SettingsWords.h"
+#include "host/StandardOutput.h"
 #include "host/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
@@ -14,8 +15,6 @@
 #include <QJsonArray>
 
 #include <unistd.h>
-
-#include <cstdio>
 
 namespace host {
 
@@ -68,8 +67,8 @@ public:
         try {
             const std::vector<std::string> files = folder.files();
             if (!m_json)
-                write(STDOUT_FILENO,
-                      title + " in " + forTerminal(folder.path()) + (files.empty() ? ": none\n" : ":\n"));
+                printResult(title + " in " + forTerminal(folder.path()) +
+                            (files.empty() ? ": none\n" : ":\n"));
             for (const std::string& file : files)
                 printFile(folder, file);
         } catch (const UsageError& error) {
@@ -84,7 +83,7 @@ private:
     {
         try {
             const StoredSettings stored = folder.describe(file);
-            write(STDOUT_FILENO, m_json ? toJson(folder, file, stored) : inWords(folder, file, stored));
+            printResult(m_json ? toJson(folder, file, stored) : inWords(folder, file, stored));
         } catch (const UsageError& error) {
             complain(error);
         }
@@ -93,7 +92,8 @@ private:
     void complain(const UsageError& error)
     {
         m_failed = true;
-        write(STDERR_FILENO, "quintar: " + forTerminal(error.what()) + "\n");
+        const std::string line = "quintar: " + forTerminal(error.what()) + "\n";
+        writeAll(STDERR_FILENO, line.data(), line.size());
     }
 
     static std::string inWords(const SettingsFolder& folder, const std::string& file,
@@ -129,11 +129,6 @@ private:
         return jsonLine(object);
     }
 
-    static void write(int descriptor, const std::string& text)
-    {
-        writeAll(descriptor, text.data(), text.size());
-    }
-
     bool m_json;
     bool m_failed = false;
 };
@@ -149,7 +144,7 @@ int ListsCommand::run(int argc, char** argv)
     parser.addFlag("help", help, 'h');
     const std::vector<std::string> words = parser.parse(argc, argv);
     if (help) {
-        std::fputs(helpText, stdout);
+        printResult(helpText);
         return exitstatus::done;
     }
     if (!words.empty())

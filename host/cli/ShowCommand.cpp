@@ -7,6 +7,7 @@
 #include "host/InstallLayout.h"
 #include "host/JsonLine.h"
 #include "host/OpeningView.h"
+#include "host/StandardOutput.h"
 #include "host/StopSignal.h"
 #include "host/UsageError.h"
 #include "host/WorkerPool.h"
@@ -17,7 +18,7 @@
 
 #include <unistd.h>
 
-#include <cstdio>
+#include <algorithm>
 #include <stdexcept>
 
 namespace host {
@@ -89,11 +90,13 @@ int ShowCommand::run(int argc, char** argv)
     parser.addValue("password", [&](const std::string& value) { password = value; });
     const std::vector<std::string> files = parser.parse(argc, argv);
     if (help) {
-        std::fputs(helpText, stdout);
+        printResult(helpText);
         return exitstatus::done;
     }
     if (files.empty())
         throw UsageError("which documents?");
+    if (std::find(files.begin(), files.end(), "") != files.end())
+        throw UsageError("a document's name is empty");
 
     bool failed = false;
     StopSignal stop;
@@ -104,10 +107,12 @@ int ShowCommand::run(int argc, char** argv)
             const bool good = outcome.kind == WorkOutcome::Answered && outcome.text[0] == readable;
             const std::string text =
                 outcome.kind == WorkOutcome::Answered ? outcome.text.substr(1) : outcome.text;
+            if (good)
+                return printResult(text);
             const std::string line =
-                good ? text : "quintar: " + forTerminal(files[index]) + ": " + forTerminal(text) + "\n";
-            writeAll(good ? STDOUT_FILENO : STDERR_FILENO, line.data(), line.size());
-            failed = failed || !good;
+                "quintar: " + forTerminal(files[index]) + ": " + forTerminal(text) + "\n";
+            writeAll(STDERR_FILENO, line.data(), line.size());
+            failed = true;
         },
         stop);
     return stop.count() > 0 ? exitstatus::stopped : failed ? exitstatus::someFailed : exitstatus::done;

@@ -1,0 +1,26 @@
+#include "StandardOutput.h"
+
+#include "FileDescriptor.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace host {
+
+OutputError::OutputError(int problem)
+    : std::runtime_error("standard output cannot be written: " + systemError(problem)), m_problem(problem)
+{}
+
+bool OutputError::readerHasGone() const
+{
+    return m_problem == EPIPE;
+}
+
+void printResult(const std::string& text)
+{
+    if (!writeAll(STDOUT_FILENO, text.data(), text.size()))
+        throw OutputError(errno);
+}
+
+} // namespace host

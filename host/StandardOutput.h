@@ -1,0 +1,23 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace host {
+
+/// What a command was asked for cannot be printed.
+class OutputError : public std::runtime_error
+{
+public:
+    explicit OutputError(int problem);
+    /// As "head" does when it has seen enough.
+    bool readerHasGone() const;
+
+private:
+    int m_problem;
+};
+
+/// Prints what a command was asked for on standard output. Throws OutputError.
+void printResult(const std::string& text);
+
+} // namespace host
