@@ -151,6 +151,7 @@ private slots:
         QCOMPARE(list.windowTitle(), QString("Add To Action"));
         QCOMPARE(list.findChild<QLabel*>("QDtitleLabel")->text(), list.windowTitle());
         QVERIFY(list.ui.newActionListRadioButton->isChecked() && !list.ui.saveButton->isEnabled());
+        QVERIFY(list.focusWidget() == list.ui.actionListNameLineEdit);
         QStringList categories;
         for (int i = 0; i < list.ui.categoryComboBox->count(); ++i)
             categories.append(list.ui.categoryComboBox->itemText(i));
@@ -163,7 +164,8 @@ private slots:
         QCOMPARE(collection.objectName(), QString("saveAsCollectionDialog"));
         QCOMPARE(collection.windowTitle(), QString("Add To Favorites"));
         QCOMPARE(collection.findChild<QLabel*>("QDtitleLabel")->text(), collection.windowTitle());
-        QVERIFY(!collection.ui.saveButton->isEnabled());
+        QVERIFY(!collection.ui.saveButton->isEnabled() &&
+                collection.focusWidget() == collection.ui.collectionNameLineEdit);
         QVERIFY(!collection.ui.icon_toolButton->icon().isNull());
         QCOMPARE(collection.ui.icon_toolButton->size(), QSize(60, 60));
         QCOMPARE(collection.size(), QSize(361, 201 + 35));

@@ -19,6 +19,7 @@ CSaveAsActionlistDialog::CSaveAsActionlistDialog(QWidget* parent, Qt::WindowFlag
         ui.categoryComboBox->removeItem(0);
     ui.categoryComboBox->addItems(CActionUtils::GetActionListCategories());
     connect(ui.actionListNameLineEdit, SIGNAL(returnPressed()), ui.saveButton, SIGNAL(clicked()));
+    ui.actionListNameLineEdit->setFocus();
 }
 
 void CSaveAsActionlistDialog::LoadPrefsData(QMap<QString, QVariant>* prefs)

@@ -35,6 +35,7 @@ CSaveAsCollectionDialog::CSaveAsCollectionDialog(QWidget* parent, Qt::WindowFlag
         setMaximumHeight(leastHeight);
         setMinimumHeight(leastHeight);
     }
+    ui.collectionNameLineEdit->setFocus();
 }
 
 void CSaveAsCollectionDialog::LoadPrefsData(QMap<QString, QVariant>* prefs)
