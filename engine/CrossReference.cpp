@@ -1,5 +1,6 @@
 #include "engine/CrossReference.h"
 
+#include "engine/DirectReader.h"
 #include "engine/DocumentTail.h"
 #include "engine/EngineError.h"
 #include "engine/SourceInput.h"
@@ -68,6 +69,13 @@ CrossReference::CrossReference(QPDF& pdf, std::shared_ptr<const ByteSource> sour
         throw EngineError(ErrorCode::CannotAppend, error.what());
     }
 }
+
+CrossReference::CrossReference(QPDF& pdf, const DirectReader& reader)
+    : m_kind(reader.newestIsStream() ? Kind::Stream : Kind::Table),
+      m_newestOffset(static_cast<std::uint64_t>(reader.newestOffset())),
+      m_trailer(QPDFObjectHandle::parse(&pdf, reader.trailer())), m_entryEnd(reader.size()),
+      m_size(reader.size())
+{}
 
 void CrossReference::readChain(QPDF& pdf, std::uint64_t offset)
 {

@@ -12,6 +12,8 @@
 
 namespace engine {
 
+class DirectReader;
+
 /// What a further revision must know of a document's cross-reference: read from the bytes themselves, section
 /// by section along the chain, and not from libqpdf, which repairs without saying how much.
 class CrossReference
@@ -22,6 +24,9 @@ public:
     /// \throws EngineError with CannotAppend unless every section is where the chain says, and the newest one
     ///     names the catalog that `pdf` uses.
     CrossReference(QPDF& pdf, std::shared_ptr<const ByteSource> source);
+
+    /// The same of a document that a direct reader accepted, and so has read already.
+    CrossReference(QPDF& pdf, const DirectReader& reader);
 
     /// Kind of the newest section; a table with a stream beside it (a hybrid file) counts as a table.
     Kind kind() const { return m_kind; }

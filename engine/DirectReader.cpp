@@ -1,6 +1,5 @@
 #include "engine/DirectReader.h"
 
-#include "engine/SyntaxScanner.h"
 #include "engine/TableScanner.h"
 
 #include <zlib.h>
@@ -15,7 +14,8 @@ namespace engine {
 namespace {
 
 const std::size_t tailSize = 1024;
-const std::size_t firstWindow = 1024;
+const std::size_t readAtOnce = 16384;
+const std::size_t firstWindow = 4096;
 const std::size_t largestWindow = 4 << 20;
 const std::size_t largestDecoded = 64 << 20;
 const std::size_t mostContainerBytes = 32 << 20;
@@ -91,12 +91,12 @@ std::optional<std::string> unpredicted(std::string data, std::string_view parame
                                                 : std::nullopt;
 }
 
-std::optional<std::string> decoded(const Entries& dictionary, std::string data)
+std::optional<std::string> decoded(const Entries& dictionary, std::string_view data)
 {
     const auto filter = dictionary.find("Filter");
     const auto parameters = dictionary.find("DecodeParms");
     if (filter == dictionary.end())
-        return parameters == dictionary.end() ? std::optional(std::move(data)) : std::nullopt;
+        return parameters == dictionary.end() ? std::optional(std::string(data)) : std::nullopt;
     if (filter->second != "/FlateDecode")
         return std::nullopt;
     auto plain = inflated(data);
@@ -134,6 +134,13 @@ std::optional<std::int64_t> fixedNumber(std::string_view digits)
     return whole && value >= 0 ? std::optional(value) : std::nullopt;
 }
 
+std::optional<SyntaxScanner::Reference> wholeReference(std::string_view text)
+{
+    SyntaxScanner scanner(text);
+    const auto id = scanner.reference();
+    return scanner.atEnd() ? id : std::nullopt;
+}
+
 bool isNumberInRange(std::optional<std::int64_t> number, std::int64_t largest)
 {
     return number && *number <= largest;
@@ -150,25 +157,37 @@ std::unique_ptr<DirectReader> DirectReader::open(std::shared_ptr<ByteSource> sou
     return last && reader->readSections(*last) ? std::move(reader) : nullptr;
 }
 
-std::string DirectReader::bytes(std::int64_t offset, std::size_t count) const
+std::string_view DirectReader::bytes(std::int64_t offset, std::size_t count)
 {
-    return m_source->text(static_cast<std::uint64_t>(offset), count);
+    const auto total = static_cast<std::int64_t>(m_source->size());
+    if (offset < 0 || offset >= total)
+        return {};
+    count = std::min(count, static_cast<std::size_t>(total - offset));
+    for (const Window& window : m_windows) {
+        const std::int64_t skipped = offset - window.offset;
+        if (skipped >= 0 && static_cast<std::size_t>(skipped) + count <= window.bytes.size())
+            return std::string_view(window.bytes).substr(static_cast<std::size_t>(skipped), count);
+    }
+    Window& window = m_windows[m_oldestWindow];
+    m_oldestWindow = (m_oldestWindow + 1) % m_windows.size();
+    window = {offset, m_source->text(static_cast<std::uint64_t>(offset), std::max(count, readAtOnce))};
+    return std::string_view(window.bytes).substr(0, count);
 }
 
 /// The number behind the last "startxref", when nothing but the end-of-file marker follows it.
-std::optional<std::int64_t> DirectReader::lastStartXref() const
+std::optional<std::int64_t> DirectReader::lastStartXref()
 {
     const auto total = static_cast<std::int64_t>(m_source->size());
     const std::int64_t start = std::max<std::int64_t>(0, total - static_cast<std::int64_t>(tailSize));
-    const std::string tail = bytes(start, tailSize);
+    const std::string_view tail = bytes(start, tailSize);
     const std::size_t found = tail.rfind("startxref");
-    if (found == std::string::npos)
+    if (found == tail.npos)
         return std::nullopt;
     SyntaxScanner scanner(tail, found + std::string_view("startxref").size());
     scanner.skipSpace();
     const auto offset = scanner.integer();
     scanner.skipSpace();
-    std::string_view rest = std::string_view(tail).substr(scanner.position());
+    std::string_view rest = tail.substr(scanner.position());
     if (!offset || *offset >= total || !rest.starts_with("%%EOF"))
         return std::nullopt;
     rest.remove_prefix(std::string_view("%%EOF").size());
@@ -226,7 +245,7 @@ std::optional<DirectReader::Section> DirectReader::readTable(std::int64_t offset
     Section section;
     std::int64_t at = offset + 4;
     for (;;) {
-        const std::string head = bytes(at, 64);
+        const std::string_view head = bytes(at, 64);
         SyntaxScanner scanner(head);
         scanner.skipSpace();
         if (scanner.keyword("trailer")) {
@@ -259,8 +278,8 @@ bool DirectReader::hasGoodEntries(const Run& run) const
 {
     for (std::int64_t done = 0; done < run.count; done += entriesAtOnce) {
         const std::int64_t count = std::min(entriesAtOnce, run.count - done);
-        const std::string entries =
-            bytes(run.offset + done * entrySize, static_cast<std::size_t>(count * entrySize));
+        const std::string entries = m_source->text(static_cast<std::uint64_t>(run.offset + done * entrySize),
+                                                   static_cast<std::size_t>(count * entrySize));
         for (std::size_t at = 0; at < static_cast<std::size_t>(count * entrySize); at += entrySize)
             if (at > entries.size() || !isUsualTableEntry(std::string_view(entries).substr(at, entrySize)))
                 return false;
@@ -307,7 +326,7 @@ std::optional<DirectReader::Section> DirectReader::readStream(std::int64_t offse
     return section;
 }
 
-std::optional<DirectReader::Entry> DirectReader::find(int number) const
+std::optional<DirectReader::Entry> DirectReader::find(int number)
 {
     for (const Section& section : m_sections)
         for (const Run& run : section.runs)
@@ -316,13 +335,12 @@ std::optional<DirectReader::Entry> DirectReader::find(int number) const
     return Entry{EntryKind::Free, 0, 0};
 }
 
-std::optional<DirectReader::Entry> DirectReader::tableEntry(const Run& run, int number) const
+std::optional<DirectReader::Entry> DirectReader::tableEntry(const Run& run, int number)
 {
-    const std::string entry = bytes(run.offset + (number - run.first) * entrySize, entrySize);
-    if (!isUsualTableEntry(entry))
+    const std::string_view text = bytes(run.offset + (number - run.first) * entrySize, entrySize);
+    if (!isUsualTableEntry(text))
         return std::nullopt;
-    const std::string_view text = entry;
-    const auto kind = entry[17] == 'n' ? EntryKind::Plain : EntryKind::Free;
+    const auto kind = text[17] == 'n' ? EntryKind::Plain : EntryKind::Free;
     return Entry{kind, *fixedNumber(text.substr(0, 10)), static_cast<int>(*fixedNumber(text.substr(11, 5)))};
 }
 
@@ -342,20 +360,6 @@ std::optional<DirectReader::Entry> DirectReader::streamEntry(const Section& sect
                  static_cast<int>(fields[2])};
 }
 
-std::optional<DirectReader::Reference> DirectReader::reference(std::string_view text)
-{
-    const std::string ended = std::string(text) + ' ';
-    SyntaxScanner scanner(ended);
-    const auto number = scanner.integer();
-    scanner.skipSpace();
-    const auto generation = scanner.integer();
-    scanner.skipSpace();
-    if (!isNumberInRange(number, INT32_MAX) || !isNumberInRange(generation, UINT16_MAX) ||
-        !scanner.keyword("R"))
-        return std::nullopt;
-    return Reference{static_cast<int>(*number), static_cast<int>(*generation)};
-}
-
 std::string DirectReader::skeletonTrailer() const
 {
     const auto entries = dictionaryEntries(trailer());
@@ -369,18 +373,16 @@ std::string DirectReader::skeletonTrailer() const
 std::optional<std::string> DirectReader::skeleton()
 {
     const auto entries = dictionaryEntries(trailer());
-    const auto root = entries->contains("Root") ? reference(entries->at("Root")) : std::nullopt;
+    const auto root = entries->contains("Root") ? wholeReference(entries->at("Root")) : std::nullopt;
     const auto catalog = root ? object(root->number, root->generation) : std::nullopt;
     const auto catalogEntries = catalog ? dictionaryEntries(*catalog) : std::nullopt;
     if (!catalogEntries || !catalogEntries->contains("Pages"))
         return std::nullopt;
-    const auto pagesReference = reference(catalogEntries->at("Pages"));
-    const auto pages =
-        pagesReference ? object(pagesReference->number, pagesReference->generation) : std::nullopt;
-    if (!pages || !pages->starts_with("<<") || pagesReference->number == root->number)
+    const auto pages = wholeReference(catalogEntries->at("Pages"));
+    if (!pages || pages->number == root->number)
         return std::nullopt;
 
-    std::string text = bytes(0, 8) + "\n";
+    std::string text = std::string(bytes(0, 8)) + "\n";
     std::string table;
     const auto add = [&](const Reference& id, const std::string& value) {
         char entry[32];
@@ -390,9 +392,8 @@ std::optional<std::string> DirectReader::skeleton()
             std::to_string(id.number) + " " + std::to_string(id.generation) + " obj\n" + value + "\nendobj\n";
     };
     add(*root, *catalog);
-    add(*pagesReference, *pages);
     // New objects are numbered from the last one on.
-    if (root->number != m_size - 1 && pagesReference->number != m_size - 1)
+    if (root->number != m_size - 1)
         add({m_size - 1, 0}, "null");
     const std::size_t start = text.size();
     return text + "xref\n" + table + "trailer\n" + skeletonTrailer() + "\nstartxref\n" +
@@ -425,7 +426,7 @@ std::optional<std::string> DirectReader::valueAt(std::int64_t offset, int number
                                                  std::int64_t* streamData)
 {
     for (std::size_t window = firstWindow; window <= largestWindow; window *= 4) {
-        const std::string text = bytes(offset, window);
+        const std::string_view text = bytes(offset, window);
         SyntaxScanner scanner(text);
         if (number >= 0) {
             const auto foundNumber = scanner.integer();
@@ -446,12 +447,12 @@ std::optional<std::string> DirectReader::valueAt(std::int64_t offset, int number
             continue;
         if (outcome != SyntaxScanner::Outcome::Complete)
             return std::nullopt;
-        std::string value = text.substr(start, end - start);
+        std::string value(text.substr(start, end - start));
         if (scanner.keyword("endobj") || (number < 0 && scanner.keyword("startxref")))
             return value;
         if (streamData == nullptr || !scanner.keyword("stream"))
             return std::nullopt;
-        const std::string_view data = std::string_view(text).substr(scanner.position());
+        const std::string_view data = text.substr(scanner.position());
         if (!data.starts_with("\n") && !data.starts_with("\r\n"))
             return std::nullopt;
         *streamData = offset + static_cast<std::int64_t>(scanner.position() + (data.front() == '\n' ? 1 : 2));
@@ -463,8 +464,7 @@ std::optional<std::string> DirectReader::valueAt(std::int64_t offset, int number
 /// Reads and decodes the stream at an offset; `number` -1 accepts any object number.
 std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int number, std::string& dictionary)
 {
-    const std::string head = bytes(offset, longestObjectHeader);
-    SyntaxScanner scanner(head);
+    SyntaxScanner scanner(bytes(offset, longestObjectHeader));
     const auto found = scanner.integer();
     if (!isNumberInRange(found, INT32_MAX) || (number >= 0 && *found != number))
         return std::nullopt;
@@ -478,15 +478,14 @@ std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int numbe
     if (!isNumberInRange(length, static_cast<std::int64_t>(largestDecoded)))
         return std::nullopt;
     const auto size = static_cast<std::size_t>(*length);
-    std::string data = bytes(start, size + longestObjectHeader);
+    const std::string_view data = bytes(start, size + longestObjectHeader);
     if (data.size() < size)
         return std::nullopt;
     SyntaxScanner behind(data, size);
     behind.skipSpace();
     if (!behind.keyword("endstream"))
         return std::nullopt;
-    data.resize(size);
-    return decoded(*entries, std::move(data));
+    return decoded(*entries, data.substr(0, size));
 }
 
 std::optional<std::string> DirectReader::compressed(int container, int index, int number)

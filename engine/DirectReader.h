@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/ByteSource.h"
+#include "engine/SyntaxScanner.h"
 
 #include <array>
 #include <cstdint>
@@ -32,8 +33,14 @@ public:
     /// The newest section's trailer dictionary, as text.
     const std::string& trailer() const { return m_sections.front().dictionary; }
 
-    /// A small PDF with this one's trailer, catalog and root of the page tree, and an empty object in the
-    /// place of the last one. Its other objects are missing: whoever works on it puts in what object() gives.
+    /// What a further revision builds upon.
+    bool newestIsStream() const { return m_sections.front().isStream; }
+    std::int64_t newestOffset() const { return m_sections.front().offset; }
+    /// The largest of all sections' sizes; none of them has an entry for this number or a higher one.
+    int size() const { return m_size; }
+
+    /// A small PDF with this one's trailer and catalog, and an empty object in the place of the last one. Its
+    /// other objects are missing: whoever works on it puts in what object() gives.
     /// \returns nothing when the reader has to give up.
     std::optional<std::string> skeleton();
 
@@ -66,6 +73,13 @@ private:
         int detail;            // generation, or index in the object stream
     };
 
+    /// A stretch of the file that was read lately.
+    struct Window
+    {
+        std::int64_t offset = 0;
+        std::string bytes;
+    };
+
     /// A decoded object stream.
     struct Container
     {
@@ -75,16 +89,12 @@ private:
 
     explicit DirectReader(std::shared_ptr<ByteSource> source) : m_source(std::move(source)) {}
 
-    struct Reference
-    {
-        int number;
-        int generation;
-    };
+    using Reference = SyntaxScanner::Reference;
 
-    std::string bytes(std::int64_t offset, std::size_t count) const;
-    static std::optional<Reference> reference(std::string_view text);
+    /// Up to `count` bytes, fewer only at the end. Good until the next few calls.
+    std::string_view bytes(std::int64_t offset, std::size_t count);
     std::string skeletonTrailer() const;
-    std::optional<std::int64_t> lastStartXref() const;
+    std::optional<std::int64_t> lastStartXref();
     bool readSections(std::int64_t offset);
     std::optional<Section> readSection(std::int64_t offset);
     std::optional<Section> readTable(std::int64_t offset);
@@ -92,8 +102,8 @@ private:
     std::optional<Section> readStream(std::int64_t offset);
     bool complete(Section& section);
 
-    std::optional<Entry> find(int number) const;
-    std::optional<Entry> tableEntry(const Run& run, int number) const;
+    std::optional<Entry> find(int number);
+    std::optional<Entry> tableEntry(const Run& run, int number);
     std::optional<Entry> streamEntry(const Section& section, const Run& run, int number) const;
 
     std::optional<std::string> valueAt(std::int64_t offset, int number, int generation,
@@ -103,6 +113,8 @@ private:
     const Container* containerOf(int number);
 
     std::shared_ptr<ByteSource> m_source;
+    std::array<Window, 4> m_windows;
+    std::size_t m_oldestWindow = 0;
     std::vector<Section> m_sections; // newest first
     int m_size = 0;
     std::map<int, Container> m_containers;

@@ -5,6 +5,7 @@
 #include "engine/EngineError.h"
 #include "engine/ObjectSerializer.h"
 #include "engine/SourceInput.h"
+#include "engine/SyntaxScanner.h"
 
 #include <qpdf/QUtil.hh>
 
@@ -24,6 +25,46 @@ std::vector<std::string> passwordsToTry(std::string_view password)
         passwords = QUtil::possible_repaired_encodings(std::string(password));
     passwords.emplace_back();
     return passwords;
+}
+
+/// The references that an array consists of. \returns nothing when it holds anything else.
+std::shared_ptr<std::vector<QPDFObjGen>> referencesIn(std::string_view array)
+{
+    if (!array.starts_with('[') || !array.ends_with(']'))
+        return nullptr;
+    auto references = std::make_shared<std::vector<QPDFObjGen>>();
+    references->reserve(array.size() / 8);
+    SyntaxScanner scanner(array, 1);
+    for (scanner.skipSpace(); scanner.position() + 1 < array.size(); scanner.skipSpace()) {
+        const auto id = scanner.reference();
+        if (!id)
+            return nullptr;
+        references->emplace_back(id->number, id->generation);
+    }
+    return references;
+}
+
+/// Splits a node's text. \returns nothing for what is no node, or has kids that are no references.
+struct NodeText
+{
+    std::string withoutKids;
+    std::shared_ptr<std::vector<QPDFObjGen>> kids;
+};
+
+std::optional<NodeText> splitNode(const std::string& text)
+{
+    DictionaryScanner scanner(text);
+    while (const auto entry = scanner.next()) {
+        if (entry->key != "Kids")
+            continue;
+        auto kids = referencesIn(entry->value);
+        if (!kids)
+            return std::nullopt;
+        const auto start = static_cast<std::size_t>(entry->key.data() - 1 - text.data());
+        const auto end = static_cast<std::size_t>(entry->value.data() - text.data()) + entry->value.size();
+        return NodeText{text.substr(0, start) + text.substr(end), std::move(kids)};
+    }
+    return std::nullopt;
 }
 
 bool looksLikePdf(const ByteSource& source)
@@ -70,7 +111,7 @@ bool Document::openSkeleton()
     m_pdf->setSuppressWarnings(true);
     try {
         m_pdf->processMemoryFile(m_fileName.c_str(), m_skeleton.data(), m_skeleton.size());
-        m_fetched = {catalog().getObjGen(), catalog().getKey("/Pages").getObjGen()};
+        m_fetched = {catalog().getObjGen()};
     } catch (const QPDFExc&) {
         m_direct.reset();
     }
@@ -95,6 +136,7 @@ void Document::readWhole()
     for (const QPDFObjGen& id : m_changed)
         changed[id] = ObjectSerializer().write(m_pdf->getObject(id));
     m_direct.reset();
+    m_kids.clear();
     openWhole();
     for (const auto& [id, text] : changed)
         m_pdf->replaceObject(id, QPDFObjectHandle::parse(m_pdf.get(), text));
@@ -136,27 +178,82 @@ QPDFObjectHandle Document::item(QPDFObjectHandle array, int index)
     return within ? fetched(array.getArrayItem(index)) : QPDFObjectHandle::newNull();
 }
 
-QPDFObjectHandle Document::fetched(QPDFObjectHandle object)
+std::string Document::textOf(QPDFObjGen id)
 {
-    if (m_direct == nullptr || !object.isIndirect() || !m_fetched.insert(object.getObjGen()).second)
-        return object;
-    const auto text = m_direct->object(object.getObjectID(), object.getGeneration());
+    auto text = m_direct->object(id.getObj(), id.getGen());
     if (!text)
         throw DirectReadingEnded();
-    m_pdf->replaceObject(object.getObjGen(), QPDFObjectHandle::parse(m_pdf.get(), *text));
+    return std::move(*text);
+}
+
+void Document::put(QPDFObjGen id, const std::string& text)
+{
+    m_pdf->replaceObject(id, QPDFObjectHandle::parse(m_pdf.get(), text));
     if (m_pdf->anyWarnings())
         throw DirectReadingEnded();
+}
+
+QPDFObjectHandle Document::fetched(QPDFObjectHandle object)
+{
+    if (m_direct != nullptr && object.isIndirect() && m_fetched.insert(object.getObjGen()).second)
+        put(object.getObjGen(), textOf(object.getObjGen()));
     return object;
 }
 
-std::optional<std::string> Document::unreadItem(QPDFObjectHandle array, int index)
+QPDFObjectHandle Document::node(QPDFObjectHandle object)
 {
-    if (m_direct == nullptr)
+    const QPDFObjGen id = object.getObjGen();
+    if (m_direct == nullptr || !object.isIndirect() || m_fetched.contains(id) || m_kids.contains(id))
+        return object;
+    const std::string text = textOf(id);
+    auto split = splitNode(text);
+    put(id, split ? split->withoutKids : text);
+    if (split)
+        m_kids.emplace(id, std::move(split->kids));
+    else
+        m_fetched.insert(id);
+    return object;
+}
+
+Kids Document::kids(QPDFObjectHandle node)
+{
+    if (const auto known = m_kids.find(node.getObjGen()); known != m_kids.end())
+        return Kids(known->second);
+    return Kids(key(node, "/Kids"));
+}
+
+QPDFObjectHandle Document::kid(const Kids& kids, int index)
+{
+    if (index < 0 || index >= kids.size())
+        return QPDFObjectHandle::newNull();
+    const auto& references = kids.m_references;
+    return node(references ? m_pdf->getObject((*references)[static_cast<std::size_t>(index)])
+                           : QPDFObjectHandle(kids.m_array).getArrayItem(index));
+}
+
+std::optional<std::string> Document::unreadKid(const Kids& kids, int index)
+{
+    const QPDFObjGen id = kids.id(index);
+    if (m_direct == nullptr || !id.isIndirect() || m_fetched.contains(id) || m_kids.contains(id))
         return std::nullopt;
-    const QPDFObjectHandle object = array.getArrayItem(index);
-    if (!object.isIndirect() || m_fetched.contains(object.getObjGen()))
-        return std::nullopt;
-    return m_direct->object(object.getObjectID(), object.getGeneration());
+    return m_direct->object(id.getObj(), id.getGen());
+}
+
+Kids::Kids(QPDFObjectHandle array) : m_array(array), m_size(array.isArray() ? array.getArrayNItems() : 0) {}
+
+Kids::Kids(std::shared_ptr<const std::vector<QPDFObjGen>> references)
+    : m_references(std::move(references)), m_size(static_cast<int>(m_references->size()))
+{}
+
+QPDFObjGen Kids::id(int kid) const
+{
+    return m_references ? (*m_references)[static_cast<std::size_t>(kid)]
+                        : QPDFObjectHandle(m_array).getArrayItem(kid).getObjGen();
+}
+
+CrossReference Document::crossReference()
+{
+    return m_direct ? CrossReference(*m_pdf, *m_direct) : CrossReference(*m_pdf, m_source);
 }
 
 QPDFObjectHandle Document::makeIndirect(const QPDFObjectHandle& object)

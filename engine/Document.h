@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/CrossReference.h"
 #include "engine/ErrorCodes.h"
 
 #include <qpdf/QPDF.hh>
@@ -12,6 +13,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace engine {
 
@@ -26,13 +28,36 @@ struct DirectReadingEnded
 /// What a libqpdf failure is called at the library's boundary.
 ErrorCode errorCodeOf(const QPDFExc& error);
 
+/// What a node of the page tree lists.
+class Kids
+{
+public:
+    /// \param array anything; what is no array has no kids.
+    explicit Kids(QPDFObjectHandle array);
+    explicit Kids(std::shared_ptr<const std::vector<QPDFObjGen>> references);
+
+    /// False for the kids of something that is not a node.
+    explicit operator bool() const { return m_references != nullptr || QPDFObjectHandle(m_array).isArray(); }
+    int size() const { return m_size; }
+    /// The object that a reference leads to; the null object's number for a kid that stands here directly.
+    QPDFObjGen id(int kid) const;
+
+private:
+    friend class Document;
+
+    std::shared_ptr<const std::vector<QPDFObjGen>> m_references; // null when m_array has the kids
+    QPDFObjectHandle m_array;
+    int m_size;
+};
+
 /// One open document: the bytes that it was read from, libqpdf's view of them, and which of its objects were
 /// changed since. Failures are thrown as EngineError.
 ///
 /// libqpdf reads the whole cross-reference of a document before anything else. So a document that allows it
 /// is opened as a skeleton into which its objects are fetched one by one as they are asked for. References
 /// must therefore be followed by key(), item() and fetched() and by nothing else: libqpdf takes an object
-/// that has not been fetched for null.
+/// that has not been fetched for null. Nodes of the page tree can list ten thousands of pages, which libqpdf
+/// need not read: node(), kids() and kid() are for them.
 class Document
 {
 public:
@@ -63,9 +88,14 @@ public:
     QPDFObjectHandle item(QPDFObjectHandle array, int index);
     /// The same object, read.
     QPDFObjectHandle fetched(QPDFObjectHandle object);
-    /// The text of an array's element that is an object nobody has read yet, for looking at without reading
-    /// it.
-    std::optional<std::string> unreadItem(QPDFObjectHandle array, int index);
+
+    /// fetched() for what may be a page or a node above pages; its /Kids are only in kids() then.
+    QPDFObjectHandle node(QPDFObjectHandle object);
+    Kids kids(QPDFObjectHandle node);
+    QPDFObjectHandle kid(const Kids& kids, int index);
+    /// The text of a kid that nobody has read yet, for looking at without reading it.
+    std::optional<std::string> unreadKid(const Kids& kids, int index);
+
     /// Makes a direct object an indirect one with a new number.
     QPDFObjectHandle makeIndirect(const QPDFObjectHandle& object);
 
@@ -80,10 +110,15 @@ public:
     /// True when libqpdf complained about anything so far.
     bool anyWarnings();
 
+    /// What the next revision builds upon. \throws EngineError with CannotAppend.
+    CrossReference crossReference();
+
     bool openedWithPassword() const { return m_openedWithPassword; }
 
 private:
     bool openSkeleton();
+    std::string textOf(QPDFObjGen id);
+    void put(QPDFObjGen id, const std::string& text);
     void openWhole();
     /// False when the password is not right.
     bool open(const std::string& password);
@@ -95,6 +130,7 @@ private:
     std::unique_ptr<DirectReader> m_direct; // null when m_pdf has the whole document
     std::string m_skeleton;
     std::set<QPDFObjGen> m_fetched;
+    std::map<QPDFObjGen, std::shared_ptr<const std::vector<QPDFObjGen>>> m_kids; // of nodes fetched without
     std::shared_ptr<QPDF> m_pdf;
     std::set<QPDFObjGen> m_changed;
     bool m_rebuilt = false;

@@ -29,11 +29,12 @@ std::string pathFrom(std::wstring_view fileName)
 bool hasPages(OpenDocument& document)
 {
     try {
-        return document.pages.hasPages();
-    } catch (const DirectReadingEnded&) {
-        document.readWhole();
-        return document.pages.hasPages();
+        if (document.pages.hasPages())
+            return true;
+    } catch (const DirectReadingEnded&) { // the document is read whole
     }
+    document.readWhole();
+    return document.pages.hasPages();
 }
 
 int open(Session& session, std::shared_ptr<ByteSource> source, std::string fileName,

@@ -99,7 +99,8 @@ void appendUpdate(Document& document, const std::string& path)
         throw EngineError(ErrorCode::NothingChanged);
     if (!source->unchangedSinceOpened())
         throw EngineError(ErrorCode::SourceChanged);
-    const IncrementalUpdate update(document.pdf(), source, document.changedObjects());
+    const IncrementalUpdate update(document.pdf(), document.crossReference(), *source,
+                                   document.changedObjects());
     if (document.crossReferenceRebuilt())
         throw EngineError(ErrorCode::CannotAppend, "the cross-reference was rebuilt");
     OutputFile file(path);

@@ -69,13 +69,13 @@ bool endsWithLine(const ByteSource& source)
 
 } // namespace
 
-IncrementalUpdate::IncrementalUpdate(QPDF& pdf, std::shared_ptr<const ByteSource> source,
-                                     const std::set<QPDFObjGen>& changed)
-    : m_crossReference(pdf, source), m_cipher(pdf), m_serializer(&m_cipher), m_sourceSize(source->size())
+IncrementalUpdate::IncrementalUpdate(QPDF& pdf, const CrossReference& crossReference,
+                                     const ByteSource& source, const std::set<QPDFObjGen>& changed)
+    : m_crossReference(crossReference), m_cipher(pdf), m_serializer(&m_cipher), m_sourceSize(source.size())
 {
     if (changed.empty())
         throw EngineError(ErrorCode::NothingChanged);
-    if (!endsWithLine(*source))
+    if (!endsWithLine(source))
         m_bytes = "\n";
     writeObjects(pdf, changed);
     if (m_crossReference.kind() == CrossReference::Kind::Table)

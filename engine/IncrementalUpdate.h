@@ -21,7 +21,7 @@ public:
     /// \param changed the indirect objects that differ from `source`. Objects that are new and referred to by
     ///     these need not be named when their numbers lie above the document's.
     /// \throws EngineError with CannotAppend when the document is such that an update would not be right.
-    IncrementalUpdate(QPDF& pdf, std::shared_ptr<const ByteSource> source,
+    IncrementalUpdate(QPDF& pdf, const CrossReference& crossReference, const ByteSource& source,
                       const std::set<QPDFObjGen>& changed);
 
     const std::string& bytes() const { return m_bytes; }
@@ -43,7 +43,7 @@ private:
     std::uint64_t nextOffset() const;
     int sizeWith(int objectNumber) const;
 
-    CrossReference m_crossReference;
+    const CrossReference& m_crossReference; // in use only while the update is made
     StringCipher m_cipher;
     ObjectSerializer m_serializer;
     std::uint64_t m_sourceSize;

@@ -22,7 +22,7 @@ Kind kindOf(Document& document, QPDFObjectHandle object)
 {
     if (!object.isDictionary())
         return Kind::Neither;
-    if (document.key(object, "/Kids").isArray())
+    if (document.kids(object))
         return Kind::Node;
     return document.key(object, "/Type").isNameAndEquals("/Pages") ? Kind::Neither : Kind::Page;
 }
@@ -36,17 +36,39 @@ std::optional<int> statedCount(Document& document, const QPDFObjectHandle& node)
     return static_cast<int>(count.getIntValue());
 }
 
-/// The count of a node that nobody has read yet, from its text alone: adding up the nodes of a large tree
-/// must not cost reading all that they list.
-std::optional<int> unreadCount(Document& document, QPDFObjectHandle kids, int kid)
+/// What the text alone of a kid tells that nobody has read yet: adding up a large tree must not cost reading
+/// all that it lists.
+struct Glimpse
 {
-    const std::optional<std::string> text = document.unreadItem(kids, kid);
-    const auto entries = text ? dictionaryEntries(*text) : std::nullopt;
-    const bool isNode = entries && entries->contains("Count") && entries->contains("Kids");
-    if (!isNode || !entries->at("Kids").starts_with('['))
-        return std::nullopt;
-    const auto count = wholeInteger(entries->at("Count"));
-    return count && *count <= INT_MAX ? std::optional(static_cast<int>(*count)) : std::nullopt;
+    Kind kind;
+    std::optional<int> count;
+};
+
+std::optional<Glimpse> glimpseOf(std::string_view text)
+{
+    Glimpse glimpse{Kind::Page, std::nullopt};
+    DictionaryScanner scanner(text);
+    while (const auto entry = scanner.next()) {
+        if (entry->key == "Kids" && !entry->value.starts_with('['))
+            return std::nullopt;
+        if (entry->key == "Type" &&
+            (!entry->value.starts_with('/') || entry->value.find('#') != entry->value.npos))
+            return std::nullopt;
+        if (entry->key == "Kids")
+            glimpse.kind = Kind::Node;
+        else if (entry->key == "Type" && entry->value == "/Pages" && glimpse.kind == Kind::Page)
+            glimpse.kind = Kind::Neither;
+        else if (entry->key == "Count")
+            if (const auto count = wholeInteger(entry->value); count && *count <= INT_MAX)
+                glimpse.count = static_cast<int>(*count);
+    }
+    return scanner.odd() ? std::nullopt : std::optional(glimpse);
+}
+
+std::optional<Glimpse> glimpse(Document& document, const Kids& kids, int kid)
+{
+    const std::optional<std::string> text = document.unreadKid(kids, kid);
+    return text ? glimpseOf(*text) : std::nullopt;
 }
 
 std::optional<int> pagesUnder(Document& document, const QPDFObjectHandle& kid)
@@ -73,9 +95,9 @@ public:
     static std::optional<KidCounts> of(Document& document, QPDFObjectHandle node)
     {
         KidCounts counts;
-        QPDFObjectHandle kids = document.key(node, "/Kids");
+        const Kids kids = document.kids(node);
         const std::optional<int> total = statedCount(document, node);
-        counts.m_kids = kids.getArrayNItems();
+        counts.m_kids = kids.size();
         if (total == counts.m_kids)
             return counts;
         if (!total || !counts.addUp(document, kids, *total))
@@ -95,12 +117,14 @@ public:
     }
 
 private:
-    bool addUp(Document& document, const QPDFObjectHandle& kids, int total)
+    bool addUp(Document& document, const Kids& kids, int total)
     {
         int sum = 0;
         for (int kid = 0; kid < m_kids; ++kid) {
-            const std::optional<int> unread = unreadCount(document, kids, kid);
-            const std::optional<int> pages = unread ? unread : pagesUnder(document, document.item(kids, kid));
+            const std::optional<Glimpse> seen = glimpse(document, kids, kid);
+            const bool isNode = seen && seen->kind == Kind::Node && seen->count;
+            const std::optional<int> pages =
+                isNode ? seen->count : pagesUnder(document, document.kid(kids, kid));
             if (!pages || *pages > total - sum)
                 return false;
             m_before.push_back(sum);
@@ -116,10 +140,10 @@ private:
 
 namespace {
 
-int placeIn(QPDFObjectHandle kids, QPDFObjGen object)
+int placeIn(const Kids& kids, QPDFObjGen object)
 {
-    for (int kid = 0, size = kids.getArrayNItems(); kid < size; ++kid)
-        if (kids.getArrayItem(kid).getObjGen() == object)
+    for (int kid = 0; kid < kids.size(); ++kid)
+        if (kids.id(kid) == object)
             return kid;
     return -1;
 }
@@ -142,7 +166,7 @@ QPDFObjectHandle PagePath::inherited(Document& document, const std::string& key,
 
 QPDFObjectHandle PageTree::root()
 {
-    return m_document.key(m_document.catalog(), "/Pages");
+    return m_document.node(m_document.catalog().getKey("/Pages"));
 }
 
 void PageTree::forget()
@@ -224,7 +248,7 @@ std::optional<PagePath> PageTree::descend(int number)
         path.nodes.push_back(node);
         path.kid = counts->kidWith(number);
         number -= counts->pagesBefore(path.kid);
-        node = m_document.item(m_document.key(node, "/Kids"), path.kid);
+        node = m_document.kid(m_document.kids(node), path.kid);
         const Kind kind = kindOf(m_document, node);
         if (kind == Kind::Page && number == 1) {
             path.page = node;
@@ -249,7 +273,7 @@ public:
         else if (kind == Kind::Node)
             enter(root, -1);
         while (!m_steps.empty()) {
-            if (m_steps.back().next == m_steps.back().size)
+            if (m_steps.back().next == m_steps.back().kids.size())
                 m_steps.pop_back();
             else
                 meetNextKid();
@@ -263,8 +287,7 @@ private:
     struct Step
     {
         int node;
-        QPDFObjectHandle kids;
-        int size;
+        Kids kids;
         int next = 0;
     };
 
@@ -273,8 +296,7 @@ private:
         if (node.isIndirect() && !m_seen.insert(node.getObjGen()).second)
             return;
         nodes.push_back({node, parent});
-        QPDFObjectHandle kids = m_document.key(node, "/Kids");
-        m_steps.push_back({static_cast<int>(nodes.size()) - 1, kids, kids.getArrayNItems()});
+        m_steps.push_back({static_cast<int>(nodes.size()) - 1, m_document.kids(node)});
     }
 
     void meetNextKid()
@@ -282,7 +304,14 @@ private:
         Step& step = m_steps.back();
         const int kid = step.next++;
         const int node = step.node;
-        const QPDFObjectHandle object = m_document.item(step.kids, kid);
+        const std::optional<Glimpse> seen = glimpse(m_document, step.kids, kid);
+        if (seen && seen->kind == Kind::Neither)
+            return;
+        if (seen && seen->kind == Kind::Page) {
+            leaves.push_back({node, kid});
+            return;
+        }
+        const QPDFObjectHandle object = m_document.kid(step.kids, kid);
         const Kind kind = kindOf(m_document, object);
         if (kind == Kind::Page)
             leaves.push_back({node, kid});
@@ -310,8 +339,8 @@ void PageTree::walk()
 QPDFObjectHandle PageTree::walkedPage(const Leaf& leaf) const
 {
     if (leaf.node < 0)
-        return m_document.key(m_document.catalog(), "/Pages");
-    return m_document.item(m_document.key(m_nodes[leaf.node].dictionary, "/Kids"), leaf.kid);
+        return m_document.node(m_document.catalog().getKey("/Pages"));
+    return m_document.kid(m_document.kids(m_nodes[leaf.node].dictionary), leaf.kid);
 }
 
 PagePath PageTree::walkedPath(const Leaf& leaf) const
@@ -344,13 +373,13 @@ std::optional<int> PageTree::climb(QPDFObjectHandle page)
     std::set<QPDFObjGen> seen;
     const QPDFObjGen top = root().getObjGen();
     int number = 1;
-    for (QPDFObjectHandle node = m_document.fetched(page); node.getObjGen() != top;) {
+    for (QPDFObjectHandle node = m_document.node(page); node.getObjGen() != top;) {
         if (!node.isDictionary() || !seen.insert(node.getObjGen()).second)
             return std::nullopt;
-        QPDFObjectHandle parent = m_document.key(node, "/Parent");
+        QPDFObjectHandle parent = m_document.node(node.getKey("/Parent"));
         if (kindOf(m_document, parent) != Kind::Node)
             return std::nullopt;
-        const int kid = placeIn(m_document.key(parent, "/Kids"), node.getObjGen());
+        const int kid = placeIn(m_document.kids(parent), node.getObjGen());
         const std::shared_ptr<const KidCounts> counts = countsOf(parent);
         if (kid < 0 || !counts || counts->pagesBefore(kid) > INT_MAX - number)
             return std::nullopt;

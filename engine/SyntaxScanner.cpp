@@ -1,5 +1,6 @@
 #include "engine/SyntaxScanner.h"
 
+#include <array>
 #include <cstring>
 #include <string>
 
@@ -10,14 +11,20 @@ namespace {
 const std::size_t deepestNesting = 100;
 const std::size_t mostDigits = 18;
 
-bool isDelimiter(char character)
-{
-    return std::strchr("()<>[]{}/%", character) != nullptr && character != '\0';
-}
+enum Class : std::uint8_t { Regular, Space, Delimiter };
+
+constexpr std::array<Class, 256> classes = [] {
+    std::array<Class, 256> table{};
+    for (const char character : {' ', '\n', '\r', '\t', '\f', '\0'})
+        table[static_cast<unsigned char>(character)] = Space;
+    for (const char character : {'(', ')', '<', '>', '[', ']', '{', '}', '/', '%'})
+        table[static_cast<unsigned char>(character)] = Delimiter;
+    return table;
+}();
 
 bool isRegular(char character)
 {
-    return !isSpace(character) && !isDelimiter(character);
+    return classes[static_cast<unsigned char>(character)] == Regular;
 }
 
 bool isDigit(char character)
@@ -42,8 +49,7 @@ bool isNumber(std::string_view word)
 
 bool isSpace(char character)
 {
-    return character == ' ' || character == '\n' || character == '\r' || character == '\t' ||
-           character == '\f' || character == '\0';
+    return classes[static_cast<unsigned char>(character)] == Space;
 }
 
 void SyntaxScanner::skipSpace()
@@ -71,9 +77,21 @@ std::optional<std::int64_t> SyntaxScanner::integer()
     const std::size_t digits = end - m_at;
     if (digits == 0 || digits > mostDigits || (end < m_text.size() && isRegular(m_text[end])))
         return std::nullopt;
-    const std::int64_t value = std::stoll(std::string(m_text.substr(m_at, digits)));
-    m_at = end;
+    std::int64_t value = 0;
+    for (; m_at < end; ++m_at)
+        value = value * 10 + (m_text[m_at] - '0');
     return value;
+}
+
+std::optional<SyntaxScanner::Reference> SyntaxScanner::reference()
+{
+    const auto number = integer();
+    skipSpace();
+    const auto generation = integer();
+    skipSpace();
+    if (!number || *number > INT32_MAX || !generation || *generation > UINT16_MAX || !keyword("R"))
+        return std::nullopt;
+    return Reference{static_cast<int>(*number), static_cast<int>(*generation)};
 }
 
 SyntaxScanner::Outcome SyntaxScanner::skipValue()
@@ -165,49 +183,59 @@ SyntaxScanner::Outcome SyntaxScanner::skipWord()
     return Outcome::Odd;
 }
 
+DictionaryScanner::DictionaryScanner(std::string_view text)
+    : m_inside(text.substr(0, text.size() < 4 ? 0 : text.size() - 2)), m_scanner(text, 2),
+      m_odd(!text.starts_with("<<") || !text.ends_with(">>") || text.size() < 4)
+{
+    if (!m_odd)
+        advance();
+}
+
+/// Steps to the next object inside and notes where it lies.
+void DictionaryScanner::advance()
+{
+    m_scanner.skipSpace();
+    m_start = m_scanner.position();
+    if (m_start >= m_inside.size())
+        return;
+    if (m_scanner.skipValue() != SyntaxScanner::Outcome::Complete || m_scanner.position() > m_inside.size())
+        m_odd = true;
+    m_end = m_scanner.position();
+}
+
+std::optional<DictionaryScanner::Entry> DictionaryScanner::next()
+{
+    if (m_odd || m_start >= m_inside.size())
+        return std::nullopt;
+    Entry entry{m_inside.substr(m_start, m_end - m_start), {}};
+    m_odd = entry.key.size() < 2 || !entry.key.starts_with('/') || entry.key.find('#') != entry.key.npos;
+    if (m_odd)
+        return std::nullopt;
+    entry.key.remove_prefix(1);
+    advance();
+    if (m_odd || m_start >= m_inside.size()) {
+        m_odd = true;
+        return std::nullopt;
+    }
+    const std::size_t start = m_start;
+    std::size_t end = m_end;
+    // A value that is not a name ends where the next key begins; so references need no looking ahead.
+    for (advance(); !m_odd && m_start < m_inside.size() && m_inside[m_start] != '/'; advance())
+        end = m_end;
+    if (m_odd)
+        return std::nullopt;
+    entry.value = m_inside.substr(start, end - start);
+    return entry;
+}
+
 std::optional<std::map<std::string_view, std::string_view>> dictionaryEntries(std::string_view text)
 {
-    if (!text.starts_with("<<") || !text.ends_with(">>") || text.size() < 4)
-        return std::nullopt;
     std::map<std::string_view, std::string_view> entries;
-    const std::string_view inside = text.substr(0, text.size() - 2);
-    SyntaxScanner scanner(text, 2);
-    std::string_view key;
-    std::size_t valueStart = 0;
-    std::size_t valueEnd = 0;
-    const auto store = [&] {
-        return key.empty() || entries.emplace(key, inside.substr(valueStart, valueEnd - valueStart)).second;
-    };
-    // A value that is not a name ends where the next key begins; so references need no looking ahead.
-    bool valueComplete = true;
-    for (;;) {
-        scanner.skipSpace();
-        if (scanner.position() >= inside.size())
-            break;
-        const std::size_t start = scanner.position();
-        const bool name = text[start] == '/';
-        if (scanner.skipValue() != SyntaxScanner::Outcome::Complete || scanner.position() > inside.size())
+    DictionaryScanner scanner(text);
+    while (const auto entry = scanner.next())
+        if (!entries.emplace(entry->key, entry->value).second)
             return std::nullopt;
-        if (name && valueComplete) {
-            if (!store())
-                return std::nullopt;
-            key = inside.substr(start + 1, scanner.position() - start - 1);
-            if (key.empty() || key.find('#') != std::string_view::npos)
-                return std::nullopt;
-            valueStart = valueEnd = start;
-            valueComplete = false;
-            continue;
-        }
-        if (key.empty())
-            return std::nullopt;
-        if (!valueComplete)
-            valueStart = start;
-        valueEnd = scanner.position();
-        valueComplete = true;
-    }
-    if (!valueComplete || !store())
-        return std::nullopt;
-    return entries;
+    return scanner.odd() ? std::nullopt : std::optional(std::move(entries));
 }
 
 std::optional<std::int64_t> wholeInteger(std::string_view text)

@@ -30,6 +30,15 @@ public:
     /// Reads an unsigned decimal number of at most 18 digits, which ends here.
     std::optional<std::int64_t> integer();
 
+    struct Reference
+    {
+        int number;
+        int generation;
+    };
+
+    /// Reads a reference to an object. After a failure the position is anywhere inside it.
+    std::optional<Reference> reference();
+
     /// Skips one object: a number, name, string, array, dictionary, boolean or null, or a reference.
     Outcome skipValue();
 
@@ -41,6 +50,34 @@ private:
 
     std::string_view m_text;
     std::size_t m_at;
+};
+
+/// Goes through the entries of a dictionary's text, in the order in which they stand.
+class DictionaryScanner
+{
+public:
+    struct Entry
+    {
+        std::string_view key; // without its slash
+        std::string_view value;
+    };
+
+    explicit DictionaryScanner(std::string_view text);
+
+    /// \returns nothing at the end and at the first oddity.
+    std::optional<Entry> next();
+
+    /// True once it is known that the text is not exactly one dictionary, or when a key is escaped.
+    bool odd() const { return m_odd; }
+
+private:
+    void advance();
+
+    std::string_view m_inside; // with the brackets that open the dictionary
+    SyntaxScanner m_scanner;
+    std::size_t m_start = 0;
+    std::size_t m_end = 0;
+    bool m_odd;
 };
 
 /// The entries of a dictionary's text, keys without their slash.

@@ -32,7 +32,7 @@ struct Opened
 
     std::string update(const std::set<QPDFObjGen>& changed)
     {
-        return IncrementalUpdate(pdf, source, changed).bytes();
+        return IncrementalUpdate(pdf, CrossReference(pdf, source), *source, changed).bytes();
     }
 
     std::shared_ptr<ByteSource> source;
@@ -452,7 +452,7 @@ private slots:
         QPDF pdf;
         pdf.processInputSource(std::make_shared<SourceInput>(source, "large"));
         pdf.getRoot().replaceKey("/Text", QPDFObjectHandle::newString(text));
-        const std::string update = IncrementalUpdate(pdf, source, {QPDFObjGen(1, 0)}).bytes();
+        const std::string update = IncrementalUpdate(pdf, CrossReference(pdf, source), *source, {QPDFObjGen(1, 0)}).bytes();
         QVERIFY(file.open(QIODevice::Append));
         file.write(update.data(), qint64(update.size()));
         file.close();
