@@ -18,6 +18,7 @@ const std::size_t readAtOnce = 16384;
 const std::size_t firstWindow = 4096;
 const std::size_t largestWindow = 4 << 20;
 const std::size_t largestDecoded = 64 << 20;
+const std::size_t firstDecoded = 4096; // of an object stream
 const std::size_t mostContainerBytes = 32 << 20;
 const std::size_t mostSections = 256;
 const std::size_t mostRuns = 100'000;
@@ -31,7 +32,8 @@ const std::string_view sectionKeys[] = {"Prev",  "Size",   "Type",   "W",
 
 using Entries = std::map<std::string_view, std::string_view>;
 
-std::optional<std::string> inflated(std::string_view data)
+/// Decodes up to `most` bytes; what follows them is not looked at.
+std::optional<std::string> inflated(std::string_view data, std::size_t most)
 {
     z_stream stream{};
     if (inflateInit(&stream) != Z_OK)
@@ -40,15 +42,17 @@ std::optional<std::string> inflated(std::string_view data)
     stream.avail_in = static_cast<uInt>(data.size());
     std::string decoded;
     int result = Z_OK;
-    while (result == Z_OK && decoded.size() < largestDecoded) {
-        char block[32768];
-        stream.next_out = reinterpret_cast<Bytef*>(block);
-        stream.avail_out = sizeof block;
+    while (result == Z_OK && decoded.size() < most) {
+        const std::size_t done = decoded.size();
+        decoded.resize(std::min(most, std::max(2 * done, 4 * data.size() + 64)));
+        stream.next_out = reinterpret_cast<Bytef*>(decoded.data() + done);
+        stream.avail_out = static_cast<uInt>(decoded.size() - done);
         result = inflate(&stream, Z_NO_FLUSH);
-        decoded.append(block, sizeof block - stream.avail_out);
+        decoded.resize(decoded.size() - stream.avail_out);
     }
     inflateEnd(&stream);
-    return result == Z_STREAM_END ? std::optional(std::move(decoded)) : std::nullopt;
+    const bool full = result == Z_OK && decoded.size() == most;
+    return full || result == Z_STREAM_END ? std::optional(std::move(decoded)) : std::nullopt;
 }
 
 /// Undoes the "Up" predictor of PNG, the only one that writers of cross-reference streams use besides none.
@@ -57,17 +61,15 @@ std::optional<std::string> withoutPredictor(const std::string& data, std::size_t
     const std::size_t row = columns + 1;
     if (columns == 0 || columns > 64 || data.size() % row != 0)
         return std::nullopt;
-    std::string plain;
-    plain.reserve(data.size() / row * columns);
-    for (std::size_t start = 0; start < data.size(); start += row) {
-        const char kind = data[start];
+    std::string plain(data.size() / row * columns, '\0');
+    const char* from = data.data();
+    for (std::size_t start = 0; start < plain.size(); start += columns) {
+        const char kind = *from++;
         if (kind != 0 && kind != 2)
             return std::nullopt;
-        for (std::size_t column = 0; column < columns; ++column) {
-            const bool up = kind == 2 && plain.size() >= columns;
-            const char above = up ? plain[plain.size() - columns] : '\0';
-            plain.push_back(static_cast<char>(data[start + 1 + column] + above));
-        }
+        const bool up = kind == 2 && start > 0;
+        for (std::size_t column = start; column < start + columns; ++column)
+            plain[column] = static_cast<char>(*from++ + (up ? plain[column - columns] : 0));
     }
     return plain;
 }
@@ -91,18 +93,19 @@ std::optional<std::string> unpredicted(std::string data, std::string_view parame
                                                 : std::nullopt;
 }
 
-std::optional<std::string> decoded(const Entries& dictionary, std::string_view data)
+/// \param most how many bytes are wanted; there may be more with a predictor or without a filter.
+std::optional<std::string> decoded(const Entries& dictionary, std::string_view data, std::size_t most)
 {
     const auto filter = dictionary.find("Filter");
     const auto parameters = dictionary.find("DecodeParms");
     if (filter == dictionary.end())
-        return parameters == dictionary.end() ? std::optional(std::string(data)) : std::nullopt;
+        return parameters == dictionary.end() ? std::optional(std::string(data.substr(0, most))) : std::nullopt;
     if (filter->second != "/FlateDecode")
         return std::nullopt;
-    auto plain = inflated(data);
-    if (!plain || parameters == dictionary.end())
-        return plain;
-    return unpredicted(std::move(*plain), parameters->second);
+    if (parameters == dictionary.end())
+        return inflated(data, most);
+    auto plain = inflated(data, largestDecoded);
+    return plain ? unpredicted(std::move(*plain), parameters->second) : plain;
 }
 
 std::optional<std::vector<std::int64_t>> integerArray(std::string_view text)
@@ -291,7 +294,7 @@ std::optional<DirectReader::Section> DirectReader::readStream(std::int64_t offse
 {
     Section section;
     section.isStream = true;
-    auto data = streamAt(offset, -1, section.dictionary);
+    auto data = streamAt(offset, -1, section.dictionary, largestDecoded);
     const auto entries = dictionaryEntries(section.dictionary);
     if (!data || !entries || !entries->contains("Type") || entries->at("Type") != "/XRef" ||
         !entries->contains("W"))
@@ -461,8 +464,10 @@ std::optional<std::string> DirectReader::valueAt(std::int64_t offset, int number
     return std::nullopt;
 }
 
-/// Reads and decodes the stream at an offset; `number` -1 accepts any object number.
-std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int number, std::string& dictionary)
+/// Reads the stream at an offset and decodes `most` bytes of it or somewhat more; `number` -1 accepts any
+/// object number.
+std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int number, std::string& dictionary,
+                                                  std::size_t most)
 {
     SyntaxScanner scanner(bytes(offset, longestObjectHeader));
     const auto found = scanner.integer();
@@ -485,63 +490,90 @@ std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int numbe
     behind.skipSpace();
     if (!behind.keyword("endstream"))
         return std::nullopt;
-    return decoded(*entries, data.substr(0, size));
+    return decoded(*entries, data.substr(0, size), std::min(most, largestDecoded));
 }
 
+/// Of an object stream no more is decoded than what the object needs, and some room.
 std::optional<std::string> DirectReader::compressed(int container, int index, int number)
 {
-    const Container* stream = containerOf(container);
-    if (stream == nullptr || index < 0 || static_cast<std::size_t>(index) >= stream->objects.size())
-        return std::nullopt;
-    const auto& [found, start] = stream->objects[static_cast<std::size_t>(index)];
-    if (found != number)
-        return std::nullopt;
-    SyntaxScanner scanner(stream->data, start);
-    scanner.skipSpace();
-    const std::size_t valueStart = scanner.position();
-    if (scanner.skipValue() != SyntaxScanner::Outcome::Complete)
-        return std::nullopt;
-    return stream->data.substr(valueStart, scanner.position() - valueStart);
+    for (std::size_t size = firstDecoded;; size *= 4) {
+        const Container* stream = containerOf(container, size);
+        if (stream == nullptr)
+            return std::nullopt;
+        const bool known = index >= 0 && static_cast<std::size_t>(index) < stream->objects.size();
+        if (known && stream->objects[static_cast<std::size_t>(index)].first != number)
+            return std::nullopt;
+        if (known && stream->objects[static_cast<std::size_t>(index)].second < stream->data.size()) {
+            SyntaxScanner scanner(stream->data, stream->objects[static_cast<std::size_t>(index)].second);
+            scanner.skipSpace();
+            const std::size_t start = scanner.position();
+            const auto outcome = scanner.skipValue();
+            if (outcome == SyntaxScanner::Outcome::Odd)
+                return std::nullopt;
+            if (outcome == SyntaxScanner::Outcome::Complete)
+                return stream->data.substr(start, scanner.position() - start);
+        }
+        if (stream->complete)
+            return std::nullopt;
+        size = std::max(size, stream->data.size());
+    }
 }
 
-const DirectReader::Container* DirectReader::containerOf(int number)
+/// \param size how much of it is wanted at least, if it has as much.
+const DirectReader::Container* DirectReader::containerOf(int number, std::size_t size)
 {
-    if (const auto known = m_containers.find(number); known != m_containers.end())
+    const auto known = m_containers.find(number);
+    if (known != m_containers.end() && (known->second.complete || known->second.data.size() >= size))
         return &known->second;
     const auto entry = find(number);
     if (!entry || entry->kind != EntryKind::Plain || entry->detail != 0)
         return nullptr;
     std::string dictionary;
-    auto data = streamAt(entry->position, number, dictionary);
+    auto data = streamAt(entry->position, number, dictionary, size);
     const auto entries = dictionaryEntries(dictionary);
     if (!data || !entries || !entries->contains("Type") || entries->at("Type") != "/ObjStm")
         return nullptr;
     const auto count = integerOf(*entries, "N");
     const auto first = integerOf(*entries, "First");
-    if (!isNumberInRange(count, INT32_MAX) ||
-        !isNumberInRange(first, static_cast<std::int64_t>(data->size())))
+    if (!isNumberInRange(count, INT32_MAX) || !isNumberInRange(first, largestDecoded))
         return nullptr;
     Container container;
-    SyntaxScanner scanner(std::string_view(*data).substr(0, static_cast<std::size_t>(*first)));
-    for (std::int64_t object = 0; object < *count; ++object) {
-        scanner.skipSpace();
-        const auto objectNumber = scanner.integer();
-        scanner.skipSpace();
-        const auto start = scanner.integer();
-        if (!isNumberInRange(objectNumber, INT32_MAX) || !start ||
-            *first + *start >= static_cast<std::int64_t>(data->size()))
-            return nullptr;
-        container.objects.emplace_back(static_cast<int>(*objectNumber),
-                                       static_cast<std::size_t>(*first + *start));
+    container.complete = data->size() < size || data->size() == largestDecoded;
+    const auto bodies = static_cast<std::size_t>(*first);
+    if (bodies > data->size() && !container.complete)
+        return containerOf(number, bodies + firstDecoded);
+    if (bodies > data->size() || !readHeader(*data, *count, bodies, container))
+        return nullptr;
+    if (known != m_containers.end()) {
+        m_containerBytes -= known->second.data.size();
+        m_containers.erase(known);
     }
+    if (container.complete)
+        data->push_back('\n'); // ends a last word
     m_containerBytes += data->size();
     if (m_containerBytes > mostContainerBytes) {
         m_containers.clear();
         m_containerBytes = data->size();
     }
     container.data = std::move(*data);
-    container.data.push_back('\n'); // ends a last word
     return &m_containers.emplace(number, std::move(container)).first->second;
+}
+
+/// Reads which objects a stream holds and where.
+bool DirectReader::readHeader(std::string_view data, std::int64_t count, std::size_t bodies,
+                              Container& container)
+{
+    SyntaxScanner scanner(data.substr(0, bodies));
+    for (std::int64_t object = 0; object < count; ++object) {
+        scanner.skipSpace();
+        const auto number = scanner.integer();
+        scanner.skipSpace();
+        const auto start = scanner.integer();
+        if (!isNumberInRange(number, INT32_MAX) || !isNumberInRange(start, INT32_MAX))
+            return false;
+        container.objects.emplace_back(static_cast<int>(*number), bodies + static_cast<std::size_t>(*start));
+    }
+    return true;
 }
 
 } // namespace engine

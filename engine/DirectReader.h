@@ -80,10 +80,11 @@ private:
         std::string bytes;
     };
 
-    /// A decoded object stream.
+    /// An object stream, decoded as far as it was needed.
     struct Container
     {
         std::string data;
+        bool complete = false;
         std::vector<std::pair<int, std::size_t>> objects; // number, start in data
     };
 
@@ -108,9 +109,12 @@ private:
 
     std::optional<std::string> valueAt(std::int64_t offset, int number, int generation,
                                        std::int64_t* streamData);
-    std::optional<std::string> streamAt(std::int64_t offset, int number, std::string& dictionary);
+    std::optional<std::string> streamAt(std::int64_t offset, int number, std::string& dictionary,
+                                        std::size_t most);
     std::optional<std::string> compressed(int container, int index, int number);
-    const Container* containerOf(int number);
+    const Container* containerOf(int number, std::size_t size);
+    static bool readHeader(std::string_view data, std::int64_t count, std::size_t bodies,
+                           Container& container);
 
     std::shared_ptr<ByteSource> m_source;
     std::array<Window, 4> m_windows;

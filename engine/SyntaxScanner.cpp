@@ -71,16 +71,37 @@ bool SyntaxScanner::keyword(std::string_view word)
 
 std::optional<std::int64_t> SyntaxScanner::integer()
 {
-    std::size_t end = m_at;
-    while (end < m_text.size() && isDigit(m_text[end]))
-        ++end;
-    const std::size_t digits = end - m_at;
-    if (digits == 0 || digits > mostDigits || (end < m_text.size() && isRegular(m_text[end])))
+    const char* const start = m_text.data() + m_at;
+    const char* const end = m_text.data() + m_text.size();
+    const char* next = start;
+    std::uint64_t value = 0; // more digits than are allowed do no harm
+    for (; next < end && isDigit(*next); ++next)
+        value = value * 10 + static_cast<unsigned char>(*next - '0');
+    const auto digits = static_cast<std::size_t>(next - start);
+    if (digits == 0 || digits > mostDigits || (next < end && isRegular(*next)))
         return std::nullopt;
-    std::int64_t value = 0;
-    for (; m_at < end; ++m_at)
-        value = value * 10 + (m_text[m_at] - '0');
-    return value;
+    m_at += digits;
+    return static_cast<std::int64_t>(value);
+}
+
+/// Skips whole numbers and the last words of references, of which long arrays consist.
+void SyntaxScanner::skipReferences()
+{
+    const char* const begin = m_text.data();
+    const char* const end = begin + m_text.size();
+    const char* next = begin + m_at;
+    for (;;) {
+        while (next < end && isSpace(*next))
+            ++next;
+        m_at = static_cast<std::size_t>(next - begin);
+        const char* const start = next;
+        while (next < end && isDigit(*next))
+            ++next;
+        if (next == start && next < end && *next == 'R')
+            ++next;
+        if (next == start || next == end || isRegular(*next))
+            return;
+    }
 }
 
 std::optional<SyntaxScanner::Reference> SyntaxScanner::reference()
@@ -98,6 +119,8 @@ SyntaxScanner::Outcome SyntaxScanner::skipValue()
 {
     std::string open;
     do {
+        if (!open.empty())
+            skipReferences();
         skipSpace();
         if (atEnd())
             return Outcome::CutOff;
@@ -173,6 +196,10 @@ SyntaxScanner::Outcome SyntaxScanner::skipHexString()
 SyntaxScanner::Outcome SyntaxScanner::skipWord()
 {
     const std::size_t start = m_at;
+    while (!atEnd() && isDigit(m_text[m_at])) // most words are whole numbers
+        ++m_at;
+    if (m_at > start && !atEnd() && !isRegular(m_text[m_at]))
+        return Outcome::Complete;
     while (!atEnd() && isRegular(m_text[m_at]))
         ++m_at;
     if (atEnd())

@@ -43,6 +43,7 @@ public:
     Outcome skipValue();
 
 private:
+    void skipReferences();
     Outcome skipToken();
     Outcome skipLiteralString();
     Outcome skipHexString();
