@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -38,12 +39,12 @@ const bool sanitized = false;
 /// \returns the length, 0 at the other side's end, -1 on failure. A record keeps its bounds on the way.
 ssize_t receiveRecord(int channel, std::string& record, int flags)
 {
-    record.resize(largestRecord);
+    static std::array<char, largestRecord> buffer; // filling a string with zeros first would cost more
     ssize_t length = 0;
     do
-        length = recv(channel, record.data(), record.size(), flags);
+        length = recv(channel, buffer.data(), buffer.size(), flags);
     while (length < 0 && errno == EINTR);
-    record.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    record.assign(buffer.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
     return length;
 }
 
