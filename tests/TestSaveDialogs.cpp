@@ -184,6 +184,18 @@ private slots:
         QVERIFY(collection.ui.label_2->height() >= collection.ui.label_2->heightForWidth(collection.width()));
     }
 
+    void keepsItsTextsDarkInADarkTheme()
+    {
+        const QPalette standard = QApplication::palette();
+        QApplication::setPalette(QPalette(QColor(45, 45, 48)));
+        CSaveAsCollectionDialog dialog(&m_parent);
+        open(dialog, &m_prefs);
+        for (const QLabel* label : dialog.ui.main_widget->findChildren<QLabel*>())
+            QVERIFY2(label->palette().color(QPalette::WindowText).lightness() < 64,
+                     qPrintable(label->text()));
+        QApplication::setPalette(standard);
+    }
+
     void translatesItsTextsInItsContext()
     {
         ContextTranslator translator;

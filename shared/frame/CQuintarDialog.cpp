@@ -7,15 +7,11 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFontInfo>
-#include <QFrame>
-#include <QGridLayout>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QIcon>
-#include <QLabel>
+#include <QPalette>
 #include <QPushButton>
 #include <QScreen>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -83,6 +79,8 @@ const int moveBarHeight = 30;
 const int borderWidth = 9;
 const int headerButtonSize = 24;
 const int leastFontPixels = 9;
+const int midLightness = 128;
+const QColor lightButton(239, 239, 239);
 
 QFrame* newShadow(QGridLayout* grid, const ShadowCell& cell)
 {
@@ -141,6 +139,17 @@ QSize leastSize(const QWidget& frame)
 bool fits(const QSize& size, const QSize& room)
 {
     return size.width() <= room.width() && size.height() <= room.height();
+}
+
+/// The content is white in every theme, and the style sheet keeps widgets within from inheriting colours: the
+/// white texts of a dark theme would be lost.
+void keepTextsDark(const QWidget& content)
+{
+    if (QGuiApplication::palette().color(QPalette::WindowText).lightness() < midLightness)
+        return;
+    const QPalette light(lightButton);
+    for (QWidget* widget : content.findChildren<QWidget*>())
+        widget->setPalette(light);
 }
 
 /// Dialogs of a fixed size count it in pixels: texts larger than they were drawn for would be cut off.
@@ -334,6 +343,7 @@ void CQuintarDialog::QDaddMainWidget(QWidget* mainWidget, bool fixedSize)
         setMinimumWidth(size.width() + extraWidth);
     }
     updateGeometry();
+    keepTextsDark(*mainWidget);
     contentLayout->addWidget(mainWidget);
     contentLayout->setContentsMargins(0, 0, 0, 0);
     framelessHandler.setWidgetResizable(!fixedSize);

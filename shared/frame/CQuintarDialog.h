@@ -3,13 +3,11 @@
 #include "CFramelessHandler.h"
 #include "CQuintarHeaderButton.h"
 
+#include <QBoxLayout>
 #include <QDialog>
-
-class QFrame;
-class QGridLayout;
-class QHBoxLayout;
-class QLabel;
-class QVBoxLayout;
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
 
 /// The frameless window that all dialogs derive from: a header with title and buttons above the derived
 /// dialog's own widget, and the means to move and resize it. Its colours follow the host's window that it is

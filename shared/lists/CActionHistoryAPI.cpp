@@ -5,7 +5,6 @@
 #include "SettingsFiles.h"
 #include "actionutils/CActionUtils.h"
 
-#include <QIcon>
 #include <QImage>
 #include <QPixmap>
 

@@ -2,12 +2,11 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QIcon>
 #include <QList>
 #include <QMap>
 #include <QString>
 #include <QVariant>
-
-class QIcon;
 
 /// Stores favourites and steps through the stored ones of a tool, newest first.
 ///
