@@ -83,8 +83,10 @@ std::size_t ByteSource::read(std::uint64_t offset, void* into, std::size_t size)
             ::pread(m_fd, static_cast<char*>(into) + done, size - done, static_cast<off_t>(offset + done));
         if (count < 0 && errno == EINTR)
             continue;
-        if (count < 0)
+        if (count < 0) {
+            m_readFailed = true;
             throw EngineError(ErrorCode::ReadFailed);
+        }
         if (count == 0)
             break;
         done += static_cast<std::size_t>(count);

@@ -39,6 +39,9 @@ public:
     /// False as soon as the file's size or time of change differs from what it was on opening.
     bool unchangedSinceOpened() const;
 
+    /// True once a read threw, even if nobody heard of it.
+    bool readFailed() const { return m_readFailed; }
+
 private:
     ByteSource() = default;
 
@@ -47,6 +50,7 @@ private:
     std::uint64_t m_size = 0;
     std::int64_t m_modifiedSeconds = 0;
     std::int64_t m_modifiedNanoseconds = 0;
+    mutable bool m_readFailed = false;
 };
 
 } // namespace engine

@@ -9,6 +9,7 @@
 
 #include <qpdf/QUtil.hh>
 
+#include <new>
 #include <vector>
 
 namespace engine {
@@ -155,6 +156,7 @@ bool Document::open(const std::string& password)
         const ErrorCode code = errorCodeOf(error);
         if (code == ErrorCode::WrongPassword)
             return false;
+        requireAllRead();
         throw EngineError(code == ErrorCode::Damaged && !looksLikePdf(*m_source) ? ErrorCode::NotAPdf : code,
                           error.what());
     }
@@ -272,9 +274,10 @@ void Document::collectWarnings()
 {
     for (const QPDFExc& warning : m_pdf->getWarnings()) {
         m_warned = true;
-        // libqpdf has no other sign of it.
-        if (warning.getMessageDetail().find("reconstruct cross-reference") != std::string::npos)
-            m_rebuilt = true;
+        // libqpdf has no other signs of these.
+        const std::string& detail = warning.getMessageDetail();
+        m_rebuilt = m_rebuilt || detail.find("reconstruct cross-reference") != std::string::npos;
+        m_memoryWasShort = m_memoryWasShort || detail.find(std::bad_alloc().what()) != std::string::npos;
     }
 }
 
@@ -288,6 +291,15 @@ bool Document::anyWarnings()
 {
     collectWarnings();
     return m_warned;
+}
+
+void Document::requireAllRead()
+{
+    collectWarnings();
+    if (m_memoryWasShort)
+        throw EngineError(ErrorCode::OutOfMemory);
+    if (m_source->readFailed())
+        throw EngineError(ErrorCode::ReadFailed);
 }
 
 } // namespace engine

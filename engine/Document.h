@@ -109,6 +109,9 @@ public:
     bool crossReferenceRebuilt();
     /// True when libqpdf complained about anything so far.
     bool anyWarnings();
+    /// Throws EngineError when memory was short for something read so far, or the disk failed: libqpdf goes
+    /// on with null in its place.
+    void requireAllRead();
 
     /// What the next revision builds upon. \throws EngineError with CannotAppend.
     CrossReference crossReference();
@@ -135,6 +138,7 @@ private:
     std::set<QPDFObjGen> m_changed;
     bool m_rebuilt = false;
     bool m_warned = false;
+    bool m_memoryWasShort = false;
     bool m_openedWithPassword = false;
 };
 

@@ -42,8 +42,10 @@ int open(Session& session, std::shared_ptr<ByteSource> source, std::string fileN
 {
     auto document =
         std::make_unique<OpenDocument>(std::move(source), std::move(fileName), fileNameFromWide(password));
-    if (!hasPages(*document))
+    if (!hasPages(*document)) {
+        document->document.requireAllRead();
         throw EngineError(ErrorCode::NoPages);
+    }
     session.add(std::move(document));
     return 1;
 }

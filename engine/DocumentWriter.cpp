@@ -86,6 +86,7 @@ void writeInto(Document& document, Pipeline& output)
     // Without this, object streams that were compressed would be written plain.
     writer.setCompressStreams(hasObjectStreams(document.pdf()));
     writer.write();
+    document.requireAllRead();
     if (!document.source()->unchangedSinceOpened())
         throw EngineError(ErrorCode::SourceChanged);
 }
@@ -101,6 +102,7 @@ void appendUpdate(Document& document, const std::string& path)
         throw EngineError(ErrorCode::SourceChanged);
     const IncrementalUpdate update(document.pdf(), document.crossReference(), *source,
                                    document.changedObjects());
+    document.requireAllRead();
     if (document.crossReferenceRebuilt())
         throw EngineError(ErrorCode::CannotAppend, "the cross-reference was rebuilt");
     OutputFile file(path);

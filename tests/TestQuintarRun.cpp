@@ -85,6 +85,7 @@ private slots:
     void survivesAFullReport();
     void livesWithWhatTheShellGives();
     void refusesWhatChangedMeanwhile();
+    void losesNothingForWantOfMemory();
     void replacesWorkersThatGetIntoTrouble();
     void stopsWhenAsked();
     void leavesNothingBehindWhenKilled();
@@ -547,6 +548,21 @@ void TestQuintarRun::refusesWhatChangedMeanwhile()
         QVERIFY(!fs::exists("out/replaced.pdf"));
         fs::remove_all("installed");
     }
+}
+
+void TestQuintarRun::losesNothingForWantOfMemory()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("workers have no memory limit under the sanitizer");
+#endif
+    PdfBuilder builder;
+    builder.catalog("/Kept 9 0 R").pages(2).object(9, "(" + std::string(20 << 20, 'x') + ")");
+    const std::string damaged = builder.bytes() + "10 0 obj\nnull\nendobj\n" + std::string(5000, '\n');
+    const std::string original = put("a.pdf", damaged);
+    const ProgramRun run =
+        quintar(QStringList{"run", "--memory", "32", "--in-place", "a.pdf"} + panelAndPage);
+    QVERIFY2(reasonFor(run.err, "a.pdf").contains("memory"), run.err);
+    QVERIFY(contentOf("a.pdf") == original);
 }
 
 void TestQuintarRun::replacesWorkersThatGetIntoTrouble()
