@@ -1,5 +1,6 @@
 #include "OpeningView.h"
 
+#include "FileNames.h"
 #include "ViewWords.h"
 
 #include "EditInitialView/InitialViewSettings.h"
@@ -53,7 +54,7 @@ std::string destinationInWords(const std::optional<OpeningView::Destination>& de
     if (!destination)
         return line("Open at page", "not set in document") + line("Magnification", "not set in document");
     const std::string name =
-        destination->name.empty() ? "" : " (named destination \"" + destination->name + "\")";
+        destination->name.empty() ? "" : " (named destination \"" + forTerminal(destination->name) + "\")";
     return line("Open at page", std::to_string(destination->page) + name) +
            line("Magnification", magnificationInWords(*destination));
 }

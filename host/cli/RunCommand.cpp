@@ -108,6 +108,22 @@ void note(const std::string& text)
     writeAll(STDERR_FILENO, line.data(), line.size());
 }
 
+/// Files may hold what no dialog offers; the action makes of it what it can.
+void noteOddNumbers(const SettingsMap& settings)
+{
+    for (const initialview::Key& key : initialview::keys) {
+        const QVariant value = settings.value(key.name);
+        bool whole = false;
+        const int number = value.toString().toInt(&whole);
+        const bool unset =
+            !value.isValid() || (key.name == initialview::key::OpenToPage && number < key.lowest);
+        if (key.type == initialview::ValueType::Number && !unset &&
+            (!whole || number < key.lowest || number > key.highest))
+            note(std::string(key.name) + " is " + value.toString().toStdString() + ", not a number from " +
+                 std::to_string(key.lowest) + " to " + std::to_string(key.highest));
+    }
+}
+
 } // namespace
 
 int RunCommand::run(int argc, char** argv)
@@ -241,6 +257,7 @@ void RunCommand::readFileList()
 void RunCommand::warnOfSettingsWithoutEffect() const
 {
     for (const ActionEntry& entry : m_options.entries) {
+        noteOddNumbers(entry.settings);
         const bool layout = entry.settings.value(initialview::key::LayoutAndMagn).toBool();
         const bool viewer = entry.settings.value(initialview::key::ViewerPrefs).toBool();
         if (!layout && !viewer)

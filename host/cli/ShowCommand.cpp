@@ -60,8 +60,7 @@ public:
             return {unreadable + std::string(engine::errorText(m_library.LastErrorCode()))};
         const OpeningView view = OpeningView::read(m_library);
         m_library.RemoveDocument(m_library.SelectedDocument());
-        return {readable +
-                (m_json ? toJson(file, view) : forTerminal(file) + "\n" + forTerminalLines(view.inWords()))};
+        return {readable + (m_json ? toJson(file, view) : forTerminal(file) + "\n" + view.inWords())};
     }
 
 private:
