@@ -48,8 +48,9 @@ void print(int descriptor, const std::string& text)
 
 } // namespace
 
-BatchRun::BatchRun(const RunPlan& plan, const ProcessingOptions& options, Report* report, bool quiet)
-    : m_plan(plan), m_options(options), m_report(report), m_quiet(quiet),
+BatchRun::BatchRun(const RunPlan& plan, const ProcessingOptions& options, Report* report, bool quiet,
+                   Done done)
+    : m_plan(plan), m_options(options), m_report(report), m_quiet(quiet), m_done(std::move(done)),
       m_ended(plan.documents().size(), false)
 {}
 
@@ -80,6 +81,10 @@ void BatchRun::planJobs()
     const std::vector<RunPlan::Document>& documents = m_plan.documents();
     for (std::size_t index = 0; index < documents.size(); ++index) {
         const RunPlan::Document& document = documents[index];
+        if (const auto done = m_done.find(index); done != m_done.end()) {
+            doneBefore(index, done->second);
+            continue;
+        }
         if (!document.problem.empty()) {
             documentEnded(index, DocumentResult::failed(document.problem));
             continue;
@@ -133,12 +138,23 @@ void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
     m_ended[document] = true;
     m_summary.add(document, planned.name, result);
     if (m_report != nullptr)
-        m_report->add(document, {planned.name,
-                                 result.status == Status::Failed ? std::string() : planned.target, result});
+        m_report->add(document,
+                      Report::Line{planned.name,
+                                   result.status == Status::Failed ? std::string() : planned.target, result});
     if (m_progress)
         m_progress->advance(result.status == Status::Failed);
     else if (!m_quiet && result.status != Status::Failed)
         print(STDOUT_FILENO, RunSummary::lineFor(planned.name, result, m_options.dryRun));
+}
+
+void BatchRun::doneBefore(std::size_t document, const std::string& line)
+{
+    m_ended[document] = true;
+    m_summary.addDoneBefore();
+    if (m_report != nullptr)
+        m_report->add(document, line);
+    if (m_progress)
+        m_progress->advance(false);
 }
 
 void BatchRun::sumUp() const

@@ -5,7 +5,9 @@
 #include "WorkerPool.h"
 
 #include <cstddef>
+#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 class CActionInterface;
@@ -20,9 +22,13 @@ class RunPlan;
 class BatchRun
 {
 public:
+    /// What is done already, and the lines about it for the report, by the place in the plan.
+    using Done = std::map<std::size_t, std::string>;
+
     /// Everything lent must outlive the object. \param report null for none. \param quiet shows failures
     /// only.
-    BatchRun(const RunPlan& plan, const ProcessingOptions& options, Report* report, bool quiet);
+    BatchRun(const RunPlan& plan, const ProcessingOptions& options, Report* report, bool quiet,
+             Done done = {});
     ~BatchRun();
 
     /// \returns the exit status. Throws std::runtime_error when plug-in or library cannot be used.
@@ -33,6 +39,7 @@ private:
     void removeLeftovers() const;
     void runJobs(CActionInterface& action, const std::string& libraryFile, const WorkerPool::Limits& limits);
     void jobEnded(std::size_t job, const WorkOutcome& outcome);
+    void doneBefore(std::size_t document, const std::string& line);
     void documentEnded(std::size_t document, const DocumentResult& result);
     void sumUp() const;
     int exitStatus() const;
@@ -41,6 +48,7 @@ private:
     const ProcessingOptions& m_options;
     Report* m_report;
     bool m_quiet;
+    Done m_done;
     std::vector<DocumentJob> m_jobs;
     /// The document that each job is about.
     std::vector<std::size_t> m_documentOfJob;

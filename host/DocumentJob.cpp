@@ -56,6 +56,8 @@ std::string DocumentResult::toRecord() const
         .add(static_cast<std::int64_t>(saved))
         .add(reason)
         .add(milliseconds)
+        .add(fileState)
+        .add(outputState)
         .bytes();
 }
 
@@ -66,12 +68,15 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     const std::int64_t saved = reader.number();
     std::string reason = reader.text();
     const std::int64_t milliseconds = reader.number();
+    std::string fileState = reader.text();
+    std::string outputState = reader.text();
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);
     if (!reader.complete() || !known)
         return std::nullopt;
-    return DocumentResult{static_cast<Status>(status), static_cast<Saved>(saved), std::move(reason),
-                          milliseconds};
+    return DocumentResult{static_cast<Status>(status), static_cast<Saved>(saved),
+                          std::move(reason),           milliseconds,
+                          std::move(fileState),        std::move(outputState)};
 }
 
 } // namespace host

@@ -35,6 +35,10 @@ struct DocumentResult
     /// Why it failed; UTF-8, may hold bytes of file names.
     std::string reason;
     std::int64_t milliseconds = 0;
+    /// Of the document as it was read and of the output, see FileState.h; in place both are the document as
+    /// it is now. Empty for a document that failed, and when nothing was to be written.
+    std::string fileState = {};
+    std::string outputState = {};
 
     static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;

@@ -3,6 +3,7 @@
 #include "FileCopy.h"
 #include "FileDescriptor.h"
 #include "FileNames.h"
+#include "FileState.h"
 #include "SafeOutput.h"
 
 #include "engine/ErrorCodes.h"
@@ -82,8 +83,12 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
         return libraryFailure();
     const int document = m_library.SelectedDocument();
     m_library.SelectDocument(document);
-    const DocumentResult result = applyAndSave(job);
+    DocumentResult result = applyAndSave(job);
     m_library.RemoveDocument(document);
+    if (result.status != Status::Failed && !m_options.dryRun) {
+        result.outputState = stateOf(job.target);
+        result.fileState = m_options.inPlace ? result.outputState : stateOf(m_original);
+    }
     return result;
 }
 

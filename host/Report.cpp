@@ -7,6 +7,8 @@
 #include <QJsonObject>
 
 #include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <utility>
@@ -31,14 +33,33 @@ QJsonValue textOrNull(const std::string& text)
 
 } // namespace
 
-Report::Report(const std::string& path)
-    : m_path(path), m_file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666))
+Report::Report(const std::string& path, Start start)
+    : m_path(path),
+      m_file(::open(path.c_str(),
+                    O_CREAT | O_CLOEXEC | (start == Start::New ? O_WRONLY | O_TRUNC : O_RDWR | O_APPEND),
+                    0666))
 {
     if (!m_file.isOpen())
         throw UsageError("the report " + path + " cannot be written: " + systemError(errno));
+    if (start == Start::Continue)
+        dropCutOffLine();
 }
 
-void Report::add(std::size_t index, Line line)
+/// An earlier run may have been killed in the middle of a line.
+void Report::dropCutOffLine()
+{
+    struct stat status;
+    if (fstat(m_file.get(), &status) != 0 || !S_ISREG(status.st_mode))
+        return;
+    off_t end = status.st_size;
+    char last = '\0';
+    while (end > 0 && pread(m_file.get(), &last, 1, end - 1) == 1 && last != '\n')
+        --end;
+    if (end < status.st_size && ftruncate(m_file.get(), end) != 0)
+        m_problem = "the report " + m_path + " cannot be continued: " + systemError(errno);
+}
+
+void Report::add(std::size_t index, std::string line)
 {
     m_waiting.emplace(index, std::move(line));
     while (!m_waiting.empty() && m_waiting.begin()->first == m_next) {
@@ -54,10 +75,9 @@ void Report::flush()
         write(line);
 }
 
-void Report::write(const Line& line)
+void Report::write(const std::string& line)
 {
-    const std::string text = toJson(line);
-    if (m_problem.empty() && !writeAll(m_file.get(), text.data(), text.size()))
+    if (m_problem.empty() && !writeAll(m_file.get(), line.data(), line.size()))
         m_problem = "the report " + m_path + " is incomplete: " + systemError(errno);
 }
 
@@ -70,6 +90,8 @@ std::string Report::toJson(const Line& line)
     object.insert("saved", textOrNull(nameOf(line.result.saved)));
     object.insert("reason", textOrNull(line.result.reason));
     object.insert("milliseconds", static_cast<qint64>(line.result.milliseconds));
+    object.insert("fileState", textOrNull(line.result.fileState));
+    object.insert("outputState", textOrNull(line.result.outputState));
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + "\n";
 }
 

@@ -20,11 +20,16 @@ public:
         DocumentResult result;
     };
 
-    /// Begins a new file. Throws UsageError when that is not possible.
-    explicit Report(const std::string& path);
+    enum class Start { New, Continue };
+
+    /// Begins a new file, or goes on behind what an earlier run has written. Throws UsageError when that is
+    /// not possible.
+    Report(const std::string& path, Start start);
 
     /// Takes the line of document `index`; it is written as soon as those before it are.
-    void add(std::size_t index, Line line);
+    void add(std::size_t index, const Line& line) { add(index, toJson(line)); }
+    /// The same with the line as it is to be written, empty for none.
+    void add(std::size_t index, std::string line);
     /// Writes what still waits for a document that was not done.
     void flush();
 
@@ -35,12 +40,13 @@ public:
     static std::string toJson(const Line& line);
 
 private:
-    void write(const Line& line);
+    void write(const std::string& line);
+    void dropCutOffLine();
 
     std::string m_path;
     FileDescriptor m_file;
     std::size_t m_next = 0;
-    std::map<std::size_t, Line> m_waiting;
+    std::map<std::size_t, std::string> m_waiting;
     std::string m_problem;
 };
 

@@ -46,6 +46,8 @@ std::string RunSummary::counts(bool dryRun) const
     std::string text = std::to_string(m_changed) + (dryRun ? " would change, " : " changed, ") +
                        std::to_string(m_unchanged) + " unchanged, " + std::to_string(m_failures.size()) +
                        " failed";
+    if (m_doneBefore > 0)
+        text += ", " + std::to_string(m_doneBefore) + " done before";
     if (!m_notDone.empty())
         text += ", stopped with " + std::to_string(m_notDone.size()) + " not done";
     return text + "\n";

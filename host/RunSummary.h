@@ -16,6 +16,8 @@ public:
     /// \param place the document's in the input; failures are told in that order.
     void add(std::size_t place, const std::string& name, const DocumentResult& result);
     void addNotDone(const std::string& name) { m_notDone.push_back(name); }
+    /// A document that an earlier run has done.
+    void addDoneBefore() { ++m_doneBefore; }
 
     bool anyFailed() const { return !m_failures.empty(); }
     bool anyNotDone() const { return !m_notDone.empty(); }
@@ -37,6 +39,7 @@ private:
 
     std::size_t m_changed = 0;
     std::size_t m_unchanged = 0;
+    std::size_t m_doneBefore = 0;
     std::map<std::size_t, Failure> m_failures;
     std::vector<std::string> m_notDone;
 };

@@ -89,6 +89,7 @@ private slots:
     void replacesWorkersThatGetIntoTrouble();
     void stopsWhenAsked();
     void leavesNothingBehindWhenKilled();
+    void resumesWhereAReportEnds();
     void showsHowDocumentsOpen();
 
 private:
@@ -647,6 +648,50 @@ void TestQuintarRun::leavesNothingBehindWhenKilled()
         }
         QVERIFY(QpdfReader(path("in/39.pdf")).catalog().contains("/PageMode"));
     }
+}
+
+void TestQuintarRun::resumesWhereAReportEnds()
+{
+    for (const char* name : {"in/a.pdf", "in/b.pdf", "in/c.pdf", "in/h\xf4tel.pdf"})
+        put(name);
+    put("in/bad.pdf", "bad");
+    const QStringList toOut = QStringList{"run", "-o", "out", "in"} + panelAndPage;
+    const auto resumed = [&](const QStringList& run, const char* to) {
+        return quintar(run + QStringList{"--resume", "report", "--report", to});
+    };
+    const auto counts = [](const ProgramRun& run) {
+        return run.out.split('\n').value(run.out.count('\n') - 1);
+    };
+    QCOMPARE(counts(resumed(toOut, "report")), QByteArray("4 changed, 0 unchanged, 1 failed"));
+
+    put("in/a.pdf", PdfBuilder::simple("/PageMode /UseThumbs"));  // the document is another one
+    fs::remove("out/b.pdf");                                      // the result is gone
+    put("in/bad.pdf");                                            // what failed has been mended
+    std::ofstream("report", std::ios::app) << "{\"file\":\"in/c"; // a run was killed here
+    const ProgramRun second = resumed(toOut, "other");
+    QCOMPARE(counts(second), QByteArray("3 changed, 0 unchanged, 0 failed, 2 done before"));
+    QVERIFY2(!second.out.contains("in/c.pdf"), second.out);
+    const QList<QJsonObject> other = ProgramRun::jsonLines(QByteArray::fromStdString(contentOf("other")));
+    QCOMPARE(other.size(), 5);
+    QCOMPARE(other[3].value("file").toString(), QString("in/c.pdf"));
+
+    fs::remove("out/a.pdf");
+    QCOMPARE(counts(resumed(toOut, "report")), QByteArray("3 changed, 0 unchanged, 0 failed, 2 done before"));
+    const ProgramRun last = resumed(toOut, "report");
+    QCOMPARE(counts(last), QByteArray("0 changed, 0 unchanged, 0 failed, 5 done before"));
+    QCOMPARE(last.status, 0);
+    QCOMPARE(counts(resumed(QStringList{"run", "-o", "new", "in"} + panelAndPage, "other")),
+             QByteArray("5 changed, 0 unchanged, 0 failed"));
+
+    const QStringList inPlace = QStringList{"run", "--in-place", "in"} + panelAndPage;
+    QCOMPARE(quintar(inPlace + QStringList{"--report", "report"}).status, 0);
+    QCOMPARE(counts(resumed(inPlace, "report")),
+             QByteArray("0 changed, 0 unchanged, 0 failed, 5 done before"));
+
+    put("report", "no report\n");
+    const ProgramRun refused = resumed(inPlace, "other");
+    QCOMPARE(refused.status, 2);
+    QVERIFY2(refused.err.contains("line 1 tells nothing of a document"), refused.err);
 }
 
 void TestQuintarRun::showsHowDocumentsOpen()

@@ -186,7 +186,7 @@ void TestSafeOutput::reportsInOrderAndInValidJson()
     const auto line = [](const std::string& file) {
         return Report::Line{file, "", DocumentResult::failed("\"quoted\"\n\x01\xff", 7)};
     };
-    Report report("report");
+    Report report("report", Report::Start::New);
     report.add(2, line("third"));
     report.add(0, line("fir\nst"));
     QCOMPARE(contentOf("report").find("third"), std::string::npos);

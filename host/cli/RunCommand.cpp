@@ -3,6 +3,7 @@
 #include "OptionParser.h"
 
 #include "host/BatchRun.h"
+#include "host/EarlierReport.h"
 #include "host/FileDescriptor.h"
 #include "host/FileNames.h"
 #include "host/Report.h"
@@ -55,6 +56,8 @@ Options:
   --files-from FILE|-       takes further documents and folders from a file or standard input, one a line
   --null                    the names in that list end with NUL instead
   --report FILE.jsonl       writes a JSON object a line about each document
+  --resume FILE.jsonl       leaves out what the report of an earlier run lists as done, unless a file has changed
+                            since; may be the same file as --report, which is continued then
   --signed refuse|append    what becomes of signed documents: refused (the default), or changed by an update
                             behind what is signed
   --dry-run                 writes nothing and tells what would be changed
@@ -142,13 +145,14 @@ int RunCommand::run(int argc, char** argv)
     warnOfSettingsWithoutEffect();
 
     const RunPlan plan = this->plan();
+    BatchRun::Done done = doneBefore(plan);
     if (m_outputFolder && !m_options.dryRun)
         if (const std::string problem = SafeOutput::makeFolder(*m_outputFolder); !problem.empty())
             throw UsageError(problem);
     std::optional<Report> report; // may lie in the output folder
     if (m_reportFile)
-        report.emplace(*m_reportFile);
-    return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet).run(m_limits);
+        report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
+    return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet, std::move(done)).run(m_limits);
 }
 
 void RunCommand::parse(int argc, char** argv)
@@ -165,6 +169,7 @@ void RunCommand::parse(int argc, char** argv)
     parser.addValue("files-from", setOnce(m_fileList, "--files-from"));
     parser.addFlag("null", m_nullSeparated);
     parser.addValue("report", setOnce(m_reportFile, "--report"));
+    parser.addValue("resume", setOnce(m_resumedReport, "--resume"));
     parser.addValue("signed",
                     [this](const std::string& value) { m_options.signedDocuments = signedDocuments(value); });
     parser.addFlag("dry-run", m_options.dryRun);
@@ -268,14 +273,43 @@ void RunCommand::warnOfSettingsWithoutEffect() const
     }
 }
 
+bool RunCommand::continuesReport() const
+{
+    if (!m_reportFile || !m_resumedReport)
+        return false;
+    struct stat report;
+    struct stat resumed;
+    if (stat(m_reportFile->c_str(), &report) != 0 || stat(m_resumedReport->c_str(), &resumed) != 0)
+        return *m_reportFile == *m_resumedReport;
+    return report.st_dev == resumed.st_dev && report.st_ino == resumed.st_ino;
+}
+
+BatchRun::Done RunCommand::doneBefore(const RunPlan& plan) const
+{
+    struct stat status;
+    const bool firstRun =
+        continuesReport() && stat(m_resumedReport->c_str(), &status) != 0 && errno == ENOENT;
+    if (!m_resumedReport || firstRun)
+        return {};
+    BatchRun::Done done = EarlierReport(*m_resumedReport, plan).done();
+    if (continuesReport()) // which has the lines
+        for (auto& [place, line] : done)
+            line.clear();
+    return done;
+}
+
 RunPlan RunCommand::plan() const
 {
     RunPlan plan(m_outputFolder.value_or(""));
     for (const std::string& input : m_inputs)
         plan.add(input);
     plan.checkTargets();
-    if (m_reportFile)
-        plan.checkReport(*m_reportFile, m_filesRead);
+    if (m_reportFile) {
+        std::vector<std::string> filesRead = m_filesRead;
+        if (m_resumedReport && !continuesReport())
+            filesRead.push_back(*m_resumedReport);
+        plan.checkReport(*m_reportFile, filesRead);
+    }
     for (const std::string& folder : plan.emptyFolders())
         note("no PDF documents in " + folder);
     if (plan.documents().empty() && plan.emptyFolders().empty())

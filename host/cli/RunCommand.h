@@ -2,6 +2,7 @@
 
 #include "Command.h"
 
+#include "host/BatchRun.h"
 #include "host/DocumentProcessor.h"
 #include "host/WorkerPool.h"
 
@@ -29,6 +30,10 @@ private:
     void check() const;
     void warnOfSettingsWithoutEffect() const;
     RunPlan plan() const;
+    /// What --resume leaves out.
+    BatchRun::Done doneBefore(const RunPlan& plan) const;
+    /// Whether --report and --resume name the same file.
+    bool continuesReport() const;
 
     bool m_help = false;
     bool m_quiet = false;
@@ -42,6 +47,7 @@ private:
     std::optional<std::string> m_passwordFile;
     std::optional<std::string> m_fileList;
     std::optional<std::string> m_reportFile;
+    std::optional<std::string> m_resumedReport;
     std::vector<std::string> m_filesRead; ///< Besides the documents.
     std::vector<std::string> m_inputs;
     ProcessingOptions m_options;

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <sys/stat.h>
+
+#include <string>
+
+namespace host {
+
+/// A file's size and time of change as text, "1234 bytes, 2026-11-23T05:47:31.123456789Z", by which a later
+/// run sees whether it is still the same.
+std::string stateOf(const struct stat& file);
+
+/// The same of the file at a path; empty when there is none.
+std::string stateOf(const std::string& path);
+
+} // namespace host
