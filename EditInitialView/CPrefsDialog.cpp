@@ -1,5 +1,6 @@
 #include "CPrefsDialog.h"
 
+#include "CElidedTextStyle.h"
 #include "InitialViewSettings.h"
 
 #include "shared/CIniFile.h"
@@ -32,7 +33,8 @@ CPrefsDialog::CPrefsDialog(QWidget* parent) : CQuintarDialog(parent, true)
 {
     ui.setupUi(this);
     titleLabel->setText(windowTitle());
-    // The labels differ in their last words, and the dialog is too narrow to show them.
+    // The labels differ in their last words, and the dialog is too narrow to show them whole.
+    new CElidedTextStyle(ui.PageLayoutComboBox);
     connect(ui.PageLayoutComboBox, &QComboBox::currentTextChanged, ui.PageLayoutComboBox,
             &QWidget::setToolTip);
     QDaddMainWidget(ui.main_widget, true);
