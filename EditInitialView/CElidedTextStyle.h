@@ -2,8 +2,8 @@
 
 #include <QProxyStyle>
 
-/// Draws closed lists so that they leave out the middle of a text that they have no room for, as of texts that
-/// differ in their first and last words.
+/// Draws closed lists so that they leave out the middle of a text that they have no room for, as of texts
+/// that differ in their first and last words.
 class CElidedTextStyle : public QProxyStyle
 {
 public:

@@ -99,7 +99,8 @@ std::optional<std::string> decoded(const Entries& dictionary, std::string_view d
     const auto filter = dictionary.find("Filter");
     const auto parameters = dictionary.find("DecodeParms");
     if (filter == dictionary.end())
-        return parameters == dictionary.end() ? std::optional(std::string(data.substr(0, most))) : std::nullopt;
+        return parameters == dictionary.end() ? std::optional(std::string(data.substr(0, most)))
+                                              : std::nullopt;
     if (filter->second != "/FlateDecode")
         return std::nullopt;
     if (parameters == dictionary.end())

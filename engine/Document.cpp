@@ -112,7 +112,8 @@ bool Document::openSkeleton()
     m_pdf->setSuppressWarnings(true);
     try {
         m_pdf->processMemoryFile(m_fileName.c_str(), m_skeleton.data(), m_skeleton.size());
-        m_fetched = {catalog().getObjGen()};
+        m_catalog = m_pdf->getRoot();
+        m_fetched = {m_catalog.getObjGen()};
     } catch (const QPDFExc&) {
         m_direct.reset();
     }
@@ -151,7 +152,7 @@ bool Document::open(const std::string& password)
     m_pdf->setSuppressWarnings(true);
     try {
         m_pdf->processInputSource(std::make_shared<SourceInput>(m_source, m_fileName), password.c_str());
-        m_pdf->getRoot();
+        m_catalog = m_pdf->getRoot();
     } catch (const QPDFExc& error) {
         const ErrorCode code = errorCodeOf(error);
         if (code == ErrorCode::WrongPassword)
@@ -162,11 +163,6 @@ bool Document::open(const std::string& password)
     }
     m_openedWithPassword = !password.empty() && m_pdf->isEncrypted();
     return true;
-}
-
-QPDFObjectHandle Document::catalog()
-{
-    return m_pdf->getRoot();
 }
 
 QPDFObjectHandle Document::key(QPDFObjectHandle dictionary, const std::string& key)

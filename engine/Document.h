@@ -80,7 +80,7 @@ public:
     const std::shared_ptr<ByteSource>& source() const { return m_source; }
     const std::string& fileName() const { return m_fileName; }
 
-    QPDFObjectHandle catalog();
+    QPDFObjectHandle catalog() const { return m_catalog; }
 
     /// An entry of a dictionary, null where there is none or where `dictionary` is not one.
     QPDFObjectHandle key(QPDFObjectHandle dictionary, const std::string& key);
@@ -135,6 +135,7 @@ private:
     std::set<QPDFObjGen> m_fetched;
     std::map<QPDFObjGen, std::shared_ptr<const std::vector<QPDFObjGen>>> m_kids; // of nodes fetched without
     std::shared_ptr<QPDF> m_pdf;
+    QPDFObjectHandle m_catalog; // looking it up anew each time is not cheap
     std::set<QPDFObjGen> m_changed;
     bool m_rebuilt = false;
     bool m_warned = false;

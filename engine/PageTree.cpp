@@ -44,8 +44,18 @@ struct Glimpse
     std::optional<int> count;
 };
 
+/// Most kids say that they are pages and have neither of the words that would need a closer look.
+bool isPlainPage(std::string_view text)
+{
+    const auto has = [text](std::string_view word) { return text.find(word) != text.npos; };
+    return text.starts_with("<<") && (has("/Type /Page") || has("/Type/Page")) && !has("/Pages") &&
+           !has("/Kids") && !has("#");
+}
+
 std::optional<Glimpse> glimpseOf(std::string_view text)
 {
+    if (isPlainPage(text))
+        return Glimpse{Kind::Page, std::nullopt};
     Glimpse glimpse{Kind::Page, std::nullopt};
     DictionaryScanner scanner(text);
     while (const auto entry = scanner.next()) {

@@ -85,8 +85,10 @@ std::optional<std::int64_t> SyntaxScanner::integer()
 }
 
 /// Skips whole numbers and the last words of references, of which long arrays consist.
-void SyntaxScanner::skipReferences()
+/// \returns whether there was any.
+bool SyntaxScanner::skipReferences()
 {
+    const std::size_t before = m_at;
     const char* const begin = m_text.data();
     const char* const end = begin + m_text.size();
     const char* next = begin + m_at;
@@ -100,7 +102,7 @@ void SyntaxScanner::skipReferences()
         if (next == start && next < end && *next == 'R')
             ++next;
         if (next == start || next == end || isRegular(*next))
-            return;
+            return m_at > before;
     }
 }
 
@@ -119,12 +121,12 @@ SyntaxScanner::Outcome SyntaxScanner::skipValue()
 {
     std::string open;
     do {
-        if (!open.empty())
-            skipReferences();
         skipSpace();
         if (atEnd())
             return Outcome::CutOff;
         const char first = m_text[m_at];
+        if (isDigit(first) && !open.empty() && skipReferences())
+            continue;
         const bool doubled = m_at + 1 < m_text.size() && m_text[m_at + 1] == first;
         if (first == '[' || (first == '<' && doubled)) {
             open.push_back(first);

@@ -43,7 +43,7 @@ public:
     Outcome skipValue();
 
 private:
-    void skipReferences();
+    bool skipReferences();
     Outcome skipToken();
     Outcome skipLiteralString();
     Outcome skipHexString();
