@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <utility>
@@ -37,6 +38,12 @@ std::string resolved(const std::string& path)
     return resolved(path.substr(0, slash)) + path.substr(slash);
 }
 
+/// The path without "." and "..", links not followed: a linked document keeps the place it is named by.
+std::filesystem::path absolutePath(const std::string& path)
+{
+    return std::filesystem::absolute(path).lexically_normal();
+}
+
 std::string withoutTrailingSlashes(std::string path)
 {
     while (path.size() > 1 && path.back() == '/')
@@ -46,7 +53,9 @@ std::string withoutTrailingSlashes(std::string path)
 
 } // namespace
 
-RunPlan::RunPlan(std::string outputFolder) : m_outputFolder(withoutTrailingSlashes(std::move(outputFolder)))
+RunPlan::RunPlan(std::string outputFolder, const std::string& base)
+    : m_outputFolder(withoutTrailingSlashes(std::move(outputFolder))),
+      m_base(base.empty() ? std::string() : absolutePath(base).string())
 {}
 
 void RunPlan::add(const std::string& path)
@@ -66,7 +75,7 @@ void RunPlan::add(const std::string& path)
 
 void RunPlan::addDocument(const std::string& path, const std::string& pathBelowOutput)
 {
-    m_documents.push_back({path, targetOf(path, pathBelowOutput), {}});
+    m_documents.push_back({path, targetOf(path, m_base.empty() ? pathBelowOutput : belowBase(path)), {}});
 }
 
 void RunPlan::addFolder(const std::string& folder)
@@ -92,6 +101,14 @@ bool RunPlan::isOutputFolder(const struct stat& status) const
     struct stat output;
     return !m_outputFolder.empty() && stat(m_outputFolder.c_str(), &output) == 0 &&
            idOf(status) == idOf(output);
+}
+
+std::string RunPlan::belowBase(const std::string& path) const
+{
+    const std::filesystem::path below = absolutePath(path).lexically_relative(m_base);
+    if (below.empty() || *below.begin() == ".." || *below.begin() == ".")
+        throw UsageError(path + " does not lie below the folder " + m_base + " that --base names");
+    return below.string();
 }
 
 std::string RunPlan::targetOf(const std::string& path, const std::string& pathBelowOutput) const

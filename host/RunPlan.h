@@ -23,7 +23,9 @@ public:
     };
 
     /// \param outputFolder the folder for the outputs; empty for work in place.
-    explicit RunPlan(std::string outputFolder);
+    /// \param base the folder that outputs keep their documents' paths below; empty to keep the paths of
+    /// documents from folders only.
+    explicit RunPlan(std::string outputFolder, const std::string& base = {});
 
     /// Adds a document, or the documents in a folder.
     void add(const std::string& path);
@@ -44,9 +46,11 @@ private:
     void addDocument(const std::string& path, const std::string& pathBelowOutput);
     void addFolder(const std::string& folder);
     bool isOutputFolder(const struct stat& status) const;
+    std::string belowBase(const std::string& path) const;
     std::string targetOf(const std::string& path, const std::string& pathBelowOutput) const;
 
     std::string m_outputFolder;
+    std::string m_base; ///< Absolute.
     std::vector<Document> m_documents;
     std::vector<std::string> m_emptyFolders;
 };

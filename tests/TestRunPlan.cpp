@@ -131,6 +131,15 @@ void TestRunPlan::placesOutputs()
     plan.add("d/one.pdf");
     plan.add("./two");
     QCOMPARE(targets(plan), std::string("d/one.pdf>new/er/out/one.pdf ./two>new/er/out/two "));
+    make("d/deep/x\xff.pdf");
+    RunPlan below("out", "./d/");
+    for (const std::string& name : {std::string("d/one.pdf"), fs::absolute("d/deep").string() + "/../deep"})
+        below.add(name);
+    QCOMPARE(below.documents()[0].target, fs::canonical(".").string() + "/out/one.pdf");
+    QCOMPARE(below.documents()[1].target, fs::canonical(".").string() + "/out/deep/x\xff.pdf");
+    below.add("d/missing.pdf");
+    QVERIFY_EXCEPTION_THROWN(below.add("two"), UsageError);
+    QVERIFY_EXCEPTION_THROWN(RunPlan("out", "two").add("two"), UsageError);
     RunPlan inPlace("");
     inPlace.add("d/../d/one.pdf");
     QCOMPARE(targets(inPlace), std::string("d/../d/one.pdf>d/one.pdf "));

@@ -47,6 +47,7 @@ Settings, from one source:
 
 Where the results go:
   -o, --output DIR          into a folder, made if it is missing; a document that needs no change is copied
+  --base DIR                with -o, documents keep their paths below this folder, however they are named
   --in-place                in the documents' own places; one that needs no change is not touched
 
 Options:
@@ -163,6 +164,7 @@ void RunCommand::parse(int argc, char** argv)
     parser.addValue("tool-settings", append(m_toolSettings));
     parser.addValue("set", append(m_settingWords));
     parser.addValue("output", setOnce(m_outputFolder, "-o"), 'o');
+    parser.addValue("base", setOnce(m_base, "--base"));
     parser.addFlag("in-place", m_options.inPlace);
     parser.addValue("password", setOnce(m_password, "--password"));
     parser.addValue("password-file", setOnce(m_passwordFile, "--password-file"));
@@ -206,6 +208,8 @@ void RunCommand::check() const
     struct stat status;
     if (m_outputFolder && stat(m_outputFolder->c_str(), &status) == 0 && !S_ISDIR(status.st_mode))
         throw UsageError(*m_outputFolder + " is not a folder");
+    if (m_base && (m_base->empty() || !m_outputFolder))
+        throw UsageError(m_base->empty() ? "the name of the base folder is empty" : "--base goes with -o");
     if (m_password && m_passwordFile)
         throw UsageError("--password and --password-file exclude each other");
     if (m_nullSeparated && !m_fileList)
@@ -300,7 +304,7 @@ BatchRun::Done RunCommand::doneBefore(const RunPlan& plan) const
 
 RunPlan RunCommand::plan() const
 {
-    RunPlan plan(m_outputFolder.value_or(""));
+    RunPlan plan(m_outputFolder.value_or(""), m_base.value_or(""));
     for (const std::string& input : m_inputs)
         plan.add(input);
     plan.checkTargets();

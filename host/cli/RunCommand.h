@@ -43,6 +43,7 @@ private:
     std::vector<std::string> m_toolSettings;
     std::vector<std::string> m_settingWords;
     std::optional<std::string> m_outputFolder;
+    std::optional<std::string> m_base;
     std::optional<std::string> m_password;
     std::optional<std::string> m_passwordFile;
     std::optional<std::string> m_fileList;
