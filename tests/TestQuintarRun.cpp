@@ -635,7 +635,7 @@ void TestQuintarRun::leavesNothingBehindWhenKilled()
         QProcess process;
         process.start(PROGRAM_FILE, QStringList{"run", "--in-place", "in"} + panelAndPage);
         QVERIFY(process.waitForStarted());
-        QTest::qWait(15 * round);
+        QTest::qWait(5 * round);
         process.kill();
         // A quick run has ended by itself.
         QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished());
