@@ -111,11 +111,11 @@ void readDocument(TelvarPDFLibraryCPDylibCPP1311& library, int document, Setting
     settings.insert(key::ViewerPrefs, true);
 }
 
-/// \param specification as CActionInterface::GetDefaultIcon gives it.
-QIcon iconOf(const QString& specification)
+/// \param names as CActionInterface::GetDefaultIcon gives it.
+QIcon iconOf(const QString& names)
 {
-    const auto image = [&specification](int section) {
-        return QPixmap(":/Quintar/Resources/Tools/" + specification.section('#', section, section));
+    const auto image = [&names](int section) {
+        return QPixmap(":/Quintar/Resources/Tools/" + names.section('#', section, section));
     };
     QIcon icon;
     icon.addPixmap(image(1), QIcon::Selected, QIcon::Off);
