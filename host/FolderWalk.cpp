@@ -62,9 +62,11 @@ void FolderWalk::visit(const std::string& folder, const std::string& relative, i
         m_found(relative, depth > deepest ? "the folders are nested too deeply" : systemError(errno));
         return;
     }
+    const std::string folderPrefix = folder + "/";
+    const std::string relativePrefix = relative.empty() ? std::string() : relative + "/";
     for (const std::string& name : names) {
-        const std::string path = folder + "/" + name;
-        const std::string below = relative.empty() ? name : relative + "/" + name;
+        const std::string path = folderPrefix + name;
+        const std::string below = relativePrefix + name;
         struct stat status;
         if (lstat(path.c_str(), &status) != 0) {
             if (errno != ENOENT) // it has gone since

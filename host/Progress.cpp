@@ -5,6 +5,7 @@
 #include <sys/ioctl.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 namespace host {
@@ -23,7 +24,7 @@ std::size_t widthOf(int descriptor)
 
 std::string clockText(double seconds)
 {
-    const long whole = static_cast<long>(std::min(seconds, 359999.0) + 0.5);
+    const long whole = std::lround(std::min(seconds, 359999.0));
     char text[32];
     if (whole >= 3600)
         std::snprintf(text, sizeof text, "%ld:%02ld:%02ld", whole / 3600, whole / 60 % 60, whole % 60);

@@ -23,7 +23,7 @@ namespace host {
 namespace {
 
 const std::string_view prefix = ".quintar-"; // the library writes files of such names as they are
-const std::time_t strangerAge = 24 * 60 * 60;
+const std::time_t strangerAge = std::time_t{24} * 60 * 60;
 
 /// Process numbers mean something only on one machine since its start and in one container, so names carry
 /// this too: ".quintar-<place>-<process>-<count>".
