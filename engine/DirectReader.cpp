@@ -25,6 +25,10 @@ const std::size_t mostRuns = 100'000;
 const std::int64_t entriesAtOnce = 4096;
 const std::int64_t entrySize = 20; // of a table
 const std::size_t longestObjectHeader = 40;
+const std::int64_t largestSize = 0x7ffffff0; // readers stop at object numbers far above
+// A file is made to keep a reader busy when it needs more than this, and reading all of it costs less then.
+const std::uint64_t mostEffort = 512 << 20;
+const std::uint64_t mostEffortPerByte = 8;
 
 // Of a trailer these describe its section; all other entries belong to the document.
 const std::string_view sectionKeys[] = {"Prev",  "Size",   "Type",   "W",
@@ -155,7 +159,8 @@ bool isNumberInRange(std::optional<std::int64_t> number, std::int64_t largest)
 std::unique_ptr<DirectReader> DirectReader::open(std::shared_ptr<ByteSource> source)
 {
     std::unique_ptr<DirectReader> reader(new DirectReader(std::move(source)));
-    if (!reader->bytes(0, 8).starts_with("%PDF-1."))
+    const std::string_view header = reader->bytes(0, 9);
+    if (!header.starts_with("%PDF-1.") || header.size() < 9 || !isSpace(header[8]))
         return nullptr;
     const auto last = reader->lastStartXref();
     return last && reader->readSections(*last) ? std::move(reader) : nullptr;
@@ -187,7 +192,9 @@ std::optional<std::int64_t> DirectReader::lastStartXref()
     const std::size_t found = tail.rfind("startxref");
     if (found == tail.npos)
         return std::nullopt;
-    SyntaxScanner scanner(tail, found + std::string_view("startxref").size());
+    SyntaxScanner scanner(tail, found);
+    if (!scanner.keyword("startxref"))
+        return std::nullopt;
     scanner.skipSpace();
     const auto offset = scanner.integer();
     scanner.skipSpace();
@@ -201,6 +208,7 @@ std::optional<std::int64_t> DirectReader::lastStartXref()
 bool DirectReader::readSections(std::int64_t offset)
 {
     std::set<std::int64_t> seen;
+    std::size_t entryBytes = 0;
     while (offset >= 0) {
         if (!seen.insert(offset).second || seen.size() > mostSections)
             return false;
@@ -208,15 +216,23 @@ bool DirectReader::readSections(std::int64_t offset)
         if (!section)
             return false;
         offset = section->previous;
+        entryBytes += section->entries.size();
+        if (entryBytes > largestDecoded)
+            return false;
         m_sections.push_back(std::move(*section));
     }
-    return true;
+    // Other readers take the number that stands before a section for the section's, whatever the entries say.
+    return std::all_of(m_sections.begin(), m_sections.end(), [&](const Section& section) {
+        const auto entry = section.isStream ? find(section.number) : Entry{EntryKind::Free, 0, 0};
+        return entry && (entry->kind == EntryKind::Free ||
+                         (entry->kind == EntryKind::Plain && seen.contains(entry->position)));
+    });
 }
 
 std::optional<DirectReader::Section> DirectReader::readSection(std::int64_t offset)
 {
     auto section = bytes(offset, 4) == "xref" ? readTable(offset) : readStream(offset);
-    if (!section || !complete(*section))
+    if (!section || !complete(*section) || (section->isStream && !hasGoodEntries(*section)))
         return std::nullopt;
     section->offset = offset;
     return section;
@@ -229,7 +245,7 @@ bool DirectReader::complete(Section& section)
     if (!entries || entries->contains("Encrypt") || entries->contains("XRefStm"))
         return false;
     const auto size = integerOf(*entries, "Size");
-    if (!isNumberInRange(size, INT32_MAX) || *size < 1)
+    if (!isNumberInRange(size, largestSize) || *size < 1)
         return false;
     if (entries->contains("Prev")) {
         const auto previous = integerOf(*entries, "Prev");
@@ -238,21 +254,26 @@ bool DirectReader::complete(Section& section)
         section.previous = *previous;
     }
     m_size = std::max(m_size, static_cast<int>(*size));
-    for (const Run& run : section.runs)
-        if (run.first + static_cast<std::int64_t>(run.count) > *size)
+    std::int64_t end = 0;
+    for (const Run& run : section.runs) {
+        if (run.first < end)
             return false;
-    return true;
+        end = run.first + static_cast<std::int64_t>(run.count);
+    }
+    return end <= *size;
 }
 
 std::optional<DirectReader::Section> DirectReader::readTable(std::int64_t offset)
 {
     Section section;
     std::int64_t at = offset + 4;
+    if (const std::string_view space = bytes(at, 1); space.empty() || !isSpace(space.front()))
+        return std::nullopt;
     for (;;) {
         const std::string_view head = bytes(at, 64);
         SyntaxScanner scanner(head);
         scanner.skipSpace();
-        if (scanner.keyword("trailer")) {
+        if (!section.runs.empty() && scanner.keyword("trailer")) {
             at += static_cast<std::int64_t>(scanner.position());
             break;
         }
@@ -295,7 +316,11 @@ std::optional<DirectReader::Section> DirectReader::readStream(std::int64_t offse
 {
     Section section;
     section.isStream = true;
-    auto data = streamAt(offset, -1, section.dictionary, largestDecoded);
+    const auto number = SyntaxScanner(bytes(offset, longestObjectHeader)).integer();
+    if (!isNumberInRange(number, largestSize) || *number < 1)
+        return std::nullopt;
+    section.number = static_cast<int>(*number);
+    auto data = streamAt(offset, section.number, section.dictionary, largestDecoded);
     const auto entries = dictionaryEntries(section.dictionary);
     if (!data || !entries || !entries->contains("Type") || entries->at("Type") != "/XRef" ||
         !entries->contains("W"))
@@ -330,12 +355,32 @@ std::optional<DirectReader::Section> DirectReader::readStream(std::int64_t offse
     return section;
 }
 
+bool DirectReader::hasGoodEntries(const Section& section) const
+{
+    const auto [kind, second, third] = section.widths;
+    if (kind == 1 && second < 8 && third < 4) { // no value of the other fields is too large
+        const auto width = static_cast<std::size_t>(kind + second + third);
+        for (std::size_t at = 0; at < section.entries.size(); at += width)
+            if (static_cast<unsigned char>(section.entries[at]) > 2)
+                return false;
+        return true;
+    }
+    for (const Run& run : section.runs)
+        for (int number = 0; number < run.count; ++number)
+            if (!streamEntry(section, run, run.first + number))
+                return false;
+    return true;
+}
+
 std::optional<DirectReader::Entry> DirectReader::find(int number)
 {
-    for (const Section& section : m_sections)
-        for (const Run& run : section.runs)
-            if (number >= run.first && number - run.first < run.count)
-                return section.isStream ? streamEntry(section, run, number) : tableEntry(run, number);
+    for (const Section& section : m_sections) {
+        const auto run = std::partition_point(section.runs.begin(), section.runs.end(), [&](const Run& run) {
+            return number - run.first >= run.count;
+        });
+        if (run != section.runs.end() && number >= run->first)
+            return section.isStream ? streamEntry(section, *run, number) : tableEntry(*run, number);
+    }
     return Entry{EntryKind::Free, 0, 0};
 }
 
@@ -409,19 +454,21 @@ std::optional<std::string> DirectReader::object(int number, int generation)
     const auto entry = find(number);
     if (!entry)
         return std::nullopt;
-    switch (entry->kind) {
-    case EntryKind::Free:
-        return "null";
-    case EntryKind::Plain:
-        if (entry->detail != generation)
-            return std::nullopt;
-        return valueAt(entry->position, number, generation, nullptr);
-    case EntryKind::Compressed:
-        if (generation != 0 || entry->position > INT32_MAX)
-            return std::nullopt;
-        return compressed(static_cast<int>(entry->position), entry->detail, number);
-    }
-    return std::nullopt;
+    std::optional<std::string> text;
+    if (entry->kind == EntryKind::Free)
+        text = "null";
+    else if (entry->kind == EntryKind::Plain && entry->detail == generation)
+        text = valueAt(entry->position, number, generation, nullptr);
+    else if (entry->kind == EntryKind::Compressed && generation == 0 && entry->position <= INT32_MAX)
+        text = compressed(static_cast<int>(entry->position), entry->detail, number);
+    return text && allows(text->size()) ? std::move(text) : std::nullopt;
+}
+
+/// Adds to what the document has cost so far. \returns false when that is too much.
+bool DirectReader::allows(std::size_t effort)
+{
+    m_effort += effort;
+    return m_effort <= mostEffort + mostEffortPerByte * m_source->size();
 }
 
 /// Reads a value that stands in the file, behind an object header unless `number` is -1 and a trailer is
@@ -465,17 +512,12 @@ std::optional<std::string> DirectReader::valueAt(std::int64_t offset, int number
     return std::nullopt;
 }
 
-/// Reads the stream at an offset and decodes `most` bytes of it or somewhat more; `number` -1 accepts any
-/// object number.
+/// Reads the stream at an offset and decodes `most` bytes of it or somewhat more.
 std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int number, std::string& dictionary,
                                                   std::size_t most)
 {
-    SyntaxScanner scanner(bytes(offset, longestObjectHeader));
-    const auto found = scanner.integer();
-    if (!isNumberInRange(found, INT32_MAX) || (number >= 0 && *found != number))
-        return std::nullopt;
     std::int64_t start = 0;
-    auto text = valueAt(offset, static_cast<int>(*found), 0, &start);
+    auto text = valueAt(offset, number, 0, &start);
     if (!text || start == 0)
         return std::nullopt;
     dictionary = std::move(*text);
@@ -491,7 +533,8 @@ std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int numbe
     behind.skipSpace();
     if (!behind.keyword("endstream"))
         return std::nullopt;
-    return decoded(*entries, data.substr(0, size), std::min(most, largestDecoded));
+    auto content = decoded(*entries, data.substr(0, size), std::min(most, largestDecoded));
+    return content && allows(size + content->size()) ? std::move(content) : std::nullopt;
 }
 
 /// Of an object stream no more is decoded than what the object needs, and some room.
@@ -539,28 +582,30 @@ const DirectReader::Container* DirectReader::containerOf(int number, std::size_t
     if (!isNumberInRange(count, INT32_MAX) || !isNumberInRange(first, largestDecoded))
         return nullptr;
     Container container;
-    container.complete = data->size() < size || data->size() == largestDecoded;
+    if (data->size() >= largestDecoded)
+        return nullptr;
+    container.complete = data->size() < size;
     const auto bodies = static_cast<std::size_t>(*first);
     if (bodies > data->size() && !container.complete)
         return containerOf(number, bodies + firstDecoded);
     if (bodies > data->size() || !readHeader(*data, *count, bodies, container))
         return nullptr;
     if (known != m_containers.end()) {
-        m_containerBytes -= known->second.data.size();
+        m_containerBytes -= known->second.size();
         m_containers.erase(known);
     }
     if (container.complete)
         data->push_back('\n'); // ends a last word
-    m_containerBytes += data->size();
+    container.data = std::move(*data);
+    m_containerBytes += container.size();
     if (m_containerBytes > mostContainerBytes) {
         m_containers.clear();
-        m_containerBytes = data->size();
+        m_containerBytes = container.size();
     }
-    container.data = std::move(*data);
     return &m_containers.emplace(number, std::move(container)).first->second;
 }
 
-/// Reads which objects a stream holds and where.
+/// Reads which objects a stream holds and where. One that holds an object twice is odd.
 bool DirectReader::readHeader(std::string_view data, std::int64_t count, std::size_t bodies,
                               Container& container)
 {
@@ -574,7 +619,12 @@ bool DirectReader::readHeader(std::string_view data, std::int64_t count, std::si
             return false;
         container.objects.emplace_back(static_cast<int>(*number), bodies + static_cast<std::size_t>(*start));
     }
-    return true;
+    std::vector<int> numbers;
+    numbers.reserve(container.objects.size());
+    for (const auto& [number, start] : container.objects)
+        numbers.push_back(number);
+    std::sort(numbers.begin(), numbers.end());
+    return std::adjacent_find(numbers.begin(), numbers.end()) == numbers.end();
 }
 
 } // namespace engine

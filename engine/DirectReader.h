@@ -58,8 +58,9 @@ private:
         std::int64_t offset = 0;
         std::int64_t previous = -1;
         bool isStream = false;
+        int number = -1; // of the stream
         std::string dictionary;
-        std::vector<Run> runs;
+        std::vector<Run> runs;          // in the order of their numbers
         std::string entries;            // decoded, of a stream
         std::array<int, 3> widths = {}; // of a stream's fields
     };
@@ -86,6 +87,8 @@ private:
         std::string data;
         bool complete = false;
         std::vector<std::pair<int, std::size_t>> objects; // number, start in data
+
+        std::size_t size() const { return data.size() + objects.size() * sizeof objects[0]; }
     };
 
     explicit DirectReader(std::shared_ptr<ByteSource> source) : m_source(std::move(source)) {}
@@ -100,6 +103,7 @@ private:
     std::optional<Section> readSection(std::int64_t offset);
     std::optional<Section> readTable(std::int64_t offset);
     bool hasGoodEntries(const Run& run) const;
+    bool hasGoodEntries(const Section& section) const;
     std::optional<Section> readStream(std::int64_t offset);
     bool complete(Section& section);
 
@@ -111,6 +115,7 @@ private:
                                        std::int64_t* streamData);
     std::optional<std::string> streamAt(std::int64_t offset, int number, std::string& dictionary,
                                         std::size_t most);
+    bool allows(std::size_t effort);
     std::optional<std::string> compressed(int container, int index, int number);
     const Container* containerOf(int number, std::size_t size);
     static bool readHeader(std::string_view data, std::int64_t count, std::size_t bodies,
@@ -123,6 +128,7 @@ private:
     int m_size = 0;
     std::map<int, Container> m_containers;
     std::size_t m_containerBytes = 0;
+    std::uint64_t m_effort = 0; // in bytes decoded and handed out
 };
 
 } // namespace engine

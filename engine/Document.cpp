@@ -10,6 +10,7 @@
 #include <qpdf/QUtil.hh>
 
 #include <new>
+#include <stdexcept>
 #include <vector>
 
 namespace engine {
@@ -55,17 +56,18 @@ struct NodeText
 std::optional<NodeText> splitNode(const std::string& text)
 {
     DictionaryScanner scanner(text);
+    std::optional<NodeText> split;
     while (const auto entry = scanner.next()) {
         if (entry->key != "Kids")
             continue;
-        auto kids = referencesIn(entry->value);
+        auto kids = split ? nullptr : referencesIn(entry->value);
         if (!kids)
             return std::nullopt;
         const auto start = static_cast<std::size_t>(entry->key.data() - 1 - text.data());
         const auto end = static_cast<std::size_t>(entry->value.data() - text.data()) + entry->value.size();
-        return NodeText{text.substr(0, start) + text.substr(end), std::move(kids)};
+        split = NodeText{text.substr(0, start) + text.substr(end), std::move(kids)};
     }
-    return std::nullopt;
+    return scanner.odd() ? std::nullopt : split;
 }
 
 bool looksLikePdf(const ByteSource& source)
@@ -186,7 +188,11 @@ std::string Document::textOf(QPDFObjGen id)
 
 void Document::put(QPDFObjGen id, const std::string& text)
 {
-    m_pdf->replaceObject(id, QPDFObjectHandle::parse(m_pdf.get(), text));
+    try {
+        m_pdf->replaceObject(id, QPDFObjectHandle::parse(m_pdf.get(), text));
+    } catch (const std::runtime_error&) { // libqpdf's own, and from numbers that are too large
+        throw DirectReadingEnded();
+    }
     if (m_pdf->anyWarnings())
         throw DirectReadingEnded();
 }

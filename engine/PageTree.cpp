@@ -44,35 +44,48 @@ struct Glimpse
     std::optional<int> count;
 };
 
-/// Most kids say that they are pages and have neither of the words that would need a closer look.
+/// Most kids have none of the words that would need a closer look, and every type stands where it is named.
 bool isPlainPage(std::string_view text)
 {
     const auto has = [text](std::string_view word) { return text.find(word) != text.npos; };
-    return text.starts_with("<<") && (has("/Type /Page") || has("/Type/Page")) && !has("/Pages") &&
-           !has("/Kids") && !has("#");
+    const std::string_view type = "/Type";
+    for (std::size_t at = text.find(type); at != text.npos; at = text.find(type, at)) {
+        at += type.size();
+        at += at < text.size() && text[at] == ' ' ? 1 : 0;
+        if (at >= text.size() || text[at] != '/')
+            return false;
+    }
+    return text.starts_with("<<") && !has("/Pages") && !has("/Kids");
 }
 
 std::optional<Glimpse> glimpseOf(std::string_view text)
 {
+    if (text.find('#') != text.npos) // escapes in names, good or bad
+        return std::nullopt;
     if (isPlainPage(text))
         return Glimpse{Kind::Page, std::nullopt};
-    Glimpse glimpse{Kind::Page, std::nullopt};
+    std::string_view kids;
+    std::string_view type;
+    std::string_view count;
     DictionaryScanner scanner(text);
     while (const auto entry = scanner.next()) {
-        if (entry->key == "Kids" && !entry->value.starts_with('['))
+        std::string_view* const value = entry->key == "Kids"    ? &kids
+                                        : entry->key == "Type"  ? &type
+                                        : entry->key == "Count" ? &count
+                                                                : nullptr;
+        if (value != nullptr && !value->empty())
             return std::nullopt;
-        if (entry->key == "Type" &&
-            (!entry->value.starts_with('/') || entry->value.find('#') != entry->value.npos))
-            return std::nullopt;
-        if (entry->key == "Kids")
-            glimpse.kind = Kind::Node;
-        else if (entry->key == "Type" && entry->value == "/Pages" && glimpse.kind == Kind::Page)
-            glimpse.kind = Kind::Neither;
-        else if (entry->key == "Count")
-            if (const auto count = wholeInteger(entry->value); count && *count <= INT_MAX)
-                glimpse.count = static_cast<int>(*count);
+        if (value != nullptr)
+            *value = entry->value;
     }
-    return scanner.odd() ? std::nullopt : std::optional(glimpse);
+    if (scanner.odd() || (!kids.empty() && !kids.starts_with('[')) ||
+        (!type.empty() && !type.starts_with('/')))
+        return std::nullopt;
+    const auto number = wholeInteger(count);
+    return Glimpse{!kids.empty()      ? Kind::Node
+                   : type == "/Pages" ? Kind::Neither
+                                      : Kind::Page,
+                   number && *number <= INT_MAX ? std::optional(static_cast<int>(*number)) : std::nullopt};
 }
 
 std::optional<Glimpse> glimpse(Document& document, const Kids& kids, int kid)
@@ -181,6 +194,8 @@ QPDFObjectHandle PageTree::root()
 
 void PageTree::forget()
 {
+    // Counts that were found to lie are not trusted again: the number of pages would change.
+    m_mustWalk = m_mustWalk || m_walked;
     m_walked = false;
     m_nodes.clear();
     m_leaves.clear();
@@ -221,7 +236,7 @@ std::shared_ptr<const KidCounts> PageTree::countsOf(const QPDFObjectHandle& node
 
 std::optional<int> PageTree::trustedCount()
 {
-    if (m_walked || kindOf(m_document, root()) != Kind::Node)
+    if (m_walked || m_mustWalk || kindOf(m_document, root()) != Kind::Node)
         return std::nullopt;
     const std::optional<int> count = statedCount(m_document, root());
     const bool fits = count && *count > smallTree && countsOf(root());
@@ -234,7 +249,7 @@ const PagePath& PageTree::page(int number)
         return m_lastPath;
     if (number < 1 || number > pageCount())
         throw EngineError(ErrorCode::UnknownPage);
-    std::optional<PagePath> path = m_walked ? std::nullopt : descend(number);
+    std::optional<PagePath> path = m_walked || m_mustWalk ? std::nullopt : descend(number);
     if (!path) {
         walk();
         if (static_cast<std::size_t>(number) > m_leaves.size())

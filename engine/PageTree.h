@@ -82,6 +82,7 @@ private:
 
     Document& m_document;
     bool m_walked = false;
+    bool m_mustWalk = false;
     std::vector<Node> m_nodes;
     std::vector<Leaf> m_leaves;
     std::shared_ptr<const KidCounts> m_counts; ///< Of the root.

@@ -17,7 +17,8 @@ constexpr std::array<Class, 256> classes = [] {
     std::array<Class, 256> table{};
     for (const char character : {' ', '\n', '\r', '\t', '\f', '\0'})
         table[static_cast<unsigned char>(character)] = Space;
-    for (const char character : {'(', ')', '<', '>', '[', ']', '{', '}', '/', '%'})
+    // Readers disagree about vertical tabs: nothing that begins with one is accepted.
+    for (const char character : {'(', ')', '<', '>', '[', ']', '{', '}', '/', '%', '\v'})
         table[static_cast<unsigned char>(character)] = Delimiter;
     return table;
 }();
@@ -42,7 +43,8 @@ bool isNumber(std::string_view word)
         digits += isDigit(character) ? 1 : 0;
         points += character == '.' ? 1 : 0;
     }
-    return digits > 0 && points <= 1 && digits + points == word.size();
+    const bool fits = points == 1 || digits <= mostDigits;
+    return digits > 0 && points <= 1 && digits + points == word.size() && fits;
 }
 
 } // namespace
@@ -84,11 +86,11 @@ std::optional<std::int64_t> SyntaxScanner::integer()
     return static_cast<std::int64_t>(value);
 }
 
-/// Skips whole numbers and the last words of references, of which long arrays consist.
-/// \returns whether there was any.
+/// Skips whole numbers and references, of which long arrays consist. \returns whether there was any.
 bool SyntaxScanner::skipReferences()
 {
     const std::size_t before = m_at;
+    int numbers = 0; // since the last reference
     const char* const begin = m_text.data();
     const char* const end = begin + m_text.size();
     const char* next = begin + m_at;
@@ -99,8 +101,13 @@ bool SyntaxScanner::skipReferences()
         const char* const start = next;
         while (next < end && isDigit(*next))
             ++next;
-        if (next == start && next < end && *next == 'R')
+        if (next - start > static_cast<std::ptrdiff_t>(mostDigits))
+            return m_at > before;
+        ++numbers;
+        if (next == start && next < end && *next == 'R' && numbers > 2) {
             ++next;
+            numbers = 0;
+        }
         if (next == start || next == end || isRegular(*next))
             return m_at > before;
     }
@@ -112,7 +119,8 @@ std::optional<SyntaxScanner::Reference> SyntaxScanner::reference()
     skipSpace();
     const auto generation = integer();
     skipSpace();
-    if (!number || *number > INT32_MAX || !generation || *generation > UINT16_MAX || !keyword("R"))
+    if (!number || *number < 1 || *number > INT32_MAX || !generation || *generation > UINT16_MAX ||
+        !keyword("R"))
         return std::nullopt;
     return Reference{static_cast<int>(*number), static_cast<int>(*generation)};
 }
@@ -138,6 +146,9 @@ SyntaxScanner::Outcome SyntaxScanner::skipValue()
                 return Outcome::Odd;
             open.pop_back();
             m_at += first == '>' ? 2 : 1;
+        } else if (first == 'R' && !open.empty()) {
+            // Behind two numbers it is a reference's, and skipped with them.
+            return m_at + 1 < m_text.size() ? Outcome::Odd : Outcome::CutOff;
         } else if (const Outcome outcome = skipToken(); outcome != Outcome::Complete) {
             return outcome;
         }
@@ -200,7 +211,7 @@ SyntaxScanner::Outcome SyntaxScanner::skipWord()
     const std::size_t start = m_at;
     while (!atEnd() && isDigit(m_text[m_at])) // most words are whole numbers
         ++m_at;
-    if (m_at > start && !atEnd() && !isRegular(m_text[m_at]))
+    if (m_at > start && m_at - start <= mostDigits && !atEnd() && !isRegular(m_text[m_at]))
         return Outcome::Complete;
     while (!atEnd() && isRegular(m_text[m_at]))
         ++m_at;
@@ -247,14 +258,17 @@ std::optional<DictionaryScanner::Entry> DictionaryScanner::next()
         return std::nullopt;
     }
     const std::size_t start = m_start;
+    const std::size_t firstEnd = m_end;
     std::size_t end = m_end;
     // A value that is not a name ends where the next key begins; so references need no looking ahead.
     for (advance(); !m_odd && m_start < m_inside.size() && m_inside[m_start] != '/'; advance())
         end = m_end;
-    if (m_odd)
-        return std::nullopt;
     entry.value = m_inside.substr(start, end - start);
-    return entry;
+    if (end != firstEnd) {
+        SyntaxScanner value(entry.value);
+        m_odd = m_odd || !value.reference() || !value.atEnd();
+    }
+    return m_odd ? std::nullopt : std::optional(entry);
 }
 
 std::optional<std::map<std::string_view, std::string_view>> dictionaryEntries(std::string_view text)

@@ -39,7 +39,7 @@ bool isUsualTableEntry(std::string_view text)
 {
     return text.size() == usualEntrySize && areDigits(text.data(), 10) && text[10] == ' ' &&
            areDigits(text.data() + 11, 5) && text[16] == ' ' && (text[17] == 'n' || text[17] == 'f') &&
-           isSpace(text[18]) && isSpace(text[19]);
+           isSpace(text[18]) && (text[19] == '\n' || text[19] == '\r');
 }
 
 TableScanner::TableScanner(const ByteSource& source, std::uint64_t position)

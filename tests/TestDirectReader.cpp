@@ -130,7 +130,9 @@ bool accepted(const std::string& bytes)
     return reader != nullptr && reader->skeleton();
 }
 
-std::string withObjectStreams(const std::string& bytes)
+enum class Packing { Plain, Compressed };
+
+std::string withObjectStreams(const std::string& bytes, Packing packing = Packing::Compressed)
 {
     QPDF pdf;
     pdf.processMemoryFile("", bytes.data(), bytes.size());
@@ -139,6 +141,7 @@ std::string withObjectStreams(const std::string& bytes)
     Pl_String pipeline("", nullptr, out);
     writer.setOutputPipeline(&pipeline);
     writer.setObjectStreamMode(qpdf_o_generate);
+    writer.setQDFMode(packing == Packing::Plain);
     writer.setStaticID(true);
     writer.write();
     return out;
@@ -227,6 +230,26 @@ private slots:
         QTest::newRow("size too small") << with("/Size 6", "/Size 5");
         QTest::newRow("catalog elsewhere") << with("/Root 1 0 R", "/Root 3 0 R");
         QTest::newRow("encrypted") << PdfBuilder().catalog("").pages(1).trailer("/Encrypt << >>").bytes();
+        QTest::newRow("entry without a line end") << with("65535 f \n", "65535 f  ");
+        QTest::newRow("section without entries") << plain + "xref\ntrailer\n<< /Size 6 /Root 1 0 R /Prev " +
+                                                        std::to_string(plain.find("xref\n0")) +
+                                                        " >>\nstartxref\n" + std::to_string(plain.size()) +
+                                                        "\n%%EOF\n";
+        QTest::newRow("entries out of order") << with("xref\n0 6\n", "xref\n5 1\n0000000000 00000 f \n0 6\n");
+        QTest::newRow("two digits behind the version's point")
+            << PdfBuilder().version("1.73").catalog("").pages(3).bytes();
+        const std::string packed = withObjectStreams(manifold(), Packing::Plain);
+        const auto withByte = [&](const char* before, std::size_t skipped, char byte) {
+            std::string changed = packed;
+            const std::size_t found = changed.find("\nstream\n", changed.find(before)) + 8;
+            changed[found + skipped] = byte;
+            return changed;
+        };
+        QTest::newRow("object twice in a stream") << withByte("/ObjStm", 4, '2'); // "2 0 3 ..." before
+        QTest::newRow("entry of an unknown kind") << withByte("/XRef", 0, 3);
+        std::string renamed = packed;
+        renamed[renamed.rfind(" 0 obj", renamed.find("/XRef")) - 1] = '1';
+        QTest::newRow("section under another object's number") << renamed;
         QTest::newRow("section of itself") << with("/Root 1 0 R", "/Root 1 0 R /Prev 0");
     }
 
@@ -234,6 +257,38 @@ private slots:
     {
         QFETCH(std::string, bytes);
         QVERIFY(!accepted(bytes));
+        compare(bytes);
+    }
+
+    void agreesOnOddNodesAndPages_data()
+    {
+        QTest::addColumn<QByteArray>("pages");
+        QTest::addColumn<QByteArray>("page");
+        const QByteArray pages = "<< /Type /Pages /Count 3 /Kids [3 0 R 4 0 R 5 0 R] >>";
+        const QByteArray page = "<< /Type /Page >>";
+        QTest::newRow("kids twice") << QByteArray("<< /Kids [3 0 R] /Count 3 /Kids [3 0 R 4 0 R 5 0 R] >>")
+                                    << page;
+        QTest::newRow("type twice") << pages << QByteArray("<< /Type /Pages /Type /Page >>");
+        QTest::newRow("two values") << pages << QByteArray("<< /Type /Pages 5 >>");
+        QTest::newRow("type elsewhere") << pages << QByteArray("<< /Type 6 0 R /X << /Type /Page >> >>");
+        QTest::newRow("vertical tab") << pages << QByteArray("<< /Type\v/Pages >>");
+        QTest::newRow("large number") << pages << QByteArray("<< /Type /Page /X 99999999999999999999 >>");
+        QTest::newRow("R without numbers") << pages << QByteArray("<< /Type /Page /X [R R R R R R R R] >>");
+    }
+
+    void agreesOnOddNodesAndPages()
+    {
+        QFETCH(QByteArray, pages);
+        QFETCH(QByteArray, page);
+        const std::string bytes = PdfBuilder()
+                                      .catalog("")
+                                      .object(2, pages.toStdString())
+                                      .object(3, "<< /Type /Page >>")
+                                      .object(4, page.toStdString())
+                                      .object(5, "<< /Type /Page >>")
+                                      .object(6, "/Pages")
+                                      .bytes();
+        QVERIFY(accepted(bytes));
         compare(bytes);
     }
 
