@@ -84,13 +84,12 @@ int main(int argc, char** argv)
         return 1;
     }
     // With the file still open a further object only looks up and creates.
-    std::vector<double> open;
-    for (int at = 0; at < constructions; ++at)
-        open.push_back(nanoseconds([&] { Library again(path); }));
+    const auto construct = [&] { return nanoseconds([&] { Library again(path); }); };
+    std::vector<double> open(constructions);
+    std::generate(open.begin(), open.end(), construct);
     first.reset();
-    std::vector<double> closed;
-    for (int at = 0; at < constructions; ++at)
-        closed.push_back(nanoseconds([&] { Library again(path); }));
+    std::vector<double> closed(constructions);
+    std::generate(closed.begin(), closed.end(), construct);
 
     std::printf("construction, first: %.3f ms\n", firstTime / 1e6);
     std::printf("construction and destruction, file already open: %.3f ms\n", median(open) / 1e6);
