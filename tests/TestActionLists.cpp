@@ -1,5 +1,6 @@
 #include "shared/actionutils/CActionUtils.h"
 #include "support/ManualsSettings.h"
+#include "support/Rows.h"
 #include "support/TemporaryHome.h"
 
 #include <QSettings>
@@ -71,29 +72,20 @@ private slots:
 
     void namesTheFileAfterTheList_data()
     {
-        QTest::addColumn<QVariant>("name");
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("sequenceName");
-        QTest::newRow("absent") << QVariant() << "Action.xqq"
-                                << "";
-        QTest::newRow("empty") << QVariant("") << ".xqq"
-                               << "";
-        QTest::newRow("only spaces change") << QVariant("a.b  c") << "a.b__c.xqq"
-                                            << "a.b  c";
-        QTest::newRow("a tab stays") << QVariant("a\tb:*?\\") << "a\tb:*?\\.xqq"
-                                     << "a\tb:*?\\";
-        QTest::newRow("dots") << QVariant("..") << "...xqq"
-                              << "..";
-        QTest::newRow("not Latin") << QVariant(QString::fromUtf8("\xe6\x97\xa5 \xe6\x9c\xac"))
-                                   << QString::fromUtf8("\xe6\x97\xa5_\xe6\x9c\xac.xqq")
-                                   << QString::fromUtf8("\xe6\x97\xa5 \xe6\x9c\xac");
+        const Rows<QVariant, QString, QString> row;
+        row("absent", {}, "Action.xqq", "");
+        row("empty", "", ".xqq", "");
+        row("only spaces change", "a.b  c", "a.b__c.xqq", "a.b  c");
+        row("a tab stays", "a\tb:*?\\", "a\tb:*?\\.xqq", "a\tb:*?\\");
+        row("dots", "..", "...xqq", "..");
+        row("not Latin", QString::fromUtf8("\xe6\x97\xa5 \xe6\x9c\xac"),
+            QString::fromUtf8("\xe6\x97\xa5_\xe6\x9c\xac.xqq"),
+            QString::fromUtf8("\xe6\x97\xa5 \xe6\x9c\xac"));
     }
 
     void namesTheFileAfterTheList()
     {
-        QFETCH(const QVariant, name);
-        QFETCH(const QString, file);
-        QFETCH(const QString, sequenceName);
+        const auto [name, file, sequenceName] = Rows<QVariant, QString, QString>::current();
         Map prefs = request("", true);
         prefs.remove("ActionListName");
         if (name.isValid())
@@ -131,19 +123,17 @@ private slots:
 
     void addsToAList_data()
     {
-        QTest::addColumn<QByteArray>("entries");
-        QTest::addColumn<int>("number");
-        QTest::newRow("at the end") << QByteArray("ActionName0=a\nActionPrefs0=p\nActionName1=b\n") << 2;
-        QTest::newRow("into the gap") << QByteArray("ActionName0=a\nActionName2=b\n") << 1;
-        QTest::newRow("only names count") << QByteArray("ActionPrefs0=p\nactionname0=q\n") << 0;
-        QTest::newRow("an empty name counts") << QByteArray("ActionName0=\n") << 1;
-        QTest::newRow("no leading zeros") << QByteArray("ActionName0=a\nActionName01=b\n") << 1;
+        const Rows<QByteArray, int> row;
+        row("at the end", "ActionName0=a\nActionPrefs0=p\nActionName1=b\n", 2);
+        row("into the gap", "ActionName0=a\nActionName2=b\n", 1);
+        row("only names count", "ActionPrefs0=p\nactionname0=q\n", 0);
+        row("an empty name counts", "ActionName0=\n", 1);
+        row("no leading zeros", "ActionName0=a\nActionName01=b\n", 1);
     }
 
     void addsToAList()
     {
-        QFETCH(const QByteArray, entries);
-        QFETCH(const int, number);
+        const auto [entries, number] = Rows<QByteArray, int>::current();
         const QString path = m_home.actionList("my_list.xqq");
         QVERIFY(writeFile(path, "[General]\nSequenceName=old\nIOSettings=5\n" + entries + "\n[host]\nk=1\n"));
         Map expected = contentOf(path);

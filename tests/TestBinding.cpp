@@ -1,5 +1,6 @@
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "support/Recorder.h"
+#include "support/Rows.h"
 
 #include <QFile>
 #include <QtTest>
@@ -263,15 +264,15 @@ private slots:
 
     void carriesArgumentsAndResults_data()
     {
-        QTest::addColumn<int>("texts");
-        QTest::newRow("texts without NUL") << static_cast<int>(Texts::WithoutNul);
-        QTest::newRow("texts with NUL") << static_cast<int>(Texts::WithNul);
-        QTest::newRow("empty texts") << static_cast<int>(Texts::Empty);
+        const Rows<int> row;
+        row("texts without NUL", static_cast<int>(Texts::WithoutNul));
+        row("texts with NUL", static_cast<int>(Texts::WithNul));
+        row("empty texts", static_cast<int>(Texts::Empty));
     }
 
     void carriesArgumentsAndResults()
     {
-        QFETCH(int, texts);
+        const auto [texts] = Rows<int>::current();
         Recorder recorder;
         Library library(Recorder::path());
         int exercised = 0;
@@ -288,18 +289,16 @@ private slots:
 
     void believesTheReportedLength_data()
     {
-        QTest::addColumn<int>("length");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("nothing although there is a text") << 0 << 0;
-        QTest::newRow("below nothing") << -5 << 0;
-        QTest::newRow("a part of the text") << 2 << 2;
-        QTest::newRow("past the terminator's place") << 4 << 4;
+        const Rows<int, int> row;
+        row("nothing although there is a text", 0, 0);
+        row("below nothing", -5, 0);
+        row("a part of the text", 2, 2);
+        row("past the terminator's place", 4, 4);
     }
 
     void believesTheReportedLength()
     {
-        QFETCH(int, length);
-        QFETCH(int, expected);
+        const auto [length, expected] = Rows<int, int>::current();
         Recorder recorder;
         Library library(Recorder::path());
         recorder.returns("GetInformation", std::wstring(L"a\0cd", 4));
@@ -313,20 +312,16 @@ private slots:
 
     void isNotLoadedWithoutAllFunctions_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("lookUps");
-        QTest::addColumn<int>("closings");
-        QTest::newRow("no such file") << "/nowhere/library.dylib" << 0 << 0;
-        QTest::newRow("not a library") << TEST_DATA_DIR "/operations.txt" << 0 << 0;
-        QTest::newRow("one operation missing") << RECORDER_WITHOUT_OPERATION << 856 << 1;
-        QTest::newRow("one infrastructure function missing") << RECORDER_WITHOUT_INFRASTRUCTURE << 856 << 1;
+        const Rows<QString, int, int> row;
+        row("no such file", "/nowhere/library.dylib", 0, 0);
+        row("not a library", TEST_DATA_DIR "/operations.txt", 0, 0);
+        row("one operation missing", RECORDER_WITHOUT_OPERATION, 856, 1);
+        row("one infrastructure function missing", RECORDER_WITHOUT_INFRASTRUCTURE, 856, 1);
     }
 
     void isNotLoadedWithoutAllFunctions()
     {
-        QFETCH(QString, file);
-        QFETCH(int, lookUps);
-        QFETCH(int, closings);
+        const auto [file, lookUps, closings] = Rows<QString, int, int>::current();
         std::optional<Recorder> recorder;
         if (lookUps > 0)
             recorder.emplace(qPrintable(file));
@@ -348,20 +343,19 @@ private slots:
 
     void releasesOnlyAnInstanceAboveZero_data()
     {
-        QTest::addColumn<int>("instance");
-        QTest::addColumn<QStringList>("calls");
-        QTest::newRow("none") << 0 << QStringList{"CreateLibrary()"};
-        QTest::newRow("negative") << -1 << QStringList{"CreateLibrary()"};
-        QTest::newRow("one") << 1 << QStringList{"CreateLibrary()", "ReleaseLibrary() of instance 1"};
+        const Rows<int, QStringList> row;
+        row("none", 0, {"CreateLibrary()"});
+        row("negative", -1, {"CreateLibrary()"});
+        row("one", 1, {"CreateLibrary()", "ReleaseLibrary() of instance 1"});
     }
 
     void releasesOnlyAnInstanceAboveZero()
     {
-        QFETCH(int, instance);
+        const auto [instance, calls] = Rows<int, QStringList>::current();
         Recorder recorder;
         recorder.returns("CreateLibrary", instance);
         QVERIFY(Library(Recorder::path()).LibraryLoaded());
-        QTEST(recorder.takeLog(), "calls");
+        QCOMPARE(recorder.takeLog(), calls);
     }
 
     void narrowsThePathToLowBytes()

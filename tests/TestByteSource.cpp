@@ -1,7 +1,8 @@
 #include "engine/ByteSource.h"
 #include "engine/DocumentTail.h"
-#include "engine/EngineError.h"
 #include "engine/SourceInput.h"
+#include "support/EngineErrors.h"
+#include "support/Rows.h"
 
 #include <QtTest>
 
@@ -16,12 +17,7 @@ namespace {
 
 ErrorCode openingError(const QString& path)
 {
-    try {
-        ByteSource::openFile(path.toStdString());
-        return ErrorCode::None;
-    } catch (const EngineError& error) {
-        return error.code();
-    }
+    return errorOf([&path] { ByteSource::openFile(path.toStdString()); });
 }
 
 void writeFile(const QString& path, const QByteArray& bytes)
@@ -72,26 +68,22 @@ private slots:
 
     void findsTheLastTail_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<qlonglong>("number");
-        QTest::addColumn<int>("behindEnd");
+        const Rows<QByteArray, qlonglong, int> row;
         const QByteArray tail = "startxref\n116\n%%EOF";
-        QTest::newRow("usual") << "%PDF-1.4\n" + tail + "\n" << 116LL << 1;
-        QTest::newRow("carriage returns") << QByteArray("x\rstartxref\r9\r%%EOF\r") << 9LL << 1;
-        QTest::newRow("no marker") << QByteArray("x startxref 7\n") << 7LL << 1;
-        QTest::newRow("the last of two") << tail + "\nstartxref\n5\n%%EOF" << 5LL << 0;
-        QTest::newRow("last without number") << tail + "\nstartxref\nnone" << 116LL << 15;
-        QTest::newRow("far back") << tail + QByteArray(300000, 'z') << 116LL << 300000;
-        QTest::newRow("across a step") << tail + QByteArray(2048 - 14, 'z') << 116LL << 2048 - 14;
-        QTest::newRow("none") << QByteArray(70000, 'z') << -1LL << 0;
-        QTest::newRow("number too large") << QByteArray("startxref 99999999999999999999") << -1LL << 0;
+        row("usual", "%PDF-1.4\n" + tail + "\n", 116LL, 1);
+        row("carriage returns", "x\rstartxref\r9\r%%EOF\r", 9LL, 1);
+        row("no marker", "x startxref 7\n", 7LL, 1);
+        row("the last of two", tail + "\nstartxref\n5\n%%EOF", 5LL, 0);
+        row("last without number", tail + "\nstartxref\nnone", 116LL, 15);
+        row("far back", tail + QByteArray(300000, 'z'), 116LL, 300000);
+        row("across a step", tail + QByteArray(2048 - 14, 'z'), 116LL, 2048 - 14);
+        row("none", QByteArray(70000, 'z'), -1LL, 0);
+        row("number too large", "startxref 99999999999999999999", -1LL, 0);
     }
 
     void findsTheLastTail()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(qlonglong, number);
-        QFETCH(int, behindEnd);
+        const auto [text, number, behindEnd] = Rows<QByteArray, qlonglong, int>::current();
         const auto source = ByteSource::fromBytes(text.toStdString());
         const auto tail = findDocumentTail(*source);
         QCOMPARE(tail.has_value(), number >= 0);

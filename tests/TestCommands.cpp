@@ -1,4 +1,5 @@
 #include "CActionUtils.h"
+#include "support/Rows.h"
 
 #include <QtTest>
 
@@ -20,32 +21,25 @@ private slots:
     // One keyword of each group, at its place in the table.
     void findsKeywords_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("number");
-        QTest::newRow("first") << "SplitIfTextIsPresent" << 0;
-        QTest::newRow("split") << "splitifthistextrepeats" << 6;
-        QTest::newRow("header") << "skipheader" << 7;
-        QTest::newRow("provide") << "providefilenameafterstringinbox" << 15;
-        QTest::newRow("add") << "addtofilename" << 16;
-        QTest::newRow("list") << "getfilenamesfromlistinfile" << 22;
-        QTest::newRow("include") << "includeall" << 23;
-        QTest::newRow("exclude, in its own spelling") << "excludeifnotextcontainted" << 31;
-        QTest::newRow("extract") << "extractfilename" << 32;
-        QTest::newRow("rectangle") << "extracttextlineafterstringinrect" << 41;
-        QTest::newRow("last") << "FILLINFODICTENTRY" << 42;
-        QTest::newRow("the Kelvin sign is a capital k") << QString("s%1ipheader").arg(QChar(0x212a)) << 7;
-        QTest::newRow("empty") << "" << -1;
-        QTest::newRow("space before") << " includeall" << -1;
-        QTest::newRow("space after") << "includeall " << -1;
-        QTest::newRow("part of a keyword") << "include" << -1;
-        QTest::newRow("another letter") << "includeell" << -1;
-        QTest::newRow("a dotless i stays as it is") << QString("%1ncludeall").arg(QChar(0x131)) << -1;
+        const Rows<QString, int> row;
+        row("first", "SplitIfTextIsPresent", 0);
+        row("split", "splitifthistextrepeats", 6);
+        row("provide", "providefilenameafterstringinbox", 15);
+        row("exclude, in its own spelling", "excludeifnotextcontainted", 31);
+        row("rectangle", "extracttextlineafterstringinrect", 41);
+        row("last", "FILLINFODICTENTRY", 42);
+        row("the Kelvin sign is a capital k", QString("s%1ipheader").arg(QChar(0x212a)), 7);
+        row("empty", "", -1);
+        row("space before", " includeall", -1);
+        row("part of a keyword", "include", -1);
+        row("another letter", "includeell", -1);
+        row("a dotless i stays as it is", QString("%1ncludeall").arg(QChar(0x131)), -1);
     }
 
     void findsKeywords()
     {
-        QFETCH(QString, name);
-        QTEST(CActionUtils::SplitComGetCommandIndex(name), "number");
+        const auto [name, number] = Rows<QString, int>::current();
+        QCOMPARE(CActionUtils::SplitComGetCommandIndex(name), number);
     }
 
     void answersUnknownNumbers()

@@ -1,5 +1,4 @@
 #include "EditInitialView/InitialViewSettings.h"
-#include "host/UsageError.h"
 #include "host/cli/ConfigureCommand.h"
 #include "support/CommandRun.h"
 #include "support/ManualsSettings.h"
@@ -7,7 +6,9 @@
 #include "support/PdfBuilder.h"
 #include "support/Person.h"
 #include "support/ProgramRun.h"
+#include "support/Rows.h"
 #include "support/TemporaryHome.h"
+#include "support/UsageErrors.h"
 
 #include <QComboBox>
 #include <QImage>
@@ -18,6 +19,8 @@
 #include <unistd.h>
 
 using host::ConfigureCommand;
+using person::pressCancel;
+using person::pressOk;
 using namespace initialview;
 
 namespace {
@@ -31,16 +34,6 @@ const char manualsWords[] =
     "--set HideToobarsCheckBox=false --set HideMenuBarCheckBox=false --set HideCtrlWindowsCheckBox=false "
     "--set ResizeWinToInitPageCheckBox=true --set CenterWinOnScreenCheckBox=true "
     "--set OpenInFullScreenCheckBox=false --set ShowComboBox=1\n";
-
-void pressOk(QDialog& dialog)
-{
-    person::click(dialog, "okButton");
-}
-
-void pressCancel(QDialog& dialog)
-{
-    person::click(dialog, "cancelButton");
-}
 
 CommandRun configure(const QStringList& words, const person::Answer& answer)
 {
@@ -60,28 +53,15 @@ Map without(Map map, const QString& key)
     return map;
 }
 
-/// The user's terminal where no window can be shown.
-class NoDisplay
+/// The program on a terminal where no window can be shown.
+ProgramRun configureWithoutDisplay(const QStringList& words, const QString& folder = QString())
 {
-public:
-    NoDisplay()
-    {
-        for (std::size_t i = 0; i < m_names.size(); ++i) {
-            m_values[i] = qgetenv(m_names[i]);
-            qunsetenv(m_names[i]);
-        }
-    }
-    ~NoDisplay()
-    {
-        for (std::size_t i = 0; i < m_names.size(); ++i)
-            if (!m_values[i].isNull())
-                qputenv(m_names[i], m_values[i]);
-    }
-
-private:
-    std::array<const char*, 3> m_names{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
-    std::array<QByteArray, 3> m_values;
-};
+    return ProgramRun("env",
+                      QStringList{"-u", "DISPLAY", "-u", "WAYLAND_DISPLAY", "-u", "QT_QPA_PLATFORM",
+                                  PROGRAM_FILE, "configure"} +
+                          words,
+                      folder);
+}
 
 } // namespace
 
@@ -91,22 +71,230 @@ class TestConfigure : public QObject
 
 private slots:
     void initTestCase() { muteFrameWarnings(); }
-    void init();
-    void startsAsTheDocumentOpens();
-    void startsFromAFile_data();
-    void startsFromAFile();
-    void prefersTheFileToTheDocument();
-    void leavesOutWhatIsNotChosen();
-    void doesNothingOnCancel();
-    void writesEachKindOfFile();
-    void changesOneEntryOfAList();
-    void changesAFavouriteButNotItsIcon();
-    void keepsLinksAndPermissions();
-    void takesOutputNamesOfAnyBytes();
-    void tellsWhenItCannotWrite();
-    void refusesWithoutADisplay_data();
-    void refusesWithoutADisplay();
-    void helpsWithoutADisplay();
+
+    void init()
+    {
+        m_home.reset();
+        const std::string view =
+            "/PageMode /UseThumbs /PageLayout /TwoPageRight /OpenAction [ 4 0 R /FitH 792 ] "
+            "/ViewerPreferences << /HideMenubar true /CenterWindow true >>";
+        QVERIFY(writeFile(path("a.pdf"), QByteArray::fromStdString(PdfBuilder::simple(view))));
+    }
+
+    void startsAsTheDocumentOpens()
+    {
+        const CommandRun run = configure({path("a.pdf")}, pressOk);
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.out, QByteArray("--set LayoutAndMagnCheckBox=true --set NavigationTabComboBox=2 "
+                                     "--set PageLayoutComboBox=5 --set MagnificationComboBox=2 "
+                                     "--set OpenToPageSpinBox=2 --set ViewerPrefsCheckBox=true "
+                                     "--set HideToobarsCheckBox=false --set HideMenuBarCheckBox=true "
+                                     "--set HideCtrlWindowsCheckBox=false "
+                                     "--set ResizeWinToInitPageCheckBox=false "
+                                     "--set CenterWinOnScreenCheckBox=true "
+                                     "--set OpenInFullScreenCheckBox=false --set ShowComboBox=0\n"));
+    }
+
+    void startsFromAFile_data()
+    {
+        const Rows<QStringList> row;
+        row("action list", {"--list", data + "/manuals.xqq"});
+        row("favourite", {"--favorite", data + "/manuals.ini"});
+        row("tool settings", {"--tool-settings", data + "/manuals.tsf"});
+        row("action list by name", {"--list", "manuals"});
+        row("favourite by name", {"--favorite", "manuals"});
+    }
+
+    void startsFromAFile()
+    {
+        const auto [words] = Rows<QStringList>::current();
+        QVERIFY(QFile::copy(data + "/manuals.xqq", TemporaryHome::actionList("manuals.xqq")));
+        QVERIFY(QFile::copy(data + "/manuals.ini", TemporaryHome::favorite("manuals.ini")));
+        const CommandRun run = configure(words, pressOk);
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.out, QByteArray(manualsWords));
+    }
+
+    void prefersTheFileToTheDocument()
+    {
+        const CommandRun run = configure({path("a.pdf"), "--tool-settings", data + "/manuals.tsf"}, pressOk);
+        QCOMPARE(run.out, QByteArray(manualsWords));
+    }
+
+    void leavesOutWhatIsNotChosen()
+    {
+        const CommandRun run = configure({path("a.pdf")}, [](QDialog& dialog) {
+            person::widget<QComboBox>(dialog, "PageLayoutComboBox")->setCurrentIndex(-1);
+            pressOk(dialog);
+        });
+        QCOMPARE(run.status, 0);
+        QVERIFY2(!run.out.contains("PageLayout") && run.out.count("--set ") == 12, run.out);
+        QVERIFY2(run.err.contains("PageLayoutComboBox is left out"), run.err);
+    }
+
+    void doesNothingOnCancel()
+    {
+        for (const char* file : {"out.tsf", "out.ini"}) {
+            const bool exists = writeFile(path("out.ini"), "old");
+            const CommandRun run = configure({path("a.pdf"), "-o", path(file)}, pressCancel);
+            QCOMPARE(run.status, 1);
+            QCOMPARE(run.out, QByteArray());
+            QVERIFY2(run.err.contains("no settings were written"), run.err);
+            QVERIFY(exists && bytesOf(path("out.ini")) == "old" && !QFile::exists(path("out.tsf")));
+        }
+        QCOMPARE(configure({}, pressCancel).err,
+                 QByteArray("quintar: the window was closed without OK: no settings were printed\n"));
+    }
+
+    void writesEachKindOfFile()
+    {
+        const Map settings = with(manualsSettings(), key::OpenToPage, 3);
+        QVERIFY(writeFile(path("My_list.xqq"), "[General]\nold=1\n"));
+        for (const char* file : {"My_list.xqq", "favourite.ini", "tool.tsf"}) {
+            const CommandRun run =
+                configure({"--tool-settings", data + "/manuals.tsf", "-o", path(file)}, [](QDialog& dialog) {
+                    person::widget<QSpinBox>(dialog, "OpenToPageSpinBox")->setValue(3);
+                    pressOk(dialog);
+                });
+            QCOMPARE(run.err, QByteArray());
+            QCOMPARE(run.out, QByteArray());
+            QCOMPARE(run.status, 0);
+        }
+        QCOMPARE(QSettings(path("My_list.xqq"), QSettings::IniFormat).allKeys(),
+                 QSettings(data + "/manuals.xqq", QSettings::IniFormat).allKeys());
+        QCOMPARE(stored("My_list.xqq", "SequenceName"), QVariant("My_list"));
+        QCOMPARE(stored("My_list.xqq", "ActionName0"), QVariant("Initial View"));
+        QCOMPARE(stored("My_list.xqq", "ActionPrefs0").toMap(), without(settings, key::ActionName));
+        QCOMPARE(stored("favourite.ini", "ActionPrefs").toMap(),
+                 with(settings, "CollectionName", "favourite"));
+        const auto icon = stored("favourite.ini", "ActionIcon").value<QImage>();
+        QCOMPARE(icon.size(), QSize(42, 42));
+        QVERIFY(icon.pixelColor(21, 21) != icon.pixelColor(0, 0));
+        QCOMPARE(QSettings(path("tool.tsf"), QSettings::IniFormat).allKeys(), QStringList{"ToolSettings"});
+        QCOMPARE(stored("tool.tsf", "ToolSettings").toMap(), settings);
+    }
+
+    void changesOneEntryOfAList()
+    {
+        const QString file = path("several.xqq");
+        {
+            QSettings list(file, QSettings::IniFormat);
+            list.setValue("SequenceName", "Several");
+            for (const int number : {0, 2, 5}) {
+                list.setValue(QString("ActionName%1").arg(number),
+                              number == 2 ? "Watermark" : "Initial View");
+                list.setValue(QString("ActionPrefs%1").arg(number), with({}, key::OpenToPage, 10 + number));
+            }
+        }
+        const auto refused = [](const QStringList& words) {
+            const auto call = [&words] { CommandRun(ConfigureCommand(), words); };
+            return QByteArray::fromStdString(refusalOf(call));
+        };
+        QVERIFY(refused({"--list", file}).contains("several entries"));
+        QVERIFY(refused({"--list", file, "--entry", "2"}).contains("in place 2"));
+        QVERIFY(refused({"--list", file, "--entry", "4"}).contains("in place 4"));
+
+        const CommandRun run = configure({"--list", file, "--entry", "3", "-o", file}, [](QDialog& dialog) {
+            auto* page = person::widget<QSpinBox>(dialog, "OpenToPageSpinBox");
+            QCOMPARE(page->value(), 15);
+            page->setValue(77);
+            pressOk(dialog);
+        });
+        QCOMPARE(run.status, 0);
+        QCOMPARE(stored("several.xqq", "ActionPrefs5").toMap().value(key::OpenToPage), QVariant(77));
+        QCOMPARE(stored("several.xqq", "ActionPrefs0").toMap(), with({}, key::OpenToPage, 10));
+        QCOMPARE(stored("several.xqq", "ActionPrefs2").toMap(), with({}, key::OpenToPage, 12));
+        QCOMPARE(stored("several.xqq", "ActionName2"), QVariant("Watermark"));
+        QCOMPARE(stored("several.xqq", "SequenceName"), QVariant("Several"));
+    }
+
+    void changesAFavouriteButNotItsIcon()
+    {
+        QImage red(42, 42, QImage::Format_ARGB32);
+        red.fill(Qt::red);
+        {
+            QSettings favourite(path("f.ini"), QSettings::IniFormat);
+            favourite.setValue("ActionPrefs", with(manualsSettings(), "CollectionName", "Its name"));
+            favourite.setValue("ActionIcon", red);
+        }
+        QCOMPARE(configure({"--favorite", path("f.ini"), "-o", path("f.ini")}, pressOk).status, 0);
+        QCOMPARE(stored("f.ini", "ActionPrefs").toMap().value("CollectionName"), QVariant("Its name"));
+        QCOMPARE(stored("f.ini", "ActionIcon").value<QImage>().pixelColor(5, 5), QColor(Qt::red));
+    }
+
+    void keepsLinksAndPermissions()
+    {
+        QVERIFY(writeFile(path("real.tsf"), ""));
+        QCOMPARE(chmod(qPrintable(path("real.tsf")), 0604), 0);
+        QCOMPARE(symlink("real.tsf", qPrintable(path("link.tsf"))), 0);
+        QCOMPARE(configure({"-o", path("link.tsf")}, pressOk).status, 0);
+        QVERIFY(QFileInfo(path("link.tsf")).isSymLink());
+        QVERIFY(!stored("real.tsf", "ToolSettings").toMap().isEmpty());
+        struct stat status = {};
+        QCOMPARE(stat(qPrintable(path("real.tsf")), &status), 0);
+        QCOMPARE(status.st_mode & 07777, mode_t(0604));
+    }
+
+    void takesOutputNamesOfAnyBytes()
+    {
+        const std::string name = path("odd\n").toStdString() + "\xff.tsf";
+        std::string arguments[] = {"configure", "-o", name};
+        char* words[] = {arguments[0].data(), arguments[1].data(), arguments[2].data(), nullptr};
+        person::whenOpens("CPrefsDialog", pressOk);
+        QCOMPARE(ConfigureCommand().run(3, words), 0);
+        QCOMPARE(access(name.c_str(), R_OK), 0);
+        unlink(name.c_str());
+    }
+
+    void tellsWhenItCannotWrite()
+    {
+        QVERIFY(QDir().mkpath(path("folder")));
+        const CommandRun run = configure({"-o", path("folder/out.tsf")}, [this](QDialog& dialog) {
+            QDir(path("folder")).removeRecursively();
+            pressOk(dialog);
+        });
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.err.contains("folder/out.tsf: cannot be written: no such file"), run.err);
+    }
+
+    void refusesWithoutADisplay_data()
+    {
+        const Rows<QStringList, QByteArray> row;
+        row("no display", {}, "a window cannot be shown here: ");
+        row("no display for a document", {"a.pdf"}, "a window cannot be shown here: ");
+        row("other suffix", {"-o", "out.txt"}, "-o takes a file that ends in .xqq (action list)");
+        row("no suffix", {"-o", "tsf"}, "-o takes a file that ends in");
+        row("missing folder", {"-o", "none/out.tsf"},
+            "none/out.tsf cannot be written: no such file or directory");
+        row("a folder", {"-o", "folder.tsf"}, "folder.tsf cannot be written: it is not a regular file");
+        row("two outputs", {"-o", "a.tsf", "-o", "b.tsf"}, "-o is given twice");
+        row("two documents", {"a.pdf", "b.pdf"}, "configure takes one document, not 2");
+        row("two files", {"--list", "a", "--favorite", "b"}, "settings come from one file");
+        row("entry of no list", {"--entry", "1"}, "--entry goes with --list");
+        row("missing document", {"b.pdf"}, "b.pdf: no such file or folder");
+        row("not a document", {"text"}, "text: ");
+        row("missing settings", {"--tool-settings", "b.tsf"}, "b.tsf: no such file or directory");
+        row("unknown list", {"--list", "b"}, "b: no such file, and no action list in ");
+    }
+
+    void refusesWithoutADisplay()
+    {
+        const auto [words, reason] = Rows<QStringList, QByteArray>::current();
+        QVERIFY(writeFile(path("text"), "text") && QDir().mkpath(path("folder.tsf")));
+        const ProgramRun run = configureWithoutDisplay(words, m_home.filePath(""));
+        QCOMPARE(run.status, 2);
+        QCOMPARE(run.out, QByteArray());
+        QVERIFY2(run.err.startsWith("quintar: " + reason), run.err);
+    }
+
+    void helpsWithoutADisplay()
+    {
+        const ProgramRun run = configureWithoutDisplay({"--help"});
+        QCOMPARE(run.status, 0);
+        QVERIFY(run.out.startsWith("Usage: quintar configure"));
+    }
 
 private:
     QString path(const QString& name) const { return m_home.filePath(name); }
@@ -117,238 +305,6 @@ private:
 
     TemporaryHome m_home;
 };
-
-void TestConfigure::init()
-{
-    m_home.reset();
-    const std::string view = "/PageMode /UseThumbs /PageLayout /TwoPageRight /OpenAction [ 4 0 R /FitH 792 ] "
-                             "/ViewerPreferences << /HideMenubar true /CenterWindow true >>";
-    QVERIFY(writeFile(path("a.pdf"), QByteArray::fromStdString(PdfBuilder::simple(view))));
-}
-
-void TestConfigure::startsAsTheDocumentOpens()
-{
-    const CommandRun run = configure({path("a.pdf")}, pressOk);
-    QCOMPARE(run.err, QByteArray());
-    QCOMPARE(run.status, 0);
-    QCOMPARE(run.out, QByteArray("--set LayoutAndMagnCheckBox=true --set NavigationTabComboBox=2 "
-                                 "--set PageLayoutComboBox=5 --set MagnificationComboBox=2 "
-                                 "--set OpenToPageSpinBox=2 --set ViewerPrefsCheckBox=true "
-                                 "--set HideToobarsCheckBox=false --set HideMenuBarCheckBox=true "
-                                 "--set HideCtrlWindowsCheckBox=false "
-                                 "--set ResizeWinToInitPageCheckBox=false "
-                                 "--set CenterWinOnScreenCheckBox=true "
-                                 "--set OpenInFullScreenCheckBox=false --set ShowComboBox=0\n"));
-}
-
-void TestConfigure::startsFromAFile_data()
-{
-    QTest::addColumn<QStringList>("words");
-    QTest::newRow("action list") << QStringList{"--list", data + "/manuals.xqq"};
-    QTest::newRow("favourite") << QStringList{"--favorite", data + "/manuals.ini"};
-    QTest::newRow("tool settings") << QStringList{"--tool-settings", data + "/manuals.tsf"};
-    QTest::newRow("action list by name") << QStringList{"--list", "manuals"};
-    QTest::newRow("favourite by name") << QStringList{"--favorite", "manuals"};
-}
-
-void TestConfigure::startsFromAFile()
-{
-    QFETCH(QStringList, words);
-    QVERIFY(QFile::copy(data + "/manuals.xqq", TemporaryHome::actionList("manuals.xqq")));
-    QVERIFY(QFile::copy(data + "/manuals.ini", TemporaryHome::favorite("manuals.ini")));
-    const CommandRun run = configure(words, pressOk);
-    QCOMPARE(run.err, QByteArray());
-    QCOMPARE(run.status, 0);
-    QCOMPARE(run.out, QByteArray(manualsWords));
-}
-
-void TestConfigure::prefersTheFileToTheDocument()
-{
-    const CommandRun run = configure({path("a.pdf"), "--tool-settings", data + "/manuals.tsf"}, pressOk);
-    QCOMPARE(run.out, QByteArray(manualsWords));
-}
-
-void TestConfigure::leavesOutWhatIsNotChosen()
-{
-    const CommandRun run = configure({path("a.pdf")}, [](QDialog& dialog) {
-        person::widget<QComboBox>(dialog, "PageLayoutComboBox")->setCurrentIndex(-1);
-        pressOk(dialog);
-    });
-    QCOMPARE(run.status, 0);
-    QVERIFY2(!run.out.contains("PageLayout") && run.out.count("--set ") == 12, run.out);
-    QVERIFY2(run.err.contains("PageLayoutComboBox is left out"), run.err);
-}
-
-void TestConfigure::doesNothingOnCancel()
-{
-    for (const char* file : {"out.tsf", "out.ini"}) {
-        const bool exists = writeFile(path("out.ini"), "old");
-        const CommandRun run = configure({path("a.pdf"), "-o", path(file)}, pressCancel);
-        QCOMPARE(run.status, 1);
-        QCOMPARE(run.out, QByteArray());
-        QVERIFY2(run.err.contains("no settings were written"), run.err);
-        QVERIFY(exists && bytesOf(path("out.ini")) == "old" && !QFile::exists(path("out.tsf")));
-    }
-    QCOMPARE(configure({}, pressCancel).err,
-             QByteArray("quintar: the window was closed without OK: no settings were printed\n"));
-}
-
-void TestConfigure::writesEachKindOfFile()
-{
-    const Map settings = with(manualsSettings(), key::OpenToPage, 3);
-    QVERIFY(writeFile(path("My_list.xqq"), "[General]\nold=1\n"));
-    for (const char* file : {"My_list.xqq", "favourite.ini", "tool.tsf"}) {
-        const CommandRun run =
-            configure({"--tool-settings", data + "/manuals.tsf", "-o", path(file)}, [](QDialog& dialog) {
-                person::widget<QSpinBox>(dialog, "OpenToPageSpinBox")->setValue(3);
-                pressOk(dialog);
-            });
-        QCOMPARE(run.err, QByteArray());
-        QCOMPARE(run.out, QByteArray());
-        QCOMPARE(run.status, 0);
-    }
-    QCOMPARE(QSettings(path("My_list.xqq"), QSettings::IniFormat).allKeys(),
-             QSettings(data + "/manuals.xqq", QSettings::IniFormat).allKeys());
-    QCOMPARE(stored("My_list.xqq", "SequenceName"), QVariant("My_list"));
-    QCOMPARE(stored("My_list.xqq", "ActionName0"), QVariant("Initial View"));
-    QCOMPARE(stored("My_list.xqq", "ActionPrefs0").toMap(), without(settings, key::ActionName));
-    QCOMPARE(stored("favourite.ini", "ActionPrefs").toMap(), with(settings, "CollectionName", "favourite"));
-    const auto icon = stored("favourite.ini", "ActionIcon").value<QImage>();
-    QCOMPARE(icon.size(), QSize(42, 42));
-    QVERIFY(icon.pixelColor(21, 21) != icon.pixelColor(0, 0));
-    QCOMPARE(QSettings(path("tool.tsf"), QSettings::IniFormat).allKeys(), QStringList{"ToolSettings"});
-    QCOMPARE(stored("tool.tsf", "ToolSettings").toMap(), settings);
-}
-
-void TestConfigure::changesOneEntryOfAList()
-{
-    const QString file = path("several.xqq");
-    {
-        QSettings list(file, QSettings::IniFormat);
-        list.setValue("SequenceName", "Several");
-        for (const int number : {0, 2, 5}) {
-            list.setValue(QString("ActionName%1").arg(number), number == 2 ? "Watermark" : "Initial View");
-            list.setValue(QString("ActionPrefs%1").arg(number), with({}, key::OpenToPage, 10 + number));
-        }
-    }
-    const auto refused = [&](const QStringList& words) {
-        try {
-            CommandRun(ConfigureCommand(), words);
-        } catch (const host::UsageError& error) {
-            return QByteArray(error.what());
-        }
-        return QByteArray();
-    };
-    QVERIFY(refused({"--list", file}).contains("several entries"));
-    QVERIFY(refused({"--list", file, "--entry", "2"}).contains("in place 2"));
-    QVERIFY(refused({"--list", file, "--entry", "4"}).contains("in place 4"));
-
-    const CommandRun run = configure({"--list", file, "--entry", "3", "-o", file}, [](QDialog& dialog) {
-        auto* page = person::widget<QSpinBox>(dialog, "OpenToPageSpinBox");
-        QCOMPARE(page->value(), 15);
-        page->setValue(77);
-        pressOk(dialog);
-    });
-    QCOMPARE(run.status, 0);
-    QCOMPARE(stored("several.xqq", "ActionPrefs5").toMap().value(key::OpenToPage), QVariant(77));
-    QCOMPARE(stored("several.xqq", "ActionPrefs0").toMap(), with({}, key::OpenToPage, 10));
-    QCOMPARE(stored("several.xqq", "ActionPrefs2").toMap(), with({}, key::OpenToPage, 12));
-    QCOMPARE(stored("several.xqq", "ActionName2"), QVariant("Watermark"));
-    QCOMPARE(stored("several.xqq", "SequenceName"), QVariant("Several"));
-}
-
-void TestConfigure::changesAFavouriteButNotItsIcon()
-{
-    QImage red(42, 42, QImage::Format_ARGB32);
-    red.fill(Qt::red);
-    {
-        QSettings favourite(path("f.ini"), QSettings::IniFormat);
-        favourite.setValue("ActionPrefs", with(manualsSettings(), "CollectionName", "Its name"));
-        favourite.setValue("ActionIcon", red);
-    }
-    QCOMPARE(configure({"--favorite", path("f.ini"), "-o", path("f.ini")}, pressOk).status, 0);
-    QCOMPARE(stored("f.ini", "ActionPrefs").toMap().value("CollectionName"), QVariant("Its name"));
-    QCOMPARE(stored("f.ini", "ActionIcon").value<QImage>().pixelColor(5, 5), QColor(Qt::red));
-}
-
-void TestConfigure::keepsLinksAndPermissions()
-{
-    QVERIFY(writeFile(path("real.tsf"), ""));
-    QCOMPARE(chmod(qPrintable(path("real.tsf")), 0604), 0);
-    QCOMPARE(symlink("real.tsf", qPrintable(path("link.tsf"))), 0);
-    QCOMPARE(configure({"-o", path("link.tsf")}, pressOk).status, 0);
-    QVERIFY(QFileInfo(path("link.tsf")).isSymLink());
-    QVERIFY(!stored("real.tsf", "ToolSettings").toMap().isEmpty());
-    struct stat status = {};
-    QCOMPARE(stat(qPrintable(path("real.tsf")), &status), 0);
-    QCOMPARE(status.st_mode & 07777, mode_t(0604));
-}
-
-void TestConfigure::takesOutputNamesOfAnyBytes()
-{
-    const std::string name = path("odd\n").toStdString() + "\xff.tsf";
-    std::string arguments[] = {"configure", "-o", name};
-    char* words[] = {arguments[0].data(), arguments[1].data(), arguments[2].data(), nullptr};
-    person::whenOpens("CPrefsDialog", pressOk);
-    QCOMPARE(ConfigureCommand().run(3, words), 0);
-    QCOMPARE(access(name.c_str(), R_OK), 0);
-    unlink(name.c_str());
-}
-
-void TestConfigure::tellsWhenItCannotWrite()
-{
-    QVERIFY(QDir().mkpath(path("folder")));
-    const CommandRun run = configure({"-o", path("folder/out.tsf")}, [this](QDialog& dialog) {
-        QDir(path("folder")).removeRecursively();
-        pressOk(dialog);
-    });
-    QCOMPARE(run.status, 1);
-    QVERIFY2(run.err.contains("folder/out.tsf: cannot be written: no such file"), run.err);
-}
-
-void TestConfigure::refusesWithoutADisplay_data()
-{
-    QTest::addColumn<QStringList>("words");
-    QTest::addColumn<QByteArray>("reason");
-    const auto row = [](const char* name, const QStringList& words, const char* reason) {
-        QTest::newRow(name) << words << QByteArray(reason);
-    };
-    row("no display", {}, "a window cannot be shown here: ");
-    row("no display for a document", {"a.pdf"}, "a window cannot be shown here: ");
-    row("other suffix", {"-o", "out.txt"}, "-o takes a file that ends in .xqq (action list)");
-    row("no suffix", {"-o", "tsf"}, "-o takes a file that ends in");
-    row("missing folder", {"-o", "none/out.tsf"},
-        "none/out.tsf cannot be written: no such file or directory");
-    row("a folder", {"-o", "folder.tsf"}, "folder.tsf cannot be written: it is not a regular file");
-    row("two outputs", {"-o", "a.tsf", "-o", "b.tsf"}, "-o is given twice");
-    row("two documents", {"a.pdf", "b.pdf"}, "configure takes one document, not 2");
-    row("two files", {"--list", "a", "--favorite", "b"}, "settings come from one file");
-    row("entry of no list", {"--entry", "1"}, "--entry goes with --list");
-    row("missing document", {"b.pdf"}, "b.pdf: no such file or folder");
-    row("not a document", {"text"}, "text: ");
-    row("missing settings", {"--tool-settings", "b.tsf"}, "b.tsf: no such file or directory");
-    row("unknown list", {"--list", "b"}, "b: no such file, and no action list in ");
-}
-
-void TestConfigure::refusesWithoutADisplay()
-{
-    QFETCH(QStringList, words);
-    QFETCH(QByteArray, reason);
-    QVERIFY(writeFile(path("text"), "text") && QDir().mkpath(path("folder.tsf")));
-    const NoDisplay noDisplay;
-    const ProgramRun run(PROGRAM_FILE, QStringList{"configure"} + words, m_home.filePath(""));
-    QCOMPARE(run.status, 2);
-    QCOMPARE(run.out, QByteArray());
-    QVERIFY2(run.err.startsWith("quintar: " + reason), run.err);
-}
-
-void TestConfigure::helpsWithoutADisplay()
-{
-    const NoDisplay noDisplay;
-    const ProgramRun run(PROGRAM_FILE, {"configure", "--help"});
-    QCOMPARE(run.status, 0);
-    QVERIFY(run.out.startsWith("Usage: quintar configure"));
-}
 
 QTEST_MAIN(TestConfigure)
 #include "TestConfigure.moc"

@@ -5,14 +5,17 @@
 #include "shared/CUtils.h"
 
 #include "support/Mute.h"
+#include "support/Person.h"
 #include "support/Recorder.h"
+#include "support/Rows.h"
 
-#include <QTimer>
 #include <QtTest>
 
 #include <functional>
 
 using namespace initialview;
+using person::pressCancel;
+using person::pressOk;
 
 namespace {
 
@@ -33,16 +36,6 @@ QStringList itemsOf(const QComboBox* list)
     for (int row = 0; row < list->count(); ++row)
         items << list->itemText(row);
     return items;
-}
-
-void pressOk(CPrefsDialog& dialog)
-{
-    dialog.ui.okButton->click();
-}
-
-void pressCancel(CPrefsDialog& dialog)
-{
-    dialog.ui.cancelButton->click();
 }
 
 } // namespace
@@ -69,17 +62,12 @@ private:
     static int run(DialogLoadStruct load, const Visit& visit, QWidget* parent = nullptr)
     {
         bool visited = false;
-        QTimer timer;
-        timer.setSingleShot(true);
-        connect(&timer, &QTimer::timeout, [&] {
-            if (auto* dialog = qobject_cast<CPrefsDialog*>(QApplication::activeModalWidget())) {
-                visited = true;
-                visit(*dialog);
-                if (dialog->isVisible())
-                    dialog->reject();
-            }
+        person::whenOpens("CPrefsDialog", [&](QDialog& dialog) {
+            visited = true;
+            visit(dynamic_cast<CPrefsDialog&>(dialog));
+            if (dialog.isVisible())
+                dialog.reject();
         });
-        timer.start(0);
         const int result = CEditInitialView().ShowDialogProc(parent, &load);
         return visited ? result : -1;
     }
@@ -146,45 +134,39 @@ private slots:
 
     void turnsPageModesIntoRows_data()
     {
-        QTest::addColumn<int>("first");  // what the library answers first
-        QTest::addColumn<int>("second"); // and then
-        QTest::addColumn<int>("row");
-        QTest::addColumn<bool>("fullScreen");
-        QTest::newRow("page only") << 0 << 0 << 0 << false;
-        QTest::newRow("pages") << 2 << 2 << 2 << false;
-        QTest::newRow("full screen") << 3 << 3 << 3 << true;
-        QTest::newRow("layers") << 4 << 4 << 3 << false;
-        QTest::newRow("attachments") << 5 << 5 << 4 << false;
-        QTest::newRow("unknown") << 6 << 6 << 6 << false;
-        QTest::newRow("asked anew") << 1 << 3 << 1 << true;
+        // first: what the library answers first
+        // second: and then
+        const Rows<int, int, int, bool> row;
+        row("page only", 0, 0, 0, false);
+        row("pages", 2, 2, 2, false);
+        row("full screen", 3, 3, 3, true);
+        row("layers", 4, 4, 3, false);
+        row("attachments", 5, 5, 4, false);
+        row("unknown", 6, 6, 6, false);
+        row("asked anew", 1, 3, 1, true);
     }
 
     void turnsPageModesIntoRows()
     {
-        QFETCH(int, first);
-        QFETCH(int, second);
+        const auto [first, second, row, fullScreen] = Rows<int, int, int, bool>::current();
         m_recorder.returns("GetPageMode", first);
         m_recorder.returns("GetPageMode", second);
         QCOMPARE(run(load(), pressCancel), 0);
-        QTEST(m_prefs[key::NavigationTab].toInt(), "row");
-        QTEST(m_prefs[key::OpenInFullScreen].toBool(), "fullScreen");
+        QCOMPARE(m_prefs[key::NavigationTab].toInt(), row);
+        QCOMPARE(m_prefs[key::OpenInFullScreen].toBool(), fullScreen);
     }
 
     void leavesTheLibraryAlone_data()
     {
-        QTest::addColumn<bool>("skip");
-        QTest::addColumn<bool>("library");
-        QTest::addColumn<int>("document");
-        QTest::newRow("told so") << true << true << document;
-        QTest::newRow("no library") << false << false << document;
-        QTest::newRow("no document") << false << true << 0;
+        const Rows<bool, bool, int> row;
+        row("told so", true, true, document);
+        row("no library", false, false, document);
+        row("no document", false, true, 0);
     }
 
     void leavesTheLibraryAlone()
     {
-        QFETCH(bool, skip);
-        QFETCH(bool, library);
-        QFETCH(int, document);
+        const auto [skip, library, document] = Rows<bool, bool, int>::current();
         DialogLoadStruct load = this->load();
         load.bSkipDocumentRead = skip;
         load.pPDFLibrary = library ? &m_library : nullptr;

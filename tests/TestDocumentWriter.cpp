@@ -1,13 +1,13 @@
 #include "engine/ByteSource.h"
 #include "engine/Document.h"
 #include "engine/DocumentWriter.h"
-#include "engine/EngineError.h"
 #include "engine/OutputFile.h"
+#include "support/EngineErrors.h"
 #include "support/PdfBuilder.h"
+#include "support/Rewritten.h"
+#include "support/Rows.h"
 
 #include <QtTest>
-
-#include <qpdf/QPDFWriter.hh>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,21 +16,9 @@
 
 using namespace engine;
 
-Q_DECLARE_METATYPE(std::string)
-
 namespace {
 
 using Settings = std::function<void(QPDFWriter&)>;
-
-ErrorCode errorOf(const std::function<void()>& function)
-{
-    try {
-        function();
-        return ErrorCode::None;
-    } catch (const EngineError& error) {
-        return error.code();
-    }
-}
 
 void store(const QString& path, const std::string& bytes)
 {
@@ -69,7 +57,6 @@ std::string replaced(std::string bytes, const std::string& old, const std::strin
 
 std::string withSettings(const Settings& set)
 {
-    QPDF pdf;
     const std::string bytes = PdfBuilder()
                                   .catalog("")
                                   .pages(2)
@@ -77,14 +64,10 @@ std::string withSettings(const Settings& set)
                                   .stream(10, "", std::string(5000, 'x'))
                                   .trailer("/Info 9 0 R /Kept 10 0 R /ID [<6131> <6232>]")
                                   .bytes();
-    pdf.processMemoryFile("document", bytes.data(), bytes.size());
-    QPDFWriter writer(pdf);
-    writer.setOutputMemory();
-    writer.setCompressStreams(false);
-    set(writer);
-    writer.write();
-    const auto buffer = writer.getBufferSharedPointer();
-    return std::string(reinterpret_cast<const char*>(buffer->getBuffer()), buffer->getSize());
+    return rewritten(bytes, [&set](QPDFWriter& writer) {
+        writer.setCompressStreams(false);
+        set(writer);
+    });
 }
 
 } // namespace
@@ -140,33 +123,21 @@ private slots:
 
     void keepsWhatTheDocumentIs_data()
     {
-        QTest::addColumn<std::string>("bytes");
-        const auto all = qpdf_r3p_full;
-        const std::pair<const char*, Settings> cases[] = {
-            {"plain", [](QPDFWriter&) {}},
-            {"object streams",
-             [](QPDFWriter& w) {
-                 w.setObjectStreamMode(qpdf_o_generate);
-                 w.setCompressStreams(true);
-             }},
-            {"linearized", [](QPDFWriter& w) { w.setLinearization(true); }},
-            {"version", [](QPDFWriter& w) { w.forcePDFVersion("1.3"); }},
-            {"RC4",
-             [](QPDFWriter& w) {
-                 w.setR3EncryptionParametersInsecure("user", "o", true, true, true, true, true, false, all);
-             }},
-            {"AES",
-             [](QPDFWriter& w) {
-                 w.setR6EncryptionParameters("user", "o", true, true, true, true, true, false, all, true);
-             }},
-        };
-        for (const auto& [name, settings] : cases)
-            QTest::newRow(name) << withSettings(settings);
+        const Rows<std::string> row;
+        row("plain", withSettings([](auto&) {}));
+        row("object streams", withSettings([](auto& writer) {
+                writer.setObjectStreamMode(qpdf_o_generate);
+                writer.setCompressStreams(true);
+            }));
+        row("linearized", withSettings([](auto& writer) { writer.setLinearization(true); }));
+        row("version", withSettings([](auto& writer) { writer.forcePDFVersion("1.3"); }));
+        row("RC4", withSettings([](auto& writer) { encrypt(writer, 3, "user", "o", false); }));
+        row("AES", withSettings([](auto& writer) { encrypt(writer, 6, "user", "o", false); }));
     }
 
     void keepsWhatTheDocumentIs()
     {
-        QFETCH(std::string, bytes);
+        const auto [bytes] = Rows<std::string>::current();
         store(m_source, bytes);
         const auto before = opened(m_source);
         change(*before);
@@ -194,21 +165,18 @@ private slots:
 
     void completesTheTrailer_data()
     {
-        QTest::addColumn<std::string>("bytes");
+        const Rows<std::string> row;
         const std::string plain = PdfBuilder::simple();
-        const std::string encrypted = withSettings([](QPDFWriter& writer) {
-            writer.setR3EncryptionParametersInsecure("user", "o", true, true, true, true, true, true,
-                                                     qpdf_r3p_full);
-        });
+        const std::string encrypted = withSettings([](auto& writer) { encrypt(writer, 3, "user", "o"); });
         const std::string catalog = "/Root << /Type /Catalog /Pages 2 0 R >>";
-        QTest::newRow("no size") << replaced(plain, "/Size", "/Sixe");
-        QTest::newRow("direct catalog") << replaced(plain, "/Root 1 0 R", catalog);
-        QTest::newRow("no key length") << replaced(encrypted, "/Length 128", "/Wength 128");
+        row("no size", replaced(plain, "/Size", "/Sixe"));
+        row("direct catalog", replaced(plain, "/Root 1 0 R", catalog));
+        row("no key length", replaced(encrypted, "/Length 128", "/Wength 128"));
     }
 
     void completesTheTrailer()
     {
-        QFETCH(std::string, bytes);
+        const auto [bytes] = Rows<std::string>::current();
         store(m_source, bytes);
         const auto before = opened(m_source);
         writeWhole(*before, m_target.toStdString());

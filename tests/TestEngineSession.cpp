@@ -1,13 +1,12 @@
 #include "support/LoadedLibrary.h"
 #include "support/PdfBuilder.h"
+#include "support/Rewritten.h"
+#include "support/Rows.h"
 
 #include "engine/ErrorCodes.h"
 #include "engine/FileNameCodec.h"
 
 #include <QtTest>
-
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
 
 #include <sys/stat.h>
 
@@ -18,33 +17,13 @@
 
 using engine::ErrorCode;
 
-Q_DECLARE_METATYPE(std::string)
-Q_DECLARE_METATYPE(std::wstring)
-
 namespace {
 
 /// A document encrypted with revision 2, 3, 4 or 6; the passwords are bytes as they go into the key.
 std::string encrypted(int revision, const char* user, const char* owner)
 {
-    QPDF pdf;
-    const std::string plain = PdfBuilder::simple();
-    pdf.processMemoryFile("plain", plain.data(), plain.size());
-    QPDFWriter writer(pdf);
-    writer.setOutputMemory();
-    if (revision == 2)
-        writer.setR2EncryptionParametersInsecure(user, owner, true, false, true, true);
-    else if (revision == 3)
-        writer.setR3EncryptionParametersInsecure(user, owner, true, true, true, true, true, false,
-                                                 qpdf_r3p_full);
-    else if (revision == 4)
-        writer.setR4EncryptionParametersInsecure(user, owner, true, true, true, true, true, false,
-                                                 qpdf_r3p_full, true, true);
-    else
-        writer.setR6EncryptionParameters(user, owner, true, true, true, true, true, false, qpdf_r3p_full,
-                                         true);
-    writer.write();
-    const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
-    return {reinterpret_cast<const char*>(buffer->getBuffer()), buffer->getSize()};
+    return rewritten(PdfBuilder::simple(),
+                     [=](auto& writer) { encrypt(writer, revision, user, owner, false); });
 }
 
 /// A catalog entry as MuPDF reads it, on one line.
@@ -53,6 +32,11 @@ QByteArray shown(const QString& path, const QString& entry)
     QProcess mutool;
     mutool.start("mutool", {"show", path, "trailer/Root/" + entry});
     return mutool.waitForFinished() ? mutool.readAllStandardOutput().simplified() : QByteArray("no mutool");
+}
+
+ErrorCode errorOf(LoadedLibrary& library)
+{
+    return ErrorCode(library.LastErrorCode());
 }
 
 std::wstring wide(const QString& text)
@@ -82,7 +66,7 @@ private slots:
         LoadedLibrary library;
         QCOMPARE(library.SelectedDocument(), 0);
         QCOMPARE(library.PageCount(), 0);
-        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::NoDocument));
+        QCOMPARE(errorOf(library), ErrorCode::NoDocument);
         for (int pages = 1; pages <= 3; ++pages)
             QCOMPARE(library.LoadFromString(PdfBuilder::simple("", pages), L""), 1);
         QCOMPARE(library.DocumentCount(), 3);
@@ -104,31 +88,27 @@ private slots:
         QCOMPARE(library.DocumentCount(), 1);
         for (const int unknown : {first, third, 0, -1, INT_MAX}) {
             QCOMPARE(library.SelectDocument(unknown), 0);
-            QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::UnknownDocument));
+            QCOMPARE(errorOf(library), ErrorCode::UnknownDocument);
             QCOMPARE(library.RemoveDocument(unknown), 0);
         }
         QCOMPARE(library.GetDocumentID(0), 0);
         QCOMPARE(library.GetDocumentID(2), 0);
-        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::UnknownDocument));
+        QCOMPARE(errorOf(library), ErrorCode::UnknownDocument);
     }
 
     void remembersTheErrorOfTheLastCallOnly()
     {
         LoadedLibrary library;
         library.PageCount();
-        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::NoDocument));
-        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::NoDocument));
+        QCOMPARE(errorOf(library), ErrorCode::NoDocument);
+        QCOMPARE(errorOf(library), ErrorCode::NoDocument);
         library.DocumentCount();
-        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::None));
+        QCOMPARE(errorOf(library), ErrorCode::None);
     }
 
     void refusesWhatIsNoDocument_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<int>("code");
-        const auto row = [](const char* what, const QString& path, ErrorCode code) {
-            QTest::newRow(what) << path << static_cast<int>(code);
-        };
+        const Rows<QString, ErrorCode> row;
         const std::string sound = PdfBuilder::simple();
         row("no name", "", ErrorCode::FileNotFound);
         row("missing", m_folder.filePath("missing.pdf"), ErrorCode::FileNotFound);
@@ -154,11 +134,10 @@ private slots:
 
     void refusesWhatIsNoDocument()
     {
-        QFETCH(QString, path);
-        QFETCH(int, code);
+        const auto [path, code] = Rows<QString, ErrorCode>::current();
         LoadedLibrary library;
         QCOMPARE(library.LoadFromFile(wide(path), L"wrong"), 0);
-        QCOMPARE(library.LastErrorCode(), code);
+        QCOMPARE(errorOf(library), code);
         QCOMPARE(library.DocumentCount(), 0);
         QCOMPARE(library.SelectedDocument(), 0);
     }
@@ -178,11 +157,8 @@ private slots:
 
     void opensWithEitherPassword_data()
     {
-        QTest::addColumn<std::string>("bytes");
-        QTest::addColumn<std::wstring>("password");
-        QTest::addColumn<int>("status"); // -1 for refused
-        const auto row = [](const char* what, const std::string& bytes, const std::wstring& password,
-                            int status) { QTest::newRow(what) << bytes << password << status; };
+        // status: -1 for refused
+        const Rows<std::string, std::wstring, int> row;
         row("not encrypted", PdfBuilder::simple(), L"given", engine::NotEncrypted);
         row("none needed", encrypted(3, "", "owner"), L"", engine::OpenedWithUserPassword);
         row("none needed but one given", encrypted(3, "", "owner"), L"other", engine::OpenedWithUserPassword);
@@ -199,13 +175,11 @@ private slots:
 
     void opensWithEitherPassword()
     {
-        QFETCH(std::string, bytes);
-        QFETCH(std::wstring, password);
-        QFETCH(int, status);
+        const auto [bytes, password, status] = Rows<std::string, std::wstring, int>::current();
         LoadedLibrary library;
         QCOMPARE(library.LoadFromString(bytes, password), status < 0 ? 0 : 1);
         if (status < 0) {
-            QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::WrongPassword));
+            QCOMPARE(errorOf(library), ErrorCode::WrongPassword);
             return;
         }
         QCOMPARE(library.EncryptionStatus(), status);
@@ -233,7 +207,7 @@ private slots:
         for (int key = 0; key <= 8; ++key)
             QCOMPARE(library.GetInformation(key), expected[key]);
         QCOMPARE(library.GetInformation(9), std::wstring());
-        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::BadArgument));
+        QCOMPARE(errorOf(library), ErrorCode::BadArgument);
         QCOMPARE(library.GetDocumentFileName(), std::wstring());
         QCOMPARE(library.GetDocumentRepaired(), 0);
         QCOMPARE(library.IsLinearized(), 0);
@@ -252,25 +226,21 @@ private slots:
 
     void countsSignatures_data()
     {
-        QTest::addColumn<std::string>("catalog");
-        QTest::addColumn<int>("count");
-        QTest::newRow("no form") << std::string() << 0;
-        QTest::newRow("unsigned field") << std::string("/AcroForm << /Fields [10 0 R] >>") << 0;
-        QTest::newRow("signed field") << std::string("/AcroForm << /Fields [11 0 R] >>") << 1;
-        QTest::newRow("type inherited, in a circle") << std::string("/AcroForm << /Fields [12 0 R] >>") << 1;
-        QTest::newRow("text field") << std::string("/AcroForm << /Fields [14 0 R] >>") << 0;
-        QTest::newRow("certified") << std::string(
-                                          "/AcroForm << /Fields [11 0 R] >> /Perms << /DocMDP 20 0 R >>")
-                                   << 1;
-        QTest::newRow("usage rights") << std::string("/Perms << /UR3 20 0 R >>") << 1;
-        QTest::newRow("two") << std::string("/AcroForm << /Fields [11 0 R 15 0 R 11 0 R null] >>") << 2;
-        QTest::newRow("nonsense") << std::string("/AcroForm [1] /Perms (x)") << 0;
+        const Rows<std::string, int> row;
+        row("no form", "", 0);
+        row("unsigned field", "/AcroForm << /Fields [10 0 R] >>", 0);
+        row("signed field", "/AcroForm << /Fields [11 0 R] >>", 1);
+        row("type inherited, in a circle", "/AcroForm << /Fields [12 0 R] >>", 1);
+        row("text field", "/AcroForm << /Fields [14 0 R] >>", 0);
+        row("certified", std::string("/AcroForm << /Fields [11 0 R] >> /Perms << /DocMDP 20 0 R >>"), 1);
+        row("usage rights", "/Perms << /UR3 20 0 R >>", 1);
+        row("two", "/AcroForm << /Fields [11 0 R 15 0 R 11 0 R null] >>", 2);
+        row("nonsense", "/AcroForm [1] /Perms (x)", 0);
     }
 
     void countsSignatures()
     {
-        QFETCH(std::string, catalog);
-        QFETCH(int, count);
+        const auto [catalog, count] = Rows<std::string, int>::current();
         LoadedLibrary library;
         library.LoadFromString(PdfBuilder()
                                    .catalog(catalog)
@@ -287,7 +257,7 @@ private slots:
         QCOMPARE(library.SecurityInfo(engine::SignatureCount), count);
         QCOMPARE(library.SecurityInfo(engine::ModificationAllowed), 1);
         QCOMPARE(library.SecurityInfo(100), 0);
-        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::NotAvailable));
+        QCOMPARE(errorOf(library), ErrorCode::NotAvailable);
     }
 
     void writesWhatOtherReadersRead()
@@ -436,7 +406,7 @@ private slots:
         QCOMPARE(sorted, expected);
         for (const int charset : {-1, 0, 1, 3})
             QCOMPARE(library.GetInstalledFontsByCharset(charset, 1), std::wstring());
-        QCOMPARE(library.LastErrorCode(), static_cast<int>(ErrorCode::BadArgument));
+        QCOMPARE(errorOf(library), ErrorCode::BadArgument);
     }
 };
 

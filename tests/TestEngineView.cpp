@@ -1,7 +1,8 @@
-#include "engine/EngineError.h"
 #include "engine/Operations.h"
 #include "engine/Session.h"
+#include "support/EngineErrors.h"
 #include "support/PdfBuilder.h"
+#include "support/Rows.h"
 
 #include <QtTest>
 
@@ -10,9 +11,6 @@
 
 using namespace engine;
 using namespace engine::operations;
-
-Q_DECLARE_METATYPE(std::string)
-Q_DECLARE_METATYPE(std::function<int(Session&)>)
 
 namespace {
 
@@ -63,16 +61,6 @@ QByteArray openAction(Session& session)
         text += ' ' + QByteArray::number(GetDestValue(session, id, key));
     const std::wstring name = GetDestName(session, id);
     return name.empty() ? text : text + ' ' + QString::fromStdWString(name).toUtf8();
-}
-
-ErrorCode failureOf(const Setter& call, Session& session)
-{
-    try {
-        call(session);
-    } catch (const EngineError& error) {
-        return error.code();
-    }
-    return ErrorCode::None;
 }
 
 Setter destination(int page, int zoom, int type, double left = 0, double top = letterTop)
@@ -145,20 +133,21 @@ private slots:
 
     void readsWhatIsMissingOrWrongAsAbsent_data()
     {
-        QTest::addColumn<std::string>("entries");
-        QTest::newRow("nothing") << std::string();
-        QTest::newRow("wrong types") << std::string("/PageMode (UseOC) /PageLayout 3 /ViewerPreferences [ << "
-                                                    "/HideToolbar true >> ] /OpenAction (none)");
-        QTest::newRow("unknown values") << std::string(
-            "/PageMode /UseBookmarks /PageLayout /Single /ViewerPreferences << /HideToolbar 1 "
-            "/HideMenubar (true) /NonFullScreenPageMode true >> /OpenAction << /S /URI /D [3 0 R /Fit] >>");
-        QTest::newRow("missing objects") << std::string(
-            "/PageMode 90 0 R /PageLayout 90 0 R /ViewerPreferences 90 0 R /OpenAction 90 0 R");
+        const Rows<std::string> row;
+        row("nothing", "");
+        row("wrong types", "/PageMode (UseOC) /PageLayout 3 /ViewerPreferences [ << "
+                           "/HideToolbar true >> ] /OpenAction (none)");
+        row("unknown values",
+            std::string("/PageMode /UseBookmarks /PageLayout /Single /ViewerPreferences << /HideToolbar 1 "
+                        "/HideMenubar (true) /NonFullScreenPageMode true >> /OpenAction << /S /URI /D [3 0 R "
+                        "/Fit] >>"));
+        row("missing objects",
+            std::string("/PageMode 90 0 R /PageLayout 90 0 R /ViewerPreferences 90 0 R /OpenAction 90 0 R"));
     }
 
     void readsWhatIsMissingOrWrongAsAbsent()
     {
-        QFETCH(std::string, entries);
+        const auto [entries] = Rows<std::string>::current();
         Opened opened(document(entries));
         QCOMPARE(GetPageMode(opened.session), 0);
         QCOMPARE(GetPageLayout(opened.session), 6);
@@ -178,16 +167,12 @@ private slots:
 
     void changesOnlyWhatDiffers_data()
     {
-        QTest::addColumn<std::string>("entries");
-        QTest::addColumn<Setter>("setter");
-        QTest::addColumn<QByteArray>("key");
-        QTest::addColumn<QByteArray>("value"); // null for nothing changed
-        QTest::addColumn<QByteArray>("changed");
-        const QByteArray nothing;
+        // value: null for nothing changed
+        const Rows<std::string, Setter, QByteArray, QByteArray, QByteArray> add;
         const auto row = [&](const char* what, const char* entries, const Setter& setter, const char* key,
                              const char* value = nullptr, const char* changed = "1") {
-            QTest::newRow(what) << std::string(entries) << setter << QByteArray(key) << QByteArray(value)
-                                << QByteArray(value != nullptr ? changed : "");
+            add(what, std::string(entries), setter, QByteArray(key), QByteArray(value),
+                QByteArray(value != nullptr ? changed : ""));
         };
         row("same mode", "/PageMode /UseOC", pageMode(4), "/PageMode");
         row("default mode", "", pageMode(0), "/PageMode");
@@ -195,11 +180,9 @@ private slots:
         row("other mode", "/PageMode 10 0 R", pageMode(5), "/PageMode", "/UseAttachments");
         row("same layout", "/PageLayout /OneColumn", pageLayout(1), "/PageLayout");
         row("no layout", "/PageLayout /OneColumn", pageLayout(6), "/PageLayout", "null");
-        row("no layout where there is none", "", pageLayout(6), "/PageLayout");
         row("no layout for a wrong one", "/PageLayout 7", pageLayout(6), "/PageLayout", "null");
         row("same preference", "/ViewerPreferences << /FitWindow true >>", preference(4, 1),
             "/ViewerPreferences");
-        row("default preference", "", preference(4, 0), "/ViewerPreferences");
         row("default for a wrong one", "/ViewerPreferences << /FitWindow 1 >>", preference(4, 0),
             "/ViewerPreferences", "<< /FitWindow false >>");
         row("new preferences", "", preference(1, 1), "/ViewerPreferences", "<< /HideToolbar true >>");
@@ -214,11 +197,8 @@ private slots:
 
     void changesOnlyWhatDiffers()
     {
-        QFETCH(std::string, entries);
-        QFETCH(Setter, setter);
-        QFETCH(QByteArray, key);
-        QFETCH(QByteArray, value);
-        QFETCH(QByteArray, changed);
+        const auto [entries, setter, key, value, changed] =
+            Rows<std::string, Setter, QByteArray, QByteArray, QByteArray>::current();
         Opened opened(
             document(entries, {{10, "/UseThumbs"}, {11, "<< /HideToolbar true >>"}, {12, "[1 2]"}}));
         const QByteArray before = opened.entry(key);
@@ -231,13 +211,11 @@ private slots:
 
     void readsOpenActions_data()
     {
-        QTest::addColumn<std::string>("action");
-        QTest::addColumn<QByteArray>("expected");
-        const auto row = [](const char* action, const char* expected) {
-            QTest::newRow(action) << std::string(action) << QByteArray(expected);
+        const Rows<std::string, QByteArray> add;
+        const auto row = [&add](const char* action, const char* expected) {
+            add(action, std::string(action), QByteArray(expected));
         };
         row("[4 0 R /XYZ 10 20.5 1.5]", "2 type 1 10 20.5 0 0 150");
-        row("[4 0 R /XYZ null null null]", "2 type 1 0 0 0 0 0");
         row("[4 0 R /XYZ]", "2 type 1 0 0 0 0 0");
         row("[4 0 R]", "2 type 1 0 0 0 0 0");
         row("[4 0 R /Odd 1 2 3]", "2 type 1 1 2 0 0 300");
@@ -264,8 +242,6 @@ private slots:
         row("<< /S /GoTo /D (new) >>", "3 type 3 0 5 0 0 0 new");
         row("<< /S /GoTo /D (inside) >>", "1 type 2 0 0 0 0 0 inside");
         row("<< /S /GoTo /D (lied) >>", "1 type 4 7 0 0 0 0 lied");
-        row("<< /S /GoTo /D (old) >>", "2 type 2 0 0 0 0 0 old");
-        row("<< /S /GoTo /D /new >>", "3 type 3 0 5 0 0 0 new");
         row("<< /S /GoTo /D (nowhere) >>", "none");
         row("(new)", "3 type 3 0 5 0 0 0 new");
         row("<< /S /GoTo /D <FEFF00E9> >>", "1 type 2 0 0 0 0 0 \xc3\xa9");
@@ -273,8 +249,7 @@ private slots:
 
     void readsOpenActions()
     {
-        QFETCH(std::string, action);
-        QFETCH(QByteArray, expected);
+        const auto [action, expected] = Rows<std::string, QByteArray>::current();
         Opened opened(
             document("/OpenAction " + action + " /Dests << /old [4 0 R /Fit] >> /Names << /Dests 20 0 R >>",
                      {{10, "[12 0 R /Fit]"},
@@ -304,32 +279,21 @@ private slots:
 
     void writesDestinations_data()
     {
-        QTest::addColumn<Setter>("setter");
-        QTest::addColumn<QByteArray>("written");
-        QTest::addColumn<QByteArray>("read");
-        QTest::newRow("zoom") << destination(2, 150, 1, 5, 700) << QByteArray("[ 4 0 R /XYZ 5 700 1.5 ]")
-                              << QByteArray("2 type 1 5 700 0 0 150");
-        QTest::newRow("no zoom") << destination(1, 0, 1) << QByteArray("[ 3 0 R /XYZ 0 792 null ]")
-                                 << QByteArray("1 type 1 0 792 0 0 0");
-        QTest::newRow("page") << destination(3, 0, 2) << QByteArray("[ 5 0 R /Fit ]")
-                              << QByteArray("3 type 2 0 0 0 0 0");
-        QTest::newRow("width") << destination(3, 75, 3) << QByteArray("[ 5 0 R /FitH 792 ]")
-                               << QByteArray("3 type 3 0 792 0 0 0");
-        QTest::newRow("height") << destination(1, 0, 4, -7.25) << QByteArray("[ 3 0 R /FitV -7.25 ]")
-                                << QByteArray("1 type 4 -7.25 0 0 0 0");
-        QTest::newRow("visible") << destination(1, 0, 5, 0, 841.889763779528)
-                                 << QByteArray("[ 3 0 R /FitBH 841.889764 ]")
-                                 << QByteArray("1 type 5 0 841.89 0 0 0");
-        QTest::newRow("minus zero") << destination(1, 33, 1, -0.0, 1e-9)
-                                    << QByteArray("[ 3 0 R /XYZ 0 0 0.33 ]")
-                                    << QByteArray("1 type 1 0 0 0 0 33");
+        const Rows<Setter, QByteArray, QByteArray> row;
+        row("zoom", destination(2, 150, 1, 5, 700), "[ 4 0 R /XYZ 5 700 1.5 ]", "2 type 1 5 700 0 0 150");
+        row("no zoom", destination(1, 0, 1), "[ 3 0 R /XYZ 0 792 null ]", "1 type 1 0 792 0 0 0");
+        row("page", destination(3, 0, 2), "[ 5 0 R /Fit ]", "3 type 2 0 0 0 0 0");
+        row("width", destination(3, 75, 3), "[ 5 0 R /FitH 792 ]", "3 type 3 0 792 0 0 0");
+        row("height", destination(1, 0, 4, -7.25), "[ 3 0 R /FitV -7.25 ]", "1 type 4 -7.25 0 0 0 0");
+        row("visible", destination(1, 0, 5, 0, 841.889763779528), "[ 3 0 R /FitBH 841.889764 ]",
+            "1 type 5 0 841.89 0 0 0");
+        row("minus zero", destination(1, 33, 1, -0.0, 1e-9), "[ 3 0 R /XYZ 0 0 0.33 ]",
+            "1 type 1 0 0 0 0 33");
     }
 
     void writesDestinations()
     {
-        QFETCH(Setter, setter);
-        QFETCH(QByteArray, written);
-        QFETCH(QByteArray, read);
+        const auto [setter, written, read] = Rows<Setter, QByteArray, QByteArray>::current();
         for (const char* before : {"", "/OpenAction 10 0 R", "/OpenAction << /S /JavaScript /JS (x) >>"}) {
             Opened opened(document(before, {{10, "[3 0 R /XYZ 1 1 1]"}}));
             QCOMPARE(setter(opened.session), 1);
@@ -343,11 +307,9 @@ private slots:
 
     void leavesAnOpenActionThatAlreadyShowsIt_data()
     {
-        QTest::addColumn<std::string>("action");
-        QTest::addColumn<Setter>("setter");
-        QTest::addColumn<bool>("same");
-        const auto row = [](const char* action, const Setter& setter, bool same) {
-            QTest::newRow(action) << std::string(action) << setter << same;
+        const Rows<std::string, Setter, bool> add;
+        const auto row = [&add](const char* action, const Setter& setter, bool same) {
+            add(action, std::string(action), setter, same);
         };
         row("[4 0 R /Fit]", destination(2, 0, 2), true);
         row("<< /S /GoTo /D [4 0 R /Fit] /Next << /S /URI >> >>", destination(2, 0, 2), true);
@@ -366,9 +328,7 @@ private slots:
 
     void leavesAnOpenActionThatAlreadyShowsIt()
     {
-        QFETCH(std::string, action);
-        QFETCH(Setter, setter);
-        QFETCH(bool, same);
+        const auto [action, setter, same] = Rows<std::string, Setter, bool>::current();
         Opened opened(
             document("/OpenAction " + action + " /Names << /Dests << /Names [(name) [4 0 R /Fit]] >> >>"));
         const QByteArray before = opened.entry("/OpenAction");
@@ -379,65 +339,43 @@ private slots:
 
     void refusesWhatItDoesNotKnow_data()
     {
-        QTest::addColumn<Setter>("call");
-        QTest::addColumn<int>("code");
-        const auto row = [](const char* what, const Setter& call, ErrorCode code) {
-            QTest::newRow(what) << call << static_cast<int>(code);
-        };
+        const Rows<Setter, ErrorCode> row;
         const double nan = std::nan("");
         const ErrorCode bad = ErrorCode::BadArgument;
-        row("mode -1", pageMode(-1), bad);
         row("mode 6", pageMode(6), bad);
-        row("layout -1", pageLayout(-1), bad);
         row("layout 7", pageLayout(7), bad);
         row("preference 0", preference(0, 1), bad);
         row("preference 8", preference(8, 1), bad);
         row("preference value 2", preference(1, 2), bad);
-        row("preference value -1", preference(6, -1), bad);
         row("full screen outside full screen", preference(7, 3), bad);
         row("mode 6 outside full screen", preference(7, 6), bad);
-        row("page 0", destination(0, 0, 2), ErrorCode::UnknownPage);
         row("page 4", destination(4, 0, 2), ErrorCode::UnknownPage);
-        row("type 0", destination(1, 0, 0), bad);
         row("type 6", destination(1, 0, 6), bad);
         row("negative zoom", destination(1, -5, 1), bad);
         row("left no number", destination(1, 0, 1, nan), bad);
         row("top infinite", destination(1, 0, 1, 0, HUGE_VAL), bad);
-        row(
-            "read preference 8", [](Session& s) { return GetViewerPreferences(s, 8); }, bad);
-        row(
-            "destination 0", [](Session& s) { return GetDestPage(s, 0); }, ErrorCode::UnknownDestination);
-        row(
-            "destination 7", [](Session& s) { return GetDestType(s, 7); }, ErrorCode::UnknownDestination);
-        row(
-            "destination -1", [](Session& s) { return GetDestType(s, -1); }, ErrorCode::UnknownDestination);
-        row(
-            "value 0", [](Session& s) { return static_cast<int>(GetDestValue(s, 1, 0)); }, bad);
-        row(
-            "value 6", [](Session& s) { return static_cast<int>(GetDestValue(s, 1, 6)); }, bad);
-        row(
-            "select page 4", [](Session& s) { return SelectPage(s, 4); }, ErrorCode::UnknownPage);
-        row(
-            "box 0", [](Session& s) { return static_cast<int>(GetPageBox(s, 0, 0)); }, bad);
-        row(
-            "box 6", [](Session& s) { return static_cast<int>(GetPageBox(s, 6, 0)); }, bad);
-        row(
-            "dimension 6", [](Session& s) { return static_cast<int>(GetPageBox(s, 1, 6)); }, bad);
-        row(
-            "dimension -1", [](Session& s) { return static_cast<int>(GetPageBox(s, 1, -1)); }, bad);
+        row("read preference 8", Setter([](Session& s) { return int(GetViewerPreferences(s, 8)); }), bad);
+        row("destination 0", Setter([](Session& s) { return int(GetDestPage(s, 0)); }),
+            ErrorCode::UnknownDestination);
+        row("destination -1", Setter([](Session& s) { return int(GetDestType(s, -1)); }),
+            ErrorCode::UnknownDestination);
+        row("value 6", Setter([](Session& s) { return int(GetDestValue(s, 1, 6)); }), bad);
+        row("select page 4", Setter([](Session& s) { return int(SelectPage(s, 4)); }),
+            ErrorCode::UnknownPage);
+        row("box 6", Setter([](Session& s) { return int(GetPageBox(s, 6, 0)); }), bad);
+        row("dimension 6", Setter([](Session& s) { return int(GetPageBox(s, 1, 6)); }), bad);
     }
 
     void refusesWhatItDoesNotKnow()
     {
-        QFETCH(Setter, call);
-        QFETCH(int, code);
+        const auto [call, code] = Rows<Setter, ErrorCode>::current();
         Opened opened(document("/OpenAction [3 0 R /Fit]"));
         QCOMPARE(GetOpenActionDestination(opened.session), 1);
-        QCOMPARE(static_cast<int>(failureOf(call, opened.session)), code);
+        QCOMPARE(errorOf([&, &setter = call] { setter(opened.session); }), code);
         QCOMPARE(opened.changed(), QByteArray());
         QCOMPARE(SelectedPage(opened.session), 1);
         Session empty;
-        QCOMPARE(failureOf(call, empty), ErrorCode::NoDocument);
+        QCOMPARE(errorOf([&, &setter = call] { setter(empty); }), ErrorCode::NoDocument);
     }
 
     void removesAnOpenAction()
@@ -471,12 +409,10 @@ private slots:
 
     void measuresPages_data()
     {
-        QTest::addColumn<std::string>("page");
-        QTest::addColumn<int>("box");
-        QTest::addColumn<QByteArray>("expected"); // left top width height right bottom
-        const auto row = [](const char* page, int box, const char* expected) {
-            QTest::newRow(qPrintable(QString("%1 box %2").arg(page).arg(box)))
-                << std::string(page) << box << QByteArray(expected);
+        // expected: left top width height right bottom
+        const Rows<std::string, int, QByteArray> add;
+        const auto row = [&add](const char* page, int box, const char* expected) {
+            add(QString("%1 box %2").arg(page).arg(box), std::string(page), box, QByteArray(expected));
         };
         row("", 1, "0 792 612 792 612 0");
         row("/MediaBox [10 20 110 220]", 1, "10 220 100 200 110 20");
@@ -494,9 +430,7 @@ private slots:
 
     void measuresPages()
     {
-        QFETCH(std::string, page);
-        QFETCH(int, box);
-        QFETCH(QByteArray, expected);
+        const auto [page, box, expected] = Rows<std::string, int, QByteArray>::current();
         Opened opened(PdfBuilder().catalog("").pages(1, 3, page).object(10, "[-5 1.5 10 50]").bytes());
         QByteArrayList found;
         for (int dimension = 0; dimension < 6; ++dimension)
@@ -518,20 +452,18 @@ private slots:
 
     void rotatesPages_data()
     {
-        QTest::addColumn<std::string>("rotate");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("none") << std::string() << 0;
-        QTest::newRow("right") << std::string("/Rotate 90") << 90;
-        QTest::newRow("left") << std::string("/Rotate -90") << 270;
-        QTest::newRow("more than once round") << std::string("/Rotate 630") << 270;
-        QTest::newRow("slanted") << std::string("/Rotate 45") << 0;
-        QTest::newRow("no number") << std::string("/Rotate /Left") << 0;
+        const Rows<std::string, int> row;
+        row("none", "", 0);
+        row("right", "/Rotate 90", 90);
+        row("left", "/Rotate -90", 270);
+        row("more than once round", "/Rotate 630", 270);
+        row("slanted", "/Rotate 45", 0);
+        row("no number", "/Rotate /Left", 0);
     }
 
     void rotatesPages()
     {
-        QFETCH(std::string, rotate);
-        QFETCH(int, expected);
+        const auto [rotate, expected] = Rows<std::string, int>::current();
         Opened opened(PdfBuilder().catalog("").pages(1, 3, rotate).bytes());
         QCOMPARE(PageRotation(opened.session), expected);
     }

@@ -1,6 +1,7 @@
 #include "shared/CErrorHandler.h"
 #include "shared/lists/CActionHistoryAPI.h"
 #include "support/ManualsSettings.h"
+#include "support/Rows.h"
 #include "support/TemporaryHome.h"
 
 #include <QApplication>
@@ -102,18 +103,16 @@ private slots:
 
     void limitsTheIcon_data()
     {
-        QTest::addColumn<QSize>("given");
-        QTest::addColumn<QSize>("stored");
-        QTest::newRow("large") << QSize(128, 128) << QSize(42, 42);
-        QTest::newRow("small") << QSize(16, 16) << QSize(16, 16);
-        QTest::newRow("wide") << QSize(84, 42) << QSize(42, 21);
-        QTest::newRow("none") << QSize() << QSize(0, 0);
+        const Rows<QSize, QSize> row;
+        row("large", {128, 128}, {42, 42});
+        row("small", {16, 16}, {16, 16});
+        row("wide", {84, 42}, {42, 21});
+        row("none", {}, {0, 0});
     }
 
     void limitsTheIcon()
     {
-        QFETCH(const QSize, given);
-        QFETCH(const QSize, stored);
+        const auto [given, stored] = Rows<QSize, QSize>::current();
         QCOMPARE(save(named("icon"), given.isValid() ? coloured(given) : QIcon()), 0);
         const QSettings file(m_home.favorite("icon.ini"), QSettings::IniFormat);
         const auto image = file.value("ActionIcon").value<QImage>();

@@ -1,12 +1,11 @@
 #include "engine/FileNameCodec.h"
+#include "support/Rows.h"
 
 #include <QtTest>
 
 #include <random>
 
 using namespace engine;
-
-Q_DECLARE_METATYPE(std::wstring)
 
 class TestFileNameCodec : public QObject
 {
@@ -15,31 +14,24 @@ class TestFileNameCodec : public QObject
 private slots:
     void decodesUtf8AndKeepsOtherBytes_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<std::wstring>("wide");
-        QTest::newRow("empty") << QByteArray() << std::wstring();
-        QTest::newRow("ascii") << QByteArray("a/b.pdf") << std::wstring(L"a/b.pdf");
-        QTest::newRow("two bytes") << QByteArray("h\xc3\xb4tel") << std::wstring(L"h\u00f4tel");
-        QTest::newRow("three bytes") << QByteArray("\xe6\x96\x87") << std::wstring(L"\u6587");
-        QTest::newRow("four bytes") << QByteArray("\xf0\x9f\x93\x84") << std::wstring(L"\U0001F4C4");
-        QTest::newRow("last character") << QByteArray("\xf4\x8f\xbf\xbf") << std::wstring(L"\U0010FFFF");
-        QTest::newRow("latin 1") << QByteArray("h\xf4tel")
-                                 << std::wstring({L'h', wchar_t(0xdcf4), L't', L'e', L'l'});
-        QTest::newRow("cut short") << QByteArray("\xe6\x96")
-                                   << std::wstring({wchar_t(0xdce6), wchar_t(0xdc96)});
-        QTest::newRow("overlong") << QByteArray("\xc0\xaf")
-                                  << std::wstring({wchar_t(0xdcc0), wchar_t(0xdcaf)});
-        QTest::newRow("surrogate") << QByteArray("\xed\xb2\x80")
-                                   << std::wstring({wchar_t(0xdced), wchar_t(0xdcb2), wchar_t(0xdc80)});
-        QTest::newRow("beyond Unicode")
-            << QByteArray("\xf4\x90\x80\x80")
-            << std::wstring({wchar_t(0xdcf4), wchar_t(0xdc90), wchar_t(0xdc80), wchar_t(0xdc80)});
+        const Rows<QByteArray, std::wstring> row;
+        row("empty", {}, {});
+        row("ascii", "a/b.pdf", L"a/b.pdf");
+        row("two bytes", "h\xc3\xb4tel", L"h\u00f4tel");
+        row("three bytes", "\xe6\x96\x87", L"\u6587");
+        row("four bytes", "\xf0\x9f\x93\x84", L"\U0001F4C4");
+        row("last character", "\xf4\x8f\xbf\xbf", L"\U0010FFFF");
+        row("latin 1", "h\xf4tel", std::wstring({L'h', wchar_t(0xdcf4), L't', L'e', L'l'}));
+        row("cut short", "\xe6\x96", std::wstring({wchar_t(0xdce6), wchar_t(0xdc96)}));
+        row("overlong", "\xc0\xaf", std::wstring({wchar_t(0xdcc0), wchar_t(0xdcaf)}));
+        row("surrogate", "\xed\xb2\x80", std::wstring({wchar_t(0xdced), wchar_t(0xdcb2), wchar_t(0xdc80)}));
+        row("beyond Unicode", "\xf4\x90\x80\x80",
+            std::wstring({wchar_t(0xdcf4), wchar_t(0xdc90), wchar_t(0xdc80), wchar_t(0xdc80)}));
     }
 
     void decodesUtf8AndKeepsOtherBytes()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(std::wstring, wide);
+        const auto [bytes, wide] = Rows<QByteArray, std::wstring>::current();
         QCOMPARE(wideFromFileName(bytes.toStdString()), wide);
         QCOMPARE(QByteArray::fromStdString(fileNameFromWide(wide)), bytes);
     }

@@ -1,4 +1,5 @@
 #include "CActionUtils.h"
+#include "support/Rows.h"
 
 #include <QLabel>
 #include <QTemporaryDir>
@@ -101,163 +102,118 @@ private slots:
 
     void padsWithZeros_data()
     {
-        QTest::addColumn<int>("number");
-        QTest::addColumn<int>("length");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("shorter") << 7 << 3 << "007";
-        QTest::newRow("longer") << 1234 << 3 << "1234";
-        QTest::newRow("the sign counts") << -5 << 3 << "0-5";
-        QTest::newRow("no length") << 5 << 0 << "5";
-        QTest::newRow("negative length") << 5 << -3 << "5";
+        const Rows<int, int, QString> row;
+        row("shorter", 7, 3, "007");
+        row("longer", 1234, 3, "1234");
+        row("the sign counts", -5, 3, "0-5");
+        row("no length", 5, 0, "5");
+        row("negative length", 5, -3, "5");
     }
 
     void padsWithZeros()
     {
-        QFETCH(int, number);
-        QFETCH(int, length);
-        QTEST(CActionUtils::GetStringWithLeadingZeroesFromNumber(number, length), "text");
-        QTEST(CActionUtils::GetStringWithLeadingZeroesFromString(QString::number(number), length), "text");
+        const auto [number, length, text] = Rows<int, int, QString>::current();
+        QCOMPARE(CActionUtils::GetStringWithLeadingZeroesFromNumber(number, length), text);
+        QCOMPARE(CActionUtils::GetStringWithLeadingZeroesFromString(QString::number(number), length), text);
     }
 
     void numbersCopies_data()
     {
-        QTest::addColumn<QStringList>("present");
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("copy");
-        QTest::newRow("free") << QStringList{} << "report.pdf"
-                              << "report.pdf";
-        QTest::newRow("first") << QStringList{"report.pdf"} << "report.pdf"
-                               << "report (1).pdf";
-        QTest::newRow("next") << QStringList{"report.pdf", "report (1).pdf"} << "report.pdf"
-                              << "report (2).pdf";
-        QTest::newRow("gap") << QStringList{"report.pdf", "report (2).pdf"} << "report.pdf"
-                             << "report (1).pdf";
-        QTest::newRow("last dot") << QStringList{"a.tar.gz"} << "a.tar.gz"
-                                  << "a.tar (1).gz";
-        QTest::newRow("dot in front") << QStringList{".profile"} << ".profile"
-                                      << " (1).profile";
-        QTest::newRow("dot of the folder") << QStringList{"v1.2/name"} << "v1.2/name"
-                                           << "v1 (1).2/name";
-        QTest::newRow("no dot") << QStringList{"name"} << "name"
-                                << "name (1)";
-        QTest::newRow("no dot, next") << QStringList{"name", "name (1)"} << "name"
-                                      << "name (2)";
-        QTest::newRow("empty") << QStringList{} << ""
-                               << "";
+        const Rows<QStringList, QString, QString> row;
+        row("free", {}, "report.pdf", "report.pdf");
+        row("first", {"report.pdf"}, "report.pdf", "report (1).pdf");
+        row("next", {"report.pdf", "report (1).pdf"}, "report.pdf", "report (2).pdf");
+        row("last dot", {"a.tar.gz"}, "a.tar.gz", "a.tar (1).gz");
+        row("dot in front", {".profile"}, ".profile", " (1).profile");
+        row("dot of the folder", {"v1.2/name"}, "v1.2/name", "v1 (1).2/name");
+        row("no dot", {"name"}, "name", "name (1)");
+        row("empty", {}, "", "");
     }
 
     void numbersCopies()
     {
-        QFETCH(QStringList, present);
-        QFETCH(QString, path);
+        const auto [present, path, copy] = Rows<QStringList, QString, QString>::current();
         const WorkFolder folder;
         for (const QString& file : qAsConst(present))
             folder.make(file);
-        QTEST(CActionUtils::AppendCopyNumberToFilename(path), "copy");
+        QCOMPARE(CActionUtils::AppendCopyNumberToFilename(path), copy);
     }
 
     void fixesFileNames_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("fixed");
-        QTest::newRow("all at once") << "  a:b/c?\t"
-                                     << "abc";
-        QTest::newRow("every forbidden character") << "0\t1\n2\r3<4>5:6\"7/8\\9|a?b*c"
-                                                   << "0123456789abc";
-        QTest::newRow("trimming comes first") << ": a :"
-                                              << " a ";
-        QTest::newRow("spaces inside stay") << " a  b "
-                                            << "a  b";
-        QTest::newRow("other characters stay") << "a.b'c;%\v"
-                                               << "a.b'c;%";
-        QTest::newRow("nothing left") << " ?*: "
-                                      << "";
-        QTest::newRow("letters of any script")
-            << QString::fromUtf8("\xe6\x97\xa5:\xc3\xbc") << QString::fromUtf8("\xe6\x97\xa5\xc3\xbc");
+        const Rows<QString, QString> row;
+        row("all at once", "  a:b/c?\t", "abc");
+        row("every forbidden character", "0\t1\n2\r3<4>5:6\"7/8\\9|a?b*c", "0123456789abc");
+        row("trimming comes first", ": a :", " a ");
+        row("other characters stay", "a.b'c;%\v", "a.b'c;%");
+        row("nothing left", " ?*: ", "");
+        row("letters of any script", QString::fromUtf8("\xe6\x97\xa5:\xc3\xbc"),
+            QString::fromUtf8("\xe6\x97\xa5\xc3\xbc"));
     }
 
     void fixesFileNames()
     {
-        QFETCH(QString, text);
+        auto [text, fixed] = Rows<QString, QString>::current();
         CActionUtils::FixStringForFilename(&text);
-        QTEST(text, "fixed");
+        QCOMPARE(text, fixed);
     }
 
     void expandsTheSharedFolder_data()
     {
-        QTest::addColumn<QByteArray>("home");
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("expanded");
+        const Rows<QByteArray, QString, QString> row;
         const QByteArray home = "/home/ann";
-        QTest::newRow("none") << home << "/tmp/%HOME%"
-                              << "/tmp/%HOME%";
-        QTest::newRow("another case") << home << "%AllUsersProfile%"
-                                      << "%AllUsersProfile%";
-        QTest::newRow("one") << home << "%ALLUSERSPROFILE%/x"
-                             << "/home/All Users//x";
-        QTest::newRow("two") << home << "%ALLUSERSPROFILE%;%ALLUSERSPROFILE%"
-                             << "/home/All Users/;/home/All Users/";
-        QTest::newRow("home at the top") << QByteArray("/root") << "%ALLUSERSPROFILE%"
-                                         << "/All Users/";
-        QTest::newRow("older layout") << QByteArray("/c/Documents and Settings/ann") << "%ALLUSERSPROFILE%a"
-                                      << "/c/Documents and Settings/All Users/Application Data/a";
-        QTest::newRow("backslashes") << QByteArray("/c\\home\\ann") << "%ALLUSERSPROFILE%"
-                                     << "/c/home/All Users/";
+        row("none", home, "/tmp/%HOME%", "/tmp/%HOME%");
+        row("another case", home, "%AllUsersProfile%", "%AllUsersProfile%");
+        row("one", home, "%ALLUSERSPROFILE%/x", "/home/All Users//x");
+        row("older layout", "/c/Documents and Settings/ann", "%ALLUSERSPROFILE%a",
+            "/c/Documents and Settings/All Users/Application Data/a");
+        row("backslashes", "/c\\home\\ann", "%ALLUSERSPROFILE%", "/c/home/All Users/");
     }
 
     void expandsTheSharedFolder()
     {
-        QFETCH(QByteArray, home);
-        QFETCH(QString, path);
+        const auto [home, path, expected] = Rows<QByteArray, QString, QString>::current();
         const QByteArray before = qgetenv("HOME");
         qputenv("HOME", home);
         const QString expanded = CActionUtils::ReplaceEnvironmentPaths(path);
         qputenv("HOME", before);
-        QTEST(expanded, "expanded");
+        QCOMPARE(expanded, expected);
     }
 
     void rounds_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("rounded");
-        QTest::newRow("half") << 0.5 << 0;
-        QTest::newRow("half below zero") << -0.5 << -1;
-        QTest::newRow("two and a half") << 2.5 << 2;
-        QTest::newRow("above a half") << 2.51 << 3;
-        QTest::newRow("minus two and a half") << -2.5 << -3;
-        QTest::newRow("above minus two and a half") << -2.49 << -2;
-        QTest::newRow("whole") << -3.0 << -3;
-        QTest::newRow("just below a half") << 0.49999999999999994 << 0;
-        QTest::newRow("near the largest") << INT_MAX - 0.25 << INT_MAX;
-        QTest::newRow("beyond the largest") << 1e300 << INT_MAX;
-        QTest::newRow("beyond the smallest") << -1e300 << INT_MIN;
-        QTest::newRow("infinite") << HUGE_VAL << INT_MAX;
-        QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 0;
+        const Rows<double, int> row;
+        row("half", 0.5, 0);
+        row("half below zero", -0.5, -1);
+        row("above a half", 2.51, 3);
+        row("above minus two and a half", -2.49, -2);
+        row("just below a half", 0.49999999999999994, 0);
+        row("near the largest", INT_MAX - 0.25, INT_MAX);
+        row("beyond the largest", 1e300, INT_MAX);
+        row("beyond the smallest", -1e300, INT_MIN);
+        row("infinite", HUGE_VAL, INT_MAX);
+        row("not a number", std::numeric_limits<double>::quiet_NaN(), 0);
     }
 
     void rounds()
     {
-        QFETCH(double, value);
-        QTEST(CActionUtils::Round(value), "rounded");
+        const auto [value, rounded] = Rows<double, int>::current();
+        QCOMPARE(CActionUtils::Round(value), rounded);
     }
 
     void needsNoTargets()
     {
-        QVERIFY(CActionUtils::mNavBarLabel == nullptr && CActionUtils::mInfoLabel == nullptr);
-        const auto showAll = [] {
-            CActionUtils::SetCurrentSection("section");
-            CActionUtils::SetHelpHtml("help");
-            CActionUtils::SetHelp("missing.html");
-        };
-        showAll();
         {
             QLabel label;
             QTextEdit info;
             CActionUtils::SetTargetLabels(&label, &info);
         }
-        showAll();
-        CActionUtils::SetTargetLabels(nullptr, nullptr);
-        showAll();
+        for (int round = 0; round < 2; ++round) {
+            CActionUtils::SetCurrentSection("section");
+            CActionUtils::SetHelpHtml("help");
+            CActionUtils::SetHelp("missing.html");
+            CActionUtils::SetTargetLabels(nullptr, nullptr);
+        }
     }
 
     void showsHelp()
@@ -265,19 +221,14 @@ private slots:
         QLabel label;
         QTextEdit info;
         CActionUtils::SetTargetLabels(&label, &info);
-        QCOMPARE(CActionUtils::mNavBarLabel, &label);
-        QCOMPARE(CActionUtils::mInfoLabel, &info);
-
         CActionUtils::SetCurrentSection("Page order");
         QCOMPARE(label.text(), QString("Page order"));
         CActionUtils::SetHelpHtml("a <b>bold</b> word");
         QCOMPARE(info.toPlainText(), QString("a bold word"));
-        CActionUtils::SetHelp("utf8.html");
-        QCOMPARE(info.toPlainText(), QString::fromUtf8("gr\xc3\xbc\xc3\x9f"
-                                                       "e"));
-        CActionUtils::SetHelp("undeclared.html");
-        QCOMPARE(info.toPlainText(), QString::fromUtf8("gr\xc3\xbc\xc3\x9f"
-                                                       "e"));
+        for (const char* page : {"utf8.html", "undeclared.html"}) {
+            CActionUtils::SetHelp(page);
+            QCOMPARE(info.toPlainText(), QString(QChar(0xfc)).prepend("gr").append(QChar(0xdf)) + "e");
+        }
         CActionUtils::SetHelp("missing.html");
         QCOMPARE(info.toPlainText(), QString());
         CActionUtils::SetTargetLabels(nullptr, nullptr);

@@ -1,5 +1,6 @@
 #include "shared/CUtils.h"
 #include "shared/actionutils/CActionUtils.h"
+#include "support/Rows.h"
 
 #include <QDirIterator>
 #include <QtTest>
@@ -63,26 +64,18 @@ private slots:
 
     void setsTheFoldersUp_data()
     {
-        QTest::addColumn<QStringList>("removed");
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QStringList>("missing");
-        QTest::newRow("all") << QStringList() << QStringList() << QStringList();
-        QTest::newRow("no data root") << QStringList{"data"} << QStringList() << QStringList{"data/"};
-        QTest::newRow("no documents root")
-            << QStringList{"Documents"} << QStringList() << QStringList{"Documents/"};
-        QTest::newRow("a file in the way of a parent")
-            << QStringList() << QStringList{"data/kelvane software/Plexor/Reports"}
-            << QStringList{"data/kelvane software/Plexor/Reports"};
-        QTest::newRow("a file in the way of Input")
-            << QStringList() << QStringList{"Documents/The Host/Input"}
-            << QStringList{"Documents/The Host/Input"};
+        const Rows<QStringList, QStringList, QStringList> row;
+        row("all", {}, {}, {});
+        row("no data root", {"data"}, {}, {"data/"});
+        row("no documents root", {"Documents"}, {}, {"Documents/"});
+        row("a file in the way of a parent", {}, {"data/kelvane software/Plexor/Reports"},
+            {"data/kelvane software/Plexor/Reports"});
+        row("a file in the way of Input", {}, {"Documents/The Host/Input"}, {"Documents/The Host/Input"});
     }
 
     void setsTheFoldersUp()
     {
-        QFETCH(QStringList, removed);
-        QFETCH(QStringList, files);
-        QFETCH(QStringList, missing);
+        const auto [removed, files, missing] = Rows<QStringList, QStringList, QStringList>::current();
         const QDir home(m_home->path());
         for (const QString& folder : removed)
             QVERIFY(home.rmdir(folder));
@@ -103,18 +96,16 @@ private slots:
 
     void makesTemporaryFolders_data()
     {
-        QTest::addColumn<QStringList>("taken");
-        QTest::addColumn<QString>("made");
-        QTest::newRow("name is free") << QStringList{"job_0"} << "job";
-        QTest::newRow("name is taken") << QStringList{"job"} << "job_0";
-        QTest::newRow("first number too") << QStringList{"job", "job_0"} << "job_1";
-        QTest::newRow("gap") << QStringList{"job", "job_0", "job_2"} << "job_1";
+        const Rows<QStringList, QString> row;
+        row("name is free", {"job_0"}, "job");
+        row("name is taken", {"job"}, "job_0");
+        row("first number too", {"job", "job_0"}, "job_1");
+        row("gap", {"job", "job_0", "job_2"}, "job_1");
     }
 
     void makesTemporaryFolders()
     {
-        QFETCH(QStringList, taken);
-        QFETCH(QString, made);
+        const auto [taken, made] = Rows<QStringList, QString>::current();
         for (const QString& name : taken)
             QVERIFY(QDir::temp().mkdir(name));
         QString name = "job";
@@ -185,19 +176,16 @@ private slots:
 
     void usesThePrefixAsItIs_data()
     {
-        QTest::addColumn<QByteArray>("prefix");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("UTF-8") << QByteArray("\xc3\xa9t\xc3\xa9")
-                               << QString::fromUtf8("\xc3\xa9t\xc3\xa9_1.pdf");
-        QTest::newRow("placeholders") << QByteArray("%1%2%s%d") << "%1%2%s%d_1.pdf";
-        QTest::newRow("backslashes") << QByteArray("a\\b\\") << "a/b/_1.pdf";
-        QTest::newRow("empty") << QByteArray() << "_1.pdf";
+        const Rows<QByteArray, QString> row;
+        row("UTF-8", "\xc3\xa9t\xc3\xa9", QString::fromUtf8("\xc3\xa9t\xc3\xa9_1.pdf"));
+        row("placeholders", "%1%2%s%d", "%1%2%s%d_1.pdf");
+        row("backslashes", "a\\b\\", "a/b/_1.pdf");
+        row("empty", {}, "_1.pdf");
     }
 
     void usesThePrefixAsItIs()
     {
-        QFETCH(QByteArray, prefix);
-        QFETCH(QString, name);
+        auto [prefix, name] = Rows<QByteArray, QString>::current();
         QCOMPARE(CUtils::GetNewTempFile(prefix.data()), QDir::tempPath() + '/' + name);
     }
 

@@ -1,18 +1,16 @@
 #include "engine/ByteSource.h"
-#include "engine/EngineError.h"
 #include "engine/IncrementalUpdate.h"
 #include "engine/SourceInput.h"
+#include "support/EngineErrors.h"
 #include "support/PdfBuilder.h"
+#include "support/Rewritten.h"
+#include "support/Rows.h"
 
 #include <QtTest>
-
-#include <qpdf/QPDFWriter.hh>
 
 #include <functional>
 
 using namespace engine;
-
-Q_DECLARE_METATYPE(std::string)
 
 namespace {
 
@@ -48,32 +46,10 @@ std::string updateOf(const std::string& bytes, const char* mode = "/UseOutlines"
     return document.update({document.catalog().getObjGen()});
 }
 
-ErrorCode refusal(const std::function<void()>& function)
-{
-    try {
-        function();
-        return ErrorCode::None;
-    } catch (const EngineError& error) {
-        return error.code();
-    }
-}
-
-std::string rewritten(const std::string& bytes, const std::function<void(QPDFWriter&)>& set)
-{
-    QPDF pdf;
-    pdf.processMemoryFile("document", bytes.data(), bytes.size());
-    QPDFWriter writer(pdf);
-    writer.setOutputMemory();
-    writer.setDeterministicID(true);
-    set(writer);
-    writer.write();
-    const auto buffer = writer.getBufferSharedPointer();
-    return std::string(reinterpret_cast<const char*>(buffer->getBuffer()), buffer->getSize());
-}
-
 std::string withObjectStreams()
 {
     return rewritten(PdfBuilder::simple(), [](QPDFWriter& writer) {
+        writer.setDeterministicID(true);
         writer.setObjectStreamMode(qpdf_o_generate);
         writer.setCompressStreams(false);
     });
@@ -164,36 +140,32 @@ class TestIncrementalUpdate : public QObject
 private slots:
     void appendsToAllKindsOfDocuments_data()
     {
-        QTest::addColumn<std::string>("bytes");
-        QTest::addColumn<bool>("stream");
-        QTest::addColumn<int>("size");
+        const Rows<std::string, bool, int> row;
         const std::string simple = PdfBuilder::simple();
         const std::string compressed = withObjectStreams();
         const std::string junk = "HTTP/1.1 200 OK\r\n\r\n";
-        QTest::newRow("table") << simple << false << 6;
-        QTest::newRow("carriage returns") << everywhere(simple, "\n", "\r") << false << 6;
-        QTest::newRow("entries of 19 bytes") << everywhere(simple, " \n", "\n") << false << 6;
-        QTest::newRow("object streams") << compressed << true << 9;
-        QTest::newRow("linearized") << linearized() << false << 9;
-        QTest::newRow("hybrid") << hybrid() << false << 8;
-        QTest::newRow("junk before the header") << junk + simple << false << 6;
-        QTest::newRow("junk before, stream") << junk + compressed << true << 9;
-        QTest::newRow("no last line end") << simple.substr(0, simple.size() - 1) << false << 6;
-        QTest::newRow("no end-of-file marker") << simple.substr(0, simple.size() - 6) << false << 6;
-        QTest::newRow("long tail") << simple + std::string(20000, '\n') << false << 6;
-        QTest::newRow("long tail of zeros, stream") << compressed + std::string(5000, '\0') << true << 9;
-        QTest::newRow("startxref a little early") << replaced(simple, "\nxref", "\n\n\nxref") << false << 6;
-        QTest::newRow("size too large") << replaced(simple, "/Size 6", "/Size 600") << false << 600;
+        row("table", simple, false, 6);
+        row("carriage returns", everywhere(simple, "\n", "\r"), false, 6);
+        row("entries of 19 bytes", everywhere(simple, " \n", "\n"), false, 6);
+        row("object streams", compressed, true, 9);
+        row("linearized", linearized(), false, 9);
+        row("hybrid", hybrid(), false, 8);
+        row("junk before the header", junk + simple, false, 6);
+        row("junk before, stream", junk + compressed, true, 9);
+        row("no last line end", simple.substr(0, simple.size() - 1), false, 6);
+        row("no end-of-file marker", simple.substr(0, simple.size() - 6), false, 6);
+        row("long tail", simple + std::string(20000, '\n'), false, 6);
+        row("long tail of zeros, stream", compressed + std::string(5000, '\0'), true, 9);
+        row("startxref a little early", replaced(simple, "\nxref", "\n\n\nxref"), false, 6);
+        row("size too large", replaced(simple, "/Size 6", "/Size 600"), false, 600);
         const std::string revised = withRevision(simple, "/Size 2 " + previous(simple));
-        QTest::newRow("older size larger") << revised << false << 6;
-        QTest::newRow("no further revision") << withRevision(simple, "/Size 6 /Prev 0") << false << 6;
+        row("older size larger", revised, false, 6);
+        row("no further revision", withRevision(simple, "/Size 6 /Prev 0"), false, 6);
     }
 
     void appendsToAllKindsOfDocuments()
     {
-        QFETCH(std::string, bytes);
-        QFETCH(bool, stream);
-        QFETCH(int, size);
+        auto [bytes, stream, size] = Rows<std::string, bool, int>::current();
         // Twice, so that an update is also appended to an update.
         for (const char* mode : {"/UseOutlines", "/UseThumbs"}) {
             const std::string update = updateOf(bytes, mode);
@@ -215,43 +187,42 @@ private slots:
 
     void refusesWhatCannotBeBuiltUpon_data()
     {
-        QTest::addColumn<std::string>("bytes");
+        const Rows<std::string> row;
         const std::string simple = PdfBuilder::simple();
         const std::string revised = withRevision(simple, "/Size 6 " + previous(simple));
-        QTest::newRow("no startxref") << replaced(simple, "startxref", "startxxxx");
-        QTest::newRow("startxref at an object") << replaced(simple, previous(simple).substr(6), "15");
-        QTest::newRow("startxref behind the end") << replaced(simple, previous(simple).substr(6), "99999");
-        QTest::newRow("not a table") << replaced(simple, "00000 n", "00000 x");
-        QTest::newRow("no size") << replaced(simple, "/Size", "/Sixe");
-        QTest::newRow("impossible size") << replaced(simple, "/Size 6", "/Size 99999999999");
-        QTest::newRow("direct catalog")
-            << replaced(simple, "/Root 1 0 R", "/Root << /Type /Catalog /Pages 2 0 R >>");
-        QTest::newRow("no catalog in the last trailer") << replaced(revised, "/Root 1 0 R", "/Size 6");
-        QTest::newRow("loop") << withRevision(simple, "/Size 6 " + previous(revised));
-        QTest::newRow("previous section is none") << withRevision(simple, "/Size 6 /Prev 3");
-        QTest::newRow("previous section is no number") << withRevision(simple, "/Size 6 /Prev (3)");
-        QTest::newRow("hybrid without its stream") << replaced(hybrid(), "/XRefStm ", "/XRefStm 1");
+        row("no startxref", replaced(simple, "startxref", "startxxxx"));
+        row("startxref at an object", replaced(simple, previous(simple).substr(6), "15"));
+        row("startxref behind the end", replaced(simple, previous(simple).substr(6), "99999"));
+        row("not a table", replaced(simple, "00000 n", "00000 x"));
+        row("no size", replaced(simple, "/Size", "/Sixe"));
+        row("impossible size", replaced(simple, "/Size 6", "/Size 99999999999"));
+        row("direct catalog", replaced(simple, "/Root 1 0 R", "/Root << /Type /Catalog /Pages 2 0 R >>"));
+        row("no catalog in the last trailer", replaced(revised, "/Root 1 0 R", "/Size 6"));
+        row("loop", withRevision(simple, "/Size 6 " + previous(revised)));
+        row("previous section is none", withRevision(simple, "/Size 6 /Prev 3"));
+        row("previous section is no number", withRevision(simple, "/Size 6 /Prev (3)"));
+        row("hybrid without its stream", replaced(hybrid(), "/XRefStm ", "/XRefStm 1"));
     }
 
     void refusesWhatCannotBeBuiltUpon()
     {
-        QFETCH(std::string, bytes);
+        const auto [bytes] = Rows<std::string>::current();
         QVERIFY(!bytes.empty());
         Opened document(bytes);
         QPDFObjectHandle catalog = document.pdf.getTrailer().getKey("/Root");
-        QCOMPARE(refusal([&] { document.update({catalog.getObjGen()}); }), ErrorCode::CannotAppend);
+        QCOMPARE(errorOf([&] { document.update({catalog.getObjGen()}); }), ErrorCode::CannotAppend);
     }
 
     void refusesObjectsThatItCannotWrite()
     {
         Opened document(PdfBuilder().catalog("").pages(1).stream(7, "", "data").bytes());
-        QCOMPARE(refusal([&] { document.update({}); }), ErrorCode::NothingChanged);
-        QCOMPARE(refusal([&] { document.update({QPDFObjGen(7, 0)}); }), ErrorCode::CannotAppend);
+        QCOMPARE(errorOf([&] { document.update({}); }), ErrorCode::NothingChanged);
+        QCOMPARE(errorOf([&] { document.update({QPDFObjGen(7, 0)}); }), ErrorCode::CannotAppend);
         QPDFObjectHandle deep = QPDFObjectHandle::newNull();
         for (int level = 0; level < 600; ++level)
             deep = QPDFObjectHandle::newArray({deep});
         document.catalog().replaceKey("/Deep", deep);
-        QCOMPARE(refusal([&] { document.update({QPDFObjGen(1, 0)}); }), ErrorCode::TooComplex);
+        QCOMPARE(errorOf([&] { document.update({QPDFObjGen(1, 0)}); }), ErrorCode::TooComplex);
     }
 
     void keepsTheGeneration()
@@ -317,7 +288,7 @@ private slots:
 
     void writesEveryKindOfObjectFaithfully_data()
     {
-        QTest::addColumn<std::string>("value");
+        const Rows<std::string> row;
         for (const char* value : {"null",
                                   "true",
                                   "-0",
@@ -338,12 +309,12 @@ private slots:
                                   "<<>>",
                                   "<</A 1/B#20C<</D[<</E null/F 4 0 R>>]>>>>",
                                   "99999999999"})
-            QTest::newRow(value) << std::string(value);
+            row(value, std::string(value));
     }
 
     void writesEveryKindOfObjectFaithfully()
     {
-        QFETCH(std::string, value);
+        const auto [value] = Rows<std::string>::current();
         Opened document(PdfBuilder::simple());
         QPDFObjectHandle parsed = QPDFObjectHandle::parse(&document.pdf, value);
         const std::string written = ObjectSerializer().write(parsed);
@@ -355,40 +326,23 @@ private slots:
 
     void encryptsTheStringsOfChangedObjects_data()
     {
-        QTest::addColumn<std::string>("bytes");
-        const auto add = [](const char* name, const std::function<void(QPDFWriter&)>& set) {
-            for (const auto streams : {qpdf_o_disable, qpdf_o_generate}) {
-                const std::string bytes = rewritten(PdfBuilder::simple(), [&](QPDFWriter& writer) {
-                    writer.setDeterministicID(false);
-                    writer.setStaticID(true);
-                    set(writer);
-                    writer.setObjectStreamMode(streams);
-                });
-                QTest::newRow(QByteArray(name) + (streams == qpdf_o_generate ? ", streams" : "")) << bytes;
-            }
-        };
-        const auto all = qpdf_r3p_full;
-        add("RC4 40",
-            [](auto& w) { w.setR2EncryptionParametersInsecure(password, "o", true, true, true, true); });
-        add("RC4 128", [&](auto& w) {
-            w.setR3EncryptionParametersInsecure(password, "o", true, true, true, true, true, true, all);
-        });
-        for (const bool aes : {false, true})
-            add(aes ? "AES 128" : "RC4 filter", [&](auto& w) {
-                w.setR4EncryptionParametersInsecure(password, "o", true, true, true, true, true, true, all,
-                                                    true, aes);
-            });
-        add("AES 256 old", [&](auto& w) {
-            w.setR5EncryptionParameters(password, "o", true, true, true, true, true, true, all, true);
-        });
-        add("AES 256", [&](auto& w) {
-            w.setR6EncryptionParameters(password, "o", true, true, true, true, true, true, all, true);
-        });
+        const Rows<std::string> row;
+        const std::tuple<const char*, int, bool> methods[] = {{"RC4 40", 2, false},     {"RC4 128", 3, false},
+                                                              {"RC4 filter", 4, false}, {"AES 128", 4, true},
+                                                              {"AES 256 old", 5, true}, {"AES 256", 6, true}};
+        for (const auto& [name, revision, aes] : methods)
+            for (const auto streams : {qpdf_o_disable, qpdf_o_generate})
+                row(QString(name) + (streams == qpdf_o_generate ? ", streams" : ""),
+                    rewritten(PdfBuilder::simple(), [&, number = revision, byAes = aes](QPDFWriter& writer) {
+                        writer.setStaticID(true);
+                        encrypt(writer, number, password, "o", true, byAes);
+                        writer.setObjectStreamMode(streams);
+                    }));
     }
 
     void encryptsTheStringsOfChangedObjects()
     {
-        QFETCH(std::string, bytes);
+        const auto [bytes] = Rows<std::string>::current();
         const std::string signature =
             "<< /Type /Sig /ByteRange [0 1 2 3] /Contents <736967> /Name (nested name) >>";
         Opened document(bytes);
@@ -412,12 +366,8 @@ private slots:
     void givesNoIdentifierToAnEncryptedDocument()
     {
         // The last revision of the standard security handler makes its key without the identifier.
-        std::string bytes = rewritten(PdfBuilder::simple(), [](QPDFWriter& writer) {
-            writer.setDeterministicID(false);
-            writer.setR6EncryptionParameters(password, "o", true, true, true, true, true, true, qpdf_r3p_full,
-                                             true);
-        });
-        bytes = replaced(bytes, "/ID [", "/IX [");
+        const std::string bytes = replaced(
+            rewritten(PdfBuilder::simple(), [](auto& w) { encrypt(w, 6, password, "o"); }), "/ID [", "/IX [");
         const std::string update = updateOf(bytes);
         QVERIFY(update.find("/ID") == std::string::npos);
         QCOMPARE(Opened(bytes + update).catalog().getKey("/Text").getStringValue(), std::string(text));
@@ -425,13 +375,10 @@ private slots:
 
     void refusesAnUnknownMethodForStrings()
     {
-        std::string bytes = rewritten(PdfBuilder::simple(), [](QPDFWriter& writer) {
-            writer.setDeterministicID(false);
-            writer.setR4EncryptionParametersInsecure(password, "o", true, true, true, true, true, true,
-                                                     qpdf_r3p_full, true, true);
-        });
-        bytes = replaced(bytes, "/StrF /StdCF", "/StrF /OddCF");
-        QCOMPARE(refusal([&] { updateOf(bytes); }), ErrorCode::CannotAppend);
+        const std::string bytes =
+            replaced(rewritten(PdfBuilder::simple(), [](auto& w) { encrypt(w, 4, password, "o"); }),
+                     "/StrF /StdCF", "/StrF /OddCF");
+        QCOMPARE(errorOf([&] { updateOf(bytes); }), ErrorCode::CannotAppend);
     }
 
     void appendsBehindFourGigabytes()
@@ -452,7 +399,8 @@ private slots:
         QPDF pdf;
         pdf.processInputSource(std::make_shared<SourceInput>(source, "large"));
         pdf.getRoot().replaceKey("/Text", QPDFObjectHandle::newString(text));
-        const std::string update = IncrementalUpdate(pdf, CrossReference(pdf, source), *source, {QPDFObjGen(1, 0)}).bytes();
+        const std::string update =
+            IncrementalUpdate(pdf, CrossReference(pdf, source), *source, {QPDFObjGen(1, 0)}).bytes();
         QVERIFY(file.open(QIODevice::Append));
         file.write(update.data(), qint64(update.size()));
         file.close();

@@ -1,5 +1,6 @@
 #include "shared/CIniFile.h"
 #include "shared/IniCheck.h"
+#include "support/Rows.h"
 #include "support/TemporaryHome.h"
 
 #include <QColor>
@@ -109,48 +110,41 @@ private slots:
 
     void judgesFiles_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<bool>("harmless");
+        const Rows<QByteArray, bool> row;
         const QByteArray bomb = variant(nested(QMetaType::QVariantList, deep));
-        QTest::newRow("nothing") << QByteArray() << true;
-        QTest::newRow("no variant possible") << QByteArray("a b\n[\"\nc=d\"e;f\n=\n\xff\xfe") << true;
-        QTest::newRow("few levels") << "k=" + variant(nested(QMetaType::QVariantList, 60)) << true;
-        QTest::newRow("a comment") << ";\"\nk=1\n;" + bomb << true;
-        QTest::newRow("lists") << "k=" + bomb << false;
-        QTest::newRow("maps") << "k=" + variant(nested(QMetaType::QVariantMap, deep)) << false;
-        QTest::newRow("hashes") << "k=" + variant(nested(QMetaType::QVariantHash, deep)) << false;
-        QTest::newRow("variants") << "k=" + variant(nested(QMetaType::QVariant, deep)) << false;
-        QTest::newRow("as a date") << "k=" +
-                                          variant(word(QMetaType::QVariant) + QByteArray(1, 0), "@DateTime(")
-                                   << false;
-        QTest::newRow("quoted") << "k=\"" + bomb + "\"" << false;
-        QTest::newRow("after a comma") << "k=a, \"b\" , " + bomb << false;
-        QTest::newRow("in a group, by CR LF") << "\r\n[g]\r\n \t k = " + bomb + "\r\n" << false;
-        QTest::newRow("overwritten later") << "k=" + bomb + "\nk=1\n" << false;
-        QTest::newRow("behind a number sign") << "#k=" + bomb << false;
-        QTest::newRow("a section that is none") << "\f[k]=" + bomb << false;
-        QTest::newRow("begun by an escape") << "k=\\x40" + bomb.mid(1) << false;
-        QTest::newRow("begun in octal") << "k=\\100" + bomb.mid(1) << false;
-        QTest::newRow("behind an unknown escape") << "k=\\q" + bomb << false;
-        QTest::newRow("split by quotes") << "k=\"@Var\"\"iant(" + bomb.mid(9) << false;
-        QTest::newRow("over two lines") << "k=\"\n\"," + bomb << false;
-        QTest::newRow("more items than bytes")
-            << "k=" + variant(word(QMetaType::QVariantList) + word(0x7fffffff)) << false;
-        QTest::newRow("more texts than bytes")
-            << "k=" + variant(word(QMetaType::QStringList) + word(0x7fffffff)) << false;
-        QTest::newRow("a pixmap") << "k=" + variant(word(65) + word(0)) << false;
-        QTest::newRow("a picture") << "k=" + variant(picture(QSize(4096, 2))) << true;
-        QTest::newRow("a large picture") << "k=" + variant(picture(QSize(4097, 2))) << false;
+        row("nothing", {}, true);
+        row("no variant possible", "a b\n[\"\nc=d\"e;f\n=\n\xff\xfe", true);
+        row("few levels", "k=" + variant(nested(QMetaType::QVariantList, 60)), true);
+        row("a comment", ";\"\nk=1\n;" + bomb, true);
+        row("lists", "k=" + bomb, false);
+        row("maps", "k=" + variant(nested(QMetaType::QVariantMap, deep)), false);
+        row("hashes", "k=" + variant(nested(QMetaType::QVariantHash, deep)), false);
+        row("variants", "k=" + variant(nested(QMetaType::QVariant, deep)), false);
+        row("as a date", "k=" + variant(word(QMetaType::QVariant) + QByteArray(1, 0), "@DateTime("), false);
+        row("quoted", "k=\"" + bomb + "\"", false);
+        row("after a comma", "k=a, \"b\" , " + bomb, false);
+        row("in a group, by CR LF", "\r\n[g]\r\n \t k = " + bomb + "\r\n", false);
+        row("overwritten later", "k=" + bomb + "\nk=1\n", false);
+        row("behind a number sign", "#k=" + bomb, false);
+        row("a section that is none", "\f[k]=" + bomb, false);
+        row("begun by an escape", "k=\\x40" + bomb.mid(1), false);
+        row("begun in octal", "k=\\100" + bomb.mid(1), false);
+        row("split by quotes", "k=\"@Var\"\"iant(" + bomb.mid(9), false);
+        row("over two lines", "k=\"\n\"," + bomb, false);
+        row("more items than bytes", "k=" + variant(word(QMetaType::QVariantList) + word(0x7fffffff)), false);
+        row("more texts than bytes", "k=" + variant(word(QMetaType::QStringList) + word(0x7fffffff)), false);
+        row("a pixmap", "k=" + variant(word(65) + word(0)), false);
+        row("a picture", "k=" + variant(picture(QSize(4096, 2))), true);
+        row("a large picture", "k=" + variant(picture(QSize(4097, 2))), false);
     }
 
     void judgesFiles()
     {
-        QFETCH(const QByteArray, text);
-        QFETCH(const bool, harmless);
-        QTEST(isHarmlessIni(text), "harmless");
+        const auto [text, harmless] = Rows<QByteArray, bool>::current();
+        QCOMPARE(isHarmlessIni(text), harmless);
         const QString path = m_folder.filePath("judged.ini");
         QVERIFY(writeFile(path, text));
-        QTEST(CIniFile(path, CIniFile::Access::Extend).commit(), "harmless");
+        QCOMPARE(CIniFile(path, CIniFile::Access::Extend).commit(), harmless);
         QVERIFY(harmless || !CIniFile(path, CIniFile::Access::Read).contains("k"));
     }
 };

@@ -1,4 +1,5 @@
 #include "shared/CIniFile.h"
+#include "support/Rows.h"
 #include "support/TemporaryHome.h"
 
 #include <QCoreApplication>
@@ -158,21 +159,19 @@ private slots:
 
     void neverHangsOnTheLock_data()
     {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<int>("longest");
-        QTest::newRow("a folder") << "folder" << 1500;
-        QTest::newRow("a FIFO") << "fifo" << 1500;
-        QTest::newRow("a link to a FIFO") << "link" << 1500;
-        QTest::newRow("a huge file") << "huge" << 1500;
-        QTest::newRow("left by a dead process") << "dead" << 1500;
-        QTest::newRow("old and empty") << "old" << 1500;
-        QTest::newRow("new and empty") << "new" << 5000;
+        const Rows<QString, int> row;
+        row("a folder", "folder", 1500);
+        row("a FIFO", "fifo", 1500);
+        row("a link to a FIFO", "link", 1500);
+        row("a huge file", "huge", 1500);
+        row("left by a dead process", "dead", 1500);
+        row("old and empty", "old", 1500);
+        row("new and empty", "new", 5000);
     }
 
     void neverHangsOnTheLock()
     {
-        QFETCH(const QString, kind);
-        QFETCH(const int, longest);
+        const auto [kind, longest] = Rows<QString, int>::current();
         const QString lock = m_path + ".lock";
         if (kind == "folder")
             QVERIFY(QDir().mkpath(lock + "/filled"));

@@ -2,6 +2,7 @@
 #include "support/ManualsSettings.h"
 #include "support/PdfBuilder.h"
 #include "support/ProgramRun.h"
+#include "support/Rows.h"
 #include "support/TemporaryHome.h"
 
 #include <QSettings>
@@ -35,17 +36,165 @@ class TestLists : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void tellsInWords();
-    void tellsInJson();
-    void tellsOfNothing();
-    void namesWhatCannotBeRead();
-    void printsNothingThatATerminalObeys();
-    void runsByName_data();
-    void runsByName();
-    void namesWhatThereIs_data();
-    void namesWhatThereIs();
-    void needsNoFolderForAPath();
+    void init()
+    {
+        m_home.reset();
+        QVERIFY(writeFile(m_home.filePath("a.pdf"), QByteArray::fromStdString(PdfBuilder::simple())));
+    }
+
+    void tellsInWords()
+    {
+        QVERIFY(QFile::copy(TEST_DATA_DIR "/manuals.xqq", TemporaryHome::actionList("manuals.xqq")));
+        storeList("two.xqq", "Two", {"Watermark", "Initial View"});
+        Map odd{{"LayoutAndMagnCheckBox", true}, {"PageLayoutComboBox", 99}};
+        storeFavorite("f.ini", odd, "Odd one");
+        const ProgramRun run = quintar({"lists"});
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(run.status, 0);
+        const QByteArray words = run.out.simplified();
+        for (const char* told :
+             {"File: manuals.xqq",
+              "1. Initial View Navigation tab Bookmarks Panel and Page Page layout One Column",
+              "Open at page 2 Magnification Fit Width Hide tool bars no", "Fit window to page yes",
+              "Full screen no Title bar shows Document Title",
+              "Two File: two.xqq 1. Watermark (cannot be run here)", "2. Initial View Navigation tab",
+              "Odd one File: f.ini 1. Initial View Navigation tab Page Only",
+              "Page layout row 99, which does not exist Open at page unchanged Magnification unchanged",
+              "Viewer preferences unchanged"})
+            QVERIFY2(words.contains(told), (QByteArray(told) + " not in " + words).constData());
+    }
+
+    void tellsInJson()
+    {
+        storeList("two_lists.xqq", "two lists", {"Watermark", "Initial View"});
+        storeFavorite("f.ini", {{"ActionName", "Watermark"}}, "Another's");
+        const QList<QJsonObject> lines = ProgramRun::jsonLines(quintar({"lists", "--json"}).out);
+        QCOMPARE(lines.size(), 2);
+        QCOMPARE(lines[0].value("kind"), QJsonValue("action list"));
+        QCOMPARE(lines[0].value("name"), QJsonValue("two lists"));
+        QCOMPARE(lines[0].value("category"), QJsonValue());
+        QCOMPARE(QFileInfo(lines[0].value("file").toString()),
+                 QFileInfo(TemporaryHome::actionList("two_lists.xqq")));
+        const QJsonArray actions = lines[0].value("actions").toArray();
+        QCOMPARE(actions[0].toObject(), (QJsonObject{{"action", "Watermark"}, {"settings", QJsonValue()}}));
+        QCOMPARE(actions[1].toObject().value("settings").toObject(),
+                 QJsonObject::fromVariantMap(manualsSettings()));
+        QCOMPARE(lines[1].value("kind"), QJsonValue("favourite"));
+        QCOMPARE(lines[1].value("actions").toArray()[0].toObject().value("action"), QJsonValue("Watermark"));
+    }
+
+    // A user who never stored anything need not have the folders either.
+    void tellsOfNothing()
+    {
+        QVERIFY(QDir(m_home.filePath("share")).removeRecursively());
+        const ProgramRun run = quintar({"lists"});
+        QCOMPARE(run.status, 0);
+        QVERIFY2(run.out.count(": none") == 2, run.out);
+        QCOMPARE(quintar({"lists", "--json"}).out, QByteArray());
+    }
+
+    void namesWhatCannotBeRead()
+    {
+        storeList("good.xqq", "Good");
+        QVERIFY(writeFile(TemporaryHome::actionList("bad.xqq"), "no settings"));
+        QVERIFY(QDir().mkpath(TemporaryHome::favorite("folder.ini")));
+        const ProgramRun run = quintar({"lists"});
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.out.contains("Good"), run.out);
+        QVERIFY2(run.err.contains("/bad.xqq: not an action list") &&
+                     run.err.contains("/folder.ini: is a directory"),
+                 run.err);
+
+        QVERIFY(QDir(m_home.filePath("share")).removeRecursively() &&
+                writeFile(m_home.filePath("share"), ""));
+        const ProgramRun unmade = quintar({"lists"});
+        QCOMPARE(unmade.status, 1);
+        QVERIFY2(unmade.err.count("share is not a folder") == 2, unmade.err);
+    }
+
+    void printsNothingThatATerminalObeys()
+    {
+        const QString hostile = QString::fromUtf8("\x1b[2J\xc2\x9b"
+                                                  "31m\xe2\x80\xae\r\n\a\x7f");
+        storeList(hostile + ".xqq", "n" + hostile, {"a" + hostile, "Initial View"});
+        Map settings = manualsSettings();
+        settings["PageLayoutComboBox"] = "9" + hostile;
+        storeFavorite("f.ini", settings, hostile);
+        storeFavorite("g.ini", {{"ActionName", hostile}}, hostile);
+        QVERIFY(writeFile(TemporaryHome::favorite(hostile + ".ini"), "bad"));
+        for (const QStringList& words : {QStringList{"lists"}, QStringList{"lists", "--json"},
+                                         QStringList{"run", "--list", "x", "-o", "out", "a.pdf"}}) {
+            const ProgramRun run = quintar(words);
+            for (const QChar character : QString::fromUtf8(run.out + run.err))
+                QVERIFY2(character == '\n' || (character.category() != QChar::Other_Control &&
+                                               character.category() != QChar::Other_Format),
+                         qPrintable(QString::number(character.unicode(), 16)));
+            QVERIFY(run.out.contains("[2J") || run.err.contains("[2J"));
+        }
+    }
+
+    void runsByName_data()
+    {
+        const Rows<QStringList> row;
+        row("a list's name", {"--list", "For my manuals"});
+        row("its file without suffix", {"--list", "manuals_x"});
+        row("the same with a space", {"--list", "manuals x"});
+        row("its file", {"--list", "manuals_x.xqq"});
+        row("a name that a folder has, too", {"--list", "folder"});
+        row("a favourite's name", {"--favorite", "Fine & good"});
+        row("a favourite's file", {"--favorite", "f"});
+    }
+
+    void runsByName()
+    {
+        const auto [words] = Rows<QStringList>::current();
+        storeList("manuals_x.xqq", "For my manuals");
+        storeList("folder.xqq", QVariant());
+        storeFavorite("f.ini", manualsSettings(), "Fine & good");
+        QVERIFY(writeFile(TemporaryHome::actionList("bad.xqq"), "no settings"));
+        QVERIFY(QDir().mkpath(m_home.filePath("folder")));
+        const ProgramRun run = quintar(QStringList{"run", "-o", "out", "a.pdf"} + words);
+        QVERIFY2(run.status == 0, run.err);
+        const QJsonObject view = ProgramRun::jsonLines(quintar({"show", "--json", "out/a.pdf"}).out).value(0);
+        QCOMPARE(view.value("pageMode"), QJsonValue("UseOutlines"));
+    }
+
+    void namesWhatThereIs_data()
+    {
+        const Rows<QStringList, QStringList> row;
+        row("unknown", {"--list", "none"},
+            {"none: no such file, and no action list", "\n  Same  (a.xqq)", "\n  bad  (bad.xqq)"});
+        row("other case", {"--list", "same"}, {"no action list", "Same"});
+        row("ambiguous", {"--list", "Same"}, {"more than one action list", "(a.xqq)", "(b.xqq)"});
+        row("no favourites", {"--favorite", "Same"}, {"no favourite in ", "there are none"});
+        row("a path is no name", {"--list", "./Same"}, {"./Same: no such file or directory"});
+        row("damaged", {"--list", "bad"}, {"bad.xqq: not an action list"});
+    }
+
+    void namesWhatThereIs()
+    {
+        const auto [words, named] = Rows<QStringList, QStringList>::current();
+        storeList("a.xqq", "Same");
+        storeList("b.xqq", "Same");
+        QVERIFY(writeFile(TemporaryHome::actionList("bad.xqq"), "no settings"));
+        const ProgramRun run = quintar(QStringList{"run", "-o", "out", "a.pdf"} + words);
+        QCOMPARE(run.status, 2);
+        for (const QString& text : named)
+            QVERIFY2(run.err.contains(text.toUtf8()), run.err);
+        QVERIFY(!QFile::exists(m_home.filePath("out")));
+    }
+
+    void needsNoFolderForAPath()
+    {
+        QVERIFY(QDir(m_home.filePath("share")).removeRecursively() &&
+                writeFile(m_home.filePath("share"), ""));
+        const QStringList run{"run", "-o", "out", "a.pdf"};
+        const ProgramRun byPath = quintar(run + QStringList{"--list", TEST_DATA_DIR "/manuals.xqq"});
+        QVERIFY2(byPath.status == 0 && !byPath.err.contains("share"), byPath.err);
+        const ProgramRun byName = quintar(run + QStringList{"--list", "manuals"});
+        QCOMPARE(byName.status, 2);
+        QVERIFY2(byName.err.contains("share is not a folder"), byName.err);
+    }
 
 private:
     ProgramRun quintar(const QStringList& arguments) const
@@ -55,170 +204,6 @@ private:
 
     TemporaryHome m_home;
 };
-
-void TestLists::init()
-{
-    m_home.reset();
-    QVERIFY(writeFile(m_home.filePath("a.pdf"), QByteArray::fromStdString(PdfBuilder::simple())));
-}
-
-void TestLists::tellsInWords()
-{
-    QVERIFY(QFile::copy(TEST_DATA_DIR "/manuals.xqq", TemporaryHome::actionList("manuals.xqq")));
-    storeList("two.xqq", "Two", {"Watermark", "Initial View"});
-    Map odd{{"LayoutAndMagnCheckBox", true}, {"PageLayoutComboBox", 99}};
-    storeFavorite("f.ini", odd, "Odd one");
-    const ProgramRun run = quintar({"lists"});
-    QCOMPARE(run.err, QByteArray());
-    QCOMPARE(run.status, 0);
-    const QByteArray words = run.out.simplified();
-    for (const char* told :
-         {"File: manuals.xqq",
-          "1. Initial View Navigation tab Bookmarks Panel and Page Page layout One Column",
-          "Open at page 2 Magnification Fit Width Hide tool bars no", "Fit window to page yes",
-          "Full screen no Title bar shows Document Title",
-          "Two File: two.xqq 1. Watermark (cannot be run here)", "2. Initial View Navigation tab",
-          "Odd one File: f.ini 1. Initial View Navigation tab Page Only",
-          "Page layout row 99, which does not exist Open at page unchanged Magnification unchanged",
-          "Viewer preferences unchanged"})
-        QVERIFY2(words.contains(told), (QByteArray(told) + " not in " + words).constData());
-}
-
-void TestLists::tellsInJson()
-{
-    storeList("two_lists.xqq", "two lists", {"Watermark", "Initial View"});
-    storeFavorite("f.ini", {{"ActionName", "Watermark"}}, "Another's");
-    const QList<QJsonObject> lines = ProgramRun::jsonLines(quintar({"lists", "--json"}).out);
-    QCOMPARE(lines.size(), 2);
-    QCOMPARE(lines[0].value("kind"), QJsonValue("action list"));
-    QCOMPARE(lines[0].value("name"), QJsonValue("two lists"));
-    QCOMPARE(lines[0].value("category"), QJsonValue());
-    QCOMPARE(QFileInfo(lines[0].value("file").toString()),
-             QFileInfo(TemporaryHome::actionList("two_lists.xqq")));
-    const QJsonArray actions = lines[0].value("actions").toArray();
-    QCOMPARE(actions[0].toObject(), (QJsonObject{{"action", "Watermark"}, {"settings", QJsonValue()}}));
-    QCOMPARE(actions[1].toObject().value("settings").toObject(),
-             QJsonObject::fromVariantMap(manualsSettings()));
-    QCOMPARE(lines[1].value("kind"), QJsonValue("favourite"));
-    QCOMPARE(lines[1].value("actions").toArray()[0].toObject().value("action"), QJsonValue("Watermark"));
-}
-
-// A user who never stored anything need not have the folders either.
-void TestLists::tellsOfNothing()
-{
-    QVERIFY(QDir(m_home.filePath("share")).removeRecursively());
-    const ProgramRun run = quintar({"lists"});
-    QCOMPARE(run.status, 0);
-    QVERIFY2(run.out.count(": none") == 2, run.out);
-    QCOMPARE(quintar({"lists", "--json"}).out, QByteArray());
-}
-
-void TestLists::namesWhatCannotBeRead()
-{
-    storeList("good.xqq", "Good");
-    QVERIFY(writeFile(TemporaryHome::actionList("bad.xqq"), "no settings"));
-    QVERIFY(QDir().mkpath(TemporaryHome::favorite("folder.ini")));
-    const ProgramRun run = quintar({"lists"});
-    QCOMPARE(run.status, 1);
-    QVERIFY2(run.out.contains("Good"), run.out);
-    QVERIFY2(run.err.contains("/bad.xqq: not an action list") &&
-                 run.err.contains("/folder.ini: is a directory"),
-             run.err);
-
-    QVERIFY(QDir(m_home.filePath("share")).removeRecursively() && writeFile(m_home.filePath("share"), ""));
-    const ProgramRun unmade = quintar({"lists"});
-    QCOMPARE(unmade.status, 1);
-    QVERIFY2(unmade.err.count("share is not a folder") == 2, unmade.err);
-}
-
-void TestLists::printsNothingThatATerminalObeys()
-{
-    const QString hostile = QString::fromUtf8("\x1b[2J\xc2\x9b"
-                                              "31m\xe2\x80\xae\r\n\a\x7f");
-    storeList(hostile + ".xqq", "n" + hostile, {"a" + hostile, "Initial View"});
-    Map settings = manualsSettings();
-    settings["PageLayoutComboBox"] = "9" + hostile;
-    storeFavorite("f.ini", settings, hostile);
-    storeFavorite("g.ini", {{"ActionName", hostile}}, hostile);
-    QVERIFY(writeFile(TemporaryHome::favorite(hostile + ".ini"), "bad"));
-    for (const QStringList& words : {QStringList{"lists"}, QStringList{"lists", "--json"},
-                                     QStringList{"run", "--list", "x", "-o", "out", "a.pdf"}}) {
-        const ProgramRun run = quintar(words);
-        for (const QChar character : QString::fromUtf8(run.out + run.err))
-            QVERIFY2(character == '\n' || (character.category() != QChar::Other_Control &&
-                                           character.category() != QChar::Other_Format),
-                     qPrintable(QString::number(character.unicode(), 16)));
-        QVERIFY(run.out.contains("[2J") || run.err.contains("[2J"));
-    }
-}
-
-void TestLists::runsByName_data()
-{
-    QTest::addColumn<QStringList>("words");
-    QTest::newRow("a list's name") << QStringList{"--list", "For my manuals"};
-    QTest::newRow("its file without suffix") << QStringList{"--list", "manuals_x"};
-    QTest::newRow("the same with a space") << QStringList{"--list", "manuals x"};
-    QTest::newRow("its file") << QStringList{"--list", "manuals_x.xqq"};
-    QTest::newRow("a name that a folder has, too") << QStringList{"--list", "folder"};
-    QTest::newRow("a favourite's name") << QStringList{"--favorite", "Fine & good"};
-    QTest::newRow("a favourite's file") << QStringList{"--favorite", "f"};
-}
-
-void TestLists::runsByName()
-{
-    QFETCH(QStringList, words);
-    storeList("manuals_x.xqq", "For my manuals");
-    storeList("folder.xqq", QVariant());
-    storeFavorite("f.ini", manualsSettings(), "Fine & good");
-    QVERIFY(writeFile(TemporaryHome::actionList("bad.xqq"), "no settings"));
-    QVERIFY(QDir().mkpath(m_home.filePath("folder")));
-    const ProgramRun run = quintar(QStringList{"run", "-o", "out", "a.pdf"} + words);
-    QVERIFY2(run.status == 0, run.err);
-    const QJsonObject view = ProgramRun::jsonLines(quintar({"show", "--json", "out/a.pdf"}).out).value(0);
-    QCOMPARE(view.value("pageMode"), QJsonValue("UseOutlines"));
-}
-
-void TestLists::namesWhatThereIs_data()
-{
-    QTest::addColumn<QStringList>("words");
-    QTest::addColumn<QStringList>("named");
-    QTest::newRow("unknown") << QStringList{"--list", "none"}
-                             << QStringList{"none: no such file, and no action list", "\n  Same  (a.xqq)",
-                                            "\n  bad  (bad.xqq)"};
-    QTest::newRow("other case") << QStringList{"--list", "same"} << QStringList{"no action list", "Same"};
-    QTest::newRow("ambiguous") << QStringList{"--list", "Same"}
-                               << QStringList{"more than one action list", "(a.xqq)", "(b.xqq)"};
-    QTest::newRow("no favourites") << QStringList{"--favorite", "Same"}
-                                   << QStringList{"no favourite in ", "there are none"};
-    QTest::newRow("a path is no name")
-        << QStringList{"--list", "./Same"} << QStringList{"./Same: no such file or directory"};
-    QTest::newRow("damaged") << QStringList{"--list", "bad"} << QStringList{"bad.xqq: not an action list"};
-}
-
-void TestLists::namesWhatThereIs()
-{
-    QFETCH(QStringList, words);
-    QFETCH(QStringList, named);
-    storeList("a.xqq", "Same");
-    storeList("b.xqq", "Same");
-    QVERIFY(writeFile(TemporaryHome::actionList("bad.xqq"), "no settings"));
-    const ProgramRun run = quintar(QStringList{"run", "-o", "out", "a.pdf"} + words);
-    QCOMPARE(run.status, 2);
-    for (const QString& text : named)
-        QVERIFY2(run.err.contains(text.toUtf8()), run.err);
-    QVERIFY(!QFile::exists(m_home.filePath("out")));
-}
-
-void TestLists::needsNoFolderForAPath()
-{
-    QVERIFY(QDir(m_home.filePath("share")).removeRecursively() && writeFile(m_home.filePath("share"), ""));
-    const QStringList run{"run", "-o", "out", "a.pdf"};
-    const ProgramRun byPath = quintar(run + QStringList{"--list", TEST_DATA_DIR "/manuals.xqq"});
-    QVERIFY2(byPath.status == 0 && !byPath.err.contains("share"), byPath.err);
-    const ProgramRun byName = quintar(run + QStringList{"--list", "manuals"});
-    QCOMPARE(byName.status, 2);
-    QVERIFY2(byName.err.contains("share is not a folder"), byName.err);
-}
 
 QTEST_GUILESS_MAIN(TestLists)
 #include "TestLists.moc"

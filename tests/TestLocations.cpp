@@ -1,5 +1,6 @@
 #include "CActionUtils.h"
 #include "CUtils.h"
+#include "support/Rows.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -34,20 +35,19 @@ private slots:
 
     void keepsTexts_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("folder") << "/srv/scans";
-        QTest::newRow("empty, which is not the desktop") << "";
-        QTest::newRow("what an INI file sets apart") << "C:\\a, \"b\"; c=d % [e] #f";
-        QTest::newRow("the mark of a typed value") << "@Invalid()";
-        QTest::newRow("white space") << "  a\tb\r\nc  ";
-        QTest::newRow("other scripts")
-            << QString::fromUtf8("/\xe6\x97\xa5\xe6\x9c\xac/\xc3\xbc/\xf0\x9f\x93\x84");
-        QTest::newRow("long") << QString(5000, 'x');
+        const Rows<QString> row;
+        row("folder", "/srv/scans");
+        row("empty, which is not the desktop", "");
+        row("what an INI file sets apart", "C:\\a, \"b\"; c=d % [e] #f");
+        row("the mark of a typed value", "@Invalid()");
+        row("white space", "  a\tb\r\nc  ");
+        row("other scripts", QString::fromUtf8("/\xe6\x97\xa5\xe6\x9c\xac/\xc3\xbc/\xf0\x9f\x93\x84"));
+        row("long", QString(5000, 'x'));
     }
 
     void keepsTexts()
     {
-        QFETCH(QString, text);
+        const auto [text] = Rows<QString>::current();
         CActionUtils::SaveLastVisitedLocation("place", "before");
         CActionUtils::SaveLastVisitedLocation("place", text);
         CActionUtils::SaveLastEnteredLink("links", text);
@@ -60,26 +60,20 @@ private slots:
 
     void keepsTheLatestLinks_data()
     {
-        QTest::addColumn<QString>("entered");
-        QTest::addColumn<QString>("kept");
-        QTest::newRow("five of six") << "a b c d e f"
-                                     << "f e d c b";
-        QTest::newRow("again moves to the front") << "a b a"
-                                                  << "a b";
-        QTest::newRow("again among five drops none") << "a b c d e c"
-                                                     << "c e d b a";
-        QTest::newRow("twice in a row") << "a a"
-                                        << "a";
-        QTest::newRow("case makes another link") << "a A"
-                                                 << "A a";
+        const Rows<QString, QString> row;
+        row("five of six", "a b c d e f", "f e d c b");
+        row("again moves to the front", "a b a", "a b");
+        row("again among five drops none", "a b c d e c", "c e d b a");
+        row("twice in a row", "a a", "a");
+        row("case makes another link", "a A", "A a");
     }
 
     void keepsTheLatestLinks()
     {
-        QFETCH(QString, entered);
+        const auto [entered, kept] = Rows<QString, QString>::current();
         for (const QString& link : entered.split(' '))
             CActionUtils::SaveLastEnteredLink("Dialog/Link field", link);
-        QTEST(CActionUtils::GetLastEnteredLinks("Dialog/Link field").join(' '), "kept");
+        QCOMPARE(CActionUtils::GetLastEnteredLinks("Dialog/Link field").join(' '), kept);
         QCOMPARE(CActionUtils::GetLastEnteredLinks("Dialog/Other field"), QStringList());
     }
 

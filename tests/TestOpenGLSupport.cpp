@@ -1,4 +1,5 @@
 #include "shared/CUtils.h"
+#include "support/Rows.h"
 
 #include <QApplication>
 #include <QtTest>
@@ -25,18 +26,17 @@ private slots:
 
     void judgesVersionFlags_data()
     {
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<bool>("enough");
+        const Rows<int, bool> row;
         for (const int flags : {INT_MIN, -1, 0, 31, 65, 127, 128, 1024, 2047})
-            QTest::addRow("%d", flags) << flags << false;
+            row(QString::asprintf("%d", flags), flags, false);
         for (const int flags : {32, 63, 64, 2048, 4096, 0xffff, INT_MAX})
-            QTest::addRow("%d", flags) << flags << true;
+            row(QString::asprintf("%d", flags), flags, true);
     }
 
     void judgesVersionFlags()
     {
-        QFETCH(int, flags);
-        QTEST(CUtils::OpenGLFlagsSuffice(flags), "enough");
+        const auto [flags, enough] = Rows<int, bool>::current();
+        QCOMPARE(CUtils::OpenGLFlagsSuffice(flags), enough);
     }
 
     void isFalseWithoutADisplay()

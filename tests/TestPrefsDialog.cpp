@@ -2,14 +2,16 @@
 #include "EditInitialView/InitialViewSettings.h"
 #include "shared/CUtils.h"
 
+#include "support/Methods.h"
 #include "support/Mute.h"
+#include "support/Person.h"
+#include "support/Rows.h"
 
 #include <QDir>
 #include <QLineEdit>
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
 
 #include <functional>
@@ -90,33 +92,6 @@ void type(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
 }
 
-/// Once a further dialog is up, hands it over; closes it if it is still up then.
-void withNextDialog(const std::function<void(QDialog&)>& use)
-{
-    auto* timer = new QTimer(qApp);
-    timer->setSingleShot(true);
-    QObject::connect(timer, &QTimer::timeout, [timer, use] {
-        timer->deleteLater();
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialog != nullptr);
-        use(*dialog);
-        if (dialog->isVisible())
-            dialog->reject();
-    });
-    timer->start(0);
-}
-
-/// The objects that Tab reaches, beginning with the one that has the focus.
-QStringList tabOrder()
-{
-    QStringList order;
-    while (!order.contains(focusName())) {
-        order << focusName();
-        type(Qt::Key_Tab);
-    }
-    return order;
-}
-
 const QStringList layoutFields{"NavigationTabComboBox", "PageLayoutComboBox", "MagnificationComboBox",
                                "OpenToPageSpinBox"};
 const QStringList viewerFields{"HideToobarsCheckBox",
@@ -193,11 +168,10 @@ private slots:
 
     void readsOddValuesAsTheirTypeSays_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<QVariant>("written");
-        const auto row = [](const char* name, const QVariant& stored, const QVariant& written) {
-            QTest::addRow("%s %s", name, qPrintable(stored.toString())) << QString(name) << stored << written;
+        const Rows<QString, QVariant, QVariant> add;
+        const auto row = [&add](const char* name, const QVariant& stored, const QVariant& written) {
+            add(QString::asprintf("%s %s", name, qPrintable(stored.toString())), QString(name), stored,
+                written);
         };
         // A row that the list does not have selects none.
         for (const char* list : {key::NavigationTab, key::PageLayout, key::Magnification, key::Show}) {
@@ -218,9 +192,7 @@ private slots:
 
     void readsOddValuesAsTheirTypeSays()
     {
-        QFETCH(QString, name);
-        QFETCH(QVariant, stored);
-        QFETCH(QVariant, written);
+        const auto [name, stored, written] = Rows<QString, QVariant, QVariant>::current();
         Dialog dialog;
         QCOMPARE(dialog.prefsAfter({{name, stored}}).value(name), written);
         QCOMPARE(dialog.prefsAfter({{name, 1}}).value(name).toInt(), 1);
@@ -250,12 +222,12 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
         dialog.ui.LayoutAndMagnGrp->setFocus();
         const QStringList end{"okButton", "cancelButton"};
-        QCOMPARE(tabOrder(), QStringList("LayoutAndMagnGrp") + layoutFields + QStringList("ViewerPrefsGrp") +
-                                 viewerFields + end);
+        QCOMPARE(person::tabOrder(dialog), QStringList("LayoutAndMagnGrp") + layoutFields +
+                                               QStringList("ViewerPrefsGrp") + viewerFields + end);
         dialog.ui.ViewerPrefsGrp->setChecked(false);
         dialog.ui.LayoutAndMagnGrp->setChecked(false);
         dialog.ui.LayoutAndMagnGrp->setFocus();
-        QCOMPARE(tabOrder(), QStringList({"LayoutAndMagnGrp", "ViewerPrefsGrp"}) + end);
+        QCOMPARE(person::tabOrder(dialog), QStringList({"LayoutAndMagnGrp", "ViewerPrefsGrp"}) + end);
     }
 
     void isUsableByKeyboardAlone()
@@ -264,22 +236,17 @@ private slots:
         dialog.show();
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
         QCOMPARE(focusName(), QString("LayoutAndMagnGrp"));
-        type(Qt::Key_Tab);
-        type(Qt::Key_Down);
-        type(Qt::Key_Tab);
-        type(Qt::Key_End);
+        for (const int key : {Qt::Key_Tab, Qt::Key_Down, Qt::Key_Tab, Qt::Key_End})
+            type(key);
         QCOMPARE(dialog.ui.PageLayoutComboBox->toolTip(), QString("No preference set in document"));
         type(Qt::Key_Tab);
         QTest::keyClicks(QApplication::focusWidget(), "800");
         type(Qt::Key_Tab);
         type(Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(QApplication::focusWidget(), "42");
-        type(Qt::Key_Tab);
-        type(Qt::Key_Tab);
-        type(Qt::Key_Space);
-        type(Qt::Key_Return);
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        QVERIFY(!dialog.isVisible());
+        for (const int key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return})
+            type(key);
+        QVERIFY(dialog.result() == QDialog::Accepted && !dialog.isVisible());
         const Prefs prefs = dialog.prefs();
         QCOMPARE(prefs[key::NavigationTab], QVariant(1));
         QCOMPARE(prefs[key::PageLayout], QVariant(6));
@@ -290,20 +257,19 @@ private slots:
         dialog.show();
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
         type(Qt::Key_Escape);
-        QCOMPARE(dialog.result(), int(QDialog::Rejected));
-        QVERIFY(!dialog.isVisible());
+        QVERIFY(dialog.result() == QDialog::Rejected && !dialog.isVisible());
     }
 
     void clipsNoTextInAnyFont_data()
     {
-        QTest::addColumn<int>("pixels");
+        const Rows<int> row;
         for (const int pixels : {11, 13, 16, 24})
-            QTest::addRow("%d pixels", pixels) << pixels;
+            row(QString::asprintf("%d pixels", pixels), pixels);
     }
 
     void clipsNoTextInAnyFont()
     {
-        QFETCH(int, pixels);
+        const auto [pixels] = Rows<int>::current();
         const QFont standard = QApplication::font();
         QFont font = standard;
         font.setPixelSize(pixels);
@@ -366,11 +332,10 @@ private slots:
         Dialog dialog;
         dialog.show();
         Prefs prefs = dialog.prefsAfter({{key::PageLayout, 4}, {key::HideMenuBar, true}});
-        withNextDialog([&](QDialog& further) {
-            QCOMPARE(further.metaObject()->className(), "CSaveAsActionlistDialog");
+        person::whenOpens("CSaveAsActionlistDialog", [&](QDialog& further) {
             QCOMPARE(further.parentWidget(), &dialog);
-            further.findChild<QLineEdit*>("actionListNameLineEdit")->setText("Two pages");
-            further.findChild<QPushButton*>("saveButton")->click();
+            person::widget<QLineEdit>(further, "actionListNameLineEdit")->setText("Two pages");
+            person::click(further, "saveButton");
         });
         dialog.findChild<QToolButton*>("QDtoolbarAddToActionListButton")->click();
         QVERIFY(dialog.isVisible());
@@ -383,14 +348,14 @@ private slots:
 
     void closesAsRejectedAfterTheFavourites_data()
     {
-        QTest::addColumn<QString>("button");
-        QTest::newRow("saved") << "saveButton";
-        QTest::newRow("cancelled") << "cancelButton";
+        const Rows<QString> row;
+        row("saved", "saveButton");
+        row("cancelled", "cancelButton");
     }
 
     void closesAsRejectedAfterTheFavourites()
     {
-        QFETCH(QString, button);
+        const auto [button] = Rows<QString>::current();
         Dialog dialog;
         QPixmap image(128, 128);
         image.fill(Qt::red);
@@ -400,8 +365,7 @@ private slots:
         dialog.setResult(QDialog::Accepted);
         dialog.show();
         const Prefs prefs = dialog.prefsAfter({{key::OpenToPage, 17}});
-        withNextDialog([&](QDialog& further) {
-            QCOMPARE(further.metaObject()->className(), "CSaveAsCollectionDialog");
+        person::whenOpens("CSaveAsCollectionDialog", [&](QDialog& further) {
             const QIcon icon = further.findChild<QToolButton*>("icon_toolButton")->icon();
             QCOMPARE(icon.pixmap(QSize(128, 128)).toImage(), image.toImage());
             further.findChild<QLineEdit*>("collectionNameLineEdit")->setText("Page 17 " + button);
@@ -422,12 +386,9 @@ private slots:
 
     void hasItsSlotsInOrder()
     {
-        const QMetaObject& meta = CPrefsDialog::staticMetaObject;
-        QStringList methods;
-        for (int index = meta.methodOffset(); index < meta.methodCount(); ++index)
-            methods << meta.method(index).methodSignature();
-        QCOMPARE(methods, QStringList({"on_QDShowSaveDialog()", "on_QDShowSaveCollectionDialog()", "accept()",
-                                       "reject()"}));
+        QCOMPARE(methodsOf<CPrefsDialog>(),
+                 (QStringList{"slot on_QDShowSaveDialog()", "slot on_QDShowSaveCollectionDialog()",
+                              "slot accept()", "slot reject()"}));
     }
 };
 

@@ -2,7 +2,9 @@
 #include "shared/frame/CQuintarDialog.h"
 
 #include "support/Hand.h"
+#include "support/Methods.h"
 #include "support/Mute.h"
+#include "support/Rows.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -121,16 +123,8 @@ private slots:
 
     void drawsShadowsInTheOuterCells_data()
     {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QSize>("least");
-        QTest::addColumn<QSize>("most");
-        QTest::addColumn<QString>("sheet");
+        const Rows<int, int, QSize, QSize, QString> add;
         const int most = QWIDGETSIZE_MAX;
-        const auto add = [](const char* name, int row, int column, QSize least, QSize most,
-                            const char* sheet) {
-            QTest::newRow(name) << row << column << least << most << QString(sheet);
-        };
         add("QDshadowTopLeft", 0, 0, {8, 8}, {8, 8},
             "QFrame#QDshadowTopLeft {\nbackground-image: url(:/Quintar/Resources/DialogShadow-TopLeft.png);\n"
             "background-repeat: no-repeat;\nbackground-position: bottom right;\nborder: 0px transparent;\n}");
@@ -148,43 +142,35 @@ private slots:
 
     void drawsShadowsInTheOuterCells()
     {
-        QFETCH(int, row);
-        QFETCH(int, column);
+        const auto [row, column, least, most, sheet] = Rows<int, int, QSize, QSize, QString>::current();
         Dialog dialog;
         const auto* shadow = dialog.child<QFrame>(QTest::currentDataTag());
         const auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
         QCOMPARE(grid->itemAtPosition(row, column)->widget(), shadow);
-        QTEST(shadow->minimumSize(), "least");
-        QTEST(shadow->maximumSize(), "most");
-        QTEST(shadow->styleSheet(), "sheet");
+        QCOMPARE(shadow->minimumSize(), least);
+        QCOMPARE(shadow->maximumSize(), most);
+        QCOMPARE(shadow->styleSheet(), sheet);
         QVERIFY(shadow->isHidden());
         QCOMPARE(grid->itemAtPosition(1, 1)->widget(), dialog.mainFrame);
     }
 
     void followsTheHost_data()
     {
-        QTest::addColumn<QStringList>("ancestry"); // outermost first
-        QTest::addColumn<bool>("prefixed");
-        QTest::addColumn<bool>("blue");
-        QTest::addColumn<int>("preview"); // position in the ancestry
-        QTest::newRow("none") << QStringList() << true << false << -1;
-        QTest::newRow("unknown") << QStringList{"quintarclass"} << true << false << -1;
-        QTest::newRow("main window") << QStringList{"QuintarClass"} << false << true << -1;
-        QTest::newRow("within the main window")
-            << QStringList{"QuintarClass", "a", "b"} << false << true << -1;
-        QTest::newRow("preview") << QStringList{"QuintarPreviewClass", "a"} << false << false << 0;
-        QTest::newRow("preview nearer")
-            << QStringList{"QuintarClass", "QuintarPreviewClass", "a"} << false << false << 1;
-        QTest::newRow("main window nearer")
-            << QStringList{"QuintarPreviewClass", "QuintarClass"} << false << true << -1;
+        // ancestry: outermost first
+        // preview: position in the ancestry
+        const Rows<QStringList, bool, bool, int> row;
+        row("none", {}, true, false, -1);
+        row("unknown", {"quintarclass"}, true, false, -1);
+        row("main window", {"QuintarClass"}, false, true, -1);
+        row("within the main window", {"QuintarClass", "a", "b"}, false, true, -1);
+        row("preview", {"QuintarPreviewClass", "a"}, false, false, 0);
+        row("preview nearer", {"QuintarClass", "QuintarPreviewClass", "a"}, false, false, 1);
+        row("main window nearer", {"QuintarPreviewClass", "QuintarClass"}, false, true, -1);
     }
 
     void followsTheHost()
     {
-        QFETCH(QStringList, ancestry);
-        QFETCH(bool, prefixed);
-        QFETCH(bool, blue);
-        QFETCH(int, preview);
+        const auto [ancestry, prefixed, blue, preview] = Rows<QStringList, bool, bool, int>::current();
         const Ancestry hosts(ancestry);
         const Dialog dialog(hosts.innermost());
         QCOMPARE(dialog.prefixLabel->isHidden(), !prefixed);
@@ -206,28 +192,23 @@ private slots:
 
     void takesTheSizeOfItsContent_data()
     {
-        QTest::addColumn<bool>("translucent");
-        QTest::addColumn<bool>("fixedSize");
-        QTest::addColumn<QSize>("least");
-        QTest::addColumn<QSize>("most");
+        const Rows<bool, bool, QSize, QSize> row;
         const QSize any(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-        QTest::newRow("opaque, fixed") << false << true << QSize(400, 335) << QSize(400, 335);
-        QTest::newRow("translucent, fixed") << true << true << QSize(400, 351) << QSize(400, 351);
-        QTest::newRow("opaque, free") << false << false << QSize(400, 335) << any;
-        QTest::newRow("translucent, free") << true << false << QSize(416, 351) << any;
+        row("opaque, fixed", false, true, {400, 335}, {400, 335});
+        row("translucent, fixed", true, true, {400, 351}, {400, 351});
+        row("opaque, free", false, false, {400, 335}, any);
+        row("translucent, free", true, false, {416, 351}, any);
     }
 
     void takesTheSizeOfItsContent()
     {
-        QFETCH(bool, translucent);
-        QFETCH(bool, fixedSize);
-        QFETCH(QSize, least);
+        const auto [translucent, fixedSize, least, most] = Rows<bool, bool, QSize, QSize>::current();
         CUtils::SetOpenGLSupport(translucent);
         Dialog dialog;
         dialog.addEverything(fixedSize);
         QCOMPARE(dialog.testAttribute(Qt::WA_TranslucentBackground), translucent);
         QCOMPARE(dialog.minimumSize(), least);
-        QTEST(dialog.maximumSize(), "most");
+        QCOMPARE(dialog.maximumSize(), most);
         QCOMPARE(dialog.size(), least);
         QCOMPARE(dialog.framelessHandler.isWidgetResizable(), !fixedSize);
         dialog.show();
@@ -236,23 +217,22 @@ private slots:
 
     void centresItself_data()
     {
-        QTest::addColumn<QRect>("preview");
-        QTest::addColumn<QPoint>("corner");
+        const Rows<QRect, QPoint> row;
         // 416 by 351, the extra width counted, whatever the width is afterwards.
-        QTest::newRow("preview") << QRect(100, 50, 1000, 701) << QPoint(599 - 207, 400 - 175);
-        QTest::newRow("left of the screen") << QRect(-1000, -901, 800, 600) << QPoint(-600 - 207, -601 - 175);
+        row("preview", {100, 50, 1000, 701}, {599 - 207, 400 - 175});
+        row("left of the screen", {-1000, -901, 800, 600}, {-600 - 207, -601 - 175});
     }
 
     void centresItself()
     {
-        QFETCH(QRect, preview);
+        const auto [preview, corner] = Rows<QRect, QPoint>::current();
         CUtils::SetOpenGLSupport(true);
         QWidget host;
         host.setObjectName("QuintarPreviewClass");
         host.setGeometry(preview);
         Dialog dialog(&host);
         dialog.addEverything();
-        QTEST(dialog.pos(), "corner");
+        QCOMPARE(dialog.pos(), corner);
 
         // The host has meanwhile become something else.
         Dialog other(&host);
@@ -308,14 +288,14 @@ private slots:
 
     void isMovedByItsHeader_data()
     {
-        QTest::addColumn<bool>("fixedSize");
-        QTest::newRow("fixed") << true;
-        QTest::newRow("free") << false;
+        const Rows<bool> row;
+        row("fixed", true);
+        row("free", false);
     }
 
     void isMovedByItsHeader()
     {
-        QFETCH(bool, fixedSize);
+        const auto [fixedSize] = Rows<bool>::current();
         Dialog dialog;
         dialog.addEverything(fixedSize);
         dialog.move(100, 100);
@@ -331,12 +311,7 @@ private slots:
 
     void addsOnlyItsOwnExecToTheMethods()
     {
-        const QMetaObject& meta = CQuintarDialog::staticMetaObject;
-        QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
-        const QMetaMethod method = meta.method(meta.methodOffset());
-        QCOMPARE(method.methodSignature(), QByteArray("exec()"));
-        QCOMPARE(method.methodType(), QMetaMethod::Slot);
-        QCOMPARE(method.returnType(), int(QMetaType::Int));
+        QCOMPARE(methodsOf<CQuintarDialog>(), QStringList{"slot exec()"});
         QCOMPARE(CQuintarHeaderButton::staticMetaObject.className(), "QToolButton");
     }
 };

@@ -1,5 +1,6 @@
 #include "EditInitialView/InitialViewSettings.h"
 #include "EditInitialView/editinitialview.h"
+#include "support/Rows.h"
 
 #include <QApplication>
 #include <QDirIterator>
@@ -42,24 +43,24 @@ class TestResources : public QObject
 private slots:
     void imagesHaveTheSizesShown_data()
     {
-        QTest::addColumn<QSize>("size");
+        const Rows<QSize> row;
         for (const char* name : {"", "_Selected", "_Disabled"})
-            QTest::addRow("Tools/Action_IntialView%s.png", name) << QSize(128, 128);
+            row(QString::asprintf("Tools/Action_IntialView%s.png", name), {128, 128});
         for (const char* part : {"TopLeft", "Top", "TopRight", "Left", "Right", "BtmLeft", "Btm", "BtmRight"})
-            QTest::addRow("DialogShadow-%s.png", part) << QSize(8, 8);
+            row(QString::asprintf("DialogShadow-%s.png", part), {8, 8});
         for (const char* name : {"WinClose", "WinClose_disabled"})
-            QTest::addRow("%s.png", name) << QSize(14, 14);
+            row(QString::asprintf("%s.png", name), {14, 14});
         for (const char* name :
              {"PaneActionList_extra", "PaneActionList_disabled", "Collection", "Collection_disabled"})
-            QTest::addRow("%s.png", name) << QSize(20, 20);
-        QTest::newRow("PaneActionList_selected.png") << QSize(41, 42);
-        QTest::newRow("Icons/App_icon_256x256.png") << QSize(256, 256);
-        QTest::newRow("QuintarHeader.png") << QSize(600, 30);
+            row(QString::asprintf("%s.png", name), {20, 20});
+        row("PaneActionList_selected.png", {41, 42});
+        row("Icons/App_icon_256x256.png", {256, 256});
+        row("QuintarHeader.png", {600, 30});
     }
 
     void imagesHaveTheSizesShown()
     {
-        QFETCH(const QSize, size);
+        const auto [size] = Rows<QSize>::current();
         const QString file = resources + QTest::currentDataTag();
         const QImage image(file);
         QCOMPARE(image.size(), size);

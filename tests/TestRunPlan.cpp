@@ -1,11 +1,11 @@
 #include "host/RunPlan.h"
-#include "host/UsageError.h"
+#include "support/Rows.h"
+#include "support/UsageErrors.h"
+#include "support/WorkFolder.h"
 
-#include <QTemporaryDir>
 #include <QtTest>
 
-#include <filesystem>
-#include <fstream>
+#include <optional>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -18,221 +18,183 @@ class TestRunPlan : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void findsWhatAFolderHolds();
-    void leavesOutTheOutputFolder();
-    void placesOutputs();
-    void namesWhatCannotBeWorkedOn();
-    void refusesSharedOutputs_data();
-    void refusesSharedOutputs();
-    void refusesToOverwriteADocument();
-    void followsLinksInPlace();
+    void init() { m_folder.emplace(); }
+    void cleanup() { m_folder.reset(); }
+
+    void findsWhatAFolderHolds()
+    {
+        for (const char* name :
+             {"in/b.pdf", "in/a.PDF", "in/a/z.Pdf", "in/c.pdf.txt", "in/pdf", "in/.hidden.pdf",
+              "in/.hidden/x.pdf", "in/x\xff\n.pdf", "in/deep/er/y.pdf", "outside.pdf"})
+            WorkFolder::put(name);
+        fs::create_directories("in/folder.pdf");
+        fs::create_directory_symlink("..", "in/loop");
+        fs::create_symlink("../outside.pdf", "in/link.pdf");
+        QCOMPARE(mkfifo("in/fifo.pdf", 0600), 0);
+        RunPlan plan("out");
+        plan.add("in//");
+        QCOMPARE(targets(plan),
+                 std::string("in/a/z.Pdf>out/a/z.Pdf in/a.PDF>out/a.PDF in/b.pdf>out/b.pdf "
+                             "in/deep/er/y.pdf>out/deep/er/y.pdf in/x\xff\n.pdf>out/x\xff\n.pdf "));
+        QVERIFY(refusalFor(plan).empty());
+        plan.add("in/folder.pdf");
+        QCOMPARE(plan.emptyFolders(), std::vector<std::string>{"in/folder.pdf"});
+
+        const fs::path here = fs::current_path();
+        const std::string name(250, 'd');
+        for (int depth = 0; depth < 20; ++depth) {
+            fs::create_directory(name);
+            fs::current_path(name);
+        }
+        fs::current_path(here);
+        RunPlan tooLong("out");
+        tooLong.add(name);
+        QCOMPARE(tooLong.documents().size(), std::size_t(1));
+        QCOMPARE(tooLong.documents()[0].problem, std::string("file name too long"));
+    }
+
+    void leavesOutTheOutputFolder()
+    {
+        WorkFolder::put("in/a.pdf");
+        WorkFolder::put("in/out/a.pdf");
+        RunPlan plan("in/out");
+        plan.add("in");
+        QCOMPARE(targets(plan), std::string("in/a.pdf>in/out/a.pdf "));
+        RunPlan onItself("in");
+        onItself.add("in");
+        QVERIFY(refusalFor(onItself).find("would overwrite") != std::string::npos);
+    }
+
+    void placesOutputs()
+    {
+        WorkFolder::put("d/one.pdf");
+        WorkFolder::put("two");
+        RunPlan plan("new/er/out/");
+        plan.add("d/one.pdf");
+        plan.add("./two");
+        QCOMPARE(targets(plan), std::string("d/one.pdf>new/er/out/one.pdf ./two>new/er/out/two "));
+        WorkFolder::put("d/deep/x\xff.pdf");
+        RunPlan below("out", "./d/");
+        for (const std::string& name :
+             {std::string("d/one.pdf"), fs::absolute("d/deep").string() + "/../deep"})
+            below.add(name);
+        QCOMPARE(below.documents()[0].target, fs::canonical(".").string() + "/out/one.pdf");
+        QCOMPARE(below.documents()[1].target, fs::canonical(".").string() + "/out/deep/x\xff.pdf");
+        below.add("d/missing.pdf");
+        QVERIFY_EXCEPTION_THROWN(below.add("two"), UsageError);
+        QVERIFY_EXCEPTION_THROWN(RunPlan("out", "two").add("two"), UsageError);
+        RunPlan inPlace("");
+        inPlace.add("d/../d/one.pdf");
+        QCOMPARE(targets(inPlace), std::string("d/../d/one.pdf>d/one.pdf "));
+    }
+
+    void namesWhatCannotBeWorkedOn()
+    {
+        QCOMPARE(mkfifo("fifo.pdf", 0600), 0);
+        fs::create_symlink("nowhere", "broken.pdf");
+        WorkFolder::put("file");
+        RunPlan plan("out");
+        for (const std::string& name :
+             {std::string("missing.pdf"), std::string("fifo.pdf"), std::string("broken.pdf"),
+              std::string("file/x.pdf"), std::string(5000, 'x')})
+            plan.add(name);
+        QStringList problems;
+        for (const RunPlan::Document& document : plan.documents())
+            problems += QString::fromStdString(document.problem);
+        QCOMPARE(problems,
+                 (QStringList{"no such file or directory", "not a regular file", "no such file or directory",
+                              "not a directory", "file name too long"}));
+        QVERIFY(refusalFor(plan).empty());
+        QVERIFY_EXCEPTION_THROWN(plan.add(""), UsageError);
+    }
+
+    void refusesSharedOutputs_data()
+    {
+        const Rows<QString, QStringList, bool> row;
+        row("same name in two folders", "out", {"a/x.pdf", "b/x.pdf"}, true);
+        row("twice the same", "out", {"a/x.pdf", "./a/x.pdf"}, true);
+        row("two folders", "out", {"a", "b"}, true);
+        row("folder and its own document, in place", "", {"a", "a/x.pdf"}, true);
+        row("link and its target, in place", "", {"a/x.pdf", "link.pdf"}, true);
+        row("linked folder, in place", "", {"a/x.pdf", "linked/x.pdf"}, true);
+        row("outputs that are linked", "linkedout", {"a/p.pdf", "a/q.pdf"}, true);
+        row("hard links, in place", "", {"a/x.pdf", "hard.pdf"}, false);
+        row("in place", "", {"a", "b"}, false);
+        row("the missing collide with nothing", "out", {"no/x.pdf", "a/x.pdf"}, false);
+    }
+
+    void refusesSharedOutputs()
+    {
+        const auto [output, inputs, refused] = Rows<QString, QStringList, bool>::current();
+        for (const char* name : {"a/x.pdf", "a/p.pdf", "a/q.pdf", "b/x.pdf", "linkedout/p.pdf"})
+            WorkFolder::put(name);
+        fs::create_symlink("a/x.pdf", "link.pdf");
+        fs::create_directory_symlink("a", "linked");
+        fs::create_hard_link("a/x.pdf", "hard.pdf");
+        fs::create_symlink("p.pdf", "linkedout/q.pdf");
+        RunPlan plan(output.toStdString());
+        for (const QString& input : inputs)
+            plan.add(input.toStdString());
+        QCOMPARE(refusalFor(plan).find("would have the same output") != std::string::npos, refused);
+    }
+
+    void refusesToOverwriteADocument()
+    {
+        WorkFolder::put("a/x.pdf");
+        WorkFolder::put("b/y.pdf");
+        fs::create_directory_symlink("a", "linked");
+        fs::create_directories("out");
+        const auto refused = [](const char* output, std::initializer_list<const char*> inputs) {
+            RunPlan plan(output);
+            for (const char* input : inputs)
+                plan.add(input);
+            return refusalFor(plan).find("would overwrite") != std::string::npos;
+        };
+        QVERIFY(refused("a", {"a/x.pdf"}));
+        QVERIFY(refused("linked", {"a/x.pdf"}));
+        QVERIFY(!refused("out", {"a/x.pdf", "b/y.pdf"}));
+        fs::create_hard_link("a/x.pdf", "out/y.pdf");
+        QVERIFY(refused("out", {"a/x.pdf", "b/y.pdf"}));
+        RunPlan plan("out");
+        plan.add("a/x.pdf");
+        QVERIFY_EXCEPTION_THROWN(plan.checkReport("linked/x.pdf", {}), UsageError);
+        QVERIFY_EXCEPTION_THROWN(plan.checkReport("out/x.pdf", {}), UsageError);
+        WorkFolder::put("settings");
+        QVERIFY_EXCEPTION_THROWN(plan.checkReport("linked/../settings", {"settings"}), UsageError);
+        plan.checkReport("report.jsonl", {"settings"});
+    }
+
+    void followsLinksInPlace()
+    {
+        WorkFolder::put("real/x.pdf");
+        fs::create_symlink("real/x.pdf", "one.pdf");
+        fs::create_symlink("one.pdf", "two.pdf");
+        RunPlan plan("");
+        plan.add("two.pdf");
+        QCOMPARE(targets(plan), std::string("two.pdf>real/x.pdf "));
+    }
 
 private:
-    static void make(const std::string& path);
-    static std::string targets(const RunPlan& plan);
-    static std::string refusalOf(const RunPlan& plan);
+    static std::string refusalFor(const RunPlan& plan)
+    {
+        return refusalOf([&plan] { plan.checkTargets(); });
+    }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    fs::path m_before;
+    /// "name>target" of each document, targets relative to the current folder.
+    static std::string targets(const RunPlan& plan)
+    {
+        const std::string here = fs::canonical(".").string() + "/";
+        std::string text;
+        for (const RunPlan::Document& document : plan.documents()) {
+            const std::string target = document.problem.empty() ? document.target : "!" + document.problem;
+            text +=
+                document.name + ">" + (target.find(here) == 0 ? target.substr(here.size()) : target) + " ";
+        }
+        return text;
+    }
+
+    std::optional<WorkFolder> m_folder;
 };
-
-void TestRunPlan::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_before = fs::current_path();
-    fs::current_path(m_folder->path().toStdString());
-}
-
-void TestRunPlan::cleanup()
-{
-    fs::current_path(m_before);
-}
-
-void TestRunPlan::make(const std::string& path)
-{
-    if (const fs::path folder = fs::path(path).parent_path(); !folder.empty())
-        fs::create_directories(folder);
-    std::ofstream(path) << "x";
-}
-
-/// "name>target" of each document, targets relative to the current folder.
-std::string TestRunPlan::targets(const RunPlan& plan)
-{
-    const std::string here = fs::canonical(".").string() + "/";
-    std::string text;
-    for (const RunPlan::Document& document : plan.documents()) {
-        const std::string target = document.problem.empty() ? document.target : "!" + document.problem;
-        text += document.name + ">" + (target.find(here) == 0 ? target.substr(here.size()) : target) + " ";
-    }
-    return text;
-}
-
-std::string TestRunPlan::refusalOf(const RunPlan& plan)
-{
-    try {
-        plan.checkTargets();
-    } catch (const UsageError& error) {
-        return error.what();
-    }
-    return {};
-}
-
-void TestRunPlan::findsWhatAFolderHolds()
-{
-    for (const char* name : {"in/b.pdf", "in/a.PDF", "in/a/z.Pdf", "in/c.pdf.txt", "in/pdf", "in/.hidden.pdf",
-                             "in/.hidden/x.pdf", "in/x\xff\n.pdf", "in/deep/er/y.pdf", "outside.pdf"})
-        make(name);
-    fs::create_directories("in/folder.pdf");
-    fs::create_directory_symlink("..", "in/loop");
-    fs::create_symlink("../outside.pdf", "in/link.pdf");
-    QCOMPARE(mkfifo("in/fifo.pdf", 0600), 0);
-    RunPlan plan("out");
-    plan.add("in//");
-    QCOMPARE(targets(plan),
-             std::string("in/a/z.Pdf>out/a/z.Pdf in/a.PDF>out/a.PDF in/b.pdf>out/b.pdf "
-                         "in/deep/er/y.pdf>out/deep/er/y.pdf in/x\xff\n.pdf>out/x\xff\n.pdf "));
-    QVERIFY(refusalOf(plan).empty());
-    plan.add("in/folder.pdf");
-    QCOMPARE(plan.emptyFolders(), std::vector<std::string>{"in/folder.pdf"});
-
-    const fs::path here = fs::current_path();
-    const std::string name(250, 'd');
-    for (int depth = 0; depth < 20; ++depth) {
-        fs::create_directory(name);
-        fs::current_path(name);
-    }
-    fs::current_path(here);
-    RunPlan tooLong("out");
-    tooLong.add(name);
-    QCOMPARE(tooLong.documents().size(), std::size_t(1));
-    QCOMPARE(tooLong.documents()[0].problem, std::string("file name too long"));
-    fs::remove_all(name); // beyond QTemporaryDir
-}
-
-void TestRunPlan::leavesOutTheOutputFolder()
-{
-    make("in/a.pdf");
-    make("in/out/a.pdf");
-    RunPlan plan("in/out");
-    plan.add("in");
-    QCOMPARE(targets(plan), std::string("in/a.pdf>in/out/a.pdf "));
-    RunPlan onItself("in");
-    onItself.add("in");
-    QVERIFY(refusalOf(onItself).find("would overwrite") != std::string::npos);
-}
-
-void TestRunPlan::placesOutputs()
-{
-    make("d/one.pdf");
-    make("two");
-    RunPlan plan("new/er/out/");
-    plan.add("d/one.pdf");
-    plan.add("./two");
-    QCOMPARE(targets(plan), std::string("d/one.pdf>new/er/out/one.pdf ./two>new/er/out/two "));
-    make("d/deep/x\xff.pdf");
-    RunPlan below("out", "./d/");
-    for (const std::string& name : {std::string("d/one.pdf"), fs::absolute("d/deep").string() + "/../deep"})
-        below.add(name);
-    QCOMPARE(below.documents()[0].target, fs::canonical(".").string() + "/out/one.pdf");
-    QCOMPARE(below.documents()[1].target, fs::canonical(".").string() + "/out/deep/x\xff.pdf");
-    below.add("d/missing.pdf");
-    QVERIFY_EXCEPTION_THROWN(below.add("two"), UsageError);
-    QVERIFY_EXCEPTION_THROWN(RunPlan("out", "two").add("two"), UsageError);
-    RunPlan inPlace("");
-    inPlace.add("d/../d/one.pdf");
-    QCOMPARE(targets(inPlace), std::string("d/../d/one.pdf>d/one.pdf "));
-}
-
-void TestRunPlan::namesWhatCannotBeWorkedOn()
-{
-    QCOMPARE(mkfifo("fifo.pdf", 0600), 0);
-    fs::create_symlink("nowhere", "broken.pdf");
-    make("file");
-    RunPlan plan("out");
-    for (const std::string& name :
-         {std::string("missing.pdf"), std::string("fifo.pdf"), std::string("broken.pdf"),
-          std::string("file/x.pdf"), std::string(5000, 'x')})
-        plan.add(name);
-    QStringList problems;
-    for (const RunPlan::Document& document : plan.documents())
-        problems += QString::fromStdString(document.problem);
-    QCOMPARE(problems, (QStringList{"no such file or directory", "not a regular file",
-                                    "no such file or directory", "not a directory", "file name too long"}));
-    QVERIFY(refusalOf(plan).empty());
-    QVERIFY_EXCEPTION_THROWN(plan.add(""), UsageError);
-}
-
-void TestRunPlan::refusesSharedOutputs_data()
-{
-    QTest::addColumn<QString>("output");
-    QTest::addColumn<QStringList>("inputs");
-    QTest::addColumn<bool>("refused");
-    QTest::newRow("same name in two folders") << "out" << QStringList{"a/x.pdf", "b/x.pdf"} << true;
-    QTest::newRow("twice the same") << "out" << QStringList{"a/x.pdf", "./a/x.pdf"} << true;
-    QTest::newRow("two folders") << "out" << QStringList{"a", "b"} << true;
-    QTest::newRow("folder and its own document, in place") << "" << QStringList{"a", "a/x.pdf"} << true;
-    QTest::newRow("link and its target, in place") << "" << QStringList{"a/x.pdf", "link.pdf"} << true;
-    QTest::newRow("linked folder, in place") << "" << QStringList{"a/x.pdf", "linked/x.pdf"} << true;
-    QTest::newRow("outputs that are linked") << "linkedout" << QStringList{"a/p.pdf", "a/q.pdf"} << true;
-    QTest::newRow("hard links, in place") << "" << QStringList{"a/x.pdf", "hard.pdf"} << false;
-    QTest::newRow("in place") << "" << QStringList{"a", "b"} << false;
-    QTest::newRow("the missing collide with nothing") << "out" << QStringList{"no/x.pdf", "a/x.pdf"} << false;
-}
-
-void TestRunPlan::refusesSharedOutputs()
-{
-    QFETCH(QString, output);
-    QFETCH(QStringList, inputs);
-    QFETCH(bool, refused);
-    for (const char* name : {"a/x.pdf", "a/p.pdf", "a/q.pdf", "b/x.pdf", "linkedout/p.pdf"})
-        make(name);
-    fs::create_symlink("a/x.pdf", "link.pdf");
-    fs::create_directory_symlink("a", "linked");
-    fs::create_hard_link("a/x.pdf", "hard.pdf");
-    fs::create_symlink("p.pdf", "linkedout/q.pdf");
-    RunPlan plan(output.toStdString());
-    for (const QString& input : inputs)
-        plan.add(input.toStdString());
-    QCOMPARE(refusalOf(plan).find("would have the same output") != std::string::npos, refused);
-}
-
-void TestRunPlan::refusesToOverwriteADocument()
-{
-    make("a/x.pdf");
-    make("b/y.pdf");
-    fs::create_directory_symlink("a", "linked");
-    fs::create_directories("out");
-    const auto refused = [](const char* output, std::initializer_list<const char*> inputs) {
-        RunPlan plan(output);
-        for (const char* input : inputs)
-            plan.add(input);
-        return refusalOf(plan).find("would overwrite") != std::string::npos;
-    };
-    QVERIFY(refused("a", {"a/x.pdf"}));
-    QVERIFY(refused("linked", {"a/x.pdf"}));
-    QVERIFY(!refused("out", {"a/x.pdf", "b/y.pdf"}));
-    fs::create_hard_link("a/x.pdf", "out/y.pdf");
-    QVERIFY(refused("out", {"a/x.pdf", "b/y.pdf"}));
-    RunPlan plan("out");
-    plan.add("a/x.pdf");
-    QVERIFY_EXCEPTION_THROWN(plan.checkReport("linked/x.pdf", {}), UsageError);
-    QVERIFY_EXCEPTION_THROWN(plan.checkReport("out/x.pdf", {}), UsageError);
-    make("settings");
-    QVERIFY_EXCEPTION_THROWN(plan.checkReport("linked/../settings", {"settings"}), UsageError);
-    plan.checkReport("report.jsonl", {"settings"});
-}
-
-void TestRunPlan::followsLinksInPlace()
-{
-    make("real/x.pdf");
-    fs::create_symlink("real/x.pdf", "one.pdf");
-    fs::create_symlink("one.pdf", "two.pdf");
-    RunPlan plan("");
-    plan.add("two.pdf");
-    QCOMPARE(targets(plan), std::string("two.pdf>real/x.pdf "));
-}
 
 QTEST_GUILESS_MAIN(TestRunPlan)
 #include "TestRunPlan.moc"

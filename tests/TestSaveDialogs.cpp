@@ -2,6 +2,9 @@
 #include "shared/lists/CSaveAsActionlistDialog.h"
 #include "shared/lists/CSaveAsCollectionDialog.h"
 #include "support/ManualsSettings.h"
+#include "support/Methods.h"
+#include "support/Person.h"
+#include "support/Rows.h"
 #include "support/TemporaryHome.h"
 
 #include <QApplication>
@@ -9,7 +12,6 @@
 #include <QPixmap>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTimer>
 #include <QTranslator>
 #include <QtTest>
 
@@ -33,28 +35,6 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-QStringList methodsOf(const QMetaObject& type)
-{
-    QStringList methods;
-    for (int i = type.methodOffset(); i < type.methodCount(); ++i)
-        methods.append(QString(type.method(i).methodType() == QMetaMethod::Signal ? "signal " : "slot ") +
-                       type.method(i).methodSignature());
-    return methods;
-}
-
-/// The names of the widgets that Tab leads to, from the first one on.
-QStringList tabOrder(QWidget* dialog, QWidget* first)
-{
-    first->setFocus();
-    QStringList names;
-    for (QWidget* at = first; at != nullptr && !names.contains(at->objectName());
-         at = dialog->focusWidget()) {
-        names.append(at->objectName());
-        QTest::keyClick(at, Qt::Key_Tab);
-    }
-    return names;
-}
-
 template <class Dialog>
 void open(Dialog& dialog, Map* prefs)
 {
@@ -67,36 +47,6 @@ void click(QWidget* widget)
 {
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier,
                       qobject_cast<QRadioButton*>(widget) ? QPoint(10, widget->height() / 2) : QPoint());
-}
-
-/// Runs an action in the file dialog that opens next.
-template <class Action>
-void whenFileDialogOpens(Action action)
-{
-    auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, [timer, action] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr)
-            return;
-        timer->deleteLater();
-        timer->stop();
-        action(dialog);
-    });
-    timer->start(10);
-}
-
-void nameFile(const QString& path)
-{
-    whenFileDialogOpens([path](QFileDialog* dialog) {
-        auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
-        name->setText(path);
-        QTest::keyClick(name, Qt::Key_Return);
-    });
-}
-
-void cancelFileDialog()
-{
-    whenFileDialogOpens([](QFileDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
 }
 
 QVariant stored(const QString& path, const QString& key)
@@ -135,9 +85,9 @@ private slots:
 
     void declaresItsMethodsInOrder()
     {
-        QCOMPARE(methodsOf(CSaveAsActionlistDialog::staticMetaObject),
+        QCOMPARE(methodsOf<CSaveAsActionlistDialog>(),
                  (QStringList{"signal actionListChanged(QString)", "slot on_Save()", "slot on_UpdateUI()"}));
-        QCOMPARE(methodsOf(CSaveAsCollectionDialog::staticMetaObject),
+        QCOMPARE(methodsOf<CSaveAsCollectionDialog>(),
                  (QStringList{"slot on_Save()", "slot on_CollectionIcon()", "slot on_UpdateUI()",
                               "slot on_SaveToFile()"}));
     }
@@ -219,7 +169,7 @@ private slots:
         CSaveAsActionlistDialog list(&m_parent);
         open(list, &m_prefs);
         list.ui.actionListNameLineEdit->setText("x");
-        QCOMPARE(tabOrder(&list, list.ui.actionListNameLineEdit),
+        QCOMPARE(person::tabOrder(list),
                  (QStringList{"actionListNameLineEdit", "categoryComboBox", "cancelButton", "saveButton",
                               "newActionListRadioButton"}));
         list.hide();
@@ -227,7 +177,8 @@ private slots:
         CSaveAsCollectionDialog collection(&m_parent);
         open(collection, &m_prefs);
         collection.ui.collectionNameLineEdit->setText("x");
-        QCOMPARE(tabOrder(&collection, collection.ui.icon_toolButton),
+        collection.ui.icon_toolButton->setFocus();
+        QCOMPARE(person::tabOrder(collection),
                  (QStringList{"icon_toolButton", "collectionNameLineEdit", "saveSettingsToFileButton",
                               "saveButton", "cancelButton"}));
     }
@@ -263,30 +214,16 @@ private slots:
         QCOMPARE(m_prefs, expected);
     }
 
-    void offersTheCategoryForNewListsOnly()
-    {
-        CSaveAsActionlistDialog dialog(&m_parent);
-        open(dialog, &m_prefs);
-        click(dialog.ui.addToActionListRadioButton);
-        QVERIFY(!dialog.ui.categoryComboBox->isEnabled());
-        click(dialog.ui.newActionListRadioButton);
-        QVERIFY(dialog.ui.categoryComboBox->isEnabled());
-    }
-
     void storesATypedCategory_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("category");
-        QTest::newRow("new") << "My own"
-                             << "My own";
-        QTest::newRow("emptied") << ""
-                                 << "Favorites";
+        const Rows<QString, QString> row;
+        row("new", "My own", "My own");
+        row("emptied", "", "Favorites");
     }
 
     void storesATypedCategory()
     {
-        QFETCH(const QString, typed);
-        QFETCH(const QString, category);
+        const auto [typed, category] = Rows<QString, QString>::current();
         CSaveAsActionlistDialog dialog(&m_parent);
         open(dialog, &m_prefs);
         QTest::keyClicks(dialog.ui.actionListNameLineEdit, "one");
@@ -302,20 +239,16 @@ private slots:
 
     void savesOnceForOneReturn_data()
     {
-        QTest::addColumn<bool>("add");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<bool>("inField");
-        QTest::newRow("new, Return") << false << int(Qt::Key_Return) << true;
-        QTest::newRow("new, Enter") << false << int(Qt::Key_Enter) << true;
-        QTest::newRow("add, Return") << true << int(Qt::Key_Return) << true;
-        QTest::newRow("add, elsewhere") << true << int(Qt::Key_Enter) << false;
+        const Rows<bool, int, bool> row;
+        row("new, Return", false, int(Qt::Key_Return), true);
+        row("new, Enter", false, int(Qt::Key_Enter), true);
+        row("add, Return", true, int(Qt::Key_Return), true);
+        row("add, elsewhere", true, int(Qt::Key_Enter), false);
     }
 
     void savesOnceForOneReturn()
     {
-        QFETCH(const bool, add);
-        QFETCH(const int, key);
-        QFETCH(const bool, inField);
+        const auto [add, key, inField] = Rows<bool, int, bool>::current();
         Map first = manualsSettings();
         first["ActionListName"] = "my list";
         CActionUtils::SaveAsCustomActionList(&first);
@@ -326,6 +259,7 @@ private slots:
         open(dialog, &m_prefs);
         if (add)
             click(dialog.ui.addToActionListRadioButton);
+        QCOMPARE(dialog.ui.categoryComboBox->isEnabled(), !add);
         QTest::keyClicks(dialog.ui.actionListNameLineEdit, "my list");
         QWidget* focus = inField ? static_cast<QWidget*>(dialog.ui.actionListNameLineEdit)
                                  : dialog.ui.addToActionListRadioButton;
@@ -345,18 +279,16 @@ private slots:
 
     void writesNothingWhenRejected_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("key");
-        QTest::newRow("Escape") << "one" << int(Qt::Key_Escape);
-        QTest::newRow("Cancel") << "one" << 0;
-        QTest::newRow("Return without a name") << " " << int(Qt::Key_Return);
-        QTest::newRow("Enter without a name") << "" << int(Qt::Key_Enter);
+        const Rows<QString, int> row;
+        row("Escape", "one", int(Qt::Key_Escape));
+        row("Cancel", "one", 0);
+        row("Return without a name", " ", int(Qt::Key_Return));
+        row("Enter without a name", "", int(Qt::Key_Enter));
     }
 
     void writesNothingWhenRejected()
     {
-        QFETCH(const QString, name);
-        QFETCH(const int, key);
+        const auto [name, key] = Rows<QString, int>::current();
         CSaveAsActionlistDialog list(&m_parent);
         CSaveAsCollectionDialog collection(&m_parent);
         const auto leave = [key, name](QDialog* dialog, QLineEdit* field, QPushButton* cancel) {
@@ -379,14 +311,14 @@ private slots:
 
     void savesAFavorite_data()
     {
-        QTest::addColumn<bool>("byKey");
-        QTest::newRow("Save") << false;
-        QTest::newRow("Return") << true;
+        const Rows<bool> row;
+        row("Save", false);
+        row("Return", true);
     }
 
     void savesAFavorite()
     {
-        QFETCH(const bool, byKey);
+        const auto [byKey] = Rows<bool>::current();
         CSaveAsCollectionDialog dialog(&m_parent);
         const QSignalSpy finished(&dialog, SIGNAL(finished(int)));
         open(dialog, &m_prefs);
@@ -413,12 +345,12 @@ private slots:
         QVERIFY(image.save(m_home.filePath("wide.png")));
         CSaveAsCollectionDialog dialog(&m_parent);
         open(dialog, &m_prefs);
-        nameFile(m_home.filePath("wide.png"));
+        person::namesFile(m_home.filePath("wide.png"));
         click(dialog.ui.icon_toolButton);
         const QIcon picked = dialog.ui.icon_toolButton->icon();
         QCOMPARE(picked.availableSizes(), QList<QSize>{QSize(128, 128)});
 
-        cancelFileDialog();
+        person::whenOpens("QFileDialog", [](QDialog& files) { files.reject(); });
         click(dialog.ui.icon_toolButton);
         QCOMPARE(dialog.ui.icon_toolButton->icon().cacheKey(), picked.cacheKey());
 
@@ -434,7 +366,7 @@ private slots:
         QVERIFY(writeFile(m_home.filePath("broken.png"), "no image"));
         CSaveAsCollectionDialog dialog(&m_parent);
         open(dialog, &m_prefs);
-        nameFile(m_home.filePath("broken.png"));
+        person::namesFile(m_home.filePath("broken.png"));
         QTest::ignoreMessage(QtWarningMsg, "QPixmap::scaled: Pixmap is a null pixmap");
         click(dialog.ui.icon_toolButton);
         QVERIFY(dialog.ui.icon_toolButton->icon().isNull());
@@ -448,7 +380,7 @@ private slots:
         connect(&dialog, &QDialog::rejected, [&] { writtenTooEarly = QFile::exists(path); });
         open(dialog, &m_prefs);
         QTest::keyClicks(dialog.ui.collectionNameLineEdit, "not a favourite");
-        nameFile(path);
+        person::namesFile(path);
         click(dialog.ui.saveSettingsToFileButton);
         QCOMPARE(dialog.result(), int(QDialog::Rejected));
         QVERIFY(!dialog.isVisible() && !writtenTooEarly);
@@ -465,9 +397,9 @@ private slots:
         CSaveAsCollectionDialog dialog(&m_parent);
         open(dialog, &m_prefs);
         QString folder;
-        whenFileDialogOpens([&folder](QFileDialog* files) {
-            folder = files->directory().absolutePath();
-            QTest::keyClick(files, Qt::Key_Escape);
+        person::whenOpens("QFileDialog", [&folder](QDialog& files) {
+            folder = dynamic_cast<QFileDialog&>(files).directory().absolutePath();
+            QTest::keyClick(&files, Qt::Key_Escape);
         });
         click(dialog.ui.saveSettingsToFileButton);
         QCOMPARE(folder, QDir::homePath());
@@ -491,17 +423,10 @@ private slots:
             prefs = nullptr;
         });
         dialog->setAttribute(Qt::WA_DeleteOnClose);
-        nameFile(m_home.filePath("preset.tsf"));
+        person::namesFile(m_home.filePath("preset.tsf"));
         click(dialog->ui.saveSettingsToFileButton);
         QVERIFY(prefs == nullptr);
         QCOMPARE(stored(m_home.filePath("preset.tsf"), "ToolSettings").toMap(), manualsSettings());
-    }
-
-    void readsTheStoredSample()
-    {
-        const QSettings file(QString(TEST_DATA_DIR) + "/manuals.tsf", QSettings::IniFormat);
-        QCOMPARE(file.allKeys(), QStringList{"ToolSettings"});
-        QCOMPARE(file.value("ToolSettings").toMap(), manualsSettings());
     }
 };
 

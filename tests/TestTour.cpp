@@ -18,108 +18,104 @@ class TestTour : public QObject
 
 private slots:
     void initTestCase() { muteFrameWarnings(); }
-    void keepsAndRunsWhatAPersonChose();
+
+    void keepsAndRunsWhatAPersonChose()
+    {
+        const QByteArray seen = QByteArray::fromStdString(
+            PdfBuilder::simple("/PageMode /UseOutlines /PageLayout /OneColumn /OpenAction [ 4 0 R /Fit ] "
+                               "/ViewerPreferences << /HideToolbar true >>"));
+        QVERIFY(writeFile(m_home.filePath("seen.pdf"), seen));
+        QVERIFY(writeFile(m_home.filePath("other.pdf"), QByteArray::fromStdString(PdfBuilder::simple())));
+
+        configureAndKeep("QDtoolbarAddToActionListButton", "CSaveAsActionlistDialog", [](QDialog& dialog) {
+            QTest::keyClicks(person::widget<QLineEdit>(dialog, "actionListNameLineEdit"), "Like a book");
+            QTest::keyClick(person::widget<QLineEdit>(dialog, "actionListNameLineEdit"), Qt::Key_Return);
+        });
+        configureAndKeep("QDtoolbarAddToCollectionsButton", "CSaveAsCollectionDialog", [](QDialog& dialog) {
+            QTest::keyClicks(person::widget<QLineEdit>(dialog, "collectionNameLineEdit"), "Best of all");
+            person::click(dialog, "saveButton");
+        });
+        configureAndKeep("QDtoolbarAddToCollectionsButton", "CSaveAsCollectionDialog",
+                         [this](QDialog& dialog) {
+                             person::namesFile(m_home.filePath("kept.tsf"));
+                             person::click(dialog, "saveSettingsToFileButton");
+                         });
+        QCOMPARE(bytesOf(m_home.filePath("seen.pdf")), seen);
+
+        const ProgramRun lists(PROGRAM_FILE, {"lists", "--json"});
+        QStringList names;
+        for (const QJsonObject& stored : ProgramRun::jsonLines(lists.out))
+            names += stored.value("name").toString();
+        QCOMPARE(names, (QStringList{"Like a book", "Best of all"}));
+
+        const QJsonObject before = shown("other.pdf");
+        QCOMPARE(before.value("pageMode"), QJsonValue("UseNone"));
+        for (const QStringList& source :
+             {QStringList{"--list", "Like a book"}, QStringList{"--favorite", "Best of all"},
+              QStringList{"--tool-settings", m_home.filePath("kept.tsf")}}) {
+            const QString folder = m_home.filePath("out" + source.first());
+            const ProgramRun run(PROGRAM_FILE,
+                                 QStringList{"run", "-o", folder, m_home.filePath("other.pdf")} + source);
+            QVERIFY2(run.status == 0, run.err);
+            const QJsonObject view = shown("out" + source.first() + "/other.pdf");
+            const QJsonObject expectedAction{
+                {"page", 3}, {"type", "FitH"}, {"zoom", QJsonValue()}, {"name", QJsonValue()}};
+            QCOMPARE(view.value("pageMode"), QJsonValue("UseThumbs"));
+            QCOMPARE(view.value("pageLayout"), QJsonValue("OneColumn"));
+            QCOMPARE(view.value("openAction").toObject(), expectedAction);
+            const QJsonObject preferences = view.value("viewerPreferences").toObject();
+            for (const char* name : {"HideToolbar", "HideMenubar", "DisplayDocTitle"})
+                QVERIFY2(preferences.value(name).toBool(), name);
+            for (const char* name : {"HideWindowUI", "FitWindow", "CenterWindow"})
+                QVERIFY2(!preferences.value(name).toBool(), name);
+            const QJsonObject catalog = QpdfReader(folder + "/other.pdf").catalog();
+            QCOMPARE(catalog.value("/PageMode"), QJsonValue("/UseThumbs"));
+        }
+    }
 
 private:
-    void keepFrom(QDialog& settings);
-    void configureAndKeep(const char* headerButton, const char* dialogClass, const person::Answer& keep);
-    QJsonObject shown(const QString& file) const;
+    /// Sees the document's view, and changes some of it by hand.
+    void keepFrom(QDialog& settings)
+    {
+        const auto list = [&](const char* name) { return person::widget<QComboBox>(settings, name); };
+        auto* page = person::widget<QSpinBox>(settings, "OpenToPageSpinBox");
+        QCOMPARE(list("NavigationTabComboBox")->currentText(), QString("Bookmarks Panel and Page"));
+        QCOMPARE(list("MagnificationComboBox")->currentText(), QString("Fit Page"));
+        QCOMPARE(page->value(), 2);
+        QTest::keyClick(list("NavigationTabComboBox"), Qt::Key_Down);
+        QTest::keyClick(list("MagnificationComboBox"), Qt::Key_Down);
+        QTest::keyClick(list("ShowComboBox"), Qt::Key_End);
+        page->selectAll();
+        QTest::keyClicks(page, "3");
+        QTest::keyClick(person::widget<QCheckBox>(settings, "HideMenuBarCheckBox"), Qt::Key_Space);
+    }
+
+    void configureAndKeep(const char* headerButton, const char* dialogClass, const person::Answer& keep)
+    {
+        bool kept = false;
+        person::whenOpens("CPrefsDialog", [&](QDialog& settings) {
+            keepFrom(settings);
+            person::whenOpens(dialogClass, [&](QDialog& dialog) {
+                keep(dialog);
+                kept = true;
+            });
+            person::click(settings, headerButton);
+            if (settings.isVisible())
+                person::click(settings, "cancelButton");
+        });
+        const CommandRun run(host::ConfigureCommand(), {m_home.filePath("seen.pdf")});
+        QCOMPARE(run.status, 1); // what is kept is kept; the window itself was left without OK
+        QVERIFY(kept);
+    }
+
+    QJsonObject shown(const QString& file) const
+    {
+        return ProgramRun::jsonLines(ProgramRun(PROGRAM_FILE, {"show", "--json", m_home.filePath(file)}).out)
+            .value(0);
+    }
 
     TemporaryHome m_home;
 };
-
-/// Sees the document's view, and changes some of it by hand.
-void TestTour::keepFrom(QDialog& settings)
-{
-    const auto list = [&](const char* name) { return person::widget<QComboBox>(settings, name); };
-    auto* page = person::widget<QSpinBox>(settings, "OpenToPageSpinBox");
-    QCOMPARE(list("NavigationTabComboBox")->currentText(), QString("Bookmarks Panel and Page"));
-    QCOMPARE(list("MagnificationComboBox")->currentText(), QString("Fit Page"));
-    QCOMPARE(page->value(), 2);
-    QTest::keyClick(list("NavigationTabComboBox"), Qt::Key_Down);
-    QTest::keyClick(list("MagnificationComboBox"), Qt::Key_Down);
-    QTest::keyClick(list("ShowComboBox"), Qt::Key_End);
-    page->selectAll();
-    QTest::keyClicks(page, "3");
-    QTest::keyClick(person::widget<QCheckBox>(settings, "HideMenuBarCheckBox"), Qt::Key_Space);
-}
-
-void TestTour::configureAndKeep(const char* headerButton, const char* dialogClass, const person::Answer& keep)
-{
-    bool kept = false;
-    person::whenOpens("CPrefsDialog", [&](QDialog& settings) {
-        keepFrom(settings);
-        person::whenOpens(dialogClass, [&](QDialog& dialog) {
-            keep(dialog);
-            kept = true;
-        });
-        person::click(settings, headerButton);
-        if (settings.isVisible())
-            person::click(settings, "cancelButton");
-    });
-    const CommandRun run(host::ConfigureCommand(), {m_home.filePath("seen.pdf")});
-    QCOMPARE(run.status, 1); // what is kept is kept; the window itself was left without OK
-    QVERIFY(kept);
-}
-
-QJsonObject TestTour::shown(const QString& file) const
-{
-    return ProgramRun::jsonLines(ProgramRun(PROGRAM_FILE, {"show", "--json", m_home.filePath(file)}).out)
-        .value(0);
-}
-
-void TestTour::keepsAndRunsWhatAPersonChose()
-{
-    const QByteArray seen = QByteArray::fromStdString(
-        PdfBuilder::simple("/PageMode /UseOutlines /PageLayout /OneColumn /OpenAction [ 4 0 R /Fit ] "
-                           "/ViewerPreferences << /HideToolbar true >>"));
-    QVERIFY(writeFile(m_home.filePath("seen.pdf"), seen));
-    QVERIFY(writeFile(m_home.filePath("other.pdf"), QByteArray::fromStdString(PdfBuilder::simple())));
-
-    configureAndKeep("QDtoolbarAddToActionListButton", "CSaveAsActionlistDialog", [](QDialog& dialog) {
-        QTest::keyClicks(person::widget<QLineEdit>(dialog, "actionListNameLineEdit"), "Like a book");
-        QTest::keyClick(person::widget<QLineEdit>(dialog, "actionListNameLineEdit"), Qt::Key_Return);
-    });
-    configureAndKeep("QDtoolbarAddToCollectionsButton", "CSaveAsCollectionDialog", [](QDialog& dialog) {
-        QTest::keyClicks(person::widget<QLineEdit>(dialog, "collectionNameLineEdit"), "Best of all");
-        person::click(dialog, "saveButton");
-    });
-    configureAndKeep("QDtoolbarAddToCollectionsButton", "CSaveAsCollectionDialog", [this](QDialog& dialog) {
-        person::namesFile(m_home.filePath("kept.tsf"));
-        person::click(dialog, "saveSettingsToFileButton");
-    });
-    QCOMPARE(bytesOf(m_home.filePath("seen.pdf")), seen);
-
-    const ProgramRun lists(PROGRAM_FILE, {"lists", "--json"});
-    QStringList names;
-    for (const QJsonObject& stored : ProgramRun::jsonLines(lists.out))
-        names += stored.value("name").toString();
-    QCOMPARE(names, (QStringList{"Like a book", "Best of all"}));
-
-    const QJsonObject before = shown("other.pdf");
-    QCOMPARE(before.value("pageMode"), QJsonValue("UseNone"));
-    for (const QStringList& source :
-         {QStringList{"--list", "Like a book"}, QStringList{"--favorite", "Best of all"},
-          QStringList{"--tool-settings", m_home.filePath("kept.tsf")}}) {
-        const QString folder = m_home.filePath("out" + source.first());
-        const ProgramRun run(PROGRAM_FILE,
-                             QStringList{"run", "-o", folder, m_home.filePath("other.pdf")} + source);
-        QVERIFY2(run.status == 0, run.err);
-        const QJsonObject view = shown("out" + source.first() + "/other.pdf");
-        const QJsonObject expectedAction{
-            {"page", 3}, {"type", "FitH"}, {"zoom", QJsonValue()}, {"name", QJsonValue()}};
-        QCOMPARE(view.value("pageMode"), QJsonValue("UseThumbs"));
-        QCOMPARE(view.value("pageLayout"), QJsonValue("OneColumn"));
-        QCOMPARE(view.value("openAction").toObject(), expectedAction);
-        const QJsonObject preferences = view.value("viewerPreferences").toObject();
-        for (const char* name : {"HideToolbar", "HideMenubar", "DisplayDocTitle"})
-            QVERIFY2(preferences.value(name).toBool(), name);
-        for (const char* name : {"HideWindowUI", "FitWindow", "CenterWindow"})
-            QVERIFY2(!preferences.value(name).toBool(), name);
-        const QJsonObject catalog = QpdfReader(folder + "/other.pdf").catalog();
-        QCOMPARE(catalog.value("/PageMode"), QJsonValue("/UseThumbs"));
-    }
-}
 
 QTEST_MAIN(TestTour)
 #include "TestTour.moc"

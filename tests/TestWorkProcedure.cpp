@@ -3,6 +3,7 @@
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "shared/CErrorHandler.h"
 #include "support/Recorder.h"
+#include "support/Rows.h"
 
 #include <QtTest>
 
@@ -113,53 +114,41 @@ class TestWorkProcedure : public QObject
 private slots:
     void makesTheCallsInOrder_data()
     {
-        QTest::addColumn<Settings>("settings");
-        QTest::addColumn<QStringList>("calls");
+        const Rows<Settings, QStringList> row;
 
         Settings settings = everythingOn();
-        QTest::newRow("everything on") << settings << everythingsCalls;
+        row("everything on", settings, everythingsCalls);
         settings["OpenInFullScreenCheckBox"] = false;
         QStringList calls = everythingsCalls;
         calls.removeAll("SetPageMode(3)");
-        QTest::newRow("no full screen") << settings << calls;
+        row("no full screen", settings, calls);
 
         settings = everythingOn();
         settings["ViewerPrefsCheckBox"] = false;
-        QTest::newRow("layout only") << settings << QStringList(everythingsCalls.mid(0, 12));
+        row("layout only", settings, QStringList(everythingsCalls.mid(0, 12)));
         settings = everythingOn();
         settings.remove("LayoutAndMagnCheckBox");
-        QTest::newRow("preferences only") << settings << QStringList(everythingsCalls.mid(12));
-        QTest::newRow("preferences, nothing else stored")
-            << Settings{{"ViewerPrefsCheckBox", true}}
-            << QStringList{"SetViewerPreferences(1, 0)", "SetViewerPreferences(2, 0)",
-                           "SetViewerPreferences(3, 0)", "SetViewerPreferences(4, 0)",
-                           "SetViewerPreferences(5, 0)", "SetViewerPreferences(6, 0)"};
-        QTest::newRow("layout, nothing else stored")
-            << Settings{{"LayoutAndMagnCheckBox", true}}
-            << QStringList{"SetPageMode(0)",
-                           "SetViewerPreferences(7, 0)",
-                           "SetPageLayout(0)",
-                           "SelectedPage()",
-                           "PageCount()",
-                           "SelectPage(0)",
-                           "GetPageBox(1, 0)",
-                           "GetPageBox(1, 1)",
-                           "GetPageBox(1, 4)",
-                           "GetPageBox(1, 5)",
-                           "SetOpenActionDestinationFull(0, 0, 1, -1.5, 792, 612.25, 3)",
-                           "SelectPage(4)"};
-        QTest::newRow("nothing stored") << Settings() << QStringList();
+        row("preferences only", settings, QStringList(everythingsCalls.mid(12)));
+        row("preferences, nothing else stored", {{"ViewerPrefsCheckBox", true}},
+            {"SetViewerPreferences(1, 0)", "SetViewerPreferences(2, 0)", "SetViewerPreferences(3, 0)",
+             "SetViewerPreferences(4, 0)", "SetViewerPreferences(5, 0)", "SetViewerPreferences(6, 0)"});
+        row("layout, nothing else stored", {{"LayoutAndMagnCheckBox", true}},
+            {"SetPageMode(0)", "SetViewerPreferences(7, 0)", "SetPageLayout(0)", "SelectedPage()",
+             "PageCount()", "SelectPage(0)", "GetPageBox(1, 0)", "GetPageBox(1, 1)", "GetPageBox(1, 4)",
+             "GetPageBox(1, 5)", "SetOpenActionDestinationFull(0, 0, 1, -1.5, 792, 612.25, 3)",
+             "SelectPage(4)"});
+        row("nothing stored", {}, {});
         settings = everythingOn();
         settings["LayoutAndMagnCheckBox"] = settings["ViewerPrefsCheckBox"] = false;
-        QTest::newRow("both groups off") << settings << QStringList();
+        row("both groups off", settings, {});
     }
 
     void makesTheCallsInOrder()
     {
-        QFETCH(Settings, settings);
+        const auto [settings, calls] = Rows<Settings, QStringList>::current();
         Fixture fixture;
         QCOMPARE(fixture.work(settings), 0);
-        QTEST(fixture.recorder.takeLog(), "calls");
+        QCOMPARE(fixture.recorder.takeLog(), calls);
         QVERIFY(fixture.settingsKept);
         QCOMPARE(fixture.errors.GetCount(), 0L);
         QVERIFY(exceptionRecords.isEmpty());
@@ -167,10 +156,7 @@ private slots:
 
     void readsEachKeyWithItsOwnConversion_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<QString>("call");
-        QTest::addColumn<bool>("made");
+        const Rows<QString, QVariant, QString, bool> row;
         // A text "true" is a true flag, but the number 0.
         for (const char* flag :
              {"LayoutAndMagnCheckBox", "ViewerPrefsCheckBox", "OpenInFullScreenCheckBox"}) {
@@ -178,9 +164,9 @@ private slots:
                                  : QString(flag).startsWith("Viewer") ? "SetViewerPreferences(6, 1)"
                                                                       : "SetPageMode(3)";
             for (const QVariant& yes : {QVariant("true"), QVariant("no matter"), QVariant(-2)})
-                QTest::addRow("%s %s", flag, qPrintable(yes.toString())) << flag << yes << call << true;
+                row(QString::asprintf("%s %s", flag, qPrintable(yes.toString())), flag, yes, call, true);
             for (const QVariant& no : {QVariant("false"), QVariant("0"), QVariant(""), QVariant(0.0)})
-                QTest::addRow("%s not %s", flag, qPrintable(no.toString())) << flag << no << call << false;
+                row(QString::asprintf("%s not %s", flag, qPrintable(no.toString())), flag, no, call, false);
         }
         const QList<QPair<const char*, QString>> numbers{
             {"HideToobarsCheckBox", "SetViewerPreferences(1, %1)"},
@@ -198,22 +184,19 @@ private slots:
         };
         for (const auto& [key, call] : numbers) {
             for (const auto& [stored, number] : values)
-                QTest::addRow("%s as number %s", key, qPrintable(stored.toString()))
-                    << key << stored << call.arg(number) << true;
+                row(QString::asprintf("%s as number %s", key, qPrintable(stored.toString())), key, stored,
+                    call.arg(number), true);
         }
     }
 
     void readsEachKeyWithItsOwnConversion()
     {
-        QFETCH(QString, key);
-        QFETCH(QVariant, stored);
-        QFETCH(QString, call);
+        const auto [key, stored, call, made] = Rows<QString, QVariant, QString, bool>::current();
         Settings settings = everythingOn();
         settings[key] = stored;
         Fixture fixture;
         QCOMPARE(fixture.work(settings), 0);
         const QStringList calls = fixture.recorder.takeLog();
-        QFETCH(bool, made);
         QVERIFY2(calls.contains(call) == made, qPrintable(calls.join('\n')));
     }
 
@@ -231,34 +214,30 @@ private slots:
 
     void turnsMagnificationIntoZoomAndType_data()
     {
-        QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<int>("zoom");
-        QTest::addColumn<int>("type");
+        const Rows<QVariant, int, int> add;
         const int zooms[] = {0, 0, 0, 0, 0, 25, 50, 75, 100, 200, 400, 800, 1600};
         for (int row = 0; row < 13; ++row)
-            QTest::addRow("row %d", row) << QVariant(row) << zooms[row] << (row < 5 ? row + 1 : 1);
-        QTest::newRow("below the table") << QVariant(-1) << 0 << 0;
-        QTest::newRow("lowest") << QVariant(INT_MIN) << 0 << INT_MIN + 1;
+            add(QString::asprintf("row %d", row), row, zooms[row], (row < 5 ? row + 1 : 1));
+        add("below the table", -1, 0, 0);
+        add("lowest", INT_MIN, 0, INT_MIN + 1);
         for (const int row : {13, 14, 31, 32, 40, 1031, 1032, 1033, INT_MAX})
-            QTest::addRow("above the table: %d", row) << QVariant(row) << 100 << 1;
-        QTest::newRow("text") << QVariant("7") << 75 << 1;
-        QTest::newRow("text with a fraction is no row") << QVariant("6.5") << 0 << 1;
-        QTest::newRow("text true is row 0") << QVariant("true") << 0 << 1;
-        QTest::newRow("flag is row 1") << QVariant(true) << 0 << 2;
-        QTest::newRow("rounded up to row 5") << QVariant(4.5) << 12 << 1;
-        QTest::newRow("row 6 and a bit") << QVariant(6.4) << 60 << 1;
-        QTest::newRow("just row 7") << QVariant(7.49) << 87 << 1;
-        QTest::newRow("rounded up to row 8") << QVariant(7.5) << 100 << 1;
+            add(QString::asprintf("above the table: %d", row), row, 100, 1);
+        add("text", "7", 75, 1);
+        add("text with a fraction is no row", "6.5", 0, 1);
+        add("text true is row 0", "true", 0, 1);
+        add("flag is row 1", true, 0, 2);
+        add("rounded up to row 5", 4.5, 12, 1);
+        add("row 6 and a bit", 6.4, 60, 1);
+        add("just row 7", 7.49, 87, 1);
+        add("rounded up to row 8", 7.5, 100, 1);
         // Its low 32 bits are row 5; the number itself is far above.
-        QTest::newRow("row 5 modulo 2^32") << QVariant(4294967301.0) << 100 << 1;
-        QTest::newRow("row 5 modulo 2^32, negative") << QVariant(-4294967291.0) << 100 << 1;
+        add("row 5 modulo 2^32", 4294967301.0, 100, 1);
+        add("row 5 modulo 2^32, negative", -4294967291.0, 100, 1);
     }
 
     void turnsMagnificationIntoZoomAndType()
     {
-        QFETCH(QVariant, stored);
-        QFETCH(int, zoom);
-        QFETCH(int, type);
+        const auto [stored, zoom, type] = Rows<QVariant, int, int>::current();
         Fixture fixture;
         fixture.work(
             {{"LayoutAndMagnCheckBox", true}, {"MagnificationComboBox", stored}, {"OpenToPageSpinBox", 2}});
@@ -283,14 +262,14 @@ private slots:
 
     void failsWhereACallThrows_data()
     {
-        QTest::addColumn<int>("step");
+        const Rows<int> row;
         for (int step = 0; step < everythingsCalls.size(); ++step)
-            QTest::addRow("step %d, %s", step + 1, qPrintable(everythingsCalls[step])) << step;
+            row(QString::asprintf("step %d, %s", step + 1, qPrintable(everythingsCalls[step])), step);
     }
 
     void failsWhereACallThrows()
     {
-        QFETCH(int, step);
+        const auto [step] = Rows<int>::current();
         Fixture fixture;
         fixture.errors.StoreError("earlier");
         fixture.recorder.throws(qPrintable(everythingsCalls[step]));
@@ -300,14 +279,8 @@ private slots:
         QCOMPARE(fixture.errors.GetLast(), QString(failureMessage));
 
         QCOMPARE(exceptionRecords.size(), 1);
-        const QStringList lines = exceptionRecords.first().split('\n');
-        QCOMPARE(lines.size(), 6);
-        QCOMPARE(lines[0], QString(30, '='));
-        QCOMPARE(lines[1], QString("Exception handled: system"));
-        QVERIFY(lines[2].startsWith("File: ") && lines[2].endsWith("editinitialview.cpp"));
-        QCOMPARE(lines[3], QString("Function: WorkProc"));
-        QVERIFY(QRegularExpression("^Line: [1-9][0-9]*$").match(lines[4]).hasMatch());
-        QVERIFY(lines[5].isEmpty());
+        const QRegularExpression record("editinitialview.cpp\nFunction: WorkProc\nLine: [1-9][0-9]*\n$");
+        QVERIFY2(record.match(exceptionRecords.first()).hasMatch(), qPrintable(exceptionRecords.first()));
     }
 
     void doesNotNoticeWhatTheLibraryReports()

@@ -42,6 +42,16 @@ inline void click(QDialog& dialog, const char* button)
     QTest::mouseClick(widget<QWidget>(dialog, button), Qt::LeftButton);
 }
 
+inline void pressOk(QDialog& dialog)
+{
+    click(dialog, "okButton");
+}
+
+inline void pressCancel(QDialog& dialog)
+{
+    click(dialog, "cancelButton");
+}
+
 /// Types a file's name into the file dialog that opens next.
 inline void namesFile(const QString& path)
 {
@@ -50,6 +60,17 @@ inline void namesFile(const QString& path)
         name->setText(path);
         QTest::keyClick(name, Qt::Key_Return);
     });
+}
+
+/// The names of the widgets that Tab reaches, beginning with the one that has the focus.
+inline QStringList tabOrder(const QWidget& dialog)
+{
+    QStringList order;
+    while (!order.contains(dialog.focusWidget()->objectName())) {
+        order << dialog.focusWidget()->objectName();
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    }
+    return order;
 }
 
 } // namespace person

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "engine/EngineError.h"
+
+/// The code of the error that a call ends with.
+template <class Call>
+engine::ErrorCode errorOf(const Call& call)
+{
+    try {
+        call();
+        return engine::ErrorCode::None;
+    } catch (const engine::EngineError& error) {
+        return error.code();
+    }
+}
