@@ -365,7 +365,7 @@ private slots:
         dialog.setResult(QDialog::Accepted);
         dialog.show();
         const Prefs prefs = dialog.prefsAfter({{key::OpenToPage, 17}});
-        person::whenOpens("CSaveAsCollectionDialog", [&](QDialog& further) {
+        person::whenOpens("CSaveAsCollectionDialog", [&, &button = button](QDialog& further) {
             const QIcon icon = further.findChild<QToolButton*>("icon_toolButton")->icon();
             QCOMPARE(icon.pixmap(QSize(128, 128)).toImage(), image.toImage());
             further.findChild<QLineEdit*>("collectionNameLineEdit")->setText("Page 17 " + button);

@@ -291,7 +291,7 @@ private slots:
         const auto [name, key] = Rows<QString, int>::current();
         CSaveAsActionlistDialog list(&m_parent);
         CSaveAsCollectionDialog collection(&m_parent);
-        const auto leave = [key, name](QDialog* dialog, QLineEdit* field, QPushButton* cancel) {
+        const auto leave = [key = key, name = name](QDialog* dialog, QLineEdit* field, QPushButton* cancel) {
             QTest::keyClicks(field, name);
             if (key == 0)
                 click(cancel);
