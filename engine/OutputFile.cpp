@@ -27,6 +27,10 @@ namespace {
     ErrorCode code = ErrorCode::WriteFailed;
     if (error == ENOSPC || error == EDQUOT)
         code = ErrorCode::DiskFull;
+    else if (error == EFBIG)
+        code = ErrorCode::FileTooLarge;
+    else if (error == EIO)
+        code = ErrorCode::DeviceFailed;
     else if (error == EACCES || error == EPERM || error == EROFS)
         code = ErrorCode::AccessDenied;
     else if (error == ENOENT || error == ENOTDIR)

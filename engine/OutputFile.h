@@ -10,7 +10,8 @@ class ByteSource;
 
 /// A file in the making: written under a name of its own beside the target, and renamed over it when
 /// complete. Without commit() nothing of it remains. All functions throw EngineError with DiskFull,
-/// AccessDenied, FileNotFound (of the folder), SourceChanged, ReadFailed or WriteFailed.
+/// FileTooLarge, DeviceFailed, AccessDenied, FileNotFound (of the folder), SourceChanged, ReadFailed or
+/// WriteFailed.
 class OutputFile
 {
 public:
