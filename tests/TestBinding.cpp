@@ -1,8 +1,8 @@
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
+#include "support/Files.h"
 #include "support/Recorder.h"
 #include "support/Rows.h"
 
-#include <QFile>
 #include <QtTest>
 
 #include <algorithm>
@@ -89,10 +89,7 @@ QString listEntry(const char* name, Result (Library::*)(Parameters...))
 
 QStringList operationList()
 {
-    QFile file(TEST_DATA_DIR "/operations.txt");
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("no list of operations");
-    return QString::fromLatin1(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    return QString::fromLatin1(bytesOf(TEST_DATA_DIR "/operations.txt")).split('\n', Qt::SkipEmptyParts);
 }
 
 enum class Texts { WithoutNul, WithNul, Empty };

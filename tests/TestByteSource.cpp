@@ -2,6 +2,7 @@
 #include "engine/DocumentTail.h"
 #include "engine/SourceInput.h"
 #include "support/EngineErrors.h"
+#include "support/Files.h"
 #include "support/Rows.h"
 
 #include <QtTest>
@@ -20,13 +21,6 @@ ErrorCode openingError(const QString& path)
     return errorOf([&path] { ByteSource::openFile(path.toStdString()); });
 }
 
-void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 } // namespace
 
 class TestByteSource : public QObject
@@ -37,8 +31,8 @@ private slots:
     void opensRegularFilesOnly()
     {
         QTemporaryDir folder;
-        writeFile(folder.filePath("empty"), "");
-        writeFile(folder.filePath("file"), "content");
+        QVERIFY(writeFile(folder.filePath("empty"), ""));
+        QVERIFY(writeFile(folder.filePath("file"), "content"));
         QCOMPARE(::mkfifo(folder.filePath("fifo").toLocal8Bit().constData(), 0600), 0);
         QCOMPARE(openingError(folder.filePath("file")), ErrorCode::None);
         QCOMPARE(openingError(folder.filePath("empty")), ErrorCode::EmptyFile);
@@ -53,7 +47,7 @@ private slots:
     {
         QTemporaryDir folder;
         const QString path = folder.filePath("file");
-        writeFile(path, QByteArray(10000, 'x'));
+        QVERIFY(writeFile(path, QByteArray(10000, 'x')));
         const auto source = ByteSource::openFile(path.toStdString());
         QVERIFY(source->unchangedSinceOpened());
         QCOMPARE(source->text(9990, 100), std::string(10, 'x'));
@@ -115,7 +109,7 @@ private slots:
         text += std::string(20000, 'x');
         QTemporaryDir folder;
         const QString path = folder.filePath("file");
-        writeFile(path, QByteArray::fromStdString(text));
+        QVERIFY(writeFile(path, QByteArray::fromStdString(text)));
         SourceInput input(ByteSource::openFile(path.toStdString()), "ours");
         FileInputSource expected(path.toLocal8Bit().constData());
         std::string ours(40000, ' ');

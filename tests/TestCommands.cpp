@@ -24,8 +24,13 @@ private slots:
         const Rows<QString, int> row;
         row("first", "SplitIfTextIsPresent", 0);
         row("split", "splitifthistextrepeats", 6);
+        row("header", "skipheader", 7);
         row("provide", "providefilenameafterstringinbox", 15);
+        row("add", "addtofilename", 16);
+        row("list", "getfilenamesfromlistinfile", 22);
+        row("include", "includeall", 23);
         row("exclude, in its own spelling", "excludeifnotextcontainted", 31);
+        row("extract", "extractfilename", 32);
         row("rectangle", "extracttextlineafterstringinrect", 41);
         row("last", "FILLINFODICTENTRY", 42);
         row("the Kelvin sign is a capital k", QString("s%1ipheader").arg(QChar(0x212a)), 7);

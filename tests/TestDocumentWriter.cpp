@@ -6,6 +6,7 @@
 #include "support/PdfBuilder.h"
 #include "support/Rewritten.h"
 #include "support/Rows.h"
+#include "support/WorkFolder.h"
 
 #include <QtTest>
 
@@ -13,29 +14,18 @@
 #include <unistd.h>
 
 #include <functional>
+#include <optional>
 
 using namespace engine;
+namespace fs = std::filesystem;
 
 namespace {
 
 using Settings = std::function<void(QPDFWriter&)>;
 
-void store(const QString& path, const std::string& bytes)
+std::unique_ptr<Document> opened(const std::string& path)
 {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes.data(), qint64(bytes.size()));
-}
-
-std::string content(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
-}
-
-std::unique_ptr<Document> opened(const QString& path)
-{
-    return std::make_unique<Document>(ByteSource::openFile(path.toStdString()), path.toStdString(), "user");
+    return std::make_unique<Document>(ByteSource::openFile(path), path, "user");
 }
 
 void change(Document& document)
@@ -44,7 +34,7 @@ void change(Document& document)
     document.markChanged(document.catalog());
 }
 
-QByteArray pageMode(const QString& path)
+QByteArray pageMode(const std::string& path)
 {
     return QByteArray::fromStdString(opened(path)->catalog().getKey("/PageMode").unparse());
 }
@@ -79,46 +69,42 @@ class TestDocumentWriter : public QObject
 private slots:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_source = m_folder->filePath("source.pdf");
-        m_target = m_folder->filePath("target.pdf");
-        store(m_source, PdfBuilder::simple());
+        m_folder.emplace();
+        put(m_source, PdfBuilder::simple());
     }
 
     void appendsBehindTheOriginalBytes()
     {
-        for (const QString& target : {m_target, m_source}) {
-            const std::string original = content(m_source);
+        for (const std::string& target : {m_target, m_source}) {
+            const std::string original = contentOf(m_source);
             const auto document = opened(m_source);
             change(*document);
-            appendUpdate(*document, target.toStdString());
-            QVERIFY(content(target).starts_with(original));
+            appendUpdate(*document, target);
+            QVERIFY(contentOf(target).starts_with(original));
             QCOMPARE(pageMode(target), QByteArray("/UseThumbs"));
-            QVERIFY(content(target).size() < original.size() + 300);
+            QVERIFY(contentOf(target).size() < original.size() + 300);
         }
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden).size(), 2);
     }
 
     void appendsNothingWhenItWouldNotBeRight()
     {
         const auto document = opened(m_source);
-        const auto append = [&](Document& each) {
-            return errorOf([&] { appendUpdate(each, m_target.toStdString()); });
-        };
+        const auto append = [&](Document& each) { return errorOf([&] { appendUpdate(each, m_target); }); };
         QCOMPARE(append(*document), ErrorCode::NothingChanged);
         change(*document);
-        QFile::resize(m_source, 100);
+        fs::resize_file(m_source, 100);
         QCOMPARE(append(*document), ErrorCode::SourceChanged);
         // Objects without an end, far behind the last startxref: only a search finds them.
-        store(m_source, replaced(PdfBuilder::simple(), "/Count 3", "/Count x") + "8 0 obj\nnull\nendobj\n" +
-                            std::string(5000, '\n'));
+        put(m_source, replaced(PdfBuilder::simple(), "/Count 3", "/Count x") + "8 0 obj\nnull\nendobj\n" +
+                          std::string(5000, '\n'));
         const auto rebuilt = opened(m_source);
         change(*rebuilt);
         QCOMPARE(append(*rebuilt), ErrorCode::CannotAppend);
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
-        writeWhole(*rebuilt, m_target.toStdString());
+        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
+        writeWhole(*rebuilt, m_target);
         QCOMPARE(pageMode(m_target), QByteArray("/UseThumbs"));
-        QVERIFY(QString::fromStdString(content(m_target)).contains("/Count 3"));
+        QVERIFY(QString::fromStdString(contentOf(m_target)).contains("/Count 3"));
     }
 
     void keepsWhatTheDocumentIs_data()
@@ -138,10 +124,10 @@ private slots:
     void keepsWhatTheDocumentIs()
     {
         const auto [bytes] = Rows<std::string>::current();
-        store(m_source, bytes);
+        put(m_source, bytes);
         const auto before = opened(m_source);
         change(*before);
-        writeWhole(*before, m_target.toStdString());
+        writeWhole(*before, m_target);
         const auto after = opened(m_target);
         before->readWhole();
         after->readWhole();
@@ -158,9 +144,9 @@ private slots:
                  std::string(5000, 'x'));
         QCOMPARE(pdf.isEncrypted(), before->pdf().isEncrypted());
         QCOMPARE(pdf.allowModifyForm(), before->pdf().allowModifyForm());
-        QCOMPARE(content(m_target).find("/ObjStm") == std::string::npos,
+        QCOMPARE(contentOf(m_target).find("/ObjStm") == std::string::npos,
                  bytes.find("/ObjStm") == std::string::npos);
-        QVERIFY(content(m_target).size() < bytes.size() + 300);
+        QVERIFY(contentOf(m_target).size() < bytes.size() + 300);
     }
 
     void completesTheTrailer_data()
@@ -177,9 +163,9 @@ private slots:
     void completesTheTrailer()
     {
         const auto [bytes] = Rows<std::string>::current();
-        store(m_source, bytes);
+        put(m_source, bytes);
         const auto before = opened(m_source);
-        writeWhole(*before, m_target.toStdString());
+        writeWhole(*before, m_target);
         const auto after = opened(m_target);
         after->readWhole();
         QVERIFY(!after->anyWarnings());
@@ -193,76 +179,80 @@ private slots:
         const auto document = opened(m_source);
         change(*document);
         const std::string bytes = wholeToString(*document);
-        writeWhole(*document, m_source.toStdString());
-        QCOMPARE(bytes.size(), content(m_source).size());
+        writeWhole(*document, m_source);
+        QCOMPARE(bytes.size(), contentOf(m_source).size());
         Document again(ByteSource::fromBytes(bytes), {}, {});
         QCOMPARE(again.catalog().getKey("/PageMode").getName(), std::string("/UseThumbs"));
     }
 
     void replacesInOneStepOrNotAtAll()
     {
-        store(m_target, "old");
-        QVERIFY(QFile::setPermissions(m_target, QFile::ReadOwner | QFile::WriteOwner));
-        const QString link = m_folder->filePath("link.pdf");
-        QVERIFY(QFile::link(m_target, link));
+        put(m_target, "old");
+        fs::permissions(m_target, fs::perms(0600));
+        const std::string link = "link.pdf";
+        fs::create_symlink(m_target, link);
         {
-            OutputFile abandoned(link.toStdString());
+            OutputFile abandoned(link);
             abandoned.write("new");
-            QCOMPARE(QDir(m_folder->path()).entryList({".quintar-*"}, QDir::Files | QDir::Hidden).size(), 1);
+            QCOMPARE(QDir().entryList({".quintar-*"}, QDir::Files | QDir::Hidden).size(), 1);
         }
-        QCOMPARE(content(m_target), std::string("old"));
-        OutputFile file(link.toStdString());
+        QCOMPARE(contentOf(m_target), std::string("old"));
+        OutputFile file(link);
         file.write("new");
         file.commit();
-        QCOMPARE(content(m_target), std::string("new"));
-        QVERIFY(QFileInfo(link).isSymLink());
-        struct stat status = {};
-        QCOMPARE(::stat(qPrintable(m_target), &status), 0);
-        QCOMPARE(status.st_mode & 0777, 0600u);
-        QCOMPARE(QDir(m_folder->path()).entryList({".quintar-*"}, QDir::Files | QDir::Hidden).size(), 0);
+        QCOMPARE(contentOf(m_target), std::string("new"));
+        QVERIFY(fs::is_symlink(link));
+        QCOMPARE(int(fs::status(m_target).permissions()), 0600);
+        QCOMPARE(QDir().entryList({".quintar-*"}, QDir::Files | QDir::Hidden).size(), 0);
     }
 
     void saysWhyAFileCannotBeWritten()
     {
-        const auto errorAt = [](const QString& path) {
-            return errorOf([&] { OutputFile(path.toStdString()).commit(); });
+        const auto errorAt = [](const std::string& path) {
+            return errorOf([&] { OutputFile(path).commit(); });
         };
-        QCOMPARE(errorAt(m_folder->filePath("none/file.pdf")), ErrorCode::FileNotFound);
+        QCOMPARE(errorAt("none/file.pdf"), ErrorCode::FileNotFound);
         QCOMPARE(errorAt(m_source + "/file.pdf"), ErrorCode::FileNotFound);
-        QCOMPARE(errorAt(m_folder->path()), ErrorCode::NotARegularFile);
+        QCOMPARE(errorAt("."), ErrorCode::NotARegularFile);
         QCOMPARE(errorAt("/dev/null"), ErrorCode::NotARegularFile);
         if (::geteuid() != 0) {
-            QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner));
+            fs::permissions(".", fs::perms(0500));
             QCOMPARE(errorAt(m_target), ErrorCode::AccessDenied);
-            QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            fs::permissions(".", fs::perms(0700));
         }
     }
 
     void copiesHolesAsHoles()
     {
-        QFile file(m_source);
+        QFile file(QString::fromStdString(m_source));
         QVERIFY(file.open(QIODevice::ReadWrite));
         QVERIFY(file.seek(64 << 20) && file.write("middle") == 6 && file.resize(128 << 20));
         file.close();
-        const auto source = ByteSource::openFile(m_source.toStdString());
-        OutputFile output(m_target.toStdString());
+        const auto source = ByteSource::openFile(m_source);
+        OutputFile output(m_target);
         output.copy(*source);
         output.write("end");
         output.commit();
-        const auto copied = ByteSource::openFile(m_target.toStdString());
+        const auto copied = ByteSource::openFile(m_target);
         QCOMPARE(copied->size(), source->size() + 3);
         QCOMPARE(copied->text(0, 500), source->text(0, 500));
         QCOMPARE(copied->text((64 << 20) - 2, 10), std::string("\0\0middle\0\0", 10));
         QCOMPARE(copied->text((128 << 20) - 1, 10), std::string("\0end", 4));
         struct stat status = {};
-        QCOMPARE(::stat(qPrintable(m_target), &status), 0);
+        QCOMPARE(::stat(m_target.c_str(), &status), 0);
         QVERIFY(status.st_blocks < 2000);
     }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_source;
-    QString m_target;
+    static std::string put(const std::string& name, const std::string& bytes)
+    {
+        return WorkFolder::put(name, bytes);
+    }
+    static std::string contentOf(const std::string& name) { return WorkFolder::contentOf(name); }
+
+    std::optional<WorkFolder> m_folder;
+    const std::string m_source = "source.pdf";
+    const std::string m_target = "target.pdf";
 };
 
 QTEST_GUILESS_MAIN(TestDocumentWriter)

@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/LoadedLibrary.h"
 #include "support/PdfBuilder.h"
 
@@ -16,12 +17,6 @@ const QSet<QString> infrastructure{"CreateLibrary",         "ReleaseLibrary", "C
                                    "AnsiStringResultLength"};
 
 const char* const leaveOption = "leave-without-closing";
-
-QByteArray contents(const char* path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// Ends the program with a document open and the instance never released, as a host may that gives up.
 [[noreturn]] void leaveWithoutClosing()
@@ -55,7 +50,7 @@ private slots:
     void exportsTheTableAndNothingElse()
     {
         QSet<QString> expected = infrastructure;
-        for (const QByteArray& line : contents(TEST_DATA_DIR "/operations.txt").trimmed().split('\n'))
+        for (const QByteArray& line : bytesOf(TEST_DATA_DIR "/operations.txt").trimmed().split('\n'))
             expected << QString(line.mid(2)).section('(', 0, 0).trimmed();
         QCOMPARE(expected.size(), 849 + 7);
         QProcess nm;
@@ -90,7 +85,7 @@ private slots:
         QSet<QString> described;
         QRegularExpressionMatchIterator rows =
             QRegularExpression("^\\| `([A-Za-z]+)\\(", QRegularExpression::MultilineOption)
-                .globalMatch(contents(SOURCE_DIR "/docs/engine.md"));
+                .globalMatch(bytesOf(SOURCE_DIR "/docs/engine.md"));
         while (rows.hasNext())
             described << rows.next().captured(1);
         QCOMPARE(available, described);
@@ -98,7 +93,7 @@ private slots:
 
     void describesEveryErrorCode()
     {
-        const QByteArray manual = contents(SOURCE_DIR "/docs/engine.md");
+        const QByteArray manual = bytesOf(SOURCE_DIR "/docs/engine.md");
         for (const engine::ErrorText& entry : engine::errorTexts) {
             const QByteArray row = "| " + QByteArray::number(static_cast<int>(entry.code)) + " | " +
                                    QByteArray(entry.text.data(), static_cast<int>(entry.text.size())) + " |";

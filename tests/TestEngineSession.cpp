@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/LoadedLibrary.h"
 #include "support/PdfBuilder.h"
 #include "support/Rewritten.h"
@@ -54,10 +55,8 @@ class TestEngineSession : public QObject
 
     QString file(const QString& name, const std::string& contents)
     {
-        QFile made(m_folder.filePath(name));
-        if (!made.open(QIODevice::WriteOnly) || made.write(contents.data(), contents.size()) < 0)
-            qFatal("cannot write %s", qPrintable(made.fileName()));
-        return made.fileName();
+        const QString path = m_folder.filePath(name);
+        return writeFile(path, QByteArray::fromStdString(contents)) ? path : QString();
     }
 
 private slots:

@@ -180,9 +180,11 @@ private slots:
         row("other mode", "/PageMode 10 0 R", pageMode(5), "/PageMode", "/UseAttachments");
         row("same layout", "/PageLayout /OneColumn", pageLayout(1), "/PageLayout");
         row("no layout", "/PageLayout /OneColumn", pageLayout(6), "/PageLayout", "null");
+        row("no layout where there is none", "", pageLayout(6), "/PageLayout");
         row("no layout for a wrong one", "/PageLayout 7", pageLayout(6), "/PageLayout", "null");
         row("same preference", "/ViewerPreferences << /FitWindow true >>", preference(4, 1),
             "/ViewerPreferences");
+        row("default preference", "", preference(4, 0), "/ViewerPreferences");
         row("default for a wrong one", "/ViewerPreferences << /FitWindow 1 >>", preference(4, 0),
             "/ViewerPreferences", "<< /FitWindow false >>");
         row("new preferences", "", preference(1, 1), "/ViewerPreferences", "<< /HideToolbar true >>");
@@ -216,6 +218,7 @@ private slots:
             add(action, std::string(action), QByteArray(expected));
         };
         row("[4 0 R /XYZ 10 20.5 1.5]", "2 type 1 10 20.5 0 0 150");
+        row("[4 0 R /XYZ null null null]", "2 type 1 0 0 0 0 0");
         row("[4 0 R /XYZ]", "2 type 1 0 0 0 0 0");
         row("[4 0 R]", "2 type 1 0 0 0 0 0");
         row("[4 0 R /Odd 1 2 3]", "2 type 1 1 2 0 0 300");
@@ -242,6 +245,8 @@ private slots:
         row("<< /S /GoTo /D (new) >>", "3 type 3 0 5 0 0 0 new");
         row("<< /S /GoTo /D (inside) >>", "1 type 2 0 0 0 0 0 inside");
         row("<< /S /GoTo /D (lied) >>", "1 type 4 7 0 0 0 0 lied");
+        row("<< /S /GoTo /D (old) >>", "2 type 2 0 0 0 0 0 old");
+        row("<< /S /GoTo /D /new >>", "3 type 3 0 5 0 0 0 new");
         row("<< /S /GoTo /D (nowhere) >>", "none");
         row("(new)", "3 type 3 0 5 0 0 0 new");
         row("<< /S /GoTo /D <FEFF00E9> >>", "1 type 2 0 0 0 0 0 \xc3\xa9");
@@ -342,14 +347,19 @@ private slots:
         const Rows<Setter, ErrorCode> row;
         const double nan = std::nan("");
         const ErrorCode bad = ErrorCode::BadArgument;
+        row("mode -1", pageMode(-1), bad);
         row("mode 6", pageMode(6), bad);
+        row("layout -1", pageLayout(-1), bad);
         row("layout 7", pageLayout(7), bad);
         row("preference 0", preference(0, 1), bad);
         row("preference 8", preference(8, 1), bad);
         row("preference value 2", preference(1, 2), bad);
+        row("preference value -1", preference(6, -1), bad);
         row("full screen outside full screen", preference(7, 3), bad);
         row("mode 6 outside full screen", preference(7, 6), bad);
+        row("page 0", destination(0, 0, 2), ErrorCode::UnknownPage);
         row("page 4", destination(4, 0, 2), ErrorCode::UnknownPage);
+        row("type 0", destination(1, 0, 0), bad);
         row("type 6", destination(1, 0, 6), bad);
         row("negative zoom", destination(1, -5, 1), bad);
         row("left no number", destination(1, 0, 1, nan), bad);
@@ -357,13 +367,18 @@ private slots:
         row("read preference 8", Setter([](Session& s) { return int(GetViewerPreferences(s, 8)); }), bad);
         row("destination 0", Setter([](Session& s) { return int(GetDestPage(s, 0)); }),
             ErrorCode::UnknownDestination);
+        row("destination 7", Setter([](Session& s) { return int(GetDestType(s, 7)); }),
+            ErrorCode::UnknownDestination);
         row("destination -1", Setter([](Session& s) { return int(GetDestType(s, -1)); }),
             ErrorCode::UnknownDestination);
+        row("value 0", Setter([](Session& s) { return int(GetDestValue(s, 1, 0)); }), bad);
         row("value 6", Setter([](Session& s) { return int(GetDestValue(s, 1, 6)); }), bad);
         row("select page 4", Setter([](Session& s) { return int(SelectPage(s, 4)); }),
             ErrorCode::UnknownPage);
+        row("box 0", Setter([](Session& s) { return int(GetPageBox(s, 0, 0)); }), bad);
         row("box 6", Setter([](Session& s) { return int(GetPageBox(s, 6, 0)); }), bad);
         row("dimension 6", Setter([](Session& s) { return int(GetPageBox(s, 1, 6)); }), bad);
+        row("dimension -1", Setter([](Session& s) { return int(GetPageBox(s, 1, -1)); }), bad);
     }
 
     void refusesWhatItDoesNotKnow()

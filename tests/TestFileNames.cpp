@@ -123,6 +123,7 @@ private slots:
         row("free", {}, "report.pdf", "report.pdf");
         row("first", {"report.pdf"}, "report.pdf", "report (1).pdf");
         row("next", {"report.pdf", "report (1).pdf"}, "report.pdf", "report (2).pdf");
+        row("gap", {"report.pdf", "report (2).pdf"}, "report.pdf", "report (1).pdf");
         row("last dot", {"a.tar.gz"}, "a.tar.gz", "a.tar (1).gz");
         row("dot in front", {".profile"}, ".profile", " (1).profile");
         row("dot of the folder", {"v1.2/name"}, "v1.2/name", "v1 (1).2/name");
@@ -165,6 +166,7 @@ private slots:
         row("none", home, "/tmp/%HOME%", "/tmp/%HOME%");
         row("another case", home, "%AllUsersProfile%", "%AllUsersProfile%");
         row("one", home, "%ALLUSERSPROFILE%/x", "/home/All Users//x");
+        row("two", home, "%ALLUSERSPROFILE%;%ALLUSERSPROFILE%", "/home/All Users/;/home/All Users/");
         row("older layout", "/c/Documents and Settings/ann", "%ALLUSERSPROFILE%a",
             "/c/Documents and Settings/All Users/Application Data/a");
         row("backslashes", "/c\\home\\ann", "%ALLUSERSPROFILE%", "/c/home/All Users/");
@@ -185,8 +187,11 @@ private slots:
         const Rows<double, int> row;
         row("half", 0.5, 0);
         row("half below zero", -0.5, -1);
+        row("two and a half", 2.5, 2);
         row("above a half", 2.51, 3);
+        row("minus two and a half", -2.5, -3);
         row("above minus two and a half", -2.49, -2);
+        row("whole", -3.0, -3);
         row("just below a half", 0.49999999999999994, 0);
         row("near the largest", INT_MAX - 0.25, INT_MAX);
         row("beyond the largest", 1e300, INT_MAX);

@@ -54,12 +54,12 @@ private slots:
 
     void namesTheApplication()
     {
-        CUtils::SetAppName(QString());
-        QCOMPARE(CUtils::GetAppName(), QString("Plexor"));
-        CUtils::SetAppName("Other");
-        QCOMPARE(CUtils::GetAppName(), QString("Other"));
-        CUtils::SetAppName("");
-        QCOMPARE(CUtils::GetAppName(), QString("Plexor"));
+        for (const QString& unnamed : {QString(), QString("")}) {
+            CUtils::SetAppName("Other");
+            QCOMPARE(CUtils::GetAppName(), QString("Other"));
+            CUtils::SetAppName(unnamed);
+            QCOMPARE(CUtils::GetAppName(), QString("Plexor"));
+        }
     }
 
     void setsTheFoldersUp_data()

@@ -88,7 +88,10 @@ private slots:
         row(382, 282, "bottom-right");
         row(381, 282, "");
         row(18, 282, "bottom-left");
+        row(19, 282, "");
         row(5, 295, "left bottom bottom-left");
+        row(9, 150, "left");
+        row(10, 150, "");
         row(-1, 150, "");
         row(391, 150, "right");
         row(390, 150, "");
@@ -98,6 +101,7 @@ private slots:
         row(200, 300, "bottom");
         row(200, 301, "");
         row(400, 300, "right bottom bottom-right");
+        row(200, 9, "top bar");
         row(200, 30, "bar");
         row(200, 31, "");
         // The bar has neither sides nor an upper end.

@@ -129,6 +129,7 @@ private slots:
         row("a section that is none", "\f[k]=" + bomb, false);
         row("begun by an escape", "k=\\x40" + bomb.mid(1), false);
         row("begun in octal", "k=\\100" + bomb.mid(1), false);
+        row("behind an unknown escape", "k=\\q" + bomb, false);
         row("split by quotes", "k=\"@Var\"\"iant(" + bomb.mid(9), false);
         row("over two lines", "k=\"\n\"," + bomb, false);
         row("more items than bytes", "k=" + variant(word(QMetaType::QVariantList) + word(0x7fffffff)), false);

@@ -1,30 +1,24 @@
 #include "CActionUtils.h"
 #include "CUtils.h"
 #include "support/Rows.h"
+#include "support/TemporaryHome.h"
 
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QtTest>
 
-#include <memory>
+#include <optional>
 
 class TestLocations : public QObject
 {
     Q_OBJECT
 
 private:
-    std::unique_ptr<QTemporaryDir> m_home;
+    std::optional<TemporaryHome> m_home;
 
     static QString file() { return CUtils::GetSettingsFolder() + "/LastVisitedLocations.qsf"; }
 
 private slots:
-    void init()
-    {
-        m_home = std::make_unique<QTemporaryDir>();
-        qputenv("HOME", QFile::encodeName(m_home->path()));
-        qputenv("XDG_DATA_HOME", QFile::encodeName(m_home->filePath("data")));
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home->filePath("config")));
-    }
+    void init() { m_home.emplace(); }
 
     void answersWhatWasNeverSaved()
     {

@@ -43,10 +43,12 @@ private slots:
         row("a final comma is accepted", "1,", true, true);
         row("the end is read up to the final comma", "5-2,", false, true);
         row("final dash", "1-", false, false);
+        row("final dash in a later item", "1,2-", false, false);
         row("leading zero of an item", "1,05", false, false);
         row("leading zero of an end", "1-05", false, false);
         row("two dashes side by side", "1--3", false, false);
         row("two dashes in an item", "1-2-3", false, false);
+        row("two dashes in a later item", "1,2-4-6", false, false);
         row("a dash in each of two items", "1-2,3-4", true, true);
         row("ascending", "2-5", true, true);
         row("descending", "5-2", false, true);
@@ -112,6 +114,7 @@ private slots:
         row("a reversed range names nothing", "5-2,1", 10, "", {1});
         row("an empty item is page 0", "1,", 10, "", {0, 1});
         row("a word is page 0", "x,2", 10, "", {0, 2});
+        row("page 0 is even", "1,", 10, "even", {1});
         row("spaces around numbers", " 2 , 3 - 4 ", 10, "", {2, 3, 4});
         row("a missing start is 0", "-2", 10, "", {0, 1, 2});
         row("a missing end is 0", "2-", 10, "", {});
@@ -120,6 +123,8 @@ private slots:
         row("ends at the largest int", "2147483645-2147483647", INT_MAX, "",
             {INT_MAX - 2, INT_MAX - 1, INT_MAX});
         row("the longest range, all skipped", "1-2147483647", 10, "odd even", {});
+        row("a negative odd number is no odd page", QString::fromUtf8("\xe2\x88\x92") + "3-2", 10, "odd",
+            {-3, -2, -1, 0, 2});
         row("nor an even one", QString::fromUtf8("\xe2\x88\x92") + "3-2", 10, "odd even", {-3, -1});
         row("no pages", "1", 0, "", {});
     }

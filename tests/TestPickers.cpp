@@ -208,9 +208,14 @@ private slots:
         row("double", underlineStyles, 2, "", "8-8 10-10");
         row("thick", underlineStyles, 3, "4-66", "8-10");
         row("0.1", lineWeights, 0, "3-27", "7-7", QColor(200, 200, 200));
+        row("0.25", lineWeights, 1, "3-27", "7-7", QColor(170, 170, 170));
+        row("0.5", lineWeights, 2, "3-27", "7-7", QColor(140, 140, 140));
         row("0.75", lineWeights, 3, "3-27", "7-7", QColor(60, 60, 60));
         row("1", lineWeights, 4, "3-27", "7-7");
+        row("1.5", lineWeights, 5, "2-27", "6-7");
         row("2.5", lineWeights, 7, "2-28", "6-8");
+        row("4", lineWeights, 9, "1-28", "5-8");
+        row("5", lineWeights, 10, "1-29", "5-9");
         row("6", lineWeights, 11, "0-29", "4-9");
     }
 
@@ -267,6 +272,7 @@ private slots:
         row("beyond int", 2, 1e300, "2147483647 2147483647");
         row("not a number", 2, std::numeric_limits<double>::quiet_NaN(), "0 0");
         row("style 0", 0, 1.0, "invalid");
+        row("style 5", 5, 1.0, "invalid");
     }
 
     void writesBorderDashes()

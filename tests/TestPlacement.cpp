@@ -89,7 +89,9 @@ private slots:
                 row(QString::asprintf("%d to %d", from, to), from, v, to, results[from][to]);
         }
         row("an inch of centimetres in points", 1, 2.54, 3, 72.0);
+        row("unknown source", 5, 7.0, 0, 7.0);
         row("negative source", -1, 7.0, 3, 7.0);
+        row("unknown target", 0, 7.0, 4, 7.0);
         row("negative target", 0, 7.0, -1, 7.0);
     }
 
@@ -281,6 +283,7 @@ private slots:
         const Rows<double, double, QSize> row;
         row("wide", 300.9, 150.9, {128, 64});
         row("high", 100.0, 400.0, {32, 128});
+        row("small is enlarged", 16.0, 8.0, {128, 64});
         row("narrow keeps a pixel", 1000.0, 1.0, {128, 1});
         row("huge", 1e9, 5e8, {128, 64});
         row("beyond int", 1e300, 1e300, {128, 128});

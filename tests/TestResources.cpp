@@ -1,5 +1,6 @@
 #include "EditInitialView/InitialViewSettings.h"
 #include "EditInitialView/editinitialview.h"
+#include "support/Files.h"
 #include "support/Rows.h"
 
 #include <QApplication>
@@ -14,12 +15,6 @@
 namespace {
 
 const QString resources = QStringLiteral(":/Quintar/Resources/");
-
-QByteArray contentsOf(const QString& file)
-{
-    QFile source(file);
-    return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
-}
 
 /// Where the name, with or without folders before it, stands among the resources.
 bool isResource(const QString& name)
@@ -101,7 +96,7 @@ private slots:
             QDirIterator sources(QString(TEST_DATA_DIR "/../../") + folder, {"*.cpp", "*.h", "*.ui"},
                                  QDir::Files, QDirIterator::Subdirectories);
             while (sources.hasNext()) {
-                auto names = imageName.globalMatch(QString::fromUtf8(contentsOf(sources.next())));
+                auto names = imageName.globalMatch(QString::fromUtf8(bytesOf(sources.next())));
                 for (; names.hasNext(); ++found) {
                     const QString name = names.next().captured();
                     // The frame's style sheets name this one to show no image at all.
@@ -115,7 +110,7 @@ private slots:
     void theHelpPageExplainsEverySetting()
     {
         using namespace initialview;
-        const QByteArray html = contentsOf(resources + "HelpFiles/Action_EditInitialView.html");
+        const QByteArray html = bytesOf(resources + "HelpFiles/Action_EditInitialView.html");
         QTextCodec* codec = QTextCodec::codecForHtml(html);
         QCOMPARE(codec->name(), QByteArray("UTF-8"));
         QTextEdit box;

@@ -1,4 +1,5 @@
 #include "host/SettingsFile.h"
+#include "support/Files.h"
 #include "support/Rows.h"
 #include "support/UsageErrors.h"
 
@@ -142,6 +143,7 @@ private slots:
         row("no end", map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1"), "not a settings map");
         row("open quote", map("\"@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1)"), "damaged");
         row("wrong escape", map("@Variant(\\q)"), "damaged");
+        row("escape at the end", map("@Variant(\\"), "damaged");
         row("escape too large", map("@Variant(\\x12345)"), "damaged");
         row("more than bytes", map("@Variant(\\x100\\0\\0\\b)"), "not a settings map");
         row("claims more than it has",
@@ -214,10 +216,7 @@ private:
 
     std::string fileWith(const QByteArray& bytes) const
     {
-        QFile file(m_folder.filePath("settings"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("no file");
-        return file.fileName().toStdString();
+        return writeFile(m_folder.filePath("settings"), bytes) ? path("settings") : std::string();
     }
 
     static std::string refusalOf(Read read, const std::string& file)

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Files.h"
 #include "shared/CUtils.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 /// A user with empty folders of their own, for as long as the object lives.
@@ -32,15 +32,3 @@ public:
 private:
     QTemporaryDir m_folder;
 };
-
-inline QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-inline bool writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
