@@ -14,6 +14,7 @@ public:
     {
         qputenv("HOME", m_folder.path().toUtf8());
         qputenv("XDG_DATA_HOME", m_folder.filePath("share").toUtf8());
+        qputenv("XDG_CONFIG_HOME", m_folder.filePath("config").toUtf8());
         reset();
     }
 
