@@ -97,14 +97,14 @@ private slots:
         const char* const modes[] = {"UseNone",    "UseOutlines", "UseThumbs",
                                      "FullScreen", "UseOC",       "UseAttachments"};
         for (int mode = 0; mode < 6; ++mode) {
-            const std::string name = std::string("/") + modes[mode];
-            Opened opened(document("/PageMode " + name + " /ViewerPreferences << /NonFullScreenPageMode " +
-                                   name + " >>"));
+            std::string entries = "/PageMode /";
+            entries.append(modes[mode]).append(" /ViewerPreferences << /NonFullScreenPageMode /");
+            Opened opened(document(entries.append(modes[mode]).append(" >>")));
             QCOMPARE(GetPageMode(opened.session), mode);
             QCOMPARE(GetViewerPreferences(opened.session, 7), mode == 3 ? 0 : mode);
             Opened plain(document("/PageMode /Other"));
             SetPageMode(plain.session, mode);
-            QCOMPARE(plain.entry("/PageMode"), QByteArray::fromStdString(name));
+            QCOMPARE(plain.entry("/PageMode"), QByteArray("/") + modes[mode]);
         }
         const char* const layouts[] = {"SinglePage",     "OneColumn",   "TwoColumnLeft",
                                        "TwoColumnRight", "TwoPageLeft", "TwoPageRight"};

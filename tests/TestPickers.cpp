@@ -63,6 +63,7 @@ QString stretches(const QImage& image, QPoint from, QPoint step)
 
 } // namespace
 
+// The linker wraps under these names. NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 void* __real_dlopen(const char* file, int mode);
 
@@ -72,6 +73,7 @@ void* __wrap_dlopen(const char* file, int mode)
     return __real_dlopen(bareName && libraryFile != nullptr ? libraryFile : file, mode);
 }
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 class TestPickers : public QObject
 {
