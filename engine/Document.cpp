@@ -46,13 +46,13 @@ std::shared_ptr<std::vector<QPDFObjGen>> referencesIn(std::string_view array)
     return references;
 }
 
-/// Splits a node's text. \returns nothing for what is no node, or has kids that are no references.
 struct NodeText
 {
     std::string withoutKids;
     std::shared_ptr<std::vector<QPDFObjGen>> kids;
 };
 
+/// Splits a node's text. \returns nothing for what is no node, or has kids that are no references.
 std::optional<NodeText> splitNode(const std::string& text)
 {
     DictionaryScanner scanner(text);

@@ -7,8 +7,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <cerrno>
 #include <unistd.h>
+
+#include <cerrno>
+#include <stdexcept>
 
 namespace host {
 
