@@ -41,18 +41,18 @@ ssize_t receiveRecord(int channel, std::string& record, int flags)
 {
     static std::array<char, largestRecord> buffer; // filling a string with zeros first would cost more
     ssize_t length = 0;
-    do
+    do // a reset tells that the other side ended without reading on; what it had sent comes behind that
         length = recv(channel, buffer.data(), buffer.size(), flags);
-    while (length < 0 && errno == EINTR);
+    while (length < 0 && (errno == EINTR || errno == ECONNRESET));
     record.assign(buffer.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
     return length;
 }
 
-bool sendRecord(int channel, const std::string& record)
+bool sendRecord(int channel, const std::string& record, int flags = 0)
 {
     ssize_t length = 0;
     do
-        length = send(channel, record.data(), record.size(), MSG_NOSIGNAL);
+        length = send(channel, record.data(), record.size(), MSG_NOSIGNAL | flags);
     while (length < 0 && errno == EINTR);
     return length == static_cast<ssize_t>(record.size());
 }
@@ -85,9 +85,10 @@ struct WorkerPool::Process
 {
     pid_t id = 0;
     FileDescriptor channel;
-    bool busy = false;
-    std::size_t piece = 0;
+    std::deque<std::size_t> pieces; // the first one is in work
     Clock::time_point deadline;
+
+    bool busy() const { return !pieces.empty(); }
 };
 
 WorkerPool::WorkerPool(Limits limits, MakeWorker makeWorker)
@@ -106,32 +107,63 @@ WorkerPool::~WorkerPool()
 
 void WorkerPool::run(std::size_t count, const WorkOf& workOf, const Done& done, StopSignal& stop)
 {
+    m_count = count;
     m_next = 0;
+    m_returned.clear();
     for (;;) {
-        if (m_stopSignals == 0)
-            giveWork(count, workOf, done);
+        if (m_stopSignals == 0) {
+            giveWork(workOf, done);
+            giveWorkAhead(workOf);
+        }
         if (!anyBusy())
             return;
         waitForNews(done, stop);
     }
 }
 
-void WorkerPool::giveWork(std::size_t count, const WorkOf& workOf, const Done& done)
+void WorkerPool::giveWork(const WorkOf& workOf, const Done& done)
 {
-    while (m_next < count) {
+    while (piecesLeft() > 0) {
         Process* const process = idleProcess();
         if (process == nullptr)
             return;
-        if (give(*process, workOf(m_next))) {
-            process->piece = m_next++;
-            process->busy = true;
-            process->deadline = Clock::now() + std::chrono::seconds(m_limits.timeoutSeconds);
+        const std::size_t piece = nextPiece();
+        if (give(*process, workOf(piece))) {
+            process->pieces.push_back(piece);
+            setDeadline(*process);
         } else if (anyBusy()) {
             return; // there cannot be as many workers as wanted: those that there are do the rest
         } else {
-            done(m_next++, {WorkOutcome::Lost, "no worker process can be started: " + systemError(errno)});
+            done(piece, {WorkOutcome::Lost, "no worker process can be started: " + systemError(errno)});
+        }
+        takeNextPiece();
+    }
+}
+
+/// Waking each other up would cost as much as a small piece. The last pieces are for whoever is ready first.
+void WorkerPool::giveWorkAhead(const WorkOf& workOf)
+{
+    for (Process& process : m_processes) {
+        if (process.pieces.size() != 1 || piecesLeft() <= m_processes.size())
+            continue;
+        if (sendRecord(process.channel.get(), workOf(nextPiece()), MSG_DONTWAIT)) {
+            process.pieces.push_back(nextPiece());
+            takeNextPiece();
         }
     }
+}
+
+void WorkerPool::takeNextPiece()
+{
+    if (m_returned.empty())
+        ++m_next;
+    else
+        m_returned.pop_front();
+}
+
+void WorkerPool::setDeadline(Process& process) const
+{
+    process.deadline = Clock::now() + std::chrono::seconds(m_limits.timeoutSeconds);
 }
 
 /// One that has been started already, if there is any.
@@ -139,7 +171,7 @@ WorkerPool::Process* WorkerPool::idleProcess()
 {
     Process* idle = nullptr;
     for (Process& process : m_processes)
-        if (!process.busy && (idle == nullptr || (idle->id == 0 && process.id != 0)))
+        if (!process.busy() && (idle == nullptr || (idle->id == 0 && process.id != 0)))
             idle = &process;
     return idle;
 }
@@ -189,12 +221,9 @@ void WorkerPool::serve(int channel, pid_t parent)
     limitWorker(m_limits.memoryMiB);
     std::string record;
     try {
-        std::unique_ptr<Worker> worker;
+        const std::unique_ptr<Worker> worker = m_makeWorker();
         bool last = false;
         while (!last && receiveRecord(channel, record, 0) > 0) {
-            // Not before the first order: a worker that ends with one unread would take its answer along.
-            if (!worker)
-                worker = m_makeWorker();
             const Worker::Answer answer = worker->answer(record);
             if (answer.record.size() >= largestRecord)
                 throw std::runtime_error("what there is to tell of it is longer than 128 KiB");
@@ -211,7 +240,7 @@ void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
     std::vector<pollfd> waiting; // no more than there are open descriptors: poll takes that for an error
     std::vector<Process*> busy;
     for (Process& process : m_processes)
-        if (process.busy) {
+        if (process.busy()) {
             busy.push_back(&process);
             waiting.push_back({process.channel.get(), POLLIN, 0});
         }
@@ -221,7 +250,7 @@ void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
     for (std::size_t index = 0; index < busy.size(); ++index)
         if (waiting[index].revents != 0)
             receive(*busy[index], done);
-    const int signals = stop.count();
+    const int signals = waiting.back().revents != 0 ? stop.count() : m_stopSignals;
     if (m_stopSignals == 0 && signals > 0)
         m_stopDeadline = Clock::now() + stopGrace;
     m_stopSignals = signals;
@@ -236,23 +265,36 @@ void WorkerPool::receive(Process& process, const Done& done)
     if (length < 0 && errno == EAGAIN)
         return;
     if (length <= 0) {
-        lose(process, done, WorkOutcome::Lost, end(process));
+        const std::string reason = end(process);
+        pieceEnded(process, done, {WorkOutcome::Lost, reason});
         return;
     }
     const char state = record[0];
     record.erase(0, 1);
-    process.busy = false;
     if (state != fit)
         end(process);
-    done(process.piece, {state == notStarted ? WorkOutcome::Lost : WorkOutcome::Answered, record});
+    pieceEnded(process, done, {state == notStarted ? WorkOutcome::Lost : WorkOutcome::Answered, record});
 }
 
-void WorkerPool::lose(Process& process, const Done& done, WorkOutcome::Kind kind, const std::string& reason)
+/// The piece that was in work; when the worker has ended too, what it was given ahead is taken back.
+void WorkerPool::pieceEnded(Process& process, const Done& done, const WorkOutcome& outcome)
 {
-    if (process.id != 0)
-        end(process);
-    process.busy = false;
-    done(process.piece, {kind, reason});
+    const std::size_t piece = process.pieces.front();
+    process.pieces.pop_front();
+    if (process.id == 0) {
+        m_returned.insert(m_returned.end(), process.pieces.begin(), process.pieces.end());
+        process.pieces.clear();
+    }
+    setDeadline(process);
+    done(piece, outcome);
+}
+
+void WorkerPool::endAndLose(Process& process, const Done& done, WorkOutcome::Kind kind,
+                            const std::string& reason)
+{
+    kill(process.id, SIGKILL);
+    end(process);
+    pieceEnded(process, done, {kind, reason});
 }
 
 /// Waits for the end of a process that gets no more work. \returns how it ended.
@@ -272,11 +314,9 @@ std::string WorkerPool::end(Process& process)
 void WorkerPool::endOverdue(const Done& done)
 {
     for (Process& process : m_processes)
-        if (process.busy && Clock::now() >= process.deadline) {
-            kill(process.id, SIGKILL);
-            lose(process, done, WorkOutcome::Lost,
-                 "it took longer than " + std::to_string(m_limits.timeoutSeconds) + " s");
-        }
+        if (process.busy() && Clock::now() >= process.deadline)
+            endAndLose(process, done, WorkOutcome::Lost,
+                       "it took longer than " + std::to_string(m_limits.timeoutSeconds) + " s");
 }
 
 void WorkerPool::endStopped(const Done& done)
@@ -284,23 +324,21 @@ void WorkerPool::endStopped(const Done& done)
     if (m_stopSignals == 0 || (m_stopSignals == 1 && Clock::now() < m_stopDeadline))
         return;
     for (Process& process : m_processes)
-        if (process.busy) {
-            kill(process.id, SIGKILL);
-            lose(process, done, WorkOutcome::Stopped, "stopped");
-        }
+        if (process.busy())
+            endAndLose(process, done, WorkOutcome::Stopped, "stopped");
 }
 
 bool WorkerPool::anyBusy() const
 {
     return std::any_of(m_processes.begin(), m_processes.end(),
-                       [](const Process& process) { return process.busy; });
+                       [](const Process& process) { return process.busy(); });
 }
 
 int WorkerPool::millisecondsToNextDeadline() const
 {
     Clock::time_point next = Clock::time_point::max();
     for (const Process& process : m_processes)
-        if (process.busy)
+        if (process.busy())
             next = std::min(next, process.deadline);
     if (m_stopSignals > 0)
         next = std::min(next, m_stopDeadline);

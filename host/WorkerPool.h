@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
@@ -39,8 +40,9 @@ struct WorkOutcome
     std::string text;
 };
 
-/// Spreads work over processes that are copies of this one, one piece at a time to each. A worker that
-/// crashes, takes too long or too much memory costs the piece it was at; a fresh one goes on.
+/// Spreads work over processes that are copies of this one. Each works at one piece at a time and, so that it
+/// never waits, has been given the next one meanwhile. A worker that crashes, takes too long or too much memory
+/// costs the piece it was at; a fresh one goes on.
 ///
 /// The program must have no threads when it calls `run`.
 class WorkerPool
@@ -63,24 +65,30 @@ public:
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
 
-    /// Has pieces 0 to count - 1 done and tells of each as it ends. After a stop signal no piece is begun;
-    /// those in work are waited for a few seconds, or not at all after a second signal, and then end as
-    /// Stopped.
+    /// Has pieces 0 to count - 1 done and tells of each as it ends. After a stop signal no piece is given out;
+    /// those that workers have are waited for a few seconds, or not at all after a second signal, and then end
+    /// as Stopped.
     void run(std::size_t count, const WorkOf& workOf, const Done& done, StopSignal& stop);
 
 private:
     using Clock = std::chrono::steady_clock;
     struct Process;
 
-    void giveWork(std::size_t count, const WorkOf& workOf, const Done& done);
+    void giveWork(const WorkOf& workOf, const Done& done);
+    void giveWorkAhead(const WorkOf& workOf);
+    std::size_t piecesLeft() const { return m_returned.size() + m_count - m_next; }
+    std::size_t nextPiece() const { return m_returned.empty() ? m_next : m_returned.front(); }
+    void takeNextPiece();
     Process* idleProcess();
     bool give(Process& process, const std::string& record);
     bool start(Process& process);
     [[noreturn]] void serve(int channel, pid_t parent);
     void waitForNews(const Done& done, StopSignal& stop);
     void receive(Process& process, const Done& done);
-    void lose(Process& process, const Done& done, WorkOutcome::Kind kind, const std::string& reason);
+    void pieceEnded(Process& process, const Done& done, const WorkOutcome& outcome);
+    void setDeadline(Process& process) const;
     std::string end(Process& process);
+    void endAndLose(Process& process, const Done& done, WorkOutcome::Kind kind, const std::string& reason);
     void endOverdue(const Done& done);
     void endStopped(const Done& done);
     bool anyBusy() const;
@@ -89,7 +97,9 @@ private:
     Limits m_limits;
     MakeWorker m_makeWorker;
     std::vector<Process> m_processes;
+    std::size_t m_count = 0;
     std::size_t m_next = 0;
+    std::deque<std::size_t> m_returned; // were given to workers that ended before they came to them
     int m_stopSignals = 0;
     Clock::time_point m_stopDeadline;
 };
