@@ -47,6 +47,7 @@ std::shared_ptr<ByteSource> ByteSource::openFile(const std::string& path)
     if (status.st_size == 0)
         throw EngineError(ErrorCode::EmptyFile);
     source->m_size = static_cast<std::uint64_t>(status.st_size);
+    source->m_hasHoles = status.st_blocks * 512 < status.st_size; // the unit is fixed
     source->m_modifiedSeconds = status.st_mtim.tv_sec;
     source->m_modifiedNanoseconds = status.st_mtim.tv_nsec;
     return source;
@@ -91,7 +92,17 @@ std::size_t ByteSource::read(std::uint64_t offset, void* into, std::size_t size)
             break;
         done += static_cast<std::size_t>(count);
     }
+    if (done > 0 && offset + done == m_size)
+        m_lastByte = static_cast<const char*>(into)[done - 1];
     return done;
+}
+
+char ByteSource::lastByte() const
+{
+    char byte = '\0';
+    if (!m_lastByte)
+        read(m_size - 1, &byte, 1);
+    return m_lastByte.value_or(byte);
 }
 
 std::string ByteSource::text(std::uint64_t offset, std::size_t size) const

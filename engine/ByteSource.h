@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace engine {
@@ -33,11 +34,17 @@ public:
     /// The same into a new string.
     std::string text(std::uint64_t offset, std::size_t size) const;
 
+    /// \throws EngineError with ReadFailed.
+    char lastByte() const;
+
     /// The open file, owned by this object; -1 for memory.
     int fd() const { return m_fd; }
 
     /// False as soon as the file's size or time of change differs from what it was on opening.
     bool unchangedSinceOpened() const;
+
+    /// True when the file takes less room than its size.
+    bool hasHoles() const { return m_hasHoles; }
 
     /// True once a read threw, even if nobody heard of it.
     bool readFailed() const { return m_readFailed; }
@@ -48,8 +55,10 @@ private:
     int m_fd = -1;
     std::string m_bytes;
     std::uint64_t m_size = 0;
+    bool m_hasHoles = false;
     std::int64_t m_modifiedSeconds = 0;
     std::int64_t m_modifiedNanoseconds = 0;
+    mutable std::optional<char> m_lastByte; // once it was among what was read
     mutable bool m_readFailed = false;
 };
 

@@ -15,6 +15,7 @@ namespace {
 
 const std::size_t tailSize = 1024;
 const std::size_t readAtOnce = 16384;
+const std::int64_t pageSize = 4096; // of memory, in which files are kept
 const std::size_t firstWindow = 4096;
 const std::size_t largestWindow = 4 << 20;
 const std::size_t largestDecoded = 64 << 20;
@@ -179,16 +180,25 @@ std::string_view DirectReader::bytes(std::int64_t offset, std::size_t count)
     }
     Window& window = m_windows[m_oldestWindow];
     m_oldestWindow = (m_oldestWindow + 1) % m_windows.size();
-    window = {offset, m_source->text(static_cast<std::uint64_t>(offset), std::max(count, readAtOnce))};
-    return std::string_view(window.bytes).substr(0, count);
+    // What is asked for next often lies a little before.
+    const auto before = static_cast<std::size_t>(offset % pageSize);
+    const std::int64_t start =
+        std::min(offset - static_cast<std::int64_t>(before),
+                 std::max<std::int64_t>(0, total - static_cast<std::int64_t>(readAtOnce)));
+    const auto skipped = static_cast<std::size_t>(offset - start);
+    window = {start,
+              m_source->text(static_cast<std::uint64_t>(start), std::max(skipped + count, readAtOnce))};
+    return std::string_view(window.bytes).substr(std::min(skipped, window.bytes.size()), count);
 }
 
 /// The number behind the last "startxref", when nothing but the end-of-file marker follows it.
 std::optional<std::int64_t> DirectReader::lastStartXref()
 {
     const auto total = static_cast<std::int64_t>(m_source->size());
-    const std::int64_t start = std::max<std::int64_t>(0, total - static_cast<std::int64_t>(tailSize));
-    const std::string_view tail = bytes(start, tailSize);
+    // With the tail comes what it points to, if the document is small.
+    const std::int64_t start = std::max<std::int64_t>(0, total - static_cast<std::int64_t>(readAtOnce));
+    const std::string_view end = bytes(start, readAtOnce);
+    const std::string_view tail = end.substr(end.size() - std::min(end.size(), tailSize));
     const std::size_t found = tail.rfind("startxref");
     if (found == tail.npos)
         return std::nullopt;

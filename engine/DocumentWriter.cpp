@@ -98,8 +98,6 @@ void appendUpdate(Document& document, const std::string& path)
     const std::shared_ptr<ByteSource>& source = document.source();
     if (document.changedObjects().empty())
         throw EngineError(ErrorCode::NothingChanged);
-    if (!source->unchangedSinceOpened())
-        throw EngineError(ErrorCode::SourceChanged);
     const IncrementalUpdate update(document.pdf(), document.crossReference(), *source,
                                    document.changedObjects());
     document.requireAllRead();

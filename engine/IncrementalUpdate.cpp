@@ -61,12 +61,6 @@ std::vector<std::pair<int, int>> stretches(const Entries& entries)
     return result;
 }
 
-bool endsWithLine(const ByteSource& source)
-{
-    const std::string last = source.text(source.size() - 1, 1);
-    return last == "\n" || last == "\r";
-}
-
 } // namespace
 
 IncrementalUpdate::IncrementalUpdate(QPDF& pdf, const CrossReference& crossReference,
@@ -75,7 +69,7 @@ IncrementalUpdate::IncrementalUpdate(QPDF& pdf, const CrossReference& crossRefer
 {
     if (changed.empty())
         throw EngineError(ErrorCode::NothingChanged);
-    if (!endsWithLine(source))
+    if (const char last = source.lastByte(); last != '\n' && last != '\r')
         m_bytes = "\n";
     writeObjects(pdf, changed);
     if (m_crossReference.kind() == CrossReference::Kind::Table)

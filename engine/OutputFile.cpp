@@ -22,6 +22,9 @@ namespace engine {
 
 namespace {
 
+// Asking a file system that cannot do it costs as much as copying some pages.
+const std::uint64_t worthCloning = 1 << 20;
+
 [[noreturn]] void fail(int error)
 {
     ErrorCode code = ErrorCode::WriteFailed;
@@ -75,9 +78,9 @@ std::string unguessableName()
 
 } // namespace
 
-OutputFile::OutputFile(const std::string& path) : m_target(followed(path))
+OutputFile::OutputFile(const std::string& path) : m_target(isUnfinished(path) ? path : followed(path))
 {
-    if (isUnfinished(m_target)) {
+    if (isUnfinished(m_target)) { // a link of such a name is not followed, for it would be there already
         createAt(m_target, 0600);
         if (m_fd < 0)
             fail(errno);
@@ -123,10 +126,10 @@ void OutputFile::copy(const ByteSource& source)
     const std::uint64_t size = source.size();
     if (source.fd() < 0)
         copyThroughMemory(source, 0, size);
+    else if (size < worthCloning && !source.hasHoles())
+        copyRange(source, 0, size);
     else if (::ioctl(m_fd, FICLONE, source.fd()) != 0)
         copyExtents(source);
-    if (::ftruncate(m_fd, static_cast<off_t>(size)) != 0)
-        fail(errno);
     m_size = size;
 }
 
@@ -137,7 +140,7 @@ void OutputFile::copyExtents(const ByteSource& source)
     while (offset < size) {
         const off_t data = ::lseek(source.fd(), static_cast<off_t>(offset), SEEK_DATA);
         if (data < 0 && errno == ENXIO) // nothing but a hole up to the end
-            return;
+            break;
         const off_t hole = data < 0 ? -1 : ::lseek(source.fd(), data, SEEK_HOLE);
         if (data >= 0)
             offset = static_cast<std::uint64_t>(data);
@@ -145,6 +148,8 @@ void OutputFile::copyExtents(const ByteSource& source)
         copyRange(source, offset, end);
         offset = end;
     }
+    if (::ftruncate(m_fd, static_cast<off_t>(size)) != 0)
+        fail(errno);
 }
 
 void OutputFile::copyRange(const ByteSource& source, std::uint64_t offset, std::uint64_t end)

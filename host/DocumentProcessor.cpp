@@ -85,7 +85,7 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     m_library.SelectDocument(document);
     DocumentResult result = applyAndSave(job);
     m_library.RemoveDocument(document);
-    if (result.status != Status::Failed && !m_options.dryRun) {
+    if (result.status != Status::Failed && m_options.tellStates && !m_options.dryRun) {
         result.outputState = stateOf(job.target);
         result.fileState = m_options.inPlace ? result.outputState : stateOf(m_original);
     }
@@ -127,10 +127,22 @@ std::string DocumentProcessor::refusal()
     return {};
 }
 
+/// Most documents go where the one before went.
+std::string DocumentProcessor::prepareFolder(const DocumentJob& job)
+{
+    std::string folder = SafeOutput::folderOf(job.target);
+    if (folder == m_preparedFolder)
+        return {};
+    std::string problem = SafeOutput::makeFolder(folder);
+    if (problem.empty())
+        m_preparedFolder = std::move(folder);
+    return problem;
+}
+
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
 {
     SafeOutput output(job.target, job.temporary);
-    if (std::string problem = output.prepareFolder(); !problem.empty())
+    if (std::string problem = prepareFolder(job); !problem.empty())
         return DocumentResult::failed(problem);
     const DocumentResult result = write(job);
     return result.status == Status::Failed ? result : commit(output, job, result);
@@ -155,7 +167,7 @@ DocumentResult DocumentProcessor::write(const DocumentJob& job)
 DocumentResult DocumentProcessor::copy(const DocumentJob& job)
 {
     SafeOutput output(job.target, job.temporary);
-    std::string problem = output.prepareFolder();
+    std::string problem = prepareFolder(job);
     if (problem.empty())
         problem = copyFile(job.source, job.temporary);
     return problem.empty() ? commit(output, job, {Status::Unchanged, Saved::Copied, {}, 0})

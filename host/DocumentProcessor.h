@@ -32,6 +32,8 @@ struct ProcessingOptions
     bool dryRun = false;
     /// Every output is flushed to the disk before it takes its place.
     bool flush = false;
+    /// The result tells the states of the files, for a report.
+    bool tellStates = false;
 };
 
 /// Runs the action over documents, one at a time: load, select, work, save, close. Brackets the run from its
@@ -61,6 +63,7 @@ private:
     DocumentResult applyAndSave(const DocumentJob& job);
     bool applyEntries();
     std::string refusal();
+    std::string prepareFolder(const DocumentJob& job);
     DocumentResult save(const DocumentJob& job);
     DocumentResult write(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);
@@ -72,6 +75,7 @@ private:
     TelvarPDFLibraryCPDylibCPP1311 m_library;
     CErrorHandler m_errors;
     struct stat m_original = {}; ///< The document's file before it was read.
+    std::string m_preparedFolder;
     bool m_wornOut = false;
 };
 

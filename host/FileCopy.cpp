@@ -17,6 +17,8 @@ namespace host {
 namespace {
 
 const std::size_t chunkSize = 1 << 20;
+const off_t worthCloning =
+    1 << 20; // asking a file system that cannot do it costs as much as copying some pages
 
 bool copyByHand(int source, int target, off_t offset, off_t end)
 {
@@ -54,10 +56,15 @@ bool copyRange(int source, int target, off_t offset, off_t end)
 
 bool copyContent(int source, int target)
 {
+    struct stat status;
+    if (fstat(source, &status) != 0)
+        return false;
+    const bool hasHoles = status.st_blocks * 512 < status.st_size; // the unit is fixed
+    if (status.st_size < worthCloning && !hasHoles)
+        return copyRange(source, target, 0, status.st_size);
     if (ioctl(target, FICLONE, source) == 0)
         return true;
-    struct stat status;
-    if (fstat(source, &status) != 0 || ftruncate(target, status.st_size) != 0)
+    if (ftruncate(target, status.st_size) != 0)
         return false;
     off_t offset = 0;
     while (offset < status.st_size) {

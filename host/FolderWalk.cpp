@@ -59,7 +59,8 @@ void FolderWalk::visit(const std::string& folder, const std::string& relative, i
 {
     std::vector<std::string> names;
     if (depth > deepest || !listNames(folder, names)) {
-        m_found(relative, depth > deepest ? "the folders are nested too deeply" : systemError(errno));
+        m_found(
+            {relative, nullptr, depth > deepest ? "the folders are nested too deeply" : systemError(errno)});
         return;
     }
     const std::string folderPrefix = folder + "/";
@@ -70,13 +71,13 @@ void FolderWalk::visit(const std::string& folder, const std::string& relative, i
         struct stat status;
         if (lstat(path.c_str(), &status) != 0) {
             if (errno != ENOENT) // it has gone since
-                m_found(below, systemError(errno));
+                m_found({below, nullptr, systemError(errno)});
             continue;
         }
         if (S_ISDIR(status.st_mode) && !m_skip(status))
             visit(path, below, depth + 1);
         else if (S_ISREG(status.st_mode) && isPdfName(name))
-            m_found(below, {});
+            m_found({below, &status, {}});
     }
 }
 

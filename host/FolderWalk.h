@@ -13,9 +13,16 @@ namespace host {
 class FolderWalk
 {
 public:
-    /// \param path relative to the folder, or "" for the folder itself; \param problem empty, or why this one
-    /// cannot be read.
-    using Found = std::function<void(const std::string& path, const std::string& problem)>;
+    struct Entry
+    {
+        /// Relative to the folder, or "" for the folder itself.
+        const std::string& path;
+        /// Null when there is a problem.
+        const struct stat* status;
+        /// Why this one cannot be read.
+        std::string problem;
+    };
+    using Found = std::function<void(const Entry& entry)>;
     /// A folder for which this answers true is passed over.
     using Skip = std::function<bool(const struct stat& status)>;
 

@@ -6,6 +6,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
@@ -17,13 +18,6 @@
 namespace host {
 
 namespace {
-
-using FileId = std::pair<dev_t, ino_t>;
-
-FileId idOf(const struct stat& status)
-{
-    return {status.st_dev, status.st_ino};
-}
 
 /// The path with all links resolved; of what does not exist yet, as far as it does.
 std::string resolved(const std::string& path)
@@ -70,12 +64,16 @@ void RunPlan::add(const std::string& path)
     else if (!S_ISREG(status.st_mode))
         m_documents.push_back({path, {}, systemError(notARegularFile)});
     else
-        addDocument(path, path.substr(path.rfind('/') + 1));
+        addDocument(path, path.substr(path.rfind('/') + 1), status);
 }
 
-void RunPlan::addDocument(const std::string& path, const std::string& pathBelowOutput)
+void RunPlan::addDocument(const std::string& path, const std::string& pathBelowOutput,
+                          const struct stat& status)
 {
-    m_documents.push_back({path, targetOf(path, m_base.empty() ? pathBelowOutput : belowBase(path)), {}});
+    const std::string& below = m_base.empty() ? pathBelowOutput : belowBase(path);
+    std::string target = targetOf(m_outputFolder.empty() ? path : m_outputFolder + "/" + below);
+    m_inputs.try_emplace(idOf(status), m_documents.size());
+    m_documents.push_back({path, std::move(target), {}});
 }
 
 void RunPlan::addFolder(const std::string& folder)
@@ -83,11 +81,11 @@ void RunPlan::addFolder(const std::string& folder)
     const std::size_t before = m_documents.size();
     const std::string prefix = folder == "/" ? folder : folder + "/";
     FolderWalk walk(
-        [&](const std::string& path, const std::string& problem) {
-            if (problem.empty())
-                addDocument(prefix + path, path);
+        [&](const FolderWalk::Entry& entry) {
+            if (entry.status != nullptr)
+                addDocument(prefix + entry.path, entry.path, *entry.status);
             else
-                m_documents.push_back({path.empty() ? folder : prefix + path, {}, problem});
+                m_documents.push_back({entry.path.empty() ? folder : prefix + entry.path, {}, entry.problem});
         },
         [&](const struct stat& status) { return isOutputFolder(status); });
     walk.walk(folder);
@@ -111,16 +109,31 @@ std::string RunPlan::belowBase(const std::string& path) const
     return below.string();
 }
 
-std::string RunPlan::targetOf(const std::string& path, const std::string& pathBelowOutput) const
+/// The path with all links resolved. Folders are resolved once: each takes a system call for every name in
+/// it.
+std::string RunPlan::targetOf(const std::string& path)
 {
-    return resolved(m_outputFolder.empty() ? path : m_outputFolder + "/" + pathBelowOutput);
+    const std::size_t slash = path.rfind('/');
+    const std::string folder =
+        slash == std::string::npos ? "." : path.substr(0, std::max<std::size_t>(slash, 1));
+    const auto [known, isNew] = m_resolvedFolders.try_emplace(folder);
+    if (isNew)
+        known->second = resolved(folder);
+    std::string target = known->second + (known->second.ends_with('/') ? "" : "/") + path.substr(slash + 1);
+    struct stat status;
+    bool exists = lstat(target.c_str(), &status) == 0;
+    if (exists && S_ISLNK(status.st_mode)) {
+        target = resolved(target);
+        exists = stat(target.c_str(), &status) == 0;
+    }
+    if (exists)
+        m_existingOutputs.emplace_back(idOf(status), m_documents.size());
+    return target;
 }
 
 void RunPlan::checkTargets() const
 {
     std::map<std::string, const Document*> targets;
-    std::map<FileId, const Document*> inputs;
-    struct stat status;
     for (const Document& document : m_documents) {
         if (!document.problem.empty())
             continue;
@@ -128,16 +141,14 @@ void RunPlan::checkTargets() const
         if (!added)
             throw UsageError(other->second->name + " and " + document.name + " would have the same output, " +
                              document.target);
-        if (!m_outputFolder.empty() && stat(document.name.c_str(), &status) == 0)
-            inputs.emplace(idOf(status), &document);
     }
-    for (const auto& [target, document] : targets) {
-        if (inputs.empty() || stat(target.c_str(), &status) != 0)
-            continue;
-        if (const auto input = inputs.find(idOf(status)); input != inputs.end())
-            throw UsageError("the output of " + document->name + " would overwrite the document " +
-                             input->second->name + "; --in-place says that this is wanted");
-    }
+    if (m_outputFolder.empty())
+        return;
+    for (const auto& [id, document] : m_existingOutputs)
+        if (const auto input = m_inputs.find(id); input != m_inputs.end())
+            throw UsageError("the output of " + m_documents[document].name +
+                             " would overwrite the document " + m_documents[input->second].name +
+                             "; --in-place says that this is wanted");
 }
 
 void RunPlan::checkReport(const std::string& path, const std::vector<std::string>& filesRead) const
@@ -150,14 +161,11 @@ void RunPlan::checkReport(const std::string& path, const std::vector<std::string
     if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
         return;
     const FileId id = idOf(status);
-    const auto check = [&](const std::string& file, const char* what) {
-        if (stat(file.c_str(), &status) == 0 && idOf(status) == id)
-            throw UsageError(std::string("the report would overwrite ") + what + " " + file);
-    };
-    for (const Document& document : m_documents)
-        check(document.name, "the document");
+    if (const auto input = m_inputs.find(id); input != m_inputs.end())
+        throw UsageError("the report would overwrite the document " + m_documents[input->second].name);
     for (const std::string& file : filesRead)
-        check(file, "what this run reads,");
+        if (stat(file.c_str(), &status) == 0 && idOf(status) == id)
+            throw UsageError("the report would overwrite what this run reads, " + file);
 }
 
 } // namespace host

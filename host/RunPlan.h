@@ -2,7 +2,10 @@
 
 #include <sys/stat.h>
 
+#include <map>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace host {
@@ -43,15 +46,22 @@ public:
     const std::vector<std::string>& emptyFolders() const { return m_emptyFolders; }
 
 private:
-    void addDocument(const std::string& path, const std::string& pathBelowOutput);
+    /// Device and number.
+    using FileId = std::pair<dev_t, ino_t>;
+
+    void addDocument(const std::string& path, const std::string& pathBelowOutput, const struct stat& status);
     void addFolder(const std::string& folder);
     bool isOutputFolder(const struct stat& status) const;
     std::string belowBase(const std::string& path) const;
-    std::string targetOf(const std::string& path, const std::string& pathBelowOutput) const;
+    std::string targetOf(const std::string& path);
+    static FileId idOf(const struct stat& status) { return {status.st_dev, status.st_ino}; }
 
     std::string m_outputFolder;
     std::string m_base; ///< Absolute.
     std::vector<Document> m_documents;
+    std::map<FileId, std::size_t> m_inputs;                        ///< The first document with each file.
+    std::vector<std::pair<FileId, std::size_t>> m_existingOutputs; ///< With their documents.
+    std::map<std::string, std::string> m_resolvedFolders;
     std::vector<std::string> m_emptyFolders;
 };
 

@@ -104,11 +104,6 @@ SafeOutput::~SafeOutput()
         removeTemporary(m_temporary);
 }
 
-std::string SafeOutput::prepareFolder()
-{
-    return makeFolder(folderOf(m_target));
-}
-
 std::string SafeOutput::makeFolder(const std::string& folder)
 {
     struct stat status;

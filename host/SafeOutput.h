@@ -18,9 +18,8 @@ public:
     SafeOutput(const SafeOutput&) = delete;
     SafeOutput& operator=(const SafeOutput&) = delete;
 
-    /// Makes the target's folder and those above it. \returns empty, or the reason of the failure.
-    std::string prepareFolder();
-    /// The same for any folder; one that is there already is fine.
+    /// Makes a folder and those above it; one that is there already is fine. \returns empty, or the reason of
+    /// the failure.
     static std::string makeFolder(const std::string& folder);
     /// The folder that a file lies in.
     static std::string folderOf(const std::string& file);

@@ -41,8 +41,8 @@ struct WorkOutcome
 };
 
 /// Spreads work over processes that are copies of this one. Each works at one piece at a time and, so that it
-/// never waits, has been given the next one meanwhile. A worker that crashes, takes too long or too much memory
-/// costs the piece it was at; a fresh one goes on.
+/// never waits, has been given the next one meanwhile. A worker that crashes, takes too long or too much
+/// memory costs the piece it was at; a fresh one goes on.
 ///
 /// The program must have no threads when it calls `run`.
 class WorkerPool
@@ -65,9 +65,9 @@ public:
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
 
-    /// Has pieces 0 to count - 1 done and tells of each as it ends. After a stop signal no piece is given out;
-    /// those that workers have are waited for a few seconds, or not at all after a second signal, and then end
-    /// as Stopped.
+    /// Has pieces 0 to count - 1 done and tells of each as it ends. After a stop signal no piece is given
+    /// out; those that workers have are waited for a few seconds, or not at all after a second signal, and
+    /// then end as Stopped.
     void run(std::size_t count, const WorkOf& workOf, const Done& done, StopSignal& stop);
 
 private:

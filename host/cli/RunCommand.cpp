@@ -150,6 +150,7 @@ int RunCommand::run(int argc, char** argv)
     if (m_outputFolder && !m_options.dryRun)
         if (const std::string problem = SafeOutput::makeFolder(*m_outputFolder); !problem.empty())
             throw UsageError(problem);
+    m_options.tellStates = m_reportFile.has_value();
     std::optional<Report> report; // may lie in the output folder
     if (m_reportFile)
         report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
