@@ -309,14 +309,14 @@ std::optional<DirectReader::Section> DirectReader::readTable(std::int64_t offset
 }
 
 /// One bad entry, of whatever object, makes other readers distrust all of them.
-bool DirectReader::hasGoodEntries(const Run& run) const
+bool DirectReader::hasGoodEntries(const Run& run)
 {
     for (std::int64_t done = 0; done < run.count; done += entriesAtOnce) {
         const std::int64_t count = std::min(entriesAtOnce, run.count - done);
-        const std::string entries = m_source->text(static_cast<std::uint64_t>(run.offset + done * entrySize),
-                                                   static_cast<std::size_t>(count * entrySize));
-        for (std::size_t at = 0; at < static_cast<std::size_t>(count * entrySize); at += entrySize)
-            if (at > entries.size() || !isUsualTableEntry(std::string_view(entries).substr(at, entrySize)))
+        const auto size = static_cast<std::size_t>(count * entrySize);
+        const std::string_view entries = bytes(run.offset + done * entrySize, size);
+        for (std::size_t at = 0; at < size; at += entrySize)
+            if (at > entries.size() || !isUsualTableEntry(entries.substr(at, entrySize)))
                 return false;
     }
     return true;
@@ -433,8 +433,9 @@ std::optional<std::string> DirectReader::skeleton()
 {
     const auto entries = dictionaryEntries(trailer());
     const auto root = entries->contains("Root") ? wholeReference(entries->at("Root")) : std::nullopt;
-    const auto catalog = root ? object(root->number, root->generation) : std::nullopt;
-    const auto catalogEntries = catalog ? dictionaryEntries(*catalog) : std::nullopt;
+    const auto found = root ? object(root->number, root->generation) : std::nullopt;
+    const std::string catalog(found.value_or(""));
+    const auto catalogEntries = dictionaryEntries(catalog);
     if (!catalogEntries || !catalogEntries->contains("Pages"))
         return std::nullopt;
     const auto pages = wholeReference(catalogEntries->at("Pages"));
@@ -450,7 +451,7 @@ std::optional<std::string> DirectReader::skeleton()
         text +=
             std::to_string(id.number) + " " + std::to_string(id.generation) + " obj\n" + value + "\nendobj\n";
     };
-    add(*root, *catalog);
+    add(*root, catalog);
     // New objects are numbered from the last one on.
     if (root->number != m_size - 1)
         add({m_size - 1, 0}, "null");
@@ -459,19 +460,19 @@ std::optional<std::string> DirectReader::skeleton()
            std::to_string(start) + "\n%%EOF\n";
 }
 
-std::optional<std::string> DirectReader::object(int number, int generation)
+std::optional<std::string_view> DirectReader::object(int number, int generation)
 {
     const auto entry = find(number);
     if (!entry)
         return std::nullopt;
-    std::optional<std::string> text;
+    std::optional<std::string_view> text;
     if (entry->kind == EntryKind::Free)
         text = "null";
     else if (entry->kind == EntryKind::Plain && entry->detail == generation)
         text = valueAt(entry->position, number, generation, nullptr);
     else if (entry->kind == EntryKind::Compressed && generation == 0 && entry->position <= INT32_MAX)
         text = compressed(static_cast<int>(entry->position), entry->detail, number);
-    return text && allows(text->size()) ? std::move(text) : std::nullopt;
+    return text && allows(text->size()) ? text : std::nullopt;
 }
 
 /// Adds to what the document has cost so far. \returns false when that is too much.
@@ -483,8 +484,8 @@ bool DirectReader::allows(std::size_t effort)
 
 /// Reads a value that stands in the file, behind an object header unless `number` is -1 and a trailer is
 /// meant. \param streamData where a stream's data begins, or 0; without it a stream makes the reader give up.
-std::optional<std::string> DirectReader::valueAt(std::int64_t offset, int number, int generation,
-                                                 std::int64_t* streamData)
+std::optional<std::string_view> DirectReader::valueAt(std::int64_t offset, int number, int generation,
+                                                      std::int64_t* streamData)
 {
     for (std::size_t window = firstWindow; window <= largestWindow; window *= 4) {
         const std::string_view text = bytes(offset, window);
@@ -508,7 +509,7 @@ std::optional<std::string> DirectReader::valueAt(std::int64_t offset, int number
             continue;
         if (outcome != SyntaxScanner::Outcome::Complete)
             return std::nullopt;
-        std::string value(text.substr(start, end - start));
+        const std::string_view value = text.substr(start, end - start);
         if (scanner.keyword("endobj") || (number < 0 && scanner.keyword("startxref")))
             return value;
         if (streamData == nullptr || !scanner.keyword("stream"))
@@ -527,10 +528,10 @@ std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int numbe
                                                   std::size_t most)
 {
     std::int64_t start = 0;
-    auto text = valueAt(offset, number, 0, &start);
+    const auto text = valueAt(offset, number, 0, &start);
     if (!text || start == 0)
         return std::nullopt;
-    dictionary = std::move(*text);
+    dictionary = *text;
     const auto entries = dictionaryEntries(dictionary);
     const auto length = entries ? integerOf(*entries, "Length") : std::nullopt;
     if (!isNumberInRange(length, static_cast<std::int64_t>(largestDecoded)))
@@ -548,7 +549,7 @@ std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int numbe
 }
 
 /// Of an object stream no more is decoded than what the object needs, and some room.
-std::optional<std::string> DirectReader::compressed(int container, int index, int number)
+std::optional<std::string_view> DirectReader::compressed(int container, int index, int number)
 {
     for (std::size_t size = firstDecoded;; size *= 4) {
         const Container* stream = containerOf(container, size);
@@ -565,7 +566,7 @@ std::optional<std::string> DirectReader::compressed(int container, int index, in
             if (outcome == SyntaxScanner::Outcome::Odd)
                 return std::nullopt;
             if (outcome == SyntaxScanner::Outcome::Complete)
-                return stream->data.substr(start, scanner.position() - start);
+                return std::string_view(stream->data).substr(start, scanner.position() - start);
         }
         if (stream->complete)
             return std::nullopt;

@@ -26,9 +26,9 @@ public:
     /// \returns null when the document is not one for this reader.
     static std::unique_ptr<DirectReader> open(std::shared_ptr<ByteSource> source);
 
-    /// The text of an object's value; "null" for an object that is free or that no section lists.
-    /// \returns nothing when the reader has to give up, also for a stream.
-    std::optional<std::string> object(int number, int generation);
+    /// The text of an object's value, good until the next call of any function; "null" for an object that is
+    /// free or that no section lists. \returns nothing when the reader has to give up, also for a stream.
+    std::optional<std::string_view> object(int number, int generation);
 
     /// The newest section's trailer dictionary, as text.
     const std::string& trailer() const { return m_sections.front().dictionary; }
@@ -102,7 +102,7 @@ private:
     bool readSections(std::int64_t offset);
     std::optional<Section> readSection(std::int64_t offset);
     std::optional<Section> readTable(std::int64_t offset);
-    bool hasGoodEntries(const Run& run) const;
+    bool hasGoodEntries(const Run& run);
     bool hasGoodEntries(const Section& section) const;
     std::optional<Section> readStream(std::int64_t offset);
     bool complete(Section& section);
@@ -111,12 +111,12 @@ private:
     std::optional<Entry> tableEntry(const Run& run, int number);
     std::optional<Entry> streamEntry(const Section& section, const Run& run, int number) const;
 
-    std::optional<std::string> valueAt(std::int64_t offset, int number, int generation,
-                                       std::int64_t* streamData);
+    std::optional<std::string_view> valueAt(std::int64_t offset, int number, int generation,
+                                            std::int64_t* streamData);
     std::optional<std::string> streamAt(std::int64_t offset, int number, std::string& dictionary,
                                         std::size_t most);
     bool allows(std::size_t effort);
-    std::optional<std::string> compressed(int container, int index, int number);
+    std::optional<std::string_view> compressed(int container, int index, int number);
     const Container* containerOf(int number, std::size_t size);
     static bool readHeader(std::string_view data, std::int64_t count, std::size_t bodies,
                            Container& container);

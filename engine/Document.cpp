@@ -53,7 +53,7 @@ struct NodeText
 };
 
 /// Splits a node's text. \returns nothing for what is no node, or has kids that are no references.
-std::optional<NodeText> splitNode(const std::string& text)
+std::optional<NodeText> splitNode(std::string_view text)
 {
     DictionaryScanner scanner(text);
     std::optional<NodeText> split;
@@ -65,7 +65,7 @@ std::optional<NodeText> splitNode(const std::string& text)
             return std::nullopt;
         const auto start = static_cast<std::size_t>(entry->key.data() - 1 - text.data());
         const auto end = static_cast<std::size_t>(entry->value.data() - text.data()) + entry->value.size();
-        split = NodeText{text.substr(0, start) + text.substr(end), std::move(kids)};
+        split = NodeText{std::string(text.substr(0, start)).append(text.substr(end)), std::move(kids)};
     }
     return scanner.odd() ? std::nullopt : split;
 }
@@ -178,18 +178,18 @@ QPDFObjectHandle Document::item(QPDFObjectHandle array, int index)
     return within ? fetched(array.getArrayItem(index)) : QPDFObjectHandle::newNull();
 }
 
-std::string Document::textOf(QPDFObjGen id)
+std::string_view Document::textOf(QPDFObjGen id)
 {
-    auto text = m_direct->object(id.getObj(), id.getGen());
+    const auto text = m_direct->object(id.getObj(), id.getGen());
     if (!text)
         throw DirectReadingEnded();
-    return std::move(*text);
+    return *text;
 }
 
-void Document::put(QPDFObjGen id, const std::string& text)
+void Document::put(QPDFObjGen id, std::string_view text)
 {
     try {
-        m_pdf->replaceObject(id, QPDFObjectHandle::parse(m_pdf.get(), text));
+        m_pdf->replaceObject(id, QPDFObjectHandle::parse(m_pdf.get(), std::string(text)));
     } catch (const std::runtime_error&) { // libqpdf's own, and from numbers that are too large
         throw DirectReadingEnded();
     }
@@ -209,7 +209,7 @@ QPDFObjectHandle Document::node(QPDFObjectHandle object)
     const QPDFObjGen id = object.getObjGen();
     if (m_direct == nullptr || !object.isIndirect() || m_fetched.contains(id) || m_kids.contains(id))
         return object;
-    const std::string text = textOf(id);
+    const std::string_view text = textOf(id);
     auto split = splitNode(text);
     put(id, split ? split->withoutKids : text);
     if (split)
@@ -235,7 +235,7 @@ QPDFObjectHandle Document::kid(const Kids& kids, int index)
                            : QPDFObjectHandle(kids.m_array).getArrayItem(index));
 }
 
-std::optional<std::string> Document::unreadKid(const Kids& kids, int index)
+std::optional<std::string_view> Document::unreadKid(const Kids& kids, int index)
 {
     const QPDFObjGen id = kids.id(index);
     if (m_direct == nullptr || !id.isIndirect() || m_fetched.contains(id) || m_kids.contains(id))

@@ -93,8 +93,9 @@ public:
     QPDFObjectHandle node(QPDFObjectHandle object);
     Kids kids(QPDFObjectHandle node);
     QPDFObjectHandle kid(const Kids& kids, int index);
-    /// The text of a kid that nobody has read yet, for looking at without reading it.
-    std::optional<std::string> unreadKid(const Kids& kids, int index);
+    /// The text of a kid that nobody has read yet, for looking at without reading it; good until the next
+    /// call of any function.
+    std::optional<std::string_view> unreadKid(const Kids& kids, int index);
 
     /// Makes a direct object an indirect one with a new number.
     QPDFObjectHandle makeIndirect(const QPDFObjectHandle& object);
@@ -120,8 +121,8 @@ public:
 
 private:
     bool openSkeleton();
-    std::string textOf(QPDFObjGen id);
-    void put(QPDFObjGen id, const std::string& text);
+    std::string_view textOf(QPDFObjGen id);
+    void put(QPDFObjGen id, std::string_view text);
     void openWhole();
     /// False when the password is not right.
     bool open(const std::string& password);

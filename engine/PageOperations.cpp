@@ -91,7 +91,7 @@ int PageCount(Session& session)
 int SelectPage(Session& session, int page)
 {
     OpenDocument& open = session.document();
-    open.pages.page(page);
+    open.pages.requirePage(page);
     open.selectedPage = page;
     return 1;
 }

@@ -5,6 +5,7 @@
 #include "engine/SyntaxScanner.h"
 
 #include <algorithm>
+#include <cctype>
 #include <climits>
 #include <set>
 #include <string>
@@ -47,15 +48,22 @@ struct Glimpse
 /// Most kids have none of the words that would need a closer look, and every type stands where it is named.
 bool isPlainPage(std::string_view text)
 {
-    const auto has = [text](std::string_view word) { return text.find(word) != text.npos; };
-    const std::string_view type = "/Type";
-    for (std::size_t at = text.find(type); at != text.npos; at = text.find(type, at)) {
-        at += type.size();
-        at += at < text.size() && text[at] == ' ' ? 1 : 0;
-        if (at >= text.size() || text[at] != '/')
+    if (!text.starts_with("<<"))
+        return false;
+    for (std::size_t slash = text.find('/'); slash != text.npos; slash = text.find('/', slash + 1)) {
+        const std::string_view rest = text.substr(slash + 1);
+        if (rest.starts_with("Pages") || rest.starts_with("Kids"))
+            return false;
+        if (!rest.starts_with("Type"))
+            continue;
+        const std::string_view behind = rest.substr(std::string_view("Type").size());
+        const bool isValue = behind.starts_with("/") || behind.starts_with(" /");
+        const bool isOtherName =
+            !behind.empty() && std::isalnum(static_cast<unsigned char>(behind.front())) != 0;
+        if (!isValue && !isOtherName) // such as /Type1
             return false;
     }
-    return text.starts_with("<<") && !has("/Pages") && !has("/Kids");
+    return true;
 }
 
 std::optional<Glimpse> glimpseOf(std::string_view text)
@@ -90,7 +98,7 @@ std::optional<Glimpse> glimpseOf(std::string_view text)
 
 std::optional<Glimpse> glimpse(Document& document, const Kids& kids, int kid)
 {
-    const std::optional<std::string> text = document.unreadKid(kids, kid);
+    const std::optional<std::string_view> text = document.unreadKid(kids, kid);
     return text ? glimpseOf(*text) : std::nullopt;
 }
 
@@ -241,6 +249,14 @@ std::optional<int> PageTree::trustedCount()
     const std::optional<int> count = statedCount(m_document, root());
     const bool fits = count && *count > smallTree && countsOf(root());
     return fits ? count : std::nullopt;
+}
+
+void PageTree::requirePage(int number)
+{
+    if (number < 1 || number > pageCount())
+        throw EngineError(ErrorCode::UnknownPage);
+    if (!m_walked)
+        page(number); // counts can promise pages that are not there
 }
 
 const PagePath& PageTree::page(int number)

@@ -48,6 +48,9 @@ public:
     /// Throws UnknownPage.
     const PagePath& page(int number);
 
+    /// Throws UnknownPage when page() would; reads no page to find that out if it can.
+    void requirePage(int number);
+
     /// The number of the page that an indirect object is; its first place when it is listed more than once.
     /// \returns 0 when it is no page of the document.
     int numberOf(const QPDFObjectHandle& page);

@@ -127,34 +127,49 @@ std::optional<SyntaxScanner::Reference> SyntaxScanner::reference()
 
 SyntaxScanner::Outcome SyntaxScanner::skipValue()
 {
-    std::string open;
+    std::array<char, deepestNesting> open; // the brackets
+    std::size_t depth = 0;
+    const char* const begin = m_text.data();
+    const char* const end = begin + m_text.size();
     do {
-        skipSpace();
-        if (atEnd())
+        const char* next = begin + m_at;
+        while (next < end && isSpace(*next))
+            ++next;
+        m_at = static_cast<std::size_t>(next - begin);
+        if (next == end)
             return Outcome::CutOff;
-        const char first = m_text[m_at];
-        if (isDigit(first) && !open.empty() && skipReferences())
+        const char first = *next;
+        if (first == '/') {
+            do
+                ++next;
+            while (next < end && isRegular(*next));
+            m_at = static_cast<std::size_t>(next - begin);
+            if (next == end)
+                return Outcome::CutOff;
             continue;
-        const bool doubled = m_at + 1 < m_text.size() && m_text[m_at + 1] == first;
+        }
+        if (isDigit(first) && depth > 0 && skipReferences())
+            continue;
+        const bool doubled = next + 1 < end && next[1] == first;
         if (first == '[' || (first == '<' && doubled)) {
-            open.push_back(first);
+            if (depth == open.size())
+                return Outcome::Odd;
+            open[depth++] = first;
             m_at += first == '<' ? 2 : 1;
         } else if (first == ']' || first == '>') {
-            if (first == '>' && m_at + 1 >= m_text.size())
+            if (first == '>' && next + 1 == end)
                 return Outcome::CutOff;
-            if (open.empty() || open.back() != (first == ']' ? '[' : '<') || (first == '>' && !doubled))
+            if (depth == 0 || open[depth - 1] != (first == ']' ? '[' : '<') || (first == '>' && !doubled))
                 return Outcome::Odd;
-            open.pop_back();
+            --depth;
             m_at += first == '>' ? 2 : 1;
-        } else if (first == 'R' && !open.empty()) {
+        } else if (first == 'R' && depth > 0) {
             // Behind two numbers it is a reference's, and skipped with them.
-            return m_at + 1 < m_text.size() ? Outcome::Odd : Outcome::CutOff;
+            return next + 1 < end ? Outcome::Odd : Outcome::CutOff;
         } else if (const Outcome outcome = skipToken(); outcome != Outcome::Complete) {
             return outcome;
         }
-        if (open.size() > deepestNesting)
-            return Outcome::Odd;
-    } while (!open.empty());
+    } while (depth > 0);
     return Outcome::Complete;
 }
 
@@ -165,11 +180,6 @@ SyntaxScanner::Outcome SyntaxScanner::skipToken()
         return skipLiteralString();
     case '<':
         return m_at + 1 < m_text.size() ? skipHexString() : Outcome::CutOff;
-    case '/':
-        ++m_at;
-        while (!atEnd() && isRegular(m_text[m_at]))
-            ++m_at;
-        return atEnd() ? Outcome::CutOff : Outcome::Complete;
     default:
         return skipWord();
     }

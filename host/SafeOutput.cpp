@@ -59,8 +59,10 @@ pid_t ownerOf(std::string_view name)
 /// Whether it is a name of this program or of the library; other files may begin so and be somebody's.
 bool isTemporaryName(const char* name)
 {
-    static const std::regex form("\\.quintar-[0-9a-f]{16}(-[0-9]+-[0-9]+|\\.tmp)");
-    return std::string_view(name).starts_with(prefix) && std::regex_match(name, form);
+    if (!std::string_view(name).starts_with(prefix))
+        return false;
+    static const std::regex form("\\.quintar-[0-9a-f]{16}(-[0-9]+-[0-9]+|\\.tmp)"); // takes long to make
+    return std::regex_match(name, form);
 }
 
 bool isLeftOver(int folder, const char* name)
