@@ -15,11 +15,14 @@ namespace {
 
 const std::size_t tailSize = 1024;
 const std::size_t readAtOnce = 16384;
+const std::size_t mostReadAhead = 262144;
 const std::int64_t pageSize = 4096; // of memory, in which files are kept
 const std::size_t firstWindow = 4096;
 const std::size_t largestWindow = 4 << 20;
 const std::size_t largestDecoded = 64 << 20;
-const std::size_t firstDecoded = 4096; // of an object stream
+const std::size_t firstDecoded = 2048; // of an object stream's objects
+const std::size_t behindObject = 64;   // decoded as well: an object's end shows in what follows
+const std::size_t widestRow = 64;      // of a predictor
 const std::size_t mostContainerBytes = 32 << 20;
 const std::size_t mostSections = 256;
 const std::size_t mostRuns = 100'000;
@@ -35,14 +38,40 @@ const std::uint64_t mostEffortPerByte = 8;
 const std::string_view sectionKeys[] = {"Prev",  "Size",   "Type",   "W",
                                         "Index", "Length", "Filter", "DecodeParms"};
 
-using Entries = std::map<std::string_view, std::string_view>;
+/// What stands before and behind the data in the format of zlib, whose checksum costs a quarter of the
+/// decoding.
+const std::size_t zlibHeader = 2;
+const std::size_t zlibChecksum = 4;
+
+bool isZlibHeader(std::string_view data)
+{
+    const auto byte = [data](std::size_t at) {
+        return static_cast<unsigned>(static_cast<unsigned char>(data[at]));
+    };
+    const unsigned deflate = 8;
+    return data.size() >= zlibHeader && (byte(0) & 0x0f) == deflate && (byte(0) >> 4) <= 7 &&
+           (byte(0) << 8 | byte(1)) % 31 == 0 && (byte(1) & 0x20) == 0;
+}
+
+bool isChecksumOf(std::string_view decoded, std::string_view checksum)
+{
+    const uLong sum = adler32(adler32(0, nullptr, 0), reinterpret_cast<const Bytef*>(decoded.data()),
+                              static_cast<uInt>(decoded.size()));
+    if (checksum.size() < zlibChecksum)
+        return false;
+    uLong stated = 0;
+    for (const char byte : checksum.substr(0, zlibChecksum))
+        stated = stated << 8 | static_cast<unsigned char>(byte);
+    return stated == sum;
+}
 
 /// Decodes up to `most` bytes; what follows them is not looked at.
 std::optional<std::string> inflated(std::string_view data, std::size_t most)
 {
     z_stream stream{};
-    if (inflateInit(&stream) != Z_OK)
+    if (!isZlibHeader(data) || inflateInit2(&stream, -MAX_WBITS) != Z_OK)
         return std::nullopt;
+    data.remove_prefix(zlibHeader);
     stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(data.data()));
     stream.avail_in = static_cast<uInt>(data.size());
     std::string decoded;
@@ -57,24 +86,30 @@ std::optional<std::string> inflated(std::string_view data, std::size_t most)
     }
     inflateEnd(&stream);
     const bool full = result == Z_OK && decoded.size() == most;
-    return full || result == Z_STREAM_END ? std::optional(std::move(decoded)) : std::nullopt;
+    const bool whole =
+        result == Z_STREAM_END && isChecksumOf(decoded, data.substr(data.size() - stream.avail_in));
+    return full || whole ? std::optional(std::move(decoded)) : std::nullopt;
 }
 
 /// Undoes the "Up" predictor of PNG, the only one that writers of cross-reference streams use besides none.
 std::optional<std::string> withoutPredictor(const std::string& data, std::size_t columns)
 {
     const std::size_t row = columns + 1;
-    if (columns == 0 || columns > 64 || data.size() % row != 0)
+    if (columns == 0 || columns > widestRow || data.size() % row != 0)
         return std::nullopt;
     std::string plain(data.size() / row * columns, '\0');
+    std::array<unsigned char, widestRow> values{};
     const char* from = data.data();
-    for (std::size_t start = 0; start < plain.size(); start += columns) {
+    for (char* to = plain.data(); to < plain.data() + plain.size(); to += columns) {
         const char kind = *from++;
         if (kind != 0 && kind != 2)
             return std::nullopt;
-        const bool up = kind == 2 && start > 0;
-        for (std::size_t column = start; column < start + columns; ++column)
-            plain[column] = static_cast<char>(*from++ + (up ? plain[column - columns] : 0));
+        const unsigned char keep = kind == 2 ? 0xff : 0; // of the row above
+        for (std::size_t column = 0; column < columns; ++column) {
+            values[column] =
+                static_cast<unsigned char>((values[column] & keep) + static_cast<unsigned char>(*from++));
+            to[column] = static_cast<char>(values[column]);
+        }
     }
     return plain;
 }
@@ -99,7 +134,8 @@ std::optional<std::string> unpredicted(std::string data, std::string_view parame
 }
 
 /// \param most how many bytes are wanted; there may be more with a predictor or without a filter.
-std::optional<std::string> decoded(const Entries& dictionary, std::string_view data, std::size_t most)
+std::optional<std::string> decoded(const DictionaryEntries& dictionary, std::string_view data,
+                                   std::size_t most)
 {
     const auto filter = dictionary.find("Filter");
     const auto parameters = dictionary.find("DecodeParms");
@@ -129,7 +165,7 @@ std::optional<std::vector<std::int64_t>> integerArray(std::string_view text)
     return numbers;
 }
 
-std::optional<std::int64_t> integerOf(const Entries& entries, std::string_view key)
+std::optional<std::int64_t> integerOf(const DictionaryEntries& entries, std::string_view key)
 {
     const auto found = entries.find(key);
     return found == entries.end() ? std::nullopt : wholeInteger(found->second);
@@ -180,14 +216,20 @@ std::string_view DirectReader::bytes(std::int64_t offset, std::size_t count)
     }
     Window& window = m_windows[m_oldestWindow];
     m_oldestWindow = (m_oldestWindow + 1) % m_windows.size();
-    // What is asked for next often lies a little before.
+    // Objects that are asked for one after the other are often written so, with something between them.
+    const std::int64_t gap = offset - m_lastRead;
+    m_readAhead = gap >= 0 && gap <= static_cast<std::int64_t>(2 * m_readAhead)
+                      ? std::min(2 * m_readAhead, mostReadAhead)
+                      : readAtOnce;
+    // Others lie a little before.
     const auto before = static_cast<std::size_t>(offset % pageSize);
     const std::int64_t start =
         std::min(offset - static_cast<std::int64_t>(before),
                  std::max<std::int64_t>(0, total - static_cast<std::int64_t>(readAtOnce)));
     const auto skipped = static_cast<std::size_t>(offset - start);
     window = {start,
-              m_source->text(static_cast<std::uint64_t>(start), std::max(skipped + count, readAtOnce))};
+              m_source->text(static_cast<std::uint64_t>(start), std::max(skipped + count, m_readAhead))};
+    m_lastRead = start + static_cast<std::int64_t>(window.bytes.size());
     return std::string_view(window.bytes).substr(std::min(skipped, window.bytes.size()), count);
 }
 
@@ -330,12 +372,14 @@ std::optional<DirectReader::Section> DirectReader::readStream(std::int64_t offse
     if (!isNumberInRange(number, largestSize) || *number < 1)
         return std::nullopt;
     section.number = static_cast<int>(*number);
-    auto data = streamAt(offset, section.number, section.dictionary, largestDecoded);
-    const auto entries = dictionaryEntries(section.dictionary);
-    if (!data || !entries || !entries->contains("Type") || entries->at("Type") != "/XRef" ||
-        !entries->contains("W"))
+    DictionaryEntries entries;
+    const auto stored = streamAt(offset, section.number, section.dictionary, entries);
+    if (!stored || !entries.contains("Type") || entries.at("Type") != "/XRef" || !entries.contains("W"))
         return std::nullopt;
-    const auto widths = integerArray(entries->at("W"));
+    auto data = decoded(entries, *stored, largestDecoded);
+    const auto widths = integerArray(entries.at("W"));
+    if (!data || !allows(stored->size() + data->size()))
+        return std::nullopt;
     if (!widths || widths->size() != 3)
         return std::nullopt;
     for (std::size_t field = 0; field < 3; ++field) {
@@ -343,9 +387,9 @@ std::optional<DirectReader::Section> DirectReader::readStream(std::int64_t offse
             return std::nullopt;
         section.widths[field] = static_cast<int>((*widths)[field]);
     }
-    const auto size = integerOf(*entries, "Size");
-    const auto index = entries->contains("Index")
-                           ? integerArray(entries->at("Index"))
+    const auto size = integerOf(entries, "Size");
+    const auto index = entries.contains("Index")
+                           ? integerArray(entries.at("Index"))
                            : std::optional(std::vector<std::int64_t>{0, size.value_or(0)});
     if (!size || !index || index->size() % 2 != 0)
         return std::nullopt;
@@ -523,43 +567,42 @@ std::optional<std::string_view> DirectReader::valueAt(std::int64_t offset, int n
     return std::nullopt;
 }
 
-/// Reads the stream at an offset and decodes `most` bytes of it or somewhat more.
-std::optional<std::string> DirectReader::streamAt(std::int64_t offset, int number, std::string& dictionary,
-                                                  std::size_t most)
+/// Finds the stream at an offset. \returns its data as it is stored.
+std::optional<std::string_view> DirectReader::streamAt(std::int64_t offset, int number,
+                                                       std::string& dictionary, DictionaryEntries& entries)
 {
     std::int64_t start = 0;
     const auto text = valueAt(offset, number, 0, &start);
     if (!text || start == 0)
         return std::nullopt;
     dictionary = *text;
-    const auto entries = dictionaryEntries(dictionary);
-    const auto length = entries ? integerOf(*entries, "Length") : std::nullopt;
+    auto found = dictionaryEntries(dictionary);
+    const auto length = found ? integerOf(*found, "Length") : std::nullopt;
     if (!isNumberInRange(length, static_cast<std::int64_t>(largestDecoded)))
         return std::nullopt;
+    entries = std::move(*found);
     const auto size = static_cast<std::size_t>(*length);
     const std::string_view data = bytes(start, size + longestObjectHeader);
     if (data.size() < size)
         return std::nullopt;
     SyntaxScanner behind(data, size);
     behind.skipSpace();
-    if (!behind.keyword("endstream"))
-        return std::nullopt;
-    auto content = decoded(*entries, data.substr(0, size), std::min(most, largestDecoded));
-    return content && allows(size + content->size()) ? std::move(content) : std::nullopt;
+    return behind.keyword("endstream") ? std::optional(data.substr(0, size)) : std::nullopt;
 }
 
 /// Of an object stream no more is decoded than what the object needs, and some room.
 std::optional<std::string_view> DirectReader::compressed(int container, int index, int number)
 {
-    for (std::size_t size = firstDecoded;; size *= 4) {
+    for (std::size_t size = firstDecoded;;) {
         const Container* stream = containerOf(container, size);
         if (stream == nullptr)
             return std::nullopt;
         const bool known = index >= 0 && static_cast<std::size_t>(index) < stream->objects.size();
-        if (known && stream->objects[static_cast<std::size_t>(index)].first != number)
+        if (!known || stream->objects[static_cast<std::size_t>(index)].first != number)
             return std::nullopt;
-        if (known && stream->objects[static_cast<std::size_t>(index)].second < stream->data.size()) {
-            SyntaxScanner scanner(stream->data, stream->objects[static_cast<std::size_t>(index)].second);
+        const std::size_t from = stream->objects[static_cast<std::size_t>(index)].second;
+        if (from < stream->data.size()) {
+            SyntaxScanner scanner(stream->data, from);
             scanner.skipSpace();
             const std::size_t start = scanner.position();
             const auto outcome = scanner.skipValue();
@@ -570,44 +613,56 @@ std::optional<std::string_view> DirectReader::compressed(int container, int inde
         }
         if (stream->complete)
             return std::nullopt;
-        size = std::max(size, stream->data.size());
+        size = std::max(4 * std::max(size, stream->data.size() - stream->bodies),
+                        stream->endOf(from) - stream->bodies + behindObject);
     }
 }
 
-/// \param size how much of it is wanted at least, if it has as much.
+/// Where the object that begins at an offset ends at the latest.
+std::size_t DirectReader::Container::endOf(std::size_t start) const
+{
+    std::size_t end = largestDecoded;
+    for (const auto& [number, other] : objects)
+        if (other > start)
+            end = std::min(end, other);
+    return end == largestDecoded ? start : end;
+}
+
+/// \param size how much of its objects is wanted at least, if it has as much.
 const DirectReader::Container* DirectReader::containerOf(int number, std::size_t size)
 {
     const auto known = m_containers.find(number);
-    if (known != m_containers.end() && (known->second.complete || known->second.data.size() >= size))
+    if (known != m_containers.end() &&
+        (known->second.complete || known->second.data.size() >= known->second.bodies + size))
         return &known->second;
     const auto entry = find(number);
     if (!entry || entry->kind != EntryKind::Plain || entry->detail != 0)
         return nullptr;
     std::string dictionary;
-    auto data = streamAt(entry->position, number, dictionary, size);
-    const auto entries = dictionaryEntries(dictionary);
-    if (!data || !entries || !entries->contains("Type") || entries->at("Type") != "/ObjStm")
+    DictionaryEntries entries;
+    const auto data = streamAt(entry->position, number, dictionary, entries);
+    if (!data || !entries.contains("Type") || entries.at("Type") != "/ObjStm")
         return nullptr;
-    const auto count = integerOf(*entries, "N");
-    const auto first = integerOf(*entries, "First");
+    const auto count = integerOf(entries, "N");
+    const auto first = integerOf(entries, "First");
     if (!isNumberInRange(count, INT32_MAX) || !isNumberInRange(first, largestDecoded))
         return nullptr;
     Container container;
-    if (data->size() >= largestDecoded)
+    container.bodies = static_cast<std::size_t>(*first);
+    const std::size_t wanted = std::min(container.bodies + size, largestDecoded);
+    auto content = decoded(entries, *data, wanted);
+    if (!content || content->size() >= largestDecoded || !allows(data->size() + content->size()))
         return nullptr;
-    container.complete = data->size() < size;
-    const auto bodies = static_cast<std::size_t>(*first);
-    if (bodies > data->size() && !container.complete)
-        return containerOf(number, bodies + firstDecoded);
-    if (bodies > data->size() || !readHeader(*data, *count, bodies, container))
+    container.complete = content->size() < wanted;
+    if (container.bodies > content->size() || !readHeader(*content, *count, container))
         return nullptr;
     if (known != m_containers.end()) {
         m_containerBytes -= known->second.size();
         m_containers.erase(known);
     }
     if (container.complete)
-        data->push_back('\n'); // ends a last word
-    container.data = std::move(*data);
+        content->push_back('\n'); // ends a last word
+    container.data = std::move(*content);
     m_containerBytes += container.size();
     if (m_containerBytes > mostContainerBytes) {
         m_containers.clear();
@@ -617,10 +672,13 @@ const DirectReader::Container* DirectReader::containerOf(int number, std::size_t
 }
 
 /// Reads which objects a stream holds and where. One that holds an object twice is odd.
-bool DirectReader::readHeader(std::string_view data, std::int64_t count, std::size_t bodies,
-                              Container& container)
+bool DirectReader::readHeader(std::string_view data, std::int64_t count, Container& container)
 {
-    SyntaxScanner scanner(data.substr(0, bodies));
+    SyntaxScanner scanner(data.substr(0, container.bodies));
+    container.objects.reserve(
+        static_cast<std::size_t>(count) <= container.bodies ? static_cast<std::size_t>(count) : 0);
+    bool ascending = true; // as they mostly are
+    int last = -1;
     for (std::int64_t object = 0; object < count; ++object) {
         scanner.skipSpace();
         const auto number = scanner.integer();
@@ -628,8 +686,12 @@ bool DirectReader::readHeader(std::string_view data, std::int64_t count, std::si
         const auto start = scanner.integer();
         if (!isNumberInRange(number, INT32_MAX) || !isNumberInRange(start, INT32_MAX))
             return false;
-        container.objects.emplace_back(static_cast<int>(*number), bodies + static_cast<std::size_t>(*start));
+        ascending = ascending && *number > last;
+        last = static_cast<int>(*number);
+        container.objects.emplace_back(last, container.bodies + static_cast<std::size_t>(*start));
     }
+    if (ascending)
+        return true;
     std::vector<int> numbers;
     numbers.reserve(container.objects.size());
     for (const auto& [number, start] : container.objects)

@@ -85,9 +85,11 @@ private:
     struct Container
     {
         std::string data;
+        std::size_t bodies = 0; // where the objects begin in it
         bool complete = false;
         std::vector<std::pair<int, std::size_t>> objects; // number, start in data
 
+        std::size_t endOf(std::size_t start) const;
         std::size_t size() const { return data.size() + objects.size() * sizeof objects[0]; }
     };
 
@@ -113,17 +115,18 @@ private:
 
     std::optional<std::string_view> valueAt(std::int64_t offset, int number, int generation,
                                             std::int64_t* streamData);
-    std::optional<std::string> streamAt(std::int64_t offset, int number, std::string& dictionary,
-                                        std::size_t most);
+    std::optional<std::string_view> streamAt(std::int64_t offset, int number, std::string& dictionary,
+                                             DictionaryEntries& entries);
     bool allows(std::size_t effort);
     std::optional<std::string_view> compressed(int container, int index, int number);
     const Container* containerOf(int number, std::size_t size);
-    static bool readHeader(std::string_view data, std::int64_t count, std::size_t bodies,
-                           Container& container);
+    static bool readHeader(std::string_view data, std::int64_t count, Container& container);
 
     std::shared_ptr<ByteSource> m_source;
     std::array<Window, 4> m_windows;
     std::size_t m_oldestWindow = 0;
+    std::size_t m_readAhead = 0;  // how much was read last
+    std::int64_t m_lastRead = -1; // where that ended
     std::vector<Section> m_sections; // newest first
     int m_size = 0;
     std::map<int, Container> m_containers;

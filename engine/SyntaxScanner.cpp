@@ -77,8 +77,8 @@ std::optional<std::int64_t> SyntaxScanner::integer()
     const char* const end = m_text.data() + m_text.size();
     const char* next = start;
     std::uint64_t value = 0; // more digits than are allowed do no harm
-    for (; next < end && isDigit(*next); ++next)
-        value = value * 10 + static_cast<unsigned char>(*next - '0');
+    for (unsigned digit = 0; next < end && (digit = static_cast<unsigned char>(*next) - '0') <= 9; ++next)
+        value = value * 10 + digit;
     const auto digits = static_cast<std::size_t>(next - start);
     if (digits == 0 || digits > mostDigits || (next < end && isRegular(*next)))
         return std::nullopt;
@@ -103,6 +103,11 @@ bool SyntaxScanner::skipReferences()
             ++next;
         if (next - start > static_cast<std::ptrdiff_t>(mostDigits))
             return m_at > before;
+        if (next > start && end - next > 4 && std::memcmp(next, " 0 R", 4) == 0 && !isRegular(next[4])) {
+            next += 4;
+            numbers = 0;
+            continue;
+        }
         ++numbers;
         if (next == start && next < end && *next == 'R' && numbers > 2) {
             ++next;
@@ -281,9 +286,9 @@ std::optional<DictionaryScanner::Entry> DictionaryScanner::next()
     return m_odd ? std::nullopt : std::optional(entry);
 }
 
-std::optional<std::map<std::string_view, std::string_view>> dictionaryEntries(std::string_view text)
+std::optional<DictionaryEntries> dictionaryEntries(std::string_view text)
 {
-    std::map<std::string_view, std::string_view> entries;
+    DictionaryEntries entries;
     DictionaryScanner scanner(text);
     while (const auto entry = scanner.next())
         if (!entries.emplace(entry->key, entry->value).second)

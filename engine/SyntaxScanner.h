@@ -81,9 +81,11 @@ private:
     bool m_odd;
 };
 
+using DictionaryEntries = std::map<std::string_view, std::string_view>;
+
 /// The entries of a dictionary's text, keys without their slash.
 /// \returns nothing for text that is not exactly one dictionary, and for repeated or escaped keys.
-std::optional<std::map<std::string_view, std::string_view>> dictionaryEntries(std::string_view text);
+std::optional<DictionaryEntries> dictionaryEntries(std::string_view text);
 
 /// The number that a text consists of.
 std::optional<std::int64_t> wholeInteger(std::string_view text);
