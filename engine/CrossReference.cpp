@@ -3,6 +3,7 @@
 #include "engine/DirectReader.h"
 #include "engine/DocumentTail.h"
 #include "engine/EngineError.h"
+#include "engine/ObjectParser.h"
 #include "engine/SourceInput.h"
 #include "engine/TableScanner.h"
 
@@ -73,8 +74,7 @@ CrossReference::CrossReference(QPDF& pdf, std::shared_ptr<const ByteSource> sour
 CrossReference::CrossReference(QPDF& pdf, const DirectReader& reader)
     : m_kind(reader.newestIsStream() ? Kind::Stream : Kind::Table),
       m_newestOffset(static_cast<std::uint64_t>(reader.newestOffset())),
-      m_trailer(QPDFObjectHandle::parse(&pdf, reader.trailer())), m_entryEnd(reader.size()),
-      m_size(reader.size())
+      m_trailer(parseObject(pdf, reader.trailer())), m_entryEnd(reader.size()), m_size(reader.size())
 {}
 
 void CrossReference::readChain(QPDF& pdf, std::uint64_t offset)

@@ -478,8 +478,7 @@ std::optional<std::string> DirectReader::skeleton()
     const auto entries = dictionaryEntries(trailer());
     const auto root = entries->contains("Root") ? wholeReference(entries->at("Root")) : std::nullopt;
     const auto found = root ? object(root->number, root->generation) : std::nullopt;
-    const std::string catalog(found.value_or(""));
-    const auto catalogEntries = dictionaryEntries(catalog);
+    const auto catalogEntries = dictionaryEntries(found.value_or(""));
     if (!catalogEntries || !catalogEntries->contains("Pages"))
         return std::nullopt;
     const auto pages = wholeReference(catalogEntries->at("Pages"));
@@ -495,7 +494,7 @@ std::optional<std::string> DirectReader::skeleton()
         text +=
             std::to_string(id.number) + " " + std::to_string(id.generation) + " obj\n" + value + "\nendobj\n";
     };
-    add(*root, catalog);
+    add(*root, "<< >>");
     // New objects are numbered from the last one on.
     if (root->number != m_size - 1)
         add({m_size - 1, 0}, "null");

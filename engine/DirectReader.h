@@ -39,9 +39,9 @@ public:
     /// The largest of all sections' sizes; none of them has an entry for this number or a higher one.
     int size() const { return m_size; }
 
-    /// A small PDF with this one's trailer and catalog, and an empty object in the place of the last one. Its
-    /// other objects are missing: whoever works on it puts in what object() gives.
-    /// \returns nothing when the reader has to give up.
+    /// A small PDF with this one's trailer, an empty catalog, and an empty object in the place of the last
+    /// one. Its other objects are missing: whoever works on it puts in what object() gives. \returns nothing
+    /// when the reader has to give up.
     std::optional<std::string> skeleton();
 
 private:
@@ -125,8 +125,8 @@ private:
     std::shared_ptr<ByteSource> m_source;
     std::array<Window, 4> m_windows;
     std::size_t m_oldestWindow = 0;
-    std::size_t m_readAhead = 0;  // how much was read last
-    std::int64_t m_lastRead = -1; // where that ended
+    std::size_t m_readAhead = 0;     // how much was read last
+    std::int64_t m_lastRead = -1;    // where that ended
     std::vector<Section> m_sections; // newest first
     int m_size = 0;
     std::map<int, Container> m_containers;

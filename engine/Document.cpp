@@ -3,6 +3,7 @@
 #include "engine/ByteSource.h"
 #include "engine/DirectReader.h"
 #include "engine/EngineError.h"
+#include "engine/ObjectParser.h"
 #include "engine/ObjectSerializer.h"
 #include "engine/SourceInput.h"
 #include "engine/SyntaxScanner.h"
@@ -116,12 +117,13 @@ bool Document::openSkeleton()
         m_pdf->processMemoryFile(m_fileName.c_str(), m_skeleton.data(), m_skeleton.size());
         m_catalog = m_pdf->getRoot();
         m_fetched = {m_catalog.getObjGen()};
+        put(m_catalog.getObjGen(), textOf(m_catalog.getObjGen()));
+        return true;
     } catch (const QPDFExc&) {
-        m_direct.reset();
+    } catch (const DirectReadingEnded&) {
     }
-    if (m_pdf->anyWarnings())
-        m_direct.reset();
-    return m_direct != nullptr;
+    m_direct.reset();
+    return false;
 }
 
 void Document::openWhole()
@@ -189,7 +191,7 @@ std::string_view Document::textOf(QPDFObjGen id)
 void Document::put(QPDFObjGen id, std::string_view text)
 {
     try {
-        m_pdf->replaceObject(id, QPDFObjectHandle::parse(m_pdf.get(), std::string(text)));
+        m_pdf->replaceObject(id, parseObject(*m_pdf, text));
     } catch (const std::runtime_error&) { // libqpdf's own, and from numbers that are too large
         throw DirectReadingEnded();
     }

@@ -17,11 +17,20 @@ struct OpenDocument
     {
         document.readWhole();
         pages.forget();
+        lastBox = {};
     }
 
     Document document;
     PageTree pages;
     int selectedPage = 1;
+
+    /// A page box that was asked for: its sides are asked for one by one.
+    struct
+    {
+        int page = 0;
+        int box = 0;
+        QPDFObjectHandle::Rectangle rectangle;
+    } lastBox;
 };
 
 } // namespace engine

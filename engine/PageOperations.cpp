@@ -103,10 +103,12 @@ int SelectedPage(Session& session)
 
 double GetPageBox(Session& session, int box, int dimension)
 {
-    const PagePath& path = selectedPage(session);
+    OpenDocument& open = session.document();
     if (box < Media || box > Art)
         throw EngineError(ErrorCode::BadArgument);
-    return dimensionOf(pageBox(session.document().document, path, box), dimension);
+    if (open.lastBox.page != open.selectedPage || open.lastBox.box != box)
+        open.lastBox = {open.selectedPage, box, pageBox(open.document, selectedPage(session), box)};
+    return dimensionOf(open.lastBox.rectangle, dimension);
 }
 
 double PageWidth(Session& session)
