@@ -9,31 +9,8 @@ namespace engine {
 namespace {
 
 const std::size_t deepestNesting = 100;
-const std::size_t mostDigits = 18;
 
-enum Class : std::uint8_t { Regular, Space, Delimiter };
-
-constexpr std::array<Class, 256> classes = [] {
-    std::array<Class, 256> table{};
-    for (const char character : {' ', '\n', '\r', '\t', '\f', '\0'})
-        table[static_cast<unsigned char>(character)] = Space;
-    // Readers disagree about vertical tabs: nothing that begins with one is accepted.
-    for (const char character : {'(', ')', '<', '>', '[', ']', '{', '}', '/', '%', '\v'})
-        table[static_cast<unsigned char>(character)] = Delimiter;
-    return table;
-}();
-
-bool isRegular(char character)
-{
-    return classes[static_cast<unsigned char>(character)] == Regular;
-}
-
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
-bool isNumber(std::string_view word)
+bool isNumber(std::string_view word, std::size_t mostDigits)
 {
     if (!word.empty() && (word.front() == '+' || word.front() == '-'))
         word.remove_prefix(1);
@@ -49,17 +26,6 @@ bool isNumber(std::string_view word)
 
 } // namespace
 
-bool isSpace(char character)
-{
-    return classes[static_cast<unsigned char>(character)] == Space;
-}
-
-void SyntaxScanner::skipSpace()
-{
-    while (!atEnd() && isSpace(m_text[m_at]))
-        ++m_at;
-}
-
 bool SyntaxScanner::keyword(std::string_view word)
 {
     if (m_text.substr(m_at, word.size()) != word)
@@ -69,21 +35,6 @@ bool SyntaxScanner::keyword(std::string_view word)
         return false;
     m_at = end;
     return true;
-}
-
-std::optional<std::int64_t> SyntaxScanner::integer()
-{
-    const char* const start = m_text.data() + m_at;
-    const char* const end = m_text.data() + m_text.size();
-    const char* next = start;
-    std::uint64_t value = 0; // more digits than are allowed do no harm
-    for (unsigned digit = 0; next < end && (digit = static_cast<unsigned char>(*next) - '0') <= 9; ++next)
-        value = value * 10 + digit;
-    const auto digits = static_cast<std::size_t>(next - start);
-    if (digits == 0 || digits > mostDigits || (next < end && isRegular(*next)))
-        return std::nullopt;
-    m_at += digits;
-    return static_cast<std::int64_t>(value);
 }
 
 /// Skips whole numbers and references, of which long arrays consist. \returns whether there was any.
@@ -233,7 +184,7 @@ SyntaxScanner::Outcome SyntaxScanner::skipWord()
     if (atEnd())
         return Outcome::CutOff;
     const std::string_view word = m_text.substr(start, m_at - start);
-    if (word == "true" || word == "false" || word == "null" || word == "R" || isNumber(word))
+    if (word == "true" || word == "false" || word == "null" || word == "R" || isNumber(word, mostDigits))
         return Outcome::Complete;
     return Outcome::Odd;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/CharacterClass.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -22,7 +24,11 @@ public:
 
     std::size_t position() const { return m_at; }
     bool atEnd() const { return m_at >= m_text.size(); }
-    void skipSpace();
+    void skipSpace()
+    {
+        while (!atEnd() && isSpace(m_text[m_at]))
+            ++m_at;
+    }
 
     /// Skips `word` when it stands here and ends here. \returns whether it did.
     bool keyword(std::string_view word);
@@ -43,6 +49,8 @@ public:
     Outcome skipValue();
 
 private:
+    static constexpr std::size_t mostDigits = 18;
+
     bool skipReferences();
     Outcome skipToken();
     Outcome skipLiteralString();
@@ -90,6 +98,19 @@ std::optional<DictionaryEntries> dictionaryEntries(std::string_view text);
 /// The number that a text consists of.
 std::optional<std::int64_t> wholeInteger(std::string_view text);
 
-bool isSpace(char character);
+inline std::optional<std::int64_t> SyntaxScanner::integer()
+{
+    const char* const start = m_text.data() + m_at;
+    const char* const end = m_text.data() + m_text.size();
+    const char* next = start;
+    std::uint64_t value = 0; // more digits than are allowed do no harm
+    for (; next < end && isDigit(*next); ++next)
+        value = value * 10 + static_cast<unsigned char>(*next - '0');
+    const auto digits = static_cast<std::size_t>(next - start);
+    if (digits == 0 || digits > mostDigits || (next < end && isRegular(*next)))
+        return std::nullopt;
+    m_at += digits;
+    return static_cast<std::int64_t>(value);
+}
 
 } // namespace engine
