@@ -16,6 +16,7 @@
 #include <csignal>
 #include <cstring>
 #include <stdexcept>
+#include <thread>
 
 namespace host {
 
@@ -24,6 +25,12 @@ namespace {
 const std::size_t largestRecord = 128 << 10;
 const std::chrono::seconds stopGrace(5);
 const int millisecondsToEnd = 2000;
+
+// What a worker of small pieces has in reserve, so that it wakes nobody up for each: that would cost as much
+// as the piece.
+const std::size_t mostAhead = 8;
+const std::chrono::microseconds smallPiece(1000);
+const std::chrono::microseconds worthSleeping(50);
 
 // The first byte of an answer.
 const char fit = 'f';
@@ -87,8 +94,15 @@ struct WorkerPool::Process
     FileDescriptor channel;
     std::deque<std::size_t> pieces; // the first one is in work
     Clock::time_point deadline;
+    Clock::time_point news;                            // when its last answer came
+    Clock::duration perPiece = Clock::duration::max(); // of late
 
     bool busy() const { return !pieces.empty(); }
+    /// How long it will not need anybody.
+    Clock::duration reserve() const
+    {
+        return pieces.size() > 2 ? perPiece * static_cast<int>(pieces.size() - 2) : Clock::duration::zero();
+    }
 };
 
 WorkerPool::WorkerPool(Limits limits, MakeWorker makeWorker)
@@ -131,6 +145,7 @@ void WorkerPool::giveWork(const WorkOf& workOf, const Done& done)
         if (give(*process, workOf(piece))) {
             process->pieces.push_back(piece);
             setDeadline(*process);
+            process->news = Clock::now();
         } else if (anyBusy()) {
             return; // there cannot be as many workers as wanted: those that there are do the rest
         } else {
@@ -140,13 +155,13 @@ void WorkerPool::giveWork(const WorkOf& workOf, const Done& done)
     }
 }
 
-/// Waking each other up would cost as much as a small piece. The last pieces are for whoever is ready first.
+/// One piece, and some more if they are small. The last ones are for whoever is ready first.
 void WorkerPool::giveWorkAhead(const WorkOf& workOf)
 {
     for (Process& process : m_processes) {
-        if (process.pieces.size() != 1 || piecesLeft() <= m_processes.size())
-            continue;
-        if (sendRecord(process.channel.get(), workOf(nextPiece()), MSG_DONTWAIT)) {
+        const std::size_t wanted = 1 + (process.perPiece < smallPiece ? mostAhead : 1);
+        while (process.busy() && process.pieces.size() < wanted && piecesLeft() > m_processes.size() &&
+               sendRecord(process.channel.get(), workOf(nextPiece()), MSG_DONTWAIT)) {
             process.pieces.push_back(nextPiece());
             takeNextPiece();
         }
@@ -245,6 +260,11 @@ void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
             waiting.push_back({process.channel.get(), POLLIN, 0});
         }
     waiting.push_back({stop.descriptor(), POLLIN, 0});
+    Clock::duration reserve = smallPiece;
+    for (const Process* process : busy)
+        reserve = std::min(reserve, process->reserve());
+    if (reserve > worthSleeping)
+        std::this_thread::sleep_for(reserve);
     poll(waiting.data(), waiting.size(), millisecondsToNextDeadline());
 
     for (std::size_t index = 0; index < busy.size(); ++index)
@@ -260,20 +280,28 @@ void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
 
 void WorkerPool::receive(Process& process, const Done& done)
 {
+    int answers = 0;
     std::string record;
-    const ssize_t length = receiveRecord(process.channel.get(), record, MSG_DONTWAIT);
-    if (length < 0 && errno == EAGAIN)
-        return;
-    if (length <= 0) {
-        const std::string reason = end(process);
-        pieceEnded(process, done, {WorkOutcome::Lost, reason});
-        return;
+    while (process.busy()) {
+        const ssize_t length = receiveRecord(process.channel.get(), record, MSG_DONTWAIT);
+        if (length < 0 && errno == EAGAIN)
+            break;
+        if (length <= 0) {
+            const std::string reason = end(process);
+            pieceEnded(process, done, {WorkOutcome::Lost, reason});
+            return;
+        }
+        ++answers;
+        const char state = record[0];
+        record.erase(0, 1);
+        if (state != fit)
+            end(process);
+        pieceEnded(process, done, {state == notStarted ? WorkOutcome::Lost : WorkOutcome::Answered, record});
     }
-    const char state = record[0];
-    record.erase(0, 1);
-    if (state != fit)
-        end(process);
-    pieceEnded(process, done, {state == notStarted ? WorkOutcome::Lost : WorkOutcome::Answered, record});
+    const Clock::time_point now = Clock::now();
+    if (answers > 0)
+        process.perPiece = (now - process.news) / answers;
+    process.news = now;
 }
 
 /// The piece that was in work; when the worker has ended too, what it was given ahead is taken back.

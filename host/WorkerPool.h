@@ -41,8 +41,8 @@ struct WorkOutcome
 };
 
 /// Spreads work over processes that are copies of this one. Each works at one piece at a time and, so that it
-/// never waits, has been given the next one meanwhile. A worker that crashes, takes too long or too much
-/// memory costs the piece it was at; a fresh one goes on.
+/// never waits, has been given the next one meanwhile, or some if they are small. A worker that crashes,
+/// takes too long or too much memory costs the piece it was at; a fresh one goes on.
 ///
 /// The program must have no threads when it calls `run`.
 class WorkerPool
