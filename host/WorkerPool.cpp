@@ -280,28 +280,32 @@ void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
 
 void WorkerPool::receive(Process& process, const Done& done)
 {
-    int answers = 0;
+    const std::size_t before = process.pieces.size();
+    if (!takeAnswers(process, done)) {
+        const std::string reason = end(process);
+        pieceEnded(process, done, {WorkOutcome::Lost, reason});
+    }
+    const Clock::time_point now = Clock::now();
+    if (process.pieces.size() < before)
+        process.perPiece = (now - process.news) / static_cast<int>(before - process.pieces.size());
+    process.news = now;
+}
+
+/// \returns false when the worker has ended and has not done all that it was given.
+bool WorkerPool::takeAnswers(Process& process, const Done& done)
+{
     std::string record;
     while (process.busy()) {
         const ssize_t length = receiveRecord(process.channel.get(), record, MSG_DONTWAIT);
-        if (length < 0 && errno == EAGAIN)
-            break;
-        if (length <= 0) {
-            const std::string reason = end(process);
-            pieceEnded(process, done, {WorkOutcome::Lost, reason});
-            return;
-        }
-        ++answers;
+        if (length <= 0)
+            return length < 0 && errno == EAGAIN;
         const char state = record[0];
         record.erase(0, 1);
         if (state != fit)
             end(process);
         pieceEnded(process, done, {state == notStarted ? WorkOutcome::Lost : WorkOutcome::Answered, record});
     }
-    const Clock::time_point now = Clock::now();
-    if (answers > 0)
-        process.perPiece = (now - process.news) / answers;
-    process.news = now;
+    return true;
 }
 
 /// The piece that was in work; when the worker has ended too, what it was given ahead is taken back.
@@ -321,8 +325,13 @@ void WorkerPool::endAndLose(Process& process, const Done& done, WorkOutcome::Kin
                             const std::string& reason)
 {
     kill(process.id, SIGKILL);
-    end(process);
-    pieceEnded(process, done, {kind, reason});
+    pollfd waiting{process.channel.get(), 0, 0}; // tells when the other end is closed
+    poll(&waiting, 1, millisecondsToEnd);
+    takeAnswers(process, done); // what came at the last moment is done, and must not be done again
+    if (process.id != 0)
+        end(process);
+    if (process.busy())
+        pieceEnded(process, done, {kind, reason});
 }
 
 /// Waits for the end of a process that gets no more work. \returns how it ended.

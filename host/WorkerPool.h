@@ -85,6 +85,7 @@ private:
     [[noreturn]] void serve(int channel, pid_t parent);
     void waitForNews(const Done& done, StopSignal& stop);
     void receive(Process& process, const Done& done);
+    bool takeAnswers(Process& process, const Done& done);
     void pieceEnded(Process& process, const Done& done, const WorkOutcome& outcome);
     void setDeadline(Process& process) const;
     std::string end(Process& process);
