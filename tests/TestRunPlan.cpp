@@ -164,6 +164,20 @@ private slots:
         plan.checkReport("report.jsonl", {"settings"});
     }
 
+    // The folder is made only when nothing is refused.
+    void guardsResultsInAFolderThatIsMissingYet()
+    {
+        WorkFolder::put("a/x.pdf");
+        fs::create_symlink("new/x.pdf", "linked");
+        for (const char* output : {"new", "new/", "other/../new/."}) {
+            RunPlan plan(output);
+            plan.add("a/x.pdf");
+            QCOMPARE(targets(plan), std::string("a/x.pdf>new/x.pdf "));
+            for (const char* report : {"new/../new/x.pdf", "new//x.pdf", "./new/./x.pdf", "linked"})
+                QVERIFY_EXCEPTION_THROWN(plan.checkReport(report, {}), UsageError);
+        }
+    }
+
     void followsLinksInPlace()
     {
         WorkFolder::put("real/x.pdf");
