@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -12,9 +13,12 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
 #include <cstring>
+#include <new>
 #include <stdexcept>
 #include <thread>
 
@@ -31,6 +35,13 @@ const int millisecondsToEnd = 2000;
 const std::size_t mostAhead = 8;
 const std::chrono::microseconds smallPiece(1000);
 const std::chrono::microseconds worthSleeping(50);
+
+// How long others wait before they take over what a worker has in reserve.
+const std::chrono::milliseconds patience(10);
+
+// A deadline that is noticed so late has passed while this process was suspended or could not print, and so
+// may the worker have been.
+const std::chrono::seconds heldUp(1);
 
 // The first byte of an answer.
 const char fit = 'f';
@@ -88,16 +99,55 @@ std::string describeEnd(int status)
 
 } // namespace
 
+/// Tells this process and a worker, in memory that they share, which piece the worker begins next. The pieces
+/// that it was given count from 0.
+class WorkerPool::Turn
+{
+public:
+    Turn()
+        : m_next(static_cast<Next*>(
+              mmap(nullptr, sizeof(Next), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0)))
+    {
+        if (m_next == MAP_FAILED)
+            throw std::bad_alloc();
+    }
+    ~Turn() { munmap(m_next, sizeof(Next)); }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+
+    void reset() { *m_next = 0; }
+    /// \returns false when the piece has been taken back.
+    bool begin(std::uint64_t piece) { return m_next->compare_exchange_strong(piece, piece + 1); }
+    bool hasBegun(std::uint64_t piece) const { return *m_next > piece; }
+    /// Leaves only what has been begun. \returns how many pieces that are.
+    std::uint64_t takeBack(std::uint64_t given) { return m_next->exchange(given); }
+
+private:
+    using Next = std::atomic<std::uint64_t>;
+    static_assert(Next::is_always_lock_free);
+
+    Next* m_next;
+};
+
 struct WorkerPool::Process
 {
     pid_t id = 0;
     FileDescriptor channel;
+    Turn turn;
+    std::uint64_t given = 0;        // pieces, since it was started
     std::deque<std::size_t> pieces; // the first one is in work
     Clock::time_point deadline;
     Clock::time_point news;                            // when its last answer came
     Clock::duration perPiece = Clock::duration::max(); // of late
 
     bool busy() const { return !pieces.empty(); }
+    bool isAtFirst() const { return turn.hasBegun(given - pieces.size()); }
+    /// The caller has sent it.
+    void wasGiven(std::size_t piece)
+    {
+        pieces.push_back(piece);
+        ++given;
+    }
     /// How long it will not need anybody.
     Clock::duration reserve() const
     {
@@ -126,6 +176,8 @@ void WorkerPool::run(std::size_t count, const WorkOf& workOf, const Done& done, 
     m_returned.clear();
     for (;;) {
         if (m_stopSignals == 0) {
+            if (canShare())
+                share();
             giveWork(workOf, done);
             giveWorkAhead(workOf);
         }
@@ -143,7 +195,7 @@ void WorkerPool::giveWork(const WorkOf& workOf, const Done& done)
             return;
         const std::size_t piece = nextPiece();
         if (give(*process, workOf(piece))) {
-            process->pieces.push_back(piece);
+            process->wasGiven(piece);
             setDeadline(*process);
             process->news = Clock::now();
         } else if (anyBusy()) {
@@ -162,10 +214,37 @@ void WorkerPool::giveWorkAhead(const WorkOf& workOf)
         const std::size_t wanted = 1 + (process.perPiece < smallPiece ? mostAhead : 1);
         while (process.busy() && process.pieces.size() < wanted && piecesLeft() > m_processes.size() &&
                sendRecord(process.channel.get(), workOf(nextPiece()), MSG_DONTWAIT)) {
-            process.pieces.push_back(nextPiece());
+            process.wasGiven(nextPiece());
             takeNextPiece();
         }
     }
+}
+
+/// Whether a worker has nothing to do while others have something in reserve.
+bool WorkerPool::canShare() const
+{
+    const auto any = [this](auto property) {
+        return std::any_of(m_processes.begin(), m_processes.end(), property);
+    };
+    return piecesLeft() == 0 && any([](const Process& process) { return !process.busy(); }) &&
+           any([](const Process& process) { return process.pieces.size() > 1; });
+}
+
+/// A piece that takes long does not keep those behind it waiting for longer than need be.
+void WorkerPool::share()
+{
+    for (Process& process : m_processes)
+        if (process.pieces.size() > 1 && process.isAtFirst() && Clock::now() - process.news >= patience)
+            takeBack(process);
+}
+
+/// What the worker has not begun.
+void WorkerPool::takeBack(Process& process)
+{
+    const std::uint64_t left = process.given - process.turn.takeBack(process.given);
+    const auto first = process.pieces.end() - static_cast<std::ptrdiff_t>(left);
+    m_returned.insert(m_returned.end(), first, process.pieces.end());
+    process.pieces.erase(first, process.pieces.end());
 }
 
 void WorkerPool::takeNextPiece()
@@ -213,12 +292,14 @@ bool WorkerPool::start(Process& process)
         return false;
     process.channel = FileDescriptor(ends[0]);
     FileDescriptor theirs(ends[1]);
+    process.given = 0;
+    process.turn.reset();
     const pid_t parent = getpid();
     process.id = fork();
     if (process.id == 0) {
         for (Process& other : m_processes)
             other.channel.close();
-        serve(theirs.get(), parent);
+        serve(theirs.get(), process.turn, parent);
     }
     if (process.id > 0)
         return true;
@@ -228,7 +309,7 @@ bool WorkerPool::start(Process& process)
 }
 
 /// The life of a worker process.
-void WorkerPool::serve(int channel, pid_t parent)
+void WorkerPool::serve(int channel, Turn& turn, pid_t parent)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (getppid() != parent)
@@ -238,7 +319,9 @@ void WorkerPool::serve(int channel, pid_t parent)
     try {
         const std::unique_ptr<Worker> worker = m_makeWorker();
         bool last = false;
-        while (!last && receiveRecord(channel, record, 0) > 0) {
+        for (std::uint64_t piece = 0; !last && receiveRecord(channel, record, 0) > 0; ++piece) {
+            if (!turn.begin(piece))
+                continue;
             const Worker::Answer answer = worker->answer(record);
             if (answer.record.size() >= largestRecord)
                 throw std::runtime_error("what there is to tell of it is longer than 128 KiB");
@@ -265,14 +348,20 @@ void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
         reserve = std::min(reserve, process->reserve());
     if (reserve > worthSleeping)
         std::this_thread::sleep_for(reserve);
-    poll(waiting.data(), waiting.size(), millisecondsToNextDeadline());
+    const int milliseconds = millisecondsToNextDeadline();
+    poll(waiting.data(), waiting.size(),
+         canShare() ? std::min(milliseconds, static_cast<int>(patience.count())) : milliseconds);
 
     for (std::size_t index = 0; index < busy.size(); ++index)
         if (waiting[index].revents != 0)
             receive(*busy[index], done);
     const int signals = waiting.back().revents != 0 ? stop.count() : m_stopSignals;
-    if (m_stopSignals == 0 && signals > 0)
+    if (m_stopSignals == 0 && signals > 0) {
         m_stopDeadline = Clock::now() + stopGrace;
+        for (Process& process : m_processes)
+            if (process.busy())
+                takeBack(process);
+    }
     m_stopSignals = signals;
     endOverdue(done);
     endStopped(done);
@@ -324,6 +413,8 @@ void WorkerPool::pieceEnded(Process& process, const Done& done, const WorkOutcom
 void WorkerPool::endAndLose(Process& process, const Done& done, WorkOutcome::Kind kind,
                             const std::string& reason)
 {
+    if (process.isAtFirst())
+        takeBack(process); // so that it begins nothing between its last answer and its end
     kill(process.id, SIGKILL);
     pollfd waiting{process.channel.get(), 0, 0}; // tells when the other end is closed
     poll(&waiting, 1, millisecondsToEnd);
@@ -350,10 +441,16 @@ std::string WorkerPool::end(Process& process)
 
 void WorkerPool::endOverdue(const Done& done)
 {
-    for (Process& process : m_processes)
-        if (process.busy() && Clock::now() >= process.deadline)
+    for (Process& process : m_processes) {
+        const Clock::duration late = Clock::now() - process.deadline;
+        if (!process.busy() || late < Clock::duration::zero())
+            continue;
+        if (late >= heldUp)
+            setDeadline(process);
+        else
             endAndLose(process, done, WorkOutcome::Lost,
                        "it took longer than " + std::to_string(m_limits.timeoutSeconds) + " s");
+    }
 }
 
 void WorkerPool::endStopped(const Done& done)

@@ -41,8 +41,9 @@ struct WorkOutcome
 };
 
 /// Spreads work over processes that are copies of this one. Each works at one piece at a time and, so that it
-/// never waits, has been given the next one meanwhile, or some if they are small. A worker that crashes,
-/// takes too long or too much memory costs the piece it was at; a fresh one goes on.
+/// never waits, has been given the next one meanwhile, or some if they are small; what it has not begun can
+/// be taken back. A worker that crashes, takes too long or too much memory costs the piece it was at; a fresh
+/// one goes on.
 ///
 /// The program must have no threads when it calls `run`.
 class WorkerPool
@@ -65,24 +66,28 @@ public:
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
 
-    /// Has pieces 0 to count - 1 done and tells of each as it ends. After a stop signal no piece is given
-    /// out; those that workers have are waited for a few seconds, or not at all after a second signal, and
-    /// then end as Stopped.
+    /// Has pieces 0 to count - 1 done and tells of each as it ends. After a stop signal no piece is begun;
+    /// those in work are waited for a few seconds, or not at all after a second signal, and then end as
+    /// Stopped.
     void run(std::size_t count, const WorkOf& workOf, const Done& done, StopSignal& stop);
 
 private:
     using Clock = std::chrono::steady_clock;
+    class Turn;
     struct Process;
 
     void giveWork(const WorkOf& workOf, const Done& done);
     void giveWorkAhead(const WorkOf& workOf);
+    bool canShare() const;
+    void share();
+    void takeBack(Process& process);
     std::size_t piecesLeft() const { return m_returned.size() + m_count - m_next; }
     std::size_t nextPiece() const { return m_returned.empty() ? m_next : m_returned.front(); }
     void takeNextPiece();
     Process* idleProcess();
     bool give(Process& process, const std::string& record);
     bool start(Process& process);
-    [[noreturn]] void serve(int channel, pid_t parent);
+    [[noreturn]] void serve(int channel, Turn& turn, pid_t parent);
     void waitForNews(const Done& done, StopSignal& stop);
     void receive(Process& process, const Done& done);
     bool takeAnswers(Process& process, const Done& done);

@@ -473,6 +473,39 @@ private slots:
         QVERIFY(WorkFolder::contentOf("in/3-good.pdf") == PdfBuilder::simple());
     }
 
+    // What a worker is given ahead is neither begun after a stop signal nor kept waiting by a document that
+    // takes long.
+    void takesBackWhatWasGivenAhead()
+    {
+        const auto start = [program = programWithTroubledLibrary()](QProcess& process,
+                                                                    const QStringList& options) {
+            process.start(program, QStringList{"run"} + options + panelAndPage);
+        };
+        for (int number = 0; number < 60; ++number)
+            put("in/" + std::to_string(100 + number) + (number == 30 ? "-hang.pdf" : "-good.pdf"));
+        QProcess hanging;
+        start(hanging, {"--jobs", "2", "-o", "out", "in"});
+        const auto results = [] {
+            const fs::directory_iterator entries("out");
+            return std::count_if(begin(entries), end(entries), [](const fs::directory_entry& entry) {
+                return entry.path().extension() == ".pdf";
+            });
+        };
+        QVERIFY(waitFor([&] { return fs::exists("out") && results() == 59; }));
+        hanging.kill();
+        QVERIFY(hanging.waitForFinished());
+
+        for (const char* name : {"few/1-good.pdf", "few/2-slow.pdf", "few/3-good.pdf", "few/4-good.pdf"})
+            put(name);
+        QProcess stopped;
+        start(stopped, {"--jobs", "1", "--in-place", "--report", "report", "few"});
+        QVERIFY(waitFor([] { return fs::exists("report") && fs::file_size("report") > 0; }));
+        ::kill(pid_t(stopped.processId()), SIGTERM);
+        QVERIFY(stopped.waitForFinished());
+        QVERIFY(stopped.readAllStandardOutput().endsWith(
+            "2 changed, 0 unchanged, 0 failed, stopped with 2 not done\n"));
+    }
+
     // Killed at any moment, a run leaves every document whole; what it leaves behind goes with the next one.
     void leavesNothingBehindWhenKilled()
     {

@@ -1,5 +1,5 @@
 // Loads documents as the real library does, except those whose names ask for trouble: "crash", "hang",
-// "hungry", "replaced".
+// "hungry", "replaced", "slow".
 #include <dlfcn.h>
 #include <unistd.h>
 
@@ -49,6 +49,8 @@ EXPORTED int TPLLoadFromFile(int instance, char* fileName, char* password)
         std::abort();
     if (asksFor(L"hungry"))
         eat();
+    if (asksFor(L"slow"))
+        usleep(700'000);
     while (asksFor(L"hang"))
         pause();
     const int loaded = real(TPLLoadFromFile, "TPLLoadFromFile")(instance, fileName, password);
