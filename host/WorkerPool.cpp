@@ -317,11 +317,14 @@ void WorkerPool::serve(int channel, Turn& turn, pid_t parent)
     limitWorker(m_limits.memoryMiB);
     std::string record;
     try {
-        const std::unique_ptr<Worker> worker = m_makeWorker();
+        std::unique_ptr<Worker> worker;
         bool last = false;
         for (std::uint64_t piece = 0; !last && receiveRecord(channel, record, 0) > 0; ++piece) {
             if (!turn.begin(piece))
                 continue;
+            // Not before the first order: one that cannot be sent hides the reason why there is no worker.
+            if (!worker)
+                worker = m_makeWorker();
             const Worker::Answer answer = worker->answer(record);
             if (answer.record.size() >= largestRecord)
                 throw std::runtime_error("what there is to tell of it is longer than 128 KiB");
@@ -406,8 +409,8 @@ void WorkerPool::pieceEnded(Process& process, const Done& done, const WorkOutcom
         m_returned.insert(m_returned.end(), process.pieces.begin(), process.pieces.end());
         process.pieces.clear();
     }
-    setDeadline(process);
     done(piece, outcome);
+    setDeadline(process); // what took this program long is not the worker's
 }
 
 void WorkerPool::endAndLose(Process& process, const Done& done, WorkOutcome::Kind kind,
@@ -441,11 +444,15 @@ std::string WorkerPool::end(Process& process)
 
 void WorkerPool::endOverdue(const Done& done)
 {
+    const auto isOverdue = [](const Process& process) {
+        return process.busy() && Clock::now() >= process.deadline;
+    };
     for (Process& process : m_processes) {
-        const Clock::duration late = Clock::now() - process.deadline;
-        if (!process.busy() || late < Clock::duration::zero())
+        if (isOverdue(process)) // or its answers have waited while another one's were dealt with
+            receive(process, done);
+        if (!isOverdue(process))
             continue;
-        if (late >= heldUp)
+        if (Clock::now() - process.deadline >= heldUp)
             setDeadline(process);
         else
             endAndLose(process, done, WorkOutcome::Lost,
