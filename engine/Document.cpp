@@ -144,6 +144,10 @@ void Document::readWhole()
     m_direct.reset();
     m_kids.clear();
     openWhole();
+    // An object that is not where it should be makes libqpdf search the file for all objects. It keeps those
+    // that it has read before, so they must be the same ones as if it had read the document from the start.
+    for (const QPDFObjGen& id : m_lookedAt)
+        m_pdf->getObject(id).isNull();
     for (const auto& [id, text] : changed)
         m_pdf->replaceObject(id, QPDFObjectHandle::parse(m_pdf.get(), text));
 }
@@ -185,6 +189,7 @@ std::string_view Document::textOf(QPDFObjGen id)
     const auto text = m_direct->object(id.getObj(), id.getGen());
     if (!text)
         throw DirectReadingEnded();
+    m_lookedAt.push_back(id);
     return *text;
 }
 
@@ -242,7 +247,10 @@ std::optional<std::string_view> Document::unreadKid(const Kids& kids, int index)
     const QPDFObjGen id = kids.id(index);
     if (m_direct == nullptr || !id.isIndirect() || m_fetched.contains(id) || m_kids.contains(id))
         return std::nullopt;
-    return m_direct->object(id.getObj(), id.getGen());
+    const auto text = m_direct->object(id.getObj(), id.getGen());
+    if (text)
+        m_lookedAt.push_back(id);
+    return text;
 }
 
 Kids::Kids(QPDFObjectHandle array) : m_array(array), m_size(array.isArray() ? array.getArrayNItems() : 0) {}

@@ -134,6 +134,7 @@ private:
     std::unique_ptr<DirectReader> m_direct; // null when m_pdf has the whole document
     std::string m_skeleton;
     std::set<QPDFObjGen> m_fetched;
+    std::vector<QPDFObjGen> m_lookedAt;                                          // whether fetched or not
     std::map<QPDFObjGen, std::shared_ptr<const std::vector<QPDFObjGen>>> m_kids; // of nodes fetched without
     std::shared_ptr<QPDF> m_pdf;
     QPDFObjectHandle m_catalog; // looking it up anew each time is not cheap

@@ -200,6 +200,8 @@ private slots:
         QTest::newRow("many pages in one node") << PdfBuilder().catalog("").pages(700).bytes();
         QTest::newRow("of everything") << manifold();
         QTest::newRow("object streams") << withObjectStreams(manifold());
+        std::string twice = manifold();
+        QTest::newRow("page tree's number twice") << twice.replace(twice.find("\n22 0 obj"), 3, "\n02");
         QTest::newRow("direct pages")
             << PdfBuilder()
                    .catalog("")
