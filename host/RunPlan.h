@@ -3,7 +3,6 @@
 #include <sys/stat.h>
 
 #include <map>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
