@@ -166,6 +166,7 @@ bool Document::open(const std::string& password)
         if (code == ErrorCode::WrongPassword)
             return false;
         requireAllRead();
+        requireUnchanged();
         throw EngineError(code == ErrorCode::Damaged && !looksLikePdf(*m_source) ? ErrorCode::NotAPdf : code,
                           error.what());
     }
@@ -312,6 +313,12 @@ void Document::requireAllRead()
         throw EngineError(ErrorCode::OutOfMemory);
     if (m_source->readFailed())
         throw EngineError(ErrorCode::ReadFailed);
+}
+
+void Document::requireUnchanged() const
+{
+    if (!m_source->unchangedSinceOpened())
+        throw EngineError(ErrorCode::SourceChanged);
 }
 
 } // namespace engine

@@ -113,6 +113,8 @@ public:
     /// Throws EngineError when memory was short for something read so far, or the disk failed: libqpdf goes
     /// on with null in its place.
     void requireAllRead();
+    /// Throws EngineError with SourceChanged when the file is no longer as it was on opening.
+    void requireUnchanged() const;
 
     /// What the next revision builds upon. \throws EngineError with CannotAppend.
     CrossReference crossReference();

@@ -44,6 +44,7 @@ int open(Session& session, std::shared_ptr<ByteSource> source, std::string fileN
         std::make_unique<OpenDocument>(std::move(source), std::move(fileName), fileNameFromWide(password));
     if (!hasPages(*document)) {
         document->document.requireAllRead();
+        document->document.requireUnchanged();
         throw EngineError(ErrorCode::NoPages);
     }
     session.add(std::move(document));

@@ -75,8 +75,7 @@ void completePageCount(Document& document)
 
 void writeInto(Document& document, Pipeline& output)
 {
-    if (!document.source()->unchangedSinceOpened())
-        throw EngineError(ErrorCode::SourceChanged);
+    document.requireUnchanged();
     document.readWhole();
     completeTrailer(document.pdf());
     completePageCount(document);
@@ -87,8 +86,7 @@ void writeInto(Document& document, Pipeline& output)
     writer.setCompressStreams(hasObjectStreams(document.pdf()));
     writer.write();
     document.requireAllRead();
-    if (!document.source()->unchangedSinceOpened())
-        throw EngineError(ErrorCode::SourceChanged);
+    document.requireUnchanged();
 }
 
 } // namespace
@@ -106,8 +104,7 @@ void appendUpdate(Document& document, const std::string& path)
     OutputFile file(path);
     file.copy(*source);
     file.write(update.bytes());
-    if (!source->unchangedSinceOpened())
-        throw EngineError(ErrorCode::SourceChanged);
+    document.requireUnchanged();
     file.commit();
 }
 

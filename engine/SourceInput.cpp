@@ -102,6 +102,9 @@ qpdf_offset_t SourceInput::findAndSkipNextEOL()
         if (found != end)
             break;
     }
+    if (!windowHolds(
+            m_position)) // the end, even if the file became shorter: libqpdf looks for lines up to it
+        m_position = m_end;
     const qpdf_offset_t lineEnd = m_position;
     while (peek(character) && isLineEnd(character))
         ++m_position;

@@ -57,7 +57,9 @@ private slots:
         SourceInput input(source, "cut short");
         std::string into(200, ' ');
         QCOMPARE(input.read(into.data(), 200), std::size_t(50));
-        QCOMPARE(input.findAndSkipNextEOL(), qpdf_offset_t(50));
+        // libqpdf would look for lines for ever up to the end that it was told of before.
+        QCOMPARE(input.findAndSkipNextEOL(), qpdf_offset_t(10000));
+        QCOMPARE(input.tell(), qpdf_offset_t(10000));
     }
 
     void findsTheLastTail_data()
