@@ -228,10 +228,10 @@ std::optional<DirectReader::Section> DirectReader::readTable(std::int64_t offset
             return std::nullopt;
     }
     std::int64_t unused = 0;
-    auto dictionary = valueAt(at, -1, 0, &unused);
+    const auto dictionary = valueAt(at, -1, 0, &unused);
     if (!dictionary)
         return std::nullopt;
-    section.dictionary = std::move(*dictionary);
+    section.dictionary = *dictionary;
     return section;
 }
 
@@ -471,7 +471,10 @@ std::optional<std::string_view> DirectReader::streamAt(std::int64_t offset, int 
         return std::nullopt;
     SyntaxScanner behind(data, size);
     behind.skipSpace();
-    return behind.keyword("endstream") ? std::optional(data.substr(0, size)) : std::nullopt;
+    if (!behind.keyword("endstream"))
+        return std::nullopt;
+    behind.skipSpace();
+    return behind.keyword("endobj") ? std::optional(data.substr(0, size)) : std::nullopt;
 }
 
 /// Of an object stream no more is decoded than what the object needs, and some room.
@@ -559,8 +562,9 @@ const DirectReader::Container* DirectReader::containerOf(int number, std::size_t
 bool DirectReader::readHeader(std::string_view data, std::int64_t count, Container& container)
 {
     SyntaxScanner scanner(data.substr(0, container.bodies));
-    container.objects.reserve(
-        static_cast<std::size_t>(count) <= container.bodies ? static_cast<std::size_t>(count) : 0);
+    // A count that lies must not cost memory: no entry is shorter.
+    const std::size_t most = container.bodies / std::string_view("1 0 ").size();
+    container.objects.reserve(std::min(static_cast<std::size_t>(count), most));
     bool ascending = true; // as they mostly are
     int last = -1;
     for (std::int64_t object = 0; object < count; ++object) {

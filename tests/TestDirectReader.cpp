@@ -247,6 +247,9 @@ private slots:
             changed[found + skipped] = byte;
             return changed;
         };
+        std::string unended = packed;
+        unended[unended.find("\nendobj", unended.find("/ObjStm"))] = '(';
+        QTest::newRow("stream's object without an end") << unended;
         QTest::newRow("object twice in a stream") << withByte("/ObjStm", 4, '2'); // "2 0 3 ..." before
         QTest::newRow("entry of an unknown kind") << withByte("/XRef", 0, 3);
         std::string renamed = packed;
