@@ -227,8 +227,7 @@ std::optional<DirectReader::Section> DirectReader::readTable(std::int64_t offset
             !hasGoodEntries(section.runs.back()))
             return std::nullopt;
     }
-    std::int64_t unused = 0;
-    const auto dictionary = valueAt(at, -1, 0, &unused);
+    const auto dictionary = valueAt(at, -1, 0, nullptr);
     if (!dictionary)
         return std::nullopt;
     section.dictionary = *dictionary;

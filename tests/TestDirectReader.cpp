@@ -229,6 +229,7 @@ private slots:
         QTest::newRow("startxref beside the mark") << with("startxref\n", "startxref\n1");
         QTest::newRow("short entry") << with(" 65535 f \n", " 65535 f\n");
         QTest::newRow("comment in the catalog") << with("/Type /Catalog", "/Type %x\n/Catalog");
+        QTest::newRow("stream behind the trailer") << with("\nstartxref\n", "\nstream\nstartxref\n");
         QTest::newRow("size too small") << with("/Size 6", "/Size 5");
         QTest::newRow("catalog elsewhere") << with("/Root 1 0 R", "/Root 3 0 R");
         QTest::newRow("encrypted") << PdfBuilder().catalog("").pages(1).trailer("/Encrypt << >>").bytes();
