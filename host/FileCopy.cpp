@@ -17,8 +17,8 @@ namespace host {
 namespace {
 
 const std::size_t chunkSize = 1 << 20;
-const off_t worthCloning =
-    1 << 20; // asking a file system that cannot do it costs as much as copying some pages
+// Asking a file system that cannot do it costs as much as copying some pages.
+const off_t worthCloning = 1 << 20;
 
 bool copyByHand(int source, int target, off_t offset, off_t end)
 {
