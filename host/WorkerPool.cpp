@@ -378,7 +378,7 @@ void WorkerPool::receive(Process& process, const Done& done)
         pieceEnded(process, done, {WorkOutcome::Lost, reason});
     }
     const Clock::time_point now = Clock::now();
-    if (process.pieces.size() < before)
+    if (process.id != 0 && process.pieces.size() < before)
         process.perPiece = (now - process.news) / static_cast<int>(before - process.pieces.size());
     process.news = now;
 }
