@@ -129,22 +129,10 @@ std::string DocumentProcessor::refusal()
     return {};
 }
 
-/// Most documents go where the one before went.
-std::string DocumentProcessor::prepareFolder(const DocumentJob& job)
-{
-    std::string folder = SafeOutput::folderOf(job.target);
-    if (folder == m_preparedFolder)
-        return {};
-    std::string problem = SafeOutput::makeFolder(folder);
-    if (problem.empty())
-        m_preparedFolder = std::move(folder);
-    return problem;
-}
-
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
 {
     SafeOutput output(job.target, job.temporary);
-    if (std::string problem = prepareFolder(job); !problem.empty())
+    if (std::string problem = SafeOutput::makeFolder(SafeOutput::folderOf(job.target)); !problem.empty())
         return DocumentResult::failed(problem);
     const DocumentResult result = write(job);
     return result.status == Status::Failed ? result : commit(output, job, result);
@@ -169,7 +157,7 @@ DocumentResult DocumentProcessor::write(const DocumentJob& job)
 DocumentResult DocumentProcessor::copy(const DocumentJob& job)
 {
     SafeOutput output(job.target, job.temporary);
-    std::string problem = prepareFolder(job);
+    std::string problem = SafeOutput::makeFolder(SafeOutput::folderOf(job.target));
     if (problem.empty())
         problem = copyFile(job.source, job.temporary);
     return problem.empty() ? commit(output, job, {Status::Unchanged, Saved::Copied, {}, 0})

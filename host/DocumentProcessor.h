@@ -63,7 +63,6 @@ private:
     DocumentResult applyAndSave(const DocumentJob& job);
     bool applyEntries();
     std::string refusal();
-    std::string prepareFolder(const DocumentJob& job);
     DocumentResult save(const DocumentJob& job);
     DocumentResult write(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);
@@ -75,7 +74,6 @@ private:
     TelvarPDFLibraryCPDylibCPP1311 m_library;
     CErrorHandler m_errors;
     struct stat m_original = {}; ///< The document's file before it was read.
-    std::string m_preparedFolder;
     bool m_wornOut = false;
 };
 

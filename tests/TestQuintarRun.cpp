@@ -388,6 +388,21 @@ private slots:
         QVERIFY(WorkFolder::contentOf("2-good.pdf") != PdfBuilder::simple());
     }
 
+    void makesAnOutputFolderAgain()
+    {
+        for (const char* name : {"in/1-good.pdf", "in/2-slow.pdf", "in/3-good.pdf"})
+            put(name);
+        QProcess process;
+        process.start(programWithTroubledLibrary(),
+                      QStringList{"run", "--jobs", "1", "-o", "out", "in"} + panelAndPage);
+        QVERIFY(waitFor([] { return fs::exists("out/1-good.pdf"); }));
+        fs::remove_all("out");
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 0);
+        QVERIFY(!fs::exists("out/1-good.pdf") && fs::exists("out/2-slow.pdf") &&
+                fs::exists("out/3-good.pdf"));
+    }
+
     void refusesWhatChangedMeanwhile()
     {
         for (const QStringList& target : {QStringList{"--in-place"}, QStringList{"-o", "out"}}) {
