@@ -85,8 +85,6 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     m_library.SelectDocument(document);
     DocumentResult result = applyAndSave(job);
     m_library.RemoveDocument(document);
-    if (result.status == Status::Failed)
-        m_preparedFolder.clear(); // it may have gone
     if (result.status != Status::Failed && m_options.tellStates && !m_options.dryRun) {
         result.outputState = stateOf(job.target);
         result.fileState = m_options.inPlace ? result.outputState : stateOf(m_original);
