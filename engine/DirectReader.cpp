@@ -297,8 +297,8 @@ bool DirectReader::hasGoodEntries(const Section& section) const
 {
     const auto [kind, second, third] = section.widths;
     if (kind == 1 && second < 8 && third < 4) { // no value of the other fields is too large
-        const auto width = static_cast<std::size_t>(kind + second + third);
-        for (std::size_t at = 0; at < section.entries.size(); at += width)
+        const int width = kind + second + third;
+        for (std::size_t at = 0; at < section.entries.size(); at += static_cast<std::size_t>(width))
             if (static_cast<unsigned char>(section.entries[at]) > 2)
                 return false;
         return true;

@@ -49,7 +49,7 @@ private slots:
                              : throw std::runtime_error("none can be made");
             };
             std::vector<std::string> ends(200);
-            const auto done = [&](std::size_t piece, const WorkOutcome& outcome) {
+            const auto done = [&, each = each](std::size_t piece, const WorkOutcome& outcome) {
                 ends[piece] += outcome.text;
                 usleep(each == 1 && piece == 100 ? 1'300'000 : 0);
             };
