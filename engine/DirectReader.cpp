@@ -96,8 +96,8 @@ std::string_view DirectReader::bytes(std::int64_t offset, std::size_t count)
     count = std::min(count, static_cast<std::size_t>(total - offset));
     for (const Window& window : m_windows) {
         const std::int64_t skipped = offset - window.offset;
-        if (skipped >= 0 && static_cast<std::size_t>(skipped) + count <= window.bytes.size())
-            return std::string_view(window.bytes).substr(static_cast<std::size_t>(skipped), count);
+        if (skipped >= 0 && static_cast<std::size_t>(skipped) + count <= window.size)
+            return window.text().substr(static_cast<std::size_t>(skipped), count);
     }
     Window& window = m_windows[m_oldestWindow];
     m_oldestWindow = (m_oldestWindow + 1) % m_windows.size();
@@ -112,10 +112,16 @@ std::string_view DirectReader::bytes(std::int64_t offset, std::size_t count)
         std::min(offset - static_cast<std::int64_t>(before),
                  std::max<std::int64_t>(0, total - static_cast<std::int64_t>(readAtOnce)));
     const auto skipped = static_cast<std::size_t>(offset - start);
-    window = {start,
-              m_source->text(static_cast<std::uint64_t>(start), std::max(skipped + count, m_readAhead))};
-    m_lastRead = start + static_cast<std::int64_t>(window.bytes.size());
-    return std::string_view(window.bytes).substr(std::min(skipped, window.bytes.size()), count);
+    const std::size_t wanted = std::max(skipped + count, m_readAhead);
+    window.size = 0; // reading may fail
+    if (window.capacity < wanted) {
+        window.bytes = std::make_unique_for_overwrite<char[]>(wanted);
+        window.capacity = wanted;
+    }
+    window.size = m_source->read(static_cast<std::uint64_t>(start), window.bytes.get(), wanted);
+    window.offset = start;
+    m_lastRead = start + static_cast<std::int64_t>(window.size);
+    return window.text().substr(std::min(skipped, window.size), count);
 }
 
 /// The number behind the last "startxref", when nothing but the end-of-file marker follows it.

@@ -78,7 +78,11 @@ private:
     struct Window
     {
         std::int64_t offset = 0;
-        std::string bytes;
+        std::size_t size = 0;
+        std::size_t capacity = 0;
+        std::unique_ptr<char[]> bytes; // filling a string with zeros first would cost more than reading
+
+        std::string_view text() const { return {bytes.get(), size}; }
     };
 
     /// An object stream, decoded as far as it was needed.
