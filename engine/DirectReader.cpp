@@ -18,8 +18,10 @@ const std::size_t mostReadAhead = 262144;
 const std::int64_t pageSize = 4096; // of memory, in which files are kept
 const std::size_t firstWindow = 4096;
 const std::size_t largestWindow = 4 << 20;
-const std::size_t firstDecoded = 2048; // of an object stream's objects
-const std::size_t behindObject = 64;   // decoded as well: an object's end shows in what follows
+// Of an object stream's objects, before it is known how much is needed.
+const std::size_t leastDecoded = 512;
+const std::size_t mostDecodedFirst = 4096;
+const std::size_t behindObject = 64; // decoded as well: an object's end shows in what follows
 const std::size_t mostContainerBytes = 32 << 20;
 const std::size_t mostSections = 256;
 const std::size_t mostRuns = 100'000;
@@ -485,7 +487,7 @@ std::optional<std::string_view> DirectReader::streamAt(std::int64_t offset, int 
 /// Of an object stream no more is decoded than what the object needs, and some room.
 std::optional<std::string_view> DirectReader::compressed(int container, int index, int number)
 {
-    for (std::size_t size = firstDecoded;;) {
+    for (std::size_t size = m_containers.contains(container) ? 0 : m_expected;;) {
         const Container* stream = containerOf(container, size);
         if (stream == nullptr)
             return std::nullopt;
@@ -500,8 +502,11 @@ std::optional<std::string_view> DirectReader::compressed(int container, int inde
             const auto outcome = scanner.skipValue();
             if (outcome == SyntaxScanner::Outcome::Odd)
                 return std::nullopt;
-            if (outcome == SyntaxScanner::Outcome::Complete)
+            if (outcome == SyntaxScanner::Outcome::Complete) {
+                const std::size_t needed = scanner.position() - stream->bodies;
+                m_expected = std::clamp(needed + needed / 4, leastDecoded, mostDecodedFirst);
                 return std::string_view(stream->data).substr(start, scanner.position() - start);
+            }
         }
         if (stream->complete)
             return std::nullopt;

@@ -135,7 +135,8 @@ private:
     int m_size = 0;
     std::map<int, Container> m_containers;
     std::size_t m_containerBytes = 0;
-    std::uint64_t m_effort = 0; // in bytes decoded and handed out
+    std::size_t m_expected = 2048; // how much of an object stream will be needed: as much as of the last one
+    std::uint64_t m_effort = 0;    // in bytes decoded and handed out
 };
 
 } // namespace engine
