@@ -1,5 +1,6 @@
 #include "engine/TableScanner.h"
 
+#include "engine/CharacterClass.h"
 #include "engine/EngineError.h"
 
 #include <algorithm>
@@ -17,12 +18,6 @@ constexpr std::size_t usualEntrySize = 20;
 [[noreturn]] void refuse()
 {
     throw EngineError(ErrorCode::CannotAppend, "the cross-reference table is damaged");
-}
-
-bool isSpace(int character)
-{
-    return character == ' ' || character == '\n' || character == '\r' || character == '\t' ||
-           character == '\f' || character == '\0';
 }
 
 bool areDigits(const char* text, std::size_t count)

@@ -1,10 +1,10 @@
 #include "WorkerPool.h"
 
 #include "StopSignal.h"
+#include "WorkerTurn.h"
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -13,12 +13,10 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
 #include <cstring>
-#include <new>
 #include <stdexcept>
 #include <thread>
 
@@ -99,41 +97,11 @@ std::string describeEnd(int status)
 
 } // namespace
 
-/// Tells this process and a worker, in memory that they share, which piece the worker begins next. The pieces
-/// that it was given count from 0.
-class WorkerPool::Turn
-{
-public:
-    Turn()
-        : m_next(static_cast<Next*>(
-              mmap(nullptr, sizeof(Next), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0)))
-    {
-        if (m_next == MAP_FAILED)
-            throw std::bad_alloc();
-    }
-    ~Turn() { munmap(m_next, sizeof(Next)); }
-    Turn(const Turn&) = delete;
-    Turn& operator=(const Turn&) = delete;
-
-    void reset() { *m_next = 0; }
-    /// \returns false when the piece has been taken back.
-    bool begin(std::uint64_t piece) { return m_next->compare_exchange_strong(piece, piece + 1); }
-    bool hasBegun(std::uint64_t piece) const { return *m_next > piece; }
-    /// Leaves only what has been begun. \returns how many pieces that are.
-    std::uint64_t takeBack(std::uint64_t given) { return m_next->exchange(given); }
-
-private:
-    using Next = std::atomic<std::uint64_t>;
-    static_assert(Next::is_always_lock_free);
-
-    Next* m_next;
-};
-
 struct WorkerPool::Process
 {
     pid_t id = 0;
     FileDescriptor channel;
-    Turn turn;
+    WorkerTurn turn;
     std::uint64_t given = 0;        // pieces, since it was started
     std::deque<std::size_t> pieces; // the first one is in work
     Clock::time_point deadline;
@@ -241,7 +209,8 @@ void WorkerPool::share()
 /// What the worker has not begun.
 void WorkerPool::takeBack(Process& process)
 {
-    const std::uint64_t left = process.given - process.turn.takeBack(process.given);
+    const std::uint64_t answered = process.given - process.pieces.size();
+    const std::uint64_t left = process.given - process.turn.takeBack(answered, process.given);
     const auto first = process.pieces.end() - static_cast<std::ptrdiff_t>(left);
     m_returned.insert(m_returned.end(), first, process.pieces.end());
     process.pieces.erase(first, process.pieces.end());
@@ -309,7 +278,7 @@ bool WorkerPool::start(Process& process)
 }
 
 /// The life of a worker process.
-void WorkerPool::serve(int channel, Turn& turn, pid_t parent)
+void WorkerPool::serve(int channel, WorkerTurn& turn, pid_t parent)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (getppid() != parent)
@@ -322,7 +291,7 @@ void WorkerPool::serve(int channel, Turn& turn, pid_t parent)
         for (std::uint64_t piece = 0; !last && receiveRecord(channel, record, 0) > 0; ++piece) {
             if (!turn.begin(piece))
                 continue;
-            // Not before the first order: one that cannot be sent hides the reason why there is no worker.
+            // Not earlier: had this process ended before its first order was sent, nobody would learn why.
             if (!worker)
                 worker = m_makeWorker();
             const Worker::Answer answer = worker->answer(record);

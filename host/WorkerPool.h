@@ -15,6 +15,7 @@
 namespace host {
 
 class StopSignal;
+class WorkerTurn;
 
 /// What a worker process does.
 class Worker
@@ -73,7 +74,6 @@ public:
 
 private:
     using Clock = std::chrono::steady_clock;
-    class Turn;
     struct Process;
 
     void giveWork(const WorkOf& workOf, const Done& done);
@@ -87,7 +87,7 @@ private:
     Process* idleProcess();
     bool give(Process& process, const std::string& record);
     bool start(Process& process);
-    [[noreturn]] void serve(int channel, Turn& turn, pid_t parent);
+    [[noreturn]] void serve(int channel, WorkerTurn& turn, pid_t parent);
     void waitForNews(const Done& done, StopSignal& stop);
     void receive(Process& process, const Done& done);
     bool takeAnswers(Process& process, const Done& done);
