@@ -61,7 +61,7 @@ std::optional<TableScanner::Subsection> TableScanner::nextSubsection()
 /// Steps over as many entries of the usual 20 bytes as there are.
 long long TableScanner::skipUsualEntries(long long count)
 {
-    while (isSpace(peek()))
+    while (isSpace(static_cast<char>(peek()))) // the end is none
         ++m_next;
     long long skipped = 0;
     for (; skipped < count; ++skipped) {
@@ -89,7 +89,7 @@ int TableScanner::peek()
 
 std::string_view TableScanner::word()
 {
-    while (isSpace(peek()))
+    while (isSpace(static_cast<char>(peek()))) // the end is none
         ++m_next;
     m_word.clear();
     for (int character = peek(); character >= 0 && std::isalnum(character); character = peek()) {
