@@ -1,12 +1,12 @@
-#include "FileDescriptor.h"
-#include "FileNames.h"
-#include "HostApplication.h"
-#include "StandardOutput.h"
-#include "UsageError.h"
 #include "cli/ConfigureCommand.h"
 #include "cli/ListsCommand.h"
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
+#include "host/files/FileDescriptor.h"
+#include "host/program/HostApplication.h"
+#include "host/terminal/FileNames.h"
+#include "host/terminal/StandardOutput.h"
+#include "host/terminal/UsageError.h"
 
 #include <fcntl.h>
 #include <unistd.h>

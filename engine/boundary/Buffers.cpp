@@ -1,6 +1,6 @@
-#include "engine/Buffers.h"
+#include "Buffers.h"
 
-#include "engine/EngineError.h"
+#include "engine/files/EngineError.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,11 +1,11 @@
-#include "engine/ByteSource.h"
-#include "engine/DocumentWriter.h"
-#include "engine/EngineError.h"
-#include "engine/FileNameCodec.h"
-#include "engine/Operations.h"
-#include "engine/Session.h"
-#include "engine/Signatures.h"
-#include "engine/Text.h"
+#include "Operations.h"
+#include "Session.h"
+#include "Text.h"
+#include "engine/document/DocumentWriter.h"
+#include "engine/document/Signatures.h"
+#include "engine/files/ByteSource.h"
+#include "engine/files/EngineError.h"
+#include "pdflibrary/FileNameCodec.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
-#include "engine/EngineError.h"
-#include "engine/Operations.h"
-#include "engine/Text.h"
+#include "Operations.h"
+#include "Text.h"
+#include "engine/files/EngineError.h"
 
 #include <dlfcn.h>
 #include <fontconfig/fontconfig.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/Document.h"
-#include "engine/PageTree.h"
+#include "engine/document/Document.h"
+#include "engine/document/PageTree.h"
 
 namespace engine {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Session.h"
+#include "Session.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,6 @@
-#include "engine/EngineError.h"
-#include "engine/Operations.h"
-#include "engine/Session.h"
+#include "Operations.h"
+#include "Session.h"
+#include "engine/files/EngineError.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
-#include "engine/Session.h"
+#include "Session.h"
 
-#include "engine/EngineError.h"
+#include "engine/files/EngineError.h"
 
 #include <qpdf/QPDF.hh>
 

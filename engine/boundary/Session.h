@@ -1,9 +1,9 @@
 #pragma once
 
-#include "engine/Buffers.h"
-#include "engine/Destination.h"
-#include "engine/ErrorCodes.h"
-#include "engine/OpenDocument.h"
+#include "Buffers.h"
+#include "OpenDocument.h"
+#include "engine/document/Destination.h"
+#include "pdflibrary/ErrorCodes.h"
 
 #include <map>
 #include <memory>

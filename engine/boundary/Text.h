@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/FileNameCodec.h"
+#include "pdflibrary/FileNameCodec.h"
 
 #include <string>
 #include <string_view>

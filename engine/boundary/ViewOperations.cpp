@@ -1,8 +1,8 @@
-#include "engine/EngineError.h"
-#include "engine/FileNameCodec.h"
-#include "engine/Operations.h"
-#include "engine/Session.h"
-#include "engine/Text.h"
+#include "Operations.h"
+#include "Session.h"
+#include "Text.h"
+#include "engine/files/EngineError.h"
+#include "pdflibrary/FileNameCodec.h"
 
 #include <array>
 #include <cmath>

@@ -1,7 +1,7 @@
-#include "engine/EngineError.h"
-#include "engine/OperationSlots.h"
-#include "engine/Operations.h"
-#include "engine/Session.h"
+#include "OperationSlots.h"
+#include "Operations.h"
+#include "Session.h"
+#include "engine/files/EngineError.h"
 
 #include <algorithm>
 #include <climits>

@@ -1,7 +1,7 @@
-#include "engine/DirectReader.h"
+#include "DirectReader.h"
 
-#include "engine/StreamDecoder.h"
-#include "engine/TableScanner.h"
+#include "StreamDecoder.h"
+#include "engine/syntax/TableScanner.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/ByteSource.h"
-#include "engine/SyntaxScanner.h"
+#include "engine/files/ByteSource.h"
+#include "engine/syntax/SyntaxScanner.h"
 
 #include <array>
 #include <cstdint>

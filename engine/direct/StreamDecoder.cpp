@@ -1,4 +1,4 @@
-#include "engine/StreamDecoder.h"
+#include "StreamDecoder.h"
 
 #include <zlib.h>
 

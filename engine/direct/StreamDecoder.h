@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/SyntaxScanner.h"
+#include "engine/syntax/SyntaxScanner.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,8 +1,8 @@
-#include "engine/Destination.h"
+#include "Destination.h"
 
-#include "engine/Document.h"
-#include "engine/NamedDestinations.h"
-#include "engine/PageTree.h"
+#include "Document.h"
+#include "NamedDestinations.h"
+#include "PageTree.h"
 
 #include <qpdf/QUtil.hh>
 

@@ -1,12 +1,12 @@
-#include "engine/Document.h"
+#include "Document.h"
 
-#include "engine/ByteSource.h"
-#include "engine/DirectReader.h"
-#include "engine/EngineError.h"
-#include "engine/ObjectParser.h"
-#include "engine/ObjectSerializer.h"
-#include "engine/SourceInput.h"
-#include "engine/SyntaxScanner.h"
+#include "engine/direct/DirectReader.h"
+#include "engine/files/ByteSource.h"
+#include "engine/files/EngineError.h"
+#include "engine/syntax/ObjectParser.h"
+#include "engine/syntax/ObjectSerializer.h"
+#include "engine/syntax/SyntaxScanner.h"
+#include "engine/update/SourceInput.h"
 
 #include <qpdf/QUtil.hh>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/CrossReference.h"
-#include "engine/ErrorCodes.h"
+#include "engine/update/CrossReference.h"
+#include "pdflibrary/ErrorCodes.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjGen.hh>

@@ -1,11 +1,11 @@
-#include "engine/DocumentWriter.h"
+#include "DocumentWriter.h"
 
-#include "engine/ByteSource.h"
-#include "engine/Document.h"
-#include "engine/EngineError.h"
-#include "engine/IncrementalUpdate.h"
-#include "engine/OutputFile.h"
-#include "engine/PageTree.h"
+#include "Document.h"
+#include "PageTree.h"
+#include "engine/files/ByteSource.h"
+#include "engine/files/EngineError.h"
+#include "engine/files/OutputFile.h"
+#include "engine/update/IncrementalUpdate.h"
 
 #include <qpdf/Pipeline.hh>
 #include <qpdf/Pl_String.hh>

@@ -1,6 +1,6 @@
-#include "engine/NamedDestinations.h"
+#include "NamedDestinations.h"
 
-#include "engine/Document.h"
+#include "Document.h"
 
 #include <set>
 #include <string>

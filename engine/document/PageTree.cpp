@@ -1,8 +1,8 @@
-#include "engine/PageTree.h"
+#include "PageTree.h"
 
-#include "engine/Document.h"
-#include "engine/EngineError.h"
-#include "engine/SyntaxScanner.h"
+#include "Document.h"
+#include "engine/files/EngineError.h"
+#include "engine/syntax/SyntaxScanner.h"
 
 #include <algorithm>
 #include <cctype>

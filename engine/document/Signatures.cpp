@@ -1,6 +1,6 @@
-#include "engine/Signatures.h"
+#include "Signatures.h"
 
-#include "engine/Document.h"
+#include "Document.h"
 
 #include <set>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "engine/ByteSource.h"
+#include "ByteSource.h"
 
-#include "engine/EngineError.h"
+#include "EngineError.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

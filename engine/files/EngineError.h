@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/ErrorCodes.h"
+#include "pdflibrary/ErrorCodes.h"
 
 #include <stdexcept>
 #include <string>

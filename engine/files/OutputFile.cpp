@@ -1,7 +1,7 @@
-#include "engine/OutputFile.h"
+#include "OutputFile.h"
 
-#include "engine/ByteSource.h"
-#include "engine/EngineError.h"
+#include "ByteSource.h"
+#include "EngineError.h"
 
 #include <fcntl.h>
 #include <linux/fs.h>

@@ -1,6 +1,6 @@
-#include "engine/ObjectParser.h"
+#include "ObjectParser.h"
 
-#include "engine/SyntaxScanner.h"
+#include "SyntaxScanner.h"
 
 #include <map>
 #include <optional>

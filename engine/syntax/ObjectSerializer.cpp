@@ -1,7 +1,7 @@
-#include "engine/ObjectSerializer.h"
+#include "ObjectSerializer.h"
 
-#include "engine/EngineError.h"
-#include "engine/StringCipher.h"
+#include "StringCipher.h"
+#include "engine/files/EngineError.h"
 
 namespace engine {
 

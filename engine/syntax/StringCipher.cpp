@@ -1,6 +1,6 @@
-#include "engine/StringCipher.h"
+#include "StringCipher.h"
 
-#include "engine/EngineError.h"
+#include "engine/files/EngineError.h"
 
 #include <qpdf/QPDFCryptoProvider.hh>
 

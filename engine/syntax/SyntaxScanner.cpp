@@ -1,4 +1,4 @@
-#include "engine/SyntaxScanner.h"
+#include "SyntaxScanner.h"
 
 #include <array>
 #include <cstring>

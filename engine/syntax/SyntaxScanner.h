@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/CharacterClass.h"
+#include "CharacterClass.h"
 
 #include <cstddef>
 #include <cstdint>

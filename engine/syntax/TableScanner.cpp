@@ -1,7 +1,7 @@
-#include "engine/TableScanner.h"
+#include "TableScanner.h"
 
-#include "engine/CharacterClass.h"
-#include "engine/EngineError.h"
+#include "CharacterClass.h"
+#include "engine/files/EngineError.h"
 
 #include <algorithm>
 #include <cctype>

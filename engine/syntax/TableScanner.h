@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/ByteSource.h"
+#include "engine/files/ByteSource.h"
 
 #include <cstdint>
 #include <optional>

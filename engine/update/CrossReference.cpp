@@ -1,11 +1,11 @@
-#include "engine/CrossReference.h"
+#include "CrossReference.h"
 
-#include "engine/DirectReader.h"
-#include "engine/DocumentTail.h"
-#include "engine/EngineError.h"
-#include "engine/ObjectParser.h"
-#include "engine/SourceInput.h"
-#include "engine/TableScanner.h"
+#include "DocumentTail.h"
+#include "SourceInput.h"
+#include "engine/direct/DirectReader.h"
+#include "engine/files/EngineError.h"
+#include "engine/syntax/ObjectParser.h"
+#include "engine/syntax/TableScanner.h"
 
 #include <qpdf/QPDFExc.hh>
 

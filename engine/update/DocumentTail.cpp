@@ -1,6 +1,6 @@
-#include "engine/DocumentTail.h"
+#include "DocumentTail.h"
 
-#include "engine/ByteSource.h"
+#include "engine/files/ByteSource.h"
 
 #include <algorithm>
 #include <charconv>

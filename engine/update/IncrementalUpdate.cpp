@@ -1,6 +1,6 @@
-#include "engine/IncrementalUpdate.h"
+#include "IncrementalUpdate.h"
 
-#include "engine/EngineError.h"
+#include "engine/files/EngineError.h"
 
 #include <qpdf/QPDFCryptoProvider.hh>
 

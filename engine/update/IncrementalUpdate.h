@@ -1,8 +1,8 @@
 #pragma once
 
-#include "engine/CrossReference.h"
-#include "engine/ObjectSerializer.h"
-#include "engine/StringCipher.h"
+#include "CrossReference.h"
+#include "engine/syntax/ObjectSerializer.h"
+#include "engine/syntax/StringCipher.h"
 
 #include <qpdf/QPDF.hh>
 

@@ -1,7 +1,7 @@
-#include "engine/SourceInput.h"
+#include "SourceInput.h"
 
-#include "engine/ByteSource.h"
-#include "engine/DocumentTail.h"
+#include "DocumentTail.h"
+#include "engine/files/ByteSource.h"
 
 #include <algorithm>
 #include <cstdio>

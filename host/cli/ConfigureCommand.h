@@ -2,8 +2,8 @@
 
 #include "Command.h"
 
-#include "host/SettingsFile.h"
-#include "host/SettingsOutput.h"
+#include "host/settings/SettingsFile.h"
+#include "host/settings/SettingsOutput.h"
 
 #include <optional>
 #include <string>

@@ -2,13 +2,13 @@
 
 #include "OptionParser.h"
 
-#include "host/FileDescriptor.h"
-#include "host/FileNames.h"
-#include "host/JsonLine.h"
-#include "host/SettingsFolder.h"
-#include "host/SettingsWords.h"
-#include "host/StandardOutput.h"
-#include "host/UsageError.h"
+#include "host/files/FileDescriptor.h"
+#include "host/settings/SettingsFolder.h"
+#include "host/settings/SettingsWords.h"
+#include "host/terminal/FileNames.h"
+#include "host/terminal/JsonLine.h"
+#include "host/terminal/StandardOutput.h"
+#include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
 

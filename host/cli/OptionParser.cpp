@@ -1,6 +1,6 @@
 #include "OptionParser.h"
 
-#include "host/UsageError.h"
+#include "host/terminal/UsageError.h"
 
 #include <getopt.h>
 

@@ -2,9 +2,9 @@
 
 #include "Command.h"
 
-#include "host/BatchRun.h"
-#include "host/DocumentProcessor.h"
-#include "host/WorkerPool.h"
+#include "host/run/BatchRun.h"
+#include "host/run/DocumentProcessor.h"
+#include "host/workers/WorkerPool.h"
 
 #include <optional>
 #include <string>

@@ -2,18 +2,18 @@
 
 #include "OptionParser.h"
 
-#include "host/FileDescriptor.h"
-#include "host/FileNames.h"
-#include "host/InstallLayout.h"
-#include "host/JsonLine.h"
-#include "host/OpeningView.h"
-#include "host/StandardOutput.h"
-#include "host/StopSignal.h"
-#include "host/UsageError.h"
-#include "host/WorkerPool.h"
+#include "host/files/FileDescriptor.h"
+#include "host/program/InstallLayout.h"
+#include "host/terminal/FileNames.h"
+#include "host/terminal/JsonLine.h"
+#include "host/terminal/StandardOutput.h"
+#include "host/terminal/UsageError.h"
+#include "host/view/OpeningView.h"
+#include "host/workers/StopSignal.h"
+#include "host/workers/WorkerPool.h"
 
-#include "engine/ErrorCodes.h"
-#include "engine/FileNameCodec.h"
+#include "pdflibrary/ErrorCodes.h"
+#include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 
 #include <unistd.h>

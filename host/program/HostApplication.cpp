@@ -1,9 +1,9 @@
 #include "HostApplication.h"
 
-#include "FileDescriptor.h"
-#include "FileNames.h"
+#include "host/files/FileDescriptor.h"
+#include "host/terminal/FileNames.h"
 
-#include "cli/Command.h"
+#include "host/cli/Command.h"
 #include "shared/CUtils.h"
 
 #include <QApplication>

@@ -1,15 +1,15 @@
 #include "BatchRun.h"
 
-#include "FileDescriptor.h"
-#include "FileNames.h"
-#include "InstallLayout.h"
-#include "PluginHost.h"
 #include "Progress.h"
 #include "Report.h"
 #include "RunPlan.h"
-#include "SafeOutput.h"
-#include "StopSignal.h"
-#include "cli/Command.h"
+#include "host/cli/Command.h"
+#include "host/files/FileDescriptor.h"
+#include "host/files/SafeOutput.h"
+#include "host/program/InstallLayout.h"
+#include "host/program/PluginHost.h"
+#include "host/terminal/FileNames.h"
+#include "host/workers/StopSignal.h"
 
 #include <unistd.h>
 

@@ -2,7 +2,7 @@
 
 #include "DocumentProcessor.h"
 #include "RunSummary.h"
-#include "WorkerPool.h"
+#include "host/workers/WorkerPool.h"
 
 #include <cstddef>
 #include <map>

@@ -1,6 +1,6 @@
 #include "DocumentJob.h"
 
-#include "Record.h"
+#include "host/workers/Record.h"
 
 namespace host {
 

@@ -1,13 +1,13 @@
 #include "DocumentProcessor.h"
 
-#include "FileCopy.h"
-#include "FileDescriptor.h"
-#include "FileNames.h"
 #include "FileState.h"
-#include "SafeOutput.h"
+#include "host/files/FileCopy.h"
+#include "host/files/FileDescriptor.h"
+#include "host/files/SafeOutput.h"
+#include "host/terminal/FileNames.h"
 
-#include "engine/ErrorCodes.h"
-#include "engine/FileNameCodec.h"
+#include "pdflibrary/ErrorCodes.h"
+#include "pdflibrary/FileNameCodec.h"
 #include "shared/CActionInterface.h"
 
 #include <sys/stat.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DocumentJob.h"
-#include "SettingsFile.h"
+#include "host/settings/SettingsFile.h"
 
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "shared/CErrorHandler.h"

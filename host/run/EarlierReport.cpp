@@ -1,8 +1,8 @@
 #include "EarlierReport.h"
 
-#include "FileDescriptor.h"
 #include "FileState.h"
-#include "UsageError.h"
+#include "host/files/FileDescriptor.h"
+#include "host/terminal/UsageError.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

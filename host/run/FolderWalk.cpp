@@ -1,6 +1,6 @@
 #include "FolderWalk.h"
 
-#include "FileDescriptor.h"
+#include "host/files/FileDescriptor.h"
 
 #include <dirent.h>
 #include <strings.h>

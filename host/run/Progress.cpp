@@ -1,6 +1,6 @@
 #include "Progress.h"
 
-#include "FileDescriptor.h"
+#include "host/files/FileDescriptor.h"
 
 #include <sys/ioctl.h>
 

@@ -1,7 +1,7 @@
 #include "Report.h"
 
-#include "FileNames.h"
-#include "UsageError.h"
+#include "host/terminal/FileNames.h"
+#include "host/terminal/UsageError.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

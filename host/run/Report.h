@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DocumentJob.h"
-#include "FileDescriptor.h"
+#include "host/files/FileDescriptor.h"
 
 #include <map>
 #include <string>

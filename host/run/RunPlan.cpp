@@ -1,8 +1,8 @@
 #include "RunPlan.h"
 
-#include "FileDescriptor.h"
 #include "FolderWalk.h"
-#include "UsageError.h"
+#include "host/files/FileDescriptor.h"
+#include "host/terminal/UsageError.h"
 
 #include <sys/stat.h>
 

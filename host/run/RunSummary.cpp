@@ -1,6 +1,6 @@
 #include "RunSummary.h"
 
-#include "FileNames.h"
+#include "host/terminal/FileNames.h"
 
 namespace host {
 

@@ -1,6 +1,6 @@
 #include "SetOption.h"
 
-#include "UsageError.h"
+#include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
 

@@ -1,8 +1,8 @@
 #include "SettingsFile.h"
 
-#include "FileDescriptor.h"
 #include "IniText.h"
-#include "UsageError.h"
+#include "host/files/FileDescriptor.h"
+#include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
 #include "shared/lists/SettingsFiles.h"

@@ -1,8 +1,8 @@
 #include "SettingsFolder.h"
 
-#include "FileDescriptor.h"
-#include "SafeOutput.h"
-#include "UsageError.h"
+#include "host/files/FileDescriptor.h"
+#include "host/files/SafeOutput.h"
+#include "host/terminal/UsageError.h"
 
 #include "shared/CUtils.h"
 #include "shared/lists/SettingsFiles.h"

@@ -1,9 +1,9 @@
 #include "SettingsOutput.h"
 
-#include "FileCopy.h"
-#include "FileDescriptor.h"
-#include "SafeOutput.h"
-#include "UsageError.h"
+#include "host/files/FileCopy.h"
+#include "host/files/FileDescriptor.h"
+#include "host/files/SafeOutput.h"
+#include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
 #include "shared/CIniFile.h"

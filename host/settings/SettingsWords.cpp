@@ -1,6 +1,6 @@
 #include "SettingsWords.h"
 
-#include "ViewWords.h"
+#include "host/view/ViewWords.h"
 
 #include "EditInitialView/InitialViewSettings.h"
 

@@ -1,6 +1,6 @@
 #include "FileNames.h"
 
-#include "engine/FileNameCodec.h"
+#include "pdflibrary/FileNameCodec.h"
 
 #include <algorithm>
 #include <cstdio>

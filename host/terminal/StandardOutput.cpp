@@ -1,6 +1,6 @@
 #include "StandardOutput.h"
 
-#include "FileDescriptor.h"
+#include "host/files/FileDescriptor.h"
 
 #include <unistd.h>
 

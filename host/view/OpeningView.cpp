@@ -1,11 +1,11 @@
 #include "OpeningView.h"
 
-#include "FileNames.h"
 #include "ViewWords.h"
+#include "host/terminal/FileNames.h"
 
 #include "EditInitialView/InitialViewSettings.h"
-#include "engine/ErrorCodes.h"
-#include "engine/FileNameCodec.h"
+#include "pdflibrary/ErrorCodes.h"
+#include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "pdflibrary/ViewNumbers.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileDescriptor.h"
+#include "host/files/FileDescriptor.h"
 
 namespace host {
 

@@ -1,4 +1,4 @@
-#include "engine/FileNameCodec.h"
+#include "pdflibrary/FileNameCodec.h"
 #include "support/Rows.h"
 
 #include <QtTest>

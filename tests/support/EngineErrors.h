@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/EngineError.h"
+#include "engine/files/EngineError.h"
 
 /// The code of the error that a call ends with.
 template <class Call>

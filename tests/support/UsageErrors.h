@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/UsageError.h"
+#include "host/terminal/UsageError.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 #include "support/LoadedLibrary.h"
 #include "support/PdfBuilder.h"
 
-#include "engine/ErrorCodes.h"
+#include "pdflibrary/ErrorCodes.h"
 
 #include <QtTest>
 

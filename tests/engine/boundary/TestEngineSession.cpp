@@ -4,8 +4,8 @@
 #include "support/Rewritten.h"
 #include "support/Rows.h"
 
-#include "engine/ErrorCodes.h"
-#include "engine/FileNameCodec.h"
+#include "pdflibrary/ErrorCodes.h"
+#include "pdflibrary/FileNameCodec.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
-#include "engine/Operations.h"
-#include "engine/Session.h"
+#include "engine/boundary/Operations.h"
+#include "engine/boundary/Session.h"
 #include "support/EngineErrors.h"
 #include "support/PdfBuilder.h"
 #include "support/Rows.h"

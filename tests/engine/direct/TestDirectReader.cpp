@@ -1,7 +1,7 @@
-#include "engine/DirectReader.h"
-#include "engine/EngineError.h"
-#include "engine/Operations.h"
-#include "engine/Session.h"
+#include "engine/boundary/Operations.h"
+#include "engine/boundary/Session.h"
+#include "engine/direct/DirectReader.h"
+#include "engine/files/EngineError.h"
 #include "support/PdfBuilder.h"
 
 #include <qpdf/Pl_String.hh>

@@ -1,7 +1,7 @@
-#include "engine/ByteSource.h"
-#include "engine/Document.h"
-#include "engine/EngineError.h"
-#include "engine/PageTree.h"
+#include "engine/document/Document.h"
+#include "engine/document/PageTree.h"
+#include "engine/files/ByteSource.h"
+#include "engine/files/EngineError.h"
 #include "support/PdfBuilder.h"
 
 #include <QtTest>

@@ -1,4 +1,4 @@
-#include "engine/ObjectParser.h"
+#include "engine/syntax/ObjectParser.h"
 #include "support/Rows.h"
 
 using namespace engine;

@@ -1,8 +1,8 @@
-#include "host/FileCopy.h"
-#include "host/FileNames.h"
-#include "host/Progress.h"
-#include "host/Report.h"
-#include "host/SafeOutput.h"
+#include "host/files/FileCopy.h"
+#include "host/files/SafeOutput.h"
+#include "host/run/Progress.h"
+#include "host/run/Report.h"
+#include "host/terminal/FileNames.h"
 #include "support/Rows.h"
 #include "support/WorkFolder.h"
 

@@ -1,4 +1,4 @@
-#include "host/RunPlan.h"
+#include "host/run/RunPlan.h"
 #include "support/Rows.h"
 #include "support/UsageErrors.h"
 #include "support/WorkFolder.h"

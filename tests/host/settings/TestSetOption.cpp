@@ -1,4 +1,4 @@
-#include "host/SetOption.h"
+#include "host/settings/SetOption.h"
 
 #include "EditInitialView/InitialViewSettings.h"
 #include "support/Rows.h"

@@ -1,4 +1,4 @@
-#include "host/SettingsFile.h"
+#include "host/settings/SettingsFile.h"
 #include "support/Files.h"
 #include "support/Rows.h"
 #include "support/UsageErrors.h"

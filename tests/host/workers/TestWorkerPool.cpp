@@ -1,5 +1,5 @@
-#include "host/StopSignal.h"
-#include "host/WorkerPool.h"
+#include "host/workers/StopSignal.h"
+#include "host/workers/WorkerPool.h"
 #include "support/Rows.h"
 
 #include <unistd.h>
