@@ -1,27 +1,24 @@
 #include "SettingsOutput.h"
 
-#include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
-#include "shared/CIniFile.h"
-#include "shared/lists/SettingsFiles.h"
-
-#include <QTemporaryDir>
+#include "shared/ini/CIniFile.h"
+#include "shared/ini/WholeFile.h"
+#include "shared/lists/StoreReport.h"
+#include "shared/lists/StoredKeys.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
 #include <string_view>
 
 namespace host {
 
-using namespace settingsfiles;
+using namespace storedkeys;
 
 namespace {
 
@@ -36,21 +33,10 @@ bool endsWith(std::string_view text, std::string_view end)
 /// What a symbolic link leads to; other paths are themselves.
 std::string linkTarget(const std::string& path)
 {
-    struct stat status;
-    char target[PATH_MAX];
-    const bool isLink = lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
-    return isLink && realpath(path.c_str(), target) != nullptr ? target : path;
-}
-
-struct stat newFileAttributes()
-{
-    const mode_t mask = umask(0);
-    umask(mask);
-    struct stat attributes = {};
-    attributes.st_mode = 0666 & ~mask;
-    attributes.st_uid = geteuid();
-    attributes.st_gid = static_cast<gid_t>(-1); // as the folder gives it
-    return attributes;
+    const std::string target = wholefile::behindLinks(QByteArray::fromStdString(path)).toStdString();
+    if (target.empty())
+        throw UsageError(path + " cannot be written: " + systemError(ELOOP));
+    return target;
 }
 
 } // namespace
@@ -73,14 +59,20 @@ SettingsOutput::Kind SettingsOutput::kindOf(const std::string& path)
                      path);
 }
 
-/// Asked early: nobody is to make settings that then cannot be kept.
+/// Checked before the dialog opens, so that no choices are lost.
 void SettingsOutput::checkPlace() const
 {
     struct stat status;
     if (stat(m_path.c_str(), &status) == 0 && !S_ISREG(status.st_mode))
         throw UsageError(m_path + " cannot be written: it is not a regular file");
-    if (access(SafeOutput::folderOf(m_path).c_str(), W_OK | X_OK) != 0)
-        throw UsageError(m_path + " cannot be written: " + systemError(errno));
+    if (const std::string problem = folderProblem(); !problem.empty())
+        throw UsageError(m_path + " cannot be written: " + problem);
+}
+
+std::string SettingsOutput::folderProblem() const
+{
+    const bool isUsable = access(SafeOutput::folderOf(m_path).c_str(), W_OK | X_OK) == 0;
+    return isUsable ? std::string() : systemError(errno);
 }
 
 bool SettingsOutput::isSameFile(const std::string& path) const
@@ -91,33 +83,29 @@ bool SettingsOutput::isSameFile(const std::string& path) const
            own.st_dev == other.st_dev && own.st_ino == other.st_ino;
 }
 
-std::string SettingsOutput::write(const SettingsMap& settings, const Edit& edit, const QImage& icon) const
+SettingsOutput::Outcome SettingsOutput::write(const SettingsMap& settings, const Edit& edit,
+                                              const QImage& icon) const
 {
-    const QTemporaryDir folder;
-    if (!folder.isValid())
-        return "no temporary folder can be made: " + folder.errorString().toStdString();
-    const QString draft = folder.filePath("draft");
+    if (const std::string problem = folderProblem(); !problem.empty())
+        return {false, m_path + ": cannot be written: " + problem};
+    const QByteArray path = QByteArray::fromStdString(m_path);
     const bool edits = isSameFile(edit.file);
-    if (edits)
-        if (const std::string problem = copyFile(m_path, draft.toStdString()); !problem.empty())
-            return m_path + ": " + problem;
-    if (!compose(draft, settings, edits ? edit.entry : 0, icon))
-        return m_path + " cannot be written: no complete copy could be made in " +
-               folder.path().toStdString();
-    return putInPlace(draft.toStdString());
+    const QString replaced = edits ? ", whose other content stays" : storereport::inPlaceOf(path);
+    CIniFile file(path, edits ? CIniFile::Access::Extend : CIniFile::Access::Replace);
+    compose(file, settings, edits ? edit.entry : 0, icon);
+    if (!file.commit())
+        return {false, m_path + ": cannot be written: " + file.problem().toStdString()};
+    return {true, "stored: " + m_path + replaced.toStdString()};
 }
 
-bool SettingsOutput::compose(const QString& draft, const SettingsMap& settings, int entry,
-                             const QImage& icon) const
+void SettingsOutput::compose(CIniFile& file, const SettingsMap& settings, int entry, const QImage& icon) const
 {
-    CIniFile file(draft, CIniFile::Access::Extend);
     if (m_kind == Kind::ActionList)
         composeActionList(file, settings, entry);
     else if (m_kind == Kind::Favorite)
         composeFavorite(file, settings, icon);
     else
         file.setValue(toolsettings::toolSettings, settings);
-    return file.commit();
 }
 
 void SettingsOutput::composeActionList(CIniFile& file, const SettingsMap& settings, int entry) const
@@ -140,17 +128,6 @@ void SettingsOutput::composeFavorite(CIniFile& file, SettingsMap settings, const
     file.setValue(favorite::actionPrefs, settings);
     if (!file.contains(favorite::actionIcon))
         file.setValue(favorite::actionIcon, icon);
-}
-
-std::string SettingsOutput::putInPlace(const std::string& draft) const
-{
-    struct stat attributes;
-    if (stat(m_path.c_str(), &attributes) != 0)
-        attributes = newFileAttributes();
-    const std::string temporary = SafeOutput::temporaryNameFor(m_path);
-    SafeOutput output(m_path, temporary);
-    const std::string problem = copyFile(draft, temporary);
-    return problem.empty() ? output.commit(attributes, true) : m_path + ": " + problem;
 }
 
 QString SettingsOutput::baseName() const

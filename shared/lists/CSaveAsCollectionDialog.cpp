@@ -1,15 +1,16 @@
 #include "CSaveAsCollectionDialog.h"
 
 #include "CActionHistoryAPI.h"
-#include "CIniFile.h"
-#include "SettingsFiles.h"
+#include "ini/CIniFile.h"
+#include "StoreReport.h"
+#include "StoredKeys.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QIcon>
 #include <QPixmap>
 
-using namespace settingsfiles;
+using namespace storedkeys;
 
 namespace {
 
@@ -21,6 +22,7 @@ void writeToolSettings(const QString& path, const QMap<QString, QVariant>& prefs
     CIniFile file(path, CIniFile::Access::Extend);
     file.setValue(toolsettings::toolSettings, prefs);
     file.commit();
+    storereport::add(storereport::inWords("the tool settings " + path, QString(), file.problem()));
 }
 
 } // namespace
