@@ -82,8 +82,7 @@ StoredSettings describe(const std::string& path, const CIniFile& ini)
         const QString action = textOf(ini, actionlist::actionNameKey(number));
         const bool ours = action == initialview::actionName;
         list.entries.push_back(
-            {action, ours ? readMap(ini, path, actionlist::actionPrefsKey(number)) : SettingsMap(),
-             number});
+            {action, ours ? readMap(ini, path, actionlist::actionPrefsKey(number)) : SettingsMap(), number});
     }
     if (list.entries.empty())
         refuse(path, "not an action list: it has no \"ActionName0\"");

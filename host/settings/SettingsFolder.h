@@ -25,9 +25,9 @@ public:
     /// Makes the folder if it is missing. \returns empty, or why it cannot be had.
     std::string make() const;
 
-    /// The names of its files in byte order, those in folders below it ("a/b.xqq") included. Folders of folders
-    /// are followed 16 deep, and each one once, whatever links lead to it. Throws UsageError when the folder
-    /// itself cannot be read; one below that cannot is among the names, and describe() says why.
+    /// The names of its files in byte order, those in folders below it ("a/b.xqq") included. Folders of
+    /// folders are followed 16 deep, and each one once, whatever links lead to it. Throws UsageError when the
+    /// folder itself cannot be read; one below that cannot is among the names, and describe() says why.
     std::vector<std::string> files() const;
     std::string pathOf(const std::string& file) const { return m_path + "/" + file; }
     /// Throws UsageError when the file cannot be read.

@@ -45,8 +45,8 @@ void addEntry(const QString& path, const QMap<QString, QVariant>& prefs)
     file.setValue(actionlist::actionNameKey(number), textOf(prefs, request::actionName));
     file.setValue(actionlist::actionPrefsKey(number), prefs);
     file.commit();
-    storereport::add(
-        storereport::inWords("the action list " + path, QString(", as its entry %1").arg(number), file.problem()));
+    storereport::add(storereport::inWords("the action list " + path, QString(", as its entry %1").arg(number),
+                                          file.problem()));
 }
 
 /// The settings without what was said to the writer only.

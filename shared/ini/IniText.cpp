@@ -274,7 +274,7 @@ private:
     bool m_isUtf8;
     Value m_value;
     QString m_text = ""; // empty, not null, as QSettings has it
-    int m_kept = 0; // of the text, what is not chopped at its end
+    int m_kept = 0;      // of the text, what is not chopped at its end
     bool m_inQuotes = false;
     bool m_wasQuoted = false;
 };
@@ -311,7 +311,7 @@ QByteArray sectionLine(const QString& section)
     if (section.isEmpty())
         return "[General]\n";
     const QByteArray name = escapedKey(section);
-    return (name.compare("general", Qt::CaseInsensitive) == 0 ? QByteArray("[%General") : "[" + name) + "]\n";
+    return (name.compare("general", Qt::CaseInsensitive) == 0 ? "[%" : "[") + name + "]\n";
 }
 
 QByteArray escapedText(const QString& text)

@@ -109,8 +109,7 @@ bool hasStoredForm(const QVariant& value, int depth)
     }
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
-    return value.userType() < QMetaType::User ||
-           QMetaType::save(stream, value.userType(), value.constData());
+    return value.userType() < QMetaType::User || QMetaType::save(stream, value.userType(), value.constData());
 }
 
 QString storedForm(const QVariant& value, QLatin1String form, QDataStream::Version version)

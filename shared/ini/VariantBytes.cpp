@@ -112,7 +112,8 @@ bool isZoneName(const QString& name)
 {
     return !name.startsWith('/') && !name.contains("..") &&
            std::all_of(name.begin(), name.end(), [](QChar each) {
-               return each.unicode() < 0x80 && (each.isLetterOrNumber() || QString("+-_/:.,<>").contains(each));
+               return each.unicode() < 0x80 &&
+                      (each.isLetterOrNumber() || QString("+-_/:.,<>").contains(each));
            });
 }
 

@@ -115,8 +115,8 @@ void makeNewer(int file, const struct stat& than)
 int makeBeside(const QByteArray& path, bool isPrivate, QByteArray& name)
 {
     for (int attempt = 0; attempt < mostNames; ++attempt) {
-        name = folderOf(path) + "/.settings-" +
-               QByteArray::number(QRandomGenerator::global()->generate64(), 36);
+        name =
+            folderOf(path) + "/.settings-" + QByteArray::number(QRandomGenerator::global()->generate64(), 36);
         const int file = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW,
                                 isPrivate ? 0600 : 0666);
         if (file >= 0 || errno != EEXIST)

@@ -1,9 +1,9 @@
 #include "CSaveAsCollectionDialog.h"
 
 #include "CActionHistoryAPI.h"
-#include "ini/CIniFile.h"
 #include "StoreReport.h"
 #include "StoredKeys.h"
+#include "ini/CIniFile.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -19,10 +19,11 @@ const int iconSide = 128;
 
 void writeToolSettings(const QString& path, const QMap<QString, QVariant>& prefs)
 {
+    const QString replaced = QFile::exists(path) ? ", whose other content stays" : QString();
     CIniFile file(path, CIniFile::Access::Extend);
     file.setValue(toolsettings::toolSettings, prefs);
     file.commit();
-    storereport::add(storereport::inWords("the tool settings " + path, QString(), file.problem()));
+    storereport::add(storereport::inWords("the tool settings " + path, replaced, file.problem()));
 }
 
 } // namespace

@@ -15,8 +15,8 @@ void add(const QString& report);
 /// What was added since; ends keeping.
 QStringList take();
 
-/// Words for a file that is about to be replaced: ", in place of one with 3 entries"; empty where there is none.
-/// \param path as the file system has it.
+/// Words for a file that is about to be replaced: ", in place of one with 3 entries"; empty where there is
+/// none. \param path as the file system has it.
 QString inPlaceOf(const QByteArray& path);
 /// \param what the file: "the favourite /home/a/b.ini".
 /// \param replaced what `inPlaceOf` said of it before.

@@ -9,9 +9,11 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QPen>
 #include <QPixmap>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTransform>
 #include <QTranslator>
 #include <QtTest>
 
@@ -390,6 +392,19 @@ private slots:
         QVERIFY(filesIn(CUtils::GetCollectionsFolder()).isEmpty());
         // The format does not drift.
         QCOMPARE(bytesOf(path), bytesOf(QString(TEST_DATA_DIR) + "/manuals.tsf"));
+    }
+
+    void savesSettingsBesideValuesOfAnyKind()
+    {
+        const QString path = m_home.filePath("preset.tsf");
+        QSettings(path, QSettings::IniFormat).setValue("a/b/c", QTransform(1, 2, 3, 4, 5, 6));
+        m_prefs["of the host"] = QPen(Qt::red);
+        CSaveAsCollectionDialog dialog(&m_parent);
+        open(dialog, &m_prefs);
+        person::namesFile(path);
+        click(dialog.ui.saveSettingsToFileButton);
+        QCOMPARE(keysOf(path), (QStringList{"ToolSettings", "a/b/c"}));
+        QCOMPARE(stored(path, "ToolSettings").toMap(), m_prefs);
     }
 
     void closesWhenTheFileDialogIsCancelled()
