@@ -127,12 +127,17 @@ std::string SafeOutput::folderOf(const std::string& file)
     return slash == std::string::npos ? "." : file.substr(0, slash == 0 ? 1 : slash);
 }
 
-std::string SafeOutput::commit(const struct stat& like, bool flush)
+std::string SafeOutput::commit(const struct stat& like, bool flush, const BeforeRename& beforeRename)
 {
     const auto problem = [this] { return m_target + " cannot be written: " + systemError(errno); };
     const FileDescriptor file(::open(m_temporary.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
     if (!file.isOpen() || !giveAttributes(file.get(), like) || (flush && fsync(file.get()) != 0))
         return problem();
+    struct stat finished;
+    if (beforeRename && fstat(file.get(), &finished) != 0)
+        return problem();
+    if (beforeRename)
+        beforeRename(finished);
     if (rename(m_temporary.c_str(), m_target.c_str()) != 0)
         return problem();
     m_committed = true;

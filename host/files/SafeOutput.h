@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <functional>
 #include <string>
 
 namespace host {
@@ -24,10 +25,14 @@ public:
     /// The folder that a file lies in.
     static std::string folderOf(const std::string& file);
 
+    /// Is told of the finished file just before it is renamed, so that somebody who outlives this process can
+    /// tell by the target whether it was. What it throws leaves the target as it was.
+    using BeforeRename = std::function<void(const struct stat& finished)>;
+
     /// \param like the new file gets its permissions and, where the system allows it, owner and group.
     /// \param flush also waits until file and folder are on the disk.
     /// \returns empty, or the reason of the failure.
-    std::string commit(const struct stat& like, bool flush);
+    std::string commit(const struct stat& like, bool flush, const BeforeRename& beforeRename = {});
 
     /// A name for a temporary file beside the target that no other running program uses. Names tell which
     /// process they belong to, so that `removeLeftovers` can find those of processes that are gone.
