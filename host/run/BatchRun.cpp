@@ -1,5 +1,6 @@
 #include "BatchRun.h"
 
+#include "Placement.h"
 #include "Progress.h"
 #include "Report.h"
 #include "RunPlan.h"
@@ -10,6 +11,7 @@
 #include "host/program/PluginHost.h"
 #include "host/terminal/FileNames.h"
 #include "host/workers/StopSignal.h"
+#include "host/workers/WorkerSlot.h"
 
 #include <unistd.h>
 
@@ -25,19 +27,20 @@ namespace {
 class DocumentWorker : public Worker
 {
 public:
-    DocumentWorker(CActionInterface& action, const std::string& libraryFile, const ProcessingOptions& options)
-        : m_processor(action, libraryFile, options)
+    DocumentWorker(const std::vector<DocumentJob>& jobs, CActionInterface& action,
+                   const std::string& libraryFile, const ProcessingOptions& options)
+        : m_jobs(jobs), m_processor(action, libraryFile, options)
     {}
 
-    Answer answer(const std::string& record) override
+    Answer answer(std::size_t job, WorkerSlot& slot) override
     {
-        const std::optional<DocumentJob> job = DocumentJob::fromRecord(record);
-        if (!job)
-            throw std::runtime_error("the worker process was given an order that it does not know");
-        return {m_processor.process(*job).toRecord(), m_processor.isWornOut()};
+        const auto note = [&slot](const Placement& placement) { slot.note(placement.toRecord()); };
+        const DocumentResult result = m_processor.process(m_jobs[job], note);
+        return {result.toRecord(), m_processor.isWornOut()};
     }
 
 private:
+    const std::vector<DocumentJob>& m_jobs;
     DocumentProcessor m_processor;
 };
 
@@ -112,9 +115,9 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
         static_cast<int>(std::clamp<std::size_t>(m_jobs.size(), 1, static_cast<std::size_t>(limits.workers)));
     StopSignal stop;
     WorkerPool pool(fitting,
-                    [&] { return std::make_unique<DocumentWorker>(action, libraryFile, m_options); });
+                    [&] { return std::make_unique<DocumentWorker>(m_jobs, action, libraryFile, m_options); });
     pool.run(
-        m_jobs.size(), [this](std::size_t job) { return m_jobs[job].toRecord(); },
+        m_jobs.size(),
         [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); }, stop);
     m_stopped = stop.count() > 0;
 }
@@ -122,14 +125,24 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
 void BatchRun::jobEnded(std::size_t job, const WorkOutcome& outcome)
 {
     if (outcome.kind != WorkOutcome::Answered)
-        SafeOutput::removeTemporary(m_jobs[job].temporary);
-    if (outcome.kind == WorkOutcome::Stopped)
-        return;
-    const auto result = outcome.kind == WorkOutcome::Answered
-                            ? DocumentResult::fromRecord(outcome.text)
-                            : std::optional(DocumentResult::failed(outcome.text));
+        return jobLost(job, outcome);
+    const auto result = DocumentResult::fromRecord(outcome.text);
     documentEnded(m_documentOfJob[job],
                   result.value_or(DocumentResult::failed("the worker process gave no proper answer")));
+}
+
+/// The worker may have put the new file in place before it ended.
+void BatchRun::jobLost(std::size_t job, const WorkOutcome& outcome)
+{
+    if (const auto placement = Placement::fromRecord(outcome.note);
+        placement && placement->isAt(m_jobs[job].target)) {
+        DocumentResult result = placement->result();
+        result.reason = "it is in place, but then: " + outcome.text;
+        return documentEnded(m_documentOfJob[job], result);
+    }
+    SafeOutput::removeTemporary(m_jobs[job].temporary);
+    if (outcome.kind == WorkOutcome::Lost)
+        documentEnded(m_documentOfJob[job], DocumentResult::failed(outcome.text));
 }
 
 void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)

@@ -32,18 +32,6 @@ const char* nameOf(Saved saved)
     return "";
 }
 
-std::string DocumentJob::toRecord() const
-{
-    return RecordWriter().add(source).add(target).add(temporary).bytes();
-}
-
-std::optional<DocumentJob> DocumentJob::fromRecord(const std::string& record)
-{
-    RecordReader reader(record);
-    DocumentJob job{reader.text(), reader.text(), reader.text()};
-    return reader.complete() ? std::optional(job) : std::nullopt;
-}
-
 DocumentResult DocumentResult::failed(const std::string& reason, std::int64_t milliseconds)
 {
     return {Status::Failed, Saved::Not, reason, milliseconds};

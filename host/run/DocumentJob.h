@@ -23,9 +23,6 @@ struct DocumentJob
     std::string target;
     /// Where the new file is written before it takes the target's place; beside the target.
     std::string temporary;
-
-    std::string toRecord() const;
-    static std::optional<DocumentJob> fromRecord(const std::string& record);
 };
 
 struct DocumentResult

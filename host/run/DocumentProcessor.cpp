@@ -20,17 +20,9 @@ namespace host {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
 bool isCode(int code, engine::ErrorCode wanted)
 {
     return code == static_cast<int>(wanted);
-}
-
-bool isSameState(const struct stat& one, const struct stat& other)
-{
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_size == other.st_size &&
-           one.st_mtim.tv_sec == other.st_mtim.tv_sec && one.st_mtim.tv_nsec == other.st_mtim.tv_nsec;
 }
 
 } // namespace
@@ -58,9 +50,10 @@ void DocumentProcessor::bracket(Bracket call)
     }
 }
 
-DocumentResult DocumentProcessor::process(const DocumentJob& job)
+DocumentResult DocumentProcessor::process(const DocumentJob& job, const BeforePlacement& beforePlacement)
 {
-    const Clock::time_point begin = Clock::now();
+    m_begin = Clock::now();
+    m_beforePlacement = &beforePlacement;
     DocumentResult result;
     try {
         result = work(job);
@@ -70,8 +63,13 @@ DocumentResult DocumentProcessor::process(const DocumentJob& job)
     } catch (const std::exception& error) {
         result = DocumentResult::failed(error.what());
     }
-    result.milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - begin).count();
+    result.milliseconds = millisecondsTaken();
     return result;
+}
+
+std::int64_t DocumentProcessor::millisecondsTaken() const
+{
+    return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_begin).count();
 }
 
 DocumentResult DocumentProcessor::work(const DocumentJob& job)
@@ -85,11 +83,17 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     m_library.SelectDocument(document);
     DocumentResult result = applyAndSave(job);
     m_library.RemoveDocument(document);
-    if (result.status != Status::Failed && m_options.tellStates && !m_options.dryRun) {
-        result.outputState = stateOf(job.target);
-        result.fileState = m_options.inPlace ? result.outputState : stateOf(m_original);
-    }
+    if (result.status != Status::Failed && !m_options.dryRun)
+        tellStates(result, stateOf(job.target));
     return result;
+}
+
+void DocumentProcessor::tellStates(DocumentResult& result, const std::string& outputState) const
+{
+    if (!m_options.tellStates)
+        return;
+    result.outputState = outputState;
+    result.fileState = m_options.inPlace ? outputState : stateOf(m_original);
 }
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
@@ -169,7 +173,13 @@ DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& 
     struct stat now;
     if (stat(job.source.c_str(), &now) != 0 || !isSameState(now, m_original))
         return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
-    const std::string problem = output.commit(m_original, m_options.flush);
+    const auto beforeRename = [&](const struct stat& finished) {
+        DocumentResult placed = result;
+        placed.milliseconds = millisecondsTaken();
+        tellStates(placed, stateOf(finished));
+        (*m_beforePlacement)({placed, finished});
+    };
+    const std::string problem = output.commit(m_original, m_options.flush, beforeRename);
     return problem.empty() ? result : DocumentResult::failed(problem);
 }
 

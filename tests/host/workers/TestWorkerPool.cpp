@@ -12,7 +12,7 @@ using Habit = std::function<bool(int)>; // works at a piece, and tells whether t
 struct FakeWorker : Worker
 {
     explicit FakeWorker(Habit habit) : m_habit(std::move(habit)) {}
-    Answer answer(const std::string& record) override { return {"did it", m_habit(std::stoi(record))}; }
+    Answer answer(std::size_t piece, WorkerSlot&) override { return {"did it", m_habit(int(piece))}; }
     Habit m_habit;
 };
 
@@ -41,7 +41,6 @@ private slots:
     void endsEveryPieceOnce()
     {
         const auto [each, end, habit] = Rows<unsigned, std::string, Habit>::current();
-        const auto workOf = [](std::size_t piece) { return std::to_string(piece); };
         for (const int workers : {1, 3}) {
             const auto make = [&, each = each, habit = habit] {
                 return habit ? std::make_unique<FakeWorker>(
@@ -54,7 +53,7 @@ private slots:
                 usleep(each == 1 && piece == 100 ? 1'300'000 : 0);
             };
             StopSignal stop;
-            WorkerPool({workers, 1, 1024}, make).run(ends.size(), workOf, done, stop);
+            WorkerPool({workers, 1, 1024}, make).run(ends.size(), done, stop);
             for (std::size_t piece = 0; piece < ends.size(); ++piece)
                 QCOMPARE(ends[piece], (piece + 1) % each == 0 ? end : "did it");
         }
