@@ -20,8 +20,8 @@ namespace engine {
 
 namespace {
 
-// QPDFWriter writes a few bytes at a time, and finishes its pipelines in destructors, which nothing thrown may
-// leave: the first failure is kept, and what comes after it is dropped.
+// QPDFWriter writes a few bytes at a time, and finishes its pipelines in destructors, which nothing thrown
+// may leave: the first failure is kept, and what comes after it is dropped.
 class FilePipeline : public Pipeline
 {
 public:

@@ -117,8 +117,7 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
     WorkerPool pool(fitting,
                     [&] { return std::make_unique<DocumentWorker>(m_jobs, action, libraryFile, m_options); });
     pool.run(
-        m_jobs.size(),
-        [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); }, stop);
+        m_jobs.size(), [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); }, stop);
     m_stopped = stop.count() > 0;
 }
 

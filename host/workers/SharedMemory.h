@@ -14,8 +14,7 @@ class SharedMemory
 {
 public:
     SharedMemory()
-        : m_memory(
-              mmap(nullptr, sizeof(Object), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0))
+        : m_memory(mmap(nullptr, sizeof(Object), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0))
     {
         if (m_memory == MAP_FAILED)
             throw std::bad_alloc();

@@ -20,6 +20,7 @@
 #include <cstring>
 #include <exception>
 #include <new>
+#include <numeric>
 #include <optional>
 #include <thread>
 
@@ -38,7 +39,8 @@ const std::size_t worthNapping = 16; // pieces for each worker
 // may the worker have been.
 const std::chrono::seconds heldUp(1);
 
-const int mostFruitless = 8;
+// When so many workers in a row have ended at no piece, the rest is done one at a time.
+const int mostFruitless = 3;
 
 #if defined(__SANITIZE_ADDRESS__)
 const bool sanitized = true; // needs address space without bound, and tells what it found on standard error
@@ -127,30 +129,35 @@ WorkerPool::~WorkerPool()
 {
     for (Process& process : m_processes) // there are any only when `run` was left by an exception
         if (process.isRunning())
-            end(process, [](std::size_t, const WorkOutcome&) {}, WorkOutcome::Stopped);
+            end(
+                process, [](std::size_t, const WorkOutcome&) {}, WorkOutcome::Stopped);
 }
 
 void WorkerPool::run(std::size_t count, const Done& done, StopSignal& stop)
 {
     m_ended.assign(count, false);
-    while (m_stopSignals == 0 && planRound())
-        for (;;) {
-            startWorkers(done);
-            if (!anyRunning())
-                break;
-            waitForNews(done, stop);
-        }
+    m_round.resize(count);
+    std::iota(m_round.begin(), m_round.end(), std::size_t{0});
+    for (*m_next = 0; m_stopSignals == 0 && !m_round.empty(); planNextRound())
+        doRound(done, stop);
 }
 
-/// All pieces that have not ended: at first all, then those that a worker took and did not live to name.
-bool WorkerPool::planRound()
+void WorkerPool::doRound(const Done& done, StopSignal& stop)
 {
+    while (startWorkers(done), anyRunning())
+        waitForNews(done, stop);
+}
+
+/// The next piece that a worker took without living to name it, or whose answer it corrupted; alone, so that
+/// there is no doubt about which one it was if the next worker does not live either.
+void WorkerPool::planNextRound()
+{
+    const auto left =
+        std::find(m_ended.begin() + static_cast<std::ptrdiff_t>(m_round.front()), m_ended.end(), false);
     m_round.clear();
-    for (std::size_t piece = 0; piece < m_ended.size(); ++piece)
-        if (!m_ended[piece])
-            m_round.push_back(piece);
+    if (left != m_ended.end())
+        m_round.push_back(static_cast<std::size_t>(left - m_ended.begin()));
     *m_next = 0;
-    return !m_round.empty();
 }
 
 std::size_t WorkerPool::untaken() const
@@ -162,14 +169,14 @@ void WorkerPool::startWorkers(const Done& done)
 {
     for (Process& process : m_processes)
         while (!process.isRunning() && untaken() > 0) {
-            const bool hopeless = m_fruitless >= mostFruitless;
-            if (!hopeless && start(process))
+            if (m_round.size() == 1 && anyRunning())
+                return;
+            if (start(process))
                 break;
-            const std::string problem = hopeless ? "it ends at once" : systemError(errno);
+            const std::string problem = "no worker process can be started: " + systemError(errno);
             if (anyRunning())
                 return; // there cannot be as many workers as wanted: those that there are do the rest
-            pieceEnded((*m_next)++, done,
-                       {WorkOutcome::Lost, "no worker process can be started: " + problem});
+            pieceEnded((*m_next)++, done, {WorkOutcome::Lost, problem});
         }
 }
 
@@ -290,15 +297,14 @@ int WorkerPool::takeAnswers(Process& process, const Done& done)
     return count;
 }
 
-/// \returns false when the piece had ended, or is none at all, as a worker with corrupted memory may tell.
-bool WorkerPool::pieceEnded(std::uint64_t place, const Done& done, const WorkOutcome& outcome)
+/// A piece that is none, or has ended, is what a worker tells that was at none or has its memory corrupted.
+void WorkerPool::pieceEnded(std::uint64_t place, const Done& done, const WorkOutcome& outcome)
 {
     if (place >= m_round.size() || m_ended[m_round[place]])
-        return false;
+        return;
     m_ended[m_round[place]] = true;
     m_fruitless = 0;
     done(m_round[place], outcome);
-    return true;
 }
 
 /// What the worker has told is read after its end, when nothing can be added any more.
@@ -312,13 +318,14 @@ void WorkerPool::end(Process& process, const Done& done, WorkOutcome::Kind kind,
     process.id = 0;
     process.wakeUps.close();
     takeAnswers(process, done);
-    const std::optional<std::uint64_t> place = (*process.slot)->piece();
-    if (place)
-        pieceEnded(*place, done,
-                   {kind, reason.empty() ? describeEnd(status) : reason, (*process.slot)->noted()});
-    else if (status != 0)
-        ++m_fruitless;
+    const std::uint64_t told = (*process.slot)->piece();
+    const std::uint64_t place = m_round.size() == 1 ? 0 : told;
+    pieceEnded(place, done,
+               {kind, reason.empty() ? describeEnd(status) : reason,
+                told == place ? (*process.slot)->noted() : std::string()});
     process.slot.reset();
+    if (told >= m_round.size() && status != 0 && ++m_fruitless >= mostFruitless)
+        *m_next = m_round.size();
 }
 
 void WorkerPool::setDeadline(Process& process) const

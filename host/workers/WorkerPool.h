@@ -46,8 +46,8 @@ struct WorkOutcome
 };
 
 /// Has pieces of work done by processes that are copies of this one. Each takes the next piece from a counter
-/// in shared memory when it is ready for one, so nobody hands out work and no piece waits behind a long one. A
-/// worker that crashes, takes too long or too much memory costs the piece it was at; a fresh one goes on.
+/// in shared memory when it is ready for one, so nobody hands out work and no piece waits behind a long one.
+/// A worker that crashes, takes too long or too much memory costs the piece it was at; a fresh one goes on.
 ///
 /// The program must have no threads when it calls `run`.
 class WorkerPool
@@ -78,7 +78,8 @@ private:
     using Clock = std::chrono::steady_clock;
     struct Process;
 
-    bool planRound();
+    void doRound(const Done& done, StopSignal& stop);
+    void planNextRound();
     std::size_t untaken() const;
     void startWorkers(const Done& done);
     bool start(Process& process);
@@ -87,7 +88,7 @@ private:
     void nap() const;
     void receive(Process& process, const Done& done);
     int takeAnswers(Process& process, const Done& done);
-    bool pieceEnded(std::uint64_t place, const Done& done, const WorkOutcome& outcome);
+    void pieceEnded(std::uint64_t place, const Done& done, const WorkOutcome& outcome);
     void end(Process& process, const Done& done, WorkOutcome::Kind kind, const std::string& reason = {});
     void setDeadline(Process& process) const;
     void endOverdue(const Done& done);
@@ -102,7 +103,7 @@ private:
     /// The pieces of this round; workers take places in this list.
     std::vector<std::size_t> m_round;
     SharedMemory<std::atomic<std::uint64_t>> m_next;
-    int m_fruitless = 0; ///< Workers in a row that ended before they began anything.
+    int m_fruitless = 0; ///< Workers in a row that ended at no piece.
     Clock::duration m_perPiece = Clock::duration::max();
     int m_stopSignals = 0;
     Clock::time_point m_stopDeadline;

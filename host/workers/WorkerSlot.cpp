@@ -17,7 +17,7 @@ const std::chrono::milliseconds waitForRoom(1);
 void WorkerSlot::begin(std::uint64_t piece)
 {
     m_noteSize = 0;
-    m_begun = piece + 1;
+    m_begun = piece;
 }
 
 void WorkerSlot::note(std::string_view bytes)
@@ -32,7 +32,7 @@ void WorkerSlot::note(std::string_view bytes)
 bool WorkerSlot::answer(Kind kind, std::string_view text)
 {
     text = text.substr(0, largestAnswer);
-    const Header header{m_begun - 1, kind, text.size()};
+    const Header header{m_begun, kind, text.size()};
     const std::uint64_t begin = m_written;
     const std::uint64_t end = begin + sizeof header + text.size();
     while (end - m_taken > capacity)
@@ -41,12 +41,6 @@ bool WorkerSlot::answer(Kind kind, std::string_view text)
     copyIn(begin + sizeof header, text.data(), text.size());
     m_written = end;
     return m_taken == begin; // else it has been woken up for an earlier one that it has not taken yet
-}
-
-std::optional<std::uint64_t> WorkerSlot::piece() const
-{
-    const std::uint64_t begun = m_begun;
-    return begun > 0 ? std::optional(begun - 1) : std::nullopt;
 }
 
 std::string WorkerSlot::noted() const

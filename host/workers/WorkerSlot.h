@@ -20,6 +20,8 @@ public:
     static constexpr std::size_t largestAnswer = 128 << 10;
     static constexpr std::size_t largestNote = 4 << 10;
 
+    static constexpr std::uint64_t none = UINT64_MAX;
+
     enum Kind : std::uint64_t { Answered, Lost };
     struct Answer
     {
@@ -41,8 +43,8 @@ public:
 
     // For the program:
 
-    /// The piece that the worker has begun last.
-    std::optional<std::uint64_t> piece() const;
+    /// The piece that the worker has begun last, or `none`.
+    std::uint64_t piece() const { return m_begun; }
     /// What it noted about that one; empty for nothing.
     std::string noted() const;
     /// Takes the next answer, in the order in which they were given.
@@ -62,7 +64,7 @@ private:
     void copyIn(std::uint64_t at, const void* bytes, std::size_t size);
     void copyOut(std::uint64_t at, void* bytes, std::size_t size) const;
 
-    Number m_begun{0}; // the number of the piece and 1, or 0
+    Number m_begun{none};
     Number m_noteSize{0};
     // A ring of answers; both numbers count all bytes since the beginning.
     Number m_written{0};
