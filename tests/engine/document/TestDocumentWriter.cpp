@@ -10,9 +10,11 @@
 
 #include <QtTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <functional>
 #include <optional>
 
@@ -105,6 +107,28 @@ private slots:
         writeWhole(*rebuilt, m_target);
         QCOMPARE(pageMode(m_target), QByteArray("/UseThumbs"));
         QVERIFY(QString::fromStdString(contentOf(m_target)).contains("/Count 3"));
+    }
+
+    void tellsWhyItCannotBeWritten()
+    {
+        rlimit before;
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        const rlimit little{1000, before.rlim_max};
+        signal(SIGXFSZ, SIG_IGN);
+        for (const auto save : {appendUpdate, writeWhole}) {
+            put(m_source, PdfBuilder()
+                              .catalog("/Kept 9 0 R")
+                              .pages(2)
+                              .stream(9, "", std::string(1 << 20, 'x'))
+                              .bytes());
+            const auto document = opened(m_source);
+            change(*document);
+            setrlimit(RLIMIT_FSIZE, &little);
+            const auto error = errorOf([&] { save(*document, m_target); });
+            setrlimit(RLIMIT_FSIZE, &before);
+            QCOMPARE(error, ErrorCode::FileTooLarge);
+            QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
+        }
     }
 
     void keepsWhatTheDocumentIs_data()
