@@ -1,6 +1,6 @@
 #include "JsonLine.h"
 
-#include "FileNames.h"
+#include "TerminalText.h"
 
 #include <QJsonDocument>
 
@@ -8,17 +8,20 @@ namespace host {
 
 namespace {
 
-bool misleads(QChar character)
+const char unreserved[] = "/";
+
+/// A byte order mark that a name begins with belongs to it; converted by itself, Qt would take it away.
+QString textOf(const std::string& name)
 {
-    switch (character.category()) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return true;
-    default:
-        return false;
-    }
+    return QString::fromStdString("/" + name).mid(1);
+}
+
+QString escape(const QString& text)
+{
+    QString escaped;
+    for (const QChar unit : text)
+        escaped += QString("\\u%1").arg(unit.unicode(), 4, 16, QChar('0'));
+    return escaped;
 }
 
 } // namespace
@@ -26,19 +29,27 @@ bool misleads(QChar character)
 std::string jsonLine(const QJsonObject& object)
 {
     QString line;
-    for (const QChar character : QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)))
-        if (misleads(character))
-            line += QString("\\u%1").arg(character.unicode(), 4, 16, QChar('0'));
-        else
-            line += character;
+    for (const uint character :
+         QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)).toUcs4()) {
+        const QString text = QString::fromUcs4(&character, 1);
+        line += misleads(character) ? escape(text) : text;
+    }
     return line.toStdString() + "\n";
 }
 
-void insertFile(QJsonObject& object, const std::string& file)
+void insertName(QJsonObject& object, const QString& key, const std::string& name)
 {
-    object.insert("file", QString::fromStdString(file));
-    if (!isUtf8(file))
-        object.insert("fileBytes", QString::fromStdString(percentEncoded(file)));
+    const QString text = textOf(name);
+    object.insert(key, name.empty() ? QJsonValue() : QJsonValue(text));
+    if (text.toStdString() != name)
+        object.insert(key + "Bytes", QString(QByteArray::fromStdString(name).toPercentEncoding(unreserved)));
+}
+
+std::string nameIn(const QJsonObject& object, const QString& key)
+{
+    const QJsonValue bytes = object.value(key + "Bytes");
+    return bytes.isString() ? QByteArray::fromPercentEncoding(bytes.toString().toUtf8()).toStdString()
+                            : object.value(key).toString().toStdString();
 }
 
 } // namespace host
