@@ -8,7 +8,7 @@ namespace host {
 
 namespace {
 
-const char unreserved[] = "/";
+const char separator[] = "/"; // stays readable
 
 /// A byte order mark that a name begins with belongs to it; converted by itself, Qt would take it away.
 QString textOf(const std::string& name)
@@ -16,10 +16,18 @@ QString textOf(const std::string& name)
     return QString::fromStdString("/" + name).mid(1);
 }
 
-QString escape(const QString& text)
+/// The character's one or two units in UTF-16. QString::fromUcs4 would take a byte order mark away.
+QString unitsOf(uint character)
+{
+    return QChar::requiresSurrogates(character)
+               ? QString(QChar(QChar::highSurrogate(character))) + QChar(QChar::lowSurrogate(character))
+               : QString(QChar(character));
+}
+
+QString escape(const QString& units)
 {
     QString escaped;
-    for (const QChar unit : text)
+    for (const QChar unit : units)
         escaped += QString("\\u%1").arg(unit.unicode(), 4, 16, QChar('0'));
     return escaped;
 }
@@ -28,12 +36,10 @@ QString escape(const QString& text)
 
 std::string jsonLine(const QJsonObject& object)
 {
+    const QString text = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
     QString line;
-    for (const uint character :
-         QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)).toUcs4()) {
-        const QString text = QString::fromUcs4(&character, 1);
-        line += misleads(character) ? escape(text) : text;
-    }
+    for (const uint character : text.toUcs4())
+        line += misleads(character) ? escape(unitsOf(character)) : unitsOf(character);
     return line.toStdString() + "\n";
 }
 
@@ -42,7 +48,7 @@ void insertName(QJsonObject& object, const QString& key, const std::string& name
     const QString text = textOf(name);
     object.insert(key, name.empty() ? QJsonValue() : QJsonValue(text));
     if (text.toStdString() != name)
-        object.insert(key + "Bytes", QString(QByteArray::fromStdString(name).toPercentEncoding(unreserved)));
+        object.insert(key + "Bytes", QString(QByteArray::fromStdString(name).toPercentEncoding(separator)));
 }
 
 std::string nameIn(const QJsonObject& object, const QString& key)
