@@ -3,6 +3,7 @@
 #include "host/files/FileAttributes.h"
 #include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
+#include "host/files/Links.h"
 #include "host/files/SafeOutput.h"
 #include "host/terminal/UsageError.h"
 
@@ -16,8 +17,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
 #include <string_view>
 
 namespace host {
@@ -34,18 +33,9 @@ bool endsWith(std::string_view text, std::string_view end)
     return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
 
-/// What a symbolic link leads to; other paths are themselves.
-std::string linkTarget(const std::string& path)
-{
-    struct stat status;
-    char target[PATH_MAX];
-    const bool isLink = lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
-    return isLink && realpath(path.c_str(), target) != nullptr ? target : path;
-}
-
 } // namespace
 
-SettingsOutput::SettingsOutput(const std::string& path) : m_path(linkTarget(path)), m_kind(kindOf(path))
+SettingsOutput::SettingsOutput(const std::string& path) : m_path(behindLink(path)), m_kind(kindOf(path))
 {
     checkPlace();
 }
