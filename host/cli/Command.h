@@ -1,14 +1,8 @@
 #pragma once
 
-namespace host {
+#include "host/terminal/ExitStatus.h"
 
-/// The program's exit statuses.
-namespace exitstatus {
-inline constexpr int done = 0;
-inline constexpr int someFailed = 1;
-inline constexpr int usage = 2;
-inline constexpr int stopped = 130;
-} // namespace exitstatus
+namespace host {
 
 /// One of the program's commands.
 class Command

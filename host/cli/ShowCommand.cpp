@@ -2,11 +2,11 @@
 
 #include "OptionParser.h"
 
-#include "host/files/FileDescriptor.h"
 #include "host/program/InstallLayout.h"
-#include "host/terminal/FileNames.h"
 #include "host/terminal/JsonLine.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
+#include "host/terminal/TerminalText.h"
 #include "host/terminal/UsageError.h"
 #include "host/view/OpeningView.h"
 #include "host/workers/StopSignal.h"
@@ -48,7 +48,7 @@ class ShowWorker : public Worker
 public:
     ShowWorker(const std::vector<std::string>& files, const std::string& password, bool json)
         : m_files(files), m_password(password), m_json(json),
-          m_library(toLibraryPath(installlayout::libraryFile()))
+          m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
     {
         if (!m_library.LibraryLoaded())
             throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
@@ -68,7 +68,7 @@ private:
     static std::string toJson(const std::string& file, const OpeningView& view)
     {
         QJsonObject object = view.toJson();
-        insertFile(object, file);
+        insertName(object, "file", file);
         return jsonLine(object);
     }
 
@@ -110,9 +110,7 @@ int ShowCommand::run(int argc, char** argv)
                 outcome.kind == WorkOutcome::Answered ? outcome.text.substr(1) : outcome.text;
             if (good)
                 return printResult(text);
-            const std::string line =
-                "quintar: " + forTerminal(files[index]) + ": " + forTerminal(text) + "\n";
-            writeAll(STDERR_FILENO, line.data(), line.size());
+            complain(files[index] + ": " + text);
             failed = true;
         },
         stop);

@@ -46,6 +46,7 @@ std::string DocumentResult::toRecord() const
         .add(milliseconds)
         .add(fileState)
         .add(outputState)
+        .add(note)
         .bytes();
 }
 
@@ -58,13 +59,14 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     const std::int64_t milliseconds = reader.number();
     std::string fileState = reader.text();
     std::string outputState = reader.text();
+    std::string note = reader.text();
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);
     if (!reader.complete() || !known)
         return std::nullopt;
-    return DocumentResult{static_cast<Status>(status), static_cast<Saved>(saved),
-                          std::move(reason),           milliseconds,
-                          std::move(fileState),        std::move(outputState)};
+    return DocumentResult{
+        static_cast<Status>(status), static_cast<Saved>(saved), std::move(reason), milliseconds,
+        std::move(fileState),        std::move(outputState),    std::move(note)};
 }
 
 } // namespace host

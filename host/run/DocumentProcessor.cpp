@@ -1,10 +1,11 @@
 #include "DocumentProcessor.h"
 
 #include "FileState.h"
+#include "host/files/FileAttributes.h"
 #include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
-#include "host/terminal/FileNames.h"
+#include "host/program/InstallLayout.h"
 
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
@@ -29,7 +30,7 @@ bool isCode(int code, engine::ErrorCode wanted)
 
 DocumentProcessor::DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
                                      const ProcessingOptions& options)
-    : m_action(action), m_options(options), m_library(toLibraryPath(libraryFile))
+    : m_action(action), m_options(options), m_library(installlayout::toLibraryPath(libraryFile))
 {
     if (!m_library.LibraryLoaded())
         throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
@@ -170,17 +171,25 @@ DocumentResult DocumentProcessor::copy(const DocumentJob& job)
 DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& job,
                                          const DocumentResult& result)
 {
+    const FileDescriptor source = openRegularFile(job.source);
     struct stat now;
-    if (stat(job.source.c_str(), &now) != 0 || !isSameState(now, m_original))
+    if (!source.isOpen() || fstat(source.get(), &now) != 0 || !isSameState(now, m_original))
         return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
-    const auto beforeRename = [&](const struct stat& finished) {
+    const auto beforeRename = [&](const struct stat& finished, const std::string& note) {
         DocumentResult placed = result;
         placed.milliseconds = millisecondsTaken();
+        placed.note = note;
         tellStates(placed, stateOf(finished));
         (*m_beforePlacement)({placed, finished});
     };
-    const std::string problem = output.commit(m_original, m_options.flush, beforeRename);
-    return problem.empty() ? result : DocumentResult::failed(problem);
+    const auto take = m_options.inPlace ? FileAttributes::Take::All : FileAttributes::Take::ForCopy;
+    const SafeOutput::Outcome outcome =
+        output.commit(FileAttributes(source.get(), take), m_options.flush, beforeRename);
+    if (!outcome.problem.empty())
+        return DocumentResult::failed(outcome.problem);
+    DocumentResult placed = result;
+    placed.note = outcome.note;
+    return placed;
 }
 
 DocumentResult DocumentProcessor::libraryFailure(const std::string& what)

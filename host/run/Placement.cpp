@@ -3,13 +3,22 @@
 #include "FileState.h"
 #include "host/workers/Record.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace host {
 
+namespace {
+
+const std::size_t longestNote = 1000;
+
+} // namespace
+
 Placement::Placement(DocumentResult result, const struct stat& finished)
     : m_result(std::move(result)), m_finished(finished)
-{}
+{
+    m_result.note.resize(std::min(m_result.note.size(), longestNote));
+}
 
 std::string Placement::toRecord() const
 {

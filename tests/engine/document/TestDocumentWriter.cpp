@@ -25,6 +25,8 @@ namespace {
 
 using Settings = std::function<void(QPDFWriter&)>;
 
+int openProblem = 0; // what opening any file meets, an errno
+
 std::unique_ptr<Document> opened(const std::string& path)
 {
     return std::make_unique<Document>(ByteSource::openFile(path), path, "user");
@@ -63,6 +65,15 @@ std::string withSettings(const Settings& set)
 }
 
 } // namespace
+
+extern "C" {
+int __real_open(const char* path, int flags, mode_t mode);
+int __wrap_open(const char* path, int flags, mode_t mode)
+{
+    errno = openProblem;
+    return openProblem != 0 ? -1 : __real_open(path, flags, mode);
+}
+}
 
 class TestDocumentWriter : public QObject
 {
@@ -239,6 +250,9 @@ private slots:
         QCOMPARE(errorAt(m_source + "/file.pdf"), ErrorCode::FileNotFound);
         QCOMPARE(errorAt("."), ErrorCode::NotARegularFile);
         QCOMPARE(errorAt("/dev/null"), ErrorCode::NotARegularFile);
+        openProblem = EROFS;
+        QCOMPARE(errorAt(m_target), ErrorCode::ReadOnlyFileSystem);
+        openProblem = 0;
         if (::geteuid() != 0) {
             fs::permissions(".", fs::perms(0500));
             QCOMPARE(errorAt(m_target), ErrorCode::AccessDenied);
