@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/terminal/ExitStatus.h"
+
 namespace host {
 
 /// One of the program's commands.

@@ -11,8 +11,7 @@
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsFolder.h"
-#include "host/terminal/ExitStatus.h"
-#include "host/terminal/FileNames.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"
 
@@ -107,12 +106,6 @@ SignedDocuments signedDocuments(const std::string& value)
     return SignedDocuments::Refuse;
 }
 
-void note(const std::string& text)
-{
-    const std::string line = "quintar: note: " + forTerminal(text) + "\n";
-    writeAll(STDERR_FILENO, line.data(), line.size());
-}
-
 /// Files may hold what no dialog offers; the action makes of it what it can.
 void noteOddNumbers(const SettingsMap& settings)
 {
@@ -147,14 +140,16 @@ int RunCommand::run(int argc, char** argv)
     warnOfSettingsWithoutEffect();
 
     const RunPlan plan = this->plan();
+    std::optional<Report> report;
+    if (m_reportFile)
+        report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
     BatchRun::Done done = doneBefore(plan);
     if (m_outputFolder && !m_options.dryRun)
         if (const std::string problem = SafeOutput::makeFolder(*m_outputFolder); !problem.empty())
             throw UsageError(problem);
     m_options.tellStates = m_reportFile.has_value();
-    std::optional<Report> report; // may lie in the output folder
-    if (m_reportFile)
-        report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
+    if (report) // may lie in the output folder
+        report->begin();
     return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet, std::move(done)).run(m_limits);
 }
 

@@ -467,13 +467,13 @@ private slots:
 
     void stopsWhenAsked()
     {
-        for (const char* name : {"in/1-good.pdf", "in/2-hang.pdf", "in/3-good.pdf"})
+        for (const char* name : {"in/1-good.pdf", "in/2-hang.pdf", "in/3-late-hang.pdf", "in/4-good.pdf"})
             put(name);
         QProcess process;
         process.start(programWithTroubledLibrary(),
-                      QStringList{"run", "--jobs", "1", "--in-place", "--report", "report", "in"} +
+                      QStringList{"run", "--jobs", "2", "--in-place", "--report", "report", "in"} +
                           panelAndPage);
-        QVERIFY(waitFor([] { return fs::exists("report") && fs::file_size("report") > 0; }));
+        QVERIFY(waitFor([] { return WorkFolder::contentOf("in/3-late-hang.pdf") != PdfBuilder::simple(); }));
         ::kill(pid_t(process.processId()), SIGINT);
         QTest::qWait(300);
         QCOMPARE(process.state(), QProcess::Running); // waits for the document in work
@@ -481,16 +481,44 @@ private slots:
         QVERIFY(process.waitForFinished(10000));
         QCOMPARE(process.exitCode(), 130);
         const QByteArray err = process.readAllStandardError();
-        QVERIFY2(err.contains("not done: in/2-hang.pdf\nnot done: in/3-good.pdf\n"), err);
+        QVERIFY2(err.contains("not done: in/2-hang.pdf\nnot done: in/4-good.pdf\n"), err);
         QVERIFY(process.readAllStandardOutput().endsWith(
-            "1 changed, 0 unchanged, 0 failed, stopped with 2 not done\n"));
-        QCOMPARE(report().size(), 1);
-        QVERIFY(WorkFolder::contentOf("in/3-good.pdf") == PdfBuilder::simple());
+            "2 changed, 0 unchanged, 0 failed, stopped with 2 not done\n"));
+        QCOMPARE(report().size(), 2);
+        QVERIFY(WorkFolder::contentOf("in/4-good.pdf") == PdfBuilder::simple());
     }
 
-    // What a worker is given ahead is neither begun after a stop signal nor kept waiting by a document that
-    // takes long.
-    void takesBackWhatWasGivenAhead()
+    // Between the rename and the answer a worker can end as at any other moment.
+    void tellsWhatWasPutInPlaceLast_data()
+    {
+        const Rows<QString, QString> row;
+        row("in place", "--in-place in", "in");
+        row("to a folder", "-o out in", "out");
+    }
+
+    void tellsWhatWasPutInPlaceLast()
+    {
+        const auto [words, folder] = Rows<QString, QString>::current();
+        for (const char* name : {"in/1-late-crash.pdf", "in/2-good.pdf"})
+            put(name);
+        const ProgramRun run(programWithTroubledLibrary(),
+                             QStringList{"run", "--report", "report"} + words.split(' ') + panelAndPage,
+                             m_folder->path());
+        QVERIFY2(run.out.endsWith("2 changed, 0 unchanged, 0 failed\n"), run.err);
+        const std::string changed = folder.toStdString() + "/1-late-crash.pdf";
+        QVERIFY(QpdfReader(path(changed)).catalog().contains("/PageMode"));
+        QJsonObject crashed = report()[0];
+        QJsonObject good = report()[1];
+        QVERIFY(crashed.take("note").toString().contains("crashed"));
+        for (const char* state : {"fileState", "outputState"})
+            QVERIFY(crashed.value(state).toString().contains(" bytes, "));
+        for (const char* own : {"file", "output", "fileState", "outputState", "milliseconds"})
+            QVERIFY(!crashed.take(own).isNull() && !good.take(own).isNull());
+        QCOMPARE(crashed, good);
+    }
+
+    // After a stop signal no document is begun, and one that takes long keeps no other waiting.
+    void beginsNoDocumentTooLateOrTooEarly()
     {
         const auto start = [program = programWithTroubledLibrary()](QProcess& process,
                                                                     const QStringList& options) {
