@@ -67,7 +67,7 @@ Options:
   --jobs N                  works on N documents at a time (default: the number of processors)
   --timeout SECONDS         gives a document up after this time (default: 60)
   --memory MIB              gives a document up that needs more memory (default: 1024)
-  --quiet                   prints failures only
+  --quiet                   prints failures and notes only
   -h, --help                prints this text
 
 Exit status: 0 all well, 1 some documents failed, 2 nothing was begun, 130 stopped by a signal.
