@@ -17,9 +17,10 @@ class CQuintarDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// \param parent its ancestors decide the colours: the nearest one named "QuintarClass" is the host's
-    /// main
-    ///     window, or named "QuintarPreviewClass" its preview, over which the dialog centres itself.
+    /// \param parent its ancestors decide the colours: the nearest one named "QuintarClass" is the host's main
+    ///     window, or named "QuintarPreviewClass" its preview, over which the dialog centres itself. Null for a
+    ///     dialog of no host.
+    /// \param dialogFlag kept for derived dialogs; the frame makes no use of it.
     CQuintarDialog(QWidget* parent, bool dialogFlag);
     ~CQuintarDialog() override;
 

@@ -117,8 +117,8 @@ QStringList readingOrder(const CPrefsDialog& dialog)
 {
     QVector<const QWidget*> widgets;
     for (const QWidget* widget : dialog.ui.main_widget->findChildren<QWidget*>())
-        if (widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0 &&
-            widget->focusProxy() == nullptr)
+        if (widget->window() == &dialog && widget->isEnabled() && widget->focusProxy() == nullptr &&
+            (widget->focusPolicy() & Qt::TabFocus) != 0)
             widgets << widget;
     const auto place = [&dialog](const QWidget* widget) {
         const QPoint corner = widget->mapTo(dialog.ui.main_widget, QPoint());
