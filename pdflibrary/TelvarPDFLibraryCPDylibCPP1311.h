@@ -53,18 +53,18 @@ struct LibraryFunction<Result(Parameters...)>
 /// An object is either loaded or not from construction to destruction. Not loaded, every operation returns 0,
 /// 0.0 or an empty string and calls nothing. Loaded, an operation hands back the library's own result.
 ///
-/// Failures of the library are values, never exceptions: most operations return 1 for done and 0 for not done,
-/// and LastErrorCode tells why (ErrorCodes.h). An operation throws std::bad_alloc only, where this process has
-/// no memory for a string.
+/// Failures of the library are values, never exceptions: most operations return 1 for done and 0 for not
+/// done, and LastErrorCode tells why (ErrorCodes.h). An operation throws std::bad_alloc only, where this
+/// process has no memory for a string.
 ///
-/// Threads: one object is used by one thread at a time. Objects share nothing, so several threads may have one
-/// each.
+/// Threads: one object is used by one thread at a time. Objects share nothing, so several threads may have
+/// one each.
 ///
 /// There is one public member per library function, of the same name without the "TPL" prefix, and
-/// operations.def lists them all. `int` and `double` pass unchanged. A wide string crosses as a library buffer
-/// of 32-bit code units (null when empty) that the library owns from then on. A byte string crosses as its own
-/// characters, or as a buffer released after the call when it holds a NUL. String results are copied, so they
-/// outlive the next call; their lengths are asked for right after the call that made them.
+/// operations.def lists them all. `int` and `double` pass unchanged. A wide string crosses as a library
+/// buffer of 32-bit code units (null when empty) that the library owns from then on. A byte string crosses as
+/// its own characters, or as a buffer released after the call when it holds a NUL. String results are copied,
+/// so they outlive the next call; their lengths are asked for right after the call that made them.
 class TelvarPDFLibraryCPDylibCPP1311
 {
     using I = int;

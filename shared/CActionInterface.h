@@ -81,8 +81,8 @@ static_assert(offsetof(DialogLoadStruct, bSkipDocumentRead) == 49);
 /// One action.
 ///
 /// Threads: the dialog runs on the host's GUI thread, in an event loop of its own. Work calls may come from
-/// any thread, from one at a time for one library instance, and touch no widget. The others may be called from
-/// any thread.
+/// any thread, from one at a time for one library instance, and touch no widget. The others may be called
+/// from any thread.
 ///
 /// Failures: no operation throws. What fails inside one is turned into its result, and for the work call into
 /// a message as well (CatchAllProtocol.h does both for an implementation). Results are plain numbers, and not
@@ -93,7 +93,8 @@ public:
     /// The host deletes the root object through the plug-in loader, never while a call is under way.
     virtual ~CActionInterface() = default;
 
-    /// Applies the settings to the document that is selected in the library instance. Saving it is the host's.
+    /// Applies the settings to the document that is selected in the library instance. Saving it is the
+    /// host's.
     /// \param info never null; lent for the call.
     /// \returns 0 when it ran to its end, though the library may have refused single values, as it tells by
     ///     LastErrorCode; 1 when something was thrown on the way, and then the error store has one message
@@ -129,8 +130,8 @@ public:
     /// The group under which the host lists the action.
     virtual QString GetGroupName() = 0;
 
-    /// What kind of action it is, one bit for each property. What the bits mean is the host's matter alone: an
-    /// action reports the number that it was given there and never acts on it. The number does not change
+    /// What kind of action it is, one bit for each property. What the bits mean is the host's matter alone:
+    /// an action reports the number that it was given there and never acts on it. The number does not change
     /// while the module is loaded.
     virtual int GetActionFlags() = 0;
 

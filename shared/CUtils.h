@@ -10,9 +10,9 @@
 /// The host's per-user folders, fresh temporary names, what the machine can draw, and the arithmetic of
 /// placing items on a page; all static.
 ///
-/// Nothing here throws or shows a message. The folder getters may be called from any thread; they only compose
-/// paths: they neither create nor check anything, and some paths hold a doubled slash, which the file system
-/// reads as one. Paths are absolute unless said. None ends with a slash except GetAppDataToolsFolder.
+/// Nothing here throws or shows a message. The folder getters may be called from any thread; they only
+/// compose paths: they neither create nor check anything, and some paths hold a doubled slash, which the file
+/// system reads as one. Paths are absolute unless said. None ends with a slash except GetAppDataToolsFolder.
 class CUtils
 {
 public:
@@ -60,8 +60,8 @@ public:
     static QString GetNewTempFile(char* prefix);
 
     /// Whether OpenGL is good enough for translucent windows. False without a GUI application, without a
-    /// usable driver, and off the GUI thread. The first answer that a GUI application gives is kept, as asking
-    /// takes a context and some time.
+    /// usable driver, and off the GUI thread. The first answer that a GUI application gives is kept, as
+    /// asking takes a context and some time.
     static bool CheckOpenGLSupport();
 
     /// The test behind CheckOpenGLSupport.

@@ -7,9 +7,9 @@
 
 namespace engine {
 
-/// The buffers in which a caller of the library hands over its strings. A caller creates one, adds bytes to it
-/// and names it in a call by its address. Pointers that are not known here are never followed, so a caller's
-/// mistake is an error and no crash. One thread at a time, as the session that owns them.
+/// The buffers in which a caller of the library hands over its strings. A caller creates one, adds bytes to
+/// it and names it in a call by its address. Pointers that are not known here are never followed, so a
+/// caller's mistake is an error and no crash. One thread at a time, as the session that owns them.
 class Buffers
 {
 public:

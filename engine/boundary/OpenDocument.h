@@ -16,8 +16,8 @@ struct OpenDocument
         : document(std::move(source), std::move(fileName), password), pages(document)
     {}
 
-    /// Opens the document whole, by libqpdf, when reading it piece by piece came to its end. The selected page
-    /// and all changes stay; handles of objects that were got before are not to be used any more, so the
+    /// Opens the document whole, by libqpdf, when reading it piece by piece came to its end. The selected
+    /// page and all changes stay; handles of objects that were got before are not to be used any more, so the
     /// operation that came to the end runs again from its beginning.
     void readWhole()
     {

@@ -14,9 +14,9 @@ class Session;
 /// are views that are valid during the call; results are values. An operation works on the selected document
 /// unless it says otherwise. Those that change or find something return 1 for done, also where nothing had to
 /// change. A failure is thrown as an EngineError, which becomes 0 or an empty string for the caller and the
-/// code of LastErrorCode, and leaves the document as it was: NoDocument where none is selected, BadArgument for
-/// a number outside its range, UnknownDocument, UnknownPage, UnknownDestination for an id or number that is
-/// none. std::bad_alloc becomes OutOfMemory. Documents are read piece by piece: any operation may run into
+/// code of LastErrorCode, and leaves the document as it was: NoDocument where none is selected, BadArgument
+/// for a number outside its range, UnknownDocument, UnknownPage, UnknownDestination for an id or number that
+/// is none. std::bad_alloc becomes OutOfMemory. Documents are read piece by piece: any operation may run into
 /// damage there and throw Damaged.
 namespace operations {
 

@@ -15,17 +15,17 @@
 
 namespace engine {
 
-/// What one library instance holds: buffers, open documents, destinations, the last result and the last error.
-/// A session is used by one thread at a time; different sessions share nothing but the list of their ids, which
-/// may be used from any thread.
+/// What one library instance holds: buffers, open documents, destinations, the last result and the last
+/// error. A session is used by one thread at a time; different sessions share nothing but the list of their
+/// ids, which may be used from any thread.
 class Session
 {
 public:
     /// Makes a session, which the list of ids owns.
     /// \returns its id from 1 up, never used twice; 0 when they are used up.
     static int create();
-    /// Takes a session off the list. It ends with the last call that is still at work in it; its documents are
-    /// closed without being saved. An unknown id is ignored.
+    /// Takes a session off the list. It ends with the last call that is still at work in it; its documents
+    /// are closed without being saved. An unknown id is ignored.
     static void release(int instance);
     /// \returns the session, kept alive as long as the pointer; null for an id that is not in use.
     static std::shared_ptr<Session> find(int instance);

@@ -28,9 +28,9 @@ class CQuintarDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// \param parent its ancestors decide the colours: the nearest one named "QuintarClass" is the host's main
-    ///     window, or named "QuintarPreviewClass" its preview, over which the dialog centres itself. Null for a
-    ///     dialog of no host.
+    /// \param parent its ancestors decide the colours: the nearest one named "QuintarClass" is the host's
+    ///     main window, or named "QuintarPreviewClass" its preview, over which the dialog centres itself.
+    ///     Null for a dialog of no host.
     /// \param dialogFlag kept for derived dialogs; the frame makes no use of it.
     CQuintarDialog(QWidget* parent, bool dialogFlag);
     ~CQuintarDialog() override;
@@ -44,8 +44,8 @@ public:
     /// Puts the derived dialog's widget below the header, and sizes and centres the dialog by that widget's
     /// size: over the preview that it is opened from, else on the first screen. To be called once, when the
     /// widget has all its children. Lists and spin boxes among them turn by the wheel only with the focus.
-    /// \param mainWidget should be named "main_widget", as the frame's style sheet colours that one white; the
-    ///     dialog owns it from now on.
+    /// \param mainWidget should be named "main_widget", as the frame's style sheet colours that one white;
+    ///     the dialog owns it from now on.
     /// \param fixedSize the dialog cannot be resized, and gets a smaller font where texts would be cut off;
     ///     else the widget's size is the least one.
     void QDaddMainWidget(QWidget* mainWidget, bool fixedSize);

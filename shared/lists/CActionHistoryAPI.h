@@ -8,8 +8,8 @@
 #include <QString>
 #include <QVariant>
 
-/// Stores favourites and steps through the stored ones of a tool, newest first. A favourite is one file in the
-/// collections folder (CUtils::GetCollectionsFolder): a settings map with an icon.
+/// Stores favourites and steps through the stored ones of a tool, newest first. A favourite is one file in
+/// the collections folder (CUtils::GetCollectionsFolder): a settings map with an icon.
 ///
 /// Made for one use: the files are listed once, at construction, and what is stored later is not among them.
 /// GUI thread only. Nothing thrown leaves it; failures show in the results.

@@ -28,8 +28,8 @@ signals:
     void actionListChanged(QString name);
 
 public slots:
-    /// Stores the settings and accepts, unless the name is blank. Failures are not shown: the dialog closes as
-    /// after success.
+    /// Stores the settings and accepts, unless the name is blank. Failures are not shown: the dialog closes
+    /// as after success.
     void on_Save();
     /// A blank name cannot be saved.
     void on_UpdateUI();

@@ -18,8 +18,8 @@ public:
     explicit CSaveAsCollectionDialog(QWidget* parent, Qt::WindowFlags flags = Qt::WindowFlags());
 
     /// Lends the settings to the dialog, before it is shown and until it is closed; null takes them back, and
-    /// saving then does nothing. Saving a favourite puts "CollectionName" into them; a file holds them as they
-    /// are.
+    /// saving then does nothing. Saving a favourite puts "CollectionName" into them; a file holds them as
+    /// they are.
     void LoadPrefsData(QMap<QString, QVariant>* prefs);
 
 public slots:
