@@ -195,8 +195,8 @@ void shrinkFontToFit(QWidget& frame, const QSize& room)
 
 } // namespace
 
-CQuintarDialog::CQuintarDialog(QWidget* parent, bool dialogFlag)
-    : QDialog(parent, Qt::FramelessWindowHint), framelessHandler(nullptr), dialogFlag(dialogFlag)
+CQuintarDialog::CQuintarDialog(QWidget* parent, bool flag)
+    : QDialog(parent, Qt::FramelessWindowHint), framelessHandler(nullptr), dialogFlag(flag)
 {
     const Host host = findHost(parent);
     const bool translucent = CUtils::CheckOpenGLSupport();

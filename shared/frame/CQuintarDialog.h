@@ -31,8 +31,8 @@ public:
     /// \param parent its ancestors decide the colours: the nearest one named "QuintarClass" is the host's
     ///     main window, or named "QuintarPreviewClass" its preview, over which the dialog centres itself.
     ///     Null for a dialog of no host.
-    /// \param dialogFlag kept for derived dialogs; the frame makes no use of it.
-    CQuintarDialog(QWidget* parent, bool dialogFlag);
+    /// \param flag kept for derived dialogs; the frame makes no use of it.
+    CQuintarDialog(QWidget* parent, bool flag);
     ~CQuintarDialog() override;
 
 public slots:

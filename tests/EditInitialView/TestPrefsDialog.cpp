@@ -31,10 +31,10 @@ class Dialog : public CPrefsDialog
 public:
     explicit Dialog(QWidget* parent = nullptr) : CPrefsDialog(parent)
     {
-        fill(ui.NavigationTabComboBox, navigationLabels);
-        fill(ui.PageLayoutComboBox, pageLayoutLabels);
-        fill(ui.MagnificationComboBox, magnificationLabels);
-        fill(ui.ShowComboBox, titleLabels);
+        for (const Key& key : keys)
+            if (!key.rows.empty())
+                for (const char* row : key.rows)
+                    findChild<QComboBox*>(key.name)->addItem(row);
     }
 
     Prefs prefs()
@@ -48,14 +48,6 @@ public:
     {
         SetPrefs(&prefs);
         return this->prefs();
-    }
-
-private:
-    template <class Labels>
-    static void fill(QComboBox* list, const Labels& labels)
-    {
-        for (const char* label : labels)
-            list->addItem(label);
     }
 };
 
