@@ -669,13 +669,14 @@ private slots:
         const ProgramRun words = quintar({"show", "a.pdf", "plain.pdf"});
         QCOMPARE(words.status, 0);
         for (const char* line :
-             {"a.pdf\n  Pages                 3\n", "  Navigation tab        Conten Group Panel and Page\n",
-              "  Page layout           Two pages, odd-numbered pages on the right\n",
-              "  Open at page          2\n  Magnification         150%\n",
-              "  Hide tool bars        yes\n  Hide menu bar         no\n",
-              "  After full screen     Pages Panel and Page\n",
-              "  Page layout           No preference set in document\n",
-              "  Open at page          not set in document\n"})
+             {"a.pdf\n  Pages                          3\n",
+              "  Navigation tab                 Conten Group Panel and Page\n",
+              "  Page layout                    Two pages, odd-numbered pages on the right\n",
+              "  Magnification                  150%\n  Open to page                   2\n",
+              "  Hide tool bars                 yes\n  Hide menu bar                  no\n",
+              "  After full screen              Pages Panel and Page\n",
+              "  Page layout                    No preference set in document\n",
+              "  Open to page                   not set in document\n"})
             QVERIFY2(words.out.contains(line), words.out);
         const ProgramRun json = quintar({"show", "--json", "a.pdf", "missing.pdf", "plain.pdf"});
         QCOMPARE(json.status, 1);
