@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <set>
 #include <string_view>
 
 namespace engine {
@@ -80,7 +81,10 @@ CrossReference::CrossReference(QPDF& pdf, const DirectReader& reader)
 void CrossReference::readChain(QPDF& pdf, std::uint64_t offset)
 {
     bool newest = true;
+    std::set<std::uint64_t> visited;
     while (newest || offset != 0) {
+        if (!visited.insert(offset).second)
+            refuse("the sections of the cross-reference form a loop");
         const Section section = readSection(pdf, offset);
         QPDFObjectHandle dictionary = section.dictionary;
         if (newest) {
@@ -89,6 +93,7 @@ void CrossReference::readChain(QPDF& pdf, std::uint64_t offset)
             m_trailer = dictionary;
             newest = false;
         }
+        // Several sections may share one stream. It leads nowhere, so it is no part of a loop.
         if (section.kind == Kind::Table && dictionary.hasKey("/XRefStm"))
             readSection(pdf, dictionary.getKey("/XRefStm").getUIntValue());
         QPDFObjectHandle previous = dictionary.getKey("/Prev");
@@ -100,8 +105,6 @@ void CrossReference::readChain(QPDF& pdf, std::uint64_t offset)
 
 CrossReference::Section CrossReference::readSection(QPDF& pdf, std::uint64_t offset)
 {
-    if (!m_visited.insert(offset).second)
-        refuse("the sections of the cross-reference form a loop");
     if (offset >= m_source->size())
         refuse("a section of the cross-reference lies behind the end");
     const std::uint64_t position = skipWhitespace(m_headerOffset + offset);

@@ -8,7 +8,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <set>
 
 namespace engine {
 
@@ -66,7 +65,6 @@ private:
     std::shared_ptr<const ByteSource> m_source;
     std::shared_ptr<InputSource> m_input;
     QPDFTokenizer m_tokenizer;
-    std::set<std::uint64_t> m_visited;
     Kind m_kind = Kind::Table;
     std::uint64_t m_newestOffset = 0;
     std::uint64_t m_headerOffset = 0;
