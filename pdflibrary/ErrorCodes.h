@@ -98,8 +98,8 @@ constexpr bool isDoubt(ErrorCode code)
     return code >= ErrorCode::NewestRevisionUncertain && code <= ErrorCode::ObjectsUncertain;
 }
 
-/// Whether a code tells that nothing can be appended to a document. Where there is no doubt SaveToFile may still
-/// be able to write it.
+/// Whether a code tells that nothing can be appended to a document. Where there is no doubt SaveToFile may
+/// still be able to write it.
 constexpr bool cannotAppend(ErrorCode code)
 {
     return code == ErrorCode::CannotAppend || code == ErrorCode::StreamLengthsWrong || isDoubt(code);
