@@ -1,6 +1,7 @@
 #include "SettingsOutput.h"
 
 #include "host/files/FileDescriptor.h"
+#include "host/files/Links.h"
 #include "host/files/SafeOutput.h"
 #include "host/terminal/UsageError.h"
 
@@ -30,18 +31,9 @@ bool endsWith(std::string_view text, std::string_view end)
     return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
 
-/// What a symbolic link leads to; other paths are themselves.
-std::string linkTarget(const std::string& path)
-{
-    const std::string target = wholefile::behindLinks(QByteArray::fromStdString(path)).toStdString();
-    if (target.empty())
-        throw UsageError(path + " cannot be written: " + systemError(ELOOP));
-    return target;
-}
-
 } // namespace
 
-SettingsOutput::SettingsOutput(const std::string& path) : m_path(linkTarget(path)), m_kind(kindOf(path))
+SettingsOutput::SettingsOutput(const std::string& path) : m_path(behindLink(path)), m_kind(kindOf(path))
 {
     checkPlace();
 }

@@ -106,7 +106,7 @@ private:
     void skipEscaped()
     {
         const Bytes pair = m_bytes.substr(std::min(m_at + 1, m_bytes.size()), 2);
-        m_at += pair == "\r\n" || pair == "\n\r" ? 2 : 1;
+        m_at += pair == "\r\n" || pair == "\n\r" ? std::size_t{2} : std::size_t{1};
     }
 
     Bytes m_bytes;

@@ -2,9 +2,11 @@
 
 #include "VariantBytes.h"
 
+#include <QDateTime>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
+#include <QTimeZone>
 
 #include <algorithm>
 
@@ -98,6 +100,8 @@ bool hasStoredForm(const QVariant& value, int depth)
         return all(value.toList());
     case QMetaType::QVariant:
         return hasStoredForm(*static_cast<const QVariant*>(value.constData()), depth + 1);
+    case QMetaType::QDateTime: // writing one of an unknown zone would crash
+        return value.toDateTime().timeSpec() != Qt::TimeZone || value.toDateTime().timeZone().isValid();
     case QMetaType::Void:
     case QMetaType::VoidStar:
     case QMetaType::QObjectStar:

@@ -1,8 +1,10 @@
 #include "VariantBytes.h"
 
 #include <QBrush>
+#include <QDateTime>
 #include <QEasingCurve>
 #include <QGuiApplication>
+#include <QTimeZone>
 #include <QtEndian>
 
 #include <algorithm>
@@ -138,10 +140,12 @@ std::optional<QVariant> VariantBytes::read()
     stream.setVersion(m_version);
     QVariant value;
     stream >> value;
-    if (stream.status() == QDataStream::Ok && stream.atEnd())
-        return value;
-    refuse("is damaged");
-    return std::nullopt;
+    const QDateTime date = m_version == QDataStream::Qt_4_0 ? QDateTime() : value.toDateTime();
+    if (stream.status() != QDataStream::Ok || !stream.atEnd())
+        refuse("is damaged");
+    else if (date.timeSpec() == Qt::TimeZone && !date.timeZone().isValid())
+        refuse("names no time zone");
+    return m_problem.isEmpty() ? std::optional(value) : std::nullopt;
 }
 
 bool VariantBytes::variant(int depth)

@@ -300,6 +300,10 @@ private slots:
             "holds a picture of 100000 x 100000 pixels, which is too large");
         row("many parts", variant(word(QMetaType::QRegion) + word(8 + 16 * 20000) + word(10) + word(20000)),
             "holds a region that is damaged or has too many parts");
+        row("a zone of nobody",
+            variant(word(QMetaType::QDateTime) + QByteArray(13, 0) + "\3" + word(4) + QByteArray("\0Q\0x", 4),
+                    "@DateTime("),
+            "names no time zone");
         row("a zone elsewhere",
             variant(word(QMetaType::QDateTime) + QByteArray(13, 0) + "\3" + word(8) +
                         QByteArray("\0.\0.\0/\0x", 8),

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QPen>
 #include <QPixmap>
 #include <QSettings>
@@ -183,6 +184,25 @@ private slots:
         QCOMPARE(person::tabOrder(collection),
                  (QStringList{"icon_toolButton", "collectionNameLineEdit", "saveSettingsToFileButton",
                               "saveButton", "cancelButton"}));
+    }
+
+    // Return saves as the ticked choice says, whatever has the focus: so that is where the focus goes.
+    void leadsBackFromTheNameToTheTickedChoice()
+    {
+        CSaveAsActionlistDialog list(&m_parent);
+        open(list, &m_prefs);
+        const auto before = [&list] {
+            list.ui.actionListNameLineEdit->setFocus();
+            QTest::keyClick(list.ui.actionListNameLineEdit, Qt::Key_Tab, Qt::ShiftModifier);
+            return list.focusWidget()->objectName();
+        };
+        QCOMPARE(before(), QString("newActionListRadioButton"));
+        click(list.ui.addToActionListRadioButton);
+        QCOMPARE(before(), QString("addToActionListRadioButton"));
+        QTest::keyClick(list.focusWidget(), Qt::Key_Up);
+        QCOMPARE(before(), QString("newActionListRadioButton"));
+        list.ui.addToActionListRadioButton->setChecked(true);
+        QCOMPARE(before(), QString("addToActionListRadioButton"));
     }
 
     void savesOnlyUnderAVisibleName()
@@ -402,6 +422,9 @@ private slots:
         CSaveAsCollectionDialog dialog(&m_parent);
         open(dialog, &m_prefs);
         person::namesFile(path);
+        person::whenOpens("QMessageBox", [](QDialog& box) { // whether the file is to be replaced
+            static_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
+        });
         click(dialog.ui.saveSettingsToFileButton);
         QCOMPARE(keysOf(path), (QStringList{"ToolSettings", "a/b/c"}));
         QCOMPARE(stored(path, "ToolSettings").toMap(), m_prefs);
