@@ -100,6 +100,9 @@ enum SecurityItem {
     ModificationAllowed = 102,
     /// 1 when the document differs from what was loaded, else 0.
     UnsavedChanges = 103,
+    /// 1 when the document is certified: its author allows no other changes than those that the certification
+    /// names, else 0.
+    Certification = 104,
 };
 
 } // namespace engine

@@ -175,6 +175,8 @@ int SecurityInfo(Session& session, int item)
         return modificationAllowed(document.pdf());
     case UnsavedChanges:
         return document.changedObjects().empty() ? 0 : 1;
+    case Certification:
+        return isCertified(document);
     default:
         throw EngineError(ErrorCode::NotAvailable);
     }

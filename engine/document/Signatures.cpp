@@ -33,8 +33,9 @@ public:
             QPDFObjectHandle type = m_document.key(field, "/FT"); // inherited by the kids
             if (type.isName())
                 isSignature = type.isNameAndEquals("/Sig");
-            if (isSignature)
-                add(m_document.key(field, "/V"));
+            QPDFObjectHandle value = m_document.key(field, "/V");
+            if (isSignature || isSigning(value))
+                add(value);
             push(waiting, m_document.key(field, "/Kids"), isSignature);
         }
     }
@@ -47,6 +48,9 @@ private:
         QPDFObjectHandle dictionary;
         bool isSignature;
     };
+
+    /// Whatever the field's type, what covers bytes of the file breaks when they change.
+    bool isSigning(const QPDFObjectHandle& value) { return !m_document.key(value, "/ByteRange").isNull(); }
 
     void push(std::vector<Field>& waiting, QPDFObjectHandle kids, bool isSignature)
     {
@@ -73,6 +77,12 @@ int countSignatures(Document& document)
         for (const char* kind : {"/DocMDP", "/UR", "/UR3"})
             counter.add(document.key(permissions, kind));
     return counter.count();
+}
+
+bool isCertified(Document& document)
+{
+    const QPDFObjectHandle permissions = document.key(document.catalog(), "/Perms");
+    return document.key(permissions, "/DocMDP").isDictionary();
 }
 
 } // namespace engine

@@ -59,8 +59,9 @@ Options:
   --report FILE.jsonl       writes a JSON object a line about each document
   --resume FILE.jsonl       leaves out what the report of an earlier run lists as done, unless a file has changed
                             since; may be the same file as --report, which is continued then
-  --signed refuse|append    what becomes of signed documents: refused (the default), or changed by an update
-                            behind what is signed
+  --signed refuse|append|append-certified
+                            what becomes of signed documents: refused (the default), or changed by an update
+                            behind what is signed; certified ones are refused unless append-certified is given
   --dry-run                 writes nothing and tells what would be changed
   --sync                    with -o, flushes each document to the disk before the next; in place that is always so
   --jobs N                  works on N documents at a time (default: the number of processors)
@@ -101,8 +102,10 @@ SignedDocuments signedDocuments(const std::string& value)
 {
     if (value == "append")
         return SignedDocuments::Append;
+    if (value == "append-certified")
+        return SignedDocuments::AppendCertified;
     if (value != "refuse")
-        throw UsageError("--signed takes refuse or append, not \"" + value + "\"");
+        throw UsageError("--signed takes refuse, append or append-certified, not \"" + value + "\"");
     return SignedDocuments::Refuse;
 }
 

@@ -58,6 +58,7 @@ std::string DocumentResult::toRecord() const
         .add(milliseconds)
         .add(fileState)
         .add(outputState)
+        .add(static_cast<std::int64_t>(certified))
         .bytes();
 }
 
@@ -70,13 +71,14 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     const std::int64_t milliseconds = reader.number();
     std::string fileState = reader.text();
     std::string outputState = reader.text();
+    const bool certified = reader.number() != 0;
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);
     if (!reader.complete() || !known)
         return std::nullopt;
-    return DocumentResult{static_cast<Status>(status), static_cast<Saved>(saved),
-                          std::move(reason),           milliseconds,
-                          std::move(fileState),        std::move(outputState)};
+    return DocumentResult{
+        static_cast<Status>(status), static_cast<Saved>(saved), std::move(reason), milliseconds,
+        std::move(fileState),        std::move(outputState),    certified};
 }
 
 } // namespace host

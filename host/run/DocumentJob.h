@@ -39,6 +39,8 @@ struct DocumentResult
     /// it is now. Empty for a document that failed, and when nothing was to be written.
     std::string fileState = {};
     std::string outputState = {};
+    /// The document carries a certification; false when it could not be read.
+    bool certified = false;
 
     static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;

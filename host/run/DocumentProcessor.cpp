@@ -84,6 +84,7 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     const int document = m_library.SelectedDocument();
     m_library.SelectDocument(document);
     DocumentResult result = applyAndSave(job);
+    result.certified = m_library.SecurityInfo(engine::Certification) != 0;
     m_library.RemoveDocument(document);
     if (result.status != Status::Failed && m_options.tellStates && !m_options.dryRun) {
         result.outputState = stateOf(job.target);
@@ -121,6 +122,10 @@ std::string DocumentProcessor::refusal()
 {
     if (m_library.SecurityInfo(engine::ModificationAllowed) == 0)
         return "its encryption does not allow changes; the owner password is needed";
+    if (m_options.signedDocuments != SignedDocuments::AppendCertified &&
+        m_library.SecurityInfo(engine::Certification) != 0)
+        return "it is certified, and no certification allows a change of how it opens; "
+               "--signed append-certified changes it all the same";
     if (m_options.signedDocuments == SignedDocuments::Refuse &&
         m_library.SecurityInfo(engine::SignatureCount) > 0)
         return "it is signed, and viewers report any later change; --signed append changes it all the same";

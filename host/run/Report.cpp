@@ -88,6 +88,8 @@ std::string Report::toJson(const Line& line)
     insertName(object, "output", line.output);
     object.insert("status", nameOf(line.result.status));
     object.insert("saved", textOrNull(nameOf(line.result.saved)));
+    if (line.result.certified)
+        object.insert("certified", true);
     object.insert("reason", textOrNull(line.result.reason));
     object.insert("milliseconds", static_cast<qint64>(line.result.milliseconds));
     object.insert("fileState", textOrNull(line.result.fileState));

@@ -231,6 +231,7 @@ private slots:
         row("signed field", "/AcroForm << /Fields [11 0 R] >>", 1);
         row("type inherited, in a circle", "/AcroForm << /Fields [12 0 R] >>", 1);
         row("text field", "/AcroForm << /Fields [14 0 R] >>", 0);
+        row("signed text field", "/AcroForm << /Fields [16 0 R] >>", 1);
         row("certified", std::string("/AcroForm << /Fields [11 0 R] >> /Perms << /DocMDP 20 0 R >>"), 1);
         row("usage rights", "/Perms << /UR3 20 0 R >>", 1);
         row("two", "/AcroForm << /Fields [11 0 R 15 0 R 11 0 R null] >>", 2);
@@ -250,10 +251,12 @@ private slots:
                                    .object(13, "<< /V 20 0 R /Parent 12 0 R >>")
                                    .object(14, "<< /FT /Tx /V << /Type /Sig >> >>")
                                    .object(15, "<< /FT /Sig /V << /Type /Sig >> >>")
+                                   .object(16, "<< /FT /Tx /V 20 0 R >>")
                                    .object(20, "<< /Type /Sig /ByteRange [0 1 2 3] >>")
                                    .bytes(),
                                L"");
         QCOMPARE(library.SecurityInfo(engine::SignatureCount), count);
+        QCOMPARE(library.SecurityInfo(engine::Certification), int(catalog.find("/DocMDP") != catalog.npos));
         QCOMPARE(library.SecurityInfo(engine::ModificationAllowed), 1);
         QCOMPARE(library.SecurityInfo(100), 0);
         QCOMPARE(errorOf(library), ErrorCode::NotAvailable);
@@ -281,7 +284,7 @@ private slots:
                      QByteArray(
                          "<< /DisplayDocTitle true /HideToolbar true /NonFullScreenPageMode /UseThumbs >>"));
             QCOMPARE(shown(path, "OpenAction/1/Rotate"), QByteArray("90"));
-            QVERIFY(shown(path, "OpenAction").endsWith(" 0 R /XYZ 10 700 1.25 ]"));
+            QVERIFY(shown(path, "OpenAction").endsWith(" 0 R /XYZ 10 0 1.25 ]"));
             LoadedLibrary again;
             QCOMPARE(again.LoadFromFile(wide(path), L""), 1);
             QCOMPARE(again.GetDestPage(again.GetOpenActionDestination()), 2);
