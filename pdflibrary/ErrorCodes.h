@@ -36,6 +36,7 @@ enum class ErrorCode : int {
     WrongPassword = 43,
     UnsupportedEncryption = 44,
     TooComplex = 45,
+    TooMuchWork = 46,
 };
 
 struct ErrorText
@@ -73,6 +74,7 @@ inline constexpr std::array errorTexts{
     ErrorText{ErrorCode::WrongPassword,         "a password is needed, and the one given is not right"},
     ErrorText{ErrorCode::UnsupportedEncryption, "the document's encryption is not supported"},
     ErrorText{ErrorCode::TooComplex,            "the document is nested too deeply or refers to itself"},
+    ErrorText{ErrorCode::TooMuchWork,           "the document needs far more work than its size explains"},
 };
 // clang-format on
 
@@ -102,7 +104,7 @@ enum SecurityItem {
     UnsavedChanges = 103,
     /// 1 when the document is certified: its author allows no other changes than those that the certification
     /// names, else 0.
-    Certification = 104,
+    Certification = 105,
 };
 
 } // namespace engine

@@ -2,6 +2,7 @@
 #include "Operations.h"
 #include "Session.h"
 #include "engine/files/EngineError.h"
+#include "engine/update/SourceInput.h"
 
 #include <algorithm>
 #include <climits>
@@ -109,6 +110,8 @@ ErrorCode codeOfCurrentException() noexcept
         return error.code();
     } catch (const QPDFExc& error) {
         return errorCodeOf(error);
+    } catch (const WorkBudgetSpent&) {
+        return ErrorCode::TooMuchWork;
     } catch (const std::bad_alloc&) {
         return ErrorCode::OutOfMemory;
     } catch (const std::logic_error&) {
