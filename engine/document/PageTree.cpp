@@ -1,6 +1,7 @@
 #include "PageTree.h"
 
 #include "Document.h"
+#include "engine/files/ByteSource.h"
 #include "engine/files/EngineError.h"
 #include "engine/syntax/SyntaxScanner.h"
 
@@ -16,6 +17,9 @@ namespace {
 
 // Up to this many pages the whole tree is read, and so counts that lie do no harm.
 const int smallTree = 256;
+
+// Nodes can share one array of kids, and so list more pages than the document has bytes.
+const std::size_t mostListed = 250'000;
 
 enum class Kind { Page, Node, Neither };
 
@@ -304,7 +308,9 @@ std::optional<PagePath> PageTree::descend(int number)
 class PageTree::Walker
 {
 public:
-    explicit Walker(Document& document) : m_document(document) {}
+    explicit Walker(Document& document)
+        : m_document(document), m_mostKids(mostListed + document.source()->size())
+    {}
 
     void walk(const QPDFObjectHandle& root)
     {
@@ -342,6 +348,8 @@ private:
 
     void meetNextKid()
     {
+        if (++m_kids > m_mostKids)
+            throw EngineError(ErrorCode::TooMuchWork);
         Step& step = m_steps.back();
         const int kid = step.next++;
         const int node = step.node;
@@ -361,6 +369,8 @@ private:
     }
 
     Document& m_document;
+    std::size_t m_mostKids;
+    std::size_t m_kids = 0;
     std::vector<Step> m_steps;
     std::set<QPDFObjGen> m_seen;
 };
