@@ -3,6 +3,7 @@
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
 #include "host/program/HostApplication.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"

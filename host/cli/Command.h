@@ -1,7 +1,5 @@
 #pragma once
 
-#include "host/terminal/ExitStatus.h"
-
 namespace host {
 
 /// One of the program's commands.

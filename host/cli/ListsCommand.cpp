@@ -4,6 +4,7 @@
 
 #include "host/settings/SettingsFolder.h"
 #include "host/settings/SettingsWords.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"

@@ -11,6 +11,7 @@
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsFolder.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"
@@ -66,7 +67,7 @@ Options:
   --jobs N                  works on N documents at a time (default: the number of processors)
   --timeout SECONDS         gives a document up after this time (default: 60)
   --memory MIB              gives a document up that needs more memory (default: 1024)
-  --quiet                   prints failures only
+  --quiet                   prints failures and notes only
   -h, --help                prints this text
 
 Exit status: 0 all well, 1 some documents failed, 2 nothing was begun, 130 stopped by a signal.

@@ -3,6 +3,7 @@
 #include "OptionParser.h"
 
 #include "host/program/InstallLayout.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"

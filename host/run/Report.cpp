@@ -58,12 +58,16 @@ bool Report::isRegular() const
 
 void Report::lock()
 {
-    if (!isRegular() || flock(m_file.get(), LOCK_EX | LOCK_NB) == 0)
+    if (!isRegular())
         return;
-    if (errno == EWOULDBLOCK)
+    const int problem = flock(m_file.get(), LOCK_EX | LOCK_NB) == 0 ? 0 : errno;
+    struct stat status; // another run may have removed a file that it had not begun
+    const bool isGone = problem == 0 && fstat(m_file.get(), &status) == 0 && status.st_nlink == 0;
+    if (problem == EWOULDBLOCK || isGone)
         throw UsageError("the report " + m_path + " is being written by another run");
-    note("the report " + m_path + " cannot be locked (" + systemError(errno) +
-         "); no other run may write it meanwhile");
+    if (problem != 0)
+        note("the report " + m_path + " cannot be locked (" + systemError(problem) +
+             "); no other run may write it meanwhile");
 }
 
 void Report::begin()

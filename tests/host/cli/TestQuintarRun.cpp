@@ -13,6 +13,7 @@
 #include <optional>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -622,6 +623,41 @@ private slots:
         const ProgramRun refused = resumed(inPlace, "other");
         QCOMPARE(refused.status, 2);
         QVERIFY2(refused.err.contains("line 1 tells nothing of a document"), refused.err);
+    }
+
+    void refusesAReportThatAnotherRunWrites()
+    {
+        put("a.pdf");
+        const std::string lines = put("report", "lines of another run\n");
+        const int report = open("report", O_WRONLY | O_CLOEXEC);
+        QCOMPARE(flock(report, LOCK_EX), 0);
+        for (const QStringList& resume : {QStringList(), QStringList{"--resume", "report"}}) {
+            const ProgramRun run = apply(QStringList{"-o", "out", "--report", "report", "a.pdf"} + resume);
+            QCOMPARE(run.status, 2);
+            QCOMPARE(run.err, QByteArray("quintar: the report report is being written by another run\n"));
+            QVERIFY(WorkFolder::contentOf("report") == lines);
+            QVERIFY(!fs::exists("out"));
+        }
+        close(report);
+        QCOMPARE(apply({"-o", "out", "--report", "report", "a.pdf"}).status, 0);
+    }
+
+    void tellsWhatCouldNotBeKept()
+    {
+        if (geteuid() != 0)
+            QSKIP("only root can have files that are not the user's own");
+        put("d/a.pdf");
+        QCOMPARE(chmod(".", 0711), 0);
+        QCOMPARE(chown("d", 65534, 65534), 0);
+        const ProgramRun run("setpriv",
+                             QStringList{"--reuid=65534", "--regid=65534", "--clear-groups", PROGRAM_FILE,
+                                         "run", "--in-place", "--report", "d/report", "--quiet", "d/a.pdf"} +
+                                 panelAndPage,
+                             m_folder->path());
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.err, QByteArray("note: d/a.pdf: could not be kept: owner, group\n"));
+        QVERIFY(WorkFolder::contentOf("d/report").find("\"note\":\"could not be kept: owner, group\"") !=
+                std::string::npos);
     }
 
     void showsHowDocumentsOpen()
