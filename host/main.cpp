@@ -40,8 +40,8 @@ std::string helpText(const Commands& commands)
     return text + "\nquintar COMMAND --help tells about a command; quintar --version prints the version.\n";
 }
 
-/// Else a document or the report could be opened in the place of a closed one, and what is printed would go
-/// into it. Opened the wrong way round, reading and printing still fail.
+/// Keeps a document or the report from getting the number of a closed standard stream, where printed text
+/// would go into it. stdin is opened for writing and the others for reading, so that using them still fails.
 void occupyStandardDescriptors()
 {
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})

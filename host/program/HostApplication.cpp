@@ -17,8 +17,7 @@ namespace host::hostapplication {
 
 namespace {
 
-/// Images that the style sheets name without meaning them, colours that this Qt finds incomplete, and slots
-/// that the dialogs do without.
+/// Harmless Qt warnings from the dialogs' style sheets and missing slots; not shown.
 constexpr std::array frameComplaints{"Could not create pixmap from", "QCssParser::parseColorValue",
                                      "QObject::connect: No such slot CQuintarDialog::"};
 

@@ -53,7 +53,7 @@ SettingsOutput::Kind SettingsOutput::kindOf(const std::string& path)
                      path);
 }
 
-/// Asked early: nobody is to make settings that then cannot be kept.
+/// Checked before the dialog opens, so that no choices are lost.
 void SettingsOutput::checkPlace() const
 {
     struct stat status;
