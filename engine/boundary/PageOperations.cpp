@@ -6,6 +6,8 @@
 
 namespace engine::operations {
 
+using namespace pdflibrary;
+
 namespace {
 
 const PagePath& selectedPage(Session& session)
@@ -17,17 +19,17 @@ const PagePath& selectedPage(Session& session)
 double dimensionOf(const QPDFObjectHandle::Rectangle& box, int dimension)
 {
     switch (dimension) {
-    case pdflibrary::BoxLeft:
+    case BoxLeft:
         return box.llx;
-    case pdflibrary::BoxTop:
+    case BoxTop:
         return box.ury;
-    case pdflibrary::BoxWidth:
+    case BoxWidth:
         return box.urx - box.llx;
-    case pdflibrary::BoxHeight:
+    case BoxHeight:
         return box.ury - box.lly;
-    case pdflibrary::BoxRight:
+    case BoxRight:
         return box.urx;
-    case pdflibrary::BoxBottom:
+    case BoxBottom:
         return box.lly;
     default:
         throw EngineError(ErrorCode::BadArgument);
@@ -57,7 +59,7 @@ int SelectedPage(Session& session)
 double GetPageBox(Session& session, int box, int dimension)
 {
     OpenDocument& open = session.document();
-    if (box < pdflibrary::MediaBox || box > pdflibrary::ArtBox)
+    if (box < MediaBox || box > ArtBox)
         throw EngineError(ErrorCode::BadArgument);
     if (open.lastBox.page != open.selectedPage || open.lastBox.box != box)
         open.lastBox = {open.selectedPage, box, pageBox(open.document, selectedPage(session), box)};
@@ -66,12 +68,12 @@ double GetPageBox(Session& session, int box, int dimension)
 
 double PageWidth(Session& session)
 {
-    return GetPageBox(session, pdflibrary::MediaBox, pdflibrary::BoxWidth);
+    return GetPageBox(session, MediaBox, BoxWidth);
 }
 
 double PageHeight(Session& session)
 {
-    return GetPageBox(session, pdflibrary::MediaBox, pdflibrary::BoxHeight);
+    return GetPageBox(session, MediaBox, BoxHeight);
 }
 
 int PageRotation(Session& session)

@@ -6,7 +6,6 @@
 #include "pdflibrary/ViewNumbers.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace engine {
@@ -16,8 +15,6 @@ namespace {
 using pdflibrary::CropBox;
 using pdflibrary::MediaBox;
 using Rectangle = QPDFObjectHandle::Rectangle;
-
-const std::array boxKeys{"", "/MediaBox", "/CropBox", "/BleedBox", "/TrimBox", "/ArtBox"};
 
 // What viewers take for a page that states no size.
 const Rectangle letterSize(0, 0, 612, 792);
@@ -60,7 +57,7 @@ Rectangle shownBox(Document& document, const PagePath& path)
 
 Rectangle pageBox(Document& document, const PagePath& path, int box)
 {
-    const char* const boxKey = boxKeys.at(static_cast<std::size_t>(box));
+    const char* const boxKey = pdflibrary::pageBoxNames[static_cast<std::size_t>(box)];
     const bool inherits = box == MediaBox || box == CropBox;
     QPDFObjectHandle stored =
         inherits ? path.inherited(document, boxKey, isBox) : document.key(path.page, boxKey);
