@@ -10,7 +10,7 @@ namespace engine {
 
 /// The C++ type of every operation, by name: `SetPageLayout` is `int(int)`, `GetInformation` is
 /// `std::wstring(int)`.
-struct Signatures
+struct OperationTypes
 {
     using I = int;
     using D = double;
@@ -29,7 +29,7 @@ using SlotArgument =
 
 /// One implementation. It takes the session first, returns its result by value and fails by throwing
 /// EngineError.
-template <class Signature>
+template <class Operation>
 struct SlotFor;
 template <class Result, class... Parameters>
 struct SlotFor<Result(Parameters...)>
@@ -47,7 +47,7 @@ struct SlotFor<Result(Parameters...)>
 struct OperationSlots
 {
 #define TPL_OP(Result, Name, Arguments, ...)                                                                 \
-    SlotFor<Signatures::Name>::Pointer Name = &SlotFor<Signatures::Name>::unavailable;
+    SlotFor<OperationTypes::Name>::Pointer Name = &SlotFor<OperationTypes::Name>::unavailable;
 #include "pdflibrary/operations.def"
 #undef TPL_OP
 };

@@ -170,7 +170,6 @@ bool Document::open(const std::string& password)
         throw EngineError(code == ErrorCode::Damaged && !looksLikePdf(*m_source) ? ErrorCode::NotAPdf : code,
                           error.what());
     }
-    m_openedWithPassword = !password.empty() && m_pdf->isEncrypted();
     return true;
 }
 

@@ -64,8 +64,8 @@ public:
     /// Reads the cross-reference and the catalog; nothing else of the document is looked at.
     /// \param fileName the name's bytes, empty for a document that came from memory.
     /// \param password UTF-8; tried as it is, in the encodings that old revisions used, and last of all
-    /// empty, so
-    ///     that a password given for a whole batch does not shut out a document that needs none.
+    /// empty,
+    ///     so that a password given for a whole batch does not shut out a document that needs none.
     Document(std::shared_ptr<ByteSource> source, std::string fileName, std::string_view password);
     ~Document();
     Document(const Document&) = delete;
@@ -119,8 +119,6 @@ public:
     /// What the next revision builds upon. \throws EngineError with CannotAppend.
     CrossReference crossReference();
 
-    bool openedWithPassword() const { return m_openedWithPassword; }
-
 private:
     bool openSkeleton();
     std::string_view textOf(QPDFObjGen id);
@@ -144,7 +142,6 @@ private:
     bool m_rebuilt = false;
     bool m_warned = false;
     bool m_memoryWasShort = false;
-    bool m_openedWithPassword = false;
 };
 
 } // namespace engine
