@@ -1,5 +1,6 @@
 #include "SyntaxScanner.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string>
@@ -35,6 +36,12 @@ bool SyntaxScanner::keyword(std::string_view word)
         return false;
     m_at = end;
     return true;
+}
+
+void SyntaxScanner::skipSpaceAndComments()
+{
+    for (skipSpace(); !atEnd() && m_text[m_at] == '%'; skipSpace())
+        m_at = std::min(m_text.find_first_of("\r\n", m_at), m_text.size());
 }
 
 /// Skips whole numbers and references, of which long arrays consist. \returns whether there was any.

@@ -30,6 +30,8 @@ public:
             ++m_at;
     }
 
+    void skipSpaceAndComments();
+
     /// Skips `word` when it stands here and ends here. \returns whether it did.
     bool keyword(std::string_view word);
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "engine/files/ByteSource.h"
+#include "engine/syntax/SectionReader.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
-#include <qpdf/QPDFTokenizer.hh>
 
 #include <cstdint>
 #include <memory>
@@ -47,25 +47,13 @@ public:
     int size() const { return m_size; }
 
 private:
-    struct Section
-    {
-        Kind kind = Kind::Table;
-        QPDFObjectHandle dictionary;
-    };
-
-    void readChain(QPDF& pdf, std::uint64_t offset);
-    Section readSection(QPDF& pdf, std::uint64_t offset);
-    Section readTable(QPDF& pdf, std::uint64_t position);
-    Section readStream(QPDF& pdf, std::uint64_t position);
-    QPDFObjectHandle readDictionary(QPDF& pdf);
-    std::uint64_t skipWhitespace(std::uint64_t position) const;
+    void readChain(QPDF& pdf, SectionReader& reader, std::uint64_t offset);
+    QPDFObjectHandle readSection(QPDF& pdf, SectionReader& reader, std::uint64_t offset, Section& section);
     void noteEntries(long long first, long long count);
     void noteIndex(QPDFObjectHandle dictionary);
+    void noteSize(QPDFObjectHandle size);
     void requireSameDocument(QPDF& pdf);
 
-    std::shared_ptr<const ByteSource> m_source;
-    std::shared_ptr<InputSource> m_input;
-    QPDFTokenizer m_tokenizer;
     std::set<std::uint64_t> m_visited;
     Kind m_kind = Kind::Table;
     std::uint64_t m_newestOffset = 0;

@@ -27,7 +27,8 @@ public:
     const std::string& bytes() const { return m_bytes; }
 
 private:
-    struct Entry
+    /// Where the update has an object.
+    struct WrittenObject
     {
         std::uint64_t offset;
         int generation;
@@ -47,7 +48,7 @@ private:
     StringCipher m_cipher;
     ObjectSerializer m_serializer;
     std::uint64_t m_sourceSize;
-    std::map<int, Entry> m_entries;
+    std::map<int, WrittenObject> m_written; // by object number
     std::string m_bytes;
 };
 
