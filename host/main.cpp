@@ -4,6 +4,7 @@
 #include "cli/ShowCommand.h"
 #include "host/files/FileDescriptor.h"
 #include "host/program/HostApplication.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/FileNames.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"
