@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <set>
 #include <string_view>
 
 namespace engine {
@@ -91,7 +92,11 @@ CrossReference::CrossReference(QPDF& pdf, const DirectReader& reader)
 void CrossReference::readChain(QPDF& pdf, SectionReader& reader, std::uint64_t offset)
 {
     bool newest = true;
+    std::set<std::uint64_t> visited;
+    std::set<std::uint64_t> beside;
     while (newest || offset != 0) {
+        if (!visited.insert(offset).second)
+            refuse("the sections of the cross-reference form a loop");
         Section section;
         QPDFObjectHandle dictionary = readSection(pdf, reader, offset, section);
         if (newest) {
@@ -100,13 +105,17 @@ void CrossReference::readChain(QPDF& pdf, SectionReader& reader, std::uint64_t o
             m_trailer = dictionary;
             newest = false;
         }
-        Section beside;
         if (!section.isStream && dictionary.hasKey("/XRefStm"))
-            readSection(pdf, reader, dictionary.getKey("/XRefStm").getUIntValue(), beside);
+            beside.insert(dictionary.getKey("/XRefStm").getUIntValue());
         QPDFObjectHandle previous = dictionary.getKey("/Prev");
         if (!previous.isNull() && !previous.isInteger())
             refuse("the offset of the previous section is not a number");
         offset = previous.isNull() ? 0 : previous.getUIntValue();
+    }
+    // Several sections may share one stream. It leads nowhere, so it is no part of a loop.
+    for (const std::uint64_t stream : beside) {
+        Section section;
+        readSection(pdf, reader, stream, section);
     }
 }
 
@@ -114,8 +123,6 @@ void CrossReference::readChain(QPDF& pdf, SectionReader& reader, std::uint64_t o
 QPDFObjectHandle CrossReference::readSection(QPDF& pdf, SectionReader& reader, std::uint64_t offset,
                                              Section& section)
 {
-    if (!m_visited.insert(offset).second)
-        refuse("the sections of the cross-reference form a loop");
     auto read = offset < largestOffset ? reader.read(static_cast<std::int64_t>(m_headerOffset + offset))
                                        : std::nullopt;
     if (!read)

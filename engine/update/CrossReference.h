@@ -8,7 +8,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <set>
 
 namespace engine {
 
@@ -54,7 +53,6 @@ private:
     void noteSize(QPDFObjectHandle size);
     void requireSameDocument(QPDF& pdf);
 
-    std::set<std::uint64_t> m_visited;
     Kind m_kind = Kind::Table;
     std::uint64_t m_newestOffset = 0;
     std::uint64_t m_headerOffset = 0;

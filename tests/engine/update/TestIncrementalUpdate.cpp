@@ -150,6 +150,11 @@ private slots:
         row("object streams", compressed, true, 9);
         row("linearized", linearized(), false, 9);
         row("hybrid", hybrid(), false, 8);
+        const std::string sameStream = hybrid().substr(hybrid().rfind("/XRefStm"));
+        row("hybrid, one stream for two sections",
+            withRevision(hybrid(), "/Size 8 " + previous(hybrid()) + " " +
+                                       sameStream.substr(0, sameStream.find(" >>"))),
+            false, 8);
         row("junk before the header", junk + simple, false, 6);
         row("junk before, stream", junk + compressed, true, 9);
         row("no last line end", simple.substr(0, simple.size() - 1), false, 6);
