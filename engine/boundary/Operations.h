@@ -24,12 +24,15 @@ int SelectedDocument(Session& session);
 int RemoveDocument(Session& session, int documentId);
 std::wstring GetDocumentFileName(Session& session);
 int GetDocumentRepaired(Session& session);
-std::wstring GetInformation(Session& session, int key);
 int IsLinearized(Session& session);
 int EncryptionStatus(Session& session);
 int SecurityInfo(Session& session, int item);
 int LastErrorCode(Session& session);
 std::wstring LibraryVersion(Session& session);
+
+// InformationOperations.cpp
+std::wstring GetInformation(Session& session, int key);
+int SetInformation(Session& session, int key, std::wstring_view value);
 
 // ViewOperations.cpp
 int GetPageMode(Session& session);

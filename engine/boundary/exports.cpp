@@ -29,12 +29,14 @@ constexpr OperationSlots implemented()
     slots.RemoveDocument = operations::RemoveDocument;
     slots.GetDocumentFileName = operations::GetDocumentFileName;
     slots.GetDocumentRepaired = operations::GetDocumentRepaired;
-    slots.GetInformation = operations::GetInformation;
     slots.IsLinearized = operations::IsLinearized;
     slots.EncryptionStatus = operations::EncryptionStatus;
     slots.SecurityInfo = operations::SecurityInfo;
     slots.LastErrorCode = operations::LastErrorCode;
     slots.LibraryVersion = operations::LibraryVersion;
+
+    slots.GetInformation = operations::GetInformation;
+    slots.SetInformation = operations::SetInformation;
 
     slots.GetPageMode = operations::GetPageMode;
     slots.SetPageMode = operations::SetPageMode;

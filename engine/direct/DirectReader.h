@@ -33,12 +33,8 @@ public:
     /// free or that no section lists. \returns nothing when the reader has to give up, also for a stream.
     std::optional<std::string_view> object(int number, int generation);
 
-    /// The newest section's trailer dictionary, as text.
-    const std::string& trailer() const { return m_index.newest().dictionary; }
-
     /// What a further revision builds upon.
-    bool newestIsStream() const { return m_index.newest().isStream; }
-    std::int64_t newestOffset() const { return m_index.newest().offset; }
+    const Section& newestSection() const { return m_index.newest(); }
     /// The largest of all sections' sizes; none of them has an entry for this number or a higher one.
     int size() const { return m_index.size(); }
 
@@ -55,6 +51,7 @@ private:
     std::optional<std::int64_t> lastStartXref();
     std::optional<std::string_view> textAt(const ObjectPlace& place, int number, int generation);
     std::optional<Reference> usableCatalog();
+    const std::string& trailer() const { return newestSection().dictionary; }
     std::string skeletonTrailer() const;
 
     FileWindows m_file;

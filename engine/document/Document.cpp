@@ -141,6 +141,9 @@ void Document::readWhole()
     std::map<QPDFObjGen, std::string> changed;
     for (const QPDFObjGen& id : m_changed)
         changed[id] = ObjectSerializer().write(m_pdf->getObject(id));
+    std::map<std::string, std::string> changedTrailer;
+    for (const auto& [key, value] : m_changedTrailer)
+        changedTrailer[key] = ObjectSerializer().write(value);
     m_direct.reset();
     m_kids.clear();
     openWhole();
@@ -150,6 +153,8 @@ void Document::readWhole()
         m_pdf->getObject(id).isNull();
     for (const auto& [id, text] : changed)
         m_pdf->replaceObject(id, QPDFObjectHandle::parse(m_pdf.get(), text));
+    for (const auto& [key, text] : changedTrailer)
+        setTrailerKey(key, QPDFObjectHandle::parse(m_pdf.get(), text));
 }
 
 Document::~Document() = default;
@@ -267,7 +272,8 @@ QPDFObjGen Kids::id(int kid) const
 
 CrossReference Document::crossReference()
 {
-    return m_direct ? CrossReference(*m_pdf, *m_direct) : CrossReference(*m_pdf, m_source);
+    return m_direct ? CrossReference(*m_pdf, m_direct->newestSection(), m_direct->size())
+                    : CrossReference(*m_pdf, m_source);
 }
 
 QPDFObjectHandle Document::makeIndirect(const QPDFObjectHandle& object)
@@ -275,6 +281,17 @@ QPDFObjectHandle Document::makeIndirect(const QPDFObjectHandle& object)
     QPDFObjectHandle made = m_pdf->makeIndirectObject(object);
     m_fetched.insert(made.getObjGen());
     return made;
+}
+
+QPDFObjectHandle Document::trailerKey(const std::string& key)
+{
+    return this->key(m_pdf->getTrailer(), key);
+}
+
+void Document::setTrailerKey(const std::string& key, const QPDFObjectHandle& value)
+{
+    m_pdf->getTrailer().replaceKey(key, fetched(value)); // what is not fetched would count as null
+    m_changedTrailer[key] = value;
 }
 
 void Document::markChanged(const QPDFObjectHandle& object)

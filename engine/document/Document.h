@@ -74,7 +74,8 @@ public:
     /// What is edited: the skeleton, or the document.
     QPDF& pdf() { return *m_pdf; }
 
-    /// From now on all of the document is in pdf(), with the changes so far. Handles from before are stale.
+    /// From now on all of the document is in pdf(), with the changes so far as far as they were marked.
+    /// Handles from before are stale.
     void readWhole();
 
     const std::shared_ptr<ByteSource>& source() const { return m_source; }
@@ -100,10 +101,22 @@ public:
     /// Makes a direct object an indirect one with a new number.
     QPDFObjectHandle makeIndirect(const QPDFObjectHandle& object);
 
+    /// An entry of the trailer, null where there is none.
+    QPDFObjectHandle trailerKey(const std::string& key);
+    /// Sets an entry of the trailer, or removes it with null. Both ways of writing keep it. Not for what
+    /// belongs to the file rather than to the document: /Root, /ID, /Encrypt and the entries of
+    /// describesSection().
+    void setTrailerKey(const std::string& key, const QPDFObjectHandle& value);
+    /// What setTrailerKey() was called with, the last value for each key.
+    const std::map<std::string, QPDFObjectHandle>& changedTrailer() const { return m_changedTrailer; }
+
     /// Notes that an indirect object differs from the source. For a direct object the caller marks the
     /// indirect one that holds it.
     void markChanged(const QPDFObjectHandle& object);
     const std::set<QPDFObjGen>& changedObjects() const { return m_changed; }
+
+    /// True when an object was marked as changed, or the trailer was.
+    bool isChanged() const { return !m_changed.empty() || !m_changedTrailer.empty(); }
 
     /// True when libqpdf had to search the file for its objects because the cross-reference was wrong.
     /// Reading an object may be what shows it, so the answer can turn from false to true.
@@ -139,6 +152,7 @@ private:
     std::shared_ptr<QPDF> m_pdf;
     QPDFObjectHandle m_catalog; // looking it up anew each time is not cheap
     std::set<QPDFObjGen> m_changed;
+    std::map<std::string, QPDFObjectHandle> m_changedTrailer;
     bool m_rebuilt = false;
     bool m_warned = false;
     bool m_memoryWasShort = false;

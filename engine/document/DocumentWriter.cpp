@@ -94,10 +94,10 @@ void writeInto(Document& document, Pipeline& output)
 void appendUpdate(Document& document, const std::string& path)
 {
     const std::shared_ptr<ByteSource>& source = document.source();
-    if (document.changedObjects().empty())
+    if (!document.isChanged())
         throw EngineError(ErrorCode::NothingChanged);
     const IncrementalUpdate update(document.pdf(), document.crossReference(), *source,
-                                   document.changedObjects());
+                                   document.changedObjects(), document.changedTrailer());
     document.requireAllRead();
     if (document.crossReferenceRebuilt())
         throw EngineError(ErrorCode::CannotAppend, "the cross-reference was rebuilt");

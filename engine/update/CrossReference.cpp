@@ -2,7 +2,6 @@
 
 #include "DocumentTail.h"
 #include "SourceInput.h"
-#include "engine/direct/DirectReader.h"
 #include "engine/files/EngineError.h"
 #include "engine/syntax/ObjectParser.h"
 
@@ -83,10 +82,10 @@ CrossReference::CrossReference(QPDF& pdf, std::shared_ptr<const ByteSource> sour
     }
 }
 
-CrossReference::CrossReference(QPDF& pdf, const DirectReader& reader)
-    : m_kind(reader.newestIsStream() ? Kind::Stream : Kind::Table),
-      m_newestOffset(static_cast<std::uint64_t>(reader.newestOffset())),
-      m_trailer(parseObject(pdf, reader.trailer())), m_entryEnd(reader.size()), m_size(reader.size())
+CrossReference::CrossReference(QPDF& pdf, const Section& newest, int size)
+    : m_kind(newest.isStream ? Kind::Stream : Kind::Table),
+      m_newestOffset(static_cast<std::uint64_t>(newest.offset)),
+      m_trailer(parseObject(pdf, newest.dictionary)), m_entryEnd(size), m_size(size)
 {}
 
 void CrossReference::readChain(QPDF& pdf, SectionReader& reader, std::uint64_t offset)

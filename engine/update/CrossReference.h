@@ -11,8 +11,6 @@
 
 namespace engine {
 
-class DirectReader;
-
 /// What a further revision must know of a document's cross-reference: read from the bytes themselves, section
 /// by section along the chain, and not from libqpdf, which repairs without saying how much.
 class CrossReference
@@ -24,8 +22,9 @@ public:
     ///     names the catalog that `pdf` uses.
     CrossReference(QPDF& pdf, std::shared_ptr<const ByteSource> source);
 
-    /// The same of a document that a direct reader accepted, and so has read already.
-    CrossReference(QPDF& pdf, const DirectReader& reader);
+    /// The same of a document that was read directly, so that its sections are known already.
+    /// \param size the largest of all sections' sizes.
+    CrossReference(QPDF& pdf, const Section& newest, int size);
 
     /// Kind of the newest section; a table with a stream beside it (a hybrid file) counts as a table.
     Kind kind() const { return m_kind; }

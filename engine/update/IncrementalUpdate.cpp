@@ -57,10 +57,12 @@ std::vector<std::pair<int, int>> stretches(const Entries& entries)
 } // namespace
 
 IncrementalUpdate::IncrementalUpdate(QPDF& pdf, const CrossReference& crossReference,
-                                     const ByteSource& source, const std::set<QPDFObjGen>& changed)
-    : m_crossReference(crossReference), m_cipher(pdf), m_serializer(&m_cipher), m_sourceSize(source.size())
+                                     const ByteSource& source, const std::set<QPDFObjGen>& changed,
+                                     const TrailerEntries& trailer)
+    : m_crossReference(crossReference), m_changedTrailer(trailer), m_cipher(pdf), m_serializer(&m_cipher),
+      m_sourceSize(source.size())
 {
-    if (changed.empty())
+    if (changed.empty() && trailer.empty())
         throw EngineError(ErrorCode::NothingChanged);
     if (const char last = source.lastByte(); last != '\n' && last != '\r')
         m_bytes = "\n";
@@ -75,6 +77,8 @@ void IncrementalUpdate::writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& chan
 {
     for (const QPDFObjGen object : changed)
         writeObject(pdf.getObject(object));
+    if (changed.empty()) // some readers take a section without entries for damage
+        writeObject(pdf.getRoot());
     // Writing a new object may bring further references.
     std::size_t next = 0;
     while (next < m_serializer.references().size()) {
@@ -151,6 +155,12 @@ std::map<std::string, QPDFObjectHandle> IncrementalUpdate::newTrailer(int size) 
 {
     auto trailer = QPDFObjectHandle(m_crossReference.trailer()).getDictAsMap();
     std::erase_if(trailer, [](const auto& entry) { return describesSection(entry.first.substr(1)); });
+    for (auto [key, value] : m_changedTrailer) {
+        if (!value.isIndirect() && value.isNull())
+            trailer.erase(key);
+        else
+            trailer.insert_or_assign(key, value);
+    }
     trailer["/Size"] = QPDFObjectHandle::newInteger(size);
     trailer["/Prev"] = QPDFObjectHandle::newInteger(static_cast<long long>(m_crossReference.newestOffset()));
     const QPDFObjectHandle identifier = nextIdentifier();
