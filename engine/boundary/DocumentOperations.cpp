@@ -92,7 +92,7 @@ int GetDocumentID(Session& session, int index)
     const std::vector<int> ids = session.documentIds();
     if (index < 1 || static_cast<std::size_t>(index) > ids.size())
         throw EngineError(ErrorCode::UnknownDocument);
-    return ids[index - 1];
+    return ids[static_cast<std::size_t>(index) - 1];
 }
 
 int SelectDocument(Session& session, int documentId)

@@ -1,6 +1,6 @@
-#include "Arguments.h"
 #include "Operations.h"
 #include "Session.h"
+#include "engine/files/EngineError.h"
 
 #include <algorithm>
 #include <array>
@@ -41,8 +41,8 @@ QPDFObjectHandle::Rectangle normalised(QPDFObjectHandle box)
 QPDFObjectHandle::Rectangle pageBox(Document& document, const PagePath& path, int box)
 {
     const bool inherits = box == Media || box == Crop;
-    QPDFObjectHandle own = document.key(path.page, rowOf(boxKeys, box));
-    QPDFObjectHandle stored = inherits ? path.inherited(document, rowOf(boxKeys, box), isBox) : own;
+    QPDFObjectHandle own = document.key(path.page, boxKeys[box]);
+    QPDFObjectHandle stored = inherits ? path.inherited(document, boxKeys[box], isBox) : own;
     if (isBox(document, stored))
         return normalised(stored);
     if (box == Media)
@@ -104,7 +104,8 @@ int SelectedPage(Session& session)
 double GetPageBox(Session& session, int box, int dimension)
 {
     OpenDocument& open = session.document();
-    requireWithin(box, Media, Art);
+    if (box < Media || box > Art)
+        throw EngineError(ErrorCode::BadArgument);
     if (open.lastBox.page != open.selectedPage || open.lastBox.box != box)
         open.lastBox = {open.selectedPage, box, pageBox(open.document, selectedPage(session), box)};
     return dimensionOf(open.lastBox.rectangle, dimension);

@@ -2,6 +2,8 @@
 #include "Operations.h"
 #include "Session.h"
 #include "Text.h"
+#include "engine/files/EngineError.h"
+#include "pdflibrary/FileNameCodec.h"
 
 #include <array>
 #include <cmath>
@@ -55,7 +57,7 @@ Stored storedPreference(Document& document, int option)
     QPDFObjectHandle dictionary = document.key(document.catalog(), "/ViewerPreferences");
     if (!dictionary.isDictionary())
         return {0, !dictionary.isNull()};
-    QPDFObjectHandle entry = document.key(dictionary, rowOf(preferences, option));
+    QPDFObjectHandle entry = document.key(dictionary, preferences[option]);
     if (option != nonFullScreenOption)
         return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{0, !entry.isNull()};
     const Stored mode = storedName(entry, pageModes, 0);
@@ -90,9 +92,9 @@ int GetPageMode(Session& session)
 int SetPageMode(Session& session, int mode)
 {
     Document& document = session.document().document;
-    requireWithin(mode, 0, lastOf(pageModes));
+    requireWithin(mode, 0, pageModes.size() - 1);
     if (!storedPageMode(document).is(mode))
-        setCatalogEntry(document, "/PageMode", QPDFObjectHandle::newName(rowOf(pageModes, mode)));
+        setCatalogEntry(document, "/PageMode", QPDFObjectHandle::newName(pageModes[mode]));
     return 1;
 }
 
@@ -108,7 +110,7 @@ int SetPageLayout(Session& session, int layout)
     if (!storedPageLayout(document).is(layout))
         setCatalogEntry(document, "/PageLayout",
                         layout == noLayout ? QPDFObjectHandle::newNull()
-                                           : QPDFObjectHandle::newName(rowOf(pageLayouts, layout)));
+                                           : QPDFObjectHandle::newName(pageLayouts[layout]));
     return 1;
 }
 
@@ -124,11 +126,11 @@ int SetViewerPreferences(Session& session, int option, int value)
     Document& document = session.document().document;
     requireWithin(option, 1, nonFullScreenOption);
     const bool isMode = option == nonFullScreenOption;
-    requireWithin(value, 0, isMode ? lastOf(pageModes) : 1);
+    requireWithin(value, 0, isMode ? pageModes.size() - 1 : 1);
     require(!isMode || value != fullScreen, ErrorCode::BadArgument);
     if (!storedPreference(document, option).is(value))
-        changedPreferences(document).replaceKey(rowOf(preferences, option),
-                                                isMode ? QPDFObjectHandle::newName(rowOf(pageModes, value))
+        changedPreferences(document).replaceKey(preferences[option],
+                                                isMode ? QPDFObjectHandle::newName(pageModes[value])
                                                        : QPDFObjectHandle::newBool(value != 0));
     return 1;
 }
@@ -182,8 +184,8 @@ double GetDestValue(Session& session, int destId, int valueKey)
     const Destination& destination = session.destination(destId);
     const std::array values{&Destination::left, &Destination::top, &Destination::right, &Destination::bottom,
                             &Destination::zoom};
-    requireWithin(valueKey, 1, lastOf(values) + 1);
-    return destination.*rowOf(values, valueKey - 1);
+    requireWithin(valueKey, 1, values.size());
+    return destination.*values[valueKey - 1];
 }
 
 std::wstring GetDestName(Session& session, int destId)

@@ -137,7 +137,10 @@ public:
         return counts;
     }
 
-    int pagesBefore(int kid) const { return m_before.empty() ? kid : m_before[kid]; }
+    int pagesBefore(int kid) const
+    {
+        return m_before.empty() ? kid : m_before[static_cast<std::size_t>(kid)];
+    }
 
     /// The last kid with fewer than `page` pages before it.
     int kidWith(int page) const
@@ -271,7 +274,7 @@ const PagePath& PageTree::page(int number)
         walk();
         if (static_cast<std::size_t>(number) > m_leaves.size())
             throw EngineError(ErrorCode::UnknownPage);
-        path = walkedPath(m_leaves[number - 1]);
+        path = walkedPath(m_leaves[static_cast<std::size_t>(number) - 1]);
     }
     m_lastPath = std::move(*path);
     m_lastNumber = number;
@@ -382,14 +385,14 @@ QPDFObjectHandle PageTree::walkedPage(const Leaf& leaf) const
 {
     if (leaf.node < 0)
         return m_document.node(m_document.catalog().getKey("/Pages"));
-    return m_document.kid(m_document.kids(m_nodes[leaf.node].dictionary), leaf.kid);
+    return m_document.kid(m_document.kids(nodeAt(leaf.node).dictionary), leaf.kid);
 }
 
 PagePath PageTree::walkedPath(const Leaf& leaf) const
 {
     PagePath path{walkedPage(leaf), {}, leaf.kid};
-    for (int node = leaf.node; node >= 0; node = m_nodes[node].parent)
-        path.nodes.push_back(m_nodes[node].dictionary);
+    for (int node = leaf.node; node >= 0; node = nodeAt(node).parent)
+        path.nodes.push_back(nodeAt(node).dictionary);
     std::reverse(path.nodes.begin(), path.nodes.end());
     return path;
 }

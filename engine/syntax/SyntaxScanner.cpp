@@ -18,8 +18,8 @@ bool isNumber(std::string_view word, std::size_t mostDigits)
     std::size_t digits = 0;
     std::size_t points = 0;
     for (const char character : word) {
-        digits += isDigit(character) ? 1 : 0;
-        points += character == '.' ? 1 : 0;
+        digits += isDigit(character) ? 1U : 0U;
+        points += character == '.' ? 1U : 0U;
     }
     const bool fits = points == 1 || digits <= mostDigits;
     return digits > 0 && points <= 1 && digits + points == word.size() && fits;
