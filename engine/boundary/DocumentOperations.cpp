@@ -45,6 +45,16 @@ int open(Session& session, std::shared_ptr<ByteSource> source, std::string fileN
     return 1;
 }
 
+int appendRefusal(Document& document)
+{
+    try {
+        updateOf(document);
+        return 0;
+    } catch (const EngineError& error) {
+        return static_cast<int>(error.code());
+    }
+}
+
 bool modificationAllowed(QPDF& pdf)
 {
     return !pdf.isEncrypted() || pdf.ownerPasswordMatched() || pdf.allowModifyOther();
@@ -148,6 +158,8 @@ int SecurityInfo(Session& session, int item)
         return modificationAllowed(document.pdf());
     case UnsavedChanges:
         return document.isChanged() ? 1 : 0;
+    case AppendRefusal:
+        return appendRefusal(document);
     default:
         throw EngineError(ErrorCode::NotAvailable);
     }

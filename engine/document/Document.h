@@ -123,6 +123,13 @@ public:
     bool crossReferenceRebuilt();
     /// True when libqpdf complained about anything so far.
     bool anyWarnings();
+    /// True when libqpdf could not read an object as it stands, and made something else of it: null, an empty
+    /// stream, a dictionary with other entries.
+    bool misread(QPDFObjGen object);
+    bool anyMisread();
+    bool trailerMisread();
+    /// True when the length of a stream was wrong, and libqpdf searched for its end.
+    bool streamLengthsRecovered();
     /// Throws EngineError when memory was short for something read so far, or the disk failed: libqpdf goes
     /// on with null in its place.
     void requireAllRead();
@@ -132,6 +139,8 @@ public:
     /// What the next revision builds upon. \throws EngineError with CannotAppend.
     CrossReference crossReference();
 
+    const std::string& password() const { return m_password; }
+
 private:
     bool openSkeleton();
     std::string_view textOf(QPDFObjGen id);
@@ -140,6 +149,7 @@ private:
     /// False when the password is not right.
     bool open(const std::string& password);
     void collectWarnings();
+    void noteMisread(const QPDFExc& warning);
 
     std::shared_ptr<ByteSource> m_source;
     std::string m_fileName;
@@ -153,7 +163,9 @@ private:
     QPDFObjectHandle m_catalog; // looking it up anew each time is not cheap
     std::set<QPDFObjGen> m_changed;
     std::map<std::string, QPDFObjectHandle> m_changedTrailer;
+    std::set<std::string> m_misread; // as libqpdf names the objects
     bool m_rebuilt = false;
+    bool m_lengthsRecovered = false;
     bool m_warned = false;
     bool m_memoryWasShort = false;
 };

@@ -1,6 +1,8 @@
 #include "DocumentWriter.h"
 
+#include "DamageCheck.h"
 #include "Document.h"
+#include "DocumentComparison.h"
 #include "PageTree.h"
 #include "engine/files/ByteSource.h"
 #include "engine/files/EngineError.h"
@@ -76,12 +78,13 @@ void completePageCount(Document& document)
 void writeInto(Document& document, Pipeline& output)
 {
     document.requireUnchanged();
-    document.readWhole();
+    requireRewritable(document);
     completeTrailer(document.pdf());
     completePageCount(document);
     QPDFWriter writer(document.pdf());
     writer.setOutputPipeline(&output);
     writer.setDecodeLevel(qpdf_dl_none);
+    writer.setPreserveUnreferencedObjects(true);
     // Without this, object streams that were compressed would be written plain.
     writer.setCompressStreams(hasObjectStreams(document.pdf()));
     writer.write();
@@ -89,21 +92,47 @@ void writeInto(Document& document, Pipeline& output)
     document.requireUnchanged();
 }
 
+/// The document's own cross-reference where it is sound, else the one that a search brings.
+CrossReference crossReferenceFor(Document& document)
+{
+    try {
+        if (!document.crossReferenceRebuilt())
+            return document.crossReference();
+    } catch (const EngineError& error) {
+        if (error.code() != ErrorCode::CannotAppend)
+            throw;
+    }
+    return foundCrossReference(document);
+}
+
+void requireSameContent(Document& document, std::shared_ptr<ByteSource> written)
+{
+    Document again(std::move(written), document.fileName(), document.password());
+    requireSameContent(document, again);
+}
+
 } // namespace
+
+std::string updateOf(Document& document)
+{
+    if (!document.isChanged())
+        throw EngineError(ErrorCode::NothingChanged);
+    const CrossReference crossReference = crossReferenceFor(document);
+    requireChangesWhole(document);
+    const IncrementalUpdate update(document.pdf(), crossReference, *document.source(),
+                                   document.changedObjects(), document.changedTrailer());
+    document.requireAllRead();
+    if (document.crossReferenceRebuilt() && crossReference.unlistedObjects().empty())
+        throw EngineError(ErrorCode::CannotAppend, "the cross-reference was rebuilt");
+    return update.bytes();
+}
 
 void appendUpdate(Document& document, const std::string& path)
 {
-    const std::shared_ptr<ByteSource>& source = document.source();
-    if (!document.isChanged())
-        throw EngineError(ErrorCode::NothingChanged);
-    const IncrementalUpdate update(document.pdf(), document.crossReference(), *source,
-                                   document.changedObjects(), document.changedTrailer());
-    document.requireAllRead();
-    if (document.crossReferenceRebuilt())
-        throw EngineError(ErrorCode::CannotAppend, "the cross-reference was rebuilt");
+    const std::string update = updateOf(document);
     OutputFile file(path);
-    file.copy(*source);
-    file.write(update.bytes());
+    file.copy(*document.source());
+    file.write(update);
     document.requireUnchanged();
     file.commit();
 }
@@ -113,6 +142,7 @@ void writeWhole(Document& document, const std::string& path)
     OutputFile file(path);
     FilePipeline pipeline(file);
     writeInto(document, pipeline);
+    requireSameContent(document, ByteSource::openFile(file.writtenPath()));
     file.commit();
 }
 
@@ -121,6 +151,7 @@ std::string wholeToString(Document& document)
     std::string bytes;
     Pl_String pipeline("memory", nullptr, bytes);
     writeInto(document, pipeline);
+    requireSameContent(document, ByteSource::fromBytes(bytes));
     return bytes;
 }
 

@@ -32,6 +32,9 @@ public:
 
     void write(std::string_view bytes);
 
+    /// Where the file is until commit(), complete or not.
+    const std::string& writtenPath() const { return m_temporary; }
+
     void commit();
 
 private:

@@ -1,6 +1,7 @@
 #include "CrossReference.h"
 
 #include "DocumentTail.h"
+#include "FileScan.h"
 #include "SourceInput.h"
 #include "engine/files/EngineError.h"
 #include "engine/syntax/ObjectParser.h"
@@ -19,6 +20,9 @@ namespace {
 
 // Far above any file's size, so that sums of offsets cannot overflow.
 constexpr std::uint64_t largestOffset = std::uint64_t{1} << 62;
+
+// Some search the file for its objects when its end is not within this.
+constexpr std::uint64_t searchedByAllReaders = 1024;
 
 [[noreturn]] void refuse(const char* reason)
 {
@@ -40,17 +44,6 @@ bool isVersion(std::string_view text, std::size_t position)
     return major > 0 && point < text.size() && text[point] == '.' && digitsAt(text, point + 1) > 0;
 }
 
-// The same place that libqpdf finds, for it counts offsets from there.
-std::uint64_t findHeader(const ByteSource& source)
-{
-    constexpr std::string_view marker = "%PDF-";
-    const std::string text = source.text(0, 1024 + 16);
-    for (std::size_t at = text.find(marker); at < 1024; at = text.find(marker, at + 1))
-        if (isVersion(text, at + marker.size()))
-            return at;
-    return 0;
-}
-
 /// Where the dictionary at an offset ends for libqpdf.
 std::int64_t dictionaryEnd(QPDF& pdf, const std::shared_ptr<SourceInput>& input, std::int64_t offset)
 {
@@ -66,11 +59,13 @@ std::int64_t dictionaryEnd(QPDF& pdf, const std::shared_ptr<SourceInput>& input,
 } // namespace
 
 CrossReference::CrossReference(QPDF& pdf, std::shared_ptr<const ByteSource> source)
-    : m_headerOffset(findHeader(*source))
+    : m_headerOffset(headerOffsetOf(*source))
 {
     const auto tail = findDocumentTail(*source);
     if (!tail)
         refuse("no startxref");
+    if (source->size() - tail->keyword > searchedByAllReaders && hasObjectsBehind(*source, *tail))
+        refuse("the end of the last update is missing");
     FileWindows file(source);
     const auto input = std::make_shared<SourceInput>(source, "cross-reference");
     SectionReader reader(file, [&](std::int64_t offset) { return dictionaryEnd(pdf, input, offset); });
@@ -87,6 +82,31 @@ CrossReference::CrossReference(QPDF& pdf, const Section& newest, int size)
       m_newestOffset(static_cast<std::uint64_t>(newest.offset)),
       m_trailer(parseObject(pdf, newest.dictionary)), m_entryEnd(size), m_size(size)
 {}
+
+CrossReference::CrossReference(QPDF& pdf, std::uint64_t headerOffset, const FileScan& found)
+    : m_headerOffset(headerOffset), m_trailer(pdf.getTrailer())
+{
+    if (!m_trailer.getKey("/Root").isIndirect())
+        refuse("the trailer does not name the catalog");
+    for (const auto& [number, definition] : found.definitions()) {
+        if (definition.offset < headerOffset)
+            refuse("an object lies before the header");
+        m_unlisted.emplace(number, ObjectOffset{definition.offset - headerOffset, definition.generation});
+    }
+    m_entryEnd = m_unlisted.empty() ? 1 : m_unlisted.rbegin()->first + 1;
+    m_size = m_entryEnd;
+}
+
+// The same place that libqpdf finds, for it counts offsets from there.
+std::uint64_t CrossReference::headerOffsetOf(const ByteSource& source)
+{
+    constexpr std::string_view marker = "%PDF-";
+    const std::string text = source.text(0, 1024 + 16);
+    for (std::size_t at = text.find(marker); at < 1024; at = text.find(marker, at + 1))
+        if (isVersion(text, at + marker.size()))
+            return at;
+    return 0;
+}
 
 void CrossReference::readChain(QPDF& pdf, SectionReader& reader, std::uint64_t offset)
 {

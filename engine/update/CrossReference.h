@@ -7,9 +7,12 @@
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <cstdint>
+#include <map>
 #include <memory>
 
 namespace engine {
+
+class FileScan;
 
 /// What a further revision must know of a document's cross-reference: read from the bytes themselves, section
 /// by section along the chain, and not from libqpdf, which repairs without saying how much.
@@ -25,6 +28,23 @@ public:
     /// The same of a document that was read directly, so that its sections are known already.
     /// \param size the largest of all sections' sizes.
     CrossReference(QPDF& pdf, const Section& newest, int size);
+
+    /// Of a document whose cross-reference is damaged, but whose objects lie beyond doubt where they were
+    /// found: the next revision lists all of them, and names no section before.
+    CrossReference(QPDF& pdf, std::uint64_t headerOffset, const FileScan& found);
+
+    /// How many bytes of a file lie before the header from which its offsets are counted.
+    static std::uint64_t headerOffsetOf(const ByteSource& source);
+
+    struct ObjectOffset
+    {
+        std::uint64_t offset; ///< From the header.
+        int generation;
+    };
+
+    /// What the next revision has to list besides its own objects, by number; empty when it names a section
+    /// that lists them.
+    const std::map<int, ObjectOffset>& unlistedObjects() const { return m_unlisted; }
 
     /// Kind of the newest section; a table with a stream beside it (a hybrid file) counts as a table.
     Kind kind() const { return m_kind; }
@@ -52,6 +72,7 @@ private:
     void noteSize(QPDFObjectHandle size);
     void requireSameDocument(QPDF& pdf);
 
+    std::map<int, ObjectOffset> m_unlisted;
     Kind m_kind = Kind::Table;
     std::uint64_t m_newestOffset = 0;
     std::uint64_t m_headerOffset = 0;

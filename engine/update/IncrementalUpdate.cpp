@@ -13,6 +13,7 @@ namespace engine {
 namespace {
 
 constexpr std::uint64_t largestTableOffset = 9'999'999'999;
+constexpr int headOfFreeObjects = 65535; // its generation
 
 std::string bigEndian(std::uint64_t number, int bytes)
 {
@@ -67,6 +68,7 @@ IncrementalUpdate::IncrementalUpdate(QPDF& pdf, const CrossReference& crossRefer
     if (const char last = source.lastByte(); last != '\n' && last != '\r')
         m_bytes = "\n";
     writeObjects(pdf, changed);
+    addUnlistedObjects();
     if (m_crossReference.kind() == CrossReference::Kind::Table)
         writeTable();
     else
@@ -95,9 +97,17 @@ void IncrementalUpdate::writeObject(QPDFObjectHandle object)
 {
     const QPDFObjGen id = object.getObjGen();
     if (id.getObj() <= 0 ||
-        !m_written.try_emplace(id.getObj(), WrittenObject{nextOffset(), id.getGen()}).second)
+        !m_written.try_emplace(id.getObj(), ObjectOffset{nextOffset(), id.getGen()}).second)
         throw EngineError(ErrorCode::CannotAppend, "two changed objects have the same number");
     m_bytes += id.unparse(' ') + " obj\n" + m_serializer.write(object, id) + "\nendobj\n";
+}
+
+void IncrementalUpdate::addUnlistedObjects()
+{
+    const auto& unlisted = m_crossReference.unlistedObjects();
+    m_written.insert(unlisted.begin(), unlisted.end());
+    if (!unlisted.empty())
+        m_written.try_emplace(0, ObjectOffset{0, headOfFreeObjects}); // every first section has it
 }
 
 void IncrementalUpdate::writeTable()
@@ -110,10 +120,11 @@ void IncrementalUpdate::writeTable()
     for (const auto& [first, count] : stretches(m_written)) {
         m_bytes += std::to_string(first) + " " + std::to_string(count) + "\n";
         for (int number = first; number < first + count; ++number) {
-            const WrittenObject& object = m_written.at(number);
+            const ObjectOffset& object = m_written.at(number);
             char line[32];
-            std::snprintf(line, sizeof(line), "%010llu %05d n \n",
-                          static_cast<unsigned long long>(object.offset), object.generation);
+            std::snprintf(line, sizeof(line), "%010llu %05d %c \n",
+                          static_cast<unsigned long long>(object.offset), object.generation,
+                          number == 0 ? 'f' : 'n');
             m_bytes += line;
         }
     }
@@ -125,7 +136,7 @@ void IncrementalUpdate::writeStream()
 {
     const std::uint64_t start = nextOffset();
     const int number = std::max(m_crossReference.size(), m_written.rbegin()->first + 1);
-    m_written.emplace(number, WrittenObject{start, 0});
+    m_written.emplace(number, ObjectOffset{start, 0});
     const int offsetBytes = bytesFor(start);
     QPDFObjectHandle index = QPDFObjectHandle::newArray();
     std::string content;
@@ -162,7 +173,9 @@ std::map<std::string, QPDFObjectHandle> IncrementalUpdate::newTrailer(int size) 
             trailer.insert_or_assign(key, value);
     }
     trailer["/Size"] = QPDFObjectHandle::newInteger(size);
-    trailer["/Prev"] = QPDFObjectHandle::newInteger(static_cast<long long>(m_crossReference.newestOffset()));
+    if (m_crossReference.unlistedObjects().empty())
+        trailer["/Prev"] =
+            QPDFObjectHandle::newInteger(static_cast<long long>(m_crossReference.newestOffset()));
     const QPDFObjectHandle identifier = nextIdentifier();
     if (!QPDFObjectHandle(identifier).isNull())
         trailer["/ID"] = identifier;

@@ -14,7 +14,8 @@
 namespace engine {
 
 /// The bytes that, put behind a document's own, make its next revision: the changed objects, a
-/// cross-reference section of the kind that the document ends with, and the new end.
+/// cross-reference section of the kind that the document ends with, and the new end. Where the document's own
+/// cross-reference is damaged, the section lists all objects.
 class IncrementalUpdate
 {
 public:
@@ -30,15 +31,11 @@ public:
     const std::string& bytes() const { return m_bytes; }
 
 private:
-    /// Where the update has an object.
-    struct WrittenObject
-    {
-        std::uint64_t offset;
-        int generation;
-    };
+    using ObjectOffset = CrossReference::ObjectOffset;
 
     void writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& changed);
     void writeObject(QPDFObjectHandle object);
+    void addUnlistedObjects();
     void writeTable();
     void writeStream();
     void writeEnd(std::uint64_t sectionOffset);
@@ -52,7 +49,7 @@ private:
     StringCipher m_cipher;
     ObjectSerializer m_serializer;
     std::uint64_t m_sourceSize;
-    std::map<int, WrittenObject> m_written; // by object number
+    std::map<int, ObjectOffset> m_written; // by object number
     std::string m_bytes;
 };
 

@@ -39,6 +39,8 @@ const char helpText[] =
     R"(Usage: quintar run SETTINGS (-o DIR | --in-place) [OPTION ...] DOCUMENT|FOLDER ...
 
 Makes PDF documents open as the settings say. A folder stands for the PDF documents in it and its subfolders.
+A run never removes a byte: every result begins with the document's own bytes, or the document is refused;
+only --rewrite does otherwise.
 
 Settings, from one source:
   --list FILE.xqq|NAME      an action list; its entries are applied in their order
@@ -62,6 +64,8 @@ Options:
                             since; may be the same file as --report, which is continued then
   --signed refuse|append    what becomes of signed documents: refused (the default), or changed by an update
                             behind what is signed
+  --rewrite                 with -o, a document to which nothing can be appended is written anew if nothing is lost
+                            by that; without it such a document is refused
   --dry-run                 writes nothing and tells what would be changed
   --sync                    with -o, flushes each document to the disk before the next; in place that is always so
   --jobs N                  works on N documents at a time (default: the number of processors)
@@ -176,6 +180,7 @@ void RunCommand::parse(int argc, char** argv)
     parser.addValue("resume", setOnce(m_resumedReport, "--resume"));
     parser.addValue("signed",
                     [this](const std::string& value) { m_options.signedDocuments = signedDocuments(value); });
+    parser.addFlag("rewrite", m_options.rewrite);
     parser.addFlag("dry-run", m_options.dryRun);
     parser.addFlag("sync", m_options.flush);
     parser.addValue("jobs", [this](const std::string& value) {
@@ -205,6 +210,8 @@ void RunCommand::check() const
     if (m_outputFolder.has_value() == m_options.inPlace)
         throw UsageError(m_options.inPlace ? "-o and --in-place exclude each other"
                                            : "where to? Give -o DIR or --in-place");
+    if (m_options.rewrite && m_options.inPlace)
+        throw UsageError("--rewrite goes with -o: in place, the document's own bytes would be gone");
     if (m_outputFolder && m_outputFolder->empty())
         throw UsageError("the name of the output folder is empty");
     struct stat status;

@@ -22,9 +22,23 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+const char* const notRewritten = "neither appended to nor rewritten: ";
+
 bool isCode(int code, engine::ErrorCode wanted)
 {
     return code == static_cast<int>(wanted);
+}
+
+/// Doubt about what a document holds keeps it from being written anew, too.
+std::string whyNotAppended(int code)
+{
+    const auto errorCode = static_cast<engine::ErrorCode>(code);
+    if (!engine::cannotAppend(errorCode))
+        return "not saved: " + std::string(engine::errorText(code));
+    return std::string(engine::errorText(code)) +
+           (engine::isDoubt(errorCode)
+                ? "; nothing is appended to it, and for the same reason --rewrite would refuse it"
+                : "; --rewrite writes it anew if nothing is lost by that");
 }
 
 bool isSameState(const struct stat& one, const struct stat& other)
@@ -102,7 +116,7 @@ DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
                                                      : copy(job);
     if (std::string reason = refusal(); !reason.empty())
         return DocumentResult::failed(reason);
-    return m_options.dryRun ? DocumentResult{Status::Changed, Saved::Not, {}, 0} : save(job);
+    return m_options.dryRun ? tryOut() : save(job);
 }
 
 bool DocumentProcessor::applyEntries()
@@ -127,6 +141,18 @@ std::string DocumentProcessor::refusal()
     return {};
 }
 
+/// What save() would do, as far as that can be known without writing.
+DocumentResult DocumentProcessor::tryOut()
+{
+    const int code = m_library.SecurityInfo(engine::AppendRefusal);
+    const bool rewriting = m_options.rewrite && engine::cannotAppend(static_cast<engine::ErrorCode>(code));
+    if (rewriting && m_library.SaveToString().empty())
+        return libraryFailure(notRewritten);
+    if (code != 0 && !rewriting)
+        return notAppended(code);
+    return {Status::Changed, Saved::Not, {}, 0};
+}
+
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
 {
     SafeOutput output(job.target, job.temporary);
@@ -141,14 +167,16 @@ DocumentResult DocumentProcessor::write(const DocumentJob& job)
     const std::wstring target = engine::wideFromFileName(job.temporary);
     if (m_library.AppendToFile(target) != 0)
         return {Status::Changed, Saved::Appended, {}, 0};
-    if (!isCode(m_library.LastErrorCode(), engine::ErrorCode::CannotAppend))
-        return libraryFailure("not saved: ");
-    if (m_library.SecurityInfo(engine::SignatureCount) > 0)
-        return DocumentResult::failed(
-            "it is signed, and the change cannot be appended to it; writing it anew "
-            "would break its signatures");
-    if (m_library.SaveToFile(target) == 0)
-        return libraryFailure("not saved: ");
+    const int code = m_library.LastErrorCode();
+    if (m_options.rewrite && engine::cannotAppend(static_cast<engine::ErrorCode>(code)))
+        return rewrite(job);
+    return notAppended(code);
+}
+
+DocumentResult DocumentProcessor::rewrite(const DocumentJob& job)
+{
+    if (m_library.SaveToFile(engine::wideFromFileName(job.temporary)) == 0)
+        return libraryFailure(notRewritten);
     return {Status::Changed, Saved::Rewritten, {}, 0};
 }
 
@@ -171,6 +199,12 @@ DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& 
         return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
     const std::string problem = output.commit(m_original, m_options.flush);
     return problem.empty() ? result : DocumentResult::failed(problem);
+}
+
+DocumentResult DocumentProcessor::notAppended(int code)
+{
+    m_wornOut = m_wornOut || isCode(code, engine::ErrorCode::OutOfMemory);
+    return DocumentResult::failed(whyNotAppended(code));
 }
 
 DocumentResult DocumentProcessor::libraryFailure(const std::string& what)

@@ -26,6 +26,8 @@ struct ProcessingOptions
     std::vector<ActionEntry> entries;
     std::string password;
     SignedDocuments signedDocuments = SignedDocuments::Refuse;
+    /// A document to which nothing can be appended may be written anew.
+    bool rewrite = false;
     /// The target is the source: a document that needs no change is left alone instead of copied.
     bool inPlace = false;
     /// Nothing is written; the result says what would be.
@@ -63,10 +65,13 @@ private:
     DocumentResult applyAndSave(const DocumentJob& job);
     bool applyEntries();
     std::string refusal();
+    DocumentResult tryOut();
     DocumentResult save(const DocumentJob& job);
     DocumentResult write(const DocumentJob& job);
+    DocumentResult rewrite(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);
     DocumentResult commit(SafeOutput& output, const DocumentJob& job, const DocumentResult& result);
+    DocumentResult notAppended(int code);
     DocumentResult libraryFailure(const std::string& what = {});
 
     CActionInterface& m_action;

@@ -44,6 +44,11 @@ std::string signedDocument()
     return builder.bytes();
 }
 
+std::string withLast(std::string bytes, const std::string& old, const std::string& with)
+{
+    return bytes.replace(bytes.rfind(old), old.size(), with);
+}
+
 QString reasonFor(const QByteArray& err, const QByteArray& name)
 {
     for (const QByteArray& line : err.split('\n'))
@@ -208,6 +213,7 @@ private slots:
         row("no password file", "run -o out --password-file no a.pdf" + set, "no cannot");
         row("number of jobs", "run -o out --jobs 0 a.pdf" + set, "1 to 1024");
         row("signed", "run -o out --signed maybe a.pdf" + set, "refuse or append");
+        row("rewriting in place", "run --in-place --rewrite a.pdf" + set, "--rewrite goes with -o");
         row("null without list", "run -o out --null a.pdf" + set, "--files-from");
         row("empty name", "run -o out ''" + set, "empty");
     }
@@ -236,6 +242,46 @@ private slots:
         QCOMPARE(appended.status, 0);
         const std::string result = WorkFolder::contentOf("out/signed.pdf");
         QVERIFY(result.size() > original.size() && result.substr(0, original.size()) == original);
+    }
+
+    void appendsOrRefuses_data()
+    {
+        const Rows<std::string, QString, QString> row; // what happens without --rewrite, and with it
+        const QString doubt = "--rewrite would refuse it";
+        const std::string newer = "3 0 obj\nnull\nendobj\ntrailer\n<< /Root 1 0 R >>\nstartxref\n9\n%%EOF\n";
+        const std::string direct = "/Root << /Type /Catalog /Pages 2 0 R >>";
+        row("sound", PdfBuilder::simple(), "appended", "appended");
+        row("beyond doubt", withLast(PdfBuilder::simple(), "startxref\n", "startxref\n7"), "appended",
+            "appended");
+        row("signed, beyond doubt", withLast(signedDocument(), "startxref\n", "startxref\n7"), "appended",
+            "appended");
+        row("in doubt", PdfBuilder::simple() + newer, doubt, "newest");
+        row("signed and in doubt", signedDocument() + newer, doubt, "newest");
+        row("nothing to append to", withLast(PdfBuilder::simple(), "/Root 1 0 R", direct),
+            "--rewrite writes it", "rewritten");
+        row("signed, nothing to append to", withLast(signedDocument(), "/Root 1 0 R", direct),
+            "--rewrite writes it", "signatures");
+    }
+
+    void appendsOrRefuses()
+    {
+        const auto [bytes, appending, rewriting] = Rows<std::string, QString, QString>::current();
+        put("a.pdf", bytes);
+        for (const QString option : {"--sync", "--rewrite"}) {
+            const QString& expected = option == "--rewrite" ? rewriting : appending;
+            const QStringList words{option, "--signed", "append", "--report", "report", "-o", "out", "a.pdf"};
+            const bool done = expected == "appended" || expected == "rewritten";
+            QCOMPARE(apply(QStringList{"--dry-run"} + words).status, done ? 0 : 1);
+            fs::remove("report");
+            const ProgramRun run = apply(words);
+            QCOMPARE(run.status, done ? 0 : 1);
+            const QJsonObject told = report().value(0);
+            QVERIFY2(told.value(done ? "saved" : "reason").toString().contains(expected), run.err);
+            QCOMPARE(fs::exists("out/a.pdf"), done);
+            QCOMPARE(done && WorkFolder::contentOf("out/a.pdf").starts_with(bytes), expected == "appended");
+            fs::remove_all("out");
+            fs::remove("report");
+        }
     }
 
     void guardsEncryptedDocuments()
