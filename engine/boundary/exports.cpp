@@ -2,6 +2,7 @@
 #include "Operations.h"
 #include "Session.h"
 #include "engine/files/EngineError.h"
+#include "engine/reading/DocumentOpening.h"
 
 #include <algorithm>
 #include <climits>

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "engine/reading/DocumentChanges.h"
+#include "engine/reading/Kids.h"
+#include "engine/reading/ObjectFetcher.h"
+#include "engine/reading/ReadingTrouble.h"
 #include "engine/update/CrossReference.h"
-#include "pdflibrary/ErrorCodes.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjGen.hh>
@@ -13,42 +16,10 @@
 #include <set>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace engine {
 
 class ByteSource;
-class DirectReader;
-
-/// A direct reader had to give up: thrown by whatever reads an object. Open the document whole, and try
-/// again.
-struct DirectReadingEnded
-{};
-
-/// What a libqpdf failure is called at the library's boundary.
-ErrorCode errorCodeOf(const QPDFExc& error);
-
-/// What a node of the page tree lists.
-class Kids
-{
-public:
-    /// \param array anything; what is no array has no kids.
-    explicit Kids(QPDFObjectHandle array);
-    explicit Kids(std::shared_ptr<const std::vector<QPDFObjGen>> references);
-
-    /// False for the kids of something that is not a node.
-    explicit operator bool() const { return m_references != nullptr || QPDFObjectHandle(m_array).isArray(); }
-    int size() const { return m_size; }
-    /// The object that a reference leads to; the null object's number for a kid that stands here directly.
-    QPDFObjGen id(int kid) const;
-
-private:
-    friend class Document;
-
-    std::shared_ptr<const std::vector<QPDFObjGen>> m_references; // null when m_array has the kids
-    QPDFObjectHandle m_array;
-    int m_size;
-};
 
 /// One open document: the bytes that it was read from, libqpdf's view of them, and which of its objects were
 /// changed since. Failures are thrown as EngineError.
@@ -64,8 +35,7 @@ public:
     /// Reads the cross-reference and the catalog; nothing else of the document is looked at.
     /// \param fileName the name's bytes, empty for a document that came from memory.
     /// \param password UTF-8; tried as it is, in the encodings that old revisions used, and last of all
-    /// empty,
-    ///     so that a password given for a whole batch does not shut out a document that needs none.
+    ///     empty, so that a password given for a whole batch does not shut out a document that needs none.
     Document(std::shared_ptr<ByteSource> source, std::string fileName, std::string_view password);
     ~Document();
     Document(const Document&) = delete;
@@ -108,28 +78,28 @@ public:
     /// describesSection().
     void setTrailerKey(const std::string& key, const QPDFObjectHandle& value);
     /// What setTrailerKey() was called with, the last value for each key.
-    const std::map<std::string, QPDFObjectHandle>& changedTrailer() const { return m_changedTrailer; }
+    const std::map<std::string, QPDFObjectHandle>& changedTrailer() const { return m_changes.trailer(); }
 
     /// Notes that an indirect object differs from the source. For a direct object the caller marks the
     /// indirect one that holds it.
-    void markChanged(const QPDFObjectHandle& object);
-    const std::set<QPDFObjGen>& changedObjects() const { return m_changed; }
+    void markChanged(const QPDFObjectHandle& object) { m_changes.noteObject(object.getObjGen()); }
+    const std::set<QPDFObjGen>& changedObjects() const { return m_changes.objects(); }
 
     /// True when an object was marked as changed, or the trailer was.
-    bool isChanged() const { return !m_changed.empty() || !m_changedTrailer.empty(); }
+    bool isChanged() const { return !m_changes.empty(); }
 
     /// True when libqpdf had to search the file for its objects because the cross-reference was wrong.
     /// Reading an object may be what shows it, so the answer can turn from false to true.
-    bool crossReferenceRebuilt();
+    bool crossReferenceRebuilt() { return trouble().crossReferenceRebuilt(); }
     /// True when libqpdf complained about anything so far.
-    bool anyWarnings();
+    bool anyWarnings() { return trouble().any(); }
     /// True when libqpdf could not read an object as it stands, and made something else of it: null, an empty
     /// stream, a dictionary with other entries.
-    bool misread(QPDFObjGen object);
-    bool anyMisread();
-    bool trailerMisread();
+    bool misread(QPDFObjGen object) { return trouble().misread(object); }
+    bool anyMisread() { return trouble().anyMisread(); }
+    bool trailerMisread() { return trouble().trailerMisread(); }
     /// True when the length of a stream was wrong, and libqpdf searched for its end.
-    bool streamLengthsRecovered();
+    bool streamLengthsRecovered() { return trouble().streamLengthsRecovered(); }
     /// Throws EngineError when memory was short for something read so far, or the disk failed: libqpdf goes
     /// on with null in its place.
     void requireAllRead();
@@ -142,32 +112,16 @@ public:
     const std::string& password() const { return m_password; }
 
 private:
-    bool openSkeleton();
-    std::string_view textOf(QPDFObjGen id);
-    void put(QPDFObjGen id, std::string_view text);
-    void openWhole();
-    /// False when the password is not right.
-    bool open(const std::string& password);
-    void collectWarnings();
-    void noteMisread(const QPDFExc& warning);
+    const ReadingTrouble& trouble();
 
     std::shared_ptr<ByteSource> m_source;
     std::string m_fileName;
     std::string m_password;
-    std::unique_ptr<DirectReader> m_direct; // null when m_pdf has the whole document
-    std::string m_skeleton;
-    std::set<QPDFObjGen> m_fetched;
-    std::vector<QPDFObjGen> m_lookedAt;                                          // whether fetched or not
-    std::map<QPDFObjGen, std::shared_ptr<const std::vector<QPDFObjGen>>> m_kids; // of nodes fetched without
+    std::unique_ptr<ObjectFetcher> m_fetcher; // null when m_pdf has the whole document
     std::shared_ptr<QPDF> m_pdf;
     QPDFObjectHandle m_catalog; // looking it up anew each time is not cheap
-    std::set<QPDFObjGen> m_changed;
-    std::map<std::string, QPDFObjectHandle> m_changedTrailer;
-    std::set<std::string> m_misread; // as libqpdf names the objects
-    bool m_rebuilt = false;
-    bool m_lengthsRecovered = false;
-    bool m_warned = false;
-    bool m_memoryWasShort = false;
+    DocumentChanges m_changes;
+    ReadingTrouble m_trouble;
 };
 
 } // namespace engine

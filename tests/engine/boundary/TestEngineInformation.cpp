@@ -96,6 +96,7 @@ private slots:
             QCOMPARE(GetInformation(again, author), std::wstring(L"A"));
             QCOMPARE(GetInformation(again, modified), std::wstring(L"D:20240101"));
             QCOMPARE(PageCount(again), 2);
+            QVERIFY(again.document().document.trailerKey("/Info").isIndirect());
             QCOMPARE(again.document().document.anyWarnings(), false);
         }
     }
