@@ -12,8 +12,8 @@ namespace engine {
 
 namespace {
 
-/// Builds libqpdf's function-local statics before the registry, so that they outlive it and the documents
-/// that are still open when the program ends.
+/// Builds libqpdf's function-local statics before the registry, so that they outlive it, and with it the
+/// documents that are still open when the program ends.
 void prepareForLateClosing()
 {
     const auto pdf = QPDF::create();

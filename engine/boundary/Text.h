@@ -14,7 +14,10 @@ inline bool isSurrogate(wchar_t character)
     return character >= 0xd800 && character <= 0xdfff;
 }
 
-/// Text for the library's caller; what is not valid UTF-8 becomes U+FFFD.
+/// Text of a document for the library's caller.
+/// \param text UTF-8; any bytes are taken.
+/// \returns one wide character for each of the text's; U+FFFD for each byte that is not valid UTF-8. File
+///     names cross by wideFromFileName instead, which keeps such bytes.
 inline std::wstring wideFromUtf8(std::string_view text)
 {
     std::wstring wide = wideFromFileName(text);

@@ -112,7 +112,7 @@ std::size_t objectCount(QPDF& pdf)
     for (const auto& [id, entry] : pdf.getXRefTable()) {
         QPDFObjectHandle object = pdf.getObject(id);
         const bool storage = object.isStreamOfType("/XRef") || object.isStreamOfType("/ObjStm");
-        count += storage || object.isNull() ? 0 : 1;
+        count += storage || object.isNull() ? 0U : 1U;
     }
     return count;
 }
