@@ -31,6 +31,7 @@ std::unique_ptr<Document> opened(const std::string& path)
 void change(Document& document)
 {
     document.catalog().replaceKey("/PageMode", QPDFObjectHandle::newName("/UseThumbs"));
+    document.catalog().replaceKey("/Left", QPDFObjectHandle::newReal(72.0, 2));
     document.markChanged(document.catalog());
 }
 
