@@ -146,6 +146,14 @@ private slots:
         }
     }
 
+    void numbersNewObjectsAsReadersTakeThem()
+    {
+        put(m_source, replaced(PdfBuilder::simple(), "/Size 6", "/Size 9000000"));
+        const auto document = opened(m_source);
+        const QPDFObjectHandle made = document->makeIndirect(QPDFObjectHandle::newArray());
+        QCOMPARE(QPDFObjectHandle(made).getObjectID(), 6);
+    }
+
     void changesNothingThatIsInDoubt_data()
     {
         const Rows<std::string, ErrorCode> row;
