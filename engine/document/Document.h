@@ -64,8 +64,7 @@ public:
     /// Reads the cross-reference and the catalog; nothing else of the document is looked at.
     /// \param fileName the name's bytes, empty for a document that came from memory.
     /// \param password UTF-8; tried as it is, in the encodings that old revisions used, and last of all
-    /// empty, so
-    ///     that a password given for a whole batch does not shut out a document that needs none.
+    ///     empty, so that a password given for a whole batch does not shut out a document that needs none.
     Document(std::shared_ptr<ByteSource> source, std::string fileName, std::string_view password);
     ~Document();
     Document(const Document&) = delete;

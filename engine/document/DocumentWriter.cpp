@@ -14,33 +14,60 @@
 #include <qpdf/QPDFWriter.hh>
 
 #include <algorithm>
+#include <exception>
+#include <string>
+#include <string_view>
 
 namespace engine {
 
 namespace {
 
-// QPDFWriter writes a few bytes at a time.
+// QPDFWriter writes a few bytes at a time, and finishes its pipelines in destructors, which nothing thrown
+// may leave: the first failure is kept, and what comes after it is dropped.
 class FilePipeline : public Pipeline
 {
 public:
-    explicit FilePipeline(OutputFile& file) : Pipeline("file", nullptr), m_file(file) {}
+    explicit FilePipeline(OutputFile& file) : Pipeline("file", nullptr), m_file(file)
+    {
+        m_waiting.reserve(largest);
+    }
 
     void write(const unsigned char* data, std::size_t size) override
     {
-        m_waiting.append(reinterpret_cast<const char*>(data), size);
-        if (m_waiting.size() >= 1 << 18)
-            finish();
+        std::string_view bytes(reinterpret_cast<const char*>(data), size);
+        while (!bytes.empty()) {
+            const std::string_view fitting = bytes.substr(0, largest - m_waiting.size());
+            m_waiting.append(fitting);
+            bytes.remove_prefix(fitting.size());
+            if (m_waiting.size() == largest)
+                finish();
+        }
     }
 
     void finish() override
     {
-        m_file.write(m_waiting);
+        try {
+            if (!m_failure)
+                m_file.write(m_waiting);
+        } catch (...) {
+            m_failure = std::current_exception();
+        }
         m_waiting.clear();
     }
 
+    /// Throws the failure, if there was any.
+    void requireWritten() const
+    {
+        if (m_failure)
+            std::rethrow_exception(m_failure);
+    }
+
 private:
+    static constexpr std::size_t largest = 1 << 18;
+
     OutputFile& m_file;
     std::string m_waiting;
+    std::exception_ptr m_failure;
 };
 
 bool hasObjectStreams(QPDF& pdf)
@@ -142,6 +169,7 @@ void writeWhole(Document& document, const std::string& path)
     OutputFile file(path);
     FilePipeline pipeline(file);
     writeInto(document, pipeline);
+    pipeline.requireWritten();
     requireSameContent(document, ByteSource::openFile(file.writtenPath()));
     file.commit();
 }

@@ -12,7 +12,7 @@
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/terminal/ExitStatus.h"
-#include "host/terminal/FileNames.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"
 
@@ -71,7 +71,7 @@ Options:
   --jobs N                  works on N documents at a time (default: the number of processors)
   --timeout SECONDS         gives a document up after this time (default: 60)
   --memory MIB              gives a document up that needs more memory (default: 1024)
-  --quiet                   prints failures only
+  --quiet                   prints failures and notes only
   -h, --help                prints this text
 
 Exit status: 0 all well, 1 some documents failed, 2 nothing was begun, 130 stopped by a signal.
@@ -111,12 +111,6 @@ SignedDocuments signedDocuments(const std::string& value)
     return SignedDocuments::Refuse;
 }
 
-void note(const std::string& text)
-{
-    const std::string line = "quintar: note: " + forTerminal(text) + "\n";
-    writeAll(STDERR_FILENO, line.data(), line.size());
-}
-
 /// Files may hold what no dialog offers; the action makes of it what it can.
 void noteOddNumbers(const SettingsMap& settings)
 {
@@ -151,14 +145,16 @@ int RunCommand::run(int argc, char** argv)
     warnOfSettingsWithoutEffect();
 
     const RunPlan plan = this->plan();
+    std::optional<Report> report;
+    if (m_reportFile)
+        report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
     BatchRun::Done done = doneBefore(plan);
     if (m_outputFolder && !m_options.dryRun)
         if (const std::string problem = SafeOutput::makeFolder(*m_outputFolder); !problem.empty())
             throw UsageError(problem);
     m_options.tellStates = m_reportFile.has_value();
-    std::optional<Report> report; // may lie in the output folder
-    if (m_reportFile)
-        report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
+    if (report) // may lie in the output folder
+        report->begin();
     return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet, std::move(done)).run(m_limits);
 }
 

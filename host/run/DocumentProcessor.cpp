@@ -1,10 +1,11 @@
 #include "DocumentProcessor.h"
 
 #include "FileState.h"
+#include "host/files/FileAttributes.h"
 #include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
-#include "host/terminal/FileNames.h"
+#include "host/program/InstallLayout.h"
 
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
@@ -19,8 +20,6 @@
 namespace host {
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 const char* const notRewritten = "neither appended to nor rewritten: ";
 
@@ -41,17 +40,11 @@ std::string whyNotAppended(int code)
                 : "; --rewrite writes it anew if nothing is lost by that");
 }
 
-bool isSameState(const struct stat& one, const struct stat& other)
-{
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_size == other.st_size &&
-           one.st_mtim.tv_sec == other.st_mtim.tv_sec && one.st_mtim.tv_nsec == other.st_mtim.tv_nsec;
-}
-
 } // namespace
 
 DocumentProcessor::DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
                                      const ProcessingOptions& options)
-    : m_action(action), m_options(options), m_library(toLibraryPath(libraryFile))
+    : m_action(action), m_options(options), m_library(installlayout::toLibraryPath(libraryFile))
 {
     if (!m_library.LibraryLoaded())
         throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
@@ -72,9 +65,10 @@ void DocumentProcessor::bracket(Bracket call)
     }
 }
 
-DocumentResult DocumentProcessor::process(const DocumentJob& job)
+DocumentResult DocumentProcessor::process(const DocumentJob& job, const BeforePlacement& beforePlacement)
 {
-    const Clock::time_point begin = Clock::now();
+    m_begin = Clock::now();
+    m_beforePlacement = &beforePlacement;
     DocumentResult result;
     try {
         result = work(job);
@@ -84,8 +78,13 @@ DocumentResult DocumentProcessor::process(const DocumentJob& job)
     } catch (const std::exception& error) {
         result = DocumentResult::failed(error.what());
     }
-    result.milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - begin).count();
+    result.milliseconds = millisecondsTaken();
     return result;
+}
+
+std::int64_t DocumentProcessor::millisecondsTaken() const
+{
+    return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_begin).count();
 }
 
 DocumentResult DocumentProcessor::work(const DocumentJob& job)
@@ -99,11 +98,17 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     m_library.SelectDocument(document);
     DocumentResult result = applyAndSave(job);
     m_library.RemoveDocument(document);
-    if (result.status != Status::Failed && m_options.tellStates && !m_options.dryRun) {
-        result.outputState = stateOf(job.target);
-        result.fileState = m_options.inPlace ? result.outputState : stateOf(m_original);
-    }
+    if (result.status != Status::Failed && !m_options.dryRun)
+        tellStates(result, stateOf(job.target));
     return result;
+}
+
+void DocumentProcessor::tellStates(DocumentResult& result, const std::string& outputState) const
+{
+    if (!m_options.tellStates)
+        return;
+    result.outputState = outputState;
+    result.fileState = m_options.inPlace ? outputState : stateOf(m_original);
 }
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
@@ -194,11 +199,25 @@ DocumentResult DocumentProcessor::copy(const DocumentJob& job)
 DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& job,
                                          const DocumentResult& result)
 {
+    const FileDescriptor source = openRegularFile(job.source);
     struct stat now;
-    if (stat(job.source.c_str(), &now) != 0 || !isSameState(now, m_original))
+    if (!source.isOpen() || fstat(source.get(), &now) != 0 || !isSameState(now, m_original))
         return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
-    const std::string problem = output.commit(m_original, m_options.flush);
-    return problem.empty() ? result : DocumentResult::failed(problem);
+    const auto beforeRename = [&](const struct stat& finished, const std::string& note) {
+        DocumentResult placed = result;
+        placed.milliseconds = millisecondsTaken();
+        placed.note = note;
+        tellStates(placed, stateOf(finished));
+        (*m_beforePlacement)({placed, finished});
+    };
+    const auto take = m_options.inPlace ? FileAttributes::Take::All : FileAttributes::Take::ForCopy;
+    const SafeOutput::Outcome outcome =
+        output.commit(FileAttributes(source.get(), take), m_options.flush, beforeRename);
+    if (!outcome.problem.empty())
+        return DocumentResult::failed(outcome.problem);
+    DocumentResult placed = result;
+    placed.note = outcome.note;
+    return placed;
 }
 
 DocumentResult DocumentProcessor::notAppended(int code)

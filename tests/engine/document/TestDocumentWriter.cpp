@@ -10,9 +10,11 @@
 
 #include <QtTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <functional>
 #include <optional>
 
@@ -22,6 +24,8 @@ namespace fs = std::filesystem;
 namespace {
 
 using Settings = std::function<void(QPDFWriter&)>;
+
+int openProblem = 0; // what opening any file meets, an errno
 
 std::unique_ptr<Document> opened(const std::string& path)
 {
@@ -74,6 +78,15 @@ std::string withSettings(const Settings& set)
 }
 
 } // namespace
+
+extern "C" {
+int __real_open(const char* path, int flags, mode_t mode);
+int __wrap_open(const char* path, int flags, mode_t mode)
+{
+    errno = openProblem;
+    return openProblem != 0 ? -1 : __real_open(path, flags, mode);
+}
+}
 
 class TestDocumentWriter : public QObject
 {
@@ -234,6 +247,28 @@ private slots:
             QCOMPARE(pageMode(m_target), QByteArray("/UseThumbs"));
     }
 
+    void tellsWhyItCannotBeWritten()
+    {
+        rlimit before;
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        const rlimit little{1000, before.rlim_max};
+        signal(SIGXFSZ, SIG_IGN);
+        for (const auto save : {appendUpdate, writeWhole}) {
+            put(m_source, PdfBuilder()
+                              .catalog("/Kept 9 0 R")
+                              .pages(2)
+                              .stream(9, "", std::string(1 << 20, 'x'))
+                              .bytes());
+            const auto document = opened(m_source);
+            change(*document);
+            setrlimit(RLIMIT_FSIZE, &little);
+            const auto error = errorOf([&] { save(*document, m_target); });
+            setrlimit(RLIMIT_FSIZE, &before);
+            QCOMPARE(error, ErrorCode::FileTooLarge);
+            QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
+        }
+    }
+
     void keepsWhatTheDocumentIs_data()
     {
         const Rows<std::string> row;
@@ -342,6 +377,9 @@ private slots:
         QCOMPARE(errorAt(m_source + "/file.pdf"), ErrorCode::FileNotFound);
         QCOMPARE(errorAt("."), ErrorCode::NotARegularFile);
         QCOMPARE(errorAt("/dev/null"), ErrorCode::NotARegularFile);
+        openProblem = EROFS;
+        QCOMPARE(errorAt(m_target), ErrorCode::ReadOnlyFileSystem);
+        openProblem = 0;
         if (::geteuid() != 0) {
             fs::permissions(".", fs::perms(0500));
             QCOMPARE(errorAt(m_target), ErrorCode::AccessDenied);

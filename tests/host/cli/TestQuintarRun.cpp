@@ -13,6 +13,7 @@
 #include <optional>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -513,13 +514,13 @@ private slots:
 
     void stopsWhenAsked()
     {
-        for (const char* name : {"in/1-good.pdf", "in/2-hang.pdf", "in/3-good.pdf"})
+        for (const char* name : {"in/1-good.pdf", "in/2-hang.pdf", "in/3-late-hang.pdf", "in/4-good.pdf"})
             put(name);
         QProcess process;
         process.start(programWithTroubledLibrary(),
-                      QStringList{"run", "--jobs", "1", "--in-place", "--report", "report", "in"} +
+                      QStringList{"run", "--jobs", "2", "--in-place", "--report", "report", "in"} +
                           panelAndPage);
-        QVERIFY(waitFor([] { return fs::exists("report") && fs::file_size("report") > 0; }));
+        QVERIFY(waitFor([] { return WorkFolder::contentOf("in/3-late-hang.pdf") != PdfBuilder::simple(); }));
         ::kill(pid_t(process.processId()), SIGINT);
         QTest::qWait(300);
         QCOMPARE(process.state(), QProcess::Running); // waits for the document in work
@@ -527,16 +528,44 @@ private slots:
         QVERIFY(process.waitForFinished(10000));
         QCOMPARE(process.exitCode(), 130);
         const QByteArray err = process.readAllStandardError();
-        QVERIFY2(err.contains("not done: in/2-hang.pdf\nnot done: in/3-good.pdf\n"), err);
+        QVERIFY2(err.contains("not done: in/2-hang.pdf\nnot done: in/4-good.pdf\n"), err);
         QVERIFY(process.readAllStandardOutput().endsWith(
-            "1 changed, 0 unchanged, 0 failed, stopped with 2 not done\n"));
-        QCOMPARE(report().size(), 1);
-        QVERIFY(WorkFolder::contentOf("in/3-good.pdf") == PdfBuilder::simple());
+            "2 changed, 0 unchanged, 0 failed, stopped with 2 not done\n"));
+        QCOMPARE(report().size(), 2);
+        QVERIFY(WorkFolder::contentOf("in/4-good.pdf") == PdfBuilder::simple());
     }
 
-    // What a worker is given ahead is neither begun after a stop signal nor kept waiting by a document that
-    // takes long.
-    void takesBackWhatWasGivenAhead()
+    // Between the rename and the answer a worker can end as at any other moment.
+    void tellsWhatWasPutInPlaceLast_data()
+    {
+        const Rows<QString, QString> row;
+        row("in place", "--in-place in", "in");
+        row("to a folder", "-o out in", "out");
+    }
+
+    void tellsWhatWasPutInPlaceLast()
+    {
+        const auto [words, folder] = Rows<QString, QString>::current();
+        for (const char* name : {"in/1-late-crash.pdf", "in/2-good.pdf"})
+            put(name);
+        const ProgramRun run(programWithTroubledLibrary(),
+                             QStringList{"run", "--report", "report"} + words.split(' ') + panelAndPage,
+                             m_folder->path());
+        QVERIFY2(run.out.endsWith("2 changed, 0 unchanged, 0 failed\n"), run.err);
+        const std::string changed = folder.toStdString() + "/1-late-crash.pdf";
+        QVERIFY(QpdfReader(path(changed)).catalog().contains("/PageMode"));
+        QJsonObject crashed = report()[0];
+        QJsonObject good = report()[1];
+        QVERIFY(crashed.take("note").toString().contains("crashed"));
+        for (const char* state : {"fileState", "outputState"})
+            QVERIFY(crashed.value(state).toString().contains(" bytes, "));
+        for (const char* own : {"file", "output", "fileState", "outputState", "milliseconds"})
+            QVERIFY(!crashed.take(own).isNull() && !good.take(own).isNull());
+        QCOMPARE(crashed, good);
+    }
+
+    // After a stop signal no document is begun, and one that takes long keeps no other waiting.
+    void beginsNoDocumentTooLateOrTooEarly()
     {
         const auto start = [program = programWithTroubledLibrary()](QProcess& process,
                                                                     const QStringList& options) {
@@ -642,6 +671,41 @@ private slots:
         QVERIFY2(refused.err.contains("line 1 tells nothing of a document"), refused.err);
     }
 
+    void refusesAReportThatAnotherRunWrites()
+    {
+        put("a.pdf");
+        const std::string lines = put("report", "lines of another run\n");
+        const int report = open("report", O_WRONLY | O_CLOEXEC);
+        QCOMPARE(flock(report, LOCK_EX), 0);
+        for (const QStringList& resume : {QStringList(), QStringList{"--resume", "report"}}) {
+            const ProgramRun run = apply(QStringList{"-o", "out", "--report", "report", "a.pdf"} + resume);
+            QCOMPARE(run.status, 2);
+            QCOMPARE(run.err, QByteArray("quintar: the report report is being written by another run\n"));
+            QVERIFY(WorkFolder::contentOf("report") == lines);
+            QVERIFY(!fs::exists("out"));
+        }
+        close(report);
+        QCOMPARE(apply({"-o", "out", "--report", "report", "a.pdf"}).status, 0);
+    }
+
+    void tellsWhatCouldNotBeKept()
+    {
+        if (geteuid() != 0)
+            QSKIP("only root can have files that are not the user's own");
+        put("d/a.pdf");
+        QCOMPARE(chmod(".", 0711), 0);
+        QCOMPARE(chown("d", 65534, 65534), 0);
+        const ProgramRun run("setpriv",
+                             QStringList{"--reuid=65534", "--regid=65534", "--clear-groups", PROGRAM_FILE,
+                                         "run", "--in-place", "--report", "d/report", "--quiet", "d/a.pdf"} +
+                                 panelAndPage,
+                             m_folder->path());
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.err, QByteArray("note: d/a.pdf: could not be kept: owner, group\n"));
+        QVERIFY(WorkFolder::contentOf("d/report").find("\"note\":\"could not be kept: owner, group\"") !=
+                std::string::npos);
+    }
+
     void showsHowDocumentsOpen()
     {
         put("a.pdf", PdfBuilder::simple(
@@ -651,13 +715,14 @@ private slots:
         const ProgramRun words = quintar({"show", "a.pdf", "plain.pdf"});
         QCOMPARE(words.status, 0);
         for (const char* line :
-             {"a.pdf\n  Pages                 3\n", "  Navigation tab        Conten Group Panel and Page\n",
-              "  Page layout           Two pages, odd-numbered pages on the right\n",
-              "  Open at page          2\n  Magnification         150%\n",
-              "  Hide tool bars        yes\n  Hide menu bar         no\n",
-              "  After full screen     Pages Panel and Page\n",
-              "  Page layout           No preference set in document\n",
-              "  Open at page          not set in document\n"})
+             {"a.pdf\n  Pages                          3\n",
+              "  Navigation tab                 Conten Group Panel and Page\n",
+              "  Page layout                    Two pages, odd-numbered pages on the right\n",
+              "  Magnification                  150%\n  Open to page                   2\n",
+              "  Hide tool bars                 yes\n  Hide menu bar                  no\n",
+              "  After full screen              Pages Panel and Page\n",
+              "  Page layout                    No preference set in document\n",
+              "  Open to page                   not set in document\n"})
             QVERIFY2(words.out.contains(line), words.out);
         const ProgramRun json = quintar({"show", "--json", "a.pdf", "missing.pdf", "plain.pdf"});
         QCOMPARE(json.status, 1);
