@@ -2,9 +2,9 @@
 #include "cli/ListsCommand.h"
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
-#include "host/files/FileDescriptor.h"
 #include "host/program/HostApplication.h"
-#include "host/terminal/FileNames.h"
+#include "host/terminal/ExitStatus.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"
 
@@ -49,10 +49,9 @@ void occupyStandardDescriptors()
             open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
 }
 
-int complain(const std::string& message, int status)
+int endWith(const std::string& message, int status)
 {
-    const std::string line = "quintar: " + host::forTerminalLines(message) + "\n";
-    host::writeAll(STDERR_FILENO, line.data(), line.size());
+    host::complainInLines(message);
     return status;
 }
 
@@ -97,8 +96,8 @@ int main(int argc, char** argv)
         return runCommand(argc, argv);
     } catch (const host::OutputError& error) {
         return error.readerHasGone() ? host::exitstatus::someFailed
-                                     : complain(error.what(), host::exitstatus::someFailed);
+                                     : endWith(error.what(), host::exitstatus::someFailed);
     } catch (const std::exception& error) {
-        return complain(error.what(), host::exitstatus::usage);
+        return endWith(error.what(), host::exitstatus::usage);
     }
 }

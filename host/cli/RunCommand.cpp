@@ -11,7 +11,8 @@
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsFolder.h"
-#include "host/terminal/FileNames.h"
+#include "host/terminal/ExitStatus.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"
 
@@ -38,6 +39,8 @@ const char helpText[] =
     R"(Usage: quintar run SETTINGS (-o DIR | --in-place) [OPTION ...] DOCUMENT|FOLDER ...
 
 Makes PDF documents open as the settings say. A folder stands for the PDF documents in it and its subfolders.
+A run never removes a byte: every result begins with the document's own bytes, or the document is refused;
+only --rewrite does otherwise.
 
 Settings, from one source:
   --list FILE.xqq|NAME      an action list; its entries are applied in their order
@@ -61,12 +64,14 @@ Options:
                             since; may be the same file as --report, which is continued then
   --signed refuse|append    what becomes of signed documents: refused (the default), or changed by an update
                             behind what is signed
+  --rewrite                 with -o, a document to which nothing can be appended is written anew if nothing is lost
+                            by that; without it such a document is refused
   --dry-run                 writes nothing and tells what would be changed
   --sync                    with -o, flushes each document to the disk before the next; in place that is always so
   --jobs N                  works on N documents at a time (default: the number of processors)
   --timeout SECONDS         gives a document up after this time (default: 60)
   --memory MIB              gives a document up that needs more memory (default: 1024)
-  --quiet                   prints failures only
+  --quiet                   prints failures and notes only
   -h, --help                prints this text
 
 Exit status: 0 all well, 1 some documents failed, 2 nothing was begun, 130 stopped by a signal.
@@ -106,12 +111,6 @@ SignedDocuments signedDocuments(const std::string& value)
     return SignedDocuments::Refuse;
 }
 
-void note(const std::string& text)
-{
-    const std::string line = "quintar: note: " + forTerminal(text) + "\n";
-    writeAll(STDERR_FILENO, line.data(), line.size());
-}
-
 /// Files may hold what no dialog offers; the action makes of it what it can.
 void noteOddNumbers(const SettingsMap& settings)
 {
@@ -146,14 +145,16 @@ int RunCommand::run(int argc, char** argv)
     warnOfSettingsWithoutEffect();
 
     const RunPlan plan = this->plan();
+    std::optional<Report> report;
+    if (m_reportFile)
+        report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
     BatchRun::Done done = doneBefore(plan);
     if (m_outputFolder && !m_options.dryRun)
         if (const std::string problem = SafeOutput::makeFolder(*m_outputFolder); !problem.empty())
             throw UsageError(problem);
     m_options.tellStates = m_reportFile.has_value();
-    std::optional<Report> report; // may lie in the output folder
-    if (m_reportFile)
-        report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
+    if (report) // may lie in the output folder
+        report->begin();
     return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet, std::move(done)).run(m_limits);
 }
 
@@ -175,6 +176,7 @@ void RunCommand::parse(int argc, char** argv)
     parser.addValue("resume", setOnce(m_resumedReport, "--resume"));
     parser.addValue("signed",
                     [this](const std::string& value) { m_options.signedDocuments = signedDocuments(value); });
+    parser.addFlag("rewrite", m_options.rewrite);
     parser.addFlag("dry-run", m_options.dryRun);
     parser.addFlag("sync", m_options.flush);
     parser.addValue("jobs", [this](const std::string& value) {
@@ -204,6 +206,8 @@ void RunCommand::check() const
     if (m_outputFolder.has_value() == m_options.inPlace)
         throw UsageError(m_options.inPlace ? "-o and --in-place exclude each other"
                                            : "where to? Give -o DIR or --in-place");
+    if (m_options.rewrite && m_options.inPlace)
+        throw UsageError("--rewrite goes with -o: in place, the document's own bytes would be gone");
     if (m_outputFolder && m_outputFolder->empty())
         throw UsageError("the name of the output folder is empty");
     struct stat status;

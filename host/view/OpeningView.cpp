@@ -1,7 +1,7 @@
 #include "OpeningView.h"
 
 #include "ViewWords.h"
-#include "host/terminal/FileNames.h"
+#include "host/terminal/TerminalText.h"
 
 #include "EditInitialView/InitialViewSettings.h"
 #include "pdflibrary/ErrorCodes.h"
