@@ -22,9 +22,13 @@ function(quintar_target name)
         target_compile_options(${name} PRIVATE -Wno-restrict)
     endif()
     if(QUINTAR_SANITIZE)
-        target_compile_options(${name} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+        target_compile_options(${name} PRIVATE -fsanitize=${QUINTAR_SANITIZE} -fno-sanitize-recover=all
             -fno-omit-frame-pointer)
-        target_link_options(${name} PRIVATE -fsanitize=address,undefined)
+        target_link_options(${name} PRIVATE -fsanitize=${QUINTAR_SANITIZE})
+    endif()
+    if(QUINTAR_COVERAGE)
+        target_compile_options(${name} PRIVATE --coverage)
+        target_link_options(${name} PRIVATE --coverage)
     endif()
 endfunction()
 

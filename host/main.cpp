@@ -5,6 +5,7 @@
 #include "host/files/FileDescriptor.h"
 #include "host/options/HelpText.h"
 #include "host/program/HostApplication.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/FileNames.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/Suggestion.h"

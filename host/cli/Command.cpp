@@ -2,6 +2,7 @@
 
 #include "OptionParser.h"
 
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardOutput.h"
 
 namespace host {

@@ -9,14 +9,6 @@ namespace host {
 
 class OptionParser;
 
-/// The program's exit statuses.
-namespace exitstatus {
-inline constexpr int done = 0;
-inline constexpr int someFailed = 1;
-inline constexpr int usage = 2;
-inline constexpr int stopped = 130;
-} // namespace exitstatus
-
 /// One of the program's commands.
 class Command
 {

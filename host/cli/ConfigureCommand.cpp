@@ -8,6 +8,7 @@
 #include "host/program/PluginHost.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/FileNames.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"

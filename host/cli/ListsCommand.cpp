@@ -5,6 +5,7 @@
 #include "host/files/FileDescriptor.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/settings/SettingsWords.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/FileNames.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/StandardOutput.h"

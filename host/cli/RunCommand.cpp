@@ -11,6 +11,7 @@
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsFolder.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/FileNames.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/Suggestion.h"

@@ -4,6 +4,7 @@
 
 #include "host/files/FileDescriptor.h"
 #include "host/program/InstallLayout.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/FileNames.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/StandardOutput.h"

@@ -3,7 +3,7 @@
 #include "host/files/FileDescriptor.h"
 #include "host/terminal/FileNames.h"
 
-#include "host/cli/Command.h"
+#include "host/terminal/ExitStatus.h"
 #include "shared/CUtils.h"
 
 #include <QApplication>

@@ -3,11 +3,11 @@
 #include "Progress.h"
 #include "Report.h"
 #include "RunPlan.h"
-#include "host/cli/Command.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
 #include "host/program/InstallLayout.h"
 #include "host/program/PluginHost.h"
+#include "host/terminal/ExitStatus.h"
 #include "host/terminal/FileNames.h"
 #include "host/workers/StopSignal.h"
 
