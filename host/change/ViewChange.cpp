@@ -20,6 +20,11 @@ void ViewChange::set(ViewEntry entry, ViewValue value)
     m_values.at(static_cast<std::size_t>(entry)) = std::move(value);
 }
 
+void ViewChange::remove(ViewEntry entry)
+{
+    m_values.at(static_cast<std::size_t>(entry)).reset();
+}
+
 void ViewChange::add(const ViewChange& other)
 {
     for (std::size_t index = 0; index < viewEntryCount; ++index)

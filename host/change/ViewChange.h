@@ -50,6 +50,8 @@ public:
     /// Nothing for what stays.
     const std::optional<ViewValue>& operator[](ViewEntry entry) const;
     void set(ViewEntry entry, ViewValue value);
+    /// The entry stays as it is.
+    void remove(ViewEntry entry);
 
     /// Whether a title that is there stays.
     bool keepsTitles() const { return m_keepsTitles; }

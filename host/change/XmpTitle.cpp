@@ -203,6 +203,8 @@ std::optional<QString> write(const QString& packet, const QString& title)
         return std::nullopt;
     if (title.isEmpty())
         return parsed.title().isFound() ? replaced(packet, parsed.title(), {}) : packet;
+    if (parsed.item().isFound() && parsed.text() == title)
+        return packet;
     if (parsed.item().isFound())
         return replaced(packet, parsed.item(), itemFragment(parsed.language(), title));
     if (parsed.title().isFound())

@@ -10,9 +10,9 @@ const QString begin =
                       "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\">\n"
                       " <rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">\n");
 const QString end = " </rdf:RDF>\n</x:xmpmeta>\n" + QString(200, ' ') + "\n<?xpacket end=\"w\"?>";
-const QString other =
-    "  <rdf:Description  rdf:about='uuid:1' xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\"\r\n"
-    "     pdf:Producer=\"A &amp; B\"><!-- kept --><pdf:Keywords>\xf0\x9f\x98\x80 \xc3\xa4</pdf:Keywords></rdf:Description>\n";
+const QString other = "  <rdf:Description  rdf:about='uuid:1' xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\"\r\n"
+                      "     pdf:Producer=\"A &amp; B\"><!-- kept --><pdf:Keywords>\xf0\x9f\x98\x80 "
+                      "\xc3\xa4</pdf:Keywords></rdf:Description>\n";
 
 /// A description with a dc:title of this content.
 QString described(const QString& title)
