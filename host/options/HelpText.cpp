@@ -70,7 +70,7 @@ std::string whole(const Command& command)
     for (const Option& each : options::optionsOf(command.id)) {
         if (options::titleOf(each.group) != title)
             text += "\n" + std::string(title = options::titleOf(each.group)) + ":\n";
-        text += line(each.form(), each.brief + (each.more.empty() ? "" : "; " + each.more));
+        text += line(each.form(), each.brief + (each.rest().empty() ? "" : "; " + each.rest()));
     }
     text += "\nHelp:\n";
     for (const Option& each : options::commonOptions())

@@ -77,21 +77,10 @@ std::string formOf(const Option& option)
            (option.value.empty() ? "" : " Ar " + quoted(option.value)) + "\n";
 }
 
-std::string wordsOf(const Option& option)
-{
-    if (option.completes != options::Completes::Words || option.value.find('|') != std::string::npos)
-        return {};
-    std::string text;
-    for (const std::string& word : option.words)
-        text += (text.empty() ? "It takes " : ", ") + word;
-    return text + (option.more.empty() ? "" : "; " + option.more);
-}
-
 std::string optionItem(const Option& option)
 {
-    const std::string words = wordsOf(option);
-    const std::string more = words.empty() ? option.more : words;
-    return formOf(option) + sentence(option.brief) + (more.empty() ? "" : sentence(more));
+    const std::string rest = option.rest();
+    return formOf(option) + sentence(option.brief) + (rest.empty() ? "" : sentence(rest));
 }
 
 std::string list(const std::string& items)

@@ -66,7 +66,7 @@ const std::vector<Option> optionRows{
     {"null", 0, "", "the names in that list end with NUL instead", "",
      Nothing, {}, {Run}, Group::Documents, rare},
 
-    {"signed", 0, "refuse|append", "what becomes of signed documents",
+    {"signed", 0, "HOW", "what becomes of signed documents",
      "refused (the default), or changed by an update behind what is signed",
      Words, {"refuse", "append"}, {Run}, Group::Signed, rare},
 
@@ -144,6 +144,17 @@ std::string Option::form() const
 {
     return (letter != 0 ? std::string("-") + letter + ", " : "") + "--" + name +
            (value.empty() ? "" : " " + value);
+}
+
+std::string Option::rest() const
+{
+    std::string text = more;
+    if (completes != Completes::Words || value.find('|') != std::string::npos) // where the value says them
+        return text;
+    text += (text.empty() ? "" : "; ") + value + " is ";
+    for (const std::string& word : words)
+        text += (&word == &words.front() ? "" : &word == &words.back() ? " or " : ", ") + word;
+    return text;
 }
 
 const std::vector<Command>& commands()

@@ -37,6 +37,8 @@ struct Option
     bool isOf(CommandId command) const;
     /// "-o, --output DIR"
     std::string form() const;
+    /// What is to be known beyond the brief text: the rest, and the words that the value takes.
+    std::string rest() const;
 };
 
 struct ExitStatus

@@ -20,19 +20,11 @@ std::string cell(const std::string& text)
     return result;
 }
 
-std::string valuesOf(const Option& option)
-{
-    std::string text;
-    if (option.completes == options::Completes::Words && option.value.find('|') == std::string::npos)
-        for (const std::string& word : option.words)
-            text += (text.empty() ? ": `" : " `") + word + "`";
-    return text;
-}
-
 std::string row(const Option& option)
 {
-    return "| `" + cell(option.form()) + "` | " + cell(option.brief) +
-           cell(option.more.empty() ? "" : "; " + option.more) + valuesOf(option) + " |\n";
+    const std::string rest = option.rest();
+    return "| `" + cell(option.form()) + "` | " + cell(option.brief + (rest.empty() ? "" : "; " + rest)) +
+           " |\n";
 }
 
 std::string of(const Command& command)
