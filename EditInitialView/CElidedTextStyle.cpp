@@ -1,7 +1,7 @@
 #include "CElidedTextStyle.h"
 
+#include <QComboBox>
 #include <QStyleOptionComboBox>
-#include <QWidget>
 
 namespace {
 
@@ -9,10 +9,11 @@ const int textMargin = 2; // on either side, as styles draw it
 
 } // namespace
 
-CElidedTextStyle::CElidedTextStyle(QWidget* widget)
+CElidedTextStyle::CElidedTextStyle(QComboBox* list) : m_list(list)
 {
-    setParent(widget);
-    widget->setStyle(this);
+    setParent(list);
+    list->setStyle(this);
+    connect(list, SIGNAL(currentTextChanged(QString)), this, SLOT(on_TextChanged(QString)));
 }
 
 void CElidedTextStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -28,4 +29,9 @@ void CElidedTextStyle::drawControl(ControlElement element, const QStyleOption* o
     elided.currentText =
         list->fontMetrics.elidedText(list->currentText, Qt::ElideMiddle, field.width() - 2 * textMargin);
     QProxyStyle::drawControl(element, &elided, painter, widget);
+}
+
+void CElidedTextStyle::on_TextChanged(const QString& text)
+{
+    m_list->setToolTip(text);
 }

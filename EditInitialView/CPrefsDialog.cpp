@@ -35,8 +35,6 @@ CPrefsDialog::CPrefsDialog(QWidget* parent) : CQuintarDialog(parent, true)
     titleLabel->setText(windowTitle());
     // The labels differ in their last words, and the dialog is too narrow to show them whole.
     new CElidedTextStyle(ui.PageLayoutComboBox);
-    connect(ui.PageLayoutComboBox, &QComboBox::currentTextChanged, ui.PageLayoutComboBox,
-            &QWidget::setToolTip);
     QDaddMainWidget(ui.main_widget, true);
     QDaddTopButtons();
     QDaddCloseButton();

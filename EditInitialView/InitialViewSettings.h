@@ -1,8 +1,10 @@
 #pragma once
 
-#include "pdflibrary/ViewNumbers.h"
+#include "pdflibrary/ViewerPreferences.h"
 
 #include <array>
+#include <span>
+#include <string_view>
 
 /// The settings of an Initial View action: the keys of its map and the rows of its option tables. A list's
 /// row is the number stored in the map.
@@ -13,7 +15,8 @@ inline constexpr char actionName[] = "Initial View";
 
 enum class ValueType { Flag, Number, Text };
 
-/// The keys of the map; each is the object name of the dialog's widget that edits it.
+/// The keys of the map; each is the object name of the dialog's widget that edits it. Those of viewer
+/// preferences stand in pdflibrary/ViewerPreferences.h.
 namespace key {
 inline constexpr char LayoutAndMagn[] = "LayoutAndMagnCheckBox";
 inline constexpr char NavigationTab[] = "NavigationTabComboBox";
@@ -21,22 +24,34 @@ inline constexpr char PageLayout[] = "PageLayoutComboBox";
 inline constexpr char Magnification[] = "MagnificationComboBox";
 inline constexpr char OpenToPage[] = "OpenToPageSpinBox";
 inline constexpr char ViewerPrefs[] = "ViewerPrefsCheckBox";
-inline constexpr char HideToolBars[] = "HideToobarsCheckBox";
-inline constexpr char HideMenuBar[] = "HideMenuBarCheckBox";
-inline constexpr char HideCtrlWindows[] = "HideCtrlWindowsCheckBox";
-inline constexpr char ResizeWinToInitPage[] = "ResizeWinToInitPageCheckBox";
-inline constexpr char CenterWinOnScreen[] = "CenterWinOnScreenCheckBox";
+inline constexpr const char* HideToolBars = pdflibrary::preference(pdflibrary::HideToolBars).key;
+inline constexpr const char* HideMenuBar = pdflibrary::preference(pdflibrary::HideMenuBar).key;
+inline constexpr const char* HideCtrlWindows = pdflibrary::preference(pdflibrary::HideWindowControls).key;
+inline constexpr const char* ResizeWinToInitPage = pdflibrary::preference(pdflibrary::FitWindow).key;
+inline constexpr const char* CenterWinOnScreen = pdflibrary::preference(pdflibrary::CenterWindow).key;
 inline constexpr char OpenInFullScreen[] = "OpenInFullScreenCheckBox";
-inline constexpr char Show[] = "ShowComboBox";
+inline constexpr const char* Show = pdflibrary::preference(pdflibrary::TitleBar).key;
 inline constexpr char ActionName[] = "ActionName";
 } // namespace key
 
+/// The page mode of a navigation row. No row gives full screen, which has a setting of its own.
+constexpr int pageModeOfRow(int row)
+{
+    return row == 3 || row == 4 ? row + 1 : row;
+}
+
+/// The navigation row of a page mode.
+constexpr int rowOfPageMode(int mode)
+{
+    return mode == pdflibrary::LayersPanel || mode == pdflibrary::AttachmentsPanel ? mode - 1 : mode;
+}
+
 inline constexpr std::array navigationLabels{
-    "Page Only",
-    "Bookmarks Panel and Page",
-    "Pages Panel and Page",
-    "Conten Group Panel and Page",
-    "Attachments Panel and Page",
+    pdflibrary::pageModeLabels[pdflibrary::PageOnly],
+    pdflibrary::pageModeLabels[pdflibrary::BookmarksPanel],
+    pdflibrary::pageModeLabels[pdflibrary::PagesPanel],
+    pdflibrary::pageModeLabels[pdflibrary::LayersPanel],
+    pdflibrary::pageModeLabels[pdflibrary::AttachmentsPanel],
 };
 
 inline constexpr std::array pageLayoutLabels{
@@ -54,56 +69,73 @@ inline constexpr std::array magnificationLabels{
     "75%",     "100%",     "200%",      "400%",       "800%",        "1600%",
 };
 
-inline constexpr std::array titleLabels{"File Name", "Document Title"};
+using pdflibrary::titleLabels;
 
 inline constexpr int firstPage = 1;
 inline constexpr int lastPage = 9999;
 
-/// One key of the map. Numbers lie in `lowest` to `highest`.
+/// One key of the map.
 struct Key
 {
     const char* name;
     ValueType type;
+    /// The group that the setting belongs to, by its key: nothing of a group is applied while its flag is
+    /// off. Null for the groups themselves and for what is no setting.
+    const char* group;
+    /// What the dialog and the program call it; null for what is no setting.
+    const char* label;
+    /// The rows of a list, whose value is the number of one; empty for what is none.
+    std::span<const char* const> rows;
+    /// Numbers lie in `lowest` to `highest`.
     int lowest;
     int highest;
+
+    constexpr bool isGroup() const { return type == ValueType::Flag && group == nullptr; }
 };
 
-template <class Labels>
-constexpr int lastRow(const Labels& labels)
+constexpr Key flagKey(const char* name, const char* group, const char* label)
 {
-    return static_cast<int>(labels.size()) - 1;
+    return {name, ValueType::Flag, group, label, {}, 0, 1};
+}
+
+constexpr Key listKey(const char* name, const char* group, const char* label,
+                      std::span<const char* const> rows)
+{
+    return {name, ValueType::Number, group, label, rows, 0, static_cast<int>(rows.size()) - 1};
+}
+
+constexpr Key preferenceKey(pdflibrary::ViewerPreference option)
+{
+    const pdflibrary::PreferenceRow& row = pdflibrary::preference(option);
+    return row.valueLabels.empty() ? flagKey(row.key, key::ViewerPrefs, row.label)
+                                   : listKey(row.key, key::ViewerPrefs, row.label, row.valueLabels);
 }
 
 /// Every key, in the order in which the dialog writes them.
-// clang-format off
 inline constexpr std::array keys{
-    Key{key::LayoutAndMagn,       ValueType::Flag,   0,         1},
-    Key{key::NavigationTab,       ValueType::Number, 0,         lastRow(navigationLabels)},
-    Key{key::PageLayout,          ValueType::Number, 0,         lastRow(pageLayoutLabels)},
-    Key{key::Magnification,       ValueType::Number, 0,         lastRow(magnificationLabels)},
-    Key{key::OpenToPage,          ValueType::Number, firstPage, lastPage},
-    Key{key::ViewerPrefs,         ValueType::Flag,   0,         1},
-    Key{key::HideToolBars,        ValueType::Flag,   0,         1},
-    Key{key::HideMenuBar,         ValueType::Flag,   0,         1},
-    Key{key::HideCtrlWindows,     ValueType::Flag,   0,         1},
-    Key{key::ResizeWinToInitPage, ValueType::Flag,   0,         1},
-    Key{key::CenterWinOnScreen,   ValueType::Flag,   0,         1},
-    Key{key::OpenInFullScreen,    ValueType::Flag,   0,         1},
-    Key{key::Show,                ValueType::Number, 0,         lastRow(titleLabels)},
-    Key{key::ActionName,          ValueType::Text,   0,         0},
+    flagKey(key::LayoutAndMagn, nullptr, "Layout and Magnification"),
+    listKey(key::NavigationTab, key::LayoutAndMagn, "Navigation tab", navigationLabels),
+    listKey(key::PageLayout, key::LayoutAndMagn, "Page layout", pageLayoutLabels),
+    listKey(key::Magnification, key::LayoutAndMagn, "Magnification", magnificationLabels),
+    Key{key::OpenToPage, ValueType::Number, key::LayoutAndMagn, "Open to page", {}, firstPage, lastPage},
+    flagKey(key::ViewerPrefs, nullptr, "Viewer Preferences"),
+    preferenceKey(pdflibrary::HideToolBars),
+    preferenceKey(pdflibrary::HideMenuBar),
+    preferenceKey(pdflibrary::HideWindowControls),
+    preferenceKey(pdflibrary::FitWindow),
+    preferenceKey(pdflibrary::CenterWindow),
+    flagKey(key::OpenInFullScreen, key::ViewerPrefs, "Open in full screen mode"),
+    preferenceKey(pdflibrary::TitleBar),
+    Key{key::ActionName, ValueType::Text, nullptr, nullptr, {}, 0, 0},
 };
-// clang-format on
 
-/// The page mode of a navigation row. No row gives full screen, which has a setting of its own.
-constexpr int pageModeOfRow(int row)
+/// The key of a name, or null where there is none.
+constexpr const Key* findKey(std::string_view name)
 {
-    return row == 3 || row == 4 ? row + 1 : row;
-}
-
-/// The navigation row of a page mode.
-constexpr int rowOfPageMode(int mode)
-{
-    return mode == pdflibrary::LayersPanel || mode == pdflibrary::AttachmentsPanel ? mode - 1 : mode;
+    for (const Key& each : keys)
+        if (name == each.name)
+            return &each;
+    return nullptr;
 }
 
 } // namespace initialview

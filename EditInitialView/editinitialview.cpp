@@ -11,6 +11,7 @@
 #include <array>
 #include <climits>
 #include <cmath>
+#include <span>
 
 using namespace initialview;
 
@@ -21,9 +22,8 @@ using Settings = QMap<QString, QVariant>;
 const int actionFlags = 0x10F;
 const int largestZoom = 1600;
 
-/// In the order of the library's options, from 1.
-constexpr std::array viewerPreferenceKeys{key::HideToolBars, key::HideMenuBar, key::HideCtrlWindows,
-                                          key::ResizeWinToInitPage, key::CenterWinOnScreen};
+/// Those that are set before full screen, and that a document's dialog begins with: options 1 to 5.
+const auto windowPreferences = std::span(pdflibrary::viewerPreferences).first<5>();
 
 template <std::size_t rows>
 std::array<QString, rows> tableOf(const std::array<const char*, rows>& labels)
@@ -86,9 +86,8 @@ void applyLayoutAndMagnification(TelvarPDFLibraryCPDylibCPP1311& library, const 
 
 void applyViewerPreferences(TelvarPDFLibraryCPDylibCPP1311& library, const Settings& settings)
 {
-    int option = pdflibrary::HideToolBars;
-    for (const char* flag : viewerPreferenceKeys)
-        library.SetViewerPreferences(option++, settings.value(flag).toInt());
+    for (const pdflibrary::PreferenceRow& preference : windowPreferences)
+        library.SetViewerPreferences(preference.option, settings.value(preference.key).toInt());
     if (settings.value(key::OpenInFullScreen).toBool())
         library.SetPageMode(pdflibrary::FullScreen);
     library.SetViewerPreferences(pdflibrary::TitleBar, settings.value(key::Show).toInt());
@@ -103,9 +102,8 @@ void readDocument(TelvarPDFLibraryCPDylibCPP1311& library, int document, Setting
     const int destination = library.GetOpenActionDestination();
     settings.insert(key::Magnification, destination != 0 ? library.GetDestType(destination) - 1 : 0);
     settings.insert(key::OpenToPage, destination != 0 ? library.GetDestPage(destination) : firstPage);
-    int option = pdflibrary::HideToolBars;
-    for (const char* flag : viewerPreferenceKeys)
-        settings.insert(flag, library.GetViewerPreferences(option++) == 1);
+    for (const pdflibrary::PreferenceRow& preference : windowPreferences)
+        settings.insert(preference.key, library.GetViewerPreferences(preference.option) == 1);
     settings.insert(key::OpenInFullScreen, library.GetPageMode() == pdflibrary::FullScreen);
     settings.insert(key::LayoutAndMagn, true);
     settings.insert(key::ViewerPrefs, true);

@@ -8,8 +8,14 @@ set(QUINTAR_MODULE_DIR lib/quintar)
 set(QUINTAR_BUILD_BIN_DIR "${PROJECT_BINARY_DIR}/${QUINTAR_BIN_DIR}")
 set(QUINTAR_BUILD_MODULE_DIR "${PROJECT_BINARY_DIR}/${QUINTAR_MODULE_DIR}")
 
+# Beyond -Wall -Wextra, in the targets that ask for them.
+set(QUINTAR_STRICT_WARNINGS -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor
+    -Woverloaded-virtual)
+
+# quintar_target(name [STRICT])
 # Applies language level, warnings, visibility and sanitizers to a target.
 function(quintar_target name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "STRICT" "" "")
     target_compile_features(${name} PUBLIC cxx_std_20)
     set_target_properties(${name} PROPERTIES
         CXX_EXTENSIONS OFF
@@ -17,6 +23,9 @@ function(quintar_target name)
         VISIBILITY_INLINES_HIDDEN ON
         POSITION_INDEPENDENT_CODE ON)
     target_compile_options(${name} PRIVATE -Wall -Wextra $<$<BOOL:${QUINTAR_WERROR}>:-Werror>)
+    if(arg_STRICT)
+        target_compile_options(${name} PRIVATE ${QUINTAR_STRICT_WARNINGS})
+    endif()
     # GCC 12 sees overlaps in inlined string additions that cannot be (its bug 105651).
     if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
         target_compile_options(${name} PRIVATE -Wno-restrict)
@@ -36,4 +45,40 @@ endfunction()
 function(quintar_exports name script)
     target_link_options(${name} PRIVATE "LINKER:--version-script=${script}")
     set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS "${script}")
+endfunction()
+
+# quintar_offer(target [HEADERS folder ...])
+# Offers a library to other projects as quintar::<target>, in this tree and after installation alike. The headers of
+# the folders, by their paths from the top, are installed, and found with those paths and by their bare names.
+set(QUINTAR_INCLUDE_DIR "${CMAKE_INSTALL_INCLUDEDIR}/quintar")
+set(QUINTAR_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/quintar")
+function(quintar_offer name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS")
+    add_library(quintar::${name} ALIAS ${name})
+    get_target_property(type ${name} TYPE)
+    set(scope PUBLIC)
+    if(type STREQUAL INTERFACE_LIBRARY)
+        set(scope INTERFACE)
+    endif()
+    foreach(folder IN ITEMS "" ${arg_HEADERS})
+        target_include_directories(${name} ${scope}
+            "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/${folder}>"
+            "$<INSTALL_INTERFACE:${QUINTAR_INCLUDE_DIR}/${folder}>")
+    endforeach()
+    foreach(folder IN LISTS arg_HEADERS)
+        install(DIRECTORY "${PROJECT_SOURCE_DIR}/${folder}/" DESTINATION "${QUINTAR_INCLUDE_DIR}/${folder}"
+            COMPONENT development FILES_MATCHING PATTERN "*.h" PATTERN "*.def")
+    endforeach()
+    install(TARGETS ${name} EXPORT quintarTargets COMPONENT development
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+endfunction()
+
+# Writes what find_package(quintar) reads, for the libraries that quintar_offer() has named.
+function(quintar_install_package)
+    include(CMakePackageConfigHelpers)
+    set(version_file "${PROJECT_BINARY_DIR}/quintarConfigVersion.cmake")
+    write_basic_package_version_file("${version_file}" COMPATIBILITY SameMinorVersion)
+    install(EXPORT quintarTargets NAMESPACE quintar:: DESTINATION "${QUINTAR_PACKAGE_DIR}" COMPONENT development)
+    install(FILES "${PROJECT_SOURCE_DIR}/cmake/quintarConfig.cmake" "${version_file}"
+        DESTINATION "${QUINTAR_PACKAGE_DIR}" COMPONENT development)
 endfunction()

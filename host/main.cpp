@@ -2,11 +2,10 @@
 #include "cli/ListsCommand.h"
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
-#include "host/files/FileDescriptor.h"
 #include "host/options/HelpText.h"
 #include "host/program/HostApplication.h"
 #include "host/terminal/ExitStatus.h"
-#include "host/terminal/FileNames.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
@@ -33,8 +32,8 @@ Commands allCommands()
     return commands;
 }
 
-/// Else a document or the report could be opened in the place of a closed one, and what is printed would go
-/// into it. Opened the wrong way round, reading and printing still fail.
+/// Keeps a document or the report from getting the number of a closed standard stream, where printed text
+/// would go into it. stdin is opened for writing and the others for reading, so that using them still fails.
 void occupyStandardDescriptors()
 {
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
@@ -42,10 +41,9 @@ void occupyStandardDescriptors()
             open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
 }
 
-int complain(const std::string& message, int status)
+int endWith(const std::string& message, int status)
 {
-    const std::string line = "quintar: " + host::forTerminalLines(message) + "\n";
-    host::writeAll(STDERR_FILENO, line.data(), line.size());
+    host::complainInLines(message);
     return status;
 }
 
@@ -101,8 +99,8 @@ int main(int argc, char** argv)
         return runCommand(argc, argv);
     } catch (const host::OutputError& error) {
         return error.readerHasGone() ? host::exitstatus::someFailed
-                                     : complain(error.what(), host::exitstatus::someFailed);
+                                     : endWith(error.what(), host::exitstatus::someFailed);
     } catch (const std::exception& error) {
-        return complain(error.what(), host::exitstatus::usage);
+        return endWith(error.what(), host::exitstatus::usage);
     }
 }

@@ -30,12 +30,21 @@ enum class ErrorCode : int {
     DiskFull = 27,
     FileTooLarge = 28,
     DeviceFailed = 29,
+    ReadOnlyFileSystem = 30,
     NotAPdf = 40,
     Damaged = 41,
     NoPages = 42,
     WrongPassword = 43,
     UnsupportedEncryption = 44,
     TooComplex = 45,
+    NewestRevisionUncertain = 60,
+    ObjectStreamsUnread = 61,
+    EncryptionUncertain = 62,
+    ObjectsDamaged = 63,
+    ObjectsUncertain = 64,
+    ByteRangesPresent = 65,
+    RewritingLoses = 66,
+    StreamLengthsWrong = 67,
 };
 
 struct ErrorText
@@ -54,7 +63,7 @@ inline constexpr std::array errorTexts{
     ErrorText{ErrorCode::UnknownPage,           "the document has no page with this number"},
     ErrorText{ErrorCode::UnknownDestination,    "there is no destination with this id"},
     ErrorText{ErrorCode::NothingChanged,        "the document has not been changed"},
-    ErrorText{ErrorCode::CannotAppend,          "the change cannot be appended to this document, only written with all of it"},
+    ErrorText{ErrorCode::CannotAppend,          "the change cannot be appended to this document"},
     ErrorText{ErrorCode::OutOfMemory,           "the document needs more memory than there is"},
     ErrorText{ErrorCode::Internal,              "internal error"},
     ErrorText{ErrorCode::FileNotFound,          "no such file or folder"},
@@ -67,14 +76,36 @@ inline constexpr std::array errorTexts{
     ErrorText{ErrorCode::DiskFull,              "no space left on the device"},
     ErrorText{ErrorCode::FileTooLarge,          "the result is larger than the file system or a limit of the process allows"},
     ErrorText{ErrorCode::DeviceFailed,          "the device that the file is written to reports an error"},
+    ErrorText{ErrorCode::ReadOnlyFileSystem,    "read-only file system"},
     ErrorText{ErrorCode::NotAPdf,               "not a PDF document"},
     ErrorText{ErrorCode::Damaged,               "the document is damaged beyond repair"},
     ErrorText{ErrorCode::NoPages,               "the document has no pages"},
     ErrorText{ErrorCode::WrongPassword,         "a password is needed, and the one given is not right"},
     ErrorText{ErrorCode::UnsupportedEncryption, "the document's encryption is not supported"},
     ErrorText{ErrorCode::TooComplex,            "the document is nested too deeply or refers to itself"},
+    ErrorText{ErrorCode::NewestRevisionUncertain, "its cross-reference or its end is damaged, and it is uncertain which of its revisions is the newest"},
+    ErrorText{ErrorCode::ObjectStreamsUnread,   "its cross-reference is damaged, and objects in its object streams would be overlooked"},
+    ErrorText{ErrorCode::EncryptionUncertain,   "it is uncertain whether it is encrypted: a trailer that is not in use says so"},
+    ErrorText{ErrorCode::ObjectsDamaged,        "some of its objects are damaged or missing"},
+    ErrorText{ErrorCode::ObjectsUncertain,      "its cross-reference is damaged, and it is uncertain where its objects are"},
+    ErrorText{ErrorCode::ByteRangesPresent,     "it holds byte ranges of signatures, which would not hold for a document written anew"},
+    ErrorText{ErrorCode::RewritingLoses,        "written anew it would have other pages, or lack some of its objects"},
+    ErrorText{ErrorCode::StreamLengthsWrong,    "its cross-reference is damaged, and so are lengths of its streams"},
 };
 // clang-format on
+
+/// Whether a code tells that it is in doubt what a document holds.
+constexpr bool isDoubt(ErrorCode code)
+{
+    return code >= ErrorCode::NewestRevisionUncertain && code <= ErrorCode::ObjectsUncertain;
+}
+
+/// Whether a code tells that nothing can be appended to a document. Where there is no doubt SaveToFile may
+/// still be able to write it.
+constexpr bool cannotAppend(ErrorCode code)
+{
+    return code == ErrorCode::CannotAppend || code == ErrorCode::StreamLengthsWrong || isDoubt(code);
+}
 
 /// The text of a code as LastErrorCode returns it; that of Internal for a number that is none.
 constexpr std::string_view errorText(int code)
@@ -100,6 +131,8 @@ enum SecurityItem {
     ModificationAllowed = 102,
     /// 1 when the document differs from what was loaded, else 0.
     UnsavedChanges = 103,
+    /// The code with which AppendToFile would refuse the document, 0 when it would not.
+    AppendRefusal = 104,
 };
 
 } // namespace engine

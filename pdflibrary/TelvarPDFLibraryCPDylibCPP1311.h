@@ -46,14 +46,25 @@ struct LibraryFunction<Result(Parameters...)>
 
 /// One loaded PDF library file and one library instance in it.
 ///
-/// An object is either loaded or not from construction to destruction. Not loaded, every operation returns 0,
-/// 0.0 or an empty string and calls nothing. Loaded, an operation hands back the library's own result;
-/// failures of the library are values, never exceptions. One object is used by one thread at a time.
+///     TelvarPDFLibraryCPDylibCPP1311 library(L"TelvarPDFLibraryCPDylib1311.dylib");
+///     if (library.LibraryLoaded() && library.LoadFromFile(L"manual.pdf", L"") == 1)
+///         library.SetPageLayout(pdflibrary::OneColumn);
 ///
-/// There is one public member per library function, of the same name without the "TPL" prefix: `int` and
-/// `double` pass unchanged; a wide string crosses as a library buffer of 32-bit code units (null when empty)
-/// that the library owns from then on; a byte string crosses as its own characters, or as a buffer released
-/// after the call when it holds a NUL. String results are copied; lengths are asked right after the call.
+/// An object is either loaded or not from construction to destruction. Not loaded, every operation returns 0,
+/// 0.0 or an empty string and calls nothing. Loaded, an operation hands back the library's own result.
+///
+/// Failures of the library are values, never exceptions: most operations return 1 for done and 0 for not
+/// done, and LastErrorCode tells why (ErrorCodes.h). An operation throws std::bad_alloc only, where this
+/// process has no memory for a string.
+///
+/// Threads: one object is used by one thread at a time. Objects share nothing, so several threads may have
+/// one each.
+///
+/// There is one public member per library function, of the same name without the "TPL" prefix, and
+/// operations.def lists them all. `int` and `double` pass unchanged. A wide string crosses as a library
+/// buffer of 32-bit code units (null when empty) that the library owns from then on. A byte string crosses as
+/// its own characters, or as a buffer released after the call when it holds a NUL. String results are copied,
+/// so they outlive the next call; their lengths are asked for right after the call that made them.
 class TelvarPDFLibraryCPDylibCPP1311
 {
     using I = int;
@@ -64,15 +75,18 @@ class TelvarPDFLibraryCPDylibCPP1311
 public:
     /// Opens the library file, resolves every function and creates an instance.
     /// \param libraryPath the low 8 bits of each character are the bytes of the path; a bare file name is
-    /// searched
-    ///     for by the dynamic loader's own rules.
+    ///     searched for by the dynamic loader's own rules. A file that is missing, or that lacks a function,
+    ///     leaves the object not loaded; nothing is thrown for it.
     explicit TelvarPDFLibraryCPDylibCPP1311(const std::wstring& libraryPath);
+    /// Releases the instance with all that it holds, unsaved documents included, and closes the file.
     ~TelvarPDFLibraryCPDylibCPP1311();
     TelvarPDFLibraryCPDylibCPP1311(const TelvarPDFLibraryCPDylibCPP1311&) = delete;
     TelvarPDFLibraryCPDylibCPP1311& operator=(const TelvarPDFLibraryCPDylibCPP1311&) = delete;
 
     /// True when the file was opened and every function resolved.
     bool LibraryLoaded() const { return !m_missing; }
+
+    // What the operations are made of. Callers of operations need none of them.
 
     /// Looks a name up in the open library file.
     /// \param optional when false, a name that is not found makes the object count as not loaded.
@@ -81,13 +95,14 @@ public:
 
     /// Converts a byte-string argument.
     /// \param[out] isBuffer 1 when the result is a library buffer that the caller releases after the call,
-    /// else 0. \returns the string's own characters, valid as long as the string, or that buffer; null when a
-    /// buffer is needed and the object is not loaded.
+    ///     else 0.
+    /// \returns the string's own characters, valid as long as the string, or that buffer; null when a buffer
+    ///     is needed and the object is not loaded.
     char* StringParm(const std::string& text, int& isBuffer);
 
     /// Converts a wide-string argument into a new library buffer of 4 bytes a character, without terminator.
-    /// \returns null for an empty string and when the object is not loaded. The binding does not release the
-    /// buffer.
+    /// \returns the buffer, which goes to the library with the call it is made for and is not released here;
+    ///     null for an empty string and when the object is not loaded.
     char* WideStringParm(const std::wstring& text);
 
     /// Copies `length` characters; empty when `length` is below 1.

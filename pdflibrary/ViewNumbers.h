@@ -1,6 +1,12 @@
 #pragma once
 
-/// The numbers that the document view operations exchange.
+#include <array>
+
+/// The numbers that the document view operations exchange, and the names that PDF has for them (ISO 32000-1,
+/// 7.7.2, 12.2 and 12.3.2). They are part of the library's interface: never reuse or renumber one.
+///
+/// A table of names has each one at the library's number for it; an empty name stands at a number that PDF
+/// has no name for.
 namespace pdflibrary {
 
 /// Page mode of GetPageMode, SetPageMode and viewer preference 7 (which never takes FullScreen).
@@ -10,8 +16,12 @@ enum PageMode {
     PagesPanel = 2,
     FullScreen = 3,
     LayersPanel = 4,
-    AttachmentsPanel = 5
+    AttachmentsPanel = 5,
 };
+
+/// Values of /PageMode.
+inline constexpr std::array pageModeNames{"/UseNone",    "/UseOutlines", "/UseThumbs",
+                                          "/FullScreen", "/UseOC",       "/UseAttachments"};
 
 /// Page layout of GetPageLayout and SetPageLayout; 6 stands for a document without the entry.
 enum PageLayout {
@@ -24,12 +34,27 @@ enum PageLayout {
     NoPageLayout = 6,
 };
 
+/// Values of /PageLayout.
+inline constexpr std::array pageLayoutNames{"/SinglePage",     "/OneColumn",   "/TwoColumnLeft",
+                                            "/TwoColumnRight", "/TwoPageLeft", "/TwoPageRight"};
+
 /// Destination type of GetDestType and SetOpenActionDestinationFull. Only Zoomed has a zoom (percent, 0 for
 /// none).
 enum DestinationType { Zoomed = 1, FitPage = 2, FitWidth = 3, FitHeight = 4, FitVisible = 5 };
 
-/// Option of GetViewerPreferences and SetViewerPreferences: 1 yes, 0 no; TitleBar 0 file name, 1 document
-/// title; NonFullScreenMode a page mode.
+/// Types of explicit destinations.
+inline constexpr std::array destinationNames{"", "/XYZ", "/Fit", "/FitH", "/FitV", "/FitBH"};
+
+/// Value of GetDestValue: coordinates in points of default user space, the zoom in percent.
+enum DestinationValue {
+    DestinationLeft = 1,
+    DestinationTop = 2,
+    DestinationRight = 3,
+    DestinationBottom = 4,
+    DestinationZoom = 5,
+};
+
+/// Option of GetViewerPreferences and SetViewerPreferences; ViewerPreferences.h tells what each takes.
 enum ViewerPreference {
     HideToolBars = 1,
     HideMenuBar = 2,
@@ -42,6 +67,9 @@ enum ViewerPreference {
 
 /// Box of GetPageBox.
 enum PageBox { MediaBox = 1, CropBox = 2, BleedBox = 3, TrimBox = 4, ArtBox = 5 };
+
+/// Keys of a page.
+inline constexpr std::array pageBoxNames{"", "/MediaBox", "/CropBox", "/BleedBox", "/TrimBox", "/ArtBox"};
 
 /// Dimension of GetPageBox, in points of default user space.
 enum BoxDimension { BoxLeft = 0, BoxTop = 1, BoxWidth = 2, BoxHeight = 3, BoxRight = 4, BoxBottom = 5 };

@@ -59,6 +59,16 @@ std::string versionOf(Document& document)
     return stated.isName() ? std::max(header, stated.getName().substr(1)) : header;
 }
 
+int appendRefusal(Document& document)
+{
+    try {
+        updateOf(document);
+        return 0;
+    } catch (const EngineError& error) {
+        return static_cast<int>(error.code());
+    }
+}
+
 bool modificationAllowed(QPDF& pdf)
 {
     return !pdf.isEncrypted() || pdf.ownerPasswordMatched() || pdf.allowModifyOther();
@@ -175,6 +185,8 @@ int SecurityInfo(Session& session, int item)
         return modificationAllowed(document.pdf());
     case UnsavedChanges:
         return document.changedObjects().empty() ? 0 : 1;
+    case AppendRefusal:
+        return appendRefusal(document);
     default:
         throw EngineError(ErrorCode::NotAvailable);
     }

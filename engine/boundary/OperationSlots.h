@@ -21,14 +21,18 @@ struct Signatures
 #undef TPL_OP
 };
 
-/// How a string reaches an implementation: a view that is valid during the call.
+/// How an argument reaches an implementation: a number as it is, a string as a view that is valid during the
+/// call.
 template <class Type>
 using SlotArgument =
     std::conditional_t<std::is_same_v<Type, std::wstring>, std::wstring_view,
                        std::conditional_t<std::is_same_v<Type, std::string>, std::string_view, Type>>;
 
 /// One implementation. It takes the session first, returns its result by value and fails by throwing
-/// EngineError.
+/// EngineError, whose code LastErrorCode then tells while the caller gets 0 or an empty string. It checks its
+/// arguments before it changes anything, so that a failure leaves the document as it was. It may be run twice
+/// for one call: when reading piece by piece comes to its end within it, the document is opened whole and the
+/// operation begins again.
 template <class Signature>
 struct SlotFor;
 template <class Result, class... Parameters>
@@ -36,6 +40,7 @@ struct SlotFor<Result(Parameters...)>
 {
     using Pointer = Result (*)(Session&, SlotArgument<Parameters>...);
 
+    /// Stands where nothing is assigned: an empty result and the code NotAvailable.
     static Result unavailable(Session& session, SlotArgument<Parameters>...)
     {
         session.setLastError(ErrorCode::NotAvailable);
@@ -43,7 +48,8 @@ struct SlotFor<Result(Parameters...)>
     }
 };
 
-/// The implementation of every operation: one field per row of the table, "not available" unless assigned.
+/// The implementation of every operation: one field per row of the table, "not available" unless assigned. A
+/// function of another name or signature than the row's cannot be assigned.
 struct OperationSlots
 {
 #define TPL_OP(Result, Name, Arguments, ...)                                                                 \

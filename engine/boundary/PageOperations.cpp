@@ -1,19 +1,16 @@
 #include "Operations.h"
 #include "Session.h"
 #include "engine/files/EngineError.h"
+#include "pdflibrary/ViewNumbers.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace engine::operations {
 
+using namespace pdflibrary;
+
 namespace {
-
-enum Box { Media = 1, Crop, Bleed, Trim, Art };
-enum Dimension { Left, Top, Width, Height, Right, Bottom };
-
-const std::array boxKeys{"", "/MediaBox", "/CropBox", "/BleedBox", "/TrimBox", "/ArtBox"};
 
 // What viewers take for a page that states no size.
 const QPDFObjectHandle::Rectangle letterSize(0, 0, 612, 792);
@@ -40,14 +37,14 @@ QPDFObjectHandle::Rectangle normalised(QPDFObjectHandle box)
 /// The media and crop boxes are inherited; the crop box is by default the media box, the others the crop box.
 QPDFObjectHandle::Rectangle pageBox(Document& document, const PagePath& path, int box)
 {
-    const bool inherits = box == Media || box == Crop;
-    QPDFObjectHandle own = document.key(path.page, boxKeys[box]);
-    QPDFObjectHandle stored = inherits ? path.inherited(document, boxKeys[box], isBox) : own;
+    const char* const key = pageBoxNames[static_cast<std::size_t>(box)];
+    const bool inherits = box == MediaBox || box == CropBox;
+    QPDFObjectHandle stored = inherits ? path.inherited(document, key, isBox) : document.key(path.page, key);
     if (isBox(document, stored))
         return normalised(stored);
-    if (box == Media)
+    if (box == MediaBox)
         return letterSize;
-    return pageBox(document, path, box == Crop ? Media : Crop);
+    return pageBox(document, path, box == CropBox ? MediaBox : CropBox);
 }
 
 const PagePath& selectedPage(Session& session)
@@ -59,17 +56,17 @@ const PagePath& selectedPage(Session& session)
 double dimensionOf(const QPDFObjectHandle::Rectangle& box, int dimension)
 {
     switch (dimension) {
-    case Left:
+    case BoxLeft:
         return box.llx;
-    case Top:
+    case BoxTop:
         return box.ury;
-    case Width:
+    case BoxWidth:
         return box.urx - box.llx;
-    case Height:
+    case BoxHeight:
         return box.ury - box.lly;
-    case Right:
+    case BoxRight:
         return box.urx;
-    case Bottom:
+    case BoxBottom:
         return box.lly;
     default:
         throw EngineError(ErrorCode::BadArgument);
@@ -104,7 +101,7 @@ int SelectedPage(Session& session)
 double GetPageBox(Session& session, int box, int dimension)
 {
     OpenDocument& open = session.document();
-    if (box < Media || box > Art)
+    if (box < MediaBox || box > ArtBox)
         throw EngineError(ErrorCode::BadArgument);
     if (open.lastBox.page != open.selectedPage || open.lastBox.box != box)
         open.lastBox = {open.selectedPage, box, pageBox(open.document, selectedPage(session), box)};
@@ -113,12 +110,12 @@ double GetPageBox(Session& session, int box, int dimension)
 
 double PageWidth(Session& session)
 {
-    return GetPageBox(session, Media, Width);
+    return GetPageBox(session, MediaBox, BoxWidth);
 }
 
 double PageHeight(Session& session)
 {
-    return GetPageBox(session, Media, Height);
+    return GetPageBox(session, MediaBox, BoxHeight);
 }
 
 int PageRotation(Session& session)

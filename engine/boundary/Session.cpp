@@ -12,8 +12,8 @@ namespace engine {
 
 namespace {
 
-/// Destroys a document, so that libqpdf makes the static objects that it needs for that. What is made before
-/// the registry outlives it, and the documents that are still open when the program ends.
+/// Builds libqpdf's function-local statics before the registry, so that they outlive it, and with it the
+/// documents that are still open when the program ends.
 void prepareForLateClosing()
 {
     const auto pdf = QPDF::create();

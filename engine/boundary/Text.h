@@ -7,7 +7,10 @@
 
 namespace engine {
 
-/// Text for the library's caller; what is not valid UTF-8 becomes U+FFFD.
+/// Text of a document for the library's caller.
+/// \param text UTF-8; any bytes are taken.
+/// \returns one wide character for each of the text's; U+FFFD for each byte that is not valid UTF-8. File
+///     names cross by wideFromFileName instead, which keeps such bytes.
 inline std::wstring wideFromUtf8(std::string_view text)
 {
     std::wstring wide = wideFromFileName(text);

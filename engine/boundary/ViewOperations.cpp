@@ -3,26 +3,16 @@
 #include "Text.h"
 #include "engine/files/EngineError.h"
 #include "pdflibrary/FileNameCodec.h"
+#include "pdflibrary/ViewerPreferences.h"
 
 #include <array>
 #include <cmath>
 
 namespace engine::operations {
 
+using pdflibrary::PreferenceRow;
+
 namespace {
-
-const int fullScreen = 3;
-const int noLayout = 6;
-const int nonFullScreenOption = 7;
-const int lastDestinationType = 5;
-
-// At the library's number for it.
-const std::array pageModes{"/UseNone",    "/UseOutlines", "/UseThumbs",
-                           "/FullScreen", "/UseOC",       "/UseAttachments"};
-const std::array pageLayouts{"/SinglePage",     "/OneColumn",   "/TwoColumnLeft",
-                             "/TwoColumnRight", "/TwoPageLeft", "/TwoPageRight"};
-const std::array preferences{"",           "/HideToolbar",  "/HideMenubar",     "/HideWindowUI",
-                             "/FitWindow", "/CenterWindow", "/DisplayDocTitle", "/NonFullScreenPageMode"};
 
 /// An entry's value as the getter returns it, and whether setting that value would change anything.
 struct Stored
@@ -43,24 +33,25 @@ Stored storedName(QPDFObjectHandle entry, const auto& names, int absent)
 
 Stored storedPageMode(Document& document)
 {
-    return storedName(document.key(document.catalog(), "/PageMode"), pageModes, 0);
+    return storedName(document.key(document.catalog(), "/PageMode"), pdflibrary::pageModeNames,
+                      pdflibrary::PageOnly);
 }
 
 Stored storedPageLayout(Document& document)
 {
-    return storedName(document.key(document.catalog(), "/PageLayout"), pageLayouts, noLayout);
+    return storedName(document.key(document.catalog(), "/PageLayout"), pdflibrary::pageLayoutNames,
+                      pdflibrary::NoPageLayout);
 }
 
-Stored storedPreference(Document& document, int option)
+Stored storedPreference(Document& document, const PreferenceRow& preference)
 {
     QPDFObjectHandle dictionary = document.key(document.catalog(), "/ViewerPreferences");
     if (!dictionary.isDictionary())
         return {0, !dictionary.isNull()};
-    QPDFObjectHandle entry = document.key(dictionary, preferences[option]);
-    if (option != nonFullScreenOption)
-        return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{0, !entry.isNull()};
-    const Stored mode = storedName(entry, pageModes, 0);
-    return mode.value == fullScreen ? Stored{0, true} : mode;
+    QPDFObjectHandle entry = document.key(dictionary, preference.pdfName);
+    if (!preference.names.empty())
+        return storedName(entry, preference.names, 0);
+    return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{0, !entry.isNull()};
 }
 
 void require(bool condition, ErrorCode code)
@@ -72,6 +63,20 @@ void require(bool condition, ErrorCode code)
 void requireWithin(int value, int first, int last)
 {
     require(value >= first && value <= last, ErrorCode::BadArgument);
+}
+
+const PreferenceRow& preferenceOf(int option)
+{
+    const PreferenceRow* preference = pdflibrary::findPreference(option);
+    require(preference != nullptr, ErrorCode::BadArgument);
+    return *preference;
+}
+
+QPDFObjectHandle preferenceValue(const PreferenceRow& preference, int value)
+{
+    return preference.names.empty()
+               ? QPDFObjectHandle::newBool(value != 0)
+               : QPDFObjectHandle::newName(preference.names[static_cast<std::size_t>(value)]);
 }
 
 void setCatalogEntry(Document& document, const char* key, const QPDFObjectHandle& value)
@@ -102,9 +107,10 @@ int GetPageMode(Session& session)
 int SetPageMode(Session& session, int mode)
 {
     Document& document = session.document().document;
-    requireWithin(mode, 0, pageModes.size() - 1);
+    requireWithin(mode, pdflibrary::PageOnly, pdflibrary::AttachmentsPanel);
     if (!storedPageMode(document).is(mode))
-        setCatalogEntry(document, "/PageMode", QPDFObjectHandle::newName(pageModes[mode]));
+        setCatalogEntry(document, "/PageMode",
+                        QPDFObjectHandle::newName(pdflibrary::pageModeNames[static_cast<std::size_t>(mode)]));
     return 1;
 }
 
@@ -116,32 +122,29 @@ int GetPageLayout(Session& session)
 int SetPageLayout(Session& session, int layout)
 {
     Document& document = session.document().document;
-    requireWithin(layout, 0, noLayout);
+    requireWithin(layout, pdflibrary::SinglePage, pdflibrary::NoPageLayout);
     if (!storedPageLayout(document).is(layout))
-        setCatalogEntry(document, "/PageLayout",
-                        layout == noLayout ? QPDFObjectHandle::newNull()
-                                           : QPDFObjectHandle::newName(pageLayouts[layout]));
+        setCatalogEntry(
+            document, "/PageLayout",
+            layout == pdflibrary::NoPageLayout
+                ? QPDFObjectHandle::newNull()
+                : QPDFObjectHandle::newName(pdflibrary::pageLayoutNames[static_cast<std::size_t>(layout)]));
     return 1;
 }
 
 int GetViewerPreferences(Session& session, int option)
 {
     Document& document = session.document().document;
-    requireWithin(option, 1, nonFullScreenOption);
-    return storedPreference(document, option).value;
+    return storedPreference(document, preferenceOf(option)).value;
 }
 
 int SetViewerPreferences(Session& session, int option, int value)
 {
     Document& document = session.document().document;
-    requireWithin(option, 1, nonFullScreenOption);
-    const bool isMode = option == nonFullScreenOption;
-    requireWithin(value, 0, isMode ? pageModes.size() - 1 : 1);
-    require(!isMode || value != fullScreen, ErrorCode::BadArgument);
-    if (!storedPreference(document, option).is(value))
-        changedPreferences(document).replaceKey(preferences[option],
-                                                isMode ? QPDFObjectHandle::newName(pageModes[value])
-                                                       : QPDFObjectHandle::newBool(value != 0));
+    const PreferenceRow& preference = preferenceOf(option);
+    require(preference.takes(value), ErrorCode::BadArgument);
+    if (!storedPreference(document, preference).is(value))
+        changedPreferences(document).replaceKey(preference.pdfName, preferenceValue(preference, value));
     return 1;
 }
 
@@ -157,7 +160,7 @@ int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destT
                                  double right, double bottom)
 {
     OpenDocument& open = session.document();
-    requireWithin(destType, 1, lastDestinationType);
+    requireWithin(destType, pdflibrary::Zoomed, pdflibrary::FitVisible);
     require(zoom >= 0, ErrorCode::BadArgument);
     for (const double coordinate : {left, top, right, bottom})
         require(std::isfinite(coordinate), ErrorCode::BadArgument);
@@ -194,8 +197,8 @@ double GetDestValue(Session& session, int destId, int valueKey)
     const Destination& destination = session.destination(destId);
     const std::array values{&Destination::left, &Destination::top, &Destination::right, &Destination::bottom,
                             &Destination::zoom};
-    requireWithin(valueKey, 1, values.size());
-    return destination.*values[valueKey - 1];
+    requireWithin(valueKey, pdflibrary::DestinationLeft, pdflibrary::DestinationZoom);
+    return destination.*values[static_cast<std::size_t>(valueKey - pdflibrary::DestinationLeft)];
 }
 
 std::wstring GetDestName(Session& session, int destId)

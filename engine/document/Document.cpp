@@ -20,6 +20,11 @@ namespace {
 
 const std::size_t headerSearchSize = 1024; // readers look for the header this far
 
+// What libqpdf calls the places of which it warns.
+const std::string objectName = "object ";
+const std::string trailerName = "trailer";
+const char* const lengthRecovered = "recovered stream length";
+
 std::vector<std::string> passwordsToTry(std::string_view password)
 {
     std::vector<std::string> passwords;
@@ -71,6 +76,18 @@ std::optional<NodeText> splitNode(std::string_view text)
     return scanner.odd() ? std::nullopt : split;
 }
 
+/// Whether libqpdf complains of something else than the content of an object: that it lies elsewhere, that
+/// the end of a stream was searched for and found, what a trailer says of its section, or that of two entries
+/// with one key the last one counts.
+bool isHarmless(const std::string& complaint)
+{
+    return (complaint.starts_with("expected ") && complaint.ends_with(" obj")) ||
+           complaint == "expected endstream" || complaint == "attempting to recover stream length" ||
+           complaint.starts_with(lengthRecovered) ||
+           complaint.find("trailer dictionary") != std::string::npos ||
+           complaint.starts_with("dictionary has duplicated key");
+}
+
 bool looksLikePdf(const ByteSource& source)
 {
     return source.text(0, headerSearchSize).find("%PDF-") != std::string::npos;
@@ -105,7 +122,8 @@ Document::Document(std::shared_ptr<ByteSource> source, std::string fileName, std
 bool Document::openSkeleton()
 {
     m_direct = DirectReader::open(m_source);
-    auto skeleton = m_direct ? m_direct->skeleton() : std::nullopt;
+    const bool numbersLeft = m_direct && m_direct->size() <= largestObjectNumber; // new ones follow the size
+    auto skeleton = numbersLeft ? m_direct->skeleton() : std::nullopt;
     if (!skeleton) {
         m_direct.reset();
         return false;
@@ -290,8 +308,41 @@ void Document::collectWarnings()
         // libqpdf has no other signs of these.
         const std::string& detail = warning.getMessageDetail();
         m_rebuilt = m_rebuilt || detail.find("reconstruct cross-reference") != std::string::npos;
+        m_lengthsRecovered = m_lengthsRecovered || detail.starts_with(lengthRecovered);
+        noteMisread(warning);
         m_memoryWasShort = m_memoryWasShort || detail.find(std::bad_alloc().what()) != std::string::npos;
     }
+}
+
+void Document::noteMisread(const QPDFExc& warning)
+{
+    const std::string& place = warning.getObject();
+    if ((place == trailerName || place.starts_with(objectName)) && !isHarmless(warning.getMessageDetail()))
+        m_misread.insert(place);
+}
+
+bool Document::misread(QPDFObjGen object)
+{
+    collectWarnings();
+    return m_misread.contains(objectName + object.unparse(' '));
+}
+
+bool Document::anyMisread()
+{
+    collectWarnings();
+    return !m_misread.empty();
+}
+
+bool Document::trailerMisread()
+{
+    collectWarnings();
+    return m_misread.contains(trailerName);
+}
+
+bool Document::streamLengthsRecovered()
+{
+    collectWarnings();
+    return m_lengthsRecovered;
 }
 
 bool Document::crossReferenceRebuilt()

@@ -64,8 +64,7 @@ public:
     /// Reads the cross-reference and the catalog; nothing else of the document is looked at.
     /// \param fileName the name's bytes, empty for a document that came from memory.
     /// \param password UTF-8; tried as it is, in the encodings that old revisions used, and last of all
-    /// empty, so
-    ///     that a password given for a whole batch does not shut out a document that needs none.
+    ///     empty, so that a password given for a whole batch does not shut out a document that needs none.
     Document(std::shared_ptr<ByteSource> source, std::string fileName, std::string_view password);
     ~Document();
     Document(const Document&) = delete;
@@ -110,6 +109,13 @@ public:
     bool crossReferenceRebuilt();
     /// True when libqpdf complained about anything so far.
     bool anyWarnings();
+    /// True when libqpdf could not read an object as it stands, and made something else of it: null, an empty
+    /// stream, a dictionary with other entries.
+    bool misread(QPDFObjGen object);
+    bool anyMisread();
+    bool trailerMisread();
+    /// True when the length of a stream was wrong, and libqpdf searched for its end.
+    bool streamLengthsRecovered();
     /// Throws EngineError when memory was short for something read so far, or the disk failed: libqpdf goes
     /// on with null in its place.
     void requireAllRead();
@@ -119,6 +125,7 @@ public:
     /// What the next revision builds upon. \throws EngineError with CannotAppend.
     CrossReference crossReference();
 
+    const std::string& password() const { return m_password; }
     bool openedWithPassword() const { return m_openedWithPassword; }
 
 private:
@@ -129,6 +136,7 @@ private:
     /// False when the password is not right.
     bool open(const std::string& password);
     void collectWarnings();
+    void noteMisread(const QPDFExc& warning);
 
     std::shared_ptr<ByteSource> m_source;
     std::string m_fileName;
@@ -141,7 +149,9 @@ private:
     std::shared_ptr<QPDF> m_pdf;
     QPDFObjectHandle m_catalog; // looking it up anew each time is not cheap
     std::set<QPDFObjGen> m_changed;
+    std::set<std::string> m_misread; // as libqpdf names the objects
     bool m_rebuilt = false;
+    bool m_lengthsRecovered = false;
     bool m_warned = false;
     bool m_memoryWasShort = false;
     bool m_openedWithPassword = false;

@@ -1,6 +1,8 @@
 #include "DocumentWriter.h"
 
+#include "DamageCheck.h"
 #include "Document.h"
+#include "DocumentComparison.h"
 #include "PageTree.h"
 #include "engine/files/ByteSource.h"
 #include "engine/files/EngineError.h"
@@ -12,33 +14,60 @@
 #include <qpdf/QPDFWriter.hh>
 
 #include <algorithm>
+#include <exception>
+#include <string>
+#include <string_view>
 
 namespace engine {
 
 namespace {
 
-// QPDFWriter writes a few bytes at a time.
+// QPDFWriter writes a few bytes at a time, and finishes its pipelines in destructors, which nothing thrown
+// may leave: the first failure is kept, and what comes after it is dropped.
 class FilePipeline : public Pipeline
 {
 public:
-    explicit FilePipeline(OutputFile& file) : Pipeline("file", nullptr), m_file(file) {}
+    explicit FilePipeline(OutputFile& file) : Pipeline("file", nullptr), m_file(file)
+    {
+        m_waiting.reserve(largest);
+    }
 
     void write(const unsigned char* data, std::size_t size) override
     {
-        m_waiting.append(reinterpret_cast<const char*>(data), size);
-        if (m_waiting.size() >= 1 << 18)
-            finish();
+        std::string_view bytes(reinterpret_cast<const char*>(data), size);
+        while (!bytes.empty()) {
+            const std::string_view fitting = bytes.substr(0, largest - m_waiting.size());
+            m_waiting.append(fitting);
+            bytes.remove_prefix(fitting.size());
+            if (m_waiting.size() == largest)
+                finish();
+        }
     }
 
     void finish() override
     {
-        m_file.write(m_waiting);
+        try {
+            if (!m_failure)
+                m_file.write(m_waiting);
+        } catch (...) {
+            m_failure = std::current_exception();
+        }
         m_waiting.clear();
     }
 
+    /// Throws the failure, if there was any.
+    void requireWritten() const
+    {
+        if (m_failure)
+            std::rethrow_exception(m_failure);
+    }
+
 private:
+    static constexpr std::size_t largest = 1 << 18;
+
     OutputFile& m_file;
     std::string m_waiting;
+    std::exception_ptr m_failure;
 };
 
 bool hasObjectStreams(QPDF& pdf)
@@ -76,12 +105,13 @@ void completePageCount(Document& document)
 void writeInto(Document& document, Pipeline& output)
 {
     document.requireUnchanged();
-    document.readWhole();
+    requireRewritable(document);
     completeTrailer(document.pdf());
     completePageCount(document);
     QPDFWriter writer(document.pdf());
     writer.setOutputPipeline(&output);
     writer.setDecodeLevel(qpdf_dl_none);
+    writer.setPreserveUnreferencedObjects(true);
     // Without this, object streams that were compressed would be written plain.
     writer.setCompressStreams(hasObjectStreams(document.pdf()));
     writer.write();
@@ -89,21 +119,47 @@ void writeInto(Document& document, Pipeline& output)
     document.requireUnchanged();
 }
 
+/// The document's own cross-reference where it is sound, else the one that a search brings.
+CrossReference crossReferenceFor(Document& document)
+{
+    try {
+        if (!document.crossReferenceRebuilt())
+            return document.crossReference();
+    } catch (const EngineError& error) {
+        if (error.code() != ErrorCode::CannotAppend)
+            throw;
+    }
+    return foundCrossReference(document);
+}
+
+void requireSameContent(Document& document, std::shared_ptr<ByteSource> written)
+{
+    Document again(std::move(written), document.fileName(), document.password());
+    requireSameContent(document, again);
+}
+
 } // namespace
+
+std::string updateOf(Document& document)
+{
+    if (document.changedObjects().empty())
+        throw EngineError(ErrorCode::NothingChanged);
+    const CrossReference crossReference = crossReferenceFor(document);
+    requireChangesWhole(document);
+    const IncrementalUpdate update(document.pdf(), crossReference, *document.source(),
+                                   document.changedObjects());
+    document.requireAllRead();
+    if (document.crossReferenceRebuilt() && crossReference.unlistedObjects().empty())
+        throw EngineError(ErrorCode::CannotAppend, "the cross-reference was rebuilt");
+    return update.bytes();
+}
 
 void appendUpdate(Document& document, const std::string& path)
 {
-    const std::shared_ptr<ByteSource>& source = document.source();
-    if (document.changedObjects().empty())
-        throw EngineError(ErrorCode::NothingChanged);
-    const IncrementalUpdate update(document.pdf(), document.crossReference(), *source,
-                                   document.changedObjects());
-    document.requireAllRead();
-    if (document.crossReferenceRebuilt())
-        throw EngineError(ErrorCode::CannotAppend, "the cross-reference was rebuilt");
+    const std::string update = updateOf(document);
     OutputFile file(path);
-    file.copy(*source);
-    file.write(update.bytes());
+    file.copy(*document.source());
+    file.write(update);
     document.requireUnchanged();
     file.commit();
 }
@@ -113,6 +169,8 @@ void writeWhole(Document& document, const std::string& path)
     OutputFile file(path);
     FilePipeline pipeline(file);
     writeInto(document, pipeline);
+    pipeline.requireWritten();
+    requireSameContent(document, ByteSource::openFile(file.writtenPath()));
     file.commit();
 }
 
@@ -121,6 +179,7 @@ std::string wholeToString(Document& document)
     std::string bytes;
     Pl_String pipeline("memory", nullptr, bytes);
     writeInto(document, pipeline);
+    requireSameContent(document, ByteSource::fromBytes(bytes));
     return bytes;
 }
 

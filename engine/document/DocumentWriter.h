@@ -6,18 +6,23 @@ namespace engine {
 
 class Document;
 
-/// Writes a complete new file: the document's original bytes, untouched, and behind them its changes as an
-/// incremental update. What was at `path` is replaced in one step, or left alone when anything fails; it may
-/// be the document's own file.
-/// \throws EngineError with NothingChanged, CannotAppend (the document can still be written whole),
-///     SourceChanged, or the codes of OutputFile.
+/// The document's changes as an incremental update. Where the cross-reference is damaged, but it is beyond
+/// doubt what the document holds, the update lists all objects, and handles from before are stale.
+/// \throws EngineError with NothingChanged, or a code for which cannotAppend() is true.
+std::string updateOf(Document& document);
+
+/// Writes a complete new file: the document's original bytes, untouched, and behind them its update. What was
+/// at `path` is replaced in one step, or left alone when anything fails; it may be the document's own file.
+/// \throws EngineError with the codes of updateOf(), SourceChanged, or those of OutputFile.
 void appendUpdate(Document& document, const std::string& path);
 
 /// Writes all of the document anew: encryption, object streams, version, first identifier and information as
 /// they were, streams not compressed again. A linearized document becomes a plain one. All of it is read into
 /// the document first, so handles from before are stale. What was at `path` is replaced in one step, or left
-/// alone when anything fails; it may be the document's own file.
-/// \throws EngineError with SourceChanged or the codes of OutputFile; QPDFExc as libqpdf reports damage.
+/// alone when anything fails; it may be the document's own file. Nothing is written when that could lose what
+/// is in the document: when it is in doubt what that is, or when the file, read again, has other content.
+/// \throws EngineError with the codes of DamageCheck.h and DocumentComparison.h, SourceChanged, or those of
+///     OutputFile; QPDFExc as libqpdf reports damage.
 void writeWhole(Document& document, const std::string& path);
 
 /// The same into memory.

@@ -47,7 +47,6 @@ std::shared_ptr<ByteSource> ByteSource::openFile(const std::string& path)
     if (status.st_size == 0)
         throw EngineError(ErrorCode::EmptyFile);
     source->m_size = static_cast<std::uint64_t>(status.st_size);
-    source->m_hasHoles = status.st_blocks * 512 < status.st_size; // the unit is fixed
     source->m_modifiedSeconds = status.st_mtim.tv_sec;
     source->m_modifiedNanoseconds = status.st_mtim.tv_nsec;
     return source;

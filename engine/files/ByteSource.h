@@ -43,9 +43,6 @@ public:
     /// False as soon as the file's size or time of change differs from what it was on opening.
     bool unchangedSinceOpened() const;
 
-    /// True when the file takes less room than its size.
-    bool hasHoles() const { return m_hasHoles; }
-
     /// True once a read threw, even if nobody heard of it.
     bool readFailed() const { return m_readFailed; }
 
@@ -55,7 +52,6 @@ private:
     int m_fd = -1;
     std::string m_bytes;
     std::uint64_t m_size = 0;
-    bool m_hasHoles = false;
     std::int64_t m_modifiedSeconds = 0;
     std::int64_t m_modifiedNanoseconds = 0;
     mutable std::optional<char> m_lastByte; // once it was among what was read

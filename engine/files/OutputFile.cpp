@@ -3,27 +3,24 @@
 #include "ByteSource.h"
 #include "EngineError.h"
 
+#include "filecopy/ContentCopy.h"
+
 #include <fcntl.h>
-#include <linux/fs.h>
-#include <sys/ioctl.h>
 #include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <utility>
-#include <vector>
 
 namespace engine {
 
 namespace {
 
-// Asking a file system that cannot do it costs as much as copying some pages.
-const std::uint64_t worthCloning = 1 << 20;
+const std::size_t chunkSize = 1 << 18;
 
 [[noreturn]] void fail(int error)
 {
@@ -34,7 +31,9 @@ const std::uint64_t worthCloning = 1 << 20;
         code = ErrorCode::FileTooLarge;
     else if (error == EIO)
         code = ErrorCode::DeviceFailed;
-    else if (error == EACCES || error == EPERM || error == EROFS)
+    else if (error == EROFS)
+        code = ErrorCode::ReadOnlyFileSystem;
+    else if (error == EACCES || error == EPERM)
         code = ErrorCode::AccessDenied;
     else if (error == ENOENT || error == ENOTDIR)
         code = ErrorCode::FileNotFound;
@@ -123,61 +122,24 @@ void OutputFile::createAt(const std::string& name, unsigned mode)
 
 void OutputFile::copy(const ByteSource& source)
 {
-    const std::uint64_t size = source.size();
+    m_size = source.size();
     if (source.fd() < 0)
-        copyThroughMemory(source, 0, size);
-    else if (size < worthCloning && !source.hasHoles())
-        copyRange(source, 0, size);
-    else if (::ioctl(m_fd, FICLONE, source.fd()) != 0)
-        copyExtents(source);
-    m_size = size;
+        return copyFromMemory(source);
+    const filecopy::Outcome outcome = filecopy::copyContent(source.fd(), m_fd, m_size);
+    if (outcome.kind == filecopy::Outcome::Shortened)
+        throw EngineError(ErrorCode::SourceChanged);
+    if (outcome.kind == filecopy::Outcome::ReadFailed)
+        throw EngineError(ErrorCode::ReadFailed);
+    if (outcome.kind == filecopy::Outcome::WriteFailed)
+        fail(outcome.error);
 }
 
-void OutputFile::copyExtents(const ByteSource& source)
+void OutputFile::copyFromMemory(const ByteSource& source)
 {
-    const std::uint64_t size = source.size();
+    std::string chunk(chunkSize, '\0');
     std::uint64_t offset = 0;
-    while (offset < size) {
-        const off_t data = ::lseek(source.fd(), static_cast<off_t>(offset), SEEK_DATA);
-        if (data < 0 && errno == ENXIO) // nothing but a hole up to the end
-            break;
-        const off_t hole = data < 0 ? -1 : ::lseek(source.fd(), data, SEEK_HOLE);
-        if (data >= 0)
-            offset = static_cast<std::uint64_t>(data);
-        const std::uint64_t end = hole < 0 ? size : std::min(size, static_cast<std::uint64_t>(hole));
-        copyRange(source, offset, end);
-        offset = end;
-    }
-    if (::ftruncate(m_fd, static_cast<off_t>(size)) != 0)
-        fail(errno);
-}
-
-void OutputFile::copyRange(const ByteSource& source, std::uint64_t offset, std::uint64_t end)
-{
-    off_t from = static_cast<off_t>(offset);
-    off_t to = from;
-    while (static_cast<std::uint64_t>(from) < end) {
-        const auto rest = static_cast<std::size_t>(end - static_cast<std::uint64_t>(from));
-        const ssize_t count = ::copy_file_range(source.fd(), &from, m_fd, &to, rest, 0);
-        if (count == 0)
-            throw EngineError(ErrorCode::SourceChanged);
-        if (count > 0 || errno == EINTR)
-            continue;
-        if (errno != EXDEV && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
-            fail(errno);
-        return copyThroughMemory(source, static_cast<std::uint64_t>(from), end);
-    }
-}
-
-void OutputFile::copyThroughMemory(const ByteSource& source, std::uint64_t offset, std::uint64_t end)
-{
-    std::vector<char> buffer(static_cast<std::size_t>(std::min<std::uint64_t>(end - offset, 1 << 18)));
-    while (offset < end) {
-        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(buffer.size(), end - offset));
-        const std::size_t count = source.read(offset, buffer.data(), wanted);
-        if (count == 0)
-            throw EngineError(ErrorCode::SourceChanged);
-        writeAt(offset, {buffer.data(), count});
+    while (const std::size_t count = source.read(offset, chunk.data(), chunk.size())) {
+        writeAt(offset, {chunk.data(), count});
         offset += count;
     }
 }

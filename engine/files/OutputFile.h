@@ -10,8 +10,8 @@ class ByteSource;
 
 /// A file in the making: written under a name of its own beside the target, and renamed over it when
 /// complete. Without commit() nothing of it remains. All functions throw EngineError with DiskFull,
-/// FileTooLarge, DeviceFailed, AccessDenied, FileNotFound (of the folder), SourceChanged, ReadFailed or
-/// WriteFailed.
+/// FileTooLarge, DeviceFailed, ReadOnlyFileSystem, AccessDenied, FileNotFound (of the folder), SourceChanged,
+/// ReadFailed or WriteFailed.
 class OutputFile
 {
 public:
@@ -32,14 +32,15 @@ public:
 
     void write(std::string_view bytes);
 
+    /// Where the file is until commit(), complete or not.
+    const std::string& writtenPath() const { return m_temporary; }
+
     void commit();
 
 private:
     void create(const std::string& folder, unsigned mode);
     void createAt(const std::string& name, unsigned mode);
-    void copyExtents(const ByteSource& source);
-    void copyRange(const ByteSource& source, std::uint64_t offset, std::uint64_t end);
-    void copyThroughMemory(const ByteSource& source, std::uint64_t offset, std::uint64_t end);
+    void copyFromMemory(const ByteSource& source);
     void writeAt(std::uint64_t offset, std::string_view bytes);
 
     std::string m_target;

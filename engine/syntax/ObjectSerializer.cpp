@@ -3,6 +3,11 @@
 #include "StringCipher.h"
 #include "engine/files/EngineError.h"
 
+#include <qpdf/QUtil.hh>
+
+#include <cctype>
+#include <string_view>
+
 namespace engine {
 
 namespace {
@@ -17,6 +22,31 @@ bool isSignature(const std::map<std::string, QPDFObjectHandle>& entries)
     return type != entries.end() && contents != entries.end() && entries.contains("/ByteRange") &&
            QPDFObjectHandle(type->second).isNameAndEquals("/Sig") && !contents->second.isIndirect() &&
            QPDFObjectHandle(contents->second).isString();
+}
+
+bool isHexDigit(char character)
+{
+    return std::isxdigit(static_cast<unsigned char>(character)) != 0;
+}
+
+/// A name as libqpdf holds it: escapes resolved, a zero byte in the place of a number sign that begins none.
+std::string escapedName(std::string_view name)
+{
+    constexpr std::string_view delimiters = "#()<>[]{}/%";
+    std::string text = "/";
+    bool behindNumberSign = false;
+    for (const char character : name.substr(1)) {
+        const bool plain =
+            character > ' ' && character <= '~' && delimiters.find(character) == delimiters.npos;
+        if (character == '\0')
+            text += '#';
+        else if (plain && !(behindNumberSign && isHexDigit(character)))
+            text += character;
+        else
+            text += "#" + QUtil::hex_encode(std::string(1, character));
+        behindNumberSign = character == '\0';
+    }
+    return text;
 }
 
 } // namespace
@@ -57,11 +87,13 @@ void ObjectSerializer::writeDirect(QPDFObjectHandle value, int depth)
         return writeDictionary(value.getDictAsMap(), depth);
     case ::ot_string:
         return writeString(value);
+    case ::ot_name:
+        m_text += escapedName(value.getName());
+        return;
     case ::ot_null:
     case ::ot_boolean:
     case ::ot_integer:
     case ::ot_real:
-    case ::ot_name:
         m_text += value.unparseResolved();
         return;
     default:
@@ -85,7 +117,7 @@ void ObjectSerializer::writeDictionary(const std::map<std::string, QPDFObjectHan
     const bool signature = isSignature(entries);
     m_text += "<<";
     for (auto [key, value] : entries) {
-        m_text += " " + QPDFObjectHandle::newName(key).unparse() + " ";
+        m_text += " " + escapedName(key) + " ";
         if (signature && key == "/Contents")
             m_text += value.unparseBinary();
         else

@@ -1,6 +1,7 @@
 #include "CrossReference.h"
 
 #include "DocumentTail.h"
+#include "FileScan.h"
 #include "SourceInput.h"
 #include "engine/direct/DirectReader.h"
 #include "engine/files/EngineError.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <set>
 #include <string_view>
 
 namespace engine {
@@ -21,6 +23,9 @@ constexpr std::string_view whitespace("\0\t\n\f\r ", 6);
 
 // Readers stop at object numbers far above; what claims more is a lie that must not be built upon.
 constexpr long long largestSize = 0x7ffffff0;
+
+// Some search the file for its objects when its end is not within this.
+constexpr std::uint64_t searchedByAllReaders = 1024;
 
 [[noreturn]] void refuse(const char* reason)
 {
@@ -42,26 +47,17 @@ bool isVersion(std::string_view text, std::size_t position)
     return major > 0 && point < text.size() && text[point] == '.' && digitsAt(text, point + 1) > 0;
 }
 
-// The same place that libqpdf finds, for it counts offsets from there.
-std::uint64_t findHeader(const ByteSource& source)
-{
-    constexpr std::string_view marker = "%PDF-";
-    const std::string text = source.text(0, 1024 + 16);
-    for (std::size_t at = text.find(marker); at < 1024; at = text.find(marker, at + 1))
-        if (isVersion(text, at + marker.size()))
-            return at;
-    return 0;
-}
-
 } // namespace
 
 CrossReference::CrossReference(QPDF& pdf, std::shared_ptr<const ByteSource> source)
     : m_source(std::move(source)), m_input(std::make_shared<SourceInput>(m_source, "cross-reference")),
-      m_headerOffset(findHeader(*m_source))
+      m_headerOffset(headerOffsetOf(*m_source))
 {
     const auto tail = findDocumentTail(*m_source);
     if (!tail)
         refuse("no startxref");
+    if (m_source->size() - tail->keyword > searchedByAllReaders && hasObjectsBehind(*m_source, *tail))
+        refuse("the end of the last update is missing");
     m_tokenizer.allowEOF();
     try {
         readChain(pdf, tail->startxref);
@@ -77,10 +73,38 @@ CrossReference::CrossReference(QPDF& pdf, const DirectReader& reader)
       m_trailer(parseObject(pdf, reader.trailer())), m_entryEnd(reader.size()), m_size(reader.size())
 {}
 
+CrossReference::CrossReference(QPDF& pdf, std::uint64_t headerOffset, const FileScan& found)
+    : m_headerOffset(headerOffset), m_trailer(pdf.getTrailer())
+{
+    if (!m_trailer.getKey("/Root").isIndirect())
+        refuse("the trailer does not name the catalog");
+    for (const auto& [number, definition] : found.definitions()) {
+        if (definition.offset < headerOffset)
+            refuse("an object lies before the header");
+        m_unlisted.emplace(number, Entry{definition.offset - headerOffset, definition.generation});
+    }
+    m_entryEnd = m_unlisted.empty() ? 1 : m_unlisted.rbegin()->first + 1;
+    m_size = m_entryEnd;
+}
+
+// The same place that libqpdf finds, for it counts offsets from there.
+std::uint64_t CrossReference::headerOffsetOf(const ByteSource& source)
+{
+    constexpr std::string_view marker = "%PDF-";
+    const std::string text = source.text(0, 1024 + 16);
+    for (std::size_t at = text.find(marker); at < 1024; at = text.find(marker, at + 1))
+        if (isVersion(text, at + marker.size()))
+            return at;
+    return 0;
+}
+
 void CrossReference::readChain(QPDF& pdf, std::uint64_t offset)
 {
     bool newest = true;
+    std::set<std::uint64_t> visited;
     while (newest || offset != 0) {
+        if (!visited.insert(offset).second)
+            refuse("the sections of the cross-reference form a loop");
         const Section section = readSection(pdf, offset);
         QPDFObjectHandle dictionary = section.dictionary;
         if (newest) {
@@ -89,6 +113,7 @@ void CrossReference::readChain(QPDF& pdf, std::uint64_t offset)
             m_trailer = dictionary;
             newest = false;
         }
+        // Several sections may share one stream. It leads nowhere, so it is no part of a loop.
         if (section.kind == Kind::Table && dictionary.hasKey("/XRefStm"))
             readSection(pdf, dictionary.getKey("/XRefStm").getUIntValue());
         QPDFObjectHandle previous = dictionary.getKey("/Prev");
@@ -100,8 +125,6 @@ void CrossReference::readChain(QPDF& pdf, std::uint64_t offset)
 
 CrossReference::Section CrossReference::readSection(QPDF& pdf, std::uint64_t offset)
 {
-    if (!m_visited.insert(offset).second)
-        refuse("the sections of the cross-reference form a loop");
     if (offset >= m_source->size())
         refuse("a section of the cross-reference lies behind the end");
     const std::uint64_t position = skipWhitespace(m_headerOffset + offset);

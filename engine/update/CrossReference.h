@@ -7,12 +7,16 @@
 #include <qpdf/QPDFTokenizer.hh>
 
 #include <cstdint>
+#include <map>
 #include <memory>
-#include <set>
 
 namespace engine {
 
 class DirectReader;
+class FileScan;
+
+/// Readers need not take larger object numbers, and some do not. A /Size that lies may be above.
+inline constexpr int largestObjectNumber = 8'388'607;
 
 /// What a further revision must know of a document's cross-reference: read from the bytes themselves, section
 /// by section along the chain, and not from libqpdf, which repairs without saying how much.
@@ -27,6 +31,23 @@ public:
 
     /// The same of a document that a direct reader accepted, and so has read already.
     CrossReference(QPDF& pdf, const DirectReader& reader);
+
+    /// Of a document whose cross-reference is damaged, but whose objects lie beyond doubt where they were
+    /// found: the next revision lists all of them, and names no section before.
+    CrossReference(QPDF& pdf, std::uint64_t headerOffset, const FileScan& found);
+
+    /// How many bytes of a file lie before the header from which its offsets are counted.
+    static std::uint64_t headerOffsetOf(const ByteSource& source);
+
+    struct Entry
+    {
+        std::uint64_t offset; ///< From the header.
+        int generation;
+    };
+
+    /// What the next revision has to list besides its own objects, by number; empty when it names a section
+    /// that lists them.
+    const std::map<int, Entry>& unlistedObjects() const { return m_unlisted; }
 
     /// Kind of the newest section; a table with a stream beside it (a hybrid file) counts as a table.
     Kind kind() const { return m_kind; }
@@ -66,7 +87,7 @@ private:
     std::shared_ptr<const ByteSource> m_source;
     std::shared_ptr<InputSource> m_input;
     QPDFTokenizer m_tokenizer;
-    std::set<std::uint64_t> m_visited;
+    std::map<int, Entry> m_unlisted;
     Kind m_kind = Kind::Table;
     std::uint64_t m_newestOffset = 0;
     std::uint64_t m_headerOffset = 0;

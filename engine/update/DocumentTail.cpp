@@ -40,16 +40,6 @@ std::optional<DocumentTail> tailAt(std::string_view text, std::size_t position, 
     return tail;
 }
 
-bool holdsObjects(const ByteSource& source, std::uint64_t from)
-{
-    constexpr std::size_t step = 65536;
-    constexpr std::string_view word = " obj";
-    for (std::uint64_t offset = from; offset < source.size(); offset += step)
-        if (source.text(offset, step + word.size() - 1).find(word) != std::string::npos)
-            return true;
-    return false;
-}
-
 } // namespace
 
 std::optional<DocumentTail> findDocumentTail(const ByteSource& source)
@@ -69,13 +59,23 @@ std::optional<DocumentTail> findDocumentTail(const ByteSource& source)
     return std::nullopt;
 }
 
+bool hasObjectsBehind(const ByteSource& source, const DocumentTail& tail)
+{
+    constexpr std::size_t step = 65536;
+    constexpr std::string_view word = " obj";
+    for (std::uint64_t offset = tail.end; offset < source.size(); offset += step)
+        if (source.text(offset, step + word.size() - 1).find(word) != std::string::npos)
+            return true;
+    return false;
+}
+
 std::uint64_t documentEnd(const ByteSource& source)
 {
     const auto tail = findDocumentTail(source);
     if (!tail || source.size() - tail->keyword < searchedByReaders)
         return source.size();
     // Objects in the tail are an update whose end is lost: they belong to the document.
-    return holdsObjects(source, tail->end) ? source.size() : tail->end;
+    return hasObjectsBehind(source, *tail) ? source.size() : tail->end;
 }
 
 } // namespace engine

@@ -18,6 +18,9 @@ struct DocumentTail
 /// Searches from the end of the file as far back as needed. Nothing when the file has no such word.
 std::optional<DocumentTail> findDocumentTail(const ByteSource& source);
 
+/// Whether objects follow the document's tail: those of an update whose end is lost.
+bool hasObjectsBehind(const ByteSource& source, const DocumentTail& tail);
+
 /// Where the document ends for readers that look for `startxref` in the last kilobyte only: the size of the
 /// source, or less when what follows the tail is long and no part of any document.
 std::uint64_t documentEnd(const ByteSource& source);

@@ -14,6 +14,7 @@ namespace engine {
 namespace {
 
 constexpr std::uint64_t largestTableOffset = 9'999'999'999;
+constexpr int headOfFreeObjects = 65535; // its generation
 
 // Of the newest trailer these describe the section itself; all other entries belong to the document.
 constexpr std::string_view sectionKeys[] = {
@@ -72,6 +73,7 @@ IncrementalUpdate::IncrementalUpdate(QPDF& pdf, const CrossReference& crossRefer
     if (const char last = source.lastByte(); last != '\n' && last != '\r')
         m_bytes = "\n";
     writeObjects(pdf, changed);
+    addUnlistedObjects();
     if (m_crossReference.kind() == CrossReference::Kind::Table)
         writeTable();
     else
@@ -102,6 +104,14 @@ void IncrementalUpdate::writeObject(QPDFObjectHandle object)
     m_bytes += id.unparse(' ') + " obj\n" + m_serializer.write(object, id) + "\nendobj\n";
 }
 
+void IncrementalUpdate::addUnlistedObjects()
+{
+    const auto& unlisted = m_crossReference.unlistedObjects();
+    m_entries.insert(unlisted.begin(), unlisted.end());
+    if (!unlisted.empty())
+        m_entries.try_emplace(0, Entry{0, headOfFreeObjects}); // every first section has it
+}
+
 void IncrementalUpdate::writeTable()
 {
     const std::uint64_t start = nextOffset();
@@ -114,8 +124,9 @@ void IncrementalUpdate::writeTable()
         for (int number = first; number < first + count; ++number) {
             const Entry& entry = m_entries.at(number);
             char line[32];
-            std::snprintf(line, sizeof(line), "%010llu %05d n \n",
-                          static_cast<unsigned long long>(entry.offset), entry.generation);
+            std::snprintf(line, sizeof(line), "%010llu %05d %c \n",
+                          static_cast<unsigned long long>(entry.offset), entry.generation,
+                          number == 0 ? 'f' : 'n');
             m_bytes += line;
         }
     }
@@ -126,7 +137,9 @@ void IncrementalUpdate::writeTable()
 void IncrementalUpdate::writeStream()
 {
     const std::uint64_t start = nextOffset();
-    const int number = std::max(m_crossReference.size(), m_entries.rbegin()->first + 1);
+    const int free = m_crossReference.size() <= largestObjectNumber ? m_crossReference.size()
+                                                                    : m_crossReference.entryEnd();
+    const int number = std::max(free, m_entries.rbegin()->first + 1);
     m_entries.emplace(number, Entry{start, 0});
     const int offsetBytes = bytesFor(start);
     QPDFObjectHandle index = QPDFObjectHandle::newArray();
@@ -159,7 +172,9 @@ std::map<std::string, QPDFObjectHandle> IncrementalUpdate::newTrailer(int size) 
     for (const std::string_view key : sectionKeys)
         trailer.erase(std::string(key));
     trailer["/Size"] = QPDFObjectHandle::newInteger(size);
-    trailer["/Prev"] = QPDFObjectHandle::newInteger(static_cast<long long>(m_crossReference.newestOffset()));
+    if (m_crossReference.unlistedObjects().empty())
+        trailer["/Prev"] =
+            QPDFObjectHandle::newInteger(static_cast<long long>(m_crossReference.newestOffset()));
     const QPDFObjectHandle identifier = nextIdentifier();
     if (!QPDFObjectHandle(identifier).isNull())
         trailer["/ID"] = identifier;

@@ -14,7 +14,8 @@
 namespace engine {
 
 /// The bytes that, put behind a document's own, make its next revision: the changed objects, a
-/// cross-reference section of the kind that the document ends with, and the new end.
+/// cross-reference section of the kind that the document ends with, and the new end. Where the document's own
+/// cross-reference is damaged, the section lists all objects.
 class IncrementalUpdate
 {
 public:
@@ -27,14 +28,11 @@ public:
     const std::string& bytes() const { return m_bytes; }
 
 private:
-    struct Entry
-    {
-        std::uint64_t offset;
-        int generation;
-    };
+    using Entry = CrossReference::Entry;
 
     void writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& changed);
     void writeObject(QPDFObjectHandle object);
+    void addUnlistedObjects();
     void writeTable();
     void writeStream();
     void writeEnd(std::uint64_t sectionOffset);

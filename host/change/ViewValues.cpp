@@ -1,9 +1,10 @@
 #include "ViewValues.h"
 
 #include "LanguageTag.h"
-#include "host/terminal/FileNames.h"
 #include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
+
+#include <QString>
 
 #include <algorithm>
 #include <array>
@@ -116,7 +117,8 @@ ViewValue title(const Description& entry, const std::string& word)
 {
     if (word.empty())
         return Unset();
-    if (!isUtf8(word))
+    // What is no UTF-8 comes back as another character.
+    if (QString::fromStdString(word).toStdString() != word)
         refuse(entry, word);
     return word;
 }

@@ -9,7 +9,7 @@
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/terminal/ExitStatus.h"
-#include "host/terminal/FileNames.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"
 
@@ -35,12 +35,6 @@ using namespace settingsfiles;
 const int mostEntries = 1 << 20;
 const int iconSide = 42;
 
-void tell(const std::string& text)
-{
-    const std::string line = "quintar: " + forTerminal(text) + "\n";
-    writeAll(STDERR_FILENO, line.data(), line.size());
-}
-
 OptionParser::Take append(std::vector<std::string>& values)
 {
     return [&values](const std::string& value) { values.push_back(value); };
@@ -51,7 +45,7 @@ void noteMissingFolders()
 {
     for (const SettingsFolder& folder : {SettingsFolder::actionLists(), SettingsFolder::favorites()})
         if (const std::string problem = folder.make(); !problem.empty())
-            tell(std::string("note: no ") + folder.kind() + " can be stored: " + problem);
+            note(std::string("no ") + folder.kind() + " can be stored: " + problem);
 }
 
 /// The document, open in the library for as long as the object lives.
@@ -59,7 +53,7 @@ class OpenDocument
 {
 public:
     OpenDocument(const std::string& file, const std::string& password)
-        : m_library(toLibraryPath(installlayout::libraryFile()))
+        : m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
     {
         if (!m_library.LibraryLoaded())
             throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
@@ -93,8 +87,8 @@ int ConfigureCommand::work(const std::vector<std::string>& words)
     readSettings();
     if (showDialog())
         return deliver();
-    tell("the window was closed without OK: no settings were " +
-         std::string(m_output ? "written" : "printed"));
+    complain("the window was closed without OK: no settings were " +
+             std::string(m_output ? "written" : "printed"));
     return exitstatus::someFailed;
 }
 
@@ -194,7 +188,7 @@ int ConfigureCommand::print() const
     for (const std::string& word : setoption::wordsOf(m_settings, leftOut))
         line += (line.empty() ? "--set " : " --set ") + word;
     for (const std::string& key : leftOut)
-        tell("note: " + key + " is left out: no value is chosen");
+        note(key + " is left out: no value is chosen");
     printResult(line + "\n");
     return exitstatus::done;
 }
@@ -203,7 +197,7 @@ int ConfigureCommand::write() const
 {
     const std::string problem = m_output->write(m_settings, m_source, m_icon);
     if (!problem.empty())
-        tell(problem);
+        complain(problem);
     return problem.empty() ? exitstatus::done : exitstatus::someFailed;
 }
 

@@ -2,13 +2,13 @@
 
 #include "OptionParser.h"
 
-#include "host/files/FileDescriptor.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/settings/SettingsWords.h"
 #include "host/terminal/ExitStatus.h"
-#include "host/terminal/FileNames.h"
 #include "host/terminal/JsonLine.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
+#include "host/terminal/TerminalText.h"
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
@@ -60,7 +60,7 @@ public:
             for (const std::string& file : files)
                 printFile(folder, file);
         } catch (const UsageError& error) {
-            complain(error);
+            cannotRead(error);
         }
     }
 
@@ -73,15 +73,14 @@ private:
             const StoredSettings stored = folder.describe(file);
             printResult(m_json ? toJson(folder, file, stored) : inWords(folder, file, stored));
         } catch (const UsageError& error) {
-            complain(error);
+            cannotRead(error);
         }
     }
 
-    void complain(const UsageError& error)
+    void cannotRead(const UsageError& error)
     {
         m_failed = true;
-        const std::string line = "quintar: " + forTerminal(error.what()) + "\n";
-        writeAll(STDERR_FILENO, line.data(), line.size());
+        complain(error.what());
     }
 
     static std::string inWords(const SettingsFolder& folder, const std::string& file,
@@ -113,7 +112,7 @@ private:
                            {"name", QString::fromStdString(folder.nameOf(file, stored))},
                            {"category", stored.category.isEmpty() ? QJsonValue() : stored.category},
                            {"actions", actions}};
-        insertFile(object, folder.pathOf(file));
+        insertName(object, "file", folder.pathOf(file));
         return jsonLine(object);
     }
 

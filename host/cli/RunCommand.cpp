@@ -12,7 +12,7 @@
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/terminal/ExitStatus.h"
-#include "host/terminal/FileNames.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
@@ -102,14 +102,16 @@ int RunCommand::work(const std::vector<std::string>& words)
     warnOfSettingsWithoutEffect();
 
     const RunPlan plan = this->plan();
+    std::optional<Report> report;
+    if (m_reportFile)
+        report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
     BatchRun::Done done = doneBefore(plan);
     if (m_outputFolder && !m_options.dryRun)
         if (const std::string problem = SafeOutput::makeFolder(*m_outputFolder); !problem.empty())
             throw UsageError(problem);
     m_options.tellStates = m_reportFile.has_value();
-    std::optional<Report> report; // may lie in the output folder
-    if (m_reportFile)
-        report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
+    if (report) // may lie in the output folder
+        report->begin();
     return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet, std::move(done)).run(m_limits);
 }
 
@@ -131,6 +133,7 @@ void RunCommand::takeOptions(OptionParser& parser)
     parser.takeValue("resume", setOnce(m_resumedReport, "--resume"));
     parser.takeValue(
         "signed", [this](const std::string& value) { m_options.signedDocuments = signedDocuments(value); });
+    parser.takeFlag("rewrite", m_options.rewrite);
     parser.takeFlag("dry-run", m_options.dryRun);
     parser.takeFlag("sync", m_options.flush);
     parser.takeValue("jobs", [this](const std::string& value) {
@@ -157,6 +160,8 @@ void RunCommand::check() const
     if (m_outputFolder.has_value() == m_options.inPlace)
         throw UsageError(m_options.inPlace ? "-o and --in-place exclude each other"
                                            : "where to? Give -o DIR or --in-place");
+    if (m_options.rewrite && m_options.inPlace)
+        throw UsageError("--rewrite goes with -o: in place, the document's own bytes would be gone");
     if (m_outputFolder && m_outputFolder->empty())
         throw UsageError("the name of the output folder is empty");
     struct stat status;
@@ -234,10 +239,8 @@ void RunCommand::warnOfSettingsWithoutEffect() const
 
 void RunCommand::note(const std::string& text) const
 {
-    if (m_quiet)
-        return;
-    const std::string line = "quintar: note: " + forTerminal(text) + "\n";
-    writeAll(STDERR_FILENO, line.data(), line.size());
+    if (!m_quiet)
+        host::note(text);
 }
 
 bool RunCommand::continuesReport() const

@@ -2,12 +2,12 @@
 
 #include "OptionParser.h"
 
-#include "host/files/FileDescriptor.h"
 #include "host/program/InstallLayout.h"
 #include "host/terminal/ExitStatus.h"
-#include "host/terminal/FileNames.h"
 #include "host/terminal/JsonLine.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
+#include "host/terminal/TerminalText.h"
 #include "host/terminal/UsageError.h"
 #include "host/view/OpeningView.h"
 #include "host/workers/StopSignal.h"
@@ -34,16 +34,17 @@ const char unreadable = 'u';
 class ShowWorker : public Worker
 {
 public:
-    ShowWorker(std::string password, bool json)
-        : m_password(std::move(password)), m_json(json),
-          m_library(toLibraryPath(installlayout::libraryFile()))
+    ShowWorker(const std::vector<std::string>& files, const std::string& password, bool json)
+        : m_files(files), m_password(password), m_json(json),
+          m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
     {
         if (!m_library.LibraryLoaded())
             throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
     }
 
-    Answer answer(const std::string& file) override
+    Answer answer(std::size_t piece, WorkerSlot&) override
     {
+        const std::string& file = m_files[piece];
         if (m_library.LoadFromFile(engine::wideFromFileName(file), engine::wideFromFileName(m_password)) == 0)
             return {unreadable + std::string(engine::errorText(m_library.LastErrorCode()))};
         const OpeningView view = OpeningView::read(m_library);
@@ -55,11 +56,12 @@ private:
     static std::string toJson(const std::string& file, const OpeningView& view)
     {
         QJsonObject object = view.toJson();
-        insertFile(object, file);
+        insertName(object, "file", file);
         return jsonLine(object);
     }
 
-    std::string m_password;
+    const std::vector<std::string>& m_files;
+    const std::string& m_password;
     bool m_json;
     TelvarPDFLibraryCPDylibCPP1311 m_library;
 };
@@ -81,18 +83,16 @@ int ShowCommand::work(const std::vector<std::string>& files)
 
     bool failed = false;
     StopSignal stop;
-    WorkerPool pool({}, [&] { return std::make_unique<ShowWorker>(m_password, m_json); });
+    WorkerPool pool({}, [&] { return std::make_unique<ShowWorker>(files, m_password, m_json); });
     pool.run(
-        files.size(), [&](std::size_t index) { return files[index]; },
+        files.size(),
         [&](std::size_t index, const WorkOutcome& outcome) {
             const bool good = outcome.kind == WorkOutcome::Answered && outcome.text[0] == readable;
             const std::string text =
                 outcome.kind == WorkOutcome::Answered ? outcome.text.substr(1) : outcome.text;
             if (good)
                 return printResult(text);
-            const std::string line =
-                "quintar: " + forTerminal(files[index]) + ": " + forTerminal(text) + "\n";
-            writeAll(STDERR_FILENO, line.data(), line.size());
+            complain(files[index] + ": " + text);
             failed = true;
         },
         stop);

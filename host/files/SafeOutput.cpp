@@ -1,5 +1,7 @@
 #include "SafeOutput.h"
 
+#include "DiskFlush.h"
+#include "FileAttributes.h"
 #include "FileDescriptor.h"
 
 #include <dirent.h>
@@ -75,23 +77,12 @@ bool isLeftOver(int folder, const char* name)
     return std::time(nullptr) - status.st_mtime > strangerAge;
 }
 
-bool flushFolder(const std::string& folder)
+std::string inWords(const std::vector<std::string>& notKept)
 {
-    const FileDescriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return directory.isOpen() && fsync(directory.get()) == 0;
-}
-
-/// Permissions never become wider than they were for anyone: what was granted to an owner or a group that the
-/// new file cannot have is not granted to another one.
-bool giveAttributes(int file, const struct stat& like)
-{
-    mode_t mode = like.st_mode & 07777;
-    if (fchown(file, like.st_uid, like.st_gid) != 0) {
-        mode &= 0777;
-        if (fchown(file, static_cast<uid_t>(-1), like.st_gid) != 0)
-            mode &= 0707;
-    }
-    return fchmod(file, mode) == 0;
+    std::string text = notKept.empty() ? "" : "could not be kept: ";
+    for (std::size_t index = 0; index < notKept.size(); ++index)
+        text += (index > 0 ? ", " : "") + notKept[index];
+    return text;
 }
 
 } // namespace
@@ -113,9 +104,11 @@ std::string SafeOutput::makeFolder(const std::string& folder)
         return S_ISDIR(status.st_mode) ? std::string() : folder + " is not a folder";
     if (std::string problem = makeFolder(folderOf(folder)); !problem.empty())
         return problem;
-    if (mkdir(folder.c_str(), 0777) == 0 || (stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode)))
-        return {}; // another worker may have made it
+    if (mkdir(folder.c_str(), 0777) == 0)
+        return {};
     const int problem = errno;
+    if (stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
+        return {}; // another worker has made it
     if (lstat(folder.c_str(), &status) == 0 && S_ISLNK(status.st_mode))
         return folder + " is a symbolic link that leads nowhere";
     return "the folder " + folder + " cannot be made: " + systemError(problem);
@@ -127,16 +120,46 @@ std::string SafeOutput::folderOf(const std::string& file)
     return slash == std::string::npos ? "." : file.substr(0, slash == 0 ? 1 : slash);
 }
 
-std::string SafeOutput::commit(const struct stat& like, bool flush)
+SafeOutput::Outcome SafeOutput::commit(const FileAttributes& attributes, bool flush,
+                                       const BeforeRename& beforeRename)
 {
-    const auto problem = [this] { return m_target + " cannot be written: " + systemError(errno); };
+    const auto failed = [this] {
+        return Outcome{m_target + " cannot be written: " + systemError(errno), {}};
+    };
+    std::vector<std::string> notKept;
     const FileDescriptor file(::open(m_temporary.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
-    if (!file.isOpen() || !giveAttributes(file.get(), like) || (flush && fsync(file.get()) != 0))
-        return problem();
-    if (rename(m_temporary.c_str(), m_target.c_str()) != 0)
-        return problem();
+    struct stat finished;
+    if (!file.isOpen() || !attributes.giveTo(file.get(), notKept) || (flush && !flushFile(file.get())) ||
+        fstat(file.get(), &finished) != 0)
+        return failed();
+    std::string note = inWords(notKept);
+    if (beforeRename)
+        beforeRename(finished, note);
+    if (rename(m_temporary.c_str(), m_target.c_str()) != 0 && !isInPlace(file.get()))
+        return failed();
     m_committed = true;
-    return flush && !flushFolder(folderOf(m_target)) ? problem() : std::string();
+    if (flush && !flushFolder(folderOf(m_target), file.get()))
+        note += (note.empty() ? "" : "; ") +
+                ("it may not survive a power failure: its folder cannot be flushed: " + systemError(errno));
+    return {{}, note};
+}
+
+/// A rename over a network can be reported as failed although it was done.
+bool SafeOutput::isInPlace(int file) const
+{
+    const int problem = errno;
+    struct stat written;
+    struct stat target;
+    const bool inPlace = fstat(file, &written) == 0 && stat(m_target.c_str(), &target) == 0 &&
+                         written.st_dev == target.st_dev && written.st_ino == target.st_ino;
+    errno = problem;
+    return inPlace;
+}
+
+bool SafeOutput::flushPlaced(const std::string& target)
+{
+    const FileDescriptor file = openRegularFile(target);
+    return file.isOpen() && flushFolder(folderOf(target), file.get());
 }
 
 std::string SafeOutput::temporaryNameFor(const std::string& target)

@@ -2,14 +2,18 @@
 
 #include <sys/stat.h>
 
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace host {
+
+class FileAttributes;
 
 /// Puts a complete new file in a target's place, or leaves everything as it was.
 ///
 /// The new file is written under a temporary name beside the target, by whoever knows how; `commit` gives it
-/// mode and owner and renames it. An object that is destroyed without that removes it.
+/// its attributes and renames it. An object that is destroyed without that removes it.
 class SafeOutput
 {
 public:
@@ -24,10 +28,27 @@ public:
     /// The folder that a file lies in.
     static std::string folderOf(const std::string& file);
 
-    /// \param like the new file gets its permissions and, where the system allows it, owner and group.
-    /// \param flush also waits until file and folder are on the disk.
-    /// \returns empty, or the reason of the failure.
-    std::string commit(const struct stat& like, bool flush);
+    /// What became of the new file.
+    struct Outcome
+    {
+        /// Empty when it is in the target's place; else why all is as it was.
+        std::string problem;
+        /// What the user should know of a file that is in its place; may be empty.
+        std::string note;
+    };
+    /// Is told of the finished file just before it is renamed, and of the note if there is one by then, so
+    /// that somebody who outlives this process can tell by the target whether it was. What it throws leaves
+    /// the target as it was.
+    using BeforeRename = std::function<void(const struct stat& finished, const std::string& note)>;
+
+    /// \param attributes go along as far as the system allows it; what does not is noted.
+    /// \param flush also waits until file and folder are on the disk. A folder that cannot be flushed is
+    /// noted: after a power failure the old file may be there.
+    Outcome commit(const FileAttributes& attributes, bool flush, const BeforeRename& beforeRename = {});
+
+    /// Waits until a file that was renamed to the target by another process is on the disk under its name.
+    /// \returns false on failure.
+    static bool flushPlaced(const std::string& target);
 
     /// A name for a temporary file beside the target that no other running program uses. Names tell which
     /// process they belong to, so that `removeLeftovers` can find those of processes that are gone.
@@ -40,6 +61,8 @@ public:
     static void removeLeftovers(const std::string& folder);
 
 private:
+    bool isInPlace(int file) const;
+
     std::string m_target;
     std::string m_temporary;
     bool m_committed = false;

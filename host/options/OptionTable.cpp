@@ -70,6 +70,9 @@ const std::vector<Option> optionRows{
      "refused (the default), or changed by an update behind what is signed",
      Words, {"refuse", "append"}, {Run}, Group::Signed, rare},
 
+    {"rewrite", 0, "", "with -o, writes documents anew that cannot be appended to",
+     "if nothing is lost by that; without it such a document is refused",
+     Nothing, {}, {Run}, Group::Work, rare},
     {"dry-run", 'n', "", "writes nothing and tells what would be changed", "",
      Nothing, {}, {Run}, Group::Work, common},
     {"jobs", 'j', "N", "works on N documents at a time",

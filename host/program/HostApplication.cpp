@@ -1,9 +1,8 @@
 #include "HostApplication.h"
 
-#include "host/files/FileDescriptor.h"
-#include "host/terminal/FileNames.h"
-
 #include "host/terminal/ExitStatus.h"
+#include "host/terminal/StandardError.h"
+
 #include "shared/CUtils.h"
 
 #include <QApplication>
@@ -18,24 +17,17 @@ namespace host::hostapplication {
 
 namespace {
 
-/// Images that the style sheets name without meaning them, colours that this Qt finds incomplete, and slots
-/// that the dialogs do without.
+/// Harmless Qt warnings from the dialogs' style sheets and missing slots; not shown.
 constexpr std::array frameComplaints{"Could not create pixmap from", "QCssParser::parseColorValue",
                                      "QObject::connect: No such slot CQuintarDialog::"};
 
 QString firstProblem;
 
-void print(const std::string& text)
-{
-    const std::string line = "quintar: " + host::forTerminal(text) + "\n";
-    writeAll(STDERR_FILENO, line.data(), line.size());
-}
-
 [[noreturn]] void endWithoutDisplay(const QString& problem)
 {
     const QString reason = (firstProblem.isEmpty() ? problem : firstProblem).section('\n', 0, 0).trimmed();
-    print("a window cannot be shown here: " + reason.toStdString());
-    print("run this command in a graphical session, or set DISPLAY to one");
+    complain("a window cannot be shown here: " + reason.toStdString());
+    complain("run this command in a graphical session, or set DISPLAY to one");
     _exit(exitstatus::usage);
 }
 
@@ -52,7 +44,7 @@ void onceStarted(QtMsgType, const QMessageLogContext&, const QString& message)
     for (const char* complaint : frameComplaints)
         if (message.startsWith(complaint))
             return;
-    print(message.toStdString());
+    complain(message.toStdString());
 }
 
 void settleIn()

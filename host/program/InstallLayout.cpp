@@ -28,4 +28,13 @@ std::string libraryFile()
     return moduleFile("TelvarPDFLibraryCPDylib1311.dylib");
 }
 
+std::wstring toLibraryPath(std::string_view bytes)
+{
+    std::wstring path;
+    path.reserve(bytes.size());
+    for (const char byte : bytes)
+        path.push_back(static_cast<unsigned char>(byte));
+    return path;
+}
+
 } // namespace host::installlayout

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 /// Where the program's parts lie, from its own place: <folder>/bin/quintar and <folder>/lib/quintar, the same
 /// in the build tree and after installation.
@@ -8,5 +9,8 @@ namespace host::installlayout {
 
 std::string pluginFile();
 std::string libraryFile();
+
+/// As the binding takes the path of the library file: each byte is one character.
+std::wstring toLibraryPath(std::string_view bytes);
 
 } // namespace host::installlayout

@@ -1,5 +1,6 @@
 #include "BatchRun.h"
 
+#include "Placement.h"
 #include "Progress.h"
 #include "Report.h"
 #include "RunPlan.h"
@@ -8,8 +9,9 @@
 #include "host/program/InstallLayout.h"
 #include "host/program/PluginHost.h"
 #include "host/terminal/ExitStatus.h"
-#include "host/terminal/FileNames.h"
+#include "host/terminal/StandardError.h"
 #include "host/workers/StopSignal.h"
+#include "host/workers/WorkerSlot.h"
 
 #include <unistd.h>
 
@@ -25,25 +27,26 @@ namespace {
 class DocumentWorker : public Worker
 {
 public:
-    DocumentWorker(CActionInterface& action, const std::string& libraryFile, const ProcessingOptions& options)
-        : m_processor(action, libraryFile, options)
+    DocumentWorker(const std::vector<DocumentJob>& jobs, CActionInterface& action,
+                   const std::string& libraryFile, const ProcessingOptions& options)
+        : m_jobs(jobs), m_processor(action, libraryFile, options)
     {}
 
-    Answer answer(const std::string& record) override
+    Answer answer(std::size_t job, WorkerSlot& slot) override
     {
-        const std::optional<DocumentJob> job = DocumentJob::fromRecord(record);
-        if (!job)
-            throw std::runtime_error("the worker process was given an order that it does not know");
-        return {m_processor.process(*job).toRecord(), m_processor.isWornOut()};
+        const auto note = [&slot](const Placement& placement) { slot.note(placement.toRecord()); };
+        const DocumentResult result = m_processor.process(m_jobs[job], note);
+        return {result.toRecord(), m_processor.isWornOut()};
     }
 
 private:
+    const std::vector<DocumentJob>& m_jobs;
     DocumentProcessor m_processor;
 };
 
-void print(int descriptor, const std::string& text)
+void print(const std::string& text)
 {
-    writeAll(descriptor, text.data(), text.size()); // nobody may be listening
+    writeAll(STDOUT_FILENO, text.data(), text.size()); // nobody may be listening
 }
 
 } // namespace
@@ -61,7 +64,7 @@ int BatchRun::run(const WorkerPool::Limits& limits)
     PluginHost plugin(installlayout::pluginFile());
     const std::string libraryFile = installlayout::libraryFile();
     // Kept open, so that every worker finds the library in memory.
-    const TelvarPDFLibraryCPDylibCPP1311 library(toLibraryPath(libraryFile));
+    const TelvarPDFLibraryCPDylibCPP1311 library(installlayout::toLibraryPath(libraryFile));
     if (!library.LibraryLoaded())
         throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
 
@@ -111,25 +114,39 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
     fitting.workers =
         static_cast<int>(std::clamp<std::size_t>(m_jobs.size(), 1, static_cast<std::size_t>(limits.workers)));
     StopSignal stop;
-    WorkerPool pool(fitting,
-                    [&] { return std::make_unique<DocumentWorker>(action, libraryFile, m_options); });
+    WorkerPool pool(fitting, [&] {
+        if (m_report != nullptr)
+            m_report->leave();
+        return std::make_unique<DocumentWorker>(m_jobs, action, libraryFile, m_options);
+    });
     pool.run(
-        m_jobs.size(), [this](std::size_t job) { return m_jobs[job].toRecord(); },
-        [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); }, stop);
+        m_jobs.size(), [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); }, stop);
     m_stopped = stop.count() > 0;
 }
 
 void BatchRun::jobEnded(std::size_t job, const WorkOutcome& outcome)
 {
     if (outcome.kind != WorkOutcome::Answered)
-        SafeOutput::removeTemporary(m_jobs[job].temporary);
-    if (outcome.kind == WorkOutcome::Stopped)
-        return;
-    const auto result = outcome.kind == WorkOutcome::Answered
-                            ? DocumentResult::fromRecord(outcome.text)
-                            : std::optional(DocumentResult::failed(outcome.text));
+        return jobLost(job, outcome);
+    const auto result = DocumentResult::fromRecord(outcome.text);
     documentEnded(m_documentOfJob[job],
                   result.value_or(DocumentResult::failed("the worker process gave no proper answer")));
+}
+
+/// The worker may have put the new file in place before it ended.
+void BatchRun::jobLost(std::size_t job, const WorkOutcome& outcome)
+{
+    if (const auto placement = Placement::fromRecord(outcome.note);
+        placement && placement->isAt(m_jobs[job].target)) {
+        DocumentResult result = placement->result();
+        result.note += (result.note.empty() ? "" : "; ") + ("it is in place, but then: " + outcome.text);
+        if (m_options.flush && !SafeOutput::flushPlaced(m_jobs[job].target))
+            result.note += "; it may not survive a power failure";
+        return documentEnded(m_documentOfJob[job], result);
+    }
+    SafeOutput::removeTemporary(m_jobs[job].temporary);
+    if (outcome.kind == WorkOutcome::Lost)
+        documentEnded(m_documentOfJob[job], DocumentResult::failed(outcome.text));
 }
 
 void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
@@ -144,7 +161,7 @@ void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
     if (m_progress)
         m_progress->advance(result.status == Status::Failed);
     else if (!m_quiet && result.status != Status::Failed)
-        print(STDOUT_FILENO, RunSummary::lineFor(planned.name, result, m_options.dryRun));
+        print(RunSummary::lineFor(planned.name, result, m_options.dryRun));
 }
 
 void BatchRun::doneBefore(std::size_t document, const std::string& line)
@@ -163,14 +180,14 @@ void BatchRun::sumUp() const
     for (std::size_t index = 0; index < m_ended.size(); ++index)
         if (!m_ended[index])
             summary.addNotDone(m_plan.documents()[index].name);
-    print(STDERR_FILENO, summary.failures());
+    printError(summary.failures());
     if (!m_quiet)
-        print(STDOUT_FILENO, summary.counts(m_options.dryRun));
+        print(summary.counts(m_options.dryRun));
     if (m_report == nullptr)
         return;
     m_report->flush();
     if (!m_report->problem().empty())
-        print(STDERR_FILENO, "quintar: " + forTerminal(m_report->problem()) + "\n");
+        complain(m_report->problem());
 }
 
 int BatchRun::exitStatus() const

@@ -39,6 +39,7 @@ private:
     void removeLeftovers() const;
     void runJobs(CActionInterface& action, const std::string& libraryFile, const WorkerPool::Limits& limits);
     void jobEnded(std::size_t job, const WorkOutcome& outcome);
+    void jobLost(std::size_t job, const WorkOutcome& outcome);
     void doneBefore(std::size_t document, const std::string& line);
     void documentEnded(std::size_t document, const DocumentResult& result);
     void sumUp() const;

@@ -32,18 +32,6 @@ const char* nameOf(Saved saved)
     return "";
 }
 
-std::string DocumentJob::toRecord() const
-{
-    return RecordWriter().add(source).add(target).add(temporary).bytes();
-}
-
-std::optional<DocumentJob> DocumentJob::fromRecord(const std::string& record)
-{
-    RecordReader reader(record);
-    DocumentJob job{reader.text(), reader.text(), reader.text()};
-    return reader.complete() ? std::optional(job) : std::nullopt;
-}
-
 DocumentResult DocumentResult::failed(const std::string& reason, std::int64_t milliseconds)
 {
     return {Status::Failed, Saved::Not, reason, milliseconds};
@@ -58,6 +46,7 @@ std::string DocumentResult::toRecord() const
         .add(milliseconds)
         .add(fileState)
         .add(outputState)
+        .add(note)
         .bytes();
 }
 
@@ -70,13 +59,14 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     const std::int64_t milliseconds = reader.number();
     std::string fileState = reader.text();
     std::string outputState = reader.text();
+    std::string note = reader.text();
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);
     if (!reader.complete() || !known)
         return std::nullopt;
-    return DocumentResult{static_cast<Status>(status), static_cast<Saved>(saved),
-                          std::move(reason),           milliseconds,
-                          std::move(fileState),        std::move(outputState)};
+    return DocumentResult{
+        static_cast<Status>(status), static_cast<Saved>(saved), std::move(reason), milliseconds,
+        std::move(fileState),        std::move(outputState),    std::move(note)};
 }
 
 } // namespace host

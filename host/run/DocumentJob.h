@@ -23,9 +23,6 @@ struct DocumentJob
     std::string target;
     /// Where the new file is written before it takes the target's place; beside the target.
     std::string temporary;
-
-    std::string toRecord() const;
-    static std::optional<DocumentJob> fromRecord(const std::string& record);
 };
 
 struct DocumentResult
@@ -39,6 +36,8 @@ struct DocumentResult
     /// it is now. Empty for a document that failed, and when nothing was to be written.
     std::string fileState = {};
     std::string outputState = {};
+    /// What the user should know of a document that did not fail; may be empty.
+    std::string note = {};
 
     static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;

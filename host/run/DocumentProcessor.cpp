@@ -1,10 +1,11 @@
 #include "DocumentProcessor.h"
 
 #include "FileState.h"
+#include "host/files/FileAttributes.h"
 #include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
-#include "host/terminal/FileNames.h"
+#include "host/program/InstallLayout.h"
 
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
@@ -20,24 +21,30 @@ namespace host {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+const char* const notRewritten = "neither appended to nor rewritten: ";
 
 bool isCode(int code, engine::ErrorCode wanted)
 {
     return code == static_cast<int>(wanted);
 }
 
-bool isSameState(const struct stat& one, const struct stat& other)
+/// Doubt about what a document holds keeps it from being written anew, too.
+std::string whyNotAppended(int code)
 {
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_size == other.st_size &&
-           one.st_mtim.tv_sec == other.st_mtim.tv_sec && one.st_mtim.tv_nsec == other.st_mtim.tv_nsec;
+    const auto errorCode = static_cast<engine::ErrorCode>(code);
+    if (!engine::cannotAppend(errorCode))
+        return "not saved: " + std::string(engine::errorText(code));
+    return std::string(engine::errorText(code)) +
+           (engine::isDoubt(errorCode)
+                ? "; nothing is appended to it, and for the same reason --rewrite would refuse it"
+                : "; --rewrite writes it anew if nothing is lost by that");
 }
 
 } // namespace
 
 DocumentProcessor::DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
                                      const ProcessingOptions& options)
-    : m_action(action), m_options(options), m_library(toLibraryPath(libraryFile))
+    : m_action(action), m_options(options), m_library(installlayout::toLibraryPath(libraryFile))
 {
     if (!m_library.LibraryLoaded())
         throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
@@ -58,9 +65,10 @@ void DocumentProcessor::bracket(Bracket call)
     }
 }
 
-DocumentResult DocumentProcessor::process(const DocumentJob& job)
+DocumentResult DocumentProcessor::process(const DocumentJob& job, const BeforePlacement& beforePlacement)
 {
-    const Clock::time_point begin = Clock::now();
+    m_begin = Clock::now();
+    m_beforePlacement = &beforePlacement;
     DocumentResult result;
     try {
         result = work(job);
@@ -70,8 +78,13 @@ DocumentResult DocumentProcessor::process(const DocumentJob& job)
     } catch (const std::exception& error) {
         result = DocumentResult::failed(error.what());
     }
-    result.milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - begin).count();
+    result.milliseconds = millisecondsTaken();
     return result;
+}
+
+std::int64_t DocumentProcessor::millisecondsTaken() const
+{
+    return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_begin).count();
 }
 
 DocumentResult DocumentProcessor::work(const DocumentJob& job)
@@ -85,11 +98,17 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     m_library.SelectDocument(document);
     DocumentResult result = applyAndSave(job);
     m_library.RemoveDocument(document);
-    if (result.status != Status::Failed && m_options.tellStates && !m_options.dryRun) {
-        result.outputState = stateOf(job.target);
-        result.fileState = m_options.inPlace ? result.outputState : stateOf(m_original);
-    }
+    if (result.status != Status::Failed && !m_options.dryRun)
+        tellStates(result, stateOf(job.target));
     return result;
+}
+
+void DocumentProcessor::tellStates(DocumentResult& result, const std::string& outputState) const
+{
+    if (!m_options.tellStates)
+        return;
+    result.outputState = outputState;
+    result.fileState = m_options.inPlace ? outputState : stateOf(m_original);
 }
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
@@ -102,7 +121,7 @@ DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
                                                      : copy(job);
     if (std::string reason = refusal(); !reason.empty())
         return DocumentResult::failed(reason);
-    return m_options.dryRun ? DocumentResult{Status::Changed, Saved::Not, {}, 0} : save(job);
+    return m_options.dryRun ? tryOut() : save(job);
 }
 
 bool DocumentProcessor::applyEntries()
@@ -127,6 +146,18 @@ std::string DocumentProcessor::refusal()
     return {};
 }
 
+/// What save() would do, as far as that can be known without writing.
+DocumentResult DocumentProcessor::tryOut()
+{
+    const int code = m_library.SecurityInfo(engine::AppendRefusal);
+    const bool rewriting = m_options.rewrite && engine::cannotAppend(static_cast<engine::ErrorCode>(code));
+    if (rewriting && m_library.SaveToString().empty())
+        return libraryFailure(notRewritten);
+    if (code != 0 && !rewriting)
+        return notAppended(code);
+    return {Status::Changed, Saved::Not, {}, 0};
+}
+
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
 {
     SafeOutput output(job.target, job.temporary);
@@ -141,14 +172,16 @@ DocumentResult DocumentProcessor::write(const DocumentJob& job)
     const std::wstring target = engine::wideFromFileName(job.temporary);
     if (m_library.AppendToFile(target) != 0)
         return {Status::Changed, Saved::Appended, {}, 0};
-    if (!isCode(m_library.LastErrorCode(), engine::ErrorCode::CannotAppend))
-        return libraryFailure("not saved: ");
-    if (m_library.SecurityInfo(engine::SignatureCount) > 0)
-        return DocumentResult::failed(
-            "it is signed, and the change cannot be appended to it; writing it anew "
-            "would break its signatures");
-    if (m_library.SaveToFile(target) == 0)
-        return libraryFailure("not saved: ");
+    const int code = m_library.LastErrorCode();
+    if (m_options.rewrite && engine::cannotAppend(static_cast<engine::ErrorCode>(code)))
+        return rewrite(job);
+    return notAppended(code);
+}
+
+DocumentResult DocumentProcessor::rewrite(const DocumentJob& job)
+{
+    if (m_library.SaveToFile(engine::wideFromFileName(job.temporary)) == 0)
+        return libraryFailure(notRewritten);
     return {Status::Changed, Saved::Rewritten, {}, 0};
 }
 
@@ -166,11 +199,31 @@ DocumentResult DocumentProcessor::copy(const DocumentJob& job)
 DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& job,
                                          const DocumentResult& result)
 {
+    const FileDescriptor source = openRegularFile(job.source);
     struct stat now;
-    if (stat(job.source.c_str(), &now) != 0 || !isSameState(now, m_original))
+    if (!source.isOpen() || fstat(source.get(), &now) != 0 || !isSameState(now, m_original))
         return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
-    const std::string problem = output.commit(m_original, m_options.flush);
-    return problem.empty() ? result : DocumentResult::failed(problem);
+    const auto beforeRename = [&](const struct stat& finished, const std::string& note) {
+        DocumentResult placed = result;
+        placed.milliseconds = millisecondsTaken();
+        placed.note = note;
+        tellStates(placed, stateOf(finished));
+        (*m_beforePlacement)({placed, finished});
+    };
+    const auto take = m_options.inPlace ? FileAttributes::Take::All : FileAttributes::Take::ForCopy;
+    const SafeOutput::Outcome outcome =
+        output.commit(FileAttributes(source.get(), take), m_options.flush, beforeRename);
+    if (!outcome.problem.empty())
+        return DocumentResult::failed(outcome.problem);
+    DocumentResult placed = result;
+    placed.note = outcome.note;
+    return placed;
+}
+
+DocumentResult DocumentProcessor::notAppended(int code)
+{
+    m_wornOut = m_wornOut || isCode(code, engine::ErrorCode::OutOfMemory);
+    return DocumentResult::failed(whyNotAppended(code));
 }
 
 DocumentResult DocumentProcessor::libraryFailure(const std::string& what)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DocumentJob.h"
+#include "Placement.h"
 #include "host/settings/SettingsFile.h"
 
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
@@ -8,6 +9,9 @@
 
 #include <sys/stat.h>
 
+#include <chrono>
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -26,6 +30,8 @@ struct ProcessingOptions
     std::vector<ActionEntry> entries;
     std::string password;
     SignedDocuments signedDocuments = SignedDocuments::Refuse;
+    /// A document to which nothing can be appended may be written anew.
+    bool rewrite = false;
     /// The target is the source: a document that needs no change is left alone instead of copied.
     bool inPlace = false;
     /// Nothing is written; the result says what would be.
@@ -49,24 +55,33 @@ public:
     DocumentProcessor(const DocumentProcessor&) = delete;
     DocumentProcessor& operator=(const DocumentProcessor&) = delete;
 
+    /// Is told before a new file takes its target's place.
+    using BeforePlacement = std::function<void(const Placement&)>;
+
     /// Never throws; a failure of any kind leaves the target as it was.
-    DocumentResult process(const DocumentJob& job);
+    DocumentResult process(const DocumentJob& job, const BeforePlacement& beforePlacement);
 
     /// True once a document needed more memory than there is: what is left may be in pieces.
     bool isWornOut() const { return m_wornOut; }
 
 private:
+    using Clock = std::chrono::steady_clock;
     using Bracket = int (CActionInterface::*)(WorkProcInfoStruct*);
 
     void bracket(Bracket call);
     DocumentResult work(const DocumentJob& job);
+    std::int64_t millisecondsTaken() const;
+    void tellStates(DocumentResult& result, const std::string& outputState) const;
     DocumentResult applyAndSave(const DocumentJob& job);
     bool applyEntries();
     std::string refusal();
+    DocumentResult tryOut();
     DocumentResult save(const DocumentJob& job);
     DocumentResult write(const DocumentJob& job);
+    DocumentResult rewrite(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);
     DocumentResult commit(SafeOutput& output, const DocumentJob& job, const DocumentResult& result);
+    DocumentResult notAppended(int code);
     DocumentResult libraryFailure(const std::string& what = {});
 
     CActionInterface& m_action;
@@ -74,6 +89,8 @@ private:
     TelvarPDFLibraryCPDylibCPP1311 m_library;
     CErrorHandler m_errors;
     struct stat m_original = {}; ///< The document's file before it was read.
+    Clock::time_point m_begin;
+    const BeforePlacement* m_beforePlacement = nullptr;
     bool m_wornOut = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include "FileState.h"
 #include "host/files/FileDescriptor.h"
+#include "host/terminal/JsonLine.h"
 #include "host/terminal/UsageError.h"
 
 #include <QJsonDocument>
@@ -18,14 +19,6 @@ namespace {
 
 const std::size_t longestLine = 1 << 20;
 const std::size_t readAtOnce = 64 << 10;
-
-/// A name as bytes: JSON holds text only, so other names stand percent-encoded beside.
-std::string nameIn(const QJsonObject& object, const QString& key)
-{
-    const QJsonValue bytes = object.value(key + "Bytes");
-    return bytes.isString() ? QByteArray::fromPercentEncoding(bytes.toString().toUtf8()).toStdString()
-                            : object.value(key).toString().toStdString();
-}
 
 bool isDone(const QJsonObject& object, const RunPlan::Document& document)
 {

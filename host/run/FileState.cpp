@@ -23,4 +23,10 @@ std::string stateOf(const std::string& path)
     return stat(path.c_str(), &file) == 0 ? stateOf(file) : std::string();
 }
 
+bool isSameState(const struct stat& one, const struct stat& other)
+{
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_size == other.st_size &&
+           one.st_mtim.tv_sec == other.st_mtim.tv_sec && one.st_mtim.tv_nsec == other.st_mtim.tv_nsec;
+}
+
 } // namespace host

@@ -13,4 +13,7 @@ std::string stateOf(const struct stat& file);
 /// The same of the file at a path; empty when there is none.
 std::string stateOf(const std::string& path);
 
+/// Whether two looks at a file saw the same one, unchanged.
+bool isSameState(const struct stat& one, const struct stat& other);
+
 } // namespace host

@@ -1,12 +1,11 @@
 #include "Report.h"
 
-#include "host/terminal/FileNames.h"
+#include "host/terminal/JsonLine.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/UsageError.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
-
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,15 +16,6 @@ namespace host {
 
 namespace {
 
-/// JSON holds text only: bytes that are none show as U+FFFD, and the exact name stands beside,
-/// percent-encoded.
-void insertName(QJsonObject& object, const QString& key, const std::string& name)
-{
-    object.insert(key, name.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(name)));
-    if (!isUtf8(name))
-        object.insert(key + "Bytes", QString::fromStdString(percentEncoded(name)));
-}
-
 QJsonValue textOrNull(const std::string& text)
 {
     return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
@@ -33,16 +23,66 @@ QJsonValue textOrNull(const std::string& text)
 
 } // namespace
 
-Report::Report(const std::string& path, Start start)
-    : m_path(path),
-      m_file(::open(path.c_str(),
-                    O_CREAT | O_CLOEXEC | (start == Start::New ? O_WRONLY | O_TRUNC : O_RDWR | O_APPEND),
-                    0666))
+Report::Report(const std::string& path, Start start) : m_path(path), m_start(start)
 {
-    if (!m_file.isOpen())
+    open(0);
+    if (!m_file.isOpen() && errno == ENOENT) {
+        open(O_CREAT | O_EXCL);
+        m_isNew = m_file.isOpen();
+    }
+    if (!m_file.isOpen() && errno == EEXIST) // another run was quicker, or a link leads nowhere yet
+        open(O_CREAT);
+    if (m_file.isOpen())
+        lock();
+    else if (errno != ENOENT)
         throw UsageError("the report " + path + " cannot be written: " + systemError(errno));
-    if (start == Start::Continue)
+}
+
+Report::~Report()
+{
+    if (m_isNew)
+        unlink(m_path.c_str());
+}
+
+void Report::open(int flags)
+{
+    const int access = m_start == Start::New ? O_WRONLY : O_RDWR | O_APPEND;
+    m_file = FileDescriptor(::open(m_path.c_str(), access | flags | O_CLOEXEC, 0666));
+}
+
+bool Report::isRegular() const
+{
+    struct stat status;
+    return fstat(m_file.get(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+void Report::lock()
+{
+    if (!isRegular())
+        return;
+    const int problem = flock(m_file.get(), LOCK_EX | LOCK_NB) == 0 ? 0 : errno;
+    struct stat status; // another run may have removed a file that it had not begun
+    const bool isGone = problem == 0 && fstat(m_file.get(), &status) == 0 && status.st_nlink == 0;
+    if (problem == EWOULDBLOCK || isGone)
+        throw UsageError("the report " + m_path + " is being written by another run");
+    if (problem != 0)
+        note("the report " + m_path + " cannot be locked (" + systemError(problem) +
+             "); no other run may write it meanwhile");
+}
+
+void Report::begin()
+{
+    if (!m_file.isOpen()) {
+        open(O_CREAT);
+        if (!m_file.isOpen())
+            throw UsageError("the report " + m_path + " cannot be written: " + systemError(errno));
+        lock();
+    }
+    m_isNew = false;
+    if (m_start == Start::Continue)
         dropCutOffLine();
+    else if (isRegular() && ftruncate(m_file.get(), 0) != 0)
+        throw UsageError("the report " + m_path + " cannot be written: " + systemError(errno));
 }
 
 /// An earlier run may have been killed in the middle of a line.
@@ -89,10 +129,12 @@ std::string Report::toJson(const Line& line)
     object.insert("status", nameOf(line.result.status));
     object.insert("saved", textOrNull(nameOf(line.result.saved)));
     object.insert("reason", textOrNull(line.result.reason));
+    if (!line.result.note.empty())
+        object.insert("note", QString::fromStdString(line.result.note));
     object.insert("milliseconds", static_cast<qint64>(line.result.milliseconds));
     object.insert("fileState", textOrNull(line.result.fileState));
     object.insert("outputState", textOrNull(line.result.outputState));
-    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + "\n";
+    return jsonLine(object);
 }
 
 } // namespace host

@@ -9,6 +9,7 @@
 namespace host {
 
 /// The report of a run: a JSON object a line, in the order of the input, each line written at once and whole.
+/// It is locked while the object lives: of two runs with one report, the second is refused.
 class Report
 {
 public:
@@ -22,9 +23,19 @@ public:
 
     enum class Start { New, Continue };
 
-    /// Begins a new file, or goes on behind what an earlier run has written. Throws UsageError when that is
-    /// not possible.
+    /// Takes the file for this run, and changes nothing in it. Throws UsageError when another run has it.
     Report(const std::string& path, Start start);
+    /// Removes a file that was made and never begun.
+    ~Report();
+    Report(const Report&) = delete;
+    Report& operator=(const Report&) = delete;
+
+    /// Empties the file, or goes on behind what an earlier run has written. The folder that it lies in may
+    /// have been made since. Throws UsageError when that is not possible.
+    void begin();
+    /// In a process that was forked off: that does not write, and leaves the file to others when this run
+    /// ends.
+    void leave() { m_file.close(); }
 
     /// Takes the line of document `index`; it is written as soon as those before it are.
     void add(std::size_t index, const Line& line) { add(index, toJson(line)); }
@@ -40,11 +51,16 @@ public:
     static std::string toJson(const Line& line);
 
 private:
+    void open(int flags);
+    void lock();
+    bool isRegular() const;
     void write(const std::string& line);
     void dropCutOffLine();
 
     std::string m_path;
+    Start m_start;
     FileDescriptor m_file;
+    bool m_isNew = false; ///< Made, and not begun yet.
     std::size_t m_next = 0;
     std::map<std::size_t, std::string> m_waiting;
     std::string m_problem;

@@ -2,53 +2,20 @@
 
 #include "FolderWalk.h"
 #include "host/files/FileDescriptor.h"
+#include "host/files/Links.h"
 #include "host/terminal/UsageError.h"
 
 #include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
 #include <filesystem>
 #include <map>
-#include <memory>
-#include <system_error>
 #include <utility>
 
 namespace host {
 
 namespace {
-
-const int mostLinks = 40; // as the system has it
-
-/// The path with all links resolved; of what does not exist yet, as far as it does.
-std::string resolved(const std::string& path)
-{
-    if (const std::unique_ptr<char, void (*)(void*)> real(realpath(path.c_str(), nullptr), std::free); real)
-        return real.get();
-    const std::size_t slash = path.rfind('/');
-    if (slash == std::string::npos)
-        return path == "." ? path : resolved(".") + "/" + path; // the current folder may be gone
-    if (slash == 0)
-        return path;
-    // Folders that are missing will be made as plain ones, so ".." leads back out of them.
-    const std::filesystem::path folder = resolved(path.substr(0, slash));
-    std::string place = (folder / path.substr(slash + 1)).lexically_normal().string();
-    if (place.size() > 1 && place.back() == '/')
-        place.pop_back();
-    return place;
-}
-
-/// Where a file is made when the path is opened for writing: a link is followed even if it leads nowhere yet.
-std::string resolvedForWriting(const std::string& path)
-{
-    std::filesystem::path place = path;
-    std::error_code none;
-    for (int links = 0; links < mostLinks && std::filesystem::is_symlink(place, none); ++links)
-        place = place.parent_path() / std::filesystem::read_symlink(place, none);
-    return resolved(place.string());
-}
 
 /// The path without "." and "..", links not followed: a linked document keeps the place it is named by.
 std::filesystem::path absolutePath(const std::string& path)
@@ -141,7 +108,7 @@ std::string RunPlan::targetOf(const std::string& path)
     struct stat status;
     bool exists = lstat(target.c_str(), &status) == 0;
     if (exists && S_ISLNK(status.st_mode)) {
-        target = resolved(target);
+        target = behindLink(target);
         exists = stat(target.c_str(), &status) == 0;
     }
     if (exists)
@@ -171,7 +138,7 @@ void RunPlan::checkTargets() const
 
 void RunPlan::checkReport(const std::string& path, const std::vector<std::string>& filesRead) const
 {
-    const std::string target = resolvedForWriting(path);
+    const std::string target = resolved(behindLink(path));
     for (const Document& document : m_documents)
         if (document.problem.empty() && document.target == target)
             throw UsageError("the report and " + document.name + " would have the same output, " + target);

@@ -1,12 +1,17 @@
 #include "RunSummary.h"
 
-#include "host/terminal/FileNames.h"
+#include "host/terminal/TerminalText.h"
 
 namespace host {
 
 namespace {
 
 const std::size_t mostNames = 20;
+
+std::string further(const char* what, std::size_t count)
+{
+    return count > mostNames ? std::string(what) + ": " + std::to_string(count - mostNames) + " more\n" : "";
+}
 
 } // namespace
 
@@ -15,7 +20,9 @@ void RunSummary::add(std::size_t place, const std::string& name, const DocumentR
     m_changed += result.status == Status::Changed ? 1 : 0;
     m_unchanged += result.status == Status::Unchanged ? 1 : 0;
     if (result.status == Status::Failed)
-        m_failures.insert_or_assign(place, Failure{name, result.reason});
+        m_failures.insert_or_assign(place, About{name, result.reason});
+    else if (!result.note.empty())
+        m_notes.insert_or_assign(place, About{name, result.note});
 }
 
 std::string RunSummary::lineFor(const std::string& name, const DocumentResult& result, bool dryRun)
@@ -33,12 +40,13 @@ std::string RunSummary::failures() const
 {
     std::string text;
     for (const auto& [place, failure] : m_failures)
-        text += "failed: " + forTerminal(failure.name) + ": " + forTerminal(failure.reason) + "\n";
+        text += "failed: " + forTerminal(failure.name) + ": " + forTerminal(failure.text) + "\n";
+    std::size_t told = 0;
+    for (auto note = m_notes.begin(); note != m_notes.end() && told < mostNames; ++note, ++told)
+        text += "note: " + forTerminal(note->second.name) + ": " + forTerminal(note->second.text) + "\n";
     for (std::size_t index = 0; index < m_notDone.size() && index < mostNames; ++index)
         text += "not done: " + forTerminal(m_notDone[index]) + "\n";
-    if (m_notDone.size() > mostNames)
-        text += "not done: " + std::to_string(m_notDone.size() - mostNames) + " more\n";
-    return text;
+    return text + further("note", m_notes.size()) + further("not done", m_notDone.size());
 }
 
 std::string RunSummary::counts(bool dryRun) const

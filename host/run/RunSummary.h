@@ -25,22 +25,24 @@ public:
     /// One line about one document, for readers without a progress bar. Safe to print.
     static std::string lineFor(const std::string& name, const DocumentResult& result, bool dryRun);
 
-    /// Each failure with its file and reason, a line each, and what was not done. Safe to print.
+    /// Each failure with its file and reason, a line each, what is to be noted of other documents, and what
+    /// was not done. Safe to print.
     std::string failures() const;
     /// "3 changed, 1 unchanged, 0 failed", with a line feed.
     std::string counts(bool dryRun) const;
 
 private:
-    struct Failure
+    struct About
     {
         std::string name;
-        std::string reason;
+        std::string text;
     };
 
     std::size_t m_changed = 0;
     std::size_t m_unchanged = 0;
     std::size_t m_doneBefore = 0;
-    std::map<std::size_t, Failure> m_failures;
+    std::map<std::size_t, About> m_failures;
+    std::map<std::size_t, About> m_notes;
     std::vector<std::string> m_notDone;
 };
 

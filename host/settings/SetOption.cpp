@@ -13,28 +13,8 @@ namespace {
 
 using initialview::Key;
 using initialview::ValueType;
-using Labels = std::vector<const char*>;
 
 const std::size_t nameWidth = 28;
-
-template <class Table>
-Labels listOf(const Table& table)
-{
-    return Labels(table.begin(), table.end());
-}
-
-Labels labelsOf(const std::string& key)
-{
-    if (key == initialview::key::NavigationTab)
-        return listOf(initialview::navigationLabels);
-    if (key == initialview::key::PageLayout)
-        return listOf(initialview::pageLayoutLabels);
-    if (key == initialview::key::Magnification)
-        return listOf(initialview::magnificationLabels);
-    if (key == initialview::key::Show)
-        return listOf(initialview::titleLabels);
-    return {};
-}
 
 /// \param separator stands between the rows of a list.
 std::string choicesOf(const Key& key, const std::string& separator)
@@ -43,12 +23,11 @@ std::string choicesOf(const Key& key, const std::string& separator)
         return "true or false";
     if (key.type == ValueType::Text)
         return std::string("\"") + initialview::actionName + "\"";
-    const Labels labels = labelsOf(key.name);
-    if (labels.empty())
+    if (key.rows.empty())
         return std::to_string(key.lowest) + " to " + std::to_string(key.highest);
     std::string text;
-    for (std::size_t row = 0; row < labels.size(); ++row)
-        text += separator + std::to_string(row) + "  " + labels[row];
+    for (std::size_t row = 0; row < key.rows.size(); ++row)
+        text += separator + std::to_string(row) + "  " + key.rows[row];
     return text;
 }
 
@@ -66,9 +45,8 @@ std::string choicesOf(const Key& key, const std::string& separator)
 
 [[noreturn]] void refuseValue(const Key& key, const std::string& value)
 {
-    const Labels labels = labelsOf(key.name);
     throw UsageError(std::string(key.name) + " cannot be \"" + value + "\"" +
-                     suggestion::didYouMean(value, {labels.begin(), labels.end()}) + "\nit takes " +
+                     suggestion::didYouMean(value, {key.rows.begin(), key.rows.end()}) + "\nit takes " +
                      choicesOf(key, "\n  "));
 }
 
@@ -95,13 +73,12 @@ QVariant numberOf(const Key& key, const std::string& value)
     const int number = text.toInt(&whole);
     if (whole && number >= key.lowest && number <= key.highest)
         return number;
-    const Labels labels = labelsOf(key.name);
-    const auto label = std::find_if(labels.begin(), labels.end(), [&](const char* each) {
+    const auto label = std::find_if(key.rows.begin(), key.rows.end(), [&](const char* each) {
         return text.compare(each, Qt::CaseInsensitive) == 0;
     });
-    if (label == labels.end())
+    if (label == key.rows.end())
         refuseValue(key, value);
-    return static_cast<int>(label - labels.begin());
+    return static_cast<int>(label - key.rows.begin());
 }
 
 QVariant valueOf(const Key& key, const std::string& value)
@@ -123,9 +100,8 @@ void apply(const std::string& word, SettingsMap& map)
     if (equals == std::string::npos)
         throw UsageError("\"" + word + "\" is not a setting: it takes the form KEY=VALUE");
     const std::string name = word.substr(0, equals);
-    const auto key = std::find_if(initialview::keys.begin(), initialview::keys.end(),
-                                  [&](const Key& each) { return name == each.name; });
-    if (key == initialview::keys.end())
+    const Key* const key = initialview::findKey(name);
+    if (key == nullptr)
         refuseKey(name);
     map.insert(key->name, valueOf(*key, word.substr(equals + 1)));
 }

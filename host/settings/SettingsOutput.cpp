@@ -1,7 +1,9 @@
 #include "SettingsOutput.h"
 
+#include "host/files/FileAttributes.h"
 #include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
+#include "host/files/Links.h"
 #include "host/files/SafeOutput.h"
 #include "host/terminal/UsageError.h"
 
@@ -15,8 +17,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
 #include <string_view>
 
 namespace host {
@@ -33,29 +33,9 @@ bool endsWith(std::string_view text, std::string_view end)
     return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
 
-/// What a symbolic link leads to; other paths are themselves.
-std::string linkTarget(const std::string& path)
-{
-    struct stat status;
-    char target[PATH_MAX];
-    const bool isLink = lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
-    return isLink && realpath(path.c_str(), target) != nullptr ? target : path;
-}
-
-struct stat newFileAttributes()
-{
-    const mode_t mask = umask(0);
-    umask(mask);
-    struct stat attributes = {};
-    attributes.st_mode = 0666 & ~mask;
-    attributes.st_uid = geteuid();
-    attributes.st_gid = static_cast<gid_t>(-1); // as the folder gives it
-    return attributes;
-}
-
 } // namespace
 
-SettingsOutput::SettingsOutput(const std::string& path) : m_path(linkTarget(path)), m_kind(kindOf(path))
+SettingsOutput::SettingsOutput(const std::string& path) : m_path(behindLink(path)), m_kind(kindOf(path))
 {
     checkPlace();
 }
@@ -73,7 +53,7 @@ SettingsOutput::Kind SettingsOutput::kindOf(const std::string& path)
                      path);
 }
 
-/// Asked early: nobody is to make settings that then cannot be kept.
+/// Checked before the dialog opens, so that no choices are lost.
 void SettingsOutput::checkPlace() const
 {
     struct stat status;
@@ -144,13 +124,16 @@ void SettingsOutput::composeFavorite(CIniFile& file, SettingsMap settings, const
 
 std::string SettingsOutput::putInPlace(const std::string& draft) const
 {
-    struct stat attributes;
-    if (stat(m_path.c_str(), &attributes) != 0)
-        attributes = newFileAttributes();
+    const FileDescriptor replaced = openRegularFile(m_path);
+    if (!replaced.isOpen() && errno != ENOENT)
+        return m_path + " cannot be written: " + systemError(errno);
+    const FileAttributes attributes = replaced.isOpen()
+                                          ? FileAttributes(replaced.get(), FileAttributes::Take::All)
+                                          : FileAttributes::ofNewFile();
     const std::string temporary = SafeOutput::temporaryNameFor(m_path);
     SafeOutput output(m_path, temporary);
     const std::string problem = copyFile(draft, temporary);
-    return problem.empty() ? output.commit(attributes, true) : m_path + ": " + problem;
+    return problem.empty() ? output.commit(attributes, true).problem : m_path + ": " + problem;
 }
 
 QString SettingsOutput::baseName() const

@@ -4,8 +4,12 @@
 
 #include "EditInitialView/InitialViewSettings.h"
 
+#include <string_view>
+
 namespace host {
 
+using initialview::Key;
+using initialview::ValueType;
 using viewwords::line;
 using viewwords::yesOrNo;
 
@@ -15,51 +19,46 @@ namespace key = initialview::key;
 
 const std::string unchanged = "unchanged";
 
-constexpr std::array preferenceKeys{"",
-                                    key::HideToolBars,
-                                    key::HideMenuBar,
-                                    key::HideCtrlWindows,
-                                    key::ResizeWinToInitPage,
-                                    key::CenterWinOnScreen};
-
-template <class Table>
-std::string rowInWords(const Table& table, const QVariant& stored)
+/// As the action reads it: a viewer preference is handed to the library as a number.
+bool isOn(const Key& key, const QVariant& stored)
 {
-    const char* label = viewwords::labelAt(table, stored.toInt(), nullptr);
+    return std::string_view(key.name) == key::OpenInFullScreen ? stored.toBool() : stored.toInt() == 1;
+}
+
+std::string rowInWords(const Key& key, const QVariant& stored)
+{
+    const char* label = viewwords::labelAt(key.rows, stored.toInt(), nullptr);
     return label != nullptr ? label : "row " + stored.toString().toStdString() + ", which does not exist";
 }
 
-std::string layoutInWords(const SettingsMap& settings)
+std::string valueInWords(const Key& key, const QVariant& stored)
 {
-    const int page = settings.value(key::OpenToPage).toInt();
-    const bool opens = page >= initialview::firstPage;
-    return line("Navigation tab",
-                rowInWords(initialview::navigationLabels, settings.value(key::NavigationTab))) +
-           line("Page layout", rowInWords(initialview::pageLayoutLabels, settings.value(key::PageLayout))) +
-           line("Open at page", opens ? std::to_string(page) : unchanged) +
-           line("Magnification",
-                opens ? rowInWords(initialview::magnificationLabels, settings.value(key::Magnification))
-                      : unchanged);
+    if (key.type == ValueType::Flag)
+        return yesOrNo(isOn(key, stored));
+    return key.rows.empty() ? std::to_string(stored.toInt()) : rowInWords(key, stored);
 }
 
-std::string preferencesInWords(const SettingsMap& settings)
+/// Without a page to open at, page and magnification of a document stay as they are.
+bool opensNowhere(const Key& key, const SettingsMap& settings)
 {
-    std::string text;
-    for (std::size_t option = 1; option < preferenceKeys.size(); ++option)
-        text +=
-            line(viewwords::preference(option), yesOrNo(settings.value(preferenceKeys[option]).toInt() == 1));
-    return text + line("Full screen", yesOrNo(settings.value(key::OpenInFullScreen).toBool())) +
-           line("Title bar shows", rowInWords(initialview::titleLabels, settings.value(key::Show)));
+    const std::string_view name = key.name;
+    return (name == key::OpenToPage || name == key::Magnification) &&
+           settings.value(key::OpenToPage).toInt() < initialview::firstPage;
 }
 
 } // namespace
 
 std::string settingsInWords(const SettingsMap& settings)
 {
-    return (settings.value(key::LayoutAndMagn).toBool() ? layoutInWords(settings)
-                                                        : line("Layout and page", unchanged)) +
-           (settings.value(key::ViewerPrefs).toBool() ? preferencesInWords(settings)
-                                                      : line("Viewer preferences", unchanged));
+    std::string text;
+    for (const Key& key : initialview::keys) {
+        const QVariant stored = settings.value(key.name);
+        if (key.isGroup() && !stored.toBool())
+            text += line(key.label, unchanged);
+        if (key.group != nullptr && settings.value(key.group).toBool())
+            text += line(key.label, opensNowhere(key, settings) ? unchanged : valueInWords(key, stored));
+    }
+    return text;
 }
 
 } // namespace host

@@ -1,6 +1,6 @@
 #include "JsonLine.h"
 
-#include "FileNames.h"
+#include "TerminalText.h"
 
 #include <QJsonDocument>
 
@@ -8,37 +8,54 @@ namespace host {
 
 namespace {
 
-bool misleads(QChar character)
+const char separator[] = "/"; // stays readable
+
+/// A byte order mark that a name begins with belongs to it; converted by itself, Qt would take it away.
+QString textOf(const std::string& name)
 {
-    switch (character.category()) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return true;
-    default:
-        return false;
-    }
+    return QString::fromStdString("/" + name).mid(1);
+}
+
+/// The character's one or two units in UTF-16. QString::fromUcs4 would take a byte order mark away.
+QString unitsOf(uint character)
+{
+    return QChar::requiresSurrogates(character)
+               ? QString(QChar(QChar::highSurrogate(character))) + QChar(QChar::lowSurrogate(character))
+               : QString(QChar(character));
+}
+
+QString escape(const QString& units)
+{
+    QString escaped;
+    for (const QChar unit : units)
+        escaped += QString("\\u%1").arg(unit.unicode(), 4, 16, QChar('0'));
+    return escaped;
 }
 
 } // namespace
 
 std::string jsonLine(const QJsonObject& object)
 {
+    const QString text = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
     QString line;
-    for (const QChar character : QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)))
-        if (misleads(character))
-            line += QString("\\u%1").arg(character.unicode(), 4, 16, QChar('0'));
-        else
-            line += character;
+    for (const uint character : text.toUcs4())
+        line += misleads(character) ? escape(unitsOf(character)) : unitsOf(character);
     return line.toStdString() + "\n";
 }
 
-void insertFile(QJsonObject& object, const std::string& file)
+void insertName(QJsonObject& object, const QString& key, const std::string& name)
 {
-    object.insert("file", QString::fromStdString(file));
-    if (!isUtf8(file))
-        object.insert("fileBytes", QString::fromStdString(percentEncoded(file)));
+    const QString text = textOf(name);
+    object.insert(key, name.empty() ? QJsonValue() : QJsonValue(text));
+    if (text.toStdString() != name)
+        object.insert(key + "Bytes", QString(QByteArray::fromStdString(name).toPercentEncoding(separator)));
+}
+
+std::string nameIn(const QJsonObject& object, const QString& key)
+{
+    const QJsonValue bytes = object.value(key + "Bytes");
+    return bytes.isString() ? QByteArray::fromPercentEncoding(bytes.toString().toUtf8()).toStdString()
+                            : object.value(key).toString().toStdString();
 }
 
 } // namespace host

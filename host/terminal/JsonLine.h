@@ -4,13 +4,19 @@
 
 #include <string>
 
-/// JSON for standard output, an object a line.
+/// JSON for standard output and reports, an object a line.
 namespace host {
 
-/// The object in one line with its line feed. Characters that control or mislead a terminal are escaped.
+/// The object in one line with its line feed. Characters that mislead (TerminalText.h) are escaped, which a
+/// reader of JSON undoes.
 std::string jsonLine(const QJsonObject& object);
 
-/// Puts a file's name under "file", and under "fileBytes" its bytes if they are not UTF-8, percent-encoded.
-void insertFile(QJsonObject& object, const std::string& file);
+/// Puts a file's name under a key, null for an empty one. JSON holds text only: bytes of the name that are
+/// none show as U+FFFD there, and all of its bytes stand percent-encoded beside, under the key with "Bytes"
+/// added.
+void insertName(QJsonObject& object, const QString& key, const std::string& name);
+
+/// The bytes of a name that `insertName` has put there.
+std::string nameIn(const QJsonObject& object, const QString& key);
 
 } // namespace host

@@ -1,16 +1,17 @@
 #include "OpeningView.h"
 
 #include "ViewWords.h"
-#include "host/terminal/FileNames.h"
+#include "host/terminal/TerminalText.h"
 
 #include "EditInitialView/InitialViewSettings.h"
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
-#include "pdflibrary/ViewNumbers.h"
 
 #include <QJsonValue>
 #include <QLocale>
+
+#include <algorithm>
 
 namespace host {
 
@@ -20,21 +21,39 @@ using viewwords::yesOrNo;
 
 namespace {
 
-const int zoomValue = 5; // of GetDestValue
+namespace key = initialview::key;
+using pdflibrary::PreferenceRow;
 
-constexpr std::array pageModeNames{"UseNone",    "UseOutlines", "UseThumbs",
-                                   "FullScreen", "UseOC",       "UseAttachments"};
-constexpr std::array pageLayoutNames{"SinglePage",     "OneColumn",   "TwoColumnLeft",
-                                     "TwoColumnRight", "TwoPageLeft", "TwoPageRight"};
-constexpr std::array destinationNames{"", "XYZ", "Fit", "FitH", "FitV", "FitBH"};
-constexpr std::array preferenceNames{"",          "HideToolbar",  "HideMenubar",     "HideWindowUI",
-                                     "FitWindow", "CenterWindow", "DisplayDocTitle", "NonFullScreenPageMode"};
+const std::string unset = "not set in document";
 
-std::string modeInWords(int mode)
+/// A name of the PDF without its slash; null where the table has none.
+template <class Table>
+const char* nameAt(const Table& table, int number)
 {
-    if (mode == pdflibrary::FullScreen)
-        return "Full screen";
-    return labelAt(initialview::navigationLabels, initialview::rowOfPageMode(mode), "unknown");
+    const char* name = labelAt(table, number, nullptr);
+    return name != nullptr && *name != '\0' ? name + 1 : nullptr;
+}
+
+QJsonValue nameInJson(const char* name)
+{
+    return name != nullptr ? QJsonValue(name) : QJsonValue();
+}
+
+/// What the dialog calls a setting.
+std::string labelOf(const char* key)
+{
+    return initialview::findKey(key)->label;
+}
+
+std::string preferenceInWords(const PreferenceRow& preference, int value)
+{
+    return preference.valueLabels.empty() ? yesOrNo(value == 1)
+                                          : labelAt(preference.valueLabels, value, "unknown");
+}
+
+QJsonValue preferenceInJson(const PreferenceRow& preference, int value)
+{
+    return preference.names.empty() ? QJsonValue(value == 1) : nameInJson(nameAt(preference.names, value));
 }
 
 std::string percent(double zoom)
@@ -52,11 +71,11 @@ std::string magnificationInWords(const OpeningView::Destination& destination)
 std::string destinationInWords(const std::optional<OpeningView::Destination>& destination)
 {
     if (!destination)
-        return line("Open at page", "not set in document") + line("Magnification", "not set in document");
+        return line(labelOf(key::Magnification), unset) + line(labelOf(key::OpenToPage), unset);
     const std::string name =
         destination->name.empty() ? "" : " (named destination \"" + forTerminal(destination->name) + "\")";
-    return line("Open at page", std::to_string(destination->page) + name) +
-           line("Magnification", magnificationInWords(*destination));
+    return line(labelOf(key::Magnification), magnificationInWords(*destination)) +
+           line(labelOf(key::OpenToPage), std::to_string(destination->page) + name);
 }
 
 QJsonValue destinationToJson(const std::optional<OpeningView::Destination>& destination)
@@ -64,7 +83,7 @@ QJsonValue destinationToJson(const std::optional<OpeningView::Destination>& dest
     if (!destination)
         return {};
     QJsonObject object{{"page", destination->page},
-                       {"type", labelAt(destinationNames, destination->type, "")}};
+                       {"type", nameInJson(nameAt(pdflibrary::destinationNames, destination->type))}};
     object.insert("zoom", destination->zoom > 0 ? QJsonValue(destination->zoom) : QJsonValue());
     object.insert("name", destination->name.empty() ? QJsonValue()
                                                     : QJsonValue(QString::fromStdString(destination->name)));
@@ -83,10 +102,11 @@ OpeningView OpeningView::read(TelvarPDFLibraryCPDylibCPP1311& library)
     view.pageLayout = library.GetPageLayout();
     if (const int id = library.GetOpenActionDestination(); id != 0)
         view.destination = {library.GetDestType(id), library.GetDestPage(id),
-                            library.GetDestValue(id, zoomValue),
+                            library.GetDestValue(id, pdflibrary::DestinationZoom),
                             engine::fileNameFromWide(library.GetDestName(id))};
-    for (int option = 1; option < static_cast<int>(view.preferences.size()); ++option)
-        view.preferences[static_cast<std::size_t>(option)] = library.GetViewerPreferences(option);
+    std::transform(pdflibrary::viewerPreferences.begin(), pdflibrary::viewerPreferences.end(),
+                   view.preferences.begin(),
+                   [&](const PreferenceRow& row) { return library.GetViewerPreferences(row.option); });
     return view;
 }
 
@@ -97,30 +117,26 @@ std::string OpeningView::inWords() const
         text += line("Encrypted", "yes");
     if (signatures > 0)
         text += line("Signatures", std::to_string(signatures));
-    text += line("Navigation tab", modeInWords(pageMode));
-    text += line("Page layout", labelAt(initialview::pageLayoutLabels, pageLayout, "unknown"));
+    text += line(labelOf(key::NavigationTab), labelAt(pdflibrary::pageModeLabels, pageMode, "unknown"));
+    text += line(labelOf(key::PageLayout), labelAt(initialview::pageLayoutLabels, pageLayout, "unknown"));
     text += destinationInWords(destination);
-    for (std::size_t option = pdflibrary::HideToolBars; option <= pdflibrary::CenterWindow; ++option)
-        text += line(viewwords::preference(option), yesOrNo(preferences[option] == 1));
-    text += line("Title bar shows",
-                 labelAt(initialview::titleLabels, preferences[pdflibrary::TitleBar], "unknown"));
-    return text + line("After full screen", modeInWords(preferences[pdflibrary::NonFullScreenMode]));
+    for (std::size_t row = 0; row < preferences.size(); ++row)
+        text += line(pdflibrary::viewerPreferences[row].label,
+                     preferenceInWords(pdflibrary::viewerPreferences[row], preferences[row]));
+    return text;
 }
 
 QJsonObject OpeningView::toJson() const
 {
     QJsonObject settings;
-    for (int option = pdflibrary::HideToolBars; option <= pdflibrary::TitleBar; ++option)
-        settings.insert(preferenceNames[static_cast<std::size_t>(option)],
-                        preferences[static_cast<std::size_t>(option)] == 1);
-    settings.insert(preferenceNames[pdflibrary::NonFullScreenMode],
-                    labelAt(pageModeNames, preferences[pdflibrary::NonFullScreenMode], ""));
-    const char* layout = labelAt(pageLayoutNames, pageLayout, nullptr);
+    for (std::size_t row = 0; row < preferences.size(); ++row)
+        settings.insert(pdflibrary::viewerPreferences[row].pdfName + 1,
+                        preferenceInJson(pdflibrary::viewerPreferences[row], preferences[row]));
     return {{"pages", pageCount},
             {"encrypted", encrypted},
             {"signatures", signatures},
-            {"pageMode", labelAt(pageModeNames, pageMode, "")},
-            {"pageLayout", layout == nullptr ? QJsonValue() : QJsonValue(layout)},
+            {"pageMode", nameInJson(nameAt(pdflibrary::pageModeNames, pageMode))},
+            {"pageLayout", nameInJson(nameAt(pdflibrary::pageLayoutNames, pageLayout))},
             {"openAction", destinationToJson(destination)},
             {"viewerPreferences", settings}};
 }

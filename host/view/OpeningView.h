@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pdflibrary/ViewerPreferences.h"
+
 #include <QJsonObject>
 
 #include <array>
@@ -30,8 +32,8 @@ public:
     int pageMode = 0;
     int pageLayout = 0;
     std::optional<Destination> destination;
-    /// Options 1 to 7 of the library, from index 1.
-    std::array<int, 8> preferences{};
+    /// The library's number for each row of pdflibrary::viewerPreferences.
+    std::array<int, pdflibrary::viewerPreferences.size()> preferences{};
 
     /// Reads the view of the selected document.
     static OpeningView read(TelvarPDFLibraryCPDylibCPP1311& library);

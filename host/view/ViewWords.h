@@ -9,9 +9,6 @@ namespace host::viewwords {
 /// An indented line: a label, and what it says.
 std::string line(const std::string& label, const std::string& text);
 
-/// Of the viewer preferences 1 to 5 of the library.
-const char* preference(std::size_t option);
-
 const char* yesOrNo(bool answer);
 
 /// The label in a row of a table, or `otherwise` where it has none.

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "host/files/FileDescriptor.h"
+#include "SharedMemory.h"
 
 #include <sys/types.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstddef>
-#include <deque>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -15,7 +16,7 @@
 namespace host {
 
 class StopSignal;
-class WorkerTurn;
+class WorkerSlot;
 
 /// What a worker process does.
 class Worker
@@ -23,13 +24,14 @@ class Worker
 public:
     struct Answer
     {
-        std::string record;
+        std::string text;
         /// The worker is not fit for further work, and a fresh one takes its place.
         bool last = false;
     };
 
     virtual ~Worker() = default;
-    virtual Answer answer(const std::string& record) = 0;
+    /// \param slot takes a note about the piece, which reaches the program even if the answer does not.
+    virtual Answer answer(std::size_t piece, WorkerSlot& slot) = 0;
 };
 
 /// How a piece of work ended.
@@ -39,12 +41,13 @@ struct WorkOutcome
     Kind kind;
     /// The worker's answer, or the reason why there is none.
     std::string text;
+    /// What the worker had noted about a piece that it did not answer.
+    std::string note = {};
 };
 
-/// Spreads work over processes that are copies of this one. Each works at one piece at a time and, so that it
-/// never waits, has been given the next one meanwhile, or some if they are small; what it has not begun can
-/// be taken back. A worker that crashes, takes too long or too much memory costs the piece it was at; a fresh
-/// one goes on.
+/// Has pieces of work done by processes that are copies of this one. Each takes the next piece from a counter
+/// in shared memory when it is ready for one, so nobody hands out work and no piece waits behind a long one.
+/// A worker that crashes, takes too long or too much memory costs the piece it was at; a fresh one goes on.
 ///
 /// The program must have no threads when it calls `run`.
 class WorkerPool
@@ -59,7 +62,6 @@ public:
     };
     /// Called in the new process. What it throws is the reason for which its first piece is lost.
     using MakeWorker = std::function<std::unique_ptr<Worker>()>;
-    using WorkOf = std::function<std::string(std::size_t)>;
     using Done = std::function<void(std::size_t, const WorkOutcome&)>;
 
     WorkerPool(Limits limits, MakeWorker makeWorker);
@@ -70,42 +72,39 @@ public:
     /// Has pieces 0 to count - 1 done and tells of each as it ends. After a stop signal no piece is begun;
     /// those in work are waited for a few seconds, or not at all after a second signal, and then end as
     /// Stopped.
-    void run(std::size_t count, const WorkOf& workOf, const Done& done, StopSignal& stop);
+    void run(std::size_t count, const Done& done, StopSignal& stop);
 
 private:
     using Clock = std::chrono::steady_clock;
     struct Process;
 
-    void giveWork(const WorkOf& workOf, const Done& done);
-    void giveWorkAhead(const WorkOf& workOf);
-    bool canShare() const;
-    void share();
-    void takeBack(Process& process);
-    std::size_t piecesLeft() const { return m_returned.size() + m_count - m_next; }
-    std::size_t nextPiece() const { return m_returned.empty() ? m_next : m_returned.front(); }
-    void takeNextPiece();
-    Process* idleProcess();
-    bool give(Process& process, const std::string& record);
+    void doRound(const Done& done, StopSignal& stop);
+    void planNextRound();
+    std::size_t untaken() const;
+    void startWorkers(const Done& done);
     bool start(Process& process);
-    [[noreturn]] void serve(int channel, WorkerTurn& turn, pid_t parent);
+    [[noreturn]] void serve(Process& process, int wakeUps, pid_t parent);
     void waitForNews(const Done& done, StopSignal& stop);
+    void nap() const;
     void receive(Process& process, const Done& done);
-    bool takeAnswers(Process& process, const Done& done);
-    void pieceEnded(Process& process, const Done& done, const WorkOutcome& outcome);
+    int takeAnswers(Process& process, const Done& done);
+    void pieceEnded(std::uint64_t place, const Done& done, const WorkOutcome& outcome);
+    void end(Process& process, const Done& done, WorkOutcome::Kind kind, const std::string& reason = {});
     void setDeadline(Process& process) const;
-    std::string end(Process& process);
-    void endAndLose(Process& process, const Done& done, WorkOutcome::Kind kind, const std::string& reason);
     void endOverdue(const Done& done);
     void endStopped(const Done& done);
-    bool anyBusy() const;
+    bool anyRunning() const;
     int millisecondsToNextDeadline() const;
 
     Limits m_limits;
     MakeWorker m_makeWorker;
     std::vector<Process> m_processes;
-    std::size_t m_count = 0;
-    std::size_t m_next = 0;
-    std::deque<std::size_t> m_returned; // were given to workers that ended before they came to them
+    std::vector<bool> m_ended;
+    /// The pieces of this round; workers take places in this list.
+    std::vector<std::size_t> m_round;
+    SharedMemory<std::atomic<std::uint64_t>> m_next;
+    int m_fruitless = 0; ///< Workers in a row that ended at no piece.
+    Clock::duration m_perPiece = Clock::duration::max();
     int m_stopSignals = 0;
     Clock::time_point m_stopDeadline;
 };

@@ -18,17 +18,31 @@ struct PageRun
     int last;
 };
 
-bool startsNumber(QChar character)
+/// Where in a page range the characters read so far lead to.
+enum State { ItemStart, FirstNumber, AfterDash, LastNumber, Refused };
+enum CharacterKind { Zero, Digit, Comma, Dash, Other };
+
+// clang-format off
+const State nextState[][5] = {
+    //                 0            1 to 9       ,          -          anything else
+    /* ItemStart */   {Refused,     FirstNumber, Refused,   Refused,   Refused},
+    /* FirstNumber */ {FirstNumber, FirstNumber, ItemStart, AfterDash, Refused},
+    /* AfterDash */   {Refused,     LastNumber,  Refused,   Refused,   Refused},
+    /* LastNumber */  {LastNumber,  LastNumber,  ItemStart, Refused,   Refused},
+};
+// clang-format on
+
+CharacterKind kindOf(QChar character)
 {
-    return character.isNumber() && character != '0';
+    if (character.isNumber())
+        return character == '0' ? Zero : Digit;
+    return character == ',' ? Comma : character == '-' ? Dash : Other;
 }
 
-bool ascends(const QString& text, int itemStart, int dash)
+bool ascends(const QStringRef& item)
 {
-    const int comma = text.indexOf(',', dash);
-    const int itemEnd = comma < 0 ? text.size() : comma;
-    const int first = text.midRef(itemStart, dash - itemStart).toInt();
-    return first < text.midRef(dash + 1, itemEnd - dash - 1).toInt();
+    const int dash = item.indexOf('-');
+    return dash < 0 || item.left(dash).toInt() < item.mid(dash + 1).toInt();
 }
 
 QVector<PageRun> runsOf(const QString& text, int pageCount)
@@ -81,28 +95,17 @@ void reserveFor(const QVector<PageRun>& runs, bool half, QList<int>* pages)
 bool CActionUtils::ValidatePageRange(QString pageRange, bool allowReverse)
 {
     pageRange.remove(' ');
-    if (pageRange.isEmpty() || !startsNumber(pageRange.at(0)))
-        return false;
-    const int last = pageRange.size() - 1;
-    int itemStart = 0;
-    bool isRange = false;
-    for (int i = 0; i < last; ++i) {
-        const QChar next = pageRange.at(i + 1);
-        if (pageRange.at(i).isNumber()) {
-            if (next == '-' ? isRange || i + 1 == last : next != ',' && !next.isNumber())
-                return false;
-        } else if (!startsNumber(next)) {
+    State state = ItemStart;
+    for (const QChar character : qAsConst(pageRange)) {
+        state = nextState[state][kindOf(character)];
+        if (state == Refused)
             return false;
-        } else if (pageRange.at(i) == ',') {
-            itemStart = i + 1;
-            isRange = false;
-        } else {
-            isRange = true;
-            if (!allowReverse && !ascends(pageRange, itemStart, i))
-                return false;
-        }
     }
-    return true;
+    // A comma may stand at the end, but not a dash.
+    if (pageRange.isEmpty() || state == AfterDash)
+        return false;
+    const QVector<QStringRef> items = pageRange.splitRef(',');
+    return allowReverse || std::all_of(items.begin(), items.end(), ascends);
 }
 
 bool CActionUtils::ValidateSplitPageRange(QString splitRange)

@@ -6,10 +6,10 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLine>
+#include <QObjectCleanupHandler>
 #include <QPainter>
 #include <QPen>
 #include <QPixmap>
-#include <QPointer>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QVector>
@@ -56,7 +56,7 @@ const char* const noneLabel = "(none)";
 const char* const popupStyle =
     "QTableView {gridline-color: white; background-color: white; selection-background-color: lightblue;}";
 /// Marks the models made here, so that the next set-up of a box ends no model of the caller's.
-const char* const ownModelMark = "quintarPickerModel";
+const char* const modelOwner = "quintarPickerModel";
 
 Sample swatch(const QString& label, const QColor& color)
 {
@@ -157,7 +157,6 @@ QStandardItem* itemFor(const Sample& sample, const QSize& iconSize)
 QStandardItemModel* modelFor(const Picker& picker)
 {
     auto* model = new QStandardItemModel(0, 0, nullptr);
-    model->setProperty(ownModelMark, true);
     if (picker.hasNoneRow)
         model->setItem(0, new QStandardItem(noneLabel));
     for (const Sample& sample : picker.samples)
@@ -165,15 +164,16 @@ QStandardItemModel* modelFor(const Picker& picker)
     return model;
 }
 
-/// A model without a parent is nobody's to end, so that is arranged here.
+/// The model has no parent: delete it together with the box, or when it is replaced.
 void installModel(QComboBox* box, QStandardItemModel* model)
 {
-    QPointer<QAbstractItemModel> previous;
-    if (box->model()->property(ownModelMark).toBool())
-        previous = box->model();
+    auto* const previous = box->findChild<QObjectCleanupHandler*>(modelOwner);
     box->setModel(model);
     delete previous;
-    QObject::connect(box, &QObject::destroyed, model, [model] { delete model; });
+    auto* const owner = new QObjectCleanupHandler;
+    owner->setObjectName(modelOwner);
+    owner->setParent(box);
+    owner->add(model);
 }
 
 void fitView(QTableView* view, int width, int rows, int rowHeight)

@@ -1,5 +1,7 @@
 #include "CQuintarDialog.h"
 
+#include "CShortcutToolTip.h"
+#include "CWheelFocusFilter.h"
 #include "FrameStyles.h"
 
 #include "CUtils.h"
@@ -32,7 +34,10 @@ struct ShadowCell
 struct HeaderButton
 {
     const char* name;
+    const char* accessibleName;
+    const char* description;
     const char* toolTip;
+    const char* shortcut;
     const char* image;
     const char* disabledImage;
     int iconSize;
@@ -60,16 +65,29 @@ const ShadowCell bottomCell     {"QDshadowBtm",      2, 1, leastRow,    mostRow,
 const ShadowCell bottomRightCell{"QDshadowBtmRight", 2, 2, corner,      corner,     "DialogShadow-BtmRight.png", "no-repeat", "top left"};
 // clang-format on
 
-const HeaderButton closeForm{"quintarHeaderCloseBtn", "", "WinClose.png",
-                             "WinClose_disabled.png", 14, "1reject()"};
+const HeaderButton closeForm{"quintarHeaderCloseBtn",
+                             "Close",
+                             "Closes the dialog without taking over its settings",
+                             "",
+                             "Ctrl+W",
+                             "WinClose.png",
+                             "WinClose_disabled.png",
+                             14,
+                             "1reject()"};
 const HeaderButton addToActionForm{"QDtoolbarAddToActionListButton",
                                    "Add to/Create new Action",
+                                   "Stores the settings in an action list, a new one or one that exists",
+                                   "Add to/Create new Action",
+                                   "Ctrl+L",
                                    "PaneActionList_extra.png",
                                    "PaneActionList_disabled.png",
                                    20,
                                    "1on_QDShowSaveDialog()"};
 const HeaderButton addToCollectionsForm{"QDtoolbarAddToCollectionsButton",
                                         "Add to Favorites/Save settings",
+                                        "Stores the settings as a favorite or in a file, and closes",
+                                        "Add to Favorites/Save settings",
+                                        "Ctrl+D",
                                         "Collection.png",
                                         "Collection_disabled.png",
                                         20,
@@ -104,7 +122,11 @@ CQuintarHeaderButton* newHeaderButton(QDialog* dialog, QLayout* header, const He
     button->setMinimumSize(headerButtonSize, headerButtonSize);
     button->setMaximumSize(headerButtonSize, headerButtonSize);
     button->setFocusPolicy(Qt::NoFocus);
+    button->setAccessibleName(form.accessibleName);
+    button->setAccessibleDescription(form.description);
     button->setToolTip(form.toolTip);
+    button->setShortcut(QKeySequence(form.shortcut));
+    new CShortcutToolTip(button);
     QIcon icon;
     icon.addFile(resources + form.image, QSize(), QIcon::Normal, QIcon::Off);
     icon.addFile(resources + form.disabledImage, QSize(), QIcon::Disabled, QIcon::On);
@@ -173,8 +195,8 @@ void shrinkFontToFit(QWidget& frame, const QSize& room)
 
 } // namespace
 
-CQuintarDialog::CQuintarDialog(QWidget* parent, bool dialogFlag)
-    : QDialog(parent, Qt::FramelessWindowHint), framelessHandler(nullptr), dialogFlag(dialogFlag)
+CQuintarDialog::CQuintarDialog(QWidget* parent, bool flag)
+    : QDialog(parent, Qt::FramelessWindowHint), framelessHandler(nullptr), dialogFlag(flag)
 {
     const Host host = findHost(parent);
     const bool translucent = CUtils::CheckOpenGLSupport();
@@ -344,6 +366,7 @@ void CQuintarDialog::QDaddMainWidget(QWidget* mainWidget, bool fixedSize)
     }
     updateGeometry();
     keepTextsDark(*mainWidget);
+    CWheelFocusFilter::guardWithin(*mainWidget);
     contentLayout->addWidget(mainWidget);
     contentLayout->setContentsMargins(0, 0, 0, 0);
     framelessHandler.setWidgetResizable(!fixedSize);

@@ -8,16 +8,21 @@
 #include <QString>
 #include <QVariant>
 
-/// Stores favourites and steps through the stored ones of a tool, newest first.
+/// Stores favourites and steps through the stored ones of a tool, newest first. A favourite is one file in
+/// the collections folder (CUtils::GetCollectionsFolder): a settings map with an icon.
 ///
-/// Made for one use: the files are listed once, at construction. GUI thread only.
+/// Made for one use: the files are listed once, at construction, and what is stored later is not among them.
+/// GUI thread only. Nothing thrown leaves it; failures show in the results.
 class CActionHistoryAPI
 {
 public:
-    /// Lists the files whose names begin with `name`, in whatever letter case.
+    /// Lists the files whose names begin with `name`, in whatever letter case. None where the folder is
+    /// missing.
+    /// \param name the tool's, as the object name of its dialog.
     explicit CActionHistoryAPI(QString name);
 
     /// Writes the favourite that is named by the map's "CollectionName", in place of an earlier one.
+    /// \param prefs the whole map is stored; not changed.
     /// \param icon stored at 42 x 42 pixels at most.
     /// \returns 0, also when the file cannot be written; 1 when an exception was caught, and then the earlier
     ///     favourite stays.

@@ -1,5 +1,6 @@
 #include "CSaveAsActionlistDialog.h"
 
+#include "CTickedTabStop.h"
 #include "SettingsFiles.h"
 #include "actionutils/CActionUtils.h"
 
@@ -19,6 +20,8 @@ CSaveAsActionlistDialog::CSaveAsActionlistDialog(QWidget* parent, Qt::WindowFlag
         ui.categoryComboBox->removeItem(0);
     ui.categoryComboBox->addItems(CActionUtils::GetActionListCategories());
     connect(ui.actionListNameLineEdit, SIGNAL(returnPressed()), ui.saveButton, SIGNAL(clicked()));
+    new CTickedTabStop(ui.newActionListRadioButton);
+    new CTickedTabStop(ui.addToActionListRadioButton);
     ui.actionListNameLineEdit->setFocus();
 }
 

@@ -7,7 +7,7 @@
 #include <QVariant>
 
 /// Asks for a name and a category and stores an action's settings as a new action list, or adds them to the
-/// list of that name. It saves once for each call of LoadPrefsData().
+/// list of that name. It saves once for each call of LoadPrefsData(). GUI thread.
 class CSaveAsActionlistDialog : public CQuintarDialog
 {
     Q_OBJECT
@@ -16,17 +16,20 @@ public:
     /// \param flags not used.
     explicit CSaveAsActionlistDialog(QWidget* parent, Qt::WindowFlags flags = Qt::WindowFlags());
 
-    /// Lends the settings to the dialog, before it is shown. Saving puts "ActionListName",
+    /// Lends the settings to the dialog, before it is shown and until it is closed; null takes them back, and
+    /// saving then does nothing. Cancelling leaves them as they are. Saving puts "ActionListName",
     /// "ActionListCategory" and "ActionListOverwrite" into them and hands them to
     /// CActionUtils::SaveAsCustomActionList.
     void LoadPrefsData(QMap<QString, QVariant>* prefs);
 
 signals:
-    /// Settings were added to a list, whose name is given as the user typed it.
+    /// Settings were to be added to a list that may exist, whether or not the file could be written.
+    /// \param name the list's, as the user typed it.
     void actionListChanged(QString name);
 
 public slots:
-    /// Stores the settings and accepts, unless the name is blank. Failures are not shown.
+    /// Stores the settings and accepts, unless the name is blank. Failures are not shown: the dialog closes
+    /// as after success.
     void on_Save();
     /// A blank name cannot be saved.
     void on_UpdateUI();

@@ -6,21 +6,25 @@
 #include <QMap>
 #include <QVariant>
 
-/// Stores an action's settings as a favourite with a name and an icon, or in a file of the user's choice.
+/// Stores an action's settings as a favourite with a name and an icon, or in a file of the user's choice. GUI
+/// thread.
 class CSaveAsCollectionDialog : public CQuintarDialog
 {
     Q_OBJECT
 
 public:
+    /// \param parent its object name is the tool's, which the favourite is stored for.
     /// \param flags not used.
     explicit CSaveAsCollectionDialog(QWidget* parent, Qt::WindowFlags flags = Qt::WindowFlags());
 
-    /// Lends the settings to the dialog, before it is shown. Saving a favourite puts "CollectionName" into
-    /// them.
+    /// Lends the settings to the dialog, before it is shown and until it is closed; null takes them back, and
+    /// saving then does nothing. Saving a favourite puts "CollectionName" into them; a file holds them as
+    /// they are.
     void LoadPrefsData(QMap<QString, QVariant>* prefs);
 
 public slots:
-    /// Stores the favourite and accepts, unless the name is blank. Failures are not shown.
+    /// Stores the favourite and accepts, unless the name is blank. Failures are not shown: the dialog closes
+    /// as after success.
     void on_Save();
     /// Lets the user pick an image for the favourite.
     void on_CollectionIcon();

@@ -8,13 +8,16 @@
 #include "support/Rows.h"
 
 #include <QDir>
+#include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <functional>
+#include <algorithm>
+#include <utility>
 
 using namespace initialview;
 
@@ -28,10 +31,10 @@ class Dialog : public CPrefsDialog
 public:
     explicit Dialog(QWidget* parent = nullptr) : CPrefsDialog(parent)
     {
-        fill(ui.NavigationTabComboBox, navigationLabels);
-        fill(ui.PageLayoutComboBox, pageLayoutLabels);
-        fill(ui.MagnificationComboBox, magnificationLabels);
-        fill(ui.ShowComboBox, titleLabels);
+        for (const Key& key : keys)
+            if (!key.rows.empty())
+                for (const char* row : key.rows)
+                    findChild<QComboBox*>(key.name)->addItem(row);
     }
 
     Prefs prefs()
@@ -45,14 +48,6 @@ public:
     {
         SetPrefs(&prefs);
         return this->prefs();
-    }
-
-private:
-    template <class Labels>
-    static void fill(QComboBox* list, const Labels& labels)
-    {
-        for (const char* label : labels)
-            list->addItem(label);
     }
 };
 
@@ -92,15 +87,42 @@ void type(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
 }
 
-const QStringList layoutFields{"NavigationTabComboBox", "PageLayoutComboBox", "MagnificationComboBox",
-                               "OpenToPageSpinBox"};
-const QStringList viewerFields{"HideToobarsCheckBox",
-                               "ResizeWinToInitPageCheckBox",
-                               "HideMenuBarCheckBox",
-                               "CenterWinOnScreenCheckBox",
-                               "HideCtrlWindowsCheckBox",
-                               "OpenInFullScreenCheckBox",
-                               "ShowComboBox"};
+/// The words beside or on the widget that edits a key, without the colon that some have.
+QString labelOf(const CPrefsDialog& dialog, const Key& key)
+{
+    const auto* widget = dialog.findChild<QWidget*>(
+        key.isGroup() ? QString(key.name).replace("CheckBox", "Grp") : QString(key.name));
+    if (const auto* group = qobject_cast<const QGroupBox*>(widget))
+        return group->title();
+    if (const auto* box = qobject_cast<const QCheckBox*>(widget))
+        return box->text();
+    const auto* form =
+        widget != nullptr ? qobject_cast<QFormLayout*>(widget->parentWidget()->layout()) : nullptr;
+    const auto* label = form != nullptr
+                            ? qobject_cast<const QLabel*>(form->labelForField(const_cast<QWidget*>(widget)))
+                            : nullptr;
+    return label != nullptr && label->text().endsWith(':') ? label->text().chopped(1) : QString();
+}
+
+/// The object names of all that Tab is to reach, as a person reads the dialog: row by row, from the left.
+QStringList readingOrder(const CPrefsDialog& dialog)
+{
+    QVector<const QWidget*> widgets;
+    for (const QWidget* widget : dialog.ui.main_widget->findChildren<QWidget*>())
+        if (widget->window() == &dialog && widget->isEnabled() && widget->focusProxy() == nullptr &&
+            (widget->focusPolicy() & Qt::TabFocus) != 0)
+            widgets << widget;
+    const auto place = [&dialog](const QWidget* widget) {
+        const QPoint corner = widget->mapTo(dialog.ui.main_widget, QPoint());
+        return std::pair(corner.y(), corner.x());
+    };
+    std::sort(widgets.begin(), widgets.end(),
+              [&place](const QWidget* a, const QWidget* b) { return place(a) < place(b); });
+    QStringList names;
+    for (const QWidget* widget : qAsConst(widgets))
+        names << widget->objectName();
+    return names;
+}
 
 } // namespace
 
@@ -215,19 +237,29 @@ private slots:
         QCOMPARE(prefs, expected);
     }
 
+    void asksForEveryKeyInItsWords()
+    {
+        const Dialog dialog;
+        for (const Key& key : keys)
+            if (key.type != ValueType::Text)
+                QCOMPARE(labelOf(dialog, key), QString(key.label));
+        for (const pdflibrary::PreferenceRow& preference : pdflibrary::viewerPreferences)
+            QVERIFY2(preference.key == nullptr || findKey(preference.key) != nullptr, preference.key);
+    }
+
     void tabGoesFromTopToBottom()
     {
         Dialog dialog;
         dialog.show();
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
-        dialog.ui.LayoutAndMagnGrp->setFocus();
-        const QStringList end{"okButton", "cancelButton"};
-        QCOMPARE(person::tabOrder(dialog), QStringList("LayoutAndMagnGrp") + layoutFields +
-                                               QStringList("ViewerPrefsGrp") + viewerFields + end);
-        dialog.ui.ViewerPrefsGrp->setChecked(false);
-        dialog.ui.LayoutAndMagnGrp->setChecked(false);
-        dialog.ui.LayoutAndMagnGrp->setFocus();
-        QCOMPARE(person::tabOrder(dialog), QStringList({"LayoutAndMagnGrp", "ViewerPrefsGrp"}) + end);
+        for (const bool on : {true, false}) {
+            dialog.ui.ViewerPrefsGrp->setChecked(on);
+            dialog.ui.LayoutAndMagnGrp->setChecked(on);
+            dialog.ui.LayoutAndMagnGrp->setFocus();
+            QCOMPARE(person::tabOrder(dialog), readingOrder(dialog));
+            // The groups' keys have widgets of other names, and the action's name has none.
+            QCOMPARE(readingOrder(dialog).size(), on ? int(keys.size()) - 1 + 2 : 4);
+        }
     }
 
     void isUsableByKeyboardAlone()

@@ -119,27 +119,13 @@ private slots:
         QVERIFY(text.startsWith("Initial View\n"));
         QVERIFY(!text.contains('<'));
 
-        QStringList labels{"Layout and Magnification",
-                           "Viewer Preferences",
-                           "Navigation tab",
-                           "Page layout",
-                           "Magnification",
-                           "Open to page",
-                           "Hide tool bars",
-                           "Hide menu bar",
-                           "Hide control windows",
-                           "Resize window to initial page",
-                           "Center window on screen",
-                           "Open in full screen mode",
-                           "Show"};
-        const auto addAll = [&labels](const auto& table) {
-            for (const char* label : table)
-                labels += label;
-        };
-        addAll(navigationLabels);
-        addAll(pageLayoutLabels);
-        addAll(magnificationLabels);
-        addAll(titleLabels);
+        QStringList labels;
+        for (const Key& key : keys) {
+            if (key.label != nullptr)
+                labels += key.label;
+            for (const char* row : key.rows)
+                labels += row;
+        }
         for (const QString& label : labels) {
             const QString whole = "(^|\\W)" + QRegularExpression::escape(label) + "(\\W|$)";
             QVERIFY2(text.contains(QRegularExpression(whole)), qPrintable(label));

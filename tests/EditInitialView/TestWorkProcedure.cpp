@@ -112,6 +112,23 @@ class TestWorkProcedure : public QObject
     Q_OBJECT
 
 private slots:
+    void doesWhatEverySettingSays()
+    {
+        using namespace initialview;
+        for (const Key& key : keys) {
+            if (key.type == ValueType::Text)
+                continue;
+            const auto callsFor = [&key](int number) {
+                Fixture fixture;
+                Settings settings{{key::LayoutAndMagn, true}, {key::ViewerPrefs, true}, {key::OpenToPage, 2}};
+                settings[key.name] = key.type == ValueType::Flag ? QVariant(number != 0) : QVariant(number);
+                fixture.work(settings);
+                return fixture.recorder.takeLog();
+            };
+            QVERIFY2(callsFor(key.lowest) != callsFor(key.lowest + 1), key.name);
+        }
+    }
+
     void makesTheCallsInOrder_data()
     {
         const Rows<Settings, QStringList> row;

@@ -1,5 +1,6 @@
 // Loads documents as the real library does, except those whose names ask for trouble: "crash", "hang",
-// "hungry", "replaced", "slow".
+// "hungry", "replaced", "slow"; and closes them so, after their new files were put in place: "late-crash",
+// "late-hang".
 #include <dlfcn.h>
 #include <unistd.h>
 
@@ -16,6 +17,13 @@
 namespace {
 
 std::wstring lastTexts;
+std::wstring names; ///< Of the document loaded last, and its password.
+
+bool asksFor(const wchar_t* trouble)
+{
+    const std::size_t at = names.find(trouble);
+    return at != std::wstring::npos && (at < 5 || names.compare(at - 5, 5, L"late-") != 0);
+}
 
 template <class Function>
 Function real(Function, const char* name)
@@ -43,8 +51,7 @@ EXPORTED void TPLAddToBuffer(int instance, char* buffer, const char* source, int
 
 EXPORTED int TPLLoadFromFile(int instance, char* fileName, char* password)
 {
-    const std::wstring names = std::exchange(lastTexts, {});
-    const auto asksFor = [&](const wchar_t* trouble) { return names.find(trouble) != std::wstring::npos; };
+    names = std::exchange(lastTexts, {});
     if (asksFor(L"crash"))
         std::abort();
     if (asksFor(L"hungry"))
@@ -57,4 +64,13 @@ EXPORTED int TPLLoadFromFile(int instance, char* fileName, char* password)
     if (asksFor(L"replaced"))
         std::rename("newer", "replaced.pdf");
     return loaded;
+}
+
+EXPORTED int TPLRemoveDocument(int instance, int document)
+{
+    if (asksFor(L"late-crash"))
+        std::abort();
+    while (asksFor(L"late-hang"))
+        pause();
+    return real(TPLRemoveDocument, "TPLRemoveDocument")(instance, document);
 }

@@ -10,9 +10,11 @@
 
 #include <QtTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <functional>
 #include <optional>
 
@@ -23,6 +25,8 @@ namespace {
 
 using Settings = std::function<void(QPDFWriter&)>;
 
+int openProblem = 0; // what opening any file meets, an errno
+
 std::unique_ptr<Document> opened(const std::string& path)
 {
     return std::make_unique<Document>(ByteSource::openFile(path), path, "user");
@@ -31,6 +35,7 @@ std::unique_ptr<Document> opened(const std::string& path)
 void change(Document& document)
 {
     document.catalog().replaceKey("/PageMode", QPDFObjectHandle::newName("/UseThumbs"));
+    document.catalog().replaceKey("/Left", QPDFObjectHandle::newReal(72.0, 2));
     document.markChanged(document.catalog());
 }
 
@@ -43,6 +48,18 @@ std::string replaced(std::string bytes, const std::string& old, const std::strin
 {
     const std::size_t at = bytes.rfind(old);
     return at == std::string::npos ? std::string() : bytes.replace(at, old.size(), with);
+}
+
+/// Nothing is where the last startxref says.
+std::string movedTail(const std::string& bytes)
+{
+    return replaced(bytes, "startxref\n", "startxref\n7");
+}
+
+/// A document to which nothing can be appended, since its catalog stands in the trailer.
+std::string directCatalog(const std::string& bytes)
+{
+    return replaced(bytes, "/Root 1 0 R", "/Root << /Type /Catalog /Pages 2 0 R >>");
 }
 
 std::string withSettings(const Settings& set)
@@ -61,6 +78,15 @@ std::string withSettings(const Settings& set)
 }
 
 } // namespace
+
+extern "C" {
+int __real_open(const char* path, int flags, mode_t mode);
+int __wrap_open(const char* path, int flags, mode_t mode)
+{
+    errno = openProblem;
+    return openProblem != 0 ? -1 : __real_open(path, flags, mode);
+}
+}
 
 class TestDocumentWriter : public QObject
 {
@@ -95,16 +121,152 @@ private slots:
         change(*document);
         fs::resize_file(m_source, 100);
         QCOMPARE(append(*document), ErrorCode::SourceChanged);
-        // Objects without an end, far behind the last startxref: only a search finds them.
-        put(m_source, replaced(PdfBuilder::simple(), "/Count 3", "/Count x") + "8 0 obj\nnull\nendobj\n" +
-                          std::string(5000, '\n'));
-        const auto rebuilt = opened(m_source);
-        change(*rebuilt);
-        QCOMPARE(append(*rebuilt), ErrorCode::CannotAppend);
         QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
-        writeWhole(*rebuilt, m_target);
-        QCOMPARE(pageMode(m_target), QByteArray("/UseThumbs"));
-        QVERIFY(QString::fromStdString(contentOf(m_target)).contains("/Count 3"));
+    }
+
+    void appendsToDamagedDocumentsThatAreBeyondDoubt_data()
+    {
+        const Rows<std::string> row;
+        const std::string simple = PdfBuilder::simple();
+        row("startxref moved", movedTail(simple));
+        row("no startxref", replaced(simple, "startxref", "startxxxx"));
+        row("no table", replaced(simple, "\nxref", "\nxrex"));
+        row("no size", replaced(simple, "/Size", "/Sixe"));
+        row("object elsewhere", replaced(simple, "0000000015", "0000000016"));
+        row("junk before the header", "HTTP/1.1 200 OK\r\n\r\n" + movedTail(simple));
+        row("object behind the end", simple + "8 0 obj\nnull\nendobj\n%" + std::string(5000, '\n'));
+        row("script", movedTail(PdfBuilder::simple("/Script (var obj = 1; obj.trailer = 2)")));
+        row("encrypted", movedTail(withSettings([](auto& writer) { encrypt(writer, 6, "user", "o"); })));
+    }
+
+    void appendsToDamagedDocumentsThatAreBeyondDoubt()
+    {
+        auto [bytes] = Rows<std::string>::current();
+        for (int update = 0; update < 2; ++update) {
+            put(m_source, bytes);
+            const auto before = opened(m_source);
+            change(*before);
+            appendUpdate(*before, m_target);
+            QVERIFY(contentOf(m_target).starts_with(bytes));
+            QCOMPARE(contentOf(m_target).find("/Prev", bytes.size()) == std::string::npos, update == 0);
+            const auto after = opened(m_target);
+            QCOMPARE(pageMode(m_target), QByteArray("/UseThumbs"));
+            before->readWhole();
+            after->readWhole();
+            QCOMPARE(after->pdf().getAllPages().size(), before->pdf().getAllPages().size());
+            QVERIFY(!after->anyWarnings());
+            bytes = contentOf(m_target);
+        }
+    }
+
+    void numbersNewObjectsAsReadersTakeThem()
+    {
+        put(m_source, replaced(PdfBuilder::simple(), "/Size 6", "/Size 9000000"));
+        const auto document = opened(m_source);
+        const QPDFObjectHandle made = document->makeIndirect(QPDFObjectHandle::newArray());
+        QCOMPARE(QPDFObjectHandle(made).getObjectID(), 6);
+    }
+
+    void changesNothingThatIsInDoubt_data()
+    {
+        const Rows<std::string, ErrorCode> row;
+        const std::string simple = PdfBuilder::simple();
+        const std::string page = "3 0 obj\n<< /Type /Page /Parent 2 0 R >>\nendobj\n";
+        const std::string newer = page + "xref\n0 0\ntrailer\n<< /Root 1 0 R /Size 6 ";
+        const std::string far(5000, '\n');
+        row("newer trailer", simple + newer + ">>\nstartxref\n9\n%%EOF\n",
+            ErrorCode::NewestRevisionUncertain);
+        row("newer trailer that encrypts", simple + newer + "/Encrypt 1 0 R >>\nstartxref\n9\n%%EOF\n",
+            ErrorCode::NewestRevisionUncertain);
+        row("newer trailer that is cut off", simple + far + newer, ErrorCode::NewestRevisionUncertain);
+        row("newer end", simple + far + "startxref\n9\n%%EOF\n", ErrorCode::NewestRevisionUncertain);
+        row("encryption elsewhere", movedTail(PdfBuilder::simple("/Text (/Encrypt 5 0 R)")),
+            ErrorCode::EncryptionUncertain);
+        row("object streams",
+            movedTail(PdfBuilder().catalog("").pages(1).stream(9, "/Type /ObjStm /N 0 /First 0", "").bytes()),
+            ErrorCode::ObjectStreamsUnread);
+        row("stream of a hybrid file",
+            movedTail(PdfBuilder().catalog("").pages(1).trailer("/XRefStm 9").bytes()),
+            ErrorCode::ObjectStreamsUnread);
+        row("stream cut off", simple + far + "9 0 obj\n<< /Length 9 >>\nstream\nabc",
+            ErrorCode::ObjectsDamaged);
+        row("object cut off", simple + far + "9 0 obj\n<< /A 1 >>", ErrorCode::ObjectsDamaged);
+        row("object at the end", simple + far + "9 0 obj\nnull\nendobj\n", ErrorCode::ObjectsDamaged);
+        row("object missing", movedTail(PdfBuilder::simple("/Other 77 0 R")), ErrorCode::ObjectsDamaged);
+        row("bad catalog", PdfBuilder::simple("/A#00B 1"), ErrorCode::ObjectsDamaged);
+        row("bad trailer", PdfBuilder().catalog("").pages(1).trailer("/A#00B 1").bytes(),
+            ErrorCode::ObjectsDamaged);
+        row("two versions", movedTail(page + simple), ErrorCode::ObjectsUncertain);
+        row("odd object", movedTail(PdfBuilder::simple("/Text (x 9 0 obj )")), ErrorCode::ObjectsUncertain);
+        row("damaged object header", movedTail(simple + "9 x 0 obj null endobj\n"),
+            ErrorCode::ObjectsUncertain);
+    }
+
+    void changesNothingThatIsInDoubt()
+    {
+        const auto [bytes, code] = Rows<std::string, ErrorCode>::current();
+        put(m_source, bytes);
+        for (const auto& save : {appendUpdate, writeWhole}) {
+            const auto document = opened(m_source);
+            change(*document);
+            QCOMPARE(errorOf([&] { save(*document, m_target); }), code);
+            QVERIFY(cannotAppend(code));
+        }
+        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
+    }
+
+    void writesNothingAnewThatWouldLose_data()
+    {
+        const Rows<std::string, ErrorCode, ErrorCode> row;
+        const std::string range = "/Sig << /ByteRange [0 1 2 3] >>";
+        const std::string escaped = PdfBuilder::simple("/Sig << /Byte#52ange [0 1 2 3] >>");
+        const ErrorCode refused = ErrorCode::CannotAppend;
+        row("nothing", directCatalog(PdfBuilder::simple()), refused, ErrorCode::None);
+        const std::string stream = PdfBuilder().catalog("").pages(1).stream(9, "/Key 1", "content").bytes();
+        row("length of a stream", movedTail(replaced(stream, "/Length 7", "/Length 2")),
+            ErrorCode::StreamLengthsWrong, ErrorCode::None);
+        row("byte range", directCatalog(PdfBuilder::simple(range)), refused, ErrorCode::ByteRangesPresent);
+        row("byte range in a comment", directCatalog(PdfBuilder::simple() + "%/ByteRange\n"), refused,
+            ErrorCode::ByteRangesPresent);
+        row("escaped", directCatalog(escaped), refused, ErrorCode::ByteRangesPresent);
+        row("name that libqpdf cannot write",
+            directCatalog(PdfBuilder().catalog("").pages(1, 3, "/Other#23Key 1").bytes()), refused,
+            ErrorCode::RewritingLoses);
+    }
+
+    void writesNothingAnewThatWouldLose()
+    {
+        const auto [bytes, appending, code] = Rows<std::string, ErrorCode, ErrorCode>::current();
+        put(m_source, bytes);
+        const auto document = opened(m_source);
+        change(*document);
+        QCOMPARE(errorOf([&] { appendUpdate(*document, m_target); }), appending);
+        QCOMPARE(errorOf([&] { writeWhole(*document, m_target); }), code);
+        QCOMPARE(fs::exists(m_target), code == ErrorCode::None);
+        if (code == ErrorCode::None)
+            QCOMPARE(pageMode(m_target), QByteArray("/UseThumbs"));
+    }
+
+    void tellsWhyItCannotBeWritten()
+    {
+        rlimit before;
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        const rlimit little{1000, before.rlim_max};
+        signal(SIGXFSZ, SIG_IGN);
+        for (const auto save : {appendUpdate, writeWhole}) {
+            put(m_source, PdfBuilder()
+                              .catalog("/Kept 9 0 R")
+                              .pages(2)
+                              .stream(9, "", std::string(1 << 20, 'x'))
+                              .bytes());
+            const auto document = opened(m_source);
+            change(*document);
+            setrlimit(RLIMIT_FSIZE, &little);
+            const auto error = errorOf([&] { save(*document, m_target); });
+            setrlimit(RLIMIT_FSIZE, &before);
+            QCOMPARE(error, ErrorCode::FileTooLarge);
+            QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
+        }
     }
 
     void keepsWhatTheDocumentIs_data()
@@ -146,7 +308,7 @@ private slots:
         QCOMPARE(pdf.allowModifyForm(), before->pdf().allowModifyForm());
         QCOMPARE(contentOf(m_target).find("/ObjStm") == std::string::npos,
                  bytes.find("/ObjStm") == std::string::npos);
-        QVERIFY(contentOf(m_target).size() < bytes.size() + 300);
+        QVERIFY(contentOf(m_target).size() < bytes.size() + 1000); // the stream took 5000
     }
 
     void completesTheTrailer_data()
@@ -215,6 +377,9 @@ private slots:
         QCOMPARE(errorAt(m_source + "/file.pdf"), ErrorCode::FileNotFound);
         QCOMPARE(errorAt("."), ErrorCode::NotARegularFile);
         QCOMPARE(errorAt("/dev/null"), ErrorCode::NotARegularFile);
+        openProblem = EROFS;
+        QCOMPARE(errorAt(m_target), ErrorCode::ReadOnlyFileSystem);
+        openProblem = 0;
         if (::geteuid() != 0) {
             fs::permissions(".", fs::perms(0500));
             QCOMPARE(errorAt(m_target), ErrorCode::AccessDenied);

@@ -150,6 +150,11 @@ private slots:
         row("object streams", compressed, true, 9);
         row("linearized", linearized(), false, 9);
         row("hybrid", hybrid(), false, 8);
+        const std::string sameStream = hybrid().substr(hybrid().rfind("/XRefStm"));
+        row("hybrid, one stream for two sections",
+            withRevision(hybrid(), "/Size 8 " + previous(hybrid()) + " " +
+                                       sameStream.substr(0, sameStream.find(" >>"))),
+            false, 8);
         row("junk before the header", junk + simple, false, 6);
         row("junk before, stream", junk + compressed, true, 9);
         row("no last line end", simple.substr(0, simple.size() - 1), false, 6);
@@ -299,6 +304,10 @@ private slots:
                                   "1.50",
                                   "/Name",
                                   "/A#20B#23#2f#28",
+                                  "/Other#23Key",
+                                  "/a#2342",
+                                  "/a#GG",
+                                  "/a##34142",
                                   "/",
                                   "()",
                                   "(a\\(b\\)\\\\ c)",
@@ -307,6 +316,7 @@ private slots:
                                   "[]",
                                   "[1 [2 [3 /A (b) 5 0 R] null]]",
                                   "<<>>",
+                                  "<</a#2342 1/a#42 2/a#c3#a9#23 3>>",
                                   "<</A 1/B#20C<</D[<</E null/F 4 0 R>>]>>>>",
                                   "99999999999"})
             row(value, std::string(value));
@@ -320,6 +330,8 @@ private slots:
         const std::string written = ObjectSerializer().write(parsed);
         QPDFObjectHandle again = QPDFObjectHandle::parse(&document.pdf, written);
         QCOMPARE(again.unparse(), parsed.unparse());
+        QVERIFY(!parsed.isName() || again.getName() == parsed.getName());
+        QVERIFY(!parsed.isDictionary() || again.getKeys() == parsed.getKeys());
         if (parsed.isReal())
             QCOMPARE(written, value);
     }

@@ -55,12 +55,12 @@ private slots:
         for (const char* told :
              {"File: manuals.xqq",
               "1. Initial View Navigation tab Bookmarks Panel and Page Page layout One Column",
-              "Open at page 2 Magnification Fit Width Hide tool bars no", "Fit window to page yes",
-              "Full screen no Title bar shows Document Title",
+              "Magnification Fit Width Open to page 2 Hide tool bars no", "Resize window to initial page yes",
+              "Open in full screen mode no Show Document Title",
               "Two File: two.xqq 1. Watermark (cannot be run here)", "2. Initial View Navigation tab",
               "Odd one File: f.ini 1. Initial View Navigation tab Page Only",
-              "Page layout row 99, which does not exist Open at page unchanged Magnification unchanged",
-              "Viewer preferences unchanged"})
+              "Page layout row 99, which does not exist Magnification unchanged Open to page unchanged",
+              "Viewer Preferences unchanged"})
             QVERIFY2(words.contains(told), (QByteArray(told) + " not in " + words).constData());
     }
 

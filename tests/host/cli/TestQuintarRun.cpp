@@ -13,6 +13,7 @@
 #include <optional>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -42,6 +43,11 @@ std::string signedDocument()
     builder.object(8, "<< /FT /Sig /T (Signature) /V 9 0 R >>");
     builder.object(9, "<< /Type /Sig /Filter /Adobe.PPKLite /ByteRange [ 0 10 20 30 ] /Contents <00> >>");
     return builder.bytes();
+}
+
+std::string withLast(std::string bytes, const std::string& old, const std::string& with)
+{
+    return bytes.replace(bytes.rfind(old), old.size(), with);
 }
 
 QString reasonFor(const QByteArray& err, const QByteArray& name)
@@ -208,6 +214,7 @@ private slots:
         row("no password file", "run -o out --password-file no a.pdf" + set, "no cannot");
         row("number of jobs", "run -o out --jobs 0 a.pdf" + set, "1 to 1024");
         row("signed", "run -o out --signed maybe a.pdf" + set, "refuse or append");
+        row("rewriting in place", "run --in-place --rewrite a.pdf" + set, "--rewrite goes with -o");
         row("null without list", "run -o out --null a.pdf" + set, "--files-from");
         row("empty name", "run -o out ''" + set, "empty");
     }
@@ -236,6 +243,46 @@ private slots:
         QCOMPARE(appended.status, 0);
         const std::string result = WorkFolder::contentOf("out/signed.pdf");
         QVERIFY(result.size() > original.size() && result.substr(0, original.size()) == original);
+    }
+
+    void appendsOrRefuses_data()
+    {
+        const Rows<std::string, QString, QString> row; // what happens without --rewrite, and with it
+        const QString doubt = "--rewrite would refuse it";
+        const std::string newer = "3 0 obj\nnull\nendobj\ntrailer\n<< /Root 1 0 R >>\nstartxref\n9\n%%EOF\n";
+        const std::string direct = "/Root << /Type /Catalog /Pages 2 0 R >>";
+        row("sound", PdfBuilder::simple(), "appended", "appended");
+        row("beyond doubt", withLast(PdfBuilder::simple(), "startxref\n", "startxref\n7"), "appended",
+            "appended");
+        row("signed, beyond doubt", withLast(signedDocument(), "startxref\n", "startxref\n7"), "appended",
+            "appended");
+        row("in doubt", PdfBuilder::simple() + newer, doubt, "newest");
+        row("signed and in doubt", signedDocument() + newer, doubt, "newest");
+        row("nothing to append to", withLast(PdfBuilder::simple(), "/Root 1 0 R", direct),
+            "--rewrite writes it", "rewritten");
+        row("signed, nothing to append to", withLast(signedDocument(), "/Root 1 0 R", direct),
+            "--rewrite writes it", "signatures");
+    }
+
+    void appendsOrRefuses()
+    {
+        const auto [bytes, appending, rewriting] = Rows<std::string, QString, QString>::current();
+        put("a.pdf", bytes);
+        for (const QString option : {"--sync", "--rewrite"}) {
+            const QString& expected = option == "--rewrite" ? rewriting : appending;
+            const QStringList words{option, "--signed", "append", "--report", "report", "-o", "out", "a.pdf"};
+            const bool done = expected == "appended" || expected == "rewritten";
+            QCOMPARE(apply(QStringList{"--dry-run"} + words).status, done ? 0 : 1);
+            fs::remove("report");
+            const ProgramRun run = apply(words);
+            QCOMPARE(run.status, done ? 0 : 1);
+            const QJsonObject told = report().value(0);
+            QVERIFY2(told.value(done ? "saved" : "reason").toString().contains(expected), run.err);
+            QCOMPARE(fs::exists("out/a.pdf"), done);
+            QCOMPARE(done && WorkFolder::contentOf("out/a.pdf").starts_with(bytes), expected == "appended");
+            fs::remove_all("out");
+            fs::remove("report");
+        }
     }
 
     void guardsEncryptedDocuments()
@@ -467,13 +514,13 @@ private slots:
 
     void stopsWhenAsked()
     {
-        for (const char* name : {"in/1-good.pdf", "in/2-hang.pdf", "in/3-good.pdf"})
+        for (const char* name : {"in/1-good.pdf", "in/2-hang.pdf", "in/3-late-hang.pdf", "in/4-good.pdf"})
             put(name);
         QProcess process;
         process.start(programWithTroubledLibrary(),
-                      QStringList{"run", "--jobs", "1", "--in-place", "--report", "report", "in"} +
+                      QStringList{"run", "--jobs", "2", "--in-place", "--report", "report", "in"} +
                           panelAndPage);
-        QVERIFY(waitFor([] { return fs::exists("report") && fs::file_size("report") > 0; }));
+        QVERIFY(waitFor([] { return WorkFolder::contentOf("in/3-late-hang.pdf") != PdfBuilder::simple(); }));
         ::kill(pid_t(process.processId()), SIGINT);
         QTest::qWait(300);
         QCOMPARE(process.state(), QProcess::Running); // waits for the document in work
@@ -481,16 +528,44 @@ private slots:
         QVERIFY(process.waitForFinished(10000));
         QCOMPARE(process.exitCode(), 130);
         const QByteArray err = process.readAllStandardError();
-        QVERIFY2(err.contains("not done: in/2-hang.pdf\nnot done: in/3-good.pdf\n"), err);
+        QVERIFY2(err.contains("not done: in/2-hang.pdf\nnot done: in/4-good.pdf\n"), err);
         QVERIFY(process.readAllStandardOutput().endsWith(
-            "1 changed, 0 unchanged, 0 failed, stopped with 2 not done\n"));
-        QCOMPARE(report().size(), 1);
-        QVERIFY(WorkFolder::contentOf("in/3-good.pdf") == PdfBuilder::simple());
+            "2 changed, 0 unchanged, 0 failed, stopped with 2 not done\n"));
+        QCOMPARE(report().size(), 2);
+        QVERIFY(WorkFolder::contentOf("in/4-good.pdf") == PdfBuilder::simple());
     }
 
-    // What a worker is given ahead is neither begun after a stop signal nor kept waiting by a document that
-    // takes long.
-    void takesBackWhatWasGivenAhead()
+    // Between the rename and the answer a worker can end as at any other moment.
+    void tellsWhatWasPutInPlaceLast_data()
+    {
+        const Rows<QString, QString> row;
+        row("in place", "--in-place in", "in");
+        row("to a folder", "-o out in", "out");
+    }
+
+    void tellsWhatWasPutInPlaceLast()
+    {
+        const auto [words, folder] = Rows<QString, QString>::current();
+        for (const char* name : {"in/1-late-crash.pdf", "in/2-good.pdf"})
+            put(name);
+        const ProgramRun run(programWithTroubledLibrary(),
+                             QStringList{"run", "--report", "report"} + words.split(' ') + panelAndPage,
+                             m_folder->path());
+        QVERIFY2(run.out.endsWith("2 changed, 0 unchanged, 0 failed\n"), run.err);
+        const std::string changed = folder.toStdString() + "/1-late-crash.pdf";
+        QVERIFY(QpdfReader(path(changed)).catalog().contains("/PageMode"));
+        QJsonObject crashed = report()[0];
+        QJsonObject good = report()[1];
+        QVERIFY(crashed.take("note").toString().contains("crashed"));
+        for (const char* state : {"fileState", "outputState"})
+            QVERIFY(crashed.value(state).toString().contains(" bytes, "));
+        for (const char* own : {"file", "output", "fileState", "outputState", "milliseconds"})
+            QVERIFY(!crashed.take(own).isNull() && !good.take(own).isNull());
+        QCOMPARE(crashed, good);
+    }
+
+    // After a stop signal no document is begun, and one that takes long keeps no other waiting.
+    void beginsNoDocumentTooLateOrTooEarly()
     {
         const auto start = [program = programWithTroubledLibrary()](QProcess& process,
                                                                     const QStringList& options) {
@@ -596,6 +671,41 @@ private slots:
         QVERIFY2(refused.err.contains("line 1 tells nothing of a document"), refused.err);
     }
 
+    void refusesAReportThatAnotherRunWrites()
+    {
+        put("a.pdf");
+        const std::string lines = put("report", "lines of another run\n");
+        const int report = open("report", O_WRONLY | O_CLOEXEC);
+        QCOMPARE(flock(report, LOCK_EX), 0);
+        for (const QStringList& resume : {QStringList(), QStringList{"--resume", "report"}}) {
+            const ProgramRun run = apply(QStringList{"-o", "out", "--report", "report", "a.pdf"} + resume);
+            QCOMPARE(run.status, 2);
+            QCOMPARE(run.err, QByteArray("quintar: the report report is being written by another run\n"));
+            QVERIFY(WorkFolder::contentOf("report") == lines);
+            QVERIFY(!fs::exists("out"));
+        }
+        close(report);
+        QCOMPARE(apply({"-o", "out", "--report", "report", "a.pdf"}).status, 0);
+    }
+
+    void tellsWhatCouldNotBeKept()
+    {
+        if (geteuid() != 0)
+            QSKIP("only root can have files that are not the user's own");
+        put("d/a.pdf");
+        QCOMPARE(chmod(".", 0711), 0);
+        QCOMPARE(chown("d", 65534, 65534), 0);
+        const ProgramRun run("setpriv",
+                             QStringList{"--reuid=65534", "--regid=65534", "--clear-groups", PROGRAM_FILE,
+                                         "run", "--in-place", "--report", "d/report", "--quiet", "d/a.pdf"} +
+                                 panelAndPage,
+                             m_folder->path());
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.err, QByteArray("note: d/a.pdf: could not be kept: owner, group\n"));
+        QVERIFY(WorkFolder::contentOf("d/report").find("\"note\":\"could not be kept: owner, group\"") !=
+                std::string::npos);
+    }
+
     void showsHowDocumentsOpen()
     {
         put("a.pdf", PdfBuilder::simple(
@@ -605,13 +715,14 @@ private slots:
         const ProgramRun words = quintar({"show", "a.pdf", "plain.pdf"});
         QCOMPARE(words.status, 0);
         for (const char* line :
-             {"a.pdf\n  Pages                 3\n", "  Navigation tab        Conten Group Panel and Page\n",
-              "  Page layout           Two pages, odd-numbered pages on the right\n",
-              "  Open at page          2\n  Magnification         150%\n",
-              "  Hide tool bars        yes\n  Hide menu bar         no\n",
-              "  After full screen     Pages Panel and Page\n",
-              "  Page layout           No preference set in document\n",
-              "  Open at page          not set in document\n"})
+             {"a.pdf\n  Pages                          3\n",
+              "  Navigation tab                 Conten Group Panel and Page\n",
+              "  Page layout                    Two pages, odd-numbered pages on the right\n",
+              "  Magnification                  150%\n  Open to page                   2\n",
+              "  Hide tool bars                 yes\n  Hide menu bar                  no\n",
+              "  After full screen              Pages Panel and Page\n",
+              "  Page layout                    No preference set in document\n",
+              "  Open to page                   not set in document\n"})
             QVERIFY2(words.out.contains(line), words.out);
         const ProgramRun json = quintar({"show", "--json", "a.pdf", "missing.pdf", "plain.pdf"});
         QCOMPARE(json.status, 1);

@@ -1,18 +1,15 @@
-#include "host/files/FileCopy.h"
+#include "host/files/FileAttributes.h"
+#include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
-#include "host/run/Progress.h"
-#include "host/run/Report.h"
-#include "host/terminal/FileNames.h"
-#include "support/Rows.h"
 #include "support/WorkFolder.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QtTest>
 
+#include <deque>
 #include <optional>
 
 #include <fcntl.h>
+#include <grp.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -20,12 +17,50 @@
 using namespace host;
 namespace fs = std::filesystem;
 
+namespace {
+
+/// What the next flushes and the next folder made meet: an errno, 0 for nothing.
+std::deque<int> flushProblems;
+int folderProblem = 0;
+int fileSystemFlushes = 0;
+
+} // namespace
+
+extern "C" {
+int __real_fsync(int file);
+int __wrap_fsync(int file)
+{
+    errno = flushProblems.empty() ? 0 : flushProblems.front();
+    if (!flushProblems.empty())
+        flushProblems.pop_front();
+    return errno != 0 ? -1 : __real_fsync(file);
+}
+
+int __wrap_syncfs(int)
+{
+    ++fileSystemFlushes;
+    return 0;
+}
+
+int __real_mkdir(const char* path, mode_t mode);
+int __wrap_mkdir(const char* path, mode_t mode)
+{
+    errno = folderProblem;
+    return folderProblem != 0 ? -1 : __real_mkdir(path, mode);
+}
+}
+
 class TestSafeOutput : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_folder.emplace(); }
+    void init()
+    {
+        m_folder.emplace();
+        flushProblems.clear();
+        folderProblem = fileSystemFlushes = 0;
+    }
     void cleanup() { m_folder.reset(); }
 
     void replacesOnlyWhenCommitted()
@@ -39,33 +74,62 @@ private slots:
         QCOMPARE(WorkFolder::contentOf("target"), std::string("old"));
         QVERIFY(!fs::exists(temporary));
         for (const bool flush : {false, true}) {
-            SafeOutput output("deep/er/target", temporary);
             QCOMPARE(SafeOutput::makeFolder(SafeOutput::folderOf("deep/er/target")), std::string());
-            WorkFolder::put(temporary, "new");
-            QCOMPARE(output.commit(statusOf("target"), flush), std::string());
+            QCOMPARE(replace("deep/er/target", flush), std::string());
             QCOMPARE(WorkFolder::contentOf("deep/er/target"), std::string("new"));
         }
         fs::create_directories("folder/inside");
-        SafeOutput output("folder", temporary);
-        WorkFolder::put(temporary, "new");
-        QCOMPARE(output.commit(statusOf("target"), false),
-                 std::string("folder cannot be written: is a directory"));
+        QCOMPARE(replace("folder", false), std::string("folder cannot be written: is a directory"));
     }
 
-    void keepsModeAndOwner()
+    // Only what is as it was is called failed.
+    void tellsOfAFolderThatCannotBeFlushed()
     {
-        WorkFolder::put("original");
-        QCOMPARE(chmod("original", 0751), 0);
-        if (geteuid() == 0)
-            QCOMPARE(chown("original", 1234, 2345), 0);
-        const std::string temporary = SafeOutput::temporaryNameFor("target");
-        WorkFolder::put(temporary);
-        SafeOutput output("target", temporary);
-        QCOMPARE(output.commit(statusOf("original"), false), std::string());
-        const struct stat status = statusOf("target");
-        QCOMPARE(status.st_mode & 07777, 0751u);
-        QCOMPARE(status.st_uid, statusOf("original").st_uid);
-        QCOMPARE(status.st_gid, statusOf("original").st_gid);
+        flushProblems = {EIO};
+        QCOMPARE(replace("target", true), std::string("target cannot be written: input/output error"));
+        QVERIFY(!fs::exists("target"));
+        flushProblems = {0, EIO};
+        QCOMPARE(replace("target", true),
+                 std::string("note: it may not survive a power failure: its folder cannot be flushed: "
+                             "input/output error"));
+        QCOMPARE(WorkFolder::contentOf("target"), std::string("new"));
+        QCOMPARE(fileSystemFlushes, 0);
+        flushProblems = {EINTR, 0, EINTR, EINTR, 0};
+        QCOMPARE(replace("target", true), std::string());
+        QVERIFY(flushProblems.empty());
+        flushProblems = {0, EINVAL};
+        QCOMPARE(replace("target", true), std::string());
+        QCOMPARE(fileSystemFlushes, 1);
+    }
+
+    void replacesInAFolderThatCannotBeRead()
+    {
+        QCOMPARE(chmod(".", 0711), 0);
+        fs::create_directory("shut");
+        WorkFolder::put("shut/target", "old");
+        const pid_t child = fork();
+        if (child == 0) {
+            if (geteuid() == 0 &&
+                (chown("shut", 65534, 65534) != 0 || chown("shut/target", 65534, 65534) != 0 ||
+                 setgroups(0, nullptr) != 0 || setgid(65534) != 0 || setuid(65534) != 0))
+                _exit(3);
+            chmod("shut", 0300);
+            const bool replaced = replace("shut/target", true).empty() && fileSystemFlushes == 1;
+            _exit(replaced && WorkFolder::contentOf("shut/target") == "new" ? 0 : 1);
+        }
+        int status = -1;
+        QCOMPARE(waitpid(child, &status, 0), child);
+        QCOMPARE(status, 0);
+    }
+
+    void tellsWhyAFolderCannotBeMade()
+    {
+        folderProblem = EROFS;
+        QCOMPARE(SafeOutput::makeFolder("new"),
+                 std::string("the folder new cannot be made: read-only file system"));
+        folderProblem = 0;
+        WorkFolder::put("file");
+        QCOMPARE(SafeOutput::makeFolder("file/new"), std::string("file is not a folder"));
     }
 
     void removesWhatEndedProcessesLeft()
@@ -102,106 +166,17 @@ private slots:
         QVERIFY(ended.find(".quintar-") != std::string::npos);
     }
 
-    void copiesWithHoles()
-    {
-        WorkFolder::put("sparse", "begin");
-        fs::resize_file("sparse", 4 << 20);
-        std::ofstream("sparse", std::ios::binary | std::ios::app) << "end";
-        QCOMPARE(copyFile("sparse", "copy"), std::string());
-        QVERIFY(WorkFolder::contentOf("copy") == WorkFolder::contentOf("sparse"));
-        QVERIFY(statusOf("copy").st_blocks <= statusOf("sparse").st_blocks + 16);
-        QCOMPARE(statusOf("copy").st_mode & 0777, 0600u);
-        for (const char* content : {"", "x"}) {
-            WorkFolder::put("small", content);
-            QCOMPARE(copyFile("small", std::string("copy of ") + content), std::string());
-            QCOMPARE(WorkFolder::contentOf(std::string("copy of ") + content), std::string(content));
-        }
-        // Files under /proc have no size and cannot be copied within the kernel.
-        fs::resize_file("sparse", 0);
-        QCOMPARE(copyFile("sparse", "empty"), std::string());
-    }
-
-    void refusesToCopyWhatIsNoFile()
-    {
-        QCOMPARE(mkfifo("fifo", 0600), 0);
-        WorkFolder::put("there", "kept");
-        QCOMPARE(copyFile("fifo", "copy"), std::string("cannot be read: not a regular file"));
-        QCOMPARE(copyFile("none", "copy"), std::string("cannot be read: no such file or directory"));
-        QCOMPARE(copyFile("there", "no/copy"), std::string("cannot be written: no such file or directory"));
-        QCOMPARE(copyFile("there", "there"), std::string("cannot be written: file exists"));
-        QCOMPARE(WorkFolder::contentOf("there"), std::string("kept"));
-        QVERIFY(!fs::exists("copy"));
-    }
-
-    void reportsInOrderAndInValidJson()
-    {
-        const auto line = [](const std::string& file) {
-            return Report::Line{file, "", DocumentResult::failed("\"quoted\"\n\x01\xff", 7)};
-        };
-        Report report("report", Report::Start::New);
-        report.add(2, line("third"));
-        report.add(0, line("fir\nst"));
-        QCOMPARE(WorkFolder::contentOf("report").find("third"), std::string::npos);
-        report.add(1, line("\xff\"\\"));
-        const QByteArray text = QByteArray::fromStdString(WorkFolder::contentOf("report"));
-        QCOMPARE(text.count('\n'), 3);
-        QStringList files;
-        for (const QByteArray& each : text.trimmed().split('\n')) {
-            const QJsonDocument document = QJsonDocument::fromJson(each);
-            QVERIFY2(document.isObject(), each);
-            files += document.object().value("file").toString();
-            QCOMPARE(document.object().value("milliseconds").toInt(), 7);
-            QVERIFY(document.object().value("output").isNull());
-        }
-        QCOMPARE(files, (QStringList{"fir\nst", QString(QChar(0xfffd)) + "\"\\", "third"}));
-        report.add(4, line("after a gap"));
-        report.flush();
-        QVERIFY(WorkFolder::contentOf("report").find("after a gap") != std::string::npos);
-    }
-
-    void escapesForTerminals_data()
-    {
-        const Rows<QByteArray, QByteArray> add;
-        const auto row = [&add](const QByteArray& bytes, const char* printed) {
-            add(printed, bytes, QByteArray(printed));
-        };
-        row("plain \xc3\xb4 \xe2\x82\xac \xf0\x9f\x98\x80.pdf",
-            "plain \xc3\xb4 \xe2\x82\xac \xf0\x9f\x98\x80.pdf");
-        row("a\nb\tc\rd", "a\\nb\\tc\\x0dd");
-        row("\x1b[31m\x7f", "\\x1b[31m\\x7f");
-        row("back\\slash", "back\\\\slash");
-        row("\xff\xc3", "\\xff\\xc3");
-        row("\xc2\x9b", "\\u009b");
-        row("\xe2\x80\xae"
-            "fdp.exe",
-            "\\u202efdp.exe");
-        row(QByteArray("nul\0", 4), "nul\\x00");
-    }
-
-    void escapesForTerminals()
-    {
-        const auto [bytes, printed] = Rows<QByteArray, QByteArray>::current();
-        QCOMPARE(QByteArray::fromStdString(forTerminal(bytes.toStdString())), printed);
-    }
-
-    void drawsProgress()
-    {
-        QCOMPARE(Progress::lineFor(0, 0, 4, 0, 80), std::string("[........................] 0/4"));
-        QCOMPARE(Progress::lineFor(2, 1, 4, 1, 80),
-                 std::string("[############............] 2/4, 1 failed  2.0/s  0:01 left"));
-        QCOMPARE(Progress::lineFor(500, 0, 100000, 10, 80),
-                 std::string("[........................] 500/100000  50/s  33:10 left"));
-        QCOMPARE(Progress::lineFor(0, 0, 0, 0, 80), std::string("[########################] 0/0"));
-        QCOMPARE(Progress::lineFor(1, 0, 2, 1, 10), std::string("[#########"));
-    }
-
 private:
-    static struct stat statusOf(const std::string& name)
+    /// Puts "new" in the target's place. \returns the problem or the note.
+    static std::string replace(const std::string& target, bool flush)
     {
-        struct stat status = {};
-        if (lstat(name.c_str(), &status) != 0)
-            qFatal("no %s", name.c_str());
-        return status;
+        const std::string temporary = SafeOutput::temporaryNameFor(target);
+        SafeOutput output(target, temporary);
+        WorkFolder::put(temporary, "new");
+        const FileDescriptor like = openRegularFile(temporary);
+        const SafeOutput::Outcome outcome =
+            output.commit(FileAttributes(like.get(), FileAttributes::Take::All), flush);
+        return outcome.problem.empty() && !outcome.note.empty() ? "note: " + outcome.note : outcome.problem;
     }
 
     std::optional<WorkFolder> m_folder;

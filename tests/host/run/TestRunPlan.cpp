@@ -188,6 +188,16 @@ private slots:
         QCOMPARE(targets(plan), std::string("two.pdf>real/x.pdf "));
     }
 
+    void followsLinksThatLeadNowhereYet()
+    {
+        WorkFolder::put("a/x.pdf");
+        fs::create_directory("out");
+        fs::create_symlink("../new/y.pdf", "out/x.pdf");
+        RunPlan plan("out");
+        plan.add("a/x.pdf");
+        QCOMPARE(targets(plan), std::string("a/x.pdf>new/y.pdf "));
+    }
+
 private:
     static std::string refusalFor(const RunPlan& plan)
     {

@@ -1,18 +1,37 @@
 #include "host/workers/StopSignal.h"
 #include "host/workers/WorkerPool.h"
+#include "host/workers/WorkerSlot.h"
 #include "support/Rows.h"
 
 #include <unistd.h>
 
 #include <csignal>
+#include <cstring>
 
 using namespace host;
 using Habit = std::function<bool(int)>; // works at a piece, and tells whether the worker is worn out then
 
+namespace {
+
+WorkerSlot* slotInUse = nullptr;
+
+bool runOutOfMemory()
+{
+    throw std::bad_alloc();
+}
+
+} // namespace
+
 struct FakeWorker : Worker
 {
     explicit FakeWorker(Habit habit) : m_habit(std::move(habit)) {}
-    Answer answer(const std::string& record) override { return {"did it", m_habit(std::stoi(record))}; }
+    Answer answer(std::size_t piece, WorkerSlot& slot) override
+    {
+        slotInUse = &slot;
+        const bool last = m_habit(int(piece));
+        // Long ones go around the ring, and wait for room in it.
+        return {"did it" + std::string(piece % 3 * 50'000, ' '), last};
+    }
     Habit m_habit;
 };
 
@@ -24,15 +43,27 @@ private slots:
     void endsEveryPieceOnce_data()
     {
         const Rows<unsigned, std::string, Habit> row; // how each so-manieth piece ends; the others are quick
+        const std::string killed = "the worker process crashed on it: Killed";
         row("slow", 50, "did it", [](int) { return usleep(20'000) != 0; });
         row("wearing", 20, "did it", [](int) { return true; });
         row("refused", 50, "not this", [](int) -> bool { throw std::runtime_error("not this"); });
-        row("crashing", 50, "the worker process crashed on it: Killed",
-            [](int) { return raise(SIGKILL) != 0; });
+        row("crashing", 50, killed, [](int) { return raise(SIGKILL) != 0; });
+        row("all crashing", 1, killed, [](int) { return raise(SIGKILL) != 0; });
         row("ending", 50, "the worker process ended on it with status 3", [](int) -> bool { _exit(3); });
         row("hanging", 100, "it took longer than 1 s", [](int) { return usleep(9'000'000) != 0; });
         row("no worker", 1, "none can be made", nullptr);
-        // What a worker has in reserve lasts for longer than the program is busy with piece 100.
+        row("corrupted", 50, killed, [](int piece) {
+            std::memset(static_cast<void*>(slotInUse), piece, sizeof *slotInUse);
+            return raise(SIGKILL) != 0;
+        });
+        row("noting", 50, killed + ", noted", [](int) {
+            slotInUse->note(", noted");
+            return raise(SIGKILL) != 0;
+        });
+        row("out of memory in a destructor", 50, "the document needs more memory than there is",
+            [](int) noexcept { return runOutOfMemory(); });
+        // The program is busy with piece 100 for longer than a worker may take, which may not be ended for
+        // it.
         row("busy program", 1, "did it", [](int piece) {
             return piece >= 100 && piece < 110 && usleep(250'000 + piece % 7 * 20'000) != 0;
         });
@@ -41,7 +72,6 @@ private slots:
     void endsEveryPieceOnce()
     {
         const auto [each, end, habit] = Rows<unsigned, std::string, Habit>::current();
-        const auto workOf = [](std::size_t piece) { return std::to_string(piece); };
         for (const int workers : {1, 3}) {
             const auto make = [&, each = each, habit = habit] {
                 return habit ? std::make_unique<FakeWorker>(
@@ -50,11 +80,11 @@ private slots:
             };
             std::vector<std::string> ends(200);
             const auto done = [&, each = each](std::size_t piece, const WorkOutcome& outcome) {
-                ends[piece] += outcome.text;
+                ends[piece] += outcome.text.substr(0, outcome.text.find_last_not_of(' ') + 1) + outcome.note;
                 usleep(each == 1 && piece == 100 ? 1'300'000 : 0);
             };
             StopSignal stop;
-            WorkerPool({workers, 1, 1024}, make).run(ends.size(), workOf, done, stop);
+            WorkerPool({workers, 1, 1024}, make).run(ends.size(), done, stop);
             for (std::size_t piece = 0; piece < ends.size(); ++piece)
                 QCOMPARE(ends[piece], (piece + 1) % each == 0 ? end : "did it");
         }

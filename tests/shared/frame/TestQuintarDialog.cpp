@@ -6,9 +6,15 @@
 #include "support/Mute.h"
 #include "support/Rows.h"
 
+#include <QComboBox>
 #include <QGridLayout>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QToolTip>
+#include <QWheelEvent>
 #include <QtTest>
 
 #include <memory>
@@ -271,6 +277,73 @@ private slots:
         dialog.QDhideAddToActionListButton();
         QVERIFY(action->isHidden());
         QVERIFY(!favourite->isHidden());
+    }
+
+    void tellsItsHeaderButtonsInEveryWay_data()
+    {
+        const Rows<QString, QString, QKeySequence, QString> add;
+        add("QDtoolbarAddToActionListButton", "Add to/Create new Action", "Add to/Create new Action",
+            {"Ctrl+L"}, "Add to/Create new Action (Ctrl+L)");
+        add("QDtoolbarAddToCollectionsButton", "Add to Favorites/Save settings",
+            "Add to Favorites/Save settings", {"Ctrl+D"}, "Add to Favorites/Save settings (Ctrl+D)");
+        add("quintarHeaderCloseBtn", "Close", "", {"Ctrl+W"}, "Close (Ctrl+W)");
+    }
+
+    void tellsItsHeaderButtonsInEveryWay()
+    {
+        const auto [name, toolTip, shortcut, shown] =
+            Rows<QString, QString, QKeySequence, QString>::current();
+        Dialog dialog;
+        dialog.addEverything();
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        auto* button = dialog.child<QToolButton>(QTest::currentDataTag());
+        QCOMPARE(button->accessibleName(), name);
+        QVERIFY(!button->accessibleDescription().isEmpty());
+        QCOMPARE(button->toolTip(), toolTip);
+        QHelpEvent hover(QEvent::ToolTip, button->rect().center(), middleOf(button));
+        QCoreApplication::sendEvent(button, &hover);
+        QCOMPARE(QToolTip::text(), shown);
+
+        const QSignalSpy clicked(button, SIGNAL(clicked()));
+        const auto press = [&dialog, &keys = shortcut] { QTest::keySequence(&dialog, keys); };
+        button->hide();
+        press();
+        QVERIFY(clicked.isEmpty());
+        button->show();
+        press();
+        QTRY_COMPARE(clicked.size(), 1);
+    }
+
+    void turnsListsByTheWheelOnlyWithTheFocus()
+    {
+        Dialog dialog;
+        dialog.content->setFocusPolicy(Qt::StrongFocus);
+        auto* list = new QComboBox(dialog.content);
+        list->addItems({"a", "b", "c"});
+        list->setCurrentIndex(1);
+        auto* box = new QSpinBox(dialog.content);
+        box->setValue(1);
+        dialog.addEverything();
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        const auto turnBoth = [&] {
+            for (QWidget* widget : {static_cast<QWidget*>(list), static_cast<QWidget*>(box)}) {
+                const QPointF place = widget->rect().center();
+                QWheelEvent turn(place, widget->mapToGlobal(place.toPoint()), QPoint(), QPoint(0, 120),
+                                 Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                QCoreApplication::sendEvent(widget, &turn);
+            }
+            return QPoint(list->currentIndex(), box->value());
+        };
+        dialog.content->setFocus();
+        QCOMPARE(turnBoth(), QPoint(1, 1));
+        list->setFocus();
+        QCOMPARE(turnBoth(), QPoint(0, 1));
+        box->setFocus();
+        QCOMPARE(turnBoth(), QPoint(0, 2));
+        // A wheel over them does not give them the focus either.
+        QVERIFY(list->focusPolicy() == Qt::StrongFocus && box->focusPolicy() == Qt::StrongFocus);
     }
 
     void doubleClicksReachTheHeaderButNotThroughAButton()

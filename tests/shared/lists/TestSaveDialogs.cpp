@@ -183,6 +183,25 @@ private slots:
                               "saveButton", "cancelButton"}));
     }
 
+    // Return saves as the ticked choice says, whatever has the focus: so that is where the focus goes.
+    void leadsBackFromTheNameToTheTickedChoice()
+    {
+        CSaveAsActionlistDialog list(&m_parent);
+        open(list, &m_prefs);
+        const auto before = [&list] {
+            list.ui.actionListNameLineEdit->setFocus();
+            QTest::keyClick(list.ui.actionListNameLineEdit, Qt::Key_Tab, Qt::ShiftModifier);
+            return list.focusWidget()->objectName();
+        };
+        QCOMPARE(before(), QString("newActionListRadioButton"));
+        click(list.ui.addToActionListRadioButton);
+        QCOMPARE(before(), QString("addToActionListRadioButton"));
+        QTest::keyClick(list.focusWidget(), Qt::Key_Up);
+        QCOMPARE(before(), QString("newActionListRadioButton"));
+        list.ui.addToActionListRadioButton->setChecked(true);
+        QCOMPARE(before(), QString("addToActionListRadioButton"));
+    }
+
     void savesOnlyUnderAVisibleName()
     {
         CSaveAsActionlistDialog list(&m_parent);

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "ViewNumbers.h"
+
+#include <array>
+#include <cstddef>
+#include <span>
+#include <stdexcept>
+
+/// The viewer preferences, each under all of its names. Library file, action, dialog and program read this
+/// one table, so a further preference is a further row.
+namespace pdflibrary {
+
+/// One entry of a document's /ViewerPreferences. It is a yes or no unless it has names.
+struct PreferenceRow
+{
+    /// The option of GetViewerPreferences and SetViewerPreferences.
+    ViewerPreference option;
+    /// The entry's key in the document.
+    const char* pdfName;
+    /// The names that the entry takes, at the library's number for each; an empty one is never taken. Empty
+    /// for an entry that is true (1) or false (0).
+    std::span<const char* const> names;
+    /// The key in an action's settings; null for one that has no setting of its own.
+    const char* key;
+    /// What the dialog and the program call it.
+    const char* label;
+    /// What they call its values, by number; empty for yes and no.
+    std::span<const char* const> valueLabels;
+
+    /// The largest number that it takes.
+    constexpr int highest() const { return names.empty() ? 1 : static_cast<int>(names.size()) - 1; }
+    /// Whether the library takes a number for it.
+    constexpr bool takes(int value) const
+    {
+        return value >= 0 && value <= highest() &&
+               (names.empty() || *names[static_cast<std::size_t>(value)] != '\0');
+    }
+};
+
+inline constexpr std::array titleLabels{"File Name", "Document Title"};
+
+/// Values of /NonFullScreenPageMode: the page modes but FullScreen.
+inline constexpr std::array nonFullScreenModeNames{"/UseNone", "/UseOutlines", "/UseThumbs",
+                                                   "",         "/UseOC",       "/UseAttachments"};
+
+/// What dialog and program call the page modes, by number.
+inline constexpr std::array pageModeLabels{
+    "Page Only",   "Bookmarks Panel and Page",    "Pages Panel and Page",
+    "Full screen", "Conten Group Panel and Page", "Attachments Panel and Page",
+};
+
+// clang-format off
+inline constexpr std::array viewerPreferences{
+    PreferenceRow{HideToolBars,       "/HideToolbar",           {}, "HideToobarsCheckBox",        "Hide tool bars",                {}},
+    PreferenceRow{HideMenuBar,        "/HideMenubar",           {}, "HideMenuBarCheckBox",        "Hide menu bar",                 {}},
+    PreferenceRow{HideWindowControls, "/HideWindowUI",          {}, "HideCtrlWindowsCheckBox",    "Hide control windows",          {}},
+    PreferenceRow{FitWindow,          "/FitWindow",             {}, "ResizeWinToInitPageCheckBox", "Resize window to initial page", {}},
+    PreferenceRow{CenterWindow,       "/CenterWindow",          {}, "CenterWinOnScreenCheckBox",  "Center window on screen",       {}},
+    PreferenceRow{TitleBar,           "/DisplayDocTitle",       {}, "ShowComboBox",               "Show",                          titleLabels},
+    PreferenceRow{NonFullScreenMode,  "/NonFullScreenPageMode", nonFullScreenModeNames, nullptr,  "After full screen",             pageModeLabels},
+};
+// clang-format on
+
+/// The row of an option, or null for a number that is none.
+constexpr const PreferenceRow* findPreference(int option)
+{
+    for (const PreferenceRow& row : viewerPreferences)
+        if (row.option == option)
+            return &row;
+    return nullptr;
+}
+
+/// The row of an option, which must have one.
+constexpr const PreferenceRow& preference(ViewerPreference option)
+{
+    const PreferenceRow* row = findPreference(option);
+    return row != nullptr ? *row : throw std::invalid_argument("no such viewer preference");
+}
+
+} // namespace pdflibrary
