@@ -1,6 +1,8 @@
+#include "Arguments.h"
 #include "Operations.h"
 #include "Session.h"
 #include "Text.h"
+#include "engine/document/PageGeometry.h"
 #include "engine/files/EngineError.h"
 #include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/ViewerPreferences.h"
@@ -54,17 +56,6 @@ Stored storedPreference(Document& document, const PreferenceRow& preference)
     return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{0, !entry.isNull()};
 }
 
-void require(bool condition, ErrorCode code)
-{
-    if (!condition)
-        throw EngineError(code);
-}
-
-void requireWithin(int value, int first, int last)
-{
-    require(value >= first && value <= last, ErrorCode::BadArgument);
-}
-
 const PreferenceRow& preferenceOf(int option)
 {
     const PreferenceRow* preference = pdflibrary::findPreference(option);
@@ -74,9 +65,8 @@ const PreferenceRow& preferenceOf(int option)
 
 QPDFObjectHandle preferenceValue(const PreferenceRow& preference, int value)
 {
-    return preference.names.empty()
-               ? QPDFObjectHandle::newBool(value != 0)
-               : QPDFObjectHandle::newName(preference.names[static_cast<std::size_t>(value)]);
+    return preference.names.empty() ? QPDFObjectHandle::newBool(value != 0)
+                                    : QPDFObjectHandle::newName(rowOf(preference.names, value));
 }
 
 void setCatalogEntry(Document& document, const char* key, const QPDFObjectHandle& value)
@@ -164,8 +154,11 @@ int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destT
     require(zoom >= 0, ErrorCode::BadArgument);
     for (const double coordinate : {left, top, right, bottom})
         require(std::isfinite(coordinate), ErrorCode::BadArgument);
-    const QPDFObjectHandle target = open.pages.page(page).page;
-    QPDFObjectHandle operands = destinationOperands(destType, zoom, left, top);
+    const PagePath& path = open.pages.page(page);
+    const QPDFObjectHandle target = path.page;
+    const Point corner = upperLeftAsShown(open.document, path, {left, bottom, right, top});
+    const bool onItsSide = pageRotation(open.document, path) % 180 != 0;
+    QPDFObjectHandle operands = destinationOperands(destType, zoom, corner, onItsSide);
     const auto present = openActionTarget(open.document);
     if (present && isWrittenAs(open.document, present->array, target, operands))
         return 1;

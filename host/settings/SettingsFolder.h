@@ -49,6 +49,8 @@ private:
     bool collect(const std::string& below, std::set<FolderId>& seen, std::vector<std::string>& names) const;
     bool hasSuffix(const std::string& file) const;
     bool hasName(const std::string& file, const std::string& name) const;
+    /// Without their suffix.
+    std::vector<std::string> baseNames(const std::vector<std::string>& files) const;
     std::string namesOf(const std::vector<std::string>& files) const;
 
     std::string m_path;
