@@ -14,10 +14,8 @@ namespace {
 
 using namespace engine;
 
-// What the library really has. Everything else is not available.
-constexpr OperationSlots implemented()
+constexpr void addDocuments(OperationSlots& slots)
 {
-    OperationSlots slots;
     slots.LoadFromFile = operations::LoadFromFile;
     slots.LoadFromString = operations::LoadFromString;
     slots.SaveToFile = operations::SaveToFile;
@@ -35,10 +33,16 @@ constexpr OperationSlots implemented()
     slots.SecurityInfo = operations::SecurityInfo;
     slots.LastErrorCode = operations::LastErrorCode;
     slots.LibraryVersion = operations::LibraryVersion;
+}
 
+constexpr void addInformation(OperationSlots& slots)
+{
     slots.GetInformation = operations::GetInformation;
     slots.SetInformation = operations::SetInformation;
+}
 
+constexpr void addView(OperationSlots& slots)
+{
     slots.GetPageMode = operations::GetPageMode;
     slots.SetPageMode = operations::SetPageMode;
     slots.GetPageLayout = operations::GetPageLayout;
@@ -52,7 +56,10 @@ constexpr OperationSlots implemented()
     slots.GetDestPage = operations::GetDestPage;
     slots.GetDestValue = operations::GetDestValue;
     slots.GetDestName = operations::GetDestName;
+}
 
+constexpr void addPages(OperationSlots& slots)
+{
     slots.PageCount = operations::PageCount;
     slots.SelectPage = operations::SelectPage;
     slots.SelectedPage = operations::SelectedPage;
@@ -60,7 +67,16 @@ constexpr OperationSlots implemented()
     slots.PageWidth = operations::PageWidth;
     slots.PageHeight = operations::PageHeight;
     slots.PageRotation = operations::PageRotation;
+}
 
+// What the library really has, by the operations' sources. Everything else is not available.
+constexpr OperationSlots implemented()
+{
+    OperationSlots slots;
+    addDocuments(slots);
+    addInformation(slots);
+    addView(slots);
+    addPages(slots);
     slots.GetInstalledFontsByCharset = operations::GetInstalledFontsByCharset;
     return slots;
 }

@@ -2,10 +2,9 @@
 
 #include "Document.h"
 #include "engine/files/EngineError.h"
-#include "engine/syntax/SyntaxScanner.h"
+#include "engine/reading/KidGlimpse.h"
 
 #include <algorithm>
-#include <cctype>
 #include <climits>
 #include <set>
 #include <string>
@@ -17,7 +16,7 @@ namespace {
 // Trees of up to this many pages are walked whole, so that counts that lie do no harm.
 const int smallTree = 256;
 
-enum class Kind { Page, Node, Neither };
+using Kind = KidKind;
 
 Kind kindOf(Document& document, QPDFObjectHandle object)
 {
@@ -37,67 +36,7 @@ std::optional<int> statedCount(Document& document, const QPDFObjectHandle& node)
     return static_cast<int>(count.getIntValue());
 }
 
-/// What the bytes of an unread kid show without parsing: adding up a large tree must not read every page.
-struct Glimpse
-{
-    Kind kind;
-    std::optional<int> count;
-};
-
-/// Fast path: no /Pages, no /Kids, and each /Type is followed by its name, so this can only be a page. A
-/// search for slashes is several times as fast as the scanner, which decides wherever this says no; the trees
-/// of books spend most of their time here.
-bool isPlainPage(std::string_view text)
-{
-    if (!text.starts_with("<<"))
-        return false;
-    for (std::size_t slash = text.find('/'); slash != text.npos; slash = text.find('/', slash + 1)) {
-        const std::string_view rest = text.substr(slash + 1);
-        if (rest.starts_with("Pages") || rest.starts_with("Kids"))
-            return false;
-        if (!rest.starts_with("Type"))
-            continue;
-        const std::string_view behind = rest.substr(std::string_view("Type").size());
-        const bool isValue = behind.starts_with("/") || behind.starts_with(" /");
-        const bool isOtherName =
-            !behind.empty() && std::isalnum(static_cast<unsigned char>(behind.front())) != 0;
-        if (!isValue && !isOtherName) // such as /Type1
-            return false;
-    }
-    return true;
-}
-
-std::optional<Glimpse> glimpseOf(std::string_view text)
-{
-    if (text.find('#') != text.npos) // escapes in names, good or bad
-        return std::nullopt;
-    if (isPlainPage(text))
-        return Glimpse{Kind::Page, std::nullopt};
-    std::string_view kids;
-    std::string_view type;
-    std::string_view count;
-    DictionaryScanner scanner(text);
-    while (const auto entry = scanner.next()) {
-        std::string_view* const value = entry->key == "Kids"    ? &kids
-                                        : entry->key == "Type"  ? &type
-                                        : entry->key == "Count" ? &count
-                                                                : nullptr;
-        if (value != nullptr && !value->empty())
-            return std::nullopt;
-        if (value != nullptr)
-            *value = entry->value;
-    }
-    if (scanner.odd() || (!kids.empty() && !kids.starts_with('[')) ||
-        (!type.empty() && !type.starts_with('/')))
-        return std::nullopt;
-    const auto number = wholeInteger(count);
-    return Glimpse{!kids.empty()      ? Kind::Node
-                   : type == "/Pages" ? Kind::Neither
-                                      : Kind::Page,
-                   number && *number <= INT_MAX ? std::optional(static_cast<int>(*number)) : std::nullopt};
-}
-
-std::optional<Glimpse> glimpse(Document& document, const Kids& kids, int kid)
+std::optional<KidGlimpse> glimpse(Document& document, const Kids& kids, int kid)
 {
     const std::optional<std::string_view> text = document.unreadKid(kids, kid);
     return text ? glimpseOf(*text) : std::nullopt;
@@ -156,7 +95,7 @@ private:
     {
         int sum = 0;
         for (int kid = 0; kid < m_kids; ++kid) {
-            const std::optional<Glimpse> seen = glimpse(document, kids, kid);
+            const std::optional<KidGlimpse> seen = glimpse(document, kids, kid);
             const bool isNode = seen && seen->kind == Kind::Node && seen->count;
             const std::optional<int> pages =
                 isNode ? seen->count : pagesUnder(document, document.kid(kids, kid));
@@ -349,7 +288,7 @@ private:
         Step& step = m_steps.back();
         const int kid = step.next++;
         const int node = step.node;
-        const std::optional<Glimpse> seen = glimpse(m_document, step.kids, kid);
+        const std::optional<KidGlimpse> seen = glimpse(m_document, step.kids, kid);
         if (seen && seen->kind == Kind::Neither)
             return;
         if (seen && seen->kind == Kind::Page) {

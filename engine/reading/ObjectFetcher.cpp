@@ -68,7 +68,8 @@ std::unique_ptr<ObjectFetcher> ObjectFetcher::open(const std::shared_ptr<ByteSou
                                                    const std::string& fileName)
 {
     auto reader = DirectReader::open(source);
-    auto skeleton = reader ? reader->skeleton() : std::nullopt;
+    const bool numbersLeft = reader && reader->size() <= largestObjectNumber; // new ones follow the size
+    auto skeleton = numbersLeft ? reader->skeleton() : std::nullopt;
     if (!skeleton)
         return nullptr;
     std::unique_ptr<ObjectFetcher> fetcher(new ObjectFetcher(std::move(reader), std::move(*skeleton)));

@@ -15,6 +15,9 @@ namespace engine {
 /// Readers stop at object numbers far above; a section that claims more is a lie that must not be built upon.
 inline constexpr std::int64_t largestSize = 0x7ffffff0;
 
+/// Readers need not take larger object numbers, and some do not. A /Size that lies may be above.
+inline constexpr int largestObjectNumber = 8'388'607;
+
 /// Whether an entry of a trailer describes its own section; all others belong to the document.
 /// \param key without its slash.
 bool describesSection(std::string_view key);

@@ -135,7 +135,9 @@ void IncrementalUpdate::writeTable()
 void IncrementalUpdate::writeStream()
 {
     const std::uint64_t start = nextOffset();
-    const int number = std::max(m_crossReference.size(), m_written.rbegin()->first + 1);
+    const int free = m_crossReference.size() <= largestObjectNumber ? m_crossReference.size()
+                                                                    : m_crossReference.entryEnd();
+    const int number = std::max(free, m_written.rbegin()->first + 1);
     m_written.emplace(number, ObjectOffset{start, 0});
     const int offsetBytes = bytesFor(start);
     QPDFObjectHandle index = QPDFObjectHandle::newArray();
