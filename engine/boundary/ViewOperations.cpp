@@ -150,8 +150,7 @@ int GetViewerPreferences(Session& session, int option)
     Document& document = session.document().document;
     const bool asWritten = option > pdflibrary::AsWritten;
     const PreferenceRow& preference = preferenceOf(asWritten ? option - pdflibrary::AsWritten : option);
-    return storedPreference(document, preference,
-                            asWritten ? pdflibrary::NoPreference : preference.absent)
+    return storedPreference(document, preference, asWritten ? pdflibrary::NoPreference : preference.absent)
         .value;
 }
 
