@@ -10,6 +10,7 @@
 
 #include <array>
 #include <climits>
+#include <cmath>
 #include <string_view>
 
 namespace engine {
@@ -115,7 +116,7 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
         if (operand.isNumber())
             destination.*member = operand.getNumericValue();
     }
-    destination.zoom *= 100;
+    destination.zoom = std::round(destination.zoom * 1e6) / 1e4; // no binary fractions: 0.07 is 7 %
     return destination;
 }
 
@@ -133,6 +134,29 @@ QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bo
         if (operand != nullptr)
             operands.appendItem(numberOrNull(values.*operand, operand == &Destination::zoom && zoom == 0));
     return operands;
+}
+
+QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent)
+{
+    const bool isRectangle = document.item(array, 1).isNameAndEquals("/FitR");
+    const auto operand = [&](int index) {
+        return index < array.getArrayNItems() ? array.getArrayItem(index) : QPDFObjectHandle::newNull();
+    };
+    return QPDFObjectHandle::newArray({array.getArrayItem(0), QPDFObjectHandle::newName("/XYZ"), operand(2),
+                                       operand(isRectangle ? 5 : 3),
+                                       numberOrNull(percent / 100, percent == 0)});
+}
+
+void redirectOpenAction(Document& document, QPDFObjectHandle array)
+{
+    QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
+    if (action.isDictionary()) {
+        action = action.shallowCopy();
+        action.replaceKey("/D", array);
+        action.removeKey("/SD"); // the same for structure elements, which would count before it
+        array = action;
+    }
+    document.setCatalogKey("/OpenAction", array);
 }
 
 bool isWrittenAs(Document& document, QPDFObjectHandle array, const QPDFObjectHandle& page,
