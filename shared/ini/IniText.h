@@ -25,7 +25,8 @@ using Values = QMap<QString, Value>;
 /// Needs time and memory in proportion to the bytes.
 Values parse(const QByteArray& bytes);
 
-/// The bytes that QSettings would write.
+/// The bytes that QSettings would write; except that it would change the letters of a section that is called
+/// "general" itself.
 QByteArray format(const Values& values);
 
 /// A key as QSettings takes it: slashes at its ends and doubled ones do not count.

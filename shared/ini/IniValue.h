@@ -15,8 +15,8 @@ namespace inivalue {
 std::optional<QVariant> decoded(const initext::Value& value, QString& problem);
 
 /// \param[out] problem why there is none, in words that follow "it".
-/// \returns what QSettings would write; none for a value that it could not read again: a type that has no
-///     stored form, such as a pointer, or containers more than 64 deep.
+/// \returns what QSettings would write; none for a value without a stored form, such as a pointer, and for
+///     containers more than 64 deep.
 std::optional<initext::Value> encoded(const QVariant& value, QString& problem);
 
 } // namespace inivalue

@@ -4,6 +4,7 @@
 #include <QRandomGenerator>
 
 #include <fcntl.h>
+#include <linux/limits.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -73,7 +74,8 @@ bool writeAll(int file, const QByteArray& bytes)
 }
 
 /// What was granted to an owner or a group that the new file cannot have is granted to no other. Where an
-/// access list is lost, the group's bits were its mask.
+/// access list is lost, the group's bits were its mask, and it may have kept someone out whom the others'
+/// bits let in.
 bool giveAttributes(int file, const QByteArray& path, const struct stat& like)
 {
     mode_t mode = like.st_mode & 07777;
@@ -82,13 +84,12 @@ bool giveAttributes(int file, const QByteArray& path, const struct stat& like)
         if (fchown(file, static_cast<uid_t>(-1), like.st_gid) != 0)
             mode &= 0707;
     }
-    char list[4096];
+    char list[XATTR_SIZE_MAX];
     const ssize_t size = getxattr(path.constData(), accessList, list, sizeof list);
-    if (size <= 0)
-        return fchmod(file, mode) == 0;
-    if (fsetxattr(file, accessList, list, static_cast<std::size_t>(size), 0) != 0)
-        mode &= ~static_cast<mode_t>(070);
-    return fchmod(file, mode) == 0;
+    const bool hasList = size > 0 || (size < 0 && errno != ENODATA && errno != ENOTSUP);
+    const bool isLost =
+        hasList && (size < 0 || fsetxattr(file, accessList, list, static_cast<std::size_t>(size), 0) != 0);
+    return fchmod(file, isLost ? mode & 0700 : mode) == 0;
 }
 
 /// QSettings takes a file of the same size and the same millisecond for the one that it knows.

@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <utime.h>
 
 #include <thread>
@@ -124,6 +125,34 @@ private slots:
 
         QVERIFY(store(m_path, "only", 4, Access::Replace));
         QCOMPARE(QSettings(m_path, QSettings::IniFormat).allKeys(), QStringList{"only"});
+    }
+
+    void keepsALongAccessList()
+    {
+        // One user after another may read and write. The owning group, whose bits are the list's mask, and
+        // all others may not.
+        QByteArray list;
+        QDataStream stream(&list, QIODevice::WriteOnly);
+        stream.setByteOrder(QDataStream::LittleEndian);
+        const auto grant = [&](int tag, int rights, quint32 id) {
+            stream << quint16(tag) << quint16(rights) << id;
+        };
+        stream << quint32(2);
+        grant(0x01, 6, 0xffffffff);
+        for (quint32 user = 1000; user < 1600; ++user)
+            grant(0x02, 6, user);
+        for (const int tag : {0x04, 0x10, 0x20})
+            grant(tag, tag == 0x10 ? 6 : 0, 0xffffffff);
+        QVERIFY(writeFile(m_path, "[General]\nold=1\n"));
+        const QByteArray path = QFile::encodeName(m_path);
+        const char name[] = "system.posix_acl_access";
+        if (setxattr(path.constData(), name, list.constData(), std::size_t(list.size()), 0) != 0)
+            QSKIP("no access lists of this length here");
+        QVERIFY(store(m_path, "new", 3));
+        QByteArray kept(list.size(), '\0');
+        QCOMPARE(getxattr(path.constData(), name, kept.data(), std::size_t(kept.size())),
+                 ssize_t(list.size()));
+        QCOMPARE(kept, list);
     }
 
     void makesTheFolder()
