@@ -73,9 +73,25 @@ bool writeAll(int file, const QByteArray& bytes)
     return true;
 }
 
-/// What was granted to an owner or a group that the new file cannot have is granted to no other. Where an
-/// access list is lost, the group's bits were its mask, and it may have kept someone out whom the others'
-/// bits let in.
+bool saysNone(int error)
+{
+    return error == ENODATA || error == ENOTSUP;
+}
+
+/// Gives the new file the access list of the old one, or none: folders give their new files lists too.
+bool giveAccessList(int file, const QByteArray& path)
+{
+    char list[XATTR_SIZE_MAX];
+    const ssize_t size = getxattr(path.constData(), accessList, list, sizeof list);
+    if (size > 0)
+        return fsetxattr(file, accessList, list, static_cast<std::size_t>(size), 0) == 0;
+    const bool hasNone = size == 0 || saysNone(errno);
+    return hasNone && (fremovexattr(file, accessList) == 0 || saysNone(errno));
+}
+
+/// What was granted to an owner or a group that the new file cannot have is granted to no other. Without the
+/// right access list only the owner's bits are sure: the group's may be a list's mask, and a list may keep
+/// someone out whom the others' bits let in.
 bool giveAttributes(int file, const QByteArray& path, const struct stat& like)
 {
     mode_t mode = like.st_mode & 07777;
@@ -84,12 +100,7 @@ bool giveAttributes(int file, const QByteArray& path, const struct stat& like)
         if (fchown(file, static_cast<uid_t>(-1), like.st_gid) != 0)
             mode &= 0707;
     }
-    char list[XATTR_SIZE_MAX];
-    const ssize_t size = getxattr(path.constData(), accessList, list, sizeof list);
-    const bool hasList = size > 0 || (size < 0 && errno != ENODATA && errno != ENOTSUP);
-    const bool isLost =
-        hasList && (size < 0 || fsetxattr(file, accessList, list, static_cast<std::size_t>(size), 0) != 0);
-    return fchmod(file, isLost ? mode & 0700 : mode) == 0;
+    return fchmod(file, giveAccessList(file, path) ? mode : mode & 0700) == 0;
 }
 
 /// QSettings takes a file of the same size and the same millisecond for the one that it knows.

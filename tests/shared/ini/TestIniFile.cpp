@@ -44,6 +44,39 @@ QString keyOf(const QString& writer, int number)
     return writer + QString::number(number);
 }
 
+/// Lets so many users read and write, but not the owning group, whose bits are the mask, nor others.
+QByteArray accessListFor(int users)
+{
+    QByteArray list;
+    QDataStream stream(&list, QIODevice::WriteOnly);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    const auto grant = [&](quint16 tag, quint16 rights, quint32 id) { stream << tag << rights << id; };
+    const quint32 nobodyNamed = 0xffffffff;
+    stream << quint32(2); // the version
+    grant(0x01, 6, nobodyNamed);
+    for (int user = 0; user < users; ++user)
+        grant(0x02, 6, 1000 + quint32(user));
+    grant(0x04, 0, nobodyNamed);
+    grant(0x10, 6, nobodyNamed);
+    grant(0x20, 0, nobodyNamed);
+    return list;
+}
+
+bool setList(const QString& path, const char* name, const QByteArray& list)
+{
+    return setxattr(QFile::encodeName(path).constData(), name, list.constData(), std::size_t(list.size()),
+                    0) == 0;
+}
+
+/// \param users how many there is room for.
+QByteArray listOf(const QString& path, int users)
+{
+    QByteArray list(accessListFor(users).size(), '\0');
+    const ssize_t size = getxattr(QFile::encodeName(path).constData(), "system.posix_acl_access", list.data(),
+                                  std::size_t(list.size()));
+    return list.left(std::max(0, int(size)));
+}
+
 int addAll(const QString& path, const QString& writer, bool byQSettings)
 {
     int failures = 0;
@@ -127,32 +160,21 @@ private slots:
         QCOMPARE(QSettings(m_path, QSettings::IniFormat).allKeys(), QStringList{"only"});
     }
 
-    void keepsALongAccessList()
+    void grantsNobodyMore()
     {
-        // One user after another may read and write. The owning group, whose bits are the list's mask, and
-        // all others may not.
-        QByteArray list;
-        QDataStream stream(&list, QIODevice::WriteOnly);
-        stream.setByteOrder(QDataStream::LittleEndian);
-        const auto grant = [&](int tag, int rights, quint32 id) {
-            stream << quint16(tag) << quint16(rights) << id;
-        };
-        stream << quint32(2);
-        grant(0x01, 6, 0xffffffff);
-        for (quint32 user = 1000; user < 1600; ++user)
-            grant(0x02, 6, user);
-        for (const int tag : {0x04, 0x10, 0x20})
-            grant(tag, tag == 0x10 ? 6 : 0, 0xffffffff);
         QVERIFY(writeFile(m_path, "[General]\nold=1\n"));
-        const QByteArray path = QFile::encodeName(m_path);
-        const char name[] = "system.posix_acl_access";
-        if (setxattr(path.constData(), name, list.constData(), std::size_t(list.size()), 0) != 0)
+        QVERIFY(QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
+        // What is made from now on in this folder grants something to another user.
+        if (!setList(m_folder.filePath("sub"), "system.posix_acl_default", accessListFor(1)))
+            QSKIP("no access lists here");
+        QVERIFY(store(m_path, "new", 2));
+        QCOMPARE(listOf(m_path, 1), QByteArray());
+
+        const int many = 600;
+        if (!setList(m_path, "system.posix_acl_access", accessListFor(many)))
             QSKIP("no access lists of this length here");
         QVERIFY(store(m_path, "new", 3));
-        QByteArray kept(list.size(), '\0');
-        QCOMPARE(getxattr(path.constData(), name, kept.data(), std::size_t(kept.size())),
-                 ssize_t(list.size()));
-        QCOMPARE(kept, list);
+        QCOMPARE(listOf(m_path, many), accessListFor(many));
     }
 
     void makesTheFolder()
