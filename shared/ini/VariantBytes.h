@@ -27,6 +27,8 @@ public:
     const QString& problem() const { return m_problem; }
 
 private:
+    static constexpr quint32 nullLength = 0xffffffff;
+
     bool variant(int depth);
     bool payload(quint32 type, int depth);
     bool container(quint32 type, int depth);
@@ -71,3 +73,18 @@ private:
     qint64 m_rectangles = 0;
     QString m_problem;
 };
+
+template <class Step>
+bool VariantBytes::each(Step step)
+{
+    quint32 count = 0;
+    if (!number(count))
+        return false;
+    if (count > left() / 4)
+        return refuse("is cut off");
+    for (quint32 i = 0; i < count; ++i) {
+        if (!step())
+            return false;
+    }
+    return true;
+}
