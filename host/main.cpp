@@ -2,10 +2,12 @@
 #include "cli/ListsCommand.h"
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
+#include "host/options/HelpText.h"
 #include "host/program/HostApplication.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
+#include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
 #include <fcntl.h>
@@ -30,16 +32,6 @@ Commands allCommands()
     return commands;
 }
 
-std::string helpText(const Commands& commands)
-{
-    std::string text =
-        "Usage: quintar COMMAND ...\n\nChanges how PDF documents open in a viewer.\n\nCommands:\n";
-    for (const auto& command : commands)
-        text += "  " + std::string(command->name()) +
-                std::string(12 - std::string(command->name()).size(), ' ') + command->summary() + "\n";
-    return text + "\nquintar COMMAND --help tells about a command; quintar --version prints the version.\n";
-}
-
 /// Keeps a document or the report from getting the number of a closed standard stream, where printed text
 /// would go into it. stdin is opened for writing and the others for reading, so that using them still fails.
 void occupyStandardDescriptors()
@@ -60,22 +52,33 @@ host::Command& commandNamed(const Commands& commands, const std::string& word)
     for (const auto& command : commands)
         if (word == command->name())
             return *command;
-    throw host::UsageError((word.empty() ? "which command?" : "unknown command \"" + word + "\"") + "\n\n" +
-                           helpText(commands));
+    if (word.empty())
+        throw host::UsageError("which command?\n\n" + host::helptext::program());
+    throw host::UsageError("unknown command \"" + word + "\"" +
+                           host::suggestion::didYouMean(word, host::options::commandNames()) +
+                           "\n\"quintar --help\" lists the commands");
+}
+
+/// What is asked for in the place of a command; false when it is none of it.
+bool answered(const Commands& commands, const std::string& word, const std::string& next)
+{
+    if (word == "help" && !next.empty())
+        host::printResult(host::helptext::brief(host::options::command(commandNamed(commands, next).id())));
+    else if (word == "--help" || word == "--help-all" || word == "-h" || word == "help")
+        host::printResult(host::helptext::program());
+    else if (word == "--version")
+        host::printResult("quintar " QUINTAR_VERSION "\n");
+    else
+        return false;
+    return true;
 }
 
 int runCommand(int argc, char** argv)
 {
     const Commands commands = allCommands();
     const std::string word = argc > 1 ? argv[1] : "";
-    if (word == "--help" || word == "-h" || word == "help") {
-        host::printResult(helpText(commands));
+    if (answered(commands, word, argc > 2 ? argv[2] : ""))
         return host::exitstatus::done;
-    }
-    if (word == "--version") {
-        host::printResult("quintar " QUINTAR_VERSION "\n");
-        return host::exitstatus::done;
-    }
     host::Command& command = commandNamed(commands, word);
     int qtArguments = 1;
     std::unique_ptr<QCoreApplication> application;

@@ -122,7 +122,8 @@ Document::Document(std::shared_ptr<ByteSource> source, std::string fileName, std
 bool Document::openSkeleton()
 {
     m_direct = DirectReader::open(m_source);
-    auto skeleton = m_direct ? m_direct->skeleton() : std::nullopt;
+    const bool numbersLeft = m_direct && m_direct->size() <= largestObjectNumber; // new ones follow the size
+    auto skeleton = numbersLeft ? m_direct->skeleton() : std::nullopt;
     if (!skeleton) {
         m_direct.reset();
         return false;

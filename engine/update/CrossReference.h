@@ -15,6 +15,9 @@ namespace engine {
 class DirectReader;
 class FileScan;
 
+/// Readers need not take larger object numbers, and some do not. A /Size that lies may be above.
+inline constexpr int largestObjectNumber = 8'388'607;
+
 /// What a further revision must know of a document's cross-reference: read from the bytes themselves, section
 /// by section along the chain, and not from libqpdf, which repairs without saying how much.
 class CrossReference

@@ -137,7 +137,9 @@ void IncrementalUpdate::writeTable()
 void IncrementalUpdate::writeStream()
 {
     const std::uint64_t start = nextOffset();
-    const int number = std::max(m_crossReference.size(), m_entries.rbegin()->first + 1);
+    const int free = m_crossReference.size() <= largestObjectNumber ? m_crossReference.size()
+                                                                    : m_crossReference.entryEnd();
+    const int number = std::max(free, m_entries.rbegin()->first + 1);
     m_entries.emplace(number, Entry{start, 0});
     const int offsetBytes = bytesFor(start);
     QPDFObjectHandle index = QPDFObjectHandle::newArray();

@@ -35,25 +35,6 @@ using namespace settingsfiles;
 const int mostEntries = 1 << 20;
 const int iconSide = 42;
 
-const char helpText[] =
-    R"(Usage: quintar configure [DOCUMENT] [--list|--favorite|--tool-settings FILE] [-o FILE]
-
-Shows the settings in a window. They start as the document opens now, or as the file has them; with both, the
-file counts. OK prints them as words for "quintar run", or writes them to a file; Cancel does nothing.
-
-Options:
-  --list FILE.xqq|NAME      starts from an entry of an action list
-  --entry N                 of its several entries the one that "quintar lists" shows in place N
-  --favorite FILE.ini|NAME  starts from a favourite
-  --tool-settings FILE.tsf  starts from a tool settings file
-  -o, --output FILE         writes to an action list (.xqq), a favourite (.ini) or a tool settings file (.tsf);
-                            where that is the file that the settings come from, the rest of it stays
-  --password P              opens an encrypted document
-  -h, --help                prints this text
-
-Exit status: 0 done, 1 cancelled or not written, 2 nothing was begun.
-)";
-
 OptionParser::Take append(std::vector<std::string>& values)
 {
     return [&values](const std::string& value) { values.push_back(value); };
@@ -99,13 +80,9 @@ QImage iconOf(CActionInterface& action)
 
 } // namespace
 
-int ConfigureCommand::run(int argc, char** argv)
+int ConfigureCommand::work(const std::vector<std::string>& words)
 {
-    parse(argc, argv);
-    if (m_help) {
-        printResult(helpText);
-        return exitstatus::done;
-    }
+    m_documents = words;
     check();
     readSettings();
     if (showDialog())
@@ -115,26 +92,20 @@ int ConfigureCommand::run(int argc, char** argv)
     return exitstatus::someFailed;
 }
 
-void ConfigureCommand::parse(int argc, char** argv)
+void ConfigureCommand::takeOptions(OptionParser& parser)
 {
-    OptionParser parser;
-    parser.addValue("list", append(m_lists));
-    parser.addValue("favorite", append(m_favorites));
-    parser.addValue("tool-settings", append(m_toolSettings));
-    parser.addValue("entry", [this](const std::string& value) {
+    parser.takeValue("list", append(m_lists));
+    parser.takeValue("favorite", append(m_favorites));
+    parser.takeValue("tool-settings", append(m_toolSettings));
+    parser.takeValue("entry", [this](const std::string& value) {
         m_entry = numberOption("--entry", value, 1, mostEntries);
     });
-    parser.addValue(
-        "output",
-        [this](const std::string& value) {
-            if (m_output)
-                throw UsageError("-o is given twice");
-            m_output.emplace(value);
-        },
-        'o');
-    parser.addValue("password", [this](const std::string& value) { m_password = value; });
-    parser.addFlag("help", m_help, 'h');
-    m_documents = parser.parse(argc, argv);
+    parser.takeValue("output", [this](const std::string& value) {
+        if (m_output)
+            throw UsageError("-o is given twice");
+        m_output.emplace(value);
+    });
+    parser.takeValue("password", [this](const std::string& value) { m_password = value; });
 }
 
 void ConfigureCommand::check() const

@@ -15,13 +15,14 @@ namespace host {
 class ConfigureCommand : public Command
 {
 public:
-    const char* name() const override { return "configure"; }
-    const char* summary() const override { return "make settings in a window"; }
+    options::CommandId id() const override { return options::CommandId::Configure; }
     bool showsWindows() const override { return true; }
-    int run(int argc, char** argv) override;
+
+protected:
+    void takeOptions(OptionParser& parser) override;
+    int work(const std::vector<std::string>& words) override;
 
 private:
-    void parse(int argc, char** argv);
     void check() const;
     void readSettings();
     void chooseEntry(const StoredSettings& list);
@@ -30,7 +31,6 @@ private:
     int print() const;
     int write() const;
 
-    bool m_help = false;
     std::vector<std::string> m_documents;
     std::vector<std::string> m_lists;
     std::vector<std::string> m_favorites;

@@ -21,19 +21,6 @@ namespace host {
 
 namespace {
 
-const char helpText[] =
-    R"(Usage: quintar lists [--json]
-
-Tells which action lists and favourites there are in the user's folders, and what they would do. "quintar run"
-takes them by their names, with --list and --favorite.
-
-Options:
-  --json      prints a JSON object a line about each
-  -h, --help  prints this text
-
-Exit status: 0 all well, 1 some cannot be read, 2 nothing was begun.
-)";
-
 bool isOurs(const ActionEntry& entry)
 {
     return entry.action == initialview::actionName;
@@ -135,23 +122,18 @@ private:
 
 } // namespace
 
-int ListsCommand::run(int argc, char** argv)
+void ListsCommand::takeOptions(OptionParser& parser)
 {
-    bool json = false;
-    bool help = false;
-    OptionParser parser;
-    parser.addFlag("json", json);
-    parser.addFlag("help", help, 'h');
-    const std::vector<std::string> words = parser.parse(argc, argv);
-    if (help) {
-        printResult(helpText);
-        return exitstatus::done;
-    }
+    parser.takeFlag("json", m_json);
+}
+
+int ListsCommand::work(const std::vector<std::string>& words)
+{
     if (!words.empty())
         throw UsageError("lists takes no names: " + words.front());
-    Listing listing(json);
+    Listing listing(m_json);
     listing.print(SettingsFolder::actionLists(), "Action lists");
-    listing.print(SettingsFolder::favorites(), json ? "" : "\nFavourites");
+    listing.print(SettingsFolder::favorites(), m_json ? "" : "\nFavourites");
     return listing.failed() ? exitstatus::someFailed : exitstatus::done;
 }
 

@@ -8,9 +8,14 @@ namespace host {
 class ListsCommand : public Command
 {
 public:
-    const char* name() const override { return "lists"; }
-    const char* summary() const override { return "tell which action lists and favourites there are"; }
-    int run(int argc, char** argv) override;
+    options::CommandId id() const override { return options::CommandId::Lists; }
+
+protected:
+    void takeOptions(OptionParser& parser) override;
+    int work(const std::vector<std::string>& words) override;
+
+private:
+    bool m_json = false;
 };
 
 } // namespace host

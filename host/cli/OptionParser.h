@@ -1,35 +1,44 @@
 #pragma once
 
+#include "host/options/OptionTable.h"
+
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
 namespace host {
 
-/// Reads a command's options with getopt_long: values and file names pass as the bytes that they are,
-/// whatever they look like, options and file names may be mixed, and "--" ends the options.
+/// Reads a command's options, those of the table, with getopt_long: values and file names pass as the bytes
+/// that they are, whatever they look like, options and file names may be mixed, and "--" ends the options.
 class OptionParser
 {
 public:
     using Take = std::function<void(const std::string& value)>;
 
-    /// An option that takes a value, --name VALUE or --name=VALUE.
-    void addValue(const char* name, Take take, char shortName = 0);
-    void addFlag(const char* name, bool& flag, char shortName = 0);
+    explicit OptionParser(const options::Command& command);
 
-    /// \returns the arguments that are no options. Throws UsageError.
+    /// Says who takes an option's value, or the flag when it is given. std::logic_error for an option that
+    /// the table does not have.
+    void takeValue(const std::string& name, Take take);
+    void takeFlag(const std::string& name, bool& flag);
+
+    /// \returns the arguments that are no options. Throws UsageError; std::logic_error when nobody takes one
+    /// of the options.
     std::vector<std::string> parse(int argc, char** argv);
 
-private:
-    struct Option
-    {
-        const char* name;
-        char shortName;
-        bool takesValue;
-        Take take;
-    };
+    /// The help that was asked for; empty when none was. Then the command is not to be run.
+    const std::string& help() const { return m_help; }
 
-    std::vector<Option> m_options;
+private:
+    void take(const std::string& name, bool isFlag, Take take);
+    [[noreturn]] void refuse(char** argv, int count) const;
+    [[noreturn]] void refuseName(const std::string& name) const;
+
+    const options::Command& m_command;
+    std::vector<options::Option> m_options;
+    std::map<std::string, Take> m_takers;
+    std::string m_help;
 };
 
 /// Parses a whole number within bounds; throws UsageError that names the option.

@@ -14,6 +14,7 @@
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
+#include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
@@ -34,50 +35,6 @@ namespace {
 const std::size_t largestPasswordFile = 64 << 10;
 const int leastMemory = 32;
 const int longestTimeout = 24 * 60 * 60;
-
-const char helpText[] =
-    R"(Usage: quintar run SETTINGS (-o DIR | --in-place) [OPTION ...] DOCUMENT|FOLDER ...
-
-Makes PDF documents open as the settings say. A folder stands for the PDF documents in it and its subfolders.
-A run never removes a byte: every result begins with the document's own bytes, or the document is refused;
-only --rewrite does otherwise.
-
-Settings, from one source:
-  --list FILE.xqq|NAME      an action list; its entries are applied in their order
-  --favorite FILE.ini|NAME  a favourite; "quintar lists" tells the names
-  --tool-settings FILE.tsf  a tool settings file
-  --set KEY=VALUE           one setting; may be repeated
-
-Where the results go:
-  -o, --output DIR          into a folder, made if it is missing; a document that needs no change is copied
-  --base DIR                with -o, documents keep their paths below this folder, however they are named
-  --in-place                in the documents' own places; one that needs no change is not touched
-
-Options:
-  --password P              opens encrypted documents; other users of the machine can see it in its list of
-                            processes
-  --password-file FILE      the same, kept in the first line of a file
-  --files-from FILE|-       takes further documents and folders from a file or standard input, one a line
-  --null                    the names in that list end with NUL instead
-  --report FILE.jsonl       writes a JSON object a line about each document
-  --resume FILE.jsonl       leaves out what the report of an earlier run lists as done, unless a file has changed
-                            since; may be the same file as --report, which is continued then
-  --signed refuse|append    what becomes of signed documents: refused (the default), or changed by an update
-                            behind what is signed
-  --rewrite                 with -o, a document to which nothing can be appended is written anew if nothing is lost
-                            by that; without it such a document is refused
-  --dry-run                 writes nothing and tells what would be changed
-  --sync                    with -o, flushes each document to the disk before the next; in place that is always so
-  --jobs N                  works on N documents at a time (default: the number of processors)
-  --timeout SECONDS         gives a document up after this time (default: 60)
-  --memory MIB              gives a document up that needs more memory (default: 1024)
-  --quiet                   prints failures and notes only
-  -h, --help                prints this text
-
-Exit status: 0 all well, 1 some documents failed, 2 nothing was begun, 130 stopped by a signal.
-
-Settings for --set; a row of a list can be given by its number or its text:
-)";
 
 std::string readLines(const std::string& path, std::size_t limit, const char* what)
 {
@@ -107,13 +64,15 @@ SignedDocuments signedDocuments(const std::string& value)
     if (value == "append")
         return SignedDocuments::Append;
     if (value != "refuse")
-        throw UsageError("--signed takes refuse or append, not \"" + value + "\"");
+        throw UsageError("--signed takes refuse or append, not \"" + value + "\"" +
+                         suggestion::didYouMean(value, {"refuse", "append"}));
     return SignedDocuments::Refuse;
 }
 
-/// Files may hold what no dialog offers; the action makes of it what it can.
-void noteOddNumbers(const SettingsMap& settings)
+/// What is odd about the numbers: files may hold what no dialog offers; the action makes of it what it can.
+std::vector<std::string> oddNumbers(const SettingsMap& settings)
 {
+    std::vector<std::string> found;
     for (const initialview::Key& key : initialview::keys) {
         const QVariant value = settings.value(key.name);
         bool whole = false;
@@ -122,21 +81,19 @@ void noteOddNumbers(const SettingsMap& settings)
             !value.isValid() || (key.name == initialview::key::OpenToPage && number < key.lowest);
         if (key.type == initialview::ValueType::Number && !unset &&
             (!whole || number < key.lowest || number > key.highest))
-            note(std::string(key.name) + " is " + value.toString().toStdString() + ", not a number from " +
-                 std::to_string(key.lowest) + " to " + std::to_string(key.highest));
+            found.push_back(std::string(key.name) + " is " + value.toString().toStdString() +
+                            ", not a number from " + std::to_string(key.lowest) + " to " +
+                            std::to_string(key.highest));
     }
+    return found;
 }
 
 } // namespace
 
-int RunCommand::run(int argc, char** argv)
+int RunCommand::work(const std::vector<std::string>& words)
 {
-    m_limits.workers = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
-    parse(argc, argv);
-    if (m_help) {
-        printResult(helpText + setoption::describeKeys());
-        return exitstatus::done;
-    }
+    m_inputs = words;
+    m_options.flush = m_options.flush || m_options.inPlace;
     check();
     readSettings();
     readPassword();
@@ -158,40 +115,37 @@ int RunCommand::run(int argc, char** argv)
     return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet, std::move(done)).run(m_limits);
 }
 
-void RunCommand::parse(int argc, char** argv)
+void RunCommand::takeOptions(OptionParser& parser)
 {
-    OptionParser parser;
-    parser.addValue("list", append(m_lists));
-    parser.addValue("favorite", append(m_favorites));
-    parser.addValue("tool-settings", append(m_toolSettings));
-    parser.addValue("set", append(m_settingWords));
-    parser.addValue("output", setOnce(m_outputFolder, "-o"), 'o');
-    parser.addValue("base", setOnce(m_base, "--base"));
-    parser.addFlag("in-place", m_options.inPlace);
-    parser.addValue("password", setOnce(m_password, "--password"));
-    parser.addValue("password-file", setOnce(m_passwordFile, "--password-file"));
-    parser.addValue("files-from", setOnce(m_fileList, "--files-from"));
-    parser.addFlag("null", m_nullSeparated);
-    parser.addValue("report", setOnce(m_reportFile, "--report"));
-    parser.addValue("resume", setOnce(m_resumedReport, "--resume"));
-    parser.addValue("signed",
-                    [this](const std::string& value) { m_options.signedDocuments = signedDocuments(value); });
-    parser.addFlag("rewrite", m_options.rewrite);
-    parser.addFlag("dry-run", m_options.dryRun);
-    parser.addFlag("sync", m_options.flush);
-    parser.addValue("jobs", [this](const std::string& value) {
+    m_limits.workers = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+    parser.takeValue("list", append(m_lists));
+    parser.takeValue("favorite", append(m_favorites));
+    parser.takeValue("tool-settings", append(m_toolSettings));
+    parser.takeValue("set", append(m_settingWords));
+    parser.takeValue("output", setOnce(m_outputFolder, "-o"));
+    parser.takeValue("base", setOnce(m_base, "--base"));
+    parser.takeFlag("in-place", m_options.inPlace);
+    parser.takeValue("password", setOnce(m_password, "--password"));
+    parser.takeValue("password-file", setOnce(m_passwordFile, "--password-file"));
+    parser.takeValue("files-from", setOnce(m_fileList, "--files-from"));
+    parser.takeFlag("null", m_nullSeparated);
+    parser.takeValue("report", setOnce(m_reportFile, "--report"));
+    parser.takeValue("resume", setOnce(m_resumedReport, "--resume"));
+    parser.takeValue(
+        "signed", [this](const std::string& value) { m_options.signedDocuments = signedDocuments(value); });
+    parser.takeFlag("rewrite", m_options.rewrite);
+    parser.takeFlag("dry-run", m_options.dryRun);
+    parser.takeFlag("sync", m_options.flush);
+    parser.takeValue("jobs", [this](const std::string& value) {
         m_limits.workers = numberOption("--jobs", value, 1, 1024);
     });
-    parser.addValue("timeout", [this](const std::string& value) {
+    parser.takeValue("timeout", [this](const std::string& value) {
         m_limits.timeoutSeconds = numberOption("--timeout", value, 1, longestTimeout);
     });
-    parser.addValue("memory", [this](const std::string& value) {
+    parser.takeValue("memory", [this](const std::string& value) {
         m_limits.memoryMiB = numberOption("--memory", value, leastMemory, 1 << 20);
     });
-    parser.addFlag("quiet", m_quiet);
-    parser.addFlag("help", m_help, 'h');
-    m_inputs = parser.parse(argc, argv);
-    m_options.flush = m_options.flush || m_options.inPlace;
+    parser.takeFlag("quiet", m_quiet);
 }
 
 void RunCommand::check() const
@@ -271,7 +225,8 @@ void RunCommand::readFileList()
 void RunCommand::warnOfSettingsWithoutEffect() const
 {
     for (const ActionEntry& entry : m_options.entries) {
-        noteOddNumbers(entry.settings);
+        for (const std::string& odd : oddNumbers(entry.settings))
+            note(odd);
         const bool layout = entry.settings.value(initialview::key::LayoutAndMagn).toBool();
         const bool viewer = entry.settings.value(initialview::key::ViewerPrefs).toBool();
         if (!layout && !viewer)
@@ -280,6 +235,12 @@ void RunCommand::warnOfSettingsWithoutEffect() const
                  entry.settings.value(initialview::key::OpenToPage).toInt() < initialview::firstPage)
             note("OpenToPageSpinBox is not set, so page and magnification stay as they are");
     }
+}
+
+void RunCommand::note(const std::string& text) const
+{
+    if (!m_quiet)
+        host::note(text);
 }
 
 bool RunCommand::continuesReport() const

@@ -18,24 +18,26 @@ class RunPlan;
 class RunCommand : public Command
 {
 public:
-    const char* name() const override { return "run"; }
-    const char* summary() const override { return "apply settings to documents"; }
-    int run(int argc, char** argv) override;
+    options::CommandId id() const override { return options::CommandId::Run; }
+
+protected:
+    void takeOptions(OptionParser& parser) override;
+    int work(const std::vector<std::string>& words) override;
 
 private:
-    void parse(int argc, char** argv);
     void readSettings();
     void readPassword();
     void readFileList();
     void check() const;
     void warnOfSettingsWithoutEffect() const;
+    /// Tells what may be a mistake, unless only failures are to be told.
+    void note(const std::string& text) const;
     RunPlan plan() const;
     /// What --resume leaves out.
     BatchRun::Done doneBefore(const RunPlan& plan) const;
     /// Whether --report and --resume name the same file.
     bool continuesReport() const;
 
-    bool m_help = false;
     bool m_quiet = false;
     bool m_nullSeparated = false;
     std::vector<std::string> m_lists;

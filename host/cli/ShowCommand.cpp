@@ -26,19 +26,6 @@ namespace host {
 
 namespace {
 
-const char helpText[] =
-    R"(Usage: quintar show [--json] [--password P] DOCUMENT ...
-
-Tells how each document opens: panel, layout, page, magnification and viewer preferences.
-
-Options:
-  --json        prints a JSON object a line about each document
-  --password P  opens encrypted documents
-  -h, --help    prints this text
-
-Exit status: 0 all well, 1 some documents cannot be read, 2 nothing was begun.
-)";
-
 // The first character of a worker's answer.
 const char readable = 'r';
 const char unreadable = 'u';
@@ -81,20 +68,14 @@ private:
 
 } // namespace
 
-int ShowCommand::run(int argc, char** argv)
+void ShowCommand::takeOptions(OptionParser& parser)
 {
-    bool json = false;
-    bool help = false;
-    std::string password;
-    OptionParser parser;
-    parser.addFlag("json", json);
-    parser.addFlag("help", help, 'h');
-    parser.addValue("password", [&](const std::string& value) { password = value; });
-    const std::vector<std::string> files = parser.parse(argc, argv);
-    if (help) {
-        printResult(helpText);
-        return exitstatus::done;
-    }
+    parser.takeFlag("json", m_json);
+    parser.takeValue("password", [this](const std::string& value) { m_password = value; });
+}
+
+int ShowCommand::work(const std::vector<std::string>& files)
+{
     if (files.empty())
         throw UsageError("which documents?");
     if (std::find(files.begin(), files.end(), "") != files.end())
@@ -102,7 +83,7 @@ int ShowCommand::run(int argc, char** argv)
 
     bool failed = false;
     StopSignal stop;
-    WorkerPool pool({}, [&] { return std::make_unique<ShowWorker>(files, password, json); });
+    WorkerPool pool({}, [&] { return std::make_unique<ShowWorker>(files, m_password, m_json); });
     pool.run(
         files.size(),
         [&](std::size_t index, const WorkOutcome& outcome) {

@@ -8,9 +8,15 @@ namespace host {
 class ShowCommand : public Command
 {
 public:
-    const char* name() const override { return "show"; }
-    const char* summary() const override { return "tell how documents open"; }
-    int run(int argc, char** argv) override;
+    options::CommandId id() const override { return options::CommandId::Show; }
+
+protected:
+    void takeOptions(OptionParser& parser) override;
+    int work(const std::vector<std::string>& words) override;
+
+private:
+    bool m_json = false;
+    std::string m_password;
 };
 
 } // namespace host

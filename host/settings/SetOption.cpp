@@ -1,5 +1,6 @@
 #include "SetOption.h"
 
+#include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
@@ -32,15 +33,20 @@ std::string choicesOf(const Key& key, const std::string& separator)
 
 [[noreturn]] void refuseKey(const std::string& name)
 {
-    std::string text = "unknown setting \"" + name + "\"; the settings are:";
-    for (const Key& key : initialview::keys)
-        text += std::string("\n  ") + key.name;
-    throw UsageError(text);
+    std::vector<std::string> names;
+    std::string list;
+    for (const Key& key : initialview::keys) {
+        names.emplace_back(key.name);
+        list += std::string("\n  ") + key.name;
+    }
+    throw UsageError("unknown setting \"" + name + "\"" + suggestion::didYouMean(name, names) +
+                     "\nthe settings are:" + list);
 }
 
 [[noreturn]] void refuseValue(const Key& key, const std::string& value)
 {
-    throw UsageError(std::string(key.name) + " cannot be \"" + value + "\"; it takes " +
+    throw UsageError(std::string(key.name) + " cannot be \"" + value + "\"" +
+                     suggestion::didYouMean(value, {key.rows.begin(), key.rows.end()}) + "\nit takes " +
                      choicesOf(key, "\n  "));
 }
 
@@ -126,8 +132,9 @@ std::string describeKeys()
         if (key.type == ValueType::Text)
             continue;
         const std::string name = key.name;
-        text += "  " + name + std::string(name.size() < nameWidth ? nameWidth - name.size() : 1, ' ') +
-                choicesOf(key, "\n      ") + "\n";
+        const std::string choices = choicesOf(key, "\n      ");
+        const std::string space(name.size() < nameWidth ? nameWidth - name.size() : 1, ' ');
+        text += "  " + name + (choices.starts_with('\n') ? "" : space) + choices + "\n";
     }
     return text;
 }

@@ -2,6 +2,7 @@
 
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
+#include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
 #include "shared/CUtils.h"
@@ -83,6 +84,14 @@ bool SettingsFolder::hasName(const std::string& file, const std::string& name) c
     }
 }
 
+std::vector<std::string> SettingsFolder::baseNames(const std::vector<std::string>& files) const
+{
+    std::vector<std::string> names;
+    for (const std::string& file : files)
+        names.push_back(baseName(file));
+    return names;
+}
+
 std::string SettingsFolder::namesOf(const std::vector<std::string>& files) const
 {
     std::string text;
@@ -113,8 +122,9 @@ std::string SettingsFolder::find(const std::string& pathOrName) const
     if (!found.empty())
         throw UsageError("more than one " + kind + " has the name " + pathOrName +
                          "; give the path of one, in " + m_path + ":" + namesOf(found));
-    throw UsageError(pathOrName + ": no such file, and no " + kind + " in " + m_path + " has this name; " +
-                     (all.empty() ? "there are none" : "there are:" + namesOf(all)));
+    throw UsageError(pathOrName + ": no such file, and no " + kind + " in " + m_path + " has this name" +
+                     suggestion::didYouMean(pathOrName, baseNames(all)) +
+                     (all.empty() ? "; there are none" : "\nthere are:" + namesOf(all)));
 }
 
 } // namespace host

@@ -40,6 +40,8 @@ private:
 
     SettingsFolder(const QString& path, const char* suffix, const char* kind, Describe describe);
     bool hasName(const std::string& file, const std::string& name) const;
+    /// Without their suffix.
+    std::vector<std::string> baseNames(const std::vector<std::string>& files) const;
     std::string namesOf(const std::vector<std::string>& files) const;
 
     std::string m_path;

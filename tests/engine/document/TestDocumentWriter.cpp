@@ -35,6 +35,7 @@ std::unique_ptr<Document> opened(const std::string& path)
 void change(Document& document)
 {
     document.catalog().replaceKey("/PageMode", QPDFObjectHandle::newName("/UseThumbs"));
+    document.catalog().replaceKey("/Left", QPDFObjectHandle::newReal(72.0, 2));
     document.markChanged(document.catalog());
 }
 
@@ -156,6 +157,14 @@ private slots:
             QVERIFY(!after->anyWarnings());
             bytes = contentOf(m_target);
         }
+    }
+
+    void numbersNewObjectsAsReadersTakeThem()
+    {
+        put(m_source, replaced(PdfBuilder::simple(), "/Size 6", "/Size 9000000"));
+        const auto document = opened(m_source);
+        const QPDFObjectHandle made = document->makeIndirect(QPDFObjectHandle::newArray());
+        QCOMPARE(QPDFObjectHandle(made).getObjectID(), 6);
     }
 
     void changesNothingThatIsInDoubt_data()

@@ -293,7 +293,7 @@ private slots:
     {
         const ProgramRun run = configureWithoutDisplay({"--help"});
         QCOMPARE(run.status, 0);
-        QVERIFY(run.out.startsWith("Usage: quintar configure"));
+        QVERIFY2(run.out.startsWith("quintar configure manual.pdf\n") && run.out.contains("Usage: quintar configure"), run.out);
     }
 
 private:

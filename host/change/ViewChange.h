@@ -1,0 +1,73 @@
+#pragma once
+
+#include "ViewEntries.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace host {
+
+/// The entry is taken away.
+struct Unset
+{
+    bool operator==(const Unset&) const = default;
+};
+
+/// The last page, whichever that is.
+struct LastPage
+{
+    bool operator==(const LastPage&) const = default;
+};
+
+/// The title is the name of the document's file, without its suffix.
+struct FileNameAsTitle
+{
+    bool operator==(const FileNameAsTitle&) const = default;
+};
+
+struct Magnification
+{
+    /// The library's destination type.
+    int type = 1;
+    /// 0 for none; only of type 1.
+    double percent = 0;
+
+    bool operator==(const Magnification&) const = default;
+};
+
+/// What an entry is set to. A number is a name's (ViewEntries), a flag's (0 or 1), a page's or a count; a
+/// text is UTF-8.
+using ViewValue = std::variant<Unset, int, Magnification, LastPage, FileNameAsTitle, std::string>;
+
+/// A change of how a document opens: which entries, and what they are set to. What it does not name stays as
+/// it is.
+class ViewChange
+{
+public:
+    bool isEmpty() const;
+    /// Nothing for what stays.
+    const std::optional<ViewValue>& operator[](ViewEntry entry) const;
+    void set(ViewEntry entry, ViewValue value);
+    /// The entry stays as it is.
+    void remove(ViewEntry entry);
+
+    /// Whether a title that is there stays.
+    bool keepsTitles() const { return m_keepsTitles; }
+    void keepTitles() { m_keepsTitles = true; }
+
+    /// Takes over what the other one names.
+    void add(const ViewChange& other);
+
+    /// What cannot be meant, in words that the user can act on; empty when nothing is wrong.
+    std::string contradiction() const;
+
+    bool operator==(const ViewChange&) const = default;
+
+private:
+    std::array<std::optional<ViewValue>, viewEntryCount> m_values;
+    bool m_keepsTitles = false;
+};
+
+} // namespace host

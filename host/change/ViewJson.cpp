@@ -1,0 +1,297 @@
+#include "ViewJson.h"
+
+#include "ViewValues.h"
+#include "host/files/FileDescriptor.h"
+#include "host/terminal/Suggestion.h"
+#include "host/terminal/UsageError.h"
+
+#include <QJsonDocument>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <cmath>
+
+namespace host::viewjson {
+
+namespace {
+
+using viewentries::Description;
+using viewentries::Kind;
+using Names = std::vector<std::string>;
+
+const std::size_t largestFile = 1 << 20;
+const char openAction[] = "openAction";
+const char preferences[] = "viewerPreferences";
+const char fromFileName[] = "titleFromFileName";
+const char ifMissing[] = "titleIfMissing";
+
+/// What stands in the object of a document besides its view.
+const Names facts{"file", "fileBytes", "pages", "encrypted", "signatures"};
+
+bool isPreference(const Description& entry)
+{
+    return entry.preference != 0;
+}
+
+bool isOfOpenAction(ViewEntry entry)
+{
+    return entry == ViewEntry::OpenPage || entry == ViewEntry::Zoom;
+}
+
+/// In the object of the document: keys of the catalog begin with a small letter there.
+QString nameOf(const Description& entry)
+{
+    QString name = entry.key;
+    name[0] = name[0].toLower();
+    return name;
+}
+
+QString textOf(const QJsonValue& value)
+{
+    return QString::fromUtf8(
+        QJsonDocument(QJsonObject{{"", value}}).toJson(QJsonDocument::Compact).mid(4).chopped(1));
+}
+
+[[noreturn]] void refuse(const QString& name, const QJsonValue& value, const std::string& why)
+{
+    throw UsageError(name.toStdString() + " cannot be " + textOf(value).toStdString() + ": it is " + why);
+}
+
+void requireKnown(const QString& name, const Names& known)
+{
+    if (std::find(known.begin(), known.end(), name.toStdString()) == known.end())
+        throw UsageError("unknown name \"" + name.toStdString() + "\"" +
+                         suggestion::didYouMean(name.toStdString(), known));
+}
+
+int wholeNumber(const QString& name, const QJsonValue& value)
+{
+    const double number = value.toDouble();
+    if (number < 1 || number > INT_MAX || number != std::floor(number))
+        refuse(name, value, "a whole number from 1");
+    return static_cast<int>(number);
+}
+
+/// Only ISO 32000's own names count here: the words of the command line are for people.
+int numberOfName(const QString& name, const QJsonValue& value, std::span<const viewentries::Name> names)
+{
+    Names known;
+    for (const viewentries::Name& each : names) {
+        if (value == QJsonValue(each.name))
+            return each.number;
+        known.emplace_back(each.name);
+    }
+    std::string choices = "one of";
+    for (const std::string& each : known)
+        choices += " " + each;
+    refuse(name, value, choices + suggestion::didYouMean(value.toString().toStdString(), known));
+}
+
+ViewValue textValue(const Description& entry, const QString& name, const QJsonValue& value)
+{
+    if (!value.isString())
+        refuse(name, value, "a text or null");
+    return viewvalues::parse(entry.entry, value.toString().toStdString());
+}
+
+ViewValue valueOf(const Description& entry, const QString& name, const QJsonValue& value)
+{
+    if (value.isNull())
+        return Unset();
+    switch (entry.kind) {
+    case Kind::Name:
+        return numberOfName(name, value, entry.names);
+    case Kind::Flag:
+        if (!value.isBool())
+            refuse(name, value, "true, false or null");
+        return value.toBool() ? 1 : 0;
+    case Kind::Count:
+        return wholeNumber(name, value);
+    default:
+        return textValue(entry, name, value);
+    }
+}
+
+ViewValue pageOf(const QJsonValue& value)
+{
+    if (value == QJsonValue("last"))
+        return LastPage();
+    return wholeNumber("page", value);
+}
+
+Magnification magnificationOf(const QJsonObject& object)
+{
+    Magnification zoom;
+    if (object.contains("type"))
+        zoom.type = numberOfName("type", object.value("type"), viewentries::magnifications());
+    const QJsonValue percent = object.value("zoom");
+    if (percent.isUndefined() || percent.isNull())
+        return zoom;
+    zoom.percent = percent.toDouble();
+    if (!(zoom.percent >= viewentries::lowestPercent && zoom.percent <= viewentries::highestPercent))
+        refuse("zoom", percent, "a percentage from 1 to 6400, or null");
+    if (zoom.type != Magnification().type)
+        refuse("zoom", percent, "null, for only the type XYZ has a percentage");
+    return zoom;
+}
+
+void parseOpenAction(const QJsonValue& value, ViewChange& change)
+{
+    if (value.isNull())
+        return change.set(ViewEntry::OpenPage, Unset());
+    if (!value.isObject())
+        refuse(openAction, value, "an object or null");
+    const QJsonObject object = value.toObject();
+    for (const QString& name : object.keys())
+        requireKnown(name, {"page", "type", "zoom", "name"});
+    if (object.contains("page"))
+        change.set(ViewEntry::OpenPage, pageOf(object.value("page")));
+    else if (object.contains("name"))
+        throw UsageError("openAction has no page; a named destination is given by its page");
+    if (object.contains("type") || object.contains("zoom"))
+        change.set(ViewEntry::Zoom, magnificationOf(object));
+}
+
+void parsePreferences(const QJsonValue& value, ViewChange& change)
+{
+    if (!value.isObject() && !value.isNull())
+        refuse(preferences, value, "an object or null");
+    const QJsonObject object = value.toObject();
+    Names known;
+    for (const Description& each : viewentries::all()) {
+        if (!isPreference(each))
+            continue;
+        known.emplace_back(each.key);
+        if (value.isNull())
+            change.set(each.entry, Unset());
+        else if (object.contains(each.key))
+            change.set(each.entry, valueOf(each, each.key, object.value(each.key)));
+    }
+    for (const QString& name : object.keys())
+        requireKnown(name, known);
+}
+
+bool flagOf(const QJsonObject& object, const char* name)
+{
+    const QJsonValue value = object.value(name);
+    if (!value.isUndefined() && !value.isBool())
+        refuse(name, value, "true or false");
+    return value.toBool();
+}
+
+/// Of the entries that stand in the object of the document itself.
+void parseEntries(const QJsonObject& object, ViewChange& change)
+{
+    Names known = facts;
+    known.insert(known.end(), {openAction, preferences, fromFileName, ifMissing});
+    for (const Description& each : viewentries::all()) {
+        if (isPreference(each) || isOfOpenAction(each.entry))
+            continue;
+        const QString name = nameOf(each);
+        known.push_back(name.toStdString());
+        if (object.contains(name))
+            change.set(each.entry, valueOf(each, name, object.value(name)));
+    }
+    for (const QString& name : object.keys())
+        requireKnown(name, known);
+}
+
+std::string contentOf(const std::string& path)
+{
+    const FileDescriptor file(path == "-" ? dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    std::string bytes;
+    if (!file.isOpen() || !readAll(file.get(), bytes, largestFile))
+        throw UsageError("the view " + path + " cannot be read: " + systemError(errno));
+    return bytes;
+}
+
+QJsonValue jsonOf(const Description& entry, const ViewValue& value)
+{
+    if (std::holds_alternative<Unset>(value))
+        return {};
+    const int* number = std::get_if<int>(&value);
+    if (number == nullptr)
+        return QString::fromStdString(viewvalues::wordOf(entry.entry, value));
+    if (entry.kind == Kind::Flag)
+        return *number != 0;
+    const viewentries::Name* name = viewvalues::nameOf(entry.names, *number);
+    return name != nullptr ? QJsonValue(name->name) : QJsonValue(*number);
+}
+
+QJsonValue openActionOf(const ViewChange& change)
+{
+    QJsonObject object;
+    if (const auto& page = change[ViewEntry::OpenPage]; page) {
+        if (std::holds_alternative<Unset>(*page))
+            return {};
+        object.insert("page", jsonOf(viewentries::describe(ViewEntry::OpenPage), *page));
+    }
+    if (const auto& zoom = change[ViewEntry::Zoom]; zoom) {
+        const auto& value = std::get<Magnification>(*zoom);
+        object.insert("type", viewvalues::nameOf(viewentries::magnifications(), value.type)->name);
+        object.insert("zoom", value.percent > 0 ? QJsonValue(value.percent) : QJsonValue());
+    }
+    return object;
+}
+
+} // namespace
+
+ViewChange parse(const QJsonObject& object)
+{
+    ViewChange change;
+    parseEntries(object, change);
+    if (object.contains(openAction))
+        parseOpenAction(object.value(openAction), change);
+    if (object.contains(preferences))
+        parsePreferences(object.value(preferences), change);
+    if (flagOf(object, fromFileName))
+        change.set(ViewEntry::Title, FileNameAsTitle());
+    if (flagOf(object, ifMissing))
+        change.keepTitles();
+    return change;
+}
+
+ViewChange readFile(const std::string& path)
+{
+    QJsonParseError problem;
+    const QJsonDocument document =
+        QJsonDocument::fromJson(QByteArray::fromStdString(contentOf(path)), &problem);
+    if (!document.isObject())
+        throw UsageError("the view " + path + " is not a JSON object" +
+                         (document.isNull() ? ": " + problem.errorString().toStdString() : ""));
+    try {
+        return parse(document.object());
+    } catch (const UsageError& error) {
+        throw UsageError("the view " + path + ": " + error.what());
+    }
+}
+
+QJsonObject write(const ViewChange& change)
+{
+    QJsonObject object;
+    QJsonObject preferenceObject;
+    for (const Description& each : viewentries::all()) {
+        const std::optional<ViewValue>& value = change[each.entry];
+        if (!value || isOfOpenAction(each.entry))
+            continue;
+        if (std::holds_alternative<FileNameAsTitle>(*value))
+            object.insert(fromFileName, true);
+        else if (isPreference(each))
+            preferenceObject.insert(each.key, jsonOf(each, *value));
+        else
+            object.insert(nameOf(each), jsonOf(each, *value));
+    }
+    if (change[ViewEntry::OpenPage] || change[ViewEntry::Zoom])
+        object.insert(openAction, openActionOf(change));
+    if (!preferenceObject.isEmpty())
+        object.insert(preferences, preferenceObject);
+    if (change.keepsTitles())
+        object.insert(ifMissing, true);
+    return object;
+}
+
+} // namespace host::viewjson

@@ -1,0 +1,246 @@
+#include "ViewValues.h"
+
+#include "LanguageTag.h"
+#include "host/terminal/Suggestion.h"
+#include "host/terminal/UsageError.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <climits>
+
+namespace host::viewvalues {
+
+namespace {
+
+using viewentries::Description;
+using viewentries::Kind;
+using viewentries::Name;
+
+/// The forms of an answer in which it is sure to be meant.
+std::string plain(const std::string& word)
+{
+    std::string text;
+    for (const char each : word)
+        if (each != '-')
+            text += each >= 'A' && each <= 'Z' ? static_cast<char>(each - 'A' + 'a') : each;
+    return text;
+}
+
+/// What the option takes besides words.
+std::string numbersOf(const Description& entry)
+{
+    switch (entry.kind) {
+    case Kind::Count:
+        return "a number from 1";
+    case Kind::Page:
+        return "a page's number from 1";
+    case Kind::Magnification:
+        return "a percentage from 1% to 6400%";
+    case Kind::Language:
+        return "a language tag, as \"en\" or \"pt-BR\"";
+    default:
+        return {};
+    }
+}
+
+std::string choicesOf(const Description& entry)
+{
+    std::string text = numbersOf(entry);
+    for (const std::string& word : viewentries::words(entry))
+        text += (text.empty() ? "" : ", ") + word;
+    return text;
+}
+
+[[noreturn]] void refuse(const Description& entry, const std::string& word)
+{
+    throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word + "\"" +
+                     suggestion::didYouMean(word, viewentries::words(entry)) +
+                     (entry.kind == Kind::Text ? "" : "\nit takes " + choicesOf(entry)));
+}
+
+template <class Number>
+std::optional<Number> numberFrom(const std::string& word)
+{
+    Number number = 0;
+    const char* end = word.data() + word.size();
+    const auto [rest, problem] = std::from_chars(word.data(), end, number);
+    return problem == std::errc() && rest == end ? std::optional(number) : std::nullopt;
+}
+
+int wholeNumber(const Description& entry, const std::string& word)
+{
+    const std::optional<int> number = numberFrom<int>(word);
+    if (!number || *number < 1)
+        refuse(entry, word);
+    return *number;
+}
+
+Magnification magnification(const Description& entry, const std::string& word)
+{
+    if (const Name* name = nameOf(viewentries::magnifications(), word))
+        return {name->number, 0};
+    const std::size_t digits = word.size() - (word.ends_with('%') ? 1 : 0);
+    const std::optional<double> percent = numberFrom<double>(word.substr(0, digits));
+    // Written so that no number at all is refused as well.
+    if (!percent || !(*percent >= viewentries::lowestPercent && *percent <= viewentries::highestPercent))
+        refuse(entry, word);
+    return {viewentries::magnifications().front().number, *percent};
+}
+
+int nameNumber(const Description& entry, const std::string& word)
+{
+    const Name* name = nameOf(entry.names, word);
+    if (name == nullptr)
+        refuse(entry, word);
+    return name->number;
+}
+
+int flag(const Description& entry, const std::string& word)
+{
+    const std::string answer = plain(word);
+    if (answer != "yes" && answer != "no")
+        refuse(entry, word);
+    return answer == "yes" ? 1 : 0;
+}
+
+ViewValue page(const Description& entry, const std::string& word)
+{
+    if (plain(word) == "last")
+        return LastPage();
+    return wholeNumber(entry, word);
+}
+
+ViewValue title(const Description& entry, const std::string& word)
+{
+    if (word.empty())
+        return Unset();
+    // What is no UTF-8 comes back as another character.
+    if (QString::fromStdString(word).toStdString() != word)
+        refuse(entry, word);
+    return word;
+}
+
+std::string language(const Description& entry, const std::string& word)
+{
+    if (!isLanguageTag(word))
+        refuse(entry, word);
+    return word;
+}
+
+/// The shortest text that reads as the same number.
+std::string percentOf(double percent)
+{
+    std::array<char, 32> text{};
+    const auto [end, problem] = std::to_chars(text.data(), text.data() + text.size(), percent);
+    return std::string(text.data(), end) + "%";
+}
+
+std::string wordOf(const Magnification& value)
+{
+    const Name* name = nameOf(viewentries::magnifications(), value.type);
+    return value.percent > 0 ? percentOf(value.percent) : name != nullptr ? name->word : "unknown";
+}
+
+std::string wordOf(const Description& entry, int number)
+{
+    if (entry.kind == Kind::Flag)
+        return number != 0 ? "yes" : "no";
+    if (entry.kind != Kind::Name)
+        return std::to_string(number);
+    const Name* name = nameOf(entry.names, number);
+    return name != nullptr ? name->word : "unknown";
+}
+
+} // namespace
+
+const Name* nameOf(std::span<const Name> names, int number)
+{
+    const auto found =
+        std::find_if(names.begin(), names.end(), [&](const Name& each) { return each.number == number; });
+    return found == names.end() ? nullptr : &*found;
+}
+
+const Name* nameOf(std::span<const Name> names, const std::string& word)
+{
+    const std::string wanted = plain(word);
+    const auto found = std::find_if(names.begin(), names.end(), [&](const Name& each) {
+        return wanted == plain(each.word) || wanted == plain(each.name) ||
+               (each.alias != nullptr && wanted == plain(each.alias));
+    });
+    return found == names.end() ? nullptr : &*found;
+}
+
+ViewValue parse(ViewEntry entry, const std::string& word)
+{
+    const Description& description = viewentries::describe(entry);
+    if (description.unsettable && plain(word) == "unset")
+        return Unset();
+    switch (description.kind) {
+    case Kind::Name:
+        return nameNumber(description, word);
+    case Kind::Flag:
+        return flag(description, word);
+    case Kind::Count:
+        return wholeNumber(description, word);
+    case Kind::Page:
+        return page(description, word);
+    case Kind::Magnification:
+        return magnification(description, word);
+    case Kind::Text:
+        return title(description, word);
+    case Kind::Language:
+        return language(description, word);
+    }
+    refuse(description, word);
+}
+
+std::string wordOf(ViewEntry entry, const ViewValue& value)
+{
+    const Description& description = viewentries::describe(entry);
+    if (const int* number = std::get_if<int>(&value))
+        return wordOf(description, *number);
+    if (const auto* zoom = std::get_if<Magnification>(&value))
+        return wordOf(*zoom);
+    if (const auto* text = std::get_if<std::string>(&value))
+        return *text;
+    if (std::holds_alternative<LastPage>(value))
+        return "last";
+    if (std::holds_alternative<FileNameAsTitle>(value))
+        return "the file's name";
+    return description.unsettable ? "unset" : "";
+}
+
+std::vector<std::string> optionsOf(const ViewChange& change)
+{
+    std::vector<std::string> options;
+    for (const Description& each : viewentries::all()) {
+        const std::optional<ViewValue>& value = change[each.entry];
+        if (!value)
+            continue;
+        if (std::holds_alternative<FileNameAsTitle>(*value)) {
+            options.emplace_back("--title-from-file-name");
+            continue;
+        }
+        options.push_back("--" + std::string(each.option));
+        options.push_back(wordOf(each.entry, *value));
+    }
+    if (change.keepsTitles())
+        options.emplace_back("--title-if-missing");
+    return options;
+}
+
+std::string inWords(const ViewChange& change)
+{
+    std::string text;
+    for (const Description& each : viewentries::all())
+        if (const std::optional<ViewValue>& value = change[each.entry])
+            text += viewentries::label(each.entry) + ": " + wordOf(each.entry, *value) +
+                    (each.entry == ViewEntry::Title && change.keepsTitles() ? " (where there is none)" : "") +
+                    "\n";
+    return text;
+}
+
+} // namespace host::viewvalues

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ViewChange.h"
+
+#include <string>
+#include <vector>
+
+/// View values in the words of the command line.
+namespace host::viewvalues {
+
+/// The value that a word gives an entry; a UsageError that names the choices for any other word. Names count
+/// in any case, and with or without hyphens.
+ViewValue parse(ViewEntry entry, const std::string& word);
+
+/// The word that `parse` takes for the value, and for a title that comes from the file's name what it is.
+std::string wordOf(ViewEntry entry, const ViewValue& value);
+
+/// The options of "quintar run" that make the change, a word each: "--page-mode", "use-outlines".
+std::vector<std::string> optionsOf(const ViewChange& change);
+
+/// What the change sets, a line each: "page mode: use-outlines".
+std::string inWords(const ViewChange& change);
+
+/// The name with this number, or with this word, alias or ISO 32000 name; null when there is none.
+const viewentries::Name* nameOf(std::span<const viewentries::Name> names, int number);
+const viewentries::Name* nameOf(std::span<const viewentries::Name> names, const std::string& word);
+
+} // namespace host::viewvalues

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+/// The title in XMP metadata, dc:title. Everything else of the packet stays as it is, character for
+/// character: its other properties, white space and padding.
+namespace host::xmptitle {
+
+/// The title in the default language, else the first one; nothing where there is none or the text is no XMP.
+std::optional<QString> read(const QString& packet);
+
+/// The packet with this title in the default language; titles in other languages stay. An empty title takes
+/// dc:title away. Nothing where the text is no XMP that can be changed.
+std::optional<QString> write(const QString& packet, const QString& title);
+
+} // namespace host::xmptitle

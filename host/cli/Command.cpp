@@ -1,0 +1,21 @@
+#include "Command.h"
+
+#include "OptionParser.h"
+
+#include "host/terminal/ExitStatus.h"
+#include "host/terminal/StandardOutput.h"
+
+namespace host {
+
+int Command::run(int argc, char** argv)
+{
+    OptionParser parser(options::command(id()));
+    takeOptions(parser);
+    const std::vector<std::string> words = parser.parse(argc, argv);
+    if (parser.help().empty())
+        return work(words);
+    printResult(parser.help());
+    return exitstatus::done;
+}
+
+} // namespace host

@@ -1,0 +1,224 @@
+#include "OptionTable.h"
+
+#include <algorithm>
+
+namespace host::options {
+
+namespace {
+
+using enum CommandId;
+using enum Completes;
+
+const bool common = true;
+const bool rare = false;
+
+// clang-format off
+const std::vector<Option> commonRows{
+    {"help", 'h', "", "prints the most common options", "", Nothing, {}, {}, Group::Output, rare},
+    {"help-all", 0, "", "prints all options", "", Nothing, {}, {}, Group::Output, rare},
+};
+
+const std::vector<Option> optionRows{
+    {"list", 0, "FILE|NAME", "an action list (.xqq), by its file or its name",
+     "its entries are applied in their order; \"quintar lists\" tells the names",
+     Files, {"xqq"}, {Run}, Group::Source, common},
+    {"favorite", 0, "FILE|NAME", "a favourite (.ini), by its file or its name", "",
+     Files, {"ini"}, {Run}, Group::Source, common},
+    {"tool-settings", 0, "FILE", "a tool settings file (.tsf)", "",
+     Files, {"tsf"}, {Run}, Group::Source, rare},
+    {"set", 0, "KEY=VALUE", "one setting of the action; may be repeated",
+     "of two values for one key the last counts",
+     Nothing, {}, {Run}, Group::Source, rare},
+
+    {"list", 0, "FILE|NAME", "starts from an entry of an action list (.xqq)", "",
+     Files, {"xqq"}, {Configure}, Group::Source, common},
+    {"entry", 0, "N", "of its several entries the one in place N of \"quintar lists\"", "",
+     Nothing, {}, {Configure}, Group::Source, common},
+    {"favorite", 0, "FILE|NAME", "starts from a favourite (.ini)", "",
+     Files, {"ini"}, {Configure}, Group::Source, common},
+    {"tool-settings", 0, "FILE", "starts from a tool settings file (.tsf)", "",
+     Files, {"tsf"}, {Configure}, Group::Source, common},
+
+    {"output", 'o', "DIR", "puts the results into this folder, made if it is missing",
+     "a document that needs no change is copied",
+     Folders, {}, {Run}, Group::Target, common},
+    {"base", 0, "DIR", "with -o, keeps the documents' paths below this folder",
+     "those of documents that are named by themselves as well",
+     Folders, {}, {Run}, Group::Target, rare},
+    {"in-place", 0, "", "changes the documents in their own places",
+     "one that needs no change is not touched",
+     Nothing, {}, {Run}, Group::Target, common},
+    {"output", 'o', "FILE", "writes an action list, a favourite or tool settings",
+     "the suffix says which: .xqq, .ini, .tsf; where it is the file that the settings come from, the rest of "
+     "it stays",
+     Files, {"xqq", "ini", "tsf"}, {Configure}, Group::Target, common},
+
+    {"password", 0, "P", "opens encrypted documents",
+     "other users of the machine can see it in its list of processes",
+     Nothing, {}, {Run}, Group::Documents, rare},
+    {"password", 0, "P", "opens encrypted documents", "",
+     Nothing, {}, {Show, Configure}, Group::Documents, common},
+    {"password-file", 0, "FILE", "the same, from the first line of a file", "",
+     Files, {}, {Run}, Group::Documents, rare},
+    {"files-from", 0, "FILE|-", "takes further documents from a list, one a line",
+     "- is standard input",
+     Files, {}, {Run}, Group::Documents, common},
+    {"null", 0, "", "the names in that list end with NUL instead", "",
+     Nothing, {}, {Run}, Group::Documents, rare},
+
+    {"signed", 0, "HOW", "what becomes of signed documents",
+     "refused (the default), or changed by an update behind what is signed",
+     Words, {"refuse", "append"}, {Run}, Group::Signed, rare},
+
+    {"rewrite", 0, "", "with -o, writes documents anew that cannot be appended to",
+     "if nothing is lost by that; without it such a document is refused",
+     Nothing, {}, {Run}, Group::Work, rare},
+    {"dry-run", 'n', "", "writes nothing and tells what would be changed", "",
+     Nothing, {}, {Run}, Group::Work, common},
+    {"jobs", 'j', "N", "works on N documents at a time",
+     "by default as many as there are processors",
+     Nothing, {}, {Run}, Group::Work, common},
+    {"timeout", 0, "SECONDS", "gives a document up after this time (default: 60)", "",
+     Nothing, {}, {Run}, Group::Work, rare},
+    {"memory", 0, "MIB", "gives a document up that needs more memory (default: 1024)", "",
+     Nothing, {}, {Run}, Group::Work, rare},
+    {"sync", 0, "", "with -o, flushes each document to the disk before the next",
+     "in place that is always so",
+     Nothing, {}, {Run}, Group::Work, rare},
+
+    {"report", 0, "FILE", "writes a JSON object a line about each document", "",
+     Files, {"jsonl"}, {Run}, Group::Output, common},
+    {"resume", 0, "FILE", "leaves out what an earlier run's report lists as done",
+     "what has changed since is done again; it may be the same file as --report, which is continued then",
+     Files, {"jsonl"}, {Run}, Group::Output, rare},
+    {"quiet", 'q', "", "prints failures only", "no notes either",
+     Nothing, {}, {Run}, Group::Output, common},
+    {"json", 0, "", "prints a JSON object a line", "",
+     Nothing, {}, {Show, Lists}, Group::Output, common},
+};
+
+const std::vector<Command> commandRows{
+    {Run, "run", "change how documents open", "SETTINGS (-o DIR | --in-place) DOCUMENT|FOLDER ...",
+     "Makes PDF documents open as the settings say. A folder stands for the PDF documents in it and its "
+     "subfolders.",
+     {{"quintar run --list \"Monthly reports\" -o changed/ manuals/", "apply a stored action list to a folder"},
+      {"quintar run --favorite Slides --in-place talk.pdf", "change a document in its own place"},
+      {"quintar run --list manuals.xqq --in-place -n manuals/", "see what would be changed"}},
+     {{0, "all well"},
+      {1, "some documents failed, or the report could not be written to its end"},
+      {2, "nothing was begun"},
+      {130, "stopped by a signal"}},
+     true},
+    {Show, "show", "tell how documents open", "DOCUMENT ...",
+     "Tells how each document opens: panel, layout, page, magnification and viewer preferences.",
+     {{"quintar show manual.pdf", "how a document opens, in words"},
+      {"quintar show --json manuals/*.pdf", "the same as JSON, an object a line"},
+      {"quintar show --password secret report.pdf", "of an encrypted document"}},
+     {{0, "all well"}, {1, "some documents cannot be read"}, {2, "nothing was begun"}},
+     true},
+    {Configure, "configure", "make settings in a window", "[DOCUMENT]",
+     "Shows the settings in a window. They start as the document opens now, or as the file has them; with "
+     "both, the file counts. OK prints them as words for \"quintar run\", or writes them to a file; Cancel "
+     "does nothing.",
+     {{"quintar configure manual.pdf", "start as a document opens"},
+      {"quintar configure --list \"Monthly reports\" -o reports.xqq", "store them as an action list"},
+      {"quintar run $(quintar configure manual.pdf) -o changed/ manuals/", "run what is chosen"}},
+     {{0, "printed or written"}, {1, "cancelled or not written"}, {2, "no window was shown"}},
+     true},
+    {Lists, "lists", "tell the stored action lists and favourites", "",
+     "Tells which action lists and favourites there are in the user's folders, and what they would do. "
+     "\"quintar run\" takes them by their names, with --list and --favorite.",
+     {{"quintar lists", "names and settings, in words"},
+      {"quintar lists --json", "the same as JSON, an object a line"},
+      {"quintar run --list \"Monthly reports\" -o changed/ manuals/", "use one by its name"}},
+     {{0, "all well"}, {1, "some cannot be read"}, {2, "nothing was begun"}},
+     false},
+};
+// clang-format on
+
+} // namespace
+
+bool Option::isOf(CommandId command) const
+{
+    return std::find(commands.begin(), commands.end(), command) != commands.end();
+}
+
+std::string Option::form() const
+{
+    return (letter != 0 ? std::string("-") + letter + ", " : "") + "--" + name +
+           (value.empty() ? "" : " " + value);
+}
+
+std::string Option::rest() const
+{
+    std::string text = more;
+    if (completes != Completes::Words || value.find('|') != std::string::npos) // where the value says them
+        return text;
+    text += (text.empty() ? "" : "; ") + value + " is ";
+    for (const std::string& word : words)
+        text += (&word == &words.front() ? "" : &word == &words.back() ? " or " : ", ") + word;
+    return text;
+}
+
+const std::vector<Command>& commands()
+{
+    return commandRows;
+}
+
+const Command& command(CommandId id)
+{
+    return commandRows.at(static_cast<std::size_t>(id));
+}
+
+const Command* findCommand(const std::string& name)
+{
+    const auto found = std::find_if(commandRows.begin(), commandRows.end(),
+                                    [&](const Command& each) { return each.name == name; });
+    return found == commandRows.end() ? nullptr : &*found;
+}
+
+std::vector<std::string> commandNames()
+{
+    std::vector<std::string> names;
+    for (const Command& each : commandRows)
+        names.push_back(each.name);
+    return names;
+}
+
+const std::vector<Option>& commonOptions()
+{
+    return commonRows;
+}
+
+std::vector<Option> optionsOf(CommandId command)
+{
+    std::vector<Option> options;
+    std::copy_if(optionRows.begin(), optionRows.end(), std::back_inserter(options),
+                 [&](const Option& each) { return each.isOf(command); });
+    std::stable_sort(options.begin(), options.end(),
+                     [](const Option& one, const Option& other) { return one.group < other.group; });
+    return options;
+}
+
+const char* titleOf(Group group)
+{
+    switch (group) {
+    case Group::Source:
+        return "Settings";
+    case Group::View:
+        return "View";
+    case Group::Target:
+        return "Results";
+    case Group::Documents:
+        return "Documents";
+    case Group::Signed:
+        return "Signed documents";
+    case Group::Work:
+        return "Work";
+    case Group::Output:
+        return "Output";
+    }
+    return "";
+}
+
+} // namespace host::options

@@ -1,0 +1,106 @@
+// What people mistype, and the answer that leads them on.
+#include "support/PdfBuilder.h"
+#include "support/ProgramRun.h"
+#include "support/Rows.h"
+#include "support/TemporaryHome.h"
+#include "support/WorkFolder.h"
+
+#include <QtTest>
+
+class TestMistakes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void areAnswered_data()
+    {
+        const Rows<QString, QByteArray> add;
+        const auto row = [&add](const char* words, const char* answer) { add(words, words, answer); };
+        row("rnu a.pdf", "unknown command \"rnu\"; did you mean \"run\"?");
+        row("list", "unknown command \"list\"; did you mean \"lists\"?");
+        row("config a.pdf", "did you mean \"configure\"?");
+        row("help shwo", "did you mean \"show\"?");
+        row("a.pdf", "\"quintar --help\" lists the commands");
+        row("run --ouput x a.pdf", "unknown option --ouput; did you mean \"--output\"?");
+        row("run --inplace a.pdf", "did you mean \"--in-place\"?");
+        row("run --favourite x a.pdf", "did you mean \"--favorite\"?");
+        row("run -report x a.pdf", "unknown option -r; did you mean \"--report\"?");
+        row("run -x a.pdf", "unknown option -x\n");
+        row("run --wombat a.pdf", "unknown option --wombat; \"quintar run --help-all\" lists the options");
+        row("run --re x a.pdf", "--re may be one of --rewrite, --report, --resume");
+        row("run --in-place=yes a.pdf", "the option --in-place takes no value");
+        row("run a.pdf --jobs", "the option --jobs needs a value");
+        row("run a.pdf -nj", "the option -j needs a value");
+        row("run --jobs many --in-place a.pdf --list x",
+            "--jobs takes a number from 1 to 1024, not \"many\"");
+        row("run --signed apend --in-place a.pdf --list x", "did you mean \"append\"?");
+        row("run -n --in-place a.pdf", "which settings?");
+        row("run -n a.pdf --list x", "where to?");
+        row("run --in-place -n --set ShowCombo=1 a.pdf",
+            "unknown setting \"ShowCombo\"; did you mean \"ShowComboBox\"?");
+        row("run --in-place -n --set HideToolbarsCheckBox=1 a.pdf", "did you mean \"HideToobarsCheckBox\"?");
+        row("run --in-place -n --set ShowComboBox=DocumentTitel a.pdf", "did you mean \"Document Title\"?");
+        row("run --in-place -n --list Manual a.pdf", "did you mean \"manuals\"?");
+        row("show --jsn a.pdf", "did you mean \"--json\"?");
+        row("show", "which documents?");
+        row("show --in-place a.pdf",
+            "unknown option --in-place; \"quintar show --help-all\" lists the options");
+        row("configure --output-file x", "did you mean \"--output\"?");
+        row("lists manuals", "lists takes no names: manuals");
+    }
+
+    void areAnswered()
+    {
+        const auto [words, answer] = Rows<QString, QByteArray>::current();
+        const ProgramRun run(PROGRAM_FILE, words.split(' '), m_folder.path());
+        QCOMPARE(run.status, 2);
+        QVERIFY2(run.err.contains(answer), run.err);
+    }
+
+    void initTestCase()
+    {
+        WorkFolder::put("a.pdf", PdfBuilder::simple());
+        QVERIFY(QFile::copy(TEST_DATA_DIR "/manuals.xqq", TemporaryHome::actionList("manuals.xqq")));
+    }
+
+    void shortOptionsStandForLongOnes()
+    {
+        const QStringList settings{"--set", "ViewerPrefsCheckBox=1", "--set", "HideMenuBarCheckBox=1"};
+        const ProgramRun dry(PROGRAM_FILE, QStringList{"run", "-nqj2", "-o", "out", "a.pdf"} + settings,
+                             m_folder.path());
+        QCOMPARE(dry.status, 0);
+        QCOMPARE(dry.out + dry.err, QByteArray());
+        QVERIFY(!QFile::exists("out"));
+    }
+
+    // A nightly job mails what is printed.
+    void quietMeansNoNotes()
+    {
+        QVERIFY(QDir(m_folder.path()).mkpath("empty"));
+        const QStringList words{"run", "--in-place", "empty", "--set", "LayoutAndMagnCheckBox=0"};
+        const ProgramRun loud(PROGRAM_FILE, words, m_folder.path());
+        QCOMPARE(loud.err.count("note: "), 2);
+        const ProgramRun quiet(PROGRAM_FILE, words + QStringList{"-q"}, m_folder.path());
+        QCOMPARE(quiet.status, 0);
+        QCOMPARE(quiet.out + quiet.err, QByteArray());
+    }
+
+    void helpIsFoundInManyWays()
+    {
+        const auto out = [this](const QStringList& words) {
+            const ProgramRun run(PROGRAM_FILE, words, m_folder.path());
+            return run.status == 0 ? run.out : QByteArray();
+        };
+        QVERIFY(out({"run", "--help"}).startsWith("quintar run "));
+        QCOMPARE(out({"help", "run"}), out({"run", "-h"}));
+        QCOMPARE(out({"help"}), out({"--help"}));
+        QVERIFY(out({"run", "--help-all"}).contains("HideToobarsCheckBox"));
+    }
+
+private:
+    TemporaryHome m_home;
+    WorkFolder m_folder;
+};
+
+QTEST_GUILESS_MAIN(TestMistakes)
+#include "TestMistakes.moc"
