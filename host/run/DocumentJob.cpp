@@ -47,6 +47,8 @@ std::string DocumentResult::toRecord() const
         .add(fileState)
         .add(outputState)
         .add(note)
+        .add(stateBefore)
+        .add(checksumBefore)
         .bytes();
 }
 
@@ -55,18 +57,16 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     RecordReader reader(record);
     const std::int64_t status = reader.number();
     const std::int64_t saved = reader.number();
-    std::string reason = reader.text();
-    const std::int64_t milliseconds = reader.number();
-    std::string fileState = reader.text();
-    std::string outputState = reader.text();
-    std::string note = reader.text();
+    DocumentResult result{static_cast<Status>(status), static_cast<Saved>(saved), reader.text()};
+    result.milliseconds = reader.number();
+    result.fileState = reader.text();
+    result.outputState = reader.text();
+    result.note = reader.text();
+    result.stateBefore = reader.text();
+    result.checksumBefore = reader.text();
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);
-    if (!reader.complete() || !known)
-        return std::nullopt;
-    return DocumentResult{
-        static_cast<Status>(status), static_cast<Saved>(saved), std::move(reason), milliseconds,
-        std::move(fileState),        std::move(outputState),    std::move(note)};
+    return reader.complete() && known ? std::optional(result) : std::nullopt;
 }
 
 } // namespace host

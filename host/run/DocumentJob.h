@@ -30,7 +30,7 @@ struct DocumentResult
     Status status = Status::Failed;
     Saved saved = Saved::Not;
     /// Why it failed; UTF-8, may hold bytes of file names.
-    std::string reason;
+    std::string reason = {};
     std::int64_t milliseconds = 0;
     /// Of the document as it was read and of the output, see FileState.h; in place both are the document as
     /// it is now. Empty for a document that failed, and when nothing was to be written.
@@ -38,6 +38,10 @@ struct DocumentResult
     std::string outputState = {};
     /// What the user should know of a document that did not fail; may be empty.
     std::string note = {};
+    /// Of a document that an update was appended to in place, with a report: its state before, and the
+    /// checksum (Checksum.h) of all that stood before the update. By these the update can be taken back.
+    std::string stateBefore = {};
+    std::string checksumBefore = {};
 
     static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;

@@ -2,6 +2,7 @@
 
 #include "FileState.h"
 #include "host/change/ViewChanger.h"
+#include "host/files/Checksum.h"
 #include "host/files/FileAttributes.h"
 #include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
@@ -99,17 +100,26 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     m_library.SelectDocument(document);
     DocumentResult result = applyAndSave(job);
     m_library.RemoveDocument(document);
-    if (result.status != Status::Failed && !m_options.dryRun)
-        tellStates(result, stateOf(job.target));
     return result;
 }
 
-void DocumentProcessor::tellStates(DocumentResult& result, const std::string& outputState) const
+/// \param output the file that is, or is about to be, in the target's place.
+void DocumentProcessor::tellStates(DocumentResult& result, const struct stat& output) const
 {
-    if (!m_options.tellStates)
+    if (!m_options.tellStates || m_options.dryRun)
         return;
-    result.outputState = outputState;
-    result.fileState = m_options.inPlace ? outputState : stateOf(m_original);
+    result.outputState = stateOf(output);
+    result.fileState = m_options.inPlace ? result.outputState : stateOf(m_original);
+}
+
+/// What it takes to take an update back. \returns why that cannot be told; empty when all is well.
+std::string DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int source) const
+{
+    if (!m_options.tellStates || !m_options.inPlace || result.saved != Saved::Appended)
+        return {};
+    result.stateBefore = stateOf(m_original);
+    result.checksumBefore = checksumOf(source, m_original.st_size);
+    return result.checksumBefore.empty() ? systemError(errno) : std::string();
 }
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
@@ -122,11 +132,17 @@ DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
     } else if (!applyEntries())
         return DocumentResult::failed(m_errors.GetLast().toStdString());
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
-        return m_options.inPlace || m_options.dryRun ? DocumentResult{Status::Unchanged, Saved::Not, {}, 0}
-                                                     : copy(job);
+        return m_options.inPlace || m_options.dryRun ? leave() : copy(job);
     if (std::string reason = refusal(); !reason.empty())
         return DocumentResult::failed(reason);
     return m_options.dryRun ? tryOut() : save(job);
+}
+
+DocumentResult DocumentProcessor::leave() const
+{
+    DocumentResult result{Status::Unchanged};
+    tellStates(result, m_original);
+    return result;
 }
 
 bool DocumentProcessor::applyEntries()
@@ -160,7 +176,7 @@ DocumentResult DocumentProcessor::tryOut()
         return libraryFailure(notRewritten);
     if (code != 0 && !rewriting)
         return notAppended(code);
-    return {Status::Changed, Saved::Not, {}, 0};
+    return {Status::Changed};
 }
 
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
@@ -176,7 +192,7 @@ DocumentResult DocumentProcessor::write(const DocumentJob& job)
 {
     const std::wstring target = engine::wideFromFileName(job.temporary);
     if (m_library.AppendToFile(target) != 0)
-        return {Status::Changed, Saved::Appended, {}, 0};
+        return {Status::Changed, Saved::Appended};
     const int code = m_library.LastErrorCode();
     if (m_options.rewrite && engine::cannotAppend(static_cast<engine::ErrorCode>(code)))
         return rewrite(job);
@@ -187,7 +203,7 @@ DocumentResult DocumentProcessor::rewrite(const DocumentJob& job)
 {
     if (m_library.SaveToFile(engine::wideFromFileName(job.temporary)) == 0)
         return libraryFailure(notRewritten);
-    return {Status::Changed, Saved::Rewritten, {}, 0};
+    return {Status::Changed, Saved::Rewritten};
 }
 
 DocumentResult DocumentProcessor::copy(const DocumentJob& job)
@@ -196,39 +212,45 @@ DocumentResult DocumentProcessor::copy(const DocumentJob& job)
     std::string problem = SafeOutput::makeFolder(SafeOutput::folderOf(job.target));
     if (problem.empty())
         problem = copyFile(job.source, job.temporary);
-    return problem.empty() ? commit(output, job, {Status::Unchanged, Saved::Copied, {}, 0})
+    return problem.empty() ? commit(output, job, {Status::Unchanged, Saved::Copied})
                            : DocumentResult::failed(problem);
 }
 
 /// Puts the new file in its place, unless the document is no longer the one that was read.
-DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& job,
-                                         const DocumentResult& result)
+DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& job, DocumentResult result)
 {
     const FileDescriptor source = openRegularFile(job.source);
+    if (!source.isOpen())
+        return sourceChanged();
+    if (const std::string problem = tellWhatStoodBefore(result, source.get()); !problem.empty())
+        return DocumentResult::failed(problem);
     struct stat now;
-    if (!source.isOpen() || fstat(source.get(), &now) != 0 || !isSameState(now, m_original))
-        return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
+    if (fstat(source.get(), &now) != 0 || !isSameState(now, m_original))
+        return sourceChanged();
     const auto beforeRename = [&](const struct stat& finished, const std::string& note) {
-        DocumentResult placed = result;
-        placed.milliseconds = millisecondsTaken();
-        placed.note = note;
-        tellStates(placed, stateOf(finished));
-        (*m_beforePlacement)({placed, finished});
+        result.milliseconds = millisecondsTaken();
+        result.note = note;
+        tellStates(result, finished);
+        (*m_beforePlacement)({result, finished});
     };
     const auto take = m_options.inPlace ? FileAttributes::Take::All : FileAttributes::Take::ForCopy;
     const SafeOutput::Outcome outcome =
         output.commit(FileAttributes(source.get(), take), m_options.flush, beforeRename);
     if (!outcome.problem.empty())
         return DocumentResult::failed(outcome.problem);
-    DocumentResult placed = result;
-    placed.note = outcome.note;
-    return placed;
+    result.note = outcome.note;
+    return result;
 }
 
 DocumentResult DocumentProcessor::notAppended(int code)
 {
     m_wornOut = m_wornOut || isCode(code, engine::ErrorCode::OutOfMemory);
     return DocumentResult::failed(whyNotAppended(code));
+}
+
+DocumentResult DocumentProcessor::sourceChanged()
+{
+    return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
 }
 
 DocumentResult DocumentProcessor::libraryFailure(const std::string& what)

@@ -41,7 +41,7 @@ struct ProcessingOptions
     bool dryRun = false;
     /// Every output is flushed to the disk before it takes its place.
     bool flush = false;
-    /// The result tells the states of the files, for a report.
+    /// The result tells the states of the files, for a report, and what it takes to undo a change in place.
     bool tellStates = false;
 };
 
@@ -74,8 +74,10 @@ private:
     void bracket(Bracket call);
     DocumentResult work(const DocumentJob& job);
     std::int64_t millisecondsTaken() const;
-    void tellStates(DocumentResult& result, const std::string& outputState) const;
+    void tellStates(DocumentResult& result, const struct stat& output) const;
+    std::string tellWhatStoodBefore(DocumentResult& result, int source) const;
     DocumentResult applyAndSave(const DocumentJob& job);
+    DocumentResult leave() const;
     bool applyEntries();
     std::string refusal();
     DocumentResult tryOut();
@@ -83,7 +85,8 @@ private:
     DocumentResult write(const DocumentJob& job);
     DocumentResult rewrite(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);
-    DocumentResult commit(SafeOutput& output, const DocumentJob& job, const DocumentResult& result);
+    DocumentResult commit(SafeOutput& output, const DocumentJob& job, DocumentResult result);
+    static DocumentResult sourceChanged();
     DocumentResult notAppended(int code);
     DocumentResult libraryFailure(const std::string& what = {});
 

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <csignal>
 #include <functional>
 #include <optional>
@@ -561,6 +562,8 @@ private slots:
             QVERIFY(crashed.value(state).toString().contains(" bytes, "));
         for (const char* own : {"file", "output", "fileState", "outputState", "milliseconds"})
             QVERIFY(!crashed.take(own).isNull() && !good.take(own).isNull());
+        for (QJsonObject* line : {&crashed, &good})
+            QCOMPARE(line->take("undo").isObject(), folder == "in");
         QCOMPARE(crashed, good);
     }
 
@@ -589,7 +592,7 @@ private slots:
             put(name);
         QProcess stopped;
         start(stopped, {"--jobs", "1", "--in-place", "--report", "report", "few"});
-        QVERIFY(waitFor([] { return fs::exists("report") && fs::file_size("report") > 0; }));
+        QVERIFY(waitFor([] { return !report().isEmpty(); }));
         ::kill(pid_t(stopped.processId()), SIGTERM);
         QVERIFY(stopped.waitForFinished());
         QVERIFY(stopped.readAllStandardOutput().endsWith(
@@ -768,9 +771,14 @@ private:
         }
     }
 
-    QList<QJsonObject> report() const
+    /// What became of the documents.
+    static QList<QJsonObject> report()
     {
-        return ProgramRun::jsonLines(QByteArray::fromStdString(WorkFolder::contentOf("report")));
+        QList<QJsonObject> lines =
+            ProgramRun::jsonLines(QByteArray::fromStdString(WorkFolder::contentOf("report")));
+        const auto isBegun = [](const QJsonObject& line) { return line.value("status") == "begun"; };
+        lines.erase(std::remove_if(lines.begin(), lines.end(), isBegun), lines.end());
+        return lines;
     }
 
     /// Temporary files that should have gone.
