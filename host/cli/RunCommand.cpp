@@ -6,7 +6,6 @@
 #include "host/change/ViewJson.h"
 #include "host/change/ViewValues.h"
 #include "host/files/FileDescriptor.h"
-#include "host/files/SafeOutput.h"
 #include "host/program/InstallLayout.h"
 #include "host/run/BatchRun.h"
 #include "host/run/EarlierReport.h"
@@ -15,6 +14,7 @@
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsFolder.h"
+#include "host/settings/SettingsNotes.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
@@ -52,6 +52,12 @@ std::string readLines(const std::string& path, std::size_t limit, const char* wh
     return bytes;
 }
 
+/// A list names files only.
+std::string fileNamed(const std::string& name)
+{
+    return name == Destination::standardStream ? "./" + name : name;
+}
+
 OptionParser::Take append(std::vector<std::string>& values)
 {
     return [&values](const std::string& value) { values.push_back(value); };
@@ -76,25 +82,6 @@ SignedDocuments signedDocuments(const std::string& value)
     return SignedDocuments::Refuse;
 }
 
-/// What is odd about the numbers: files may hold what no dialog offers; the action makes of it what it can.
-std::vector<std::string> oddNumbers(const SettingsMap& settings)
-{
-    std::vector<std::string> found;
-    for (const initialview::Key& key : initialview::keys) {
-        const QVariant value = settings.value(key.name);
-        bool whole = false;
-        const int number = value.toString().toInt(&whole);
-        const bool unset =
-            !value.isValid() || (key.name == initialview::key::OpenToPage && number < key.lowest);
-        if (key.type == initialview::ValueType::Number && !unset &&
-            (!whole || number < key.lowest || number > key.highest))
-            found.push_back(std::string(key.name) + " is " + value.toString().toStdString() +
-                            ", not a number from " + std::to_string(key.lowest) + " to " +
-                            std::to_string(key.highest));
-    }
-    return found;
-}
-
 /// How a document opens, for others to open so.
 ViewChange viewOf(const std::string& file, const std::string& password)
 {
@@ -117,6 +104,8 @@ int RunCommand::work(const std::vector<std::string>& words)
     m_inputs = words;
     m_options.flush = m_options.flush || m_options.inPlace;
     check();
+    const Destination destination = this->destination();
+    checkStandardStreams();
     readPassword();
     if (changesView())
         readChange();
@@ -124,20 +113,58 @@ int RunCommand::work(const std::vector<std::string>& words)
         readSettings();
     if (m_fileList)
         readFileList();
-    warnOfSettingsWithoutEffect();
+    noteSettings();
 
-    const RunPlan plan = this->plan();
+    const RunPlan plan = this->plan(destination);
     std::optional<Report> report;
     if (m_reportFile)
         report.emplace(*m_reportFile, continuesReport() ? Report::Start::Continue : Report::Start::New);
     BatchRun::Done done = doneBefore(plan);
-    if (m_outputFolder && !m_options.dryRun)
-        if (const std::string problem = SafeOutput::makeFolder(*m_outputFolder); !problem.empty())
+    openStreams();
+    if (!m_options.dryRun)
+        if (const std::string problem = destination.makeFolder(); !problem.empty())
             throw UsageError(problem);
     m_options.tellStates = m_reportFile.has_value();
     if (report) // may lie in the output folder
-        report->begin();
-    return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet, std::move(done)).run(m_limits);
+        begin(*report);
+    const int status =
+        BatchRun(plan, m_options,
+                 {report ? &*report : nullptr, tells(), m_streams ? &*m_streams : nullptr, std::move(done)})
+            .run(m_limits);
+    if (m_streams && destination.isStandardOutput())
+        m_streams->printResult();
+    return status;
+}
+
+void RunCommand::begin(Report& report) const
+{
+    report.begin();
+    if (!report.doubt().empty())
+        note(report.doubt());
+}
+
+void RunCommand::openStreams()
+{
+    if (hasStandardInput() || (printsResult() && !m_options.dryRun))
+        m_streams.emplace();
+    if (hasStandardInput())
+        m_streams->readInput();
+    m_options.keepsAttributes = !hasStandardInput() && !printsResult();
+}
+
+bool RunCommand::hasStandardInput() const
+{
+    return std::find(m_inputs.begin(), m_inputs.end(), Destination::standardStream) != m_inputs.end();
+}
+
+/// Standard output takes one thing only.
+Tells RunCommand::tells() const
+{
+    if (m_quiet)
+        return Tells::Failures;
+    if (m_reportFile == Report::standardOutput)
+        return Tells::Counts;
+    return printsResult() && !m_options.dryRun ? Tells::Notes : Tells::Lines;
 }
 
 void RunCommand::takeOptions(OptionParser& parser)
@@ -148,8 +175,9 @@ void RunCommand::takeOptions(OptionParser& parser)
     parser.takeValue("tool-settings", append(m_toolSettings));
     parser.takeValue("set", append(m_settingWords));
     takeViewOptions(parser);
-    parser.takeValue("output", setOnce(m_outputFolder, "-o"));
+    parser.takeValue("output", setOnce(m_output, "-o"));
     parser.takeValue("base", setOnce(m_base, "--base"));
+    parser.takeValue("suffix", setOnce(m_suffix, "--suffix"));
     parser.takeFlag("in-place", m_options.inPlace);
     parser.takeValue("password", setOnce(m_password, "--password"));
     parser.takeValue("password-file", setOnce(m_passwordFile, "--password-file"));
@@ -203,17 +231,9 @@ void RunCommand::check() const
                                "--tool-settings or --set");
     if (m_titleFromFileName && m_change[ViewEntry::Title])
         throw UsageError("--title and --title-from-file-name exclude each other");
-    if (m_outputFolder.has_value() == m_options.inPlace)
-        throw UsageError(m_options.inPlace ? "-o and --in-place exclude each other"
-                                           : "where to? Give -o DIR or --in-place");
     if (m_options.rewrite && m_options.inPlace)
         throw UsageError("--rewrite goes with -o: in place, the document's own bytes would be gone");
-    if (m_outputFolder && m_outputFolder->empty())
-        throw UsageError("the name of the output folder is empty");
-    struct stat status;
-    if (m_outputFolder && stat(m_outputFolder->c_str(), &status) == 0 && !S_ISDIR(status.st_mode))
-        throw UsageError(*m_outputFolder + " is not a folder");
-    if (m_base && (m_base->empty() || !m_outputFolder))
+    if (m_base && (m_base->empty() || !m_output))
         throw UsageError(m_base->empty() ? "the name of the base folder is empty" : "--base goes with -o");
     if (m_password && m_passwordFile)
         throw UsageError("--password and --password-file exclude each other");
@@ -221,6 +241,38 @@ void RunCommand::check() const
         throw UsageError("--null goes with --files-from");
     if (m_inputs.empty() && !m_fileList)
         throw UsageError("which documents? Name documents or folders, or give --files-from");
+}
+
+Destination RunCommand::destination() const
+{
+    const int places = (m_output ? 1 : 0) + (m_suffix ? 1 : 0) + (m_options.inPlace ? 1 : 0);
+    if (places != 1)
+        throw UsageError(places == 0 ? "where to? Give -o DIR, -o FILE.pdf, --suffix TEXT or --in-place"
+                                     : "-o, --suffix and --in-place exclude each other");
+    if (m_suffix)
+        return Destination::beside(*m_suffix);
+    return m_output ? Destination::named(*m_output, m_base.value_or("")) : Destination::inPlace();
+}
+
+bool RunCommand::printsResult() const
+{
+    return m_output == Destination::standardStream;
+}
+
+/// It can be read once, and standard output takes one thing only.
+void RunCommand::checkStandardStreams() const
+{
+    auto readers = std::count(m_inputs.begin(), m_inputs.end(), Destination::standardStream);
+    for (const auto* file : {&m_viewFile, &m_passwordFile, &m_fileList})
+        readers += *file == "-" ? 1 : 0;
+    if (readers > 1)
+        throw UsageError("standard input is named more than once, and can be read once only");
+    if (hasStandardInput() && m_titleFromFileName)
+        throw UsageError("--title-from-file-name: a document from standard input has no name");
+    if (printsResult() && m_reportFile == Report::standardOutput)
+        throw UsageError("-o - and --report - exclude each other: standard output takes one of them");
+    if (printsResult() && !m_options.dryRun)
+        StreamFiles::checkOutput();
 }
 
 void RunCommand::readChange()
@@ -281,23 +333,18 @@ void RunCommand::readFileList()
     for (std::size_t begin = 0; begin < bytes.size();) {
         const std::size_t end = std::min(bytes.find(separator, begin), bytes.size());
         if (end > begin)
-            m_inputs.push_back(bytes.substr(begin, end - begin));
+            m_inputs.push_back(fileNamed(bytes.substr(begin, end - begin)));
         begin = end + 1;
     }
 }
 
-void RunCommand::warnOfSettingsWithoutEffect() const
+void RunCommand::noteSettings()
 {
     for (const ActionEntry& entry : m_options.entries) {
-        for (const std::string& odd : oddNumbers(entry.settings))
-            note(odd);
-        const bool layout = entry.settings.value(initialview::key::LayoutAndMagn).toBool();
-        const bool viewer = entry.settings.value(initialview::key::ViewerPrefs).toBool();
-        if (!layout && !viewer)
-            note("neither LayoutAndMagnCheckBox nor ViewerPrefsCheckBox is on, so nothing will be changed");
-        else if (layout &&
-                 entry.settings.value(initialview::key::OpenToPage).toInt() < initialview::firstPage)
-            note("OpenToPageSpinBox is not set, so page and magnification stay as they are");
+        for (const std::string& text : settingsnotes::about(entry.settings))
+            note(text);
+        const std::string rows = settingsnotes::aboutRowsLeftOut(entry.settings);
+        m_options.noteOnAll += (m_options.noteOnAll.empty() || rows.empty() ? "" : "; ") + rows;
     }
 }
 
@@ -309,7 +356,7 @@ void RunCommand::note(const std::string& text) const
 
 bool RunCommand::continuesReport() const
 {
-    if (!m_reportFile || !m_resumedReport)
+    if (!m_reportFile || !m_resumedReport || m_reportFile == Report::standardOutput)
         return false;
     struct stat report;
     struct stat resumed;
@@ -332,13 +379,13 @@ BatchRun::Done RunCommand::doneBefore(const RunPlan& plan) const
     return done;
 }
 
-RunPlan RunCommand::plan() const
+RunPlan RunCommand::plan(const Destination& destination) const
 {
-    RunPlan plan(m_outputFolder.value_or(""), m_base.value_or(""));
+    RunPlan plan(destination);
     for (const std::string& input : m_inputs)
-        plan.add(input);
+        input == Destination::standardStream ? plan.addStandardInput() : plan.add(input);
     plan.checkTargets();
-    if (m_reportFile) {
+    if (m_reportFile && m_reportFile != Report::standardOutput) {
         std::vector<std::string> filesRead = m_filesRead;
         if (m_resumedReport && !continuesReport())
             filesRead.push_back(*m_resumedReport);

@@ -5,6 +5,7 @@
 #include "host/change/ViewChange.h"
 #include "host/run/BatchRun.h"
 #include "host/run/DocumentProcessor.h"
+#include "host/run/StreamFiles.h"
 #include "host/workers/WorkerPool.h"
 
 #include <optional>
@@ -34,14 +35,24 @@ private:
     void readFileList();
     void check() const;
     bool changesView() const;
-    void warnOfSettingsWithoutEffect() const;
+    void noteSettings();
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
-    RunPlan plan() const;
+    RunPlan plan(const Destination& destination) const;
+    void begin(Report& report) const;
     /// What --resume leaves out.
     BatchRun::Done doneBefore(const RunPlan& plan) const;
     /// Whether --report and --resume name the same file.
     bool continuesReport() const;
+
+    /// Where the results go. Throws UsageError unless exactly one place is named.
+    Destination destination() const;
+    void checkStandardStreams() const;
+    bool hasStandardInput() const;
+    bool printsResult() const;
+    /// Standard input and output as files, where they are among documents and results.
+    void openStreams();
+    Tells tells() const;
 
     bool m_quiet = false;
     bool m_nullSeparated = false;
@@ -54,7 +65,8 @@ private:
     bool m_titleFromFileName = false;
     bool m_titleIfMissing = false;
     ViewChange m_change; ///< Of the options that each name an entry.
-    std::optional<std::string> m_outputFolder;
+    std::optional<std::string> m_output;
+    std::optional<std::string> m_suffix;
     std::optional<std::string> m_base;
     std::optional<std::string> m_password;
     std::optional<std::string> m_passwordFile;
@@ -64,6 +76,7 @@ private:
     std::vector<std::string> m_filesRead; ///< Besides the documents.
     std::vector<std::string> m_inputs;
     ProcessingOptions m_options;
+    std::optional<StreamFiles> m_streams;
     WorkerPool::Limits m_limits;
 };
 

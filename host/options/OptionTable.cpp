@@ -51,12 +51,15 @@ const std::vector<Option> optionRows{
      "goes with --title and --title-from-file-name",
      Nothing, {}, {Run}, Group::View, rare},
 
-    {"output", 'o', "DIR", "puts the results into this folder",
-     "it is made if it is missing; a document that needs no change is copied",
-     Folders, {}, {Run}, Group::Target, common},
+    {"output", 'o', "DIR|FILE.pdf|-", "puts the results into this folder, or the one result into this file",
+     "- is standard output; a folder is made if it is missing; a document that needs no change is copied",
+     Files, {"pdf"}, {Run}, Group::Target, common},
     {"base", 0, "DIR", "with -o, keeps the documents' paths below this folder",
      "those of documents that are named by themselves as well",
      Folders, {}, {Run}, Group::Target, rare},
+    {"suffix", 0, "TEXT", "writes manual-TEXT.pdf beside each manual.pdf",
+     "in a folder, results of an earlier run are passed over",
+     Nothing, {}, {Run}, Group::Target, common},
     {"in-place", 0, "", "changes the documents in their own places",
      "one that needs no change is not touched",
      Nothing, {}, {Run}, Group::Target, common},
@@ -100,7 +103,8 @@ const std::vector<Option> optionRows{
      "in place that is always so",
      Nothing, {}, {Run}, Group::Work, rare},
 
-    {"report", 0, "FILE", "writes a JSON object a line about each document", "",
+    {"report", 0, "FILE|-", "writes a JSON object a line about each document",
+     "- is standard output",
      Files, {"jsonl"}, {Run}, Group::Output, common},
     {"resume", 0, "FILE", "leaves out what an earlier run's report lists as done",
      "what has changed since is done again; it may be the same file as --report, which is continued then",
@@ -114,9 +118,9 @@ const std::vector<Option> optionRows{
 };
 
 const std::vector<Command> commandRows{
-    {Run, "run", "change how documents open", "CHANGE (-o DIR | --in-place) DOCUMENT|FOLDER ...",
+    {Run, "run", "change how documents open", "CHANGE (-o DIR | --suffix TEXT | --in-place) DOCUMENT|FOLDER|- ...",
      "Changes how PDF documents open. View options change what they name and leave the rest; settings are those "
-     "of the action. A folder stands for the PDF documents in it and its subfolders.",
+     "of the action. A folder stands for the PDF documents in it and its subfolders, - for one from standard input.",
      {{"quintar run --page-mode bookmarks -o changed/ manuals/", "open a folder's documents with the bookmarks"},
       {"quintar run --open-page unset --in-place -n manual.pdf", "see whether the opening page would be forgotten"},
       {"quintar run --list \"Monthly reports\" --in-place manuals/", "apply a stored action list"}},

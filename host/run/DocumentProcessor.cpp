@@ -8,6 +8,7 @@
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
 #include "host/program/InstallLayout.h"
+#include "host/settings/SettingsNotes.h"
 
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
@@ -125,12 +126,10 @@ std::string DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int s
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
     m_errors.ClearAll();
-    if (!m_options.change.isEmpty()) {
-        if (const std::string reason = ViewChanger(m_library, m_options.change).apply(job.source);
-            !reason.empty())
-            return DocumentResult::failed(reason);
-    } else if (!applyEntries())
-        return DocumentResult::failed(m_errors.GetLast().toStdString());
+    m_notes.clear();
+    if (const std::string reason = m_options.change.isEmpty() ? applyEntries() : applyChange(job.source);
+        !reason.empty())
+        return DocumentResult::failed(reason);
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
         return m_options.inPlace || m_options.dryRun ? leave() : copy(job);
     if (std::string reason = refusal(); !reason.empty())
@@ -141,19 +140,32 @@ DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 DocumentResult DocumentProcessor::leave() const
 {
     DocumentResult result{Status::Unchanged};
+    result.note = notesWith({});
     tellStates(result, m_original);
     return result;
 }
 
-bool DocumentProcessor::applyEntries()
+/// \returns why that failed; empty when it did not.
+std::string DocumentProcessor::applyChange(const std::string& file)
+{
+    ViewChanger changer(m_library, m_options.change);
+    std::string reason = changer.apply(file);
+    m_notes = changer.notes();
+    return reason;
+}
+
+/// The same with the action.
+std::string DocumentProcessor::applyEntries()
 {
     for (const ActionEntry& entry : m_options.entries) {
+        if (std::string note = settingsnotes::aboutPage(entry.settings, m_library.PageCount()); !note.empty())
+            m_notes.push_back(std::move(note));
         SettingsMap settings = entry.settings;
         WorkProcInfoStruct info{&m_library, &m_errors, {}, &settings};
         if (m_action.WorkProc(&info) != 0)
-            return false;
+            return m_errors.GetLast().isEmpty() ? "the action failed" : m_errors.GetLast().toStdString();
     }
-    return true;
+    return {};
 }
 
 /// Why the document may not be changed; empty when it may.
@@ -176,7 +188,9 @@ DocumentResult DocumentProcessor::tryOut()
         return libraryFailure(notRewritten);
     if (code != 0 && !rewriting)
         return notAppended(code);
-    return {Status::Changed};
+    DocumentResult result{Status::Changed};
+    result.note = notesWith({});
+    return result;
 }
 
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
@@ -229,17 +243,26 @@ DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& 
         return sourceChanged();
     const auto beforeRename = [&](const struct stat& finished, const std::string& note) {
         result.milliseconds = millisecondsTaken();
-        result.note = note;
+        result.note = notesWith(note);
         tellStates(result, finished);
         (*m_beforePlacement)({result, finished});
     };
     const auto take = m_options.inPlace ? FileAttributes::Take::All : FileAttributes::Take::ForCopy;
-    const SafeOutput::Outcome outcome =
-        output.commit(FileAttributes(source.get(), take), m_options.flush, beforeRename);
+    const FileAttributes attributes =
+        m_options.keepsAttributes ? FileAttributes(source.get(), take) : FileAttributes::ofNewFile();
+    const SafeOutput::Outcome outcome = output.commit(attributes, m_options.flush, beforeRename);
     if (!outcome.problem.empty())
         return DocumentResult::failed(outcome.problem);
-    result.note = outcome.note;
+    result.note = notesWith(outcome.note);
     return result;
+}
+
+std::string DocumentProcessor::notesWith(const std::string& further) const
+{
+    std::string text;
+    for (const std::string& note : m_notes)
+        text += (text.empty() ? "" : "; ") + note;
+    return text + (text.empty() || further.empty() ? "" : "; ") + further;
 }
 
 DocumentResult DocumentProcessor::notAppended(int code)

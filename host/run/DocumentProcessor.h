@@ -41,6 +41,10 @@ struct ProcessingOptions
     bool dryRun = false;
     /// Every output is flushed to the disk before it takes its place.
     bool flush = false;
+    /// The output gets the document's rights and attributes; else those of any new file.
+    bool keepsAttributes = true;
+    /// What the report notes on every document that does not fail.
+    std::string noteOnAll;
     /// The result tells the states of the files, for a report, and what it takes to undo a change in place.
     bool tellStates = false;
 };
@@ -78,7 +82,9 @@ private:
     std::string tellWhatStoodBefore(DocumentResult& result, int source) const;
     DocumentResult applyAndSave(const DocumentJob& job);
     DocumentResult leave() const;
-    bool applyEntries();
+    std::string applyChange(const std::string& file);
+    std::string applyEntries();
+    std::string notesWith(const std::string& further) const;
     std::string refusal();
     DocumentResult tryOut();
     DocumentResult save(const DocumentJob& job);
@@ -96,6 +102,7 @@ private:
     CErrorHandler m_errors;
     struct stat m_original = {}; ///< The document's file before it was read.
     Clock::time_point m_begin;
+    std::vector<std::string> m_notes; ///< On the document that is worked on.
     const BeforePlacement* m_beforePlacement = nullptr;
     bool m_wornOut = false;
 };

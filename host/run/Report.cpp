@@ -1,7 +1,6 @@
 #include "Report.h"
 
 #include "host/terminal/JsonLine.h"
-#include "host/terminal/StandardError.h"
 #include "host/terminal/UsageError.h"
 
 #include <fcntl.h>
@@ -49,6 +48,10 @@ Report::~Report()
 
 void Report::open(int flags)
 {
+    if (isStandardOutput()) {
+        m_file = FileDescriptor(fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0));
+        return;
+    }
     const int access = m_start == Start::New ? O_WRONLY : O_RDWR;
     m_file = FileDescriptor(::open(m_path.c_str(), access | O_APPEND | flags | O_CLOEXEC, 0666));
 }
@@ -56,7 +59,7 @@ void Report::open(int flags)
 bool Report::isRegular() const
 {
     struct stat status;
-    return fstat(m_file.get(), &status) == 0 && S_ISREG(status.st_mode);
+    return !isStandardOutput() && fstat(m_file.get(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 void Report::lock()
@@ -69,8 +72,8 @@ void Report::lock()
     if (problem == EWOULDBLOCK || isGone)
         throw UsageError("the report " + m_path + " is being written by another run");
     if (problem != 0)
-        note("the report " + m_path + " cannot be locked (" + systemError(problem) +
-             "); no other run may write it meanwhile");
+        m_doubt = "the report " + m_path + " cannot be locked (" + systemError(problem) +
+                  "); no other run may write it meanwhile";
 }
 
 void Report::begin()

@@ -27,6 +27,9 @@ public:
     /// In bytes; a file with a longer one is no report.
     static constexpr std::size_t longestLine = 1 << 20;
 
+    /// Stands for standard output in the place of a path. That is not locked, and what is in it stays.
+    static constexpr char standardOutput[] = "-";
+
     /// Takes the file for this run, and changes nothing in it. Throws UsageError when another run has it.
     Report(const std::string& path, Start start);
     /// Removes a file that was made and never begun.
@@ -52,6 +55,8 @@ public:
     /// Writes what still waits for a document that was not done.
     void flush();
 
+    /// What the user should know once it is begun; may be empty.
+    const std::string& doubt() const { return m_doubt; }
     /// Empty, or why the report is incomplete.
     const std::string& problem() const { return m_problem; }
 
@@ -62,6 +67,7 @@ private:
     void open(int flags);
     void lock();
     bool isRegular() const;
+    bool isStandardOutput() const { return m_path == standardOutput; }
     void write(const std::string& line);
     static std::string toJson(const Line& line, const char* status);
     void dropCutOffLine();
@@ -72,6 +78,7 @@ private:
     bool m_isNew = false; ///< Made, and not begun yet.
     std::size_t m_next = 0;
     std::map<std::size_t, std::string> m_waiting;
+    std::string m_doubt;
     std::string m_problem;
 };
 
