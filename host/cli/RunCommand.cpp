@@ -145,7 +145,7 @@ void RunCommand::begin(Report& report) const
 
 void RunCommand::openStreams()
 {
-    if (hasStandardInput() || (printsResult() && !m_options.dryRun))
+    if (hasStandardInput() || printsResult())
         m_streams.emplace();
     if (hasStandardInput())
         m_streams->readInput();

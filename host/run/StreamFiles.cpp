@@ -38,12 +38,12 @@ sigset_t blockedSignals()
 
 StreamFiles::StreamFiles() : m_signalsBefore(blockedSignals())
 {
-    std::error_code problem;
-    const std::filesystem::path folder = std::filesystem::temp_directory_path(problem);
-    std::string name = std::filesystem::absolute(folder).string() + "/quintar-XXXXXX";
-    if (problem || mkdtemp(name.data()) == nullptr)
-        throw UsageError("no temporary folder can be made (" + name.substr(0, name.rfind('/')) + "): " +
-                         (problem ? problem.message() : systemError(errno)) + "; TMPDIR names another place");
+    const char* chosen = std::getenv("TMPDIR");
+    const std::filesystem::path place = chosen != nullptr && *chosen != 0 ? chosen : "/tmp";
+    std::string name = (std::filesystem::absolute(place) / "quintar-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr)
+        throw UsageError("no temporary folder can be made in " + place.string() + ": " + systemError(errno) +
+                         "; TMPDIR names another place");
     m_folder = name;
 }
 

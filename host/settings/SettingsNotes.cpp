@@ -65,9 +65,8 @@ std::string aboutRowsLeftOut(const SettingsMap& settings)
     std::string text;
     for (const Key& key : initialview::keys)
         if (isLeftOutRow(key, settings))
-            text +=
-                (text.empty() ? "" : ", ") + std::string(key.name) + " becomes \"" + key.rows.front() + "\"";
-    return text.empty() ? text : "left out, " + text;
+            text += (text.empty() ? "" : ", ") + std::string(key.name) + " (\"" + key.rows.front() + "\")";
+    return text.empty() ? text : "left out, and so set to the first row: " + text;
 }
 
 std::string aboutPage(const SettingsMap& settings, int pageCount)
