@@ -7,17 +7,11 @@
 #include "engine/files/EngineError.h"
 #include "pdflibrary/FileNameCodec.h"
 
-#include <array>
-
 namespace engine::operations {
 
 namespace {
 
 const char* const libraryVersion = "13.11";
-
-// At the library's number for it; 0 is the PDF version.
-const std::array informationKeys{"",         "/Title",    "/Author",       "/Subject", "/Keywords",
-                                 "/Creator", "/Producer", "/CreationDate", "/ModDate"};
 
 std::string pathFrom(std::wstring_view fileName)
 {
@@ -49,14 +43,6 @@ int open(Session& session, std::shared_ptr<ByteSource> source, std::string fileN
     }
     session.add(std::move(document));
     return 1;
-}
-
-/// The higher of the versions that the header and the catalog state, "1.7".
-std::string versionOf(Document& document)
-{
-    const std::string header = document.pdf().getPDFVersion();
-    QPDFObjectHandle stated = document.key(document.catalog(), "/Version");
-    return stated.isName() ? std::max(header, stated.getName().substr(1)) : header;
 }
 
 int appendRefusal(Document& document)
@@ -116,7 +102,7 @@ int GetDocumentID(Session& session, int index)
     const std::vector<int> ids = session.documentIds();
     if (index < 1 || static_cast<std::size_t>(index) > ids.size())
         throw EngineError(ErrorCode::UnknownDocument);
-    return ids[index - 1];
+    return ids[static_cast<std::size_t>(index) - 1];
 }
 
 int SelectDocument(Session& session, int documentId)
@@ -146,19 +132,6 @@ int GetDocumentRepaired(Session& session)
     return session.document().document.crossReferenceRebuilt();
 }
 
-std::wstring GetInformation(Session& session, int key)
-{
-    Document& document = session.document().document;
-    if (key < 0 || static_cast<std::size_t>(key) >= informationKeys.size())
-        throw EngineError(ErrorCode::BadArgument);
-    if (key == 0)
-        return wideFromUtf8(versionOf(document));
-    QPDFObjectHandle information = document.key(document.pdf().getTrailer(), "/Info");
-    QPDFObjectHandle value =
-        information.isDictionary() ? document.key(information, informationKeys[key]) : information;
-    return value.isString() ? wideFromUtf8(value.getUTF8Value()) : std::wstring();
-}
-
 int IsLinearized(Session& session)
 {
     session.document().readWhole();
@@ -184,7 +157,7 @@ int SecurityInfo(Session& session, int item)
     case ModificationAllowed:
         return modificationAllowed(document.pdf());
     case UnsavedChanges:
-        return document.changedObjects().empty() ? 0 : 1;
+        return document.isChanged() ? 1 : 0;
     case AppendRefusal:
         return appendRefusal(document);
     default:

@@ -10,7 +10,7 @@ namespace engine {
 
 /// The C++ type of every operation, by name: `SetPageLayout` is `int(int)`, `GetInformation` is
 /// `std::wstring(int)`.
-struct Signatures
+struct OperationTypes
 {
     using I = int;
     using D = double;
@@ -33,7 +33,7 @@ using SlotArgument =
 /// arguments before it changes anything, so that a failure leaves the document as it was. It may be run twice
 /// for one call: when reading piece by piece comes to its end within it, the document is opened whole and the
 /// operation begins again.
-template <class Signature>
+template <class Operation>
 struct SlotFor;
 template <class Result, class... Parameters>
 struct SlotFor<Result(Parameters...)>
@@ -53,7 +53,7 @@ struct SlotFor<Result(Parameters...)>
 struct OperationSlots
 {
 #define TPL_OP(Result, Name, Arguments, ...)                                                                 \
-    SlotFor<Signatures::Name>::Pointer Name = &SlotFor<Signatures::Name>::unavailable;
+    SlotFor<OperationTypes::Name>::Pointer Name = &SlotFor<OperationTypes::Name>::unavailable;
 #include "pdflibrary/operations.def"
 #undef TPL_OP
 };

@@ -47,9 +47,6 @@ int RemoveDocument(Session& session, int documentId);
 std::wstring GetDocumentFileName(Session& session);
 /// 1 when the cross-reference was wrong and the file had to be searched for its objects, else 0.
 int GetDocumentRepaired(Session& session);
-/// \param key 0 the PDF version, 1 title, 2 author, 3 subject, 4 keywords, 5 creator, 6 producer, 7 and 8 the
-///     dates of creation and modification as they stand in the document. Empty where the document has none.
-std::wstring GetInformation(Session& session, int key);
 /// 1 or 0.
 int IsLinearized(Session& session);
 /// An EncryptionStatus (pdflibrary/ErrorCodes.h).
@@ -60,6 +57,13 @@ int SecurityInfo(Session& session, int item);
 int LastErrorCode(Session& session);
 /// Needs no document; never fails.
 std::wstring LibraryVersion(Session& session);
+
+// InformationOperations.cpp
+/// \param key 0 the PDF version, 1 title, 2 author, 3 subject, 4 keywords, 5 creator, 6 producer, 7 and 8 the
+///     dates of creation and modification as they stand in the document. Empty where the document has none.
+std::wstring GetInformation(Session& session, int key);
+/// \param key 1 to 8 as above. \param value empty to remove the entry.
+int SetInformation(Session& session, int key, std::wstring_view value);
 
 // ViewOperations.cpp, in the numbers of pdflibrary/ViewNumbers.h. An entry that is missing or of a wrong type
 // reads as the document's default. A setter whose value is there already marks nothing as changed.

@@ -124,10 +124,11 @@ int Session::destinationId(const Destination& destination)
 const Destination& Session::destination(int id)
 {
     document();
-    const bool inRange = id > 0 && static_cast<std::size_t>(id) <= m_destinations.size();
-    if (!inRange || !m_destinations[id - 1] || m_destinations[id - 1]->documentId != m_selected)
+    const auto slot = static_cast<std::size_t>(id) - 1; // far out of range for 0 and what is negative
+    if (slot >= m_destinations.size() || !m_destinations[slot] ||
+        m_destinations[slot]->documentId != m_selected)
         throw EngineError(ErrorCode::UnknownDestination);
-    return m_destinations[id - 1]->destination;
+    return m_destinations[slot]->destination;
 }
 
 } // namespace engine

@@ -49,7 +49,6 @@ public:
     int add(std::unique_ptr<OpenDocument> document);
     /// Ids of the open documents, in the order in which they were opened. An id is never used twice.
     std::vector<int> documentIds() const;
-    std::size_t documentCount() const { return m_documents.size(); }
     /// 0 when none is selected.
     int selectedId() const { return m_selected; }
     /// \throws EngineError UnknownDocument; then the selection stays.

@@ -2,10 +2,17 @@
 
 #include "pdflibrary/FileNameCodec.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
 namespace engine {
+
+/// A lone surrogate, which no text contains and the names of files use for bytes.
+inline bool isSurrogate(wchar_t character)
+{
+    return character >= 0xd800 && character <= 0xdfff;
+}
 
 /// Text of a document for the library's caller.
 /// \param text UTF-8; any bytes are taken.
@@ -14,10 +21,17 @@ namespace engine {
 inline std::wstring wideFromUtf8(std::string_view text)
 {
     std::wstring wide = wideFromFileName(text);
-    for (wchar_t& character : wide)
-        if (character >= 0xd800 && character <= 0xdfff)
-            character = 0xfffd;
+    std::replace_if(wide.begin(), wide.end(), isSurrogate, wchar_t(0xfffd));
     return wide;
+}
+
+/// Text from the library's caller, for QPDFObjectHandle::newUnicodeString(); what is no character becomes
+/// U+FFFD. The name of a file is no text: fileNameFromWide() is for that.
+inline std::string utf8FromWide(std::wstring_view text)
+{
+    std::wstring wide(text);
+    std::replace_if(wide.begin(), wide.end(), isSurrogate, wchar_t(0xfffd));
+    return fileNameFromWide(wide);
 }
 
 } // namespace engine

@@ -1,3 +1,4 @@
+#include "Arguments.h"
 #include "Operations.h"
 #include "Session.h"
 #include "Text.h"
@@ -54,17 +55,6 @@ Stored storedPreference(Document& document, const PreferenceRow& preference)
     return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{0, !entry.isNull()};
 }
 
-void require(bool condition, ErrorCode code)
-{
-    if (!condition)
-        throw EngineError(code);
-}
-
-void requireWithin(int value, int first, int last)
-{
-    require(value >= first && value <= last, ErrorCode::BadArgument);
-}
-
 const PreferenceRow& preferenceOf(int option)
 {
     const PreferenceRow* preference = pdflibrary::findPreference(option);
@@ -74,9 +64,8 @@ const PreferenceRow& preferenceOf(int option)
 
 QPDFObjectHandle preferenceValue(const PreferenceRow& preference, int value)
 {
-    return preference.names.empty()
-               ? QPDFObjectHandle::newBool(value != 0)
-               : QPDFObjectHandle::newName(preference.names[static_cast<std::size_t>(value)]);
+    return preference.names.empty() ? QPDFObjectHandle::newBool(value != 0)
+                                    : QPDFObjectHandle::newName(rowOf(preference.names, value));
 }
 
 void setCatalogEntry(Document& document, const char* key, const QPDFObjectHandle& value)

@@ -2,6 +2,7 @@
 #include "Operations.h"
 #include "Session.h"
 #include "engine/files/EngineError.h"
+#include "engine/reading/DocumentOpening.h"
 
 #include <algorithm>
 #include <climits>
@@ -13,10 +14,8 @@ namespace {
 
 using namespace engine;
 
-// What the library really has. Everything else is not available.
-constexpr OperationSlots implemented()
+constexpr void addDocuments(OperationSlots& slots)
 {
-    OperationSlots slots;
     slots.LoadFromFile = operations::LoadFromFile;
     slots.LoadFromString = operations::LoadFromString;
     slots.SaveToFile = operations::SaveToFile;
@@ -29,13 +28,21 @@ constexpr OperationSlots implemented()
     slots.RemoveDocument = operations::RemoveDocument;
     slots.GetDocumentFileName = operations::GetDocumentFileName;
     slots.GetDocumentRepaired = operations::GetDocumentRepaired;
-    slots.GetInformation = operations::GetInformation;
     slots.IsLinearized = operations::IsLinearized;
     slots.EncryptionStatus = operations::EncryptionStatus;
     slots.SecurityInfo = operations::SecurityInfo;
     slots.LastErrorCode = operations::LastErrorCode;
     slots.LibraryVersion = operations::LibraryVersion;
+}
 
+constexpr void addInformation(OperationSlots& slots)
+{
+    slots.GetInformation = operations::GetInformation;
+    slots.SetInformation = operations::SetInformation;
+}
+
+constexpr void addView(OperationSlots& slots)
+{
     slots.GetPageMode = operations::GetPageMode;
     slots.SetPageMode = operations::SetPageMode;
     slots.GetPageLayout = operations::GetPageLayout;
@@ -49,7 +56,10 @@ constexpr OperationSlots implemented()
     slots.GetDestPage = operations::GetDestPage;
     slots.GetDestValue = operations::GetDestValue;
     slots.GetDestName = operations::GetDestName;
+}
 
+constexpr void addPages(OperationSlots& slots)
+{
     slots.PageCount = operations::PageCount;
     slots.SelectPage = operations::SelectPage;
     slots.SelectedPage = operations::SelectedPage;
@@ -57,7 +67,16 @@ constexpr OperationSlots implemented()
     slots.PageWidth = operations::PageWidth;
     slots.PageHeight = operations::PageHeight;
     slots.PageRotation = operations::PageRotation;
+}
 
+// What the library really has, by the operations' sources. Everything else is not available.
+constexpr OperationSlots implemented()
+{
+    OperationSlots slots;
+    addDocuments(slots);
+    addInformation(slots);
+    addView(slots);
+    addPages(slots);
     slots.GetInstalledFontsByCharset = operations::GetInstalledFontsByCharset;
     return slots;
 }
@@ -66,7 +85,7 @@ constexpr OperationSlots implementations = implemented();
 
 /// How a type crosses the C boundary: numbers as they are, strings as pointers.
 template <class Type>
-struct Crossing
+struct BoundaryType
 {
     using Argument = Type;
     using Result = Type;
@@ -75,7 +94,7 @@ struct Crossing
 };
 
 template <>
-struct Crossing<std::wstring>
+struct BoundaryType<std::wstring>
 {
     using Argument = char*;
     using Result = wchar_t*;
@@ -88,7 +107,7 @@ struct Crossing<std::wstring>
 };
 
 template <>
-struct Crossing<std::string>
+struct BoundaryType<std::string>
 {
     using Argument = char*;
     using Result = char*;
@@ -146,13 +165,13 @@ private:
 
 /// The one way into the library: finds the session, runs the implementation, and turns whatever it throws
 /// into an error code and the empty result.
-template <class Signature>
-struct Entry;
+template <class Operation>
+struct ExportedCall;
 
 template <class Result, class... Parameters>
-struct Entry<Result(Parameters...)>
+struct ExportedCall<Result(Parameters...)>
 {
-    using Returned = typename Crossing<Result>::Result;
+    using Returned = typename BoundaryType<Result>::Result;
 
     /// A direct reader may have to give up at any object.
     template <class... Arguments>
@@ -168,18 +187,18 @@ struct Entry<Result(Parameters...)>
     }
 
     static Returned call(typename SlotFor<Result(Parameters...)>::Pointer slot, int instance,
-                         typename Crossing<Parameters>::Argument... arguments) noexcept
+                         typename BoundaryType<Parameters>::Argument... arguments) noexcept
     {
         const std::shared_ptr<Session> session = Session::find(instance);
         if (session == nullptr)
             return Returned();
         const Call running(*session);
         try {
-            return Crossing<Result>::out(
-                *session, run(slot, *session, Crossing<Parameters>::in(*session, arguments)...));
+            return BoundaryType<Result>::out(
+                *session, run(slot, *session, BoundaryType<Parameters>::in(*session, arguments)...));
         } catch (...) {
             session->setLastError(codeOfCurrentException());
-            return Crossing<Result>::out(*session, Result());
+            return BoundaryType<Result>::out(*session, Result());
         }
     }
 };
@@ -211,11 +230,13 @@ using W = char*;
 using B = char*;
 
 // int TPLSetPageLayout(int instance, int layout)
-// { return Entry<Signatures::SetPageLayout>::call(implementations.SetPageLayout, instance, layout); }
+// { return ExportedCall<OperationTypes::SetPageLayout>::call(implementations.SetPageLayout, instance,
+// layout); }
 #define TPL_OP(Result, Name, Arguments, ...)                                                                 \
-    Entry<Signatures::Name>::Returned TPL##Name(int instance TPL_ARGUMENTS(__VA_ARGS__))                     \
+    ExportedCall<OperationTypes::Name>::Returned TPL##Name(int instance TPL_ARGUMENTS(__VA_ARGS__))          \
     {                                                                                                        \
-        return Entry<Signatures::Name>::call(implementations.Name, instance TPL_ARGUMENTS Arguments);        \
+        return ExportedCall<OperationTypes::Name>::call(implementations.Name,                                \
+                                                        instance TPL_ARGUMENTS Arguments);                   \
     }
 #include "pdflibrary/operations.def"
 #undef TPL_OP

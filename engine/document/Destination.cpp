@@ -103,14 +103,15 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
     destination.page = pageOf(document.item(target.array, 0), pages);
     if (destination.page == 0)
         return std::nullopt;
-    const int size = target.array.getArrayNItems();
-    const DestinationForm& form =
-        formOf(size > 1 ? document.item(target.array, 1) : QPDFObjectHandle::newNull());
+    const DestinationForm& form = formOf(document.item(target.array, 1));
     destination.type = form.type;
-    for (int index = 2; index < size && index - 2 < 4 && form.operands[index - 2] != nullptr; ++index) {
-        QPDFObjectHandle operand = document.item(target.array, index);
+    int index = 2;
+    for (double Destination::*const member : form.operands) {
+        if (member == nullptr)
+            break;
+        QPDFObjectHandle operand = document.item(target.array, index++);
         if (operand.isNumber())
-            destination.*form.operands[index - 2] = operand.getNumericValue();
+            destination.*member = operand.getNumericValue();
     }
     destination.zoom *= 100;
     return destination;

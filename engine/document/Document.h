@@ -1,7 +1,10 @@
 #pragma once
 
+#include "engine/reading/DocumentChanges.h"
+#include "engine/reading/Kids.h"
+#include "engine/reading/ObjectFetcher.h"
+#include "engine/reading/ReadingTrouble.h"
 #include "engine/update/CrossReference.h"
-#include "pdflibrary/ErrorCodes.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjGen.hh>
@@ -13,42 +16,10 @@
 #include <set>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace engine {
 
 class ByteSource;
-class DirectReader;
-
-/// A direct reader had to give up: thrown by whatever reads an object. Open the document whole, and try
-/// again.
-struct DirectReadingEnded
-{};
-
-/// What a libqpdf failure is called at the library's boundary.
-ErrorCode errorCodeOf(const QPDFExc& error);
-
-/// What a node of the page tree lists.
-class Kids
-{
-public:
-    /// \param array anything; what is no array has no kids.
-    explicit Kids(QPDFObjectHandle array);
-    explicit Kids(std::shared_ptr<const std::vector<QPDFObjGen>> references);
-
-    /// False for the kids of something that is not a node.
-    explicit operator bool() const { return m_references != nullptr || QPDFObjectHandle(m_array).isArray(); }
-    int size() const { return m_size; }
-    /// The object that a reference leads to; the null object's number for a kid that stands here directly.
-    QPDFObjGen id(int kid) const;
-
-private:
-    friend class Document;
-
-    std::shared_ptr<const std::vector<QPDFObjGen>> m_references; // null when m_array has the kids
-    QPDFObjectHandle m_array;
-    int m_size;
-};
 
 /// One open document: the bytes that it was read from, libqpdf's view of them, and which of its objects were
 /// changed since. Failures are thrown as EngineError.
@@ -73,7 +44,8 @@ public:
     /// What is edited: the skeleton, or the document.
     QPDF& pdf() { return *m_pdf; }
 
-    /// From now on all of the document is in pdf(), with the changes so far. Handles from before are stale.
+    /// From now on all of the document is in pdf(), with the changes so far as far as they were marked.
+    /// Handles from before are stale.
     void readWhole();
 
     const std::shared_ptr<ByteSource>& source() const { return m_source; }
@@ -99,23 +71,35 @@ public:
     /// Makes a direct object an indirect one with a new number.
     QPDFObjectHandle makeIndirect(const QPDFObjectHandle& object);
 
+    /// An entry of the trailer, null where there is none.
+    QPDFObjectHandle trailerKey(const std::string& key);
+    /// Sets an entry of the trailer, or removes it with null. Both ways of writing keep it. Not for what
+    /// belongs to the file rather than to the document: /Root, /ID, /Encrypt and the entries of
+    /// describesSection().
+    void setTrailerKey(const std::string& key, const QPDFObjectHandle& value);
+    /// What setTrailerKey() was called with, the last value for each key.
+    const std::map<std::string, QPDFObjectHandle>& changedTrailer() const { return m_changes.trailer(); }
+
     /// Notes that an indirect object differs from the source. For a direct object the caller marks the
     /// indirect one that holds it.
-    void markChanged(const QPDFObjectHandle& object);
-    const std::set<QPDFObjGen>& changedObjects() const { return m_changed; }
+    void markChanged(const QPDFObjectHandle& object) { m_changes.noteObject(object.getObjGen()); }
+    const std::set<QPDFObjGen>& changedObjects() const { return m_changes.objects(); }
+
+    /// True when an object was marked as changed, or the trailer was.
+    bool isChanged() const { return !m_changes.empty(); }
 
     /// True when libqpdf had to search the file for its objects because the cross-reference was wrong.
     /// Reading an object may be what shows it, so the answer can turn from false to true.
-    bool crossReferenceRebuilt();
+    bool crossReferenceRebuilt() { return trouble().crossReferenceRebuilt(); }
     /// True when libqpdf complained about anything so far.
-    bool anyWarnings();
+    bool anyWarnings() { return trouble().any(); }
     /// True when libqpdf could not read an object as it stands, and made something else of it: null, an empty
     /// stream, a dictionary with other entries.
-    bool misread(QPDFObjGen object);
-    bool anyMisread();
-    bool trailerMisread();
+    bool misread(QPDFObjGen object) { return trouble().misread(object); }
+    bool anyMisread() { return trouble().anyMisread(); }
+    bool trailerMisread() { return trouble().trailerMisread(); }
     /// True when the length of a stream was wrong, and libqpdf searched for its end.
-    bool streamLengthsRecovered();
+    bool streamLengthsRecovered() { return trouble().streamLengthsRecovered(); }
     /// Throws EngineError when memory was short for something read so far, or the disk failed: libqpdf goes
     /// on with null in its place.
     void requireAllRead();
@@ -126,35 +110,18 @@ public:
     CrossReference crossReference();
 
     const std::string& password() const { return m_password; }
-    bool openedWithPassword() const { return m_openedWithPassword; }
 
 private:
-    bool openSkeleton();
-    std::string_view textOf(QPDFObjGen id);
-    void put(QPDFObjGen id, std::string_view text);
-    void openWhole();
-    /// False when the password is not right.
-    bool open(const std::string& password);
-    void collectWarnings();
-    void noteMisread(const QPDFExc& warning);
+    const ReadingTrouble& trouble();
 
     std::shared_ptr<ByteSource> m_source;
     std::string m_fileName;
     std::string m_password;
-    std::unique_ptr<DirectReader> m_direct; // null when m_pdf has the whole document
-    std::string m_skeleton;
-    std::set<QPDFObjGen> m_fetched;
-    std::vector<QPDFObjGen> m_lookedAt;                                          // whether fetched or not
-    std::map<QPDFObjGen, std::shared_ptr<const std::vector<QPDFObjGen>>> m_kids; // of nodes fetched without
+    std::unique_ptr<ObjectFetcher> m_fetcher; // null when m_pdf has the whole document
     std::shared_ptr<QPDF> m_pdf;
     QPDFObjectHandle m_catalog; // looking it up anew each time is not cheap
-    std::set<QPDFObjGen> m_changed;
-    std::set<std::string> m_misread; // as libqpdf names the objects
-    bool m_rebuilt = false;
-    bool m_lengthsRecovered = false;
-    bool m_warned = false;
-    bool m_memoryWasShort = false;
-    bool m_openedWithPassword = false;
+    DocumentChanges m_changes;
+    ReadingTrouble m_trouble;
 };
 
 } // namespace engine

@@ -142,12 +142,12 @@ void requireSameContent(Document& document, std::shared_ptr<ByteSource> written)
 
 std::string updateOf(Document& document)
 {
-    if (document.changedObjects().empty())
+    if (!document.isChanged())
         throw EngineError(ErrorCode::NothingChanged);
     const CrossReference crossReference = crossReferenceFor(document);
     requireChangesWhole(document);
     const IncrementalUpdate update(document.pdf(), crossReference, *document.source(),
-                                   document.changedObjects());
+                                   document.changedObjects(), document.changedTrailer());
     document.requireAllRead();
     if (document.crossReferenceRebuilt() && crossReference.unlistedObjects().empty())
         throw EngineError(ErrorCode::CannotAppend, "the cross-reference was rebuilt");

@@ -2,10 +2,9 @@
 
 #include "Document.h"
 #include "engine/files/EngineError.h"
-#include "engine/syntax/SyntaxScanner.h"
+#include "engine/reading/KidGlimpse.h"
 
 #include <algorithm>
-#include <cctype>
 #include <climits>
 #include <set>
 #include <string>
@@ -14,10 +13,10 @@ namespace engine {
 
 namespace {
 
-// Up to this many pages the whole tree is read, and so counts that lie do no harm.
+// Trees of up to this many pages are walked whole, so that counts that lie do no harm.
 const int smallTree = 256;
 
-enum class Kind { Page, Node, Neither };
+using Kind = KidKind;
 
 Kind kindOf(Document& document, QPDFObjectHandle object)
 {
@@ -37,66 +36,7 @@ std::optional<int> statedCount(Document& document, const QPDFObjectHandle& node)
     return static_cast<int>(count.getIntValue());
 }
 
-/// What the text alone of a kid tells that nobody has read yet: adding up a large tree must not cost reading
-/// all that it lists.
-struct Glimpse
-{
-    Kind kind;
-    std::optional<int> count;
-};
-
-/// Most kids have none of the words that would need a closer look, and every type stands where it is named.
-bool isPlainPage(std::string_view text)
-{
-    if (!text.starts_with("<<"))
-        return false;
-    for (std::size_t slash = text.find('/'); slash != text.npos; slash = text.find('/', slash + 1)) {
-        const std::string_view rest = text.substr(slash + 1);
-        if (rest.starts_with("Pages") || rest.starts_with("Kids"))
-            return false;
-        if (!rest.starts_with("Type"))
-            continue;
-        const std::string_view behind = rest.substr(std::string_view("Type").size());
-        const bool isValue = behind.starts_with("/") || behind.starts_with(" /");
-        const bool isOtherName =
-            !behind.empty() && std::isalnum(static_cast<unsigned char>(behind.front())) != 0;
-        if (!isValue && !isOtherName) // such as /Type1
-            return false;
-    }
-    return true;
-}
-
-std::optional<Glimpse> glimpseOf(std::string_view text)
-{
-    if (text.find('#') != text.npos) // escapes in names, good or bad
-        return std::nullopt;
-    if (isPlainPage(text))
-        return Glimpse{Kind::Page, std::nullopt};
-    std::string_view kids;
-    std::string_view type;
-    std::string_view count;
-    DictionaryScanner scanner(text);
-    while (const auto entry = scanner.next()) {
-        std::string_view* const value = entry->key == "Kids"    ? &kids
-                                        : entry->key == "Type"  ? &type
-                                        : entry->key == "Count" ? &count
-                                                                : nullptr;
-        if (value != nullptr && !value->empty())
-            return std::nullopt;
-        if (value != nullptr)
-            *value = entry->value;
-    }
-    if (scanner.odd() || (!kids.empty() && !kids.starts_with('[')) ||
-        (!type.empty() && !type.starts_with('/')))
-        return std::nullopt;
-    const auto number = wholeInteger(count);
-    return Glimpse{!kids.empty()      ? Kind::Node
-                   : type == "/Pages" ? Kind::Neither
-                                      : Kind::Page,
-                   number && *number <= INT_MAX ? std::optional(static_cast<int>(*number)) : std::nullopt};
-}
-
-std::optional<Glimpse> glimpse(Document& document, const Kids& kids, int kid)
+std::optional<KidGlimpse> glimpse(Document& document, const Kids& kids, int kid)
 {
     const std::optional<std::string_view> text = document.unreadKid(kids, kid);
     return text ? glimpseOf(*text) : std::nullopt;
@@ -117,12 +57,12 @@ std::optional<int> pagesUnder(Document& document, const QPDFObjectHandle& kid)
 
 } // namespace
 
-/// The pages before each kid of a node and, as the last number, all of them; nothing when the node's count
-/// does not agree with its kids'. A node with as many kids as pages has only pages, which need not be looked
-/// at.
+/// How many pages come before each kid of a node, and in all of it. A node with as many kids as pages has
+/// only pages: these are not looked at.
 class KidCounts
 {
 public:
+    /// \returns nothing when the node's count is not the sum of its kids'.
     static std::optional<KidCounts> of(Document& document, QPDFObjectHandle node)
     {
         KidCounts counts;
@@ -136,7 +76,10 @@ public:
         return counts;
     }
 
-    int pagesBefore(int kid) const { return m_before.empty() ? kid : m_before[kid]; }
+    int pagesBefore(int kid) const
+    {
+        return m_before.empty() ? kid : m_before[static_cast<std::size_t>(kid)];
+    }
 
     /// The last kid with fewer than `page` pages before it.
     int kidWith(int page) const
@@ -152,7 +95,7 @@ private:
     {
         int sum = 0;
         for (int kid = 0; kid < m_kids; ++kid) {
-            const std::optional<Glimpse> seen = glimpse(document, kids, kid);
+            const std::optional<KidGlimpse> seen = glimpse(document, kids, kid);
             const bool isNode = seen && seen->kind == Kind::Node && seen->count;
             const std::optional<int> pages =
                 isNode ? seen->count : pagesUnder(document, document.kid(kids, kid));
@@ -270,7 +213,7 @@ const PagePath& PageTree::page(int number)
         walk();
         if (static_cast<std::size_t>(number) > m_leaves.size())
             throw EngineError(ErrorCode::UnknownPage);
-        path = walkedPath(m_leaves[number - 1]);
+        path = walkedPath(m_leaves[static_cast<std::size_t>(number) - 1]);
     }
     m_lastPath = std::move(*path);
     m_lastNumber = number;
@@ -345,7 +288,7 @@ private:
         Step& step = m_steps.back();
         const int kid = step.next++;
         const int node = step.node;
-        const std::optional<Glimpse> seen = glimpse(m_document, step.kids, kid);
+        const std::optional<KidGlimpse> seen = glimpse(m_document, step.kids, kid);
         if (seen && seen->kind == Kind::Neither)
             return;
         if (seen && seen->kind == Kind::Page) {
@@ -381,14 +324,14 @@ QPDFObjectHandle PageTree::walkedPage(const Leaf& leaf) const
 {
     if (leaf.node < 0)
         return m_document.node(m_document.catalog().getKey("/Pages"));
-    return m_document.kid(m_document.kids(m_nodes[leaf.node].dictionary), leaf.kid);
+    return m_document.kid(m_document.kids(nodeAt(leaf.node).dictionary), leaf.kid);
 }
 
 PagePath PageTree::walkedPath(const Leaf& leaf) const
 {
     PagePath path{walkedPage(leaf), {}, leaf.kid};
-    for (int node = leaf.node; node >= 0; node = m_nodes[node].parent)
-        path.nodes.push_back(m_nodes[node].dictionary);
+    for (int node = leaf.node; node >= 0; node = nodeAt(node).parent)
+        path.nodes.push_back(nodeAt(node).dictionary);
     std::reverse(path.nodes.begin(), path.nodes.end());
     return path;
 }

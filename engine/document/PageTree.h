@@ -74,6 +74,7 @@ private:
     class Walker;
 
     QPDFObjectHandle root();
+    const Node& nodeAt(int index) const { return m_nodes[static_cast<std::size_t>(index)]; }
     void walk();
     PagePath walkedPath(const Leaf& leaf) const;
     QPDFObjectHandle walkedPage(const Leaf& leaf) const;

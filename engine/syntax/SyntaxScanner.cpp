@@ -1,5 +1,6 @@
 #include "SyntaxScanner.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string>
@@ -17,8 +18,8 @@ bool isNumber(std::string_view word, std::size_t mostDigits)
     std::size_t digits = 0;
     std::size_t points = 0;
     for (const char character : word) {
-        digits += isDigit(character) ? 1 : 0;
-        points += character == '.' ? 1 : 0;
+        digits += isDigit(character) ? 1U : 0U;
+        points += character == '.' ? 1U : 0U;
     }
     const bool fits = points == 1 || digits <= mostDigits;
     return digits > 0 && points <= 1 && digits + points == word.size() && fits;
@@ -37,11 +38,18 @@ bool SyntaxScanner::keyword(std::string_view word)
     return true;
 }
 
-/// Skips whole numbers and references, of which long arrays consist. \returns whether there was any.
+void SyntaxScanner::skipSpaceAndComments()
+{
+    for (skipSpace(); !atEnd() && m_text[m_at] == '%'; skipSpace())
+        m_at = std::min(m_text.find_first_of("\r\n", m_at), m_text.size());
+}
+
+/// Fast path for what long arrays consist of: skips whole numbers and references up to the first thing that
+/// is neither. \returns whether there was any.
 bool SyntaxScanner::skipReferences()
 {
     const std::size_t before = m_at;
-    int numbers = 0; // since the last reference
+    int numbers = 0; // since the last reference, and the one that may begin here
     const char* const begin = m_text.data();
     const char* const end = begin + m_text.size();
     const char* next = begin + m_at;
@@ -54,6 +62,7 @@ bool SyntaxScanner::skipReferences()
             ++next;
         if (next - start > static_cast<std::ptrdiff_t>(mostDigits))
             return m_at > before;
+        // Nearly every reference is written so.
         if (next > start && end - next > 4 && std::memcmp(next, " 0 R", 4) == 0 && !isRegular(next[4])) {
             next += 4;
             numbers = 0;
@@ -81,57 +90,69 @@ std::optional<SyntaxScanner::Reference> SyntaxScanner::reference()
     return Reference{static_cast<int>(*number), static_cast<int>(*generation)};
 }
 
+struct SyntaxScanner::Brackets
+{
+    std::array<char, deepestNesting> kinds;
+    std::size_t depth = 0;
+};
+
+// value     = token | "[" item* "]" | "<<" item* ">>"      which items are keys is for DictionaryScanner
+// item      = value | reference
+// reference = integer integer "R"
+// token     = name | string | number | "true" | "false" | "null" | "R"      "R" only outside brackets
 SyntaxScanner::Outcome SyntaxScanner::skipValue()
 {
-    std::array<char, deepestNesting> open; // the brackets
-    std::size_t depth = 0;
-    const char* const begin = m_text.data();
-    const char* const end = begin + m_text.size();
+    Brackets open;
     do {
-        const char* next = begin + m_at;
-        while (next < end && isSpace(*next))
-            ++next;
-        m_at = static_cast<std::size_t>(next - begin);
-        if (next == end)
+        skipSpace();
+        if (atEnd())
             return Outcome::CutOff;
-        const char first = *next;
-        if (first == '/') {
-            do
-                ++next;
-            while (next < end && isRegular(*next));
-            m_at = static_cast<std::size_t>(next - begin);
-            if (next == end)
-                return Outcome::CutOff;
+        const char first = m_text[m_at];
+        if (open.depth > 0 && isDigit(first) && skipReferences())
             continue;
-        }
-        if (isDigit(first) && depth > 0 && skipReferences())
-            continue;
-        const bool doubled = next + 1 < end && next[1] == first;
-        if (first == '[' || (first == '<' && doubled)) {
-            if (depth == open.size())
-                return Outcome::Odd;
-            open[depth++] = first;
-            m_at += first == '<' ? 2 : 1;
-        } else if (first == ']' || first == '>') {
-            if (first == '>' && next + 1 == end)
-                return Outcome::CutOff;
-            if (depth == 0 || open[depth - 1] != (first == ']' ? '[' : '<') || (first == '>' && !doubled))
-                return Outcome::Odd;
-            --depth;
-            m_at += first == '>' ? 2 : 1;
-        } else if (first == 'R' && depth > 0) {
-            // Behind two numbers it is a reference's, and skipped with them.
-            return next + 1 < end ? Outcome::Odd : Outcome::CutOff;
-        } else if (const Outcome outcome = skipToken(); outcome != Outcome::Complete) {
+        // An R that ends a reference was consumed with its numbers; this one stands alone.
+        if (open.depth > 0 && first == 'R')
+            return m_at + 1 < m_text.size() ? Outcome::Odd : Outcome::CutOff;
+        const Outcome outcome = standsAtBracket() ? skipBracket(open) : skipToken();
+        if (outcome != Outcome::Complete)
             return outcome;
-        }
-    } while (depth > 0);
+    } while (open.depth > 0);
+    return Outcome::Complete;
+}
+
+bool SyntaxScanner::standsAtBracket() const
+{
+    const char first = m_text[m_at];
+    return first == '[' || first == ']' || first == '>' ||
+           (first == '<' && m_at + 1 < m_text.size() && m_text[m_at + 1] == '<');
+}
+
+SyntaxScanner::Outcome SyntaxScanner::skipBracket(Brackets& open)
+{
+    const char bracket = m_text[m_at];
+    const bool isAngle = bracket == '<' || bracket == '>';
+    if (bracket == '>' && m_at + 1 == m_text.size())
+        return Outcome::CutOff;
+    if (bracket == '>' && m_text[m_at + 1] != '>')
+        return Outcome::Odd;
+    if (bracket == '[' || bracket == '<') {
+        if (open.depth == open.kinds.size())
+            return Outcome::Odd;
+        open.kinds[open.depth++] = bracket;
+    } else {
+        if (open.depth == 0 || open.kinds[open.depth - 1] != (isAngle ? '<' : '['))
+            return Outcome::Odd;
+        --open.depth;
+    }
+    m_at += isAngle ? 2 : 1;
     return Outcome::Complete;
 }
 
 SyntaxScanner::Outcome SyntaxScanner::skipToken()
 {
     switch (m_text[m_at]) {
+    case '/':
+        return skipName();
     case '(':
         return skipLiteralString();
     case '<':
@@ -139,6 +160,15 @@ SyntaxScanner::Outcome SyntaxScanner::skipToken()
     default:
         return skipWord();
     }
+}
+
+SyntaxScanner::Outcome SyntaxScanner::skipName()
+{
+    std::size_t at = m_at + 1;
+    while (at < m_text.size() && isRegular(m_text[at]))
+        ++at;
+    m_at = at;
+    return atEnd() ? Outcome::CutOff : Outcome::Complete;
 }
 
 SyntaxScanner::Outcome SyntaxScanner::skipLiteralString()
@@ -175,7 +205,7 @@ SyntaxScanner::Outcome SyntaxScanner::skipHexString()
 SyntaxScanner::Outcome SyntaxScanner::skipWord()
 {
     const std::size_t start = m_at;
-    while (!atEnd() && isDigit(m_text[m_at])) // most words are whole numbers
+    while (!atEnd() && isDigit(m_text[m_at])) // fast path: most words are whole numbers
         ++m_at;
     if (m_at > start && m_at - start <= mostDigits && !atEnd() && !isRegular(m_text[m_at]))
         return Outcome::Complete;

@@ -26,9 +26,13 @@ public:
     bool atEnd() const { return m_at >= m_text.size(); }
     void skipSpace()
     {
-        while (!atEnd() && isSpace(m_text[m_at]))
-            ++m_at;
+        std::size_t at = m_at; // in a register: as a member it would be stored for each character
+        while (at < m_text.size() && isSpace(m_text[at]))
+            ++at;
+        m_at = at;
     }
+
+    void skipSpaceAndComments();
 
     /// Skips `word` when it stands here and ends here. \returns whether it did.
     bool keyword(std::string_view word);
@@ -51,8 +55,14 @@ public:
 private:
     static constexpr std::size_t mostDigits = 18;
 
+    /// The brackets that are open, '[' or '<'.
+    struct Brackets;
+
+    bool standsAtBracket() const;
+    Outcome skipBracket(Brackets& open);
     bool skipReferences();
     Outcome skipToken();
+    Outcome skipName();
     Outcome skipLiteralString();
     Outcome skipHexString();
     Outcome skipWord();

@@ -1,7 +1,6 @@
 #include "TableScanner.h"
 
 #include "CharacterClass.h"
-#include "engine/files/EngineError.h"
 
 #include <algorithm>
 #include <cctype>
@@ -11,14 +10,9 @@ namespace engine {
 
 namespace {
 
-constexpr std::size_t chunkSize = 65536;
-constexpr std::size_t longestWord = 20;
-constexpr std::size_t usualEntrySize = 20;
-
-[[noreturn]] void refuse()
-{
-    throw EngineError(ErrorCode::CannotAppend, "the cross-reference table is damaged");
-}
+const std::int64_t entriesAtOnce = 4096;
+const std::size_t longestWord = 20;
+const std::size_t spaceAtOnce = 64;
 
 bool areDigits(const char* text, std::size_t count)
 {
@@ -28,86 +22,116 @@ bool areDigits(const char* text, std::size_t count)
     return all;
 }
 
+bool isWordCharacter(char character)
+{
+    return std::isalnum(static_cast<unsigned char>(character)) != 0;
+}
+
 } // namespace
 
 bool isUsualTableEntry(std::string_view text)
 {
-    return text.size() == usualEntrySize && areDigits(text.data(), 10) && text[10] == ' ' &&
+    return text.size() == tableEntrySize && areDigits(text.data(), 10) && text[10] == ' ' &&
            areDigits(text.data() + 11, 5) && text[16] == ' ' && (text[17] == 'n' || text[17] == 'f') &&
            isSpace(text[18]) && (text[19] == '\n' || text[19] == '\r');
 }
 
-TableScanner::TableScanner(const ByteSource& source, std::uint64_t position)
-    : m_source(source), m_chunkStart(position)
+TableScanner::TableScanner(FileWindows& file, std::int64_t position, bool usualOnly)
+    : m_file(file), m_position(position), m_usualOnly(usualOnly)
 {}
 
 std::optional<TableScanner::Subsection> TableScanner::nextSubsection()
 {
+    skipSpace();
     const std::string_view start = word();
-    if (start == "trailer")
+    if (start == "trailer") {
+        m_position += static_cast<std::int64_t>(start.size());
         return std::nullopt;
-    Subsection subsection = {number(start), 0};
-    subsection.count = number(word());
-    for (long long entry = skipUsualEntries(subsection.count); entry < subsection.count; ++entry) {
-        number(word());
-        number(word());
-        const std::string_view kind = word();
-        if (kind != "n" && kind != "f")
-            refuse();
     }
+    const auto first = number();
+    skipSpace();
+    const auto count = first ? number() : std::nullopt;
+    if (!count)
+        return fail();
+    skipSpace();
+    Subsection subsection{*first, *count, m_position, true};
+    const long long usual = skipUsualEntries(*count);
+    subsection.usual = usual == *count;
+    if (m_usualOnly && !subsection.usual)
+        return fail();
+    for (long long entry = usual; entry < *count; ++entry)
+        if (!skipEntry())
+            return fail();
     return subsection;
 }
 
 /// Steps over as many entries of the usual 20 bytes as there are.
 long long TableScanner::skipUsualEntries(long long count)
 {
-    while (isSpace(static_cast<char>(peek()))) // the end is none
-        ++m_next;
-    long long skipped = 0;
-    for (; skipped < count; ++skipped) {
-        if (m_chunk.size() - m_next < usualEntrySize) {
-            m_chunkStart += m_next;
-            m_chunk = m_source.text(m_chunkStart, chunkSize);
-            m_next = 0;
-        }
-        if (!isUsualTableEntry(std::string_view(m_chunk).substr(m_next, usualEntrySize)))
-            break;
-        m_next += usualEntrySize;
+    for (long long done = 0; done < count;) {
+        const std::int64_t part = std::min<std::int64_t>(entriesAtOnce, count - done);
+        const auto size = static_cast<std::size_t>(part * tableEntrySize);
+        const std::string_view entries = m_file.bytes(m_position, size);
+        std::size_t at = 0;
+        while (at < entries.size() && isUsualTableEntry(entries.substr(at, tableEntrySize)))
+            at += tableEntrySize;
+        m_position += static_cast<std::int64_t>(at);
+        done += static_cast<long long>(at / tableEntrySize);
+        if (at < size)
+            return done;
     }
-    return skipped;
+    return count;
 }
 
-int TableScanner::peek()
+/// Steps over an entry of any length: two numbers and a letter.
+bool TableScanner::skipEntry()
 {
-    if (m_next == m_chunk.size()) {
-        m_chunkStart += m_chunk.size();
-        m_chunk = m_source.text(m_chunkStart, chunkSize);
-        m_next = 0;
+    for (int field = 0; field < 2; ++field) {
+        skipSpace();
+        if (!number())
+            return false;
     }
-    return m_chunk.empty() ? -1 : static_cast<unsigned char>(m_chunk[m_next]);
+    skipSpace();
+    const std::string_view kind = word();
+    m_position += static_cast<std::int64_t>(kind.size());
+    return kind == "n" || kind == "f";
 }
 
+void TableScanner::skipSpace()
+{
+    for (;;) {
+        const std::string_view text = m_file.bytes(m_position, spaceAtOnce);
+        const auto end = std::find_if_not(text.begin(), text.end(), isSpace);
+        m_position += end - text.begin();
+        if (text.empty() || end != text.end())
+            return;
+    }
+}
+
+/// The word at the position, which stays; empty when it is too long for a table.
 std::string_view TableScanner::word()
 {
-    while (isSpace(static_cast<char>(peek()))) // the end is none
-        ++m_next;
-    m_word.clear();
-    for (int character = peek(); character >= 0 && std::isalnum(character); character = peek()) {
-        if (m_word.size() == longestWord)
-            refuse();
-        m_word.push_back(static_cast<char>(character));
-        ++m_next;
-    }
-    return m_word;
+    const std::string_view text = m_file.bytes(m_position, longestWord + 1);
+    const auto end = std::find_if_not(text.begin(), text.end(), isWordCharacter);
+    const auto size = static_cast<std::size_t>(end - text.begin());
+    return size > longestWord ? std::string_view() : text.substr(0, size);
 }
 
-long long TableScanner::number(std::string_view text) const
+std::optional<long long> TableScanner::number()
 {
+    const std::string_view text = word();
     long long value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size())
-        refuse();
+        return std::nullopt;
+    m_position += static_cast<std::int64_t>(text.size());
     return value;
+}
+
+std::nullopt_t TableScanner::fail()
+{
+    m_damaged = true;
+    return std::nullopt;
 }
 
 } // namespace engine

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/files/ByteSource.h"
+#include "engine/files/FileWindows.h"
 
 #include <cstdint>
 #include <optional>
@@ -8,6 +8,9 @@
 #include <string_view>
 
 namespace engine {
+
+/// Size in bytes of a table's entry as ISO 32000 has it.
+inline constexpr std::int64_t tableEntrySize = 20;
 
 /// Whether these are the 20 bytes of an entry as ISO 32000 has it: offset, generation, kind, line end.
 bool isUsualTableEntry(std::string_view text);
@@ -19,31 +22,38 @@ class TableScanner
 public:
     struct Subsection
     {
-        long long first;
-        long long count;
+        long long first;      ///< Number of its first object.
+        long long count;      ///< Of entries.
+        std::int64_t entries; ///< Offset of the first one.
+        bool usual;           ///< Every entry has the usual 20 bytes.
     };
 
-    /// `position` is the offset in the source behind the word that begins the table.
-    TableScanner(const ByteSource& source, std::uint64_t position);
+    /// \param position offset behind the word that begins the table.
+    /// \param usualOnly ends the walk at the first subsection with other entries.
+    TableScanner(FileWindows& file, std::int64_t position, bool usualOnly = false);
 
-    /// Goes over the next subsection and all of its entries; nothing when the trailer's word was reached.
-    /// \throws EngineError with CannotAppend at anything that is no table.
+    /// Goes over the next subsection and all of its entries; nothing when the trailer's word was reached, or
+    /// at anything that is no table.
     std::optional<Subsection> nextSubsection();
 
-    /// The offset in the source, once nextSubsection() has returned nothing.
-    std::uint64_t behindTrailerKeyword() const { return m_chunkStart + m_next; }
+    /// True once something was found that is no table.
+    bool damaged() const { return m_damaged; }
+
+    /// The offset behind the trailer's word, once nextSubsection() has returned nothing.
+    std::int64_t behindTrailerKeyword() const { return m_position; }
 
 private:
     long long skipUsualEntries(long long count);
-    int peek();
+    bool skipEntry();
+    void skipSpace();
     std::string_view word();
-    long long number(std::string_view text) const;
+    std::optional<long long> number();
+    std::nullopt_t fail();
 
-    const ByteSource& m_source;
-    std::string m_chunk;
-    std::uint64_t m_chunkStart;
-    std::size_t m_next = 0;
-    std::string m_word;
+    FileWindows& m_file;
+    std::int64_t m_position;
+    bool m_usualOnly;
+    bool m_damaged = false;
 };
 
 } // namespace engine

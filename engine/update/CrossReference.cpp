@@ -3,12 +3,11 @@
 #include "DocumentTail.h"
 #include "FileScan.h"
 #include "SourceInput.h"
-#include "engine/direct/DirectReader.h"
 #include "engine/files/EngineError.h"
 #include "engine/syntax/ObjectParser.h"
-#include "engine/syntax/TableScanner.h"
 
 #include <qpdf/QPDFExc.hh>
+#include <qpdf/QPDFTokenizer.hh>
 
 #include <algorithm>
 #include <cctype>
@@ -19,10 +18,8 @@ namespace engine {
 
 namespace {
 
-constexpr std::string_view whitespace("\0\t\n\f\r ", 6);
-
-// Readers stop at object numbers far above; what claims more is a lie that must not be built upon.
-constexpr long long largestSize = 0x7ffffff0;
+// Far above any file's size, so that sums of offsets cannot overflow.
+constexpr std::uint64_t largestOffset = std::uint64_t{1} << 62;
 
 // Some search the file for its objects when its end is not within this.
 constexpr std::uint64_t searchedByAllReaders = 1024;
@@ -47,30 +44,43 @@ bool isVersion(std::string_view text, std::size_t position)
     return major > 0 && point < text.size() && text[point] == '.' && digitsAt(text, point + 1) > 0;
 }
 
+/// Where the dictionary at an offset ends for libqpdf.
+std::int64_t dictionaryEnd(QPDF& pdf, const std::shared_ptr<SourceInput>& input, std::int64_t offset)
+{
+    QPDFTokenizer tokenizer;
+    tokenizer.allowEOF();
+    input->seek(offset, SEEK_SET);
+    bool empty = false;
+    if (!QPDFObjectHandle::parse(input, "trailer", tokenizer, empty, nullptr, &pdf).isDictionary())
+        refuse("a section of the cross-reference has no dictionary");
+    return input->tell();
+}
+
 } // namespace
 
 CrossReference::CrossReference(QPDF& pdf, std::shared_ptr<const ByteSource> source)
-    : m_source(std::move(source)), m_input(std::make_shared<SourceInput>(m_source, "cross-reference")),
-      m_headerOffset(headerOffsetOf(*m_source))
+    : m_headerOffset(headerOffsetOf(*source))
 {
-    const auto tail = findDocumentTail(*m_source);
+    const auto tail = findDocumentTail(*source);
     if (!tail)
         refuse("no startxref");
-    if (m_source->size() - tail->keyword > searchedByAllReaders && hasObjectsBehind(*m_source, *tail))
+    if (source->size() - tail->keyword > searchedByAllReaders && hasObjectsBehind(*source, *tail))
         refuse("the end of the last update is missing");
-    m_tokenizer.allowEOF();
+    FileWindows file(source);
+    const auto input = std::make_shared<SourceInput>(source, "cross-reference");
+    SectionReader reader(file, [&](std::int64_t offset) { return dictionaryEnd(pdf, input, offset); });
     try {
-        readChain(pdf, tail->startxref);
+        readChain(pdf, reader, tail->startxref);
         requireSameDocument(pdf);
     } catch (const QPDFExc& error) {
         throw EngineError(ErrorCode::CannotAppend, error.what());
     }
 }
 
-CrossReference::CrossReference(QPDF& pdf, const DirectReader& reader)
-    : m_kind(reader.newestIsStream() ? Kind::Stream : Kind::Table),
-      m_newestOffset(static_cast<std::uint64_t>(reader.newestOffset())),
-      m_trailer(parseObject(pdf, reader.trailer())), m_entryEnd(reader.size()), m_size(reader.size())
+CrossReference::CrossReference(QPDF& pdf, const Section& newest, int size)
+    : m_kind(newest.isStream ? Kind::Stream : Kind::Table),
+      m_newestOffset(static_cast<std::uint64_t>(newest.offset)),
+      m_trailer(parseObject(pdf, newest.dictionary)), m_entryEnd(size), m_size(size)
 {}
 
 CrossReference::CrossReference(QPDF& pdf, std::uint64_t headerOffset, const FileScan& found)
@@ -81,7 +91,7 @@ CrossReference::CrossReference(QPDF& pdf, std::uint64_t headerOffset, const File
     for (const auto& [number, definition] : found.definitions()) {
         if (definition.offset < headerOffset)
             refuse("an object lies before the header");
-        m_unlisted.emplace(number, Entry{definition.offset - headerOffset, definition.generation});
+        m_unlisted.emplace(number, ObjectOffset{definition.offset - headerOffset, definition.generation});
     }
     m_entryEnd = m_unlisted.empty() ? 1 : m_unlisted.rbegin()->first + 1;
     m_size = m_entryEnd;
@@ -98,86 +108,64 @@ std::uint64_t CrossReference::headerOffsetOf(const ByteSource& source)
     return 0;
 }
 
-void CrossReference::readChain(QPDF& pdf, std::uint64_t offset)
+void CrossReference::readChain(QPDF& pdf, SectionReader& reader, std::uint64_t offset)
 {
     bool newest = true;
     std::set<std::uint64_t> visited;
+    std::set<std::uint64_t> beside;
     while (newest || offset != 0) {
         if (!visited.insert(offset).second)
             refuse("the sections of the cross-reference form a loop");
-        const Section section = readSection(pdf, offset);
-        QPDFObjectHandle dictionary = section.dictionary;
+        Section section;
+        QPDFObjectHandle dictionary = readSection(pdf, reader, offset, section);
         if (newest) {
-            m_kind = section.kind;
-            m_newestOffset = skipWhitespace(m_headerOffset + offset) - m_headerOffset;
+            m_kind = section.isStream ? Kind::Stream : Kind::Table;
+            m_newestOffset = static_cast<std::uint64_t>(section.offset) - m_headerOffset;
             m_trailer = dictionary;
             newest = false;
         }
-        // Several sections may share one stream. It leads nowhere, so it is no part of a loop.
-        if (section.kind == Kind::Table && dictionary.hasKey("/XRefStm"))
-            readSection(pdf, dictionary.getKey("/XRefStm").getUIntValue());
+        if (!section.isStream && dictionary.hasKey("/XRefStm"))
+            beside.insert(dictionary.getKey("/XRefStm").getUIntValue());
         QPDFObjectHandle previous = dictionary.getKey("/Prev");
         if (!previous.isNull() && !previous.isInteger())
             refuse("the offset of the previous section is not a number");
         offset = previous.isNull() ? 0 : previous.getUIntValue();
     }
+    // Several sections may share one stream. It leads nowhere, so it is no part of a loop.
+    for (const std::uint64_t stream : beside) {
+        Section section;
+        readSection(pdf, reader, stream, section);
+    }
 }
 
-CrossReference::Section CrossReference::readSection(QPDF& pdf, std::uint64_t offset)
+/// Reads a section and takes note of its entries. \returns its dictionary.
+QPDFObjectHandle CrossReference::readSection(QPDF& pdf, SectionReader& reader, std::uint64_t offset,
+                                             Section& section)
 {
-    if (offset >= m_source->size())
-        refuse("a section of the cross-reference lies behind the end");
-    const std::uint64_t position = skipWhitespace(m_headerOffset + offset);
-    const std::string start = m_source->text(position, 5);
-    const bool isTable =
-        start.size() == 5 && start.starts_with("xref") && whitespace.find(start[4]) != whitespace.npos;
-    Section section = isTable ? readTable(pdf, position + 4) : readStream(pdf, position);
-    QPDFObjectHandle size = section.dictionary.getKey("/Size");
-    if (!size.isInteger() || size.getIntValue() < 0 || size.getIntValue() > largestSize)
-        refuse("a section of the cross-reference has no usable size");
-    m_size = std::max(m_size, size.getIntValueAsInt());
-    return section;
-}
-
-CrossReference::Section CrossReference::readTable(QPDF& pdf, std::uint64_t position)
-{
-    TableScanner scanner(*m_source, position);
-    while (const auto subsection = scanner.nextSubsection())
-        noteEntries(subsection->first, subsection->count);
-    m_input->seek(static_cast<qpdf_offset_t>(scanner.behindTrailerKeyword()), SEEK_SET);
-    return {Kind::Table, readDictionary(pdf)};
-}
-
-CrossReference::Section CrossReference::readStream(QPDF& pdf, std::uint64_t position)
-{
-    using Token = QPDFTokenizer::Token;
-    m_input->seek(static_cast<qpdf_offset_t>(position), SEEK_SET);
-    const auto next = [this] { return m_tokenizer.readToken(m_input, "cross-reference", true, 20); };
-    const Token number = next();
-    const Token generation = next();
-    if (!number.isInteger() || !generation.isInteger() || !next().isWord("obj"))
-        refuse("there is no cross-reference where the document says");
-    QPDFObjectHandle dictionary = readDictionary(pdf);
-    if (!next().isWord("stream") || !dictionary.isDictionaryOfType("/XRef"))
-        refuse("there is no cross-reference stream where the document says");
-    noteIndex(dictionary);
-    return {Kind::Stream, dictionary};
-}
-
-QPDFObjectHandle CrossReference::readDictionary(QPDF& pdf)
-{
-    bool empty = false;
-    QPDFObjectHandle dictionary =
-        QPDFObjectHandle::parse(m_input, "trailer", m_tokenizer, empty, nullptr, &pdf);
+    auto read = offset < largestOffset ? reader.read(static_cast<std::int64_t>(m_headerOffset + offset))
+                                       : std::nullopt;
+    if (!read)
+        refuse(offset < largestOffset ? reader.why()
+                                      : "a section of the cross-reference lies behind the end");
+    section = std::move(*read);
+    QPDFObjectHandle dictionary = parseObject(pdf, section.dictionary);
     if (!dictionary.isDictionary())
         refuse("a section of the cross-reference has no dictionary");
+    noteSize(dictionary.getKey("/Size"));
+    for (const Section::Run& run : section.runs)
+        noteEntries(run.first, run.count);
+    if (section.isStream && !dictionary.isDictionaryOfType("/XRef"))
+        refuse("there is no cross-reference stream where the document says");
+    if (section.isStream)
+        noteIndex(dictionary);
     return dictionary;
 }
 
-std::uint64_t CrossReference::skipWhitespace(std::uint64_t position) const
+void CrossReference::noteSize(QPDFObjectHandle size)
 {
-    const std::size_t skipped = m_source->text(position, 64).find_first_not_of(whitespace);
-    return position + (skipped == std::string::npos ? 0 : skipped);
+    if (!size.isInteger() || size.getIntValue() < 0 || size.getIntValue() > largestSize)
+        refuse("a section of the cross-reference has no usable size");
+    m_size = std::max(m_size, size.getIntValueAsInt());
 }
 
 void CrossReference::noteEntries(long long first, long long count)

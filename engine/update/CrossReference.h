@@ -1,10 +1,10 @@
 #pragma once
 
 #include "engine/files/ByteSource.h"
+#include "engine/syntax/SectionReader.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
-#include <qpdf/QPDFTokenizer.hh>
 
 #include <cstdint>
 #include <map>
@@ -12,11 +12,7 @@
 
 namespace engine {
 
-class DirectReader;
 class FileScan;
-
-/// Readers need not take larger object numbers, and some do not. A /Size that lies may be above.
-inline constexpr int largestObjectNumber = 8'388'607;
 
 /// What a further revision must know of a document's cross-reference: read from the bytes themselves, section
 /// by section along the chain, and not from libqpdf, which repairs without saying how much.
@@ -29,8 +25,9 @@ public:
     ///     names the catalog that `pdf` uses.
     CrossReference(QPDF& pdf, std::shared_ptr<const ByteSource> source);
 
-    /// The same of a document that a direct reader accepted, and so has read already.
-    CrossReference(QPDF& pdf, const DirectReader& reader);
+    /// The same of a document that was read directly, so that its sections are known already.
+    /// \param size the largest of all sections' sizes.
+    CrossReference(QPDF& pdf, const Section& newest, int size);
 
     /// Of a document whose cross-reference is damaged, but whose objects lie beyond doubt where they were
     /// found: the next revision lists all of them, and names no section before.
@@ -39,7 +36,7 @@ public:
     /// How many bytes of a file lie before the header from which its offsets are counted.
     static std::uint64_t headerOffsetOf(const ByteSource& source);
 
-    struct Entry
+    struct ObjectOffset
     {
         std::uint64_t offset; ///< From the header.
         int generation;
@@ -47,7 +44,7 @@ public:
 
     /// What the next revision has to list besides its own objects, by number; empty when it names a section
     /// that lists them.
-    const std::map<int, Entry>& unlistedObjects() const { return m_unlisted; }
+    const std::map<int, ObjectOffset>& unlistedObjects() const { return m_unlisted; }
 
     /// Kind of the newest section; a table with a stream beside it (a hybrid file) counts as a table.
     Kind kind() const { return m_kind; }
@@ -68,26 +65,14 @@ public:
     int size() const { return m_size; }
 
 private:
-    struct Section
-    {
-        Kind kind = Kind::Table;
-        QPDFObjectHandle dictionary;
-    };
-
-    void readChain(QPDF& pdf, std::uint64_t offset);
-    Section readSection(QPDF& pdf, std::uint64_t offset);
-    Section readTable(QPDF& pdf, std::uint64_t position);
-    Section readStream(QPDF& pdf, std::uint64_t position);
-    QPDFObjectHandle readDictionary(QPDF& pdf);
-    std::uint64_t skipWhitespace(std::uint64_t position) const;
+    void readChain(QPDF& pdf, SectionReader& reader, std::uint64_t offset);
+    QPDFObjectHandle readSection(QPDF& pdf, SectionReader& reader, std::uint64_t offset, Section& section);
     void noteEntries(long long first, long long count);
     void noteIndex(QPDFObjectHandle dictionary);
+    void noteSize(QPDFObjectHandle size);
     void requireSameDocument(QPDF& pdf);
 
-    std::shared_ptr<const ByteSource> m_source;
-    std::shared_ptr<InputSource> m_input;
-    QPDFTokenizer m_tokenizer;
-    std::map<int, Entry> m_unlisted;
+    std::map<int, ObjectOffset> m_unlisted;
     Kind m_kind = Kind::Table;
     std::uint64_t m_newestOffset = 0;
     std::uint64_t m_headerOffset = 0;

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <string_view>
 #include <vector>
 
 namespace engine {
@@ -15,12 +14,6 @@ namespace {
 
 constexpr std::uint64_t largestTableOffset = 9'999'999'999;
 constexpr int headOfFreeObjects = 65535; // its generation
-
-// Of the newest trailer these describe the section itself; all other entries belong to the document.
-constexpr std::string_view sectionKeys[] = {
-    "/Prev", "/XRefStm", "/Size", "/Type",    "/W",           "/Index",        "/Length",
-    "/DL",   "/Filter",  "/F",    "/FFilter", "/DecodeParms", "/FDecodeParms",
-};
 
 std::string bigEndian(std::uint64_t number, int bytes)
 {
@@ -65,10 +58,12 @@ std::vector<std::pair<int, int>> stretches(const Entries& entries)
 } // namespace
 
 IncrementalUpdate::IncrementalUpdate(QPDF& pdf, const CrossReference& crossReference,
-                                     const ByteSource& source, const std::set<QPDFObjGen>& changed)
-    : m_crossReference(crossReference), m_cipher(pdf), m_serializer(&m_cipher), m_sourceSize(source.size())
+                                     const ByteSource& source, const std::set<QPDFObjGen>& changed,
+                                     const TrailerEntries& trailer)
+    : m_crossReference(crossReference), m_changedTrailer(trailer), m_cipher(pdf), m_serializer(&m_cipher),
+      m_sourceSize(source.size())
 {
-    if (changed.empty())
+    if (changed.empty() && trailer.empty())
         throw EngineError(ErrorCode::NothingChanged);
     if (const char last = source.lastByte(); last != '\n' && last != '\r')
         m_bytes = "\n";
@@ -84,11 +79,13 @@ void IncrementalUpdate::writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& chan
 {
     for (const QPDFObjGen object : changed)
         writeObject(pdf.getObject(object));
+    if (changed.empty()) // some readers take a section without entries for damage
+        writeObject(pdf.getRoot());
     // Writing a new object may bring further references.
     std::size_t next = 0;
     while (next < m_serializer.references().size()) {
         const QPDFObjGen reference = m_serializer.references()[next++];
-        if (reference.getObj() < m_crossReference.entryEnd() || m_entries.contains(reference.getObj()))
+        if (reference.getObj() < m_crossReference.entryEnd() || m_written.contains(reference.getObj()))
             continue;
         QPDFObjectHandle object = pdf.getObject(reference);
         if (!object.isNull())
@@ -99,7 +96,8 @@ void IncrementalUpdate::writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& chan
 void IncrementalUpdate::writeObject(QPDFObjectHandle object)
 {
     const QPDFObjGen id = object.getObjGen();
-    if (id.getObj() <= 0 || !m_entries.try_emplace(id.getObj(), Entry{nextOffset(), id.getGen()}).second)
+    if (id.getObj() <= 0 ||
+        !m_written.try_emplace(id.getObj(), ObjectOffset{nextOffset(), id.getGen()}).second)
         throw EngineError(ErrorCode::CannotAppend, "two changed objects have the same number");
     m_bytes += id.unparse(' ') + " obj\n" + m_serializer.write(object, id) + "\nendobj\n";
 }
@@ -107,9 +105,9 @@ void IncrementalUpdate::writeObject(QPDFObjectHandle object)
 void IncrementalUpdate::addUnlistedObjects()
 {
     const auto& unlisted = m_crossReference.unlistedObjects();
-    m_entries.insert(unlisted.begin(), unlisted.end());
+    m_written.insert(unlisted.begin(), unlisted.end());
     if (!unlisted.empty())
-        m_entries.try_emplace(0, Entry{0, headOfFreeObjects}); // every first section has it
+        m_written.try_emplace(0, ObjectOffset{0, headOfFreeObjects}); // every first section has it
 }
 
 void IncrementalUpdate::writeTable()
@@ -117,15 +115,15 @@ void IncrementalUpdate::writeTable()
     const std::uint64_t start = nextOffset();
     if (start > largestTableOffset)
         throw EngineError(ErrorCode::CannotAppend, "the offset does not fit a cross-reference table");
-    const std::string trailer = ObjectSerializer().write(newTrailer(sizeWith(m_entries.rbegin()->first)));
+    const std::string trailer = ObjectSerializer().write(newTrailer(sizeWith(m_written.rbegin()->first)));
     m_bytes += "xref\n";
-    for (const auto& [first, count] : stretches(m_entries)) {
+    for (const auto& [first, count] : stretches(m_written)) {
         m_bytes += std::to_string(first) + " " + std::to_string(count) + "\n";
         for (int number = first; number < first + count; ++number) {
-            const Entry& entry = m_entries.at(number);
+            const ObjectOffset& object = m_written.at(number);
             char line[32];
             std::snprintf(line, sizeof(line), "%010llu %05d %c \n",
-                          static_cast<unsigned long long>(entry.offset), entry.generation,
+                          static_cast<unsigned long long>(object.offset), object.generation,
                           number == 0 ? 'f' : 'n');
             m_bytes += line;
         }
@@ -139,18 +137,18 @@ void IncrementalUpdate::writeStream()
     const std::uint64_t start = nextOffset();
     const int free = m_crossReference.size() <= largestObjectNumber ? m_crossReference.size()
                                                                     : m_crossReference.entryEnd();
-    const int number = std::max(free, m_entries.rbegin()->first + 1);
-    m_entries.emplace(number, Entry{start, 0});
+    const int number = std::max(free, m_written.rbegin()->first + 1);
+    m_written.emplace(number, ObjectOffset{start, 0});
     const int offsetBytes = bytesFor(start);
     QPDFObjectHandle index = QPDFObjectHandle::newArray();
     std::string content;
-    for (const auto& [first, count] : stretches(m_entries)) {
+    for (const auto& [first, count] : stretches(m_written)) {
         index.appendItem(QPDFObjectHandle::newInteger(first));
         index.appendItem(QPDFObjectHandle::newInteger(count));
     }
-    for (const auto& [ignored, entry] : m_entries)
-        content += bigEndian(1, 1) + bigEndian(entry.offset, offsetBytes) +
-                   bigEndian(static_cast<std::uint64_t>(entry.generation), 2);
+    for (const auto& [ignored, object] : m_written)
+        content += bigEndian(1, 1) + bigEndian(object.offset, offsetBytes) +
+                   bigEndian(static_cast<std::uint64_t>(object.generation), 2);
     auto dictionary = newTrailer(sizeWith(number));
     dictionary["/Type"] = QPDFObjectHandle::newName("/XRef");
     dictionary["/W"] = QPDFObjectHandle::parse("[1 " + std::to_string(offsetBytes) + " 2]");
@@ -169,8 +167,13 @@ void IncrementalUpdate::writeEnd(std::uint64_t sectionOffset)
 std::map<std::string, QPDFObjectHandle> IncrementalUpdate::newTrailer(int size) const
 {
     auto trailer = QPDFObjectHandle(m_crossReference.trailer()).getDictAsMap();
-    for (const std::string_view key : sectionKeys)
-        trailer.erase(std::string(key));
+    std::erase_if(trailer, [](const auto& entry) { return describesSection(entry.first.substr(1)); });
+    for (auto [key, value] : m_changedTrailer) {
+        if (!value.isIndirect() && value.isNull())
+            trailer.erase(key);
+        else
+            trailer.insert_or_assign(key, value);
+    }
     trailer["/Size"] = QPDFObjectHandle::newInteger(size);
     if (m_crossReference.unlistedObjects().empty())
         trailer["/Prev"] =

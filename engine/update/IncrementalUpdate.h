@@ -19,16 +19,19 @@ namespace engine {
 class IncrementalUpdate
 {
 public:
+    using TrailerEntries = std::map<std::string, QPDFObjectHandle>;
+
     /// \param changed the indirect objects that differ from `source`. Objects that are new and referred to by
     ///     these need not be named when their numbers lie above the document's.
+    /// \param trailer the entries of the trailer that differ; null for those that are gone.
     /// \throws EngineError with CannotAppend when the document is such that an update would not be right.
     IncrementalUpdate(QPDF& pdf, const CrossReference& crossReference, const ByteSource& source,
-                      const std::set<QPDFObjGen>& changed);
+                      const std::set<QPDFObjGen>& changed, const TrailerEntries& trailer = {});
 
     const std::string& bytes() const { return m_bytes; }
 
 private:
-    using Entry = CrossReference::Entry;
+    using ObjectOffset = CrossReference::ObjectOffset;
 
     void writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& changed);
     void writeObject(QPDFObjectHandle object);
@@ -41,11 +44,12 @@ private:
     std::uint64_t nextOffset() const;
     int sizeWith(int objectNumber) const;
 
-    const CrossReference& m_crossReference; // in use only while the update is made
+    const CrossReference& m_crossReference; // this and the next in use only while the update is made
+    const TrailerEntries& m_changedTrailer;
     StringCipher m_cipher;
     ObjectSerializer m_serializer;
     std::uint64_t m_sourceSize;
-    std::map<int, Entry> m_entries;
+    std::map<int, ObjectOffset> m_written; // by object number
     std::string m_bytes;
 };
 

@@ -1,0 +1,68 @@
+#include "Arguments.h"
+#include "Operations.h"
+#include "Session.h"
+#include "Text.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace engine::operations {
+
+namespace {
+
+const int versionKey = 0;
+
+// At the library's number for it; 0 is the PDF version.
+const std::array informationKeys{"",         "/Title",    "/Author",       "/Subject", "/Keywords",
+                                 "/Creator", "/Producer", "/CreationDate", "/ModDate"};
+
+/// The higher of the versions that the header and the catalog state, "1.7".
+std::string versionOf(Document& document)
+{
+    const std::string header = document.pdf().getPDFVersion();
+    QPDFObjectHandle stated = document.key(document.catalog(), "/Version");
+    return stated.isName() ? std::max(header, stated.getName().substr(1)) : header;
+}
+
+/// The dictionary that an entry is written to, marked as changed: an object of its own, as ISO 32000 asks.
+QPDFObjectHandle changedInformation(Document& document)
+{
+    QPDFObjectHandle information = document.trailerKey("/Info");
+    if (!information.isIndirect() || !information.isDictionary()) {
+        information = document.makeIndirect(information.isDictionary() ? information.shallowCopy()
+                                                                       : QPDFObjectHandle::newDictionary());
+        document.setTrailerKey("/Info", information);
+    }
+    document.markChanged(information);
+    return information;
+}
+
+} // namespace
+
+std::wstring GetInformation(Session& session, int key)
+{
+    Document& document = session.document().document;
+    requireWithin(key, versionKey, lastOf(informationKeys));
+    if (key == versionKey)
+        return wideFromUtf8(versionOf(document));
+    QPDFObjectHandle value = document.key(document.trailerKey("/Info"), rowOf(informationKeys, key));
+    return value.isString() ? wideFromUtf8(value.getUTF8Value()) : std::wstring();
+}
+
+int SetInformation(Session& session, int key, std::wstring_view value)
+{
+    Document& document = session.document().document;
+    requireWithin(key, versionKey + 1, lastOf(informationKeys));
+    const char* const name = rowOf(informationKeys, key);
+    const std::string text = utf8FromWide(value);
+    QPDFObjectHandle present = document.key(document.trailerKey("/Info"), name);
+    const bool isThere =
+        present.isNull() ? text.empty() : present.isString() && present.getUTF8Value() == text;
+    if (!isThere)
+        changedInformation(document).replaceKey(
+            name, text.empty() ? QPDFObjectHandle::newNull() : QPDFObjectHandle::newUnicodeString(text));
+    return 1;
+}
+
+} // namespace engine::operations

@@ -1,0 +1,143 @@
+#include "ObjectFetcher.h"
+
+#include "engine/direct/DirectReader.h"
+#include "engine/files/ByteSource.h"
+#include "engine/syntax/ObjectParser.h"
+#include "engine/syntax/SyntaxScanner.h"
+
+#include <qpdf/QPDFExc.hh>
+
+#include <stdexcept>
+
+namespace engine {
+
+namespace {
+
+/// The references that an array consists of. \returns nothing when it holds anything else.
+std::shared_ptr<KidReferences> referencesIn(std::string_view array)
+{
+    if (!array.starts_with('[') || !array.ends_with(']'))
+        return nullptr;
+    auto references = std::make_shared<KidReferences>();
+    references->reserve(array.size() / 8);
+    SyntaxScanner scanner(array, 1);
+    for (scanner.skipSpace(); scanner.position() + 1 < array.size(); scanner.skipSpace()) {
+        const auto id = scanner.reference();
+        if (!id)
+            return nullptr;
+        references->emplace_back(id->number, id->generation);
+    }
+    return references;
+}
+
+struct NodeText
+{
+    std::string withoutKids;
+    std::shared_ptr<KidReferences> kids;
+};
+
+/// Splits a node's text. \returns nothing for what is no node, or has kids that are no references.
+std::optional<NodeText> splitNode(std::string_view text)
+{
+    DictionaryScanner scanner(text);
+    std::optional<NodeText> split;
+    while (const auto entry = scanner.next()) {
+        if (entry->key != "Kids")
+            continue;
+        auto kids = split ? nullptr : referencesIn(entry->value);
+        if (!kids)
+            return std::nullopt;
+        const auto start = static_cast<std::size_t>(entry->key.data() - 1 - text.data());
+        const auto end = static_cast<std::size_t>(entry->value.data() - text.data()) + entry->value.size();
+        split = NodeText{std::string(text.substr(0, start)).append(text.substr(end)), std::move(kids)};
+    }
+    return scanner.odd() ? std::nullopt : split;
+}
+
+} // namespace
+
+ObjectFetcher::ObjectFetcher(std::unique_ptr<DirectReader> reader, std::string skeleton)
+    : m_reader(std::move(reader)), m_skeleton(std::move(skeleton)), m_pdf(QPDF::create())
+{
+    m_pdf->setSuppressWarnings(true);
+}
+
+ObjectFetcher::~ObjectFetcher() = default;
+
+std::unique_ptr<ObjectFetcher> ObjectFetcher::open(const std::shared_ptr<ByteSource>& source,
+                                                   const std::string& fileName)
+{
+    auto reader = DirectReader::open(source);
+    const bool numbersLeft = reader && reader->size() <= largestObjectNumber; // new ones follow the size
+    auto skeleton = numbersLeft ? reader->skeleton() : std::nullopt;
+    if (!skeleton)
+        return nullptr;
+    std::unique_ptr<ObjectFetcher> fetcher(new ObjectFetcher(std::move(reader), std::move(*skeleton)));
+    try {
+        const std::string& bytes = fetcher->m_skeleton;
+        fetcher->m_pdf->processMemoryFile(fileName.c_str(), bytes.data(), bytes.size());
+        fetcher->fetch(fetcher->m_pdf->getRoot());
+        return fetcher;
+    } catch (const QPDFExc&) {
+    } catch (const DirectReadingEnded&) {
+    }
+    return nullptr;
+}
+
+std::string_view ObjectFetcher::textOf(QPDFObjGen id)
+{
+    const auto text = m_reader->object(id.getObj(), id.getGen());
+    if (!text)
+        throw DirectReadingEnded();
+    m_lookedAt.push_back(id);
+    return *text;
+}
+
+void ObjectFetcher::put(QPDFObjGen id, std::string_view text)
+{
+    try {
+        m_pdf->replaceObject(id, parseObject(*m_pdf, text));
+    } catch (const std::runtime_error&) { // libqpdf's own, and from numbers that are too large
+        throw DirectReadingEnded();
+    }
+    if (m_pdf->anyWarnings())
+        throw DirectReadingEnded();
+}
+
+void ObjectFetcher::fetch(QPDFObjectHandle object)
+{
+    if (object.isIndirect() && m_fetched.insert(object.getObjGen()).second)
+        put(object.getObjGen(), textOf(object.getObjGen()));
+}
+
+void ObjectFetcher::fetchNode(QPDFObjectHandle object)
+{
+    const QPDFObjGen id = object.getObjGen();
+    if (!object.isIndirect() || isKnown(id))
+        return;
+    const std::string_view text = textOf(id);
+    auto split = splitNode(text);
+    put(id, split ? split->withoutKids : text);
+    if (split)
+        m_kids.emplace(id, std::move(split->kids));
+    else
+        m_fetched.insert(id);
+}
+
+std::shared_ptr<const KidReferences> ObjectFetcher::kidsOf(QPDFObjGen id) const
+{
+    const auto known = m_kids.find(id);
+    return known == m_kids.end() ? nullptr : known->second;
+}
+
+std::optional<std::string_view> ObjectFetcher::unread(QPDFObjGen id)
+{
+    if (!id.isIndirect() || isKnown(id))
+        return std::nullopt;
+    const auto text = m_reader->object(id.getObj(), id.getGen());
+    if (text)
+        m_lookedAt.push_back(id);
+    return text;
+}
+
+} // namespace engine
