@@ -1,6 +1,7 @@
 #include "DocumentProcessor.h"
 
 #include "FileState.h"
+#include "host/change/ViewChanger.h"
 #include "host/files/Checksum.h"
 #include "host/files/FileAttributes.h"
 #include "host/files/FileCopy.h"
@@ -124,7 +125,11 @@ std::string DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int s
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
     m_errors.ClearAll();
-    if (!applyEntries())
+    if (!m_options.change.isEmpty()) {
+        if (const std::string reason = ViewChanger(m_library, m_options.change).apply(job.source);
+            !reason.empty())
+            return DocumentResult::failed(reason);
+    } else if (!applyEntries())
         return DocumentResult::failed(m_errors.GetLast().toStdString());
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
         return m_options.inPlace || m_options.dryRun ? leave() : copy(job);
