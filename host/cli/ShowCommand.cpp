@@ -1,7 +1,6 @@
 #include "ShowCommand.h"
 
-#include "OptionParser.h"
-
+#include "host/arguments/OptionParser.h"
 #include "host/program/InstallLayout.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/JsonLine.h"
