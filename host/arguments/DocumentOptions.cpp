@@ -2,6 +2,7 @@
 
 #include "OptionParser.h"
 #include "host/files/FileDescriptor.h"
+#include "host/terminal/StandardError.h"
 #include "host/terminal/UsageError.h"
 
 #include <fcntl.h>
@@ -51,6 +52,18 @@ void DocumentOptions::read(const std::vector<std::string>& words)
     readPassword();
     if (m_list)
         readList();
+}
+
+RunPlan DocumentOptions::planForReading() const
+{
+    RunPlan plan("");
+    for (const std::string& input : m_inputs)
+        plan.add(input);
+    for (const std::string& folder : plan.emptyFolders())
+        note("no PDF documents in " + folder);
+    if (plan.documents().empty() && plan.emptyFolders().empty())
+        note("the list of documents is empty");
+    return plan;
 }
 
 void DocumentOptions::readPassword()

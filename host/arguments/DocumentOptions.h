@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/run/RunPlan.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +23,8 @@ public:
 
     /// Documents and folders: those that are named by themselves, and then those of the list.
     const std::vector<std::string>& inputs() const { return m_inputs; }
+    /// The documents for a command that only reads them. Folders without any are noted. Throws UsageError.
+    RunPlan planForReading() const;
     const std::string& password() const { return m_password; }
     const std::vector<std::string>& filesRead() const { return m_filesRead; }
 
