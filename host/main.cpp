@@ -1,3 +1,4 @@
+#include "cli/CheckCommand.h"
 #include "cli/ConfigureCommand.h"
 #include "cli/ListsCommand.h"
 #include "cli/RunCommand.h"
@@ -29,6 +30,7 @@ Commands allCommands()
     commands.push_back(std::make_unique<host::RunCommand>());
     commands.push_back(std::make_unique<host::UndoCommand>());
     commands.push_back(std::make_unique<host::ShowCommand>());
+    commands.push_back(std::make_unique<host::CheckCommand>());
     commands.push_back(std::make_unique<host::ConfigureCommand>());
     commands.push_back(std::make_unique<host::ListsCommand>());
     return commands;

@@ -207,11 +207,10 @@ void ViewChanger::require(int result, ViewEntry entry) const
 
 void ViewChanger::altered(ViewEntry entry, const ViewValue& before, const ViewValue& after)
 {
-    const auto word = [entry](const ViewValue& value) {
-        return std::holds_alternative<Unset>(value) ? "unset" : viewvalues::wordOf(entry, value);
-    };
     const bool isOther = entry == ViewEntry::OpenPage && before == ViewValue(Unset());
-    m_differences.push_back({entry, isOther && !m_action.empty() ? m_action : word(before), word(after)});
+    m_differences.push_back({entry,
+                             isOther && !m_action.empty() ? m_action : viewdifference::wordOf(entry, before),
+                             viewdifference::wordOf(entry, after)});
 }
 
 std::string titleFromFileName(const std::string& file)

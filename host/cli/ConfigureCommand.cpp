@@ -1,7 +1,6 @@
 #include "ConfigureCommand.h"
 
-#include "OptionParser.h"
-
+#include "host/arguments/OptionParser.h"
 #include "host/files/FileDescriptor.h"
 #include "host/program/HostApplication.h"
 #include "host/program/InstallLayout.h"
@@ -35,11 +34,6 @@ using namespace storedkeys;
 
 const int mostEntries = 1 << 20;
 const int iconSide = 42;
-
-OptionParser::Take append(std::vector<std::string>& values)
-{
-    return [&values](const std::string& value) { values.push_back(value); };
-}
 
 /// The window's save buttons fail without a word.
 void noteMissingFolders()
@@ -95,9 +89,9 @@ int ConfigureCommand::work(const std::vector<std::string>& words)
 
 void ConfigureCommand::takeOptions(OptionParser& parser)
 {
-    parser.takeValue("list", append(m_lists));
-    parser.takeValue("favorite", append(m_favorites));
-    parser.takeValue("tool-settings", append(m_toolSettings));
+    parser.takeValue("list", appendTo(m_lists));
+    parser.takeValue("favorite", appendTo(m_favorites));
+    parser.takeValue("tool-settings", appendTo(m_toolSettings));
     parser.takeValue("entry", [this](const std::string& value) {
         m_entry = numberOption("--entry", value, 1, mostEntries);
     });

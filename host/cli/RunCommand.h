@@ -2,7 +2,8 @@
 
 #include "Command.h"
 
-#include "host/change/ViewChange.h"
+#include "host/arguments/ChangeOptions.h"
+#include "host/arguments/DocumentOptions.h"
 #include "host/run/BatchRun.h"
 #include "host/run/DocumentProcessor.h"
 #include "host/run/StreamFiles.h"
@@ -27,15 +28,8 @@ protected:
     int work(const std::vector<std::string>& words) override;
 
 private:
-    void takeViewOptions(OptionParser& parser);
-    /// What the view options ask for, in the order in which they count.
-    void readChange();
-    void readSettings();
-    void readPassword();
-    void readFileList();
+    void readOptions();
     void check() const;
-    bool changesView() const;
-    void noteSettings();
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
     RunPlan plan(const Destination& destination) const;
@@ -55,26 +49,14 @@ private:
     Tells tells() const;
 
     bool m_quiet = false;
-    bool m_nullSeparated = false;
-    std::vector<std::string> m_lists;
-    std::vector<std::string> m_favorites;
-    std::vector<std::string> m_toolSettings;
-    std::vector<std::string> m_settingWords;
-    std::optional<std::string> m_viewFile;
-    std::optional<std::string> m_model;
-    bool m_titleFromFileName = false;
-    bool m_titleIfMissing = false;
-    ViewChange m_change; ///< Of the options that each name an entry.
+    ChangeOptions m_changeOptions;
+    DocumentOptions m_documentOptions;
+    std::vector<std::string> m_words;
     std::optional<std::string> m_output;
     std::optional<std::string> m_suffix;
     std::optional<std::string> m_base;
-    std::optional<std::string> m_password;
-    std::optional<std::string> m_passwordFile;
-    std::optional<std::string> m_fileList;
     std::optional<std::string> m_reportFile;
     std::optional<std::string> m_resumedReport;
-    std::vector<std::string> m_filesRead; ///< Besides the documents.
-    std::vector<std::string> m_inputs;
     ProcessingOptions m_options;
     std::optional<StreamFiles> m_streams;
     WorkerPool::Limits m_limits;

@@ -1,6 +1,6 @@
 #include "UndoCommand.h"
 
-#include "OptionParser.h"
+#include "host/arguments/OptionParser.h"
 
 #include "host/terminal/UsageError.h"
 #include "host/undo/UndoPlan.h"

@@ -138,6 +138,20 @@ void OptionParser::refuseName(const std::string& name) const
         (meant.empty() ? "; \"quintar " + m_command.name + " --help-all\" lists the options" : meant));
 }
 
+OptionParser::Take appendTo(std::vector<std::string>& values)
+{
+    return [&values](const std::string& value) { values.push_back(value); };
+}
+
+OptionParser::Take setOnce(std::optional<std::string>& value, const char* name)
+{
+    return [&value, name](const std::string& given) {
+        if (value)
+            throw UsageError(std::string(name) + " is given twice");
+        value = given;
+    };
+}
+
 int numberOption(const char* name, const std::string& value, int lowest, int highest)
 {
     int number = 0;
