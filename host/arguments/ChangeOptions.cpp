@@ -127,17 +127,14 @@ std::vector<std::string> ChangeOptions::notes() const
     for (const ActionEntry& entry : m_entries)
         for (std::string& note : settingsnotes::about(entry.settings))
             notes.push_back(std::move(note));
+    if (std::string note = noteOnAll(); !note.empty())
+        notes.push_back(std::move(note));
     return notes;
 }
 
 std::string ChangeOptions::noteOnAll() const
 {
-    std::string text;
-    for (const ActionEntry& entry : m_entries) {
-        const std::string rows = settingsnotes::aboutRowsLeftOut(entry.settings);
-        text += (text.empty() || rows.empty() ? "" : "; ") + rows;
-    }
-    return text;
+    return settingsnotes::aboutRowsLeftOut(m_entries);
 }
 
 } // namespace host

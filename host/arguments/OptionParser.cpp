@@ -132,6 +132,11 @@ void OptionParser::refuseName(const std::string& name) const
     }
     if (!beginnings.empty())
         throw UsageError("--" + name + " may be one of " + beginnings);
+    for (const Option& each : m_options)
+        if (each.completes == options::Completes::Words &&
+            std::find(each.words.begin(), each.words.end(), name) != each.words.end())
+            throw UsageError("unknown option --" + name + "; did you mean \"--" + each.name + " " + name +
+                             "\"?");
     const std::string meant = suggestion::didYouMean(name, names, "--");
     throw UsageError(
         "unknown option --" + name +

@@ -59,7 +59,7 @@ const std::vector<Option> optionRows{
      Folders, {}, {Run}, Group::Target, rare},
     {"suffix", 0, "TEXT", "writes manual-TEXT.pdf beside each manual.pdf",
      "in a folder, results of an earlier run are passed over",
-     Nothing, {}, {Run}, Group::Target, common},
+     Nothing, {}, {Run}, Group::Target, rare},
     {"in-place", 0, "", "changes the documents in their own places",
      "one that needs no change is not touched",
      Nothing, {}, {Run}, Group::Target, common},
@@ -120,9 +120,9 @@ const std::vector<Option> optionRows{
 };
 
 const std::vector<Command> commandRows{
-    {Run, "run", "change how documents open", "CHANGE (-o DIR | --suffix TEXT | --in-place) DOCUMENT|FOLDER|- ...",
+    {Run, "run", "change how documents open", "CHANGE (-o DIR | --in-place) DOCUMENT|FOLDER ...",
      "Changes how PDF documents open. View options change what they name and leave the rest; settings are those "
-     "of the action. A folder stands for the PDF documents in it and its subfolders, - for one from standard input.",
+     "of the action. A folder stands for the PDF documents in it and its subfolders, - for standard input.",
      {{"quintar run --page-mode bookmarks -o changed/ manuals/", "open a folder's documents with the bookmarks"},
       {"quintar run --open-page unset --in-place -n manual.pdf", "see whether the opening page would be forgotten"},
       {"quintar run --list \"Monthly reports\" --in-place manuals/", "apply a stored action list"}},

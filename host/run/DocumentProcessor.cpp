@@ -157,9 +157,9 @@ std::string DocumentProcessor::applyChange(const std::string& file)
 /// The same with the action.
 std::string DocumentProcessor::applyEntries()
 {
+    if (std::string note = settingsnotes::aboutPage(m_options.entries, m_library.PageCount()); !note.empty())
+        m_notes.push_back(std::move(note));
     for (const ActionEntry& entry : m_options.entries) {
-        if (std::string note = settingsnotes::aboutPage(entry.settings, m_library.PageCount()); !note.empty())
-            m_notes.push_back(std::move(note));
         SettingsMap settings = entry.settings;
         WorkProcInfoStruct info{&m_library, &m_errors, {}, &settings};
         if (m_action.WorkProc(&info) != 0)

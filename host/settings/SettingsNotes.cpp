@@ -34,11 +34,20 @@ std::string oddNumber(const Key& key, const QVariant& value)
            std::to_string(key.lowest) + " to " + std::to_string(key.highest);
 }
 
-bool isLeftOutRow(const Key& key, const SettingsMap& settings)
+/// The entry that a setting counts in: the last that switches its group on, null for none.
+const ActionEntry* lastWith(const std::vector<ActionEntry>& entries, const char* group)
 {
-    if (key.rows.empty() || key.group == nullptr || !isOn(settings, key.group) || settings.contains(key.name))
-        return false;
-    return key.name != key::Magnification || opensAtPage(settings);
+    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry)
+        if (isOn(entry->settings, group))
+            return &*entry;
+    return nullptr;
+}
+
+bool isLeftOutRow(const Key& key, const std::vector<ActionEntry>& entries)
+{
+    const ActionEntry* entry = key.rows.empty() ? nullptr : lastWith(entries, key.group);
+    return entry != nullptr && !entry->settings.contains(key.name) &&
+           (key.name != key::Magnification || opensAtPage(entry->settings));
 }
 
 } // namespace
@@ -56,23 +65,25 @@ std::vector<std::string> about(const SettingsMap& settings)
         add("neither LayoutAndMagnCheckBox nor ViewerPrefsCheckBox is on, so nothing will be changed");
     else if (isOn(settings, key::LayoutAndMagn) && !opensAtPage(settings))
         add("OpenToPageSpinBox is not set, so page and magnification stay as they are");
-    add(aboutRowsLeftOut(settings));
     return notes;
 }
 
-std::string aboutRowsLeftOut(const SettingsMap& settings)
+std::string aboutRowsLeftOut(const std::vector<ActionEntry>& entries)
 {
     std::string text;
     for (const Key& key : initialview::keys)
-        if (isLeftOutRow(key, settings))
+        if (isLeftOutRow(key, entries))
             text += (text.empty() ? "" : ", ") + std::string(key.name) + " (\"" + key.rows.front() + "\")";
     return text.empty() ? text : "left out, and so set to the first row: " + text;
 }
 
-std::string aboutPage(const SettingsMap& settings, int pageCount)
+std::string aboutPage(const std::vector<ActionEntry>& entries, int pageCount)
 {
-    const int page = settings.value(key::OpenToPage).toInt();
-    if (!opensAtPage(settings) || page <= pageCount)
+    int page = 0;
+    for (const ActionEntry& entry : entries)
+        if (opensAtPage(entry.settings))
+            page = entry.settings.value(key::OpenToPage).toInt();
+    if (page <= pageCount)
         return {};
     return "it has " + std::to_string(pageCount) + (pageCount == 1 ? " page" : " pages") +
            ", so it opens at page 1 instead of " + std::to_string(page);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SettingsMap.h"
+#include "SettingsFile.h"
 
 #include <string>
 #include <vector>
@@ -8,14 +8,13 @@
 /// What a user should know of settings that the action takes as they are.
 namespace host::settingsnotes {
 
-/// What holds for every document: numbers that no dialog offers, groups that are off, a page or rows that are
-/// left out.
+/// What holds for every document: numbers that no dialog offers, groups
 std::vector<std::string> about(const SettingsMap& settings);
 
 /// The rows that are left out and that the action takes for the first ones; empty when there are none.
-std::string aboutRowsLeftOut(const SettingsMap& settings);
+std::string aboutRowsLeftOut(const std::vector<ActionEntry>& entries);
 
 /// What becomes of the page in a document that does not have it; empty when it has.
-std::string aboutPage(const SettingsMap& settings, int pageCount);
+std::string aboutPage(const std::vector<ActionEntry>& entries, int pageCount);
 
 } // namespace host::settingsnotes

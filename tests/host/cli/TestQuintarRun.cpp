@@ -203,7 +203,7 @@ private slots:
         row("no target", "run a.pdf" + set, "-o DIR");
         row("two targets", "run -o out --in-place a.pdf" + set, "exclude");
         row("no documents", "run -o out" + set, "which documents");
-        row("output is a file", "run -o a.pdf sub/a.pdf" + set, "not a folder");
+        row("output is a file", "run -o bad.tsf sub/a.pdf" + set, "not a folder");
         row("unknown key", "run -o out --set Colour=1 a.pdf", "HideMenuBarCheckBox");
         row("value out of range", "run -o out --set ShowComboBox=2 a.pdf", "1  Document Title");
         row("settings file damaged", "run -o out --tool-settings bad.tsf a.pdf", "bad.tsf: ");
@@ -700,7 +700,7 @@ private slots:
         QCOMPARE(chown("d", 65534, 65534), 0);
         const ProgramRun run("setpriv",
                              QStringList{"--reuid=65534", "--regid=65534", "--clear-groups", PROGRAM_FILE,
-                                         "run", "--in-place", "--report", "d/report", "--quiet", "d/a.pdf"} +
+                                         "run", "--in-place", "--report", "d/report", "d/a.pdf"} +
                                  panelAndPage,
                              m_folder->path());
         QCOMPARE(run.status, 0);
