@@ -49,6 +49,7 @@ std::string DocumentResult::toRecord() const
         .add(note)
         .add(stateBefore)
         .add(checksumBefore)
+        .add(static_cast<std::int64_t>(certified))
         .bytes();
 }
 
@@ -64,6 +65,7 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     result.note = reader.text();
     result.stateBefore = reader.text();
     result.checksumBefore = reader.text();
+    result.certified = reader.number() != 0;
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);
     return reader.complete() && known ? std::optional(result) : std::nullopt;

@@ -42,6 +42,8 @@ struct DocumentResult
     /// checksum (Checksum.h) of all that stood before the update. By these the update can be taken back.
     std::string stateBefore = {};
     std::string checksumBefore = {};
+    /// The document carries a certification; false when it could not be read.
+    bool certified = false;
 
     static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;
