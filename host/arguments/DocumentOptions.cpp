@@ -29,7 +29,7 @@ std::string readLines(const std::string& path, std::size_t limit, const char* wh
 /// A list names files only.
 std::string fileNamed(const std::string& name)
 {
-    return name == Destination::standardStream ? "./" + name : name;
+    return name == RunDestination::standardStream ? "./" + name : name;
 }
 
 } // namespace
@@ -64,7 +64,7 @@ void DocumentOptions::read(const std::vector<std::string>& words)
 
 RunPlan DocumentOptions::planForReading() const
 {
-    RunPlan plan(Destination::inPlace());
+    RunPlan plan(RunDestination::inPlace());
     for (const std::string& input : m_inputs)
         plan.add(input);
     for (const std::string& folder : plan.emptyFolders())

@@ -40,7 +40,7 @@ int RunCommand::work(const std::vector<std::string>& words)
     m_words = words;
     m_options.flush = m_options.flush || m_options.inPlace;
     check();
-    const Destination destination = this->destination();
+    const RunDestination destination = this->destination();
     checkStandardStreams();
     readOptions();
 
@@ -83,7 +83,7 @@ void RunCommand::openStreams()
 
 bool RunCommand::hasStandardInput() const
 {
-    return std::find(m_words.begin(), m_words.end(), Destination::standardStream) != m_words.end();
+    return std::find(m_words.begin(), m_words.end(), RunDestination::standardStream) != m_words.end();
 }
 
 /// Standard output takes one thing only.
@@ -125,26 +125,26 @@ void RunCommand::check() const
     m_documentOptions.check(m_words);
 }
 
-Destination RunCommand::destination() const
+RunDestination RunCommand::destination() const
 {
     const int places = (m_output ? 1 : 0) + (m_suffix ? 1 : 0) + (m_options.inPlace ? 1 : 0);
     if (places != 1)
         throw UsageError(places == 0 ? "where to? Give -o DIR, -o FILE.pdf, --suffix TEXT or --in-place"
                                      : "-o, --suffix and --in-place exclude each other");
     if (m_suffix)
-        return Destination::beside(*m_suffix);
-    return m_output ? Destination::named(*m_output, m_base.value_or("")) : Destination::inPlace();
+        return RunDestination::beside(*m_suffix);
+    return m_output ? RunDestination::named(*m_output, m_base.value_or("")) : RunDestination::inPlace();
 }
 
 bool RunCommand::printsResult() const
 {
-    return m_output == Destination::standardStream;
+    return m_output == RunDestination::standardStream;
 }
 
 /// It can be read once, and standard output takes one thing only.
 void RunCommand::checkStandardStreams() const
 {
-    const auto documents = std::count(m_words.begin(), m_words.end(), Destination::standardStream);
+    const auto documents = std::count(m_words.begin(), m_words.end(), RunDestination::standardStream);
     const auto readers = documents + (m_documentOptions.readsStandardInput() ? 1 : 0) +
                          (m_changeOptions.readsStandardInput() ? 1 : 0);
     if (readers > 1)
@@ -200,11 +200,11 @@ BatchRun::Done RunCommand::doneBefore(const RunPlan& plan) const
     return done;
 }
 
-RunPlan RunCommand::plan(const Destination& destination) const
+RunPlan RunCommand::plan(const RunDestination& destination) const
 {
     RunPlan plan(destination);
     for (const std::string& input : m_documentOptions.inputs())
-        input == Destination::standardStream ? plan.addStandardInput() : plan.add(input);
+        input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input);
     plan.checkTargets();
     if (m_reportFile && m_reportFile != Report::standardOutput) {
         std::vector<std::string> filesRead = m_documentOptions.filesRead();

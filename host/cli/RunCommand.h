@@ -32,7 +32,7 @@ private:
     void check() const;
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
-    RunPlan plan(const Destination& destination) const;
+    RunPlan plan(const RunDestination& destination) const;
     void begin(Report& report) const;
     /// What --resume leaves out.
     BatchRun::Done doneBefore(const RunPlan& plan) const;
@@ -40,7 +40,7 @@ private:
     bool continuesReport() const;
 
     /// Where the results go. Throws UsageError unless exactly one place is named.
-    Destination destination() const;
+    RunDestination destination() const;
     void checkStandardStreams() const;
     bool hasStandardInput() const;
     bool printsResult() const;

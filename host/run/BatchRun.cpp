@@ -52,7 +52,7 @@ private:
 
 std::string shown(const std::string& name)
 {
-    return name == Destination::standardStream ? "standard input" : name;
+    return name == RunDestination::standardStream ? "standard input" : name;
 }
 
 void print(const std::string& text)
@@ -108,8 +108,8 @@ void BatchRun::planJobs()
 
 DocumentJob BatchRun::jobFor(const RunPlan::Document& document) const
 {
-    const bool isInput = document.name == Destination::standardStream;
-    const bool isOutput = document.target == Destination::standardStream;
+    const bool isInput = document.name == RunDestination::standardStream;
+    const bool isOutput = document.target == RunDestination::standardStream;
     const std::string target = isOutput ? m_setup.streams->result() : document.target;
     // In place, the library opens what links lead to: the file that is about to be replaced.
     const std::string& source = m_options.inPlace ? target : document.name;

@@ -46,7 +46,7 @@ void RunPlan::addStandardInput()
     if (file.empty())
         throw UsageError("a document from standard input goes to -o FILE.pdf or -o -");
     m_documents.push_back(
-        {Destination::standardStream, m_destination.isStandardOutput() ? file : targetOf(file), {}});
+        {RunDestination::standardStream, m_destination.isStandardOutput() ? file : targetOf(file), {}});
 }
 
 void RunPlan::addDocument(const std::string& path, const std::string& pathBelowOutput,

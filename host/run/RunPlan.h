@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Destination.h"
+#include "RunDestination.h"
 
 #include <sys/stat.h>
 
@@ -26,7 +26,7 @@ public:
         std::string problem;
     };
 
-    explicit RunPlan(Destination destination) : m_destination(std::move(destination)) {}
+    explicit RunPlan(RunDestination destination) : m_destination(std::move(destination)) {}
 
     /// Adds a document, or the documents in a folder.
     void add(const std::string& path);
@@ -54,7 +54,7 @@ private:
     std::string targetOf(const std::string& path);
     static FileId idOf(const struct stat& status) { return {status.st_dev, status.st_ino}; }
 
-    Destination m_destination;
+    RunDestination m_destination;
     std::vector<Document> m_documents;
     std::map<FileId, std::size_t> m_inputs;                        ///< The first document with each file.
     std::vector<std::pair<FileId, std::size_t>> m_existingOutputs; ///< With their documents.

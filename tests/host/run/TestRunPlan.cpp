@@ -74,7 +74,7 @@ private slots:
         plan.add("./two");
         QCOMPARE(targets(plan), std::string("d/one.pdf>new/er/out/one.pdf ./two>new/er/out/two "));
         WorkFolder::put("d/deep/x\xff.pdf");
-        RunPlan below(Destination::folder("out", "./d/"));
+        RunPlan below(RunDestination::folder("out", "./d/"));
         for (const std::string& name :
              {std::string("d/one.pdf"), fs::absolute("d/deep").string() + "/../deep"})
             below.add(name);
@@ -82,7 +82,7 @@ private slots:
         QCOMPARE(below.documents()[1].target, fs::canonical(".").string() + "/out/deep/x\xff.pdf");
         below.add("d/missing.pdf");
         QVERIFY_EXCEPTION_THROWN(below.add("two"), UsageError);
-        QVERIFY_EXCEPTION_THROWN(RunPlan(Destination::folder("out", "two")).add("two"), UsageError);
+        QVERIFY_EXCEPTION_THROWN(RunPlan(RunDestination::folder("out", "two")).add("two"), UsageError);
         RunPlan inPlace(to(""));
         inPlace.add("d/../d/one.pdf");
         QCOMPARE(targets(inPlace), std::string("d/../d/one.pdf>d/one.pdf "));
@@ -98,7 +98,7 @@ private slots:
         const auto place = [](const std::string& output, const std::string& base = {}) {
             std::string text;
             const std::string refusal = refusalOf([&] {
-                RunPlan plan(Destination::named(output, base));
+                RunPlan plan(RunDestination::named(output, base));
                 plan.add("in/x.pdf");
                 text = targets(plan);
             });
@@ -116,28 +116,28 @@ private slots:
                  std::string("--base goes with a folder for the results, not with -o new.pdf"));
         QCOMPARE(mkfifo("fifo.pdf", 0600), 0);
         QCOMPARE(place("fifo.pdf"), std::string("fifo.pdf is not a regular file"));
-        RunPlan two(Destination::named("new.pdf", {}));
+        RunPlan two(RunDestination::named("new.pdf", {}));
         two.add("in");
         QCOMPARE(refusalFor(two), std::string());
         two.add("old.pdf");
         QCOMPARE(refusalFor(two),
                  std::string("-o new.pdf takes one document, not 2; name a folder for the results"));
-        RunPlan onItself(Destination::named("in/../in/x.pdf", {}));
+        RunPlan onItself(RunDestination::named("in/../in/x.pdf", {}));
         onItself.add("in/x.pdf");
         QVERIFY(refusalFor(onItself).find("would overwrite") != std::string::npos);
     }
 
     void takesStandardInputForOneResult()
     {
-        const auto place = [](const Destination& destination) {
+        const auto place = [](const RunDestination& destination) {
             RunPlan plan(destination);
             const std::string refusal = refusalOf([&] { plan.addStandardInput(); });
             return refusal + targets(plan);
         };
-        QCOMPARE(place(Destination::file("-")), std::string("->- "));
-        QCOMPARE(place(Destination::file("new.pdf")), std::string("->new.pdf "));
-        for (const Destination& several :
-             {Destination::inPlace(), Destination::folder("out"), Destination::beside("x")})
+        QCOMPARE(place(RunDestination::file("-")), std::string("->- "));
+        QCOMPARE(place(RunDestination::file("new.pdf")), std::string("->new.pdf "));
+        for (const RunDestination& several :
+             {RunDestination::inPlace(), RunDestination::folder("out"), RunDestination::beside("x")})
             QCOMPARE(place(several),
                      std::string("a document from standard input goes to -o FILE.pdf or -o -"));
     }
@@ -147,7 +147,7 @@ private slots:
         for (const char* name : {"in/a.pdf", "in/a-web.pdf", "in/b-web.PDF", "in/-web.pdf", "in/d/c.PDF",
                                  "in/d/c-web.PDF", "in/plain"})
             WorkFolder::put(name);
-        RunPlan plan(Destination::beside("web"));
+        RunPlan plan(RunDestination::beside("web"));
         plan.add("in");
         plan.add("in/plain");
         QCOMPARE(targets(plan), std::string("in/-web.pdf>in/-web-web.pdf in/a.pdf>in/a-web.pdf "
@@ -158,7 +158,7 @@ private slots:
         QCOMPARE(refusalFor(plan),
                  std::string("the output of in/a.pdf would overwrite the document in/a-web.pdf"));
         for (const std::string& suffix : {std::string(), std::string("a/b"), std::string("a\0b", 3)})
-            QVERIFY_EXCEPTION_THROWN(Destination::beside(suffix), UsageError);
+            QVERIFY_EXCEPTION_THROWN(RunDestination::beside(suffix), UsageError);
     }
 
     void namesWhatCannotBeWorkedOn()
@@ -273,9 +273,9 @@ private slots:
 
 private:
     /// A folder for the results, or "" for in place.
-    static Destination to(const std::string& folder)
+    static RunDestination to(const std::string& folder)
     {
-        return folder.empty() ? Destination::inPlace() : Destination::folder(folder);
+        return folder.empty() ? RunDestination::inPlace() : RunDestination::folder(folder);
     }
 
     static std::string refusalFor(const RunPlan& plan)

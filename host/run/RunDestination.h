@@ -8,23 +8,23 @@ namespace host {
 
 /// Where the results of a run go: into a folder, to one file or standard output, beside the documents, or into
 /// the documents' own places.
-class Destination
+class RunDestination
 {
 public:
     /// How standard input and output are called among documents and results.
     static constexpr char standardStream[] = "-";
 
-    static Destination inPlace();
+    static RunDestination inPlace();
     /// \param base the folder that results keep their documents' paths below; empty to keep the paths of
     /// documents from folders only.
-    static Destination folder(const std::string& path, const std::string& base = {});
+    static RunDestination folder(const std::string& path, const std::string& base = {});
     /// One document's result; "-" is standard output.
-    static Destination file(const std::string& path);
+    static RunDestination file(const std::string& path);
     /// "manual.pdf" becomes "manual-TEXT.pdf". Throws UsageError for what cannot be in a file's name.
-    static Destination beside(const std::string& suffix);
+    static RunDestination beside(const std::string& suffix);
     /// What a user means by a name: a folder that is there, a file if the name ends in ".pdf", else a folder
     /// to be made. Throws UsageError for what can be neither.
-    static Destination named(const std::string& path, const std::string& base);
+    static RunDestination named(const std::string& path, const std::string& base);
 
     bool isInPlace() const { return m_kind == Kind::InPlace; }
     bool isStandardOutput() const { return m_kind == Kind::File && m_path == standardStream; }
@@ -47,7 +47,7 @@ public:
 private:
     enum class Kind { InPlace, Folder, File, Beside };
 
-    Destination(Kind kind, std::string path) : m_kind(kind), m_path(std::move(path)) {}
+    RunDestination(Kind kind, std::string path) : m_kind(kind), m_path(std::move(path)) {}
     std::string belowBase(const std::string& document) const;
 
     Kind m_kind;

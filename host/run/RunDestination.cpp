@@ -1,4 +1,4 @@
-#include "Destination.h"
+#include "RunDestination.h"
 
 #include "host/files/SafeOutput.h"
 #include "host/terminal/UsageError.h"
@@ -39,31 +39,31 @@ std::string withoutTrailingSlashes(std::string path)
 
 } // namespace
 
-Destination Destination::inPlace()
+RunDestination RunDestination::inPlace()
 {
     return {Kind::InPlace, {}};
 }
 
-Destination Destination::folder(const std::string& path, const std::string& base)
+RunDestination RunDestination::folder(const std::string& path, const std::string& base)
 {
-    Destination folder(Kind::Folder, withoutTrailingSlashes(path));
+    RunDestination folder(Kind::Folder, withoutTrailingSlashes(path));
     folder.m_base = base.empty() ? std::string() : absolutePath(base).string();
     return folder;
 }
 
-Destination Destination::file(const std::string& path)
+RunDestination RunDestination::file(const std::string& path)
 {
     return {Kind::File, path};
 }
 
-Destination Destination::beside(const std::string& suffix)
+RunDestination RunDestination::beside(const std::string& suffix)
 {
     if (suffix.empty() || suffix.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
         throw UsageError("--suffix takes a text for file names, without slashes, not \"" + suffix + "\"");
     return {Kind::Beside, "-" + suffix};
 }
 
-Destination Destination::named(const std::string& path, const std::string& base)
+RunDestination RunDestination::named(const std::string& path, const std::string& base)
 {
     if (path.empty())
         throw UsageError("-o needs the name of a folder or of a PDF file");
@@ -79,13 +79,13 @@ Destination Destination::named(const std::string& path, const std::string& base)
     return isFile ? file(path) : folder(path, base);
 }
 
-const std::string& Destination::onlyFile() const
+const std::string& RunDestination::onlyFile() const
 {
     static const std::string none;
     return m_kind == Kind::File ? m_path : none;
 }
 
-std::string Destination::pathFor(const std::string& document, const std::string& pathBelow) const
+std::string RunDestination::pathFor(const std::string& document, const std::string& pathBelow) const
 {
     switch (m_kind) {
     case Kind::Folder:
@@ -100,7 +100,7 @@ std::string Destination::pathFor(const std::string& document, const std::string&
     return document;
 }
 
-std::string Destination::belowBase(const std::string& document) const
+std::string RunDestination::belowBase(const std::string& document) const
 {
     const std::filesystem::path below = absolutePath(document).lexically_relative(m_base);
     if (below.empty() || *below.begin() == ".." || *below.begin() == ".")
@@ -108,14 +108,14 @@ std::string Destination::belowBase(const std::string& document) const
     return below.string();
 }
 
-bool Destination::isResultFolder(const struct stat& folder) const
+bool RunDestination::isResultFolder(const struct stat& folder) const
 {
     struct stat ours;
     return m_kind == Kind::Folder && stat(m_path.c_str(), &ours) == 0 && ours.st_dev == folder.st_dev &&
            ours.st_ino == folder.st_ino;
 }
 
-bool Destination::isEarlierResult(const std::string& document) const
+bool RunDestination::isEarlierResult(const std::string& document) const
 {
     const std::size_t end = endOfStem(document);
     if (m_kind != Kind::Beside || end < m_path.size() ||
@@ -127,7 +127,7 @@ bool Destination::isEarlierResult(const std::string& document) const
     return stat(original.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
-std::string Destination::makeFolder() const
+std::string RunDestination::makeFolder() const
 {
     return m_kind == Kind::Folder ? SafeOutput::makeFolder(m_path) : std::string();
 }
