@@ -83,6 +83,7 @@ OpeningView OpeningView::read(TelvarPDFLibraryCPDylibCPP1311& library)
     const PresentView present(library);
     for (const viewentries::Description& each : viewentries::all())
         view.m_entries.set(each.entry, present[each.entry]);
+    view.m_entries.set(ViewEntry::Title, present.shownTitle());
     view.m_action = present.openAction();
     if (const int destination = library.GetOpenActionDestination(); destination != 0)
         view.m_destinationName = engine::fileNameFromWide(library.GetDestName(destination));
