@@ -155,14 +155,13 @@ QJsonObject OpeningView::toJson() const
 
 QJsonValue OpeningView::openActionInJson(const QJsonValue& destination) const
 {
-    if (m_action.empty())
+    if (const std::string action = otherAction(); !action.empty())
+        return QJsonObject{{"action", QString::fromStdString(action)}};
+    if (!destination.isObject())
         return {};
     QJsonObject object = destination.toObject();
-    object.insert("action", QString::fromStdString(m_action));
-    if (destination.isObject())
-        object.insert("name", m_destinationName.empty()
-                                  ? QJsonValue()
-                                  : QJsonValue(QString::fromStdString(m_destinationName)));
+    object.insert("name", m_destinationName.empty() ? QJsonValue()
+                                                    : QJsonValue(QString::fromStdString(m_destinationName)));
     return object;
 }
 
