@@ -108,7 +108,7 @@ private slots:
             for (const QString& line : QString::fromUtf8(run.out).split('\n'))
                 QVERIFY2(line.size() <= columns, qPrintable(line));
             QVERIFY2(columns < 60 || run.out.contains("\xe2\x80\xa6"
-                                                      "cript.pdf\n"),
+                                                      "script.pdf\n"),
                      run.out);
         }
     }
