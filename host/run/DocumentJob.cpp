@@ -49,6 +49,9 @@ std::string DocumentResult::toRecord() const
         .add(note)
         .add(stateBefore)
         .add(checksumBefore)
+        .add(viewBefore)
+        .add(viewAfter)
+        .add(changes)
         .bytes();
 }
 
@@ -64,6 +67,9 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     result.note = reader.text();
     result.stateBefore = reader.text();
     result.checksumBefore = reader.text();
+    result.viewBefore = reader.text();
+    result.viewAfter = reader.text();
+    result.changes = reader.text();
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);
     return reader.complete() && known ? std::optional(result) : std::nullopt;

@@ -42,6 +42,11 @@ struct DocumentResult
     /// checksum (Checksum.h) of all that stood before the update. By these the update can be taken back.
     std::string stateBefore = {};
     std::string checksumBefore = {};
+    /// What changed in how the document opens: JSON objects with the entries that differ (ViewSnapshot.h), and
+    /// in words. Empty when nothing did, or it was not asked for.
+    std::string viewBefore = {};
+    std::string viewAfter = {};
+    std::string changes = {};
 
     static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;

@@ -13,6 +13,8 @@
 #include "pdflibrary/FileNameCodec.h"
 #include "shared/CActionInterface.h"
 
+#include <QJsonDocument>
+
 #include <sys/stat.h>
 
 #include <cerrno>
@@ -124,17 +126,16 @@ std::string DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int s
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
-    m_errors.ClearAll();
-    if (!m_options.change.isEmpty()) {
-        if (const std::string reason = ViewChanger(m_library, m_options.change).apply(job.source);
-            !reason.empty())
-            return DocumentResult::failed(reason);
-    } else if (!applyEntries())
-        return DocumentResult::failed(m_errors.GetLast().toStdString());
+    if (m_options.tellChanges)
+        m_viewBefore.emplace(m_library);
+    if (const std::string reason = apply(job.source); !reason.empty())
+        return DocumentResult::failed(reason);
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
         return m_options.inPlace || m_options.dryRun ? leave() : copy(job);
     if (std::string reason = refusal(); !reason.empty())
         return DocumentResult::failed(reason);
+    if (m_options.tellChanges)
+        m_viewAfter.emplace(m_library);
     return m_options.dryRun ? tryOut() : save(job);
 }
 
@@ -142,6 +143,31 @@ DocumentResult DocumentProcessor::leave() const
 {
     DocumentResult result{Status::Unchanged};
     tellStates(result, m_original);
+    return result;
+}
+
+/// Makes the changes in memory. \returns why that is not possible; empty when all is well.
+std::string DocumentProcessor::apply(const std::string& file)
+{
+    if (!m_options.change.isEmpty())
+        return ViewChanger(m_library, m_options.change).apply(file);
+    m_errors.ClearAll();
+    return applyEntries() ? std::string() : m_errors.GetLast().toStdString();
+}
+
+DocumentResult DocumentProcessor::changed(Saved saved) const
+{
+    DocumentResult result{Status::Changed, saved};
+    if (!m_options.tellChanges)
+        return result;
+    const auto compact = [](const QJsonObject& object) {
+        return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
+    };
+    result.changes = m_viewBefore->changeTo(*m_viewAfter);
+    if (result.changes.empty())
+        return result;
+    result.viewBefore = compact(m_viewBefore->unlike(*m_viewAfter));
+    result.viewAfter = compact(m_viewAfter->unlike(*m_viewBefore));
     return result;
 }
 
@@ -176,7 +202,7 @@ DocumentResult DocumentProcessor::tryOut()
         return libraryFailure(notRewritten);
     if (code != 0 && !rewriting)
         return notAppended(code);
-    return {Status::Changed};
+    return changed(Saved::Not);
 }
 
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
@@ -192,7 +218,7 @@ DocumentResult DocumentProcessor::write(const DocumentJob& job)
 {
     const std::wstring target = engine::wideFromFileName(job.temporary);
     if (m_library.AppendToFile(target) != 0)
-        return {Status::Changed, Saved::Appended};
+        return changed(Saved::Appended);
     const int code = m_library.LastErrorCode();
     if (m_options.rewrite && engine::cannotAppend(static_cast<engine::ErrorCode>(code)))
         return rewrite(job);
@@ -203,7 +229,7 @@ DocumentResult DocumentProcessor::rewrite(const DocumentJob& job)
 {
     if (m_library.SaveToFile(engine::wideFromFileName(job.temporary)) == 0)
         return libraryFailure(notRewritten);
-    return {Status::Changed, Saved::Rewritten};
+    return changed(Saved::Rewritten);
 }
 
 DocumentResult DocumentProcessor::copy(const DocumentJob& job)

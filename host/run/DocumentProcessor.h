@@ -3,6 +3,7 @@
 #include "DocumentJob.h"
 #include "Placement.h"
 #include "host/change/ViewChange.h"
+#include "host/change/ViewSnapshot.h"
 #include "host/settings/SettingsFile.h"
 
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
@@ -13,6 +14,7 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,6 +43,8 @@ struct ProcessingOptions
     bool dryRun = false;
     /// Every output is flushed to the disk before it takes its place.
     bool flush = false;
+    /// The result tells what changes in how the document opens.
+    bool tellChanges = false;
     /// The result tells the states of the files, for a report, and what it takes to undo a change in place.
     bool tellStates = false;
 };
@@ -77,6 +81,8 @@ private:
     void tellStates(DocumentResult& result, const struct stat& output) const;
     std::string tellWhatStoodBefore(DocumentResult& result, int source) const;
     DocumentResult applyAndSave(const DocumentJob& job);
+    std::string apply(const std::string& file);
+    DocumentResult changed(Saved saved) const;
     DocumentResult leave() const;
     bool applyEntries();
     std::string refusal();
@@ -94,6 +100,8 @@ private:
     const ProcessingOptions& m_options;
     TelvarPDFLibraryCPDylibCPP1311 m_library;
     CErrorHandler m_errors;
+    std::optional<ViewSnapshot> m_viewBefore;
+    std::optional<ViewSnapshot> m_viewAfter;
     struct stat m_original = {}; ///< The document's file before it was read.
     Clock::time_point m_begin;
     const BeforePlacement* m_beforePlacement = nullptr;
