@@ -1,9 +1,13 @@
 #include "PresentView.h"
 
+#include "XmpTitle.h"
+
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "pdflibrary/ViewNumbers.h"
+
+#include <QString>
 
 #include <stdexcept>
 
@@ -36,6 +40,16 @@ ViewValue PresentView::operator[](ViewEntry entry) const
                                                              : language();
     requireRead(entry);
     return value;
+}
+
+ViewValue PresentView::shownTitle() const
+{
+    const ViewValue title = (*this)[ViewEntry::Title];
+    if (title != ViewValue(Unset()))
+        return title;
+    // Metadata that cannot be read shows no title.
+    const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
+    return textValue(xmptitle::read(packet).value_or(QString()).toStdWString());
 }
 
 std::string PresentView::openAction() const

@@ -193,7 +193,7 @@ void ViewChanger::changeTitle(const std::string& title)
 void ViewChanger::noteMissingTitle()
 {
     if (m_change[ViewEntry::DisplayDocTitle] == ViewValue(1) &&
-        m_present[ViewEntry::Title] == ViewValue(Unset()))
+        m_present.shownTitle() == ViewValue(Unset()))
         m_notes.emplace_back("its title is to be shown, and it has none");
 }
 
@@ -206,10 +206,11 @@ void ViewChanger::require(int result, ViewEntry entry) const
 
 void ViewChanger::altered(ViewEntry entry, const ViewValue& before, const ViewValue& after)
 {
+    const auto word = [entry](const ViewValue& value) {
+        return std::holds_alternative<Unset>(value) ? "unset" : viewvalues::wordOf(entry, value);
+    };
     const bool isOther = entry == ViewEntry::OpenPage && before == ViewValue(Unset());
-    m_differences.push_back({entry,
-                             isOther && !m_action.empty() ? m_action : viewdifference::wordOf(entry, before),
-                             viewdifference::wordOf(entry, after)});
+    m_differences.push_back({entry, isOther && !m_action.empty() ? m_action : word(before), word(after)});
 }
 
 std::string titleFromFileName(const std::string& file)

@@ -2,7 +2,6 @@
 
 #include "PresentView.h"
 #include "ViewChange.h"
-#include "ViewDifference.h"
 
 #include <string>
 #include <vector>
@@ -10,6 +9,14 @@
 class TelvarPDFLibraryCPDylibCPP1311;
 
 namespace host {
+
+/// An entry that a change has altered, with what it was and what it is, in words.
+struct ViewDifference
+{
+    ViewEntry entry;
+    std::string before;
+    std::string after;
+};
 
 /// Applies a change to documents that are open in a library. Only what differs from what is asked for is
 /// written.

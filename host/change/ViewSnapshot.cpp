@@ -1,17 +1,35 @@
 #include "ViewSnapshot.h"
 
 #include "PresentView.h"
+#include "ViewJson.h"
+#include "ViewValues.h"
 
-#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
-#include "pdflibrary/ViewNumbers.h"
+#include <QString>
+
+#include <stdexcept>
 
 namespace host {
 
 namespace {
 
-std::size_t indexOf(ViewEntry entry)
+const int longestText = 200;
+
+/// Documents may hold texts of any length and magnifications of any kind.
+std::optional<ViewValue> presentable(ViewValue value)
 {
-    return static_cast<std::size_t>(entry);
+    if (const auto* zoom = std::get_if<Magnification>(&value);
+        zoom != nullptr && viewvalues::nameOf(viewentries::magnifications(), zoom->type) == nullptr)
+        return std::nullopt;
+    return value;
+}
+
+ViewValue cutOff(const ViewValue& value)
+{
+    const auto* text = std::get_if<std::string>(&value);
+    if (text == nullptr)
+        return value;
+    const QString whole = QString::fromStdString(*text);
+    return whole.size() > longestText ? whole.left(longestText).toStdString() + "..." : whole.toStdString();
 }
 
 } // namespace
@@ -20,30 +38,57 @@ ViewSnapshot::ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library)
 {
     const PresentView view(library);
     for (const viewentries::Description& each : viewentries::all())
-        m_words.at(indexOf(each.entry)) = viewdifference::wordOf(each.entry, view[each.entry]);
-    const int destination = library.GetOpenActionDestination();
-    if (destination == 0) {
-        if (const std::string action = view.openAction(); !action.empty())
-            m_words.at(indexOf(ViewEntry::OpenPage)) = action;
-        return;
-    }
-    for (std::size_t side = 0; side < m_place.size(); ++side)
-        m_place.at(side) =
-            library.GetDestValue(destination, pdflibrary::DestinationLeft + static_cast<int>(side));
+        try {
+            value(each.entry) = presentable(view[each.entry]);
+        } catch (const std::runtime_error&) { // left out
+        }
+    if (!value(ViewEntry::OpenPage) || !value(ViewEntry::Zoom))
+        value(ViewEntry::OpenPage) = value(ViewEntry::Zoom) = std::nullopt;
+    if (value(ViewEntry::OpenPage) == ViewValue(Unset()))
+        try {
+            m_action = view.openAction();
+        } catch (const std::runtime_error&) { // left out
+        }
 }
 
-std::vector<ViewDifference> ViewSnapshot::differencesTo(const ViewSnapshot& later) const
+bool ViewSnapshot::differs(ViewEntry entry, const ViewSnapshot& other) const
 {
-    std::vector<ViewDifference> differences;
-    for (const viewentries::Description& each : viewentries::all()) {
-        const std::size_t index = indexOf(each.entry);
-        if (m_words.at(index) != later.m_words.at(index))
-            differences.push_back({each.entry, m_words.at(index), later.m_words.at(index)});
-        else if (each.entry == ViewEntry::OpenPage && m_place != later.m_place)
-            differences.push_back(
-                {each.entry, m_words.at(index), m_words.at(index) + ", at another place on it"});
-    }
-    return differences;
+    if (!value(entry) || !other.value(entry))
+        return false;
+    return value(entry) != other.value(entry) || (entry == ViewEntry::OpenPage && m_action != other.m_action);
+}
+
+QJsonObject ViewSnapshot::unlike(const ViewSnapshot& other) const
+{
+    ViewChange own;
+    for (const viewentries::Description& each : viewentries::all())
+        if (differs(each.entry, other))
+            own.set(each.entry, cutOff(*value(each.entry)));
+    const bool opensWithOther = !m_action.empty() && own[ViewEntry::OpenPage];
+    if (own[ViewEntry::Zoom] == ViewValue(Unset())) // no destination: the page says so
+        own.remove(ViewEntry::Zoom);
+    QJsonObject object = viewjson::write(own);
+    if (opensWithOther)
+        object.insert("openAction", QJsonObject{{"action", QString::fromStdString(m_action)}});
+    return object;
+}
+
+std::string ViewSnapshot::changeTo(const ViewSnapshot& after) const
+{
+    std::string text;
+    for (const viewentries::Description& each : viewentries::all())
+        if (differs(each.entry, after))
+            text += (text.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " + wordFor(each.entry) +
+                    " -> " + after.wordFor(each.entry);
+    return text;
+}
+
+std::string ViewSnapshot::wordFor(ViewEntry entry) const
+{
+    if (entry == ViewEntry::OpenPage && !m_action.empty())
+        return m_action;
+    const ViewValue& present = *value(entry);
+    return std::holds_alternative<Unset>(present) ? "unset" : viewvalues::wordOf(entry, cutOff(present));
 }
 
 } // namespace host

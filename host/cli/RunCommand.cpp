@@ -54,6 +54,7 @@ int RunCommand::work(const std::vector<std::string>& words)
         if (const std::string problem = destination.makeFolder(); !problem.empty())
             throw UsageError(problem);
     m_options.tellStates = m_reportFile.has_value();
+    m_options.tellChanges = m_reportFile.has_value() || !m_quiet;
     if (report) // may lie in the output folder
         begin(*report);
     const int status =

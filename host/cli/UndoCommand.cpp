@@ -1,7 +1,6 @@
 #include "UndoCommand.h"
 
 #include "host/arguments/OptionParser.h"
-
 #include "host/terminal/UsageError.h"
 #include "host/undo/UndoPlan.h"
 #include "host/undo/UndoRun.h"

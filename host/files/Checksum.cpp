@@ -4,6 +4,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 
@@ -11,7 +12,7 @@ namespace host {
 
 namespace {
 
-const std::int64_t window = 64 << 10;
+const std::int64_t window = 32 << 10;
 
 bool addTo(QCryptographicHash& hash, int file, std::int64_t begin, std::int64_t end)
 {

@@ -5,13 +5,26 @@
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/TerminalText.h"
 
+#include "pdflibrary/ErrorCodes.h"
+
 namespace host {
 
 namespace {
 
+/// Of what no entry tells.
+const std::string otherPlace = "open page: at another place on the page";
+
 QJsonValue textOrNull(const std::string& text)
 {
     return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
+}
+
+std::string inJson(const std::string& file, const char* status, const std::string& reason, QJsonObject object)
+{
+    object.insert("status", status);
+    object.insert("reason", textOrNull(reason));
+    insertName(object, "file", file);
+    return jsonLine(object);
 }
 
 } // namespace
@@ -22,59 +35,46 @@ CheckTeller::CheckTeller(TelvarPDFLibraryCPDylibCPP1311& library, const Question
 
 Reading CheckTeller::tell(const std::string& file)
 {
-    const Found found = m_question.entries.empty() ? tryChange(file) : tryEntries();
-    const bool good = found.reason.empty() && found.differences.empty();
-    return {good ? Reading::Good : Reading::Differs, textOf(file, found), found.note};
-}
-
-CheckTeller::Found CheckTeller::tryChange(const std::string& file)
-{
-    ViewChanger changer(m_library, m_question.change);
-    Found found;
-    found.reason = changer.apply(file);
-    found.differences = changer.differences();
-    for (const std::string& note : changer.notes())
-        found.note += (found.note.empty() ? "" : "; ") + note;
-    return found;
-}
-
-CheckTeller::Found CheckTeller::tryEntries()
-{
     const ViewSnapshot before(m_library);
-    Found found;
-    found.reason = m_sequence.apply();
-    found.differences = before.differencesTo(ViewSnapshot(m_library));
-    return found;
-}
-
-std::string CheckTeller::textOf(const std::string& file, const Found& found) const
-{
-    const bool good = found.reason.empty() && found.differences.empty();
+    const Trial trial = tryOut(file);
+    const ViewSnapshot after(m_library);
+    const bool good = trial.reason.empty() && m_library.SecurityInfo(engine::UnsavedChanges) == 0;
     if (m_question.json) {
-        QJsonObject object{{"status", good ? "as asked" : "differs"},
-                           {"reason", textOrNull(found.reason)},
-                           {"before", viewdifference::before(found.differences)},
-                           {"after", viewdifference::after(found.differences)}};
-        if (!found.note.empty())
-            object.insert("note", QString::fromStdString(found.note));
-        insertName(object, "file", file);
-        return jsonLine(object);
+        QJsonObject object{{"before", before.unlike(after)}, {"after", after.unlike(before)}};
+        if (!trial.note.empty())
+            object.insert("note", QString::fromStdString(trial.note));
+        return {good ? Reading::Good : Reading::Differs,
+                inJson(file, good ? "as asked" : "differs", trial.reason, object), trial.note};
     }
     if (good)
-        return {};
-    const std::string differences = viewdifference::inWords(found.differences);
-    const std::string between = found.reason.empty() || differences.empty() ? "" : "; ";
-    return forTerminal(file) + ": " + forTerminal(differences + between + found.reason) + "\n";
+        return {Reading::Good, {}, trial.note};
+    std::string text = trial.reason.empty() ? before.changeTo(after) : trial.reason;
+    if (text.empty())
+        text = trial.details.empty() ? otherPlace : trial.details;
+    return {Reading::Differs, forTerminal(file) + ": " + forTerminal(text) + "\n", trial.note};
+}
+
+CheckTeller::Trial CheckTeller::tryOut(const std::string& file)
+{
+    return m_question.entries.empty() ? tryChange(file) : Trial{m_sequence.apply(), {}, {}};
+}
+
+CheckTeller::Trial CheckTeller::tryChange(const std::string& file)
+{
+    ViewChanger changer(m_library, m_question.change);
+    Trial trial;
+    trial.reason = changer.apply(file);
+    for (const ViewDifference& each : changer.differences())
+        trial.details += (trial.details.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " +
+                         each.before + " -> " + each.after;
+    for (const std::string& note : changer.notes())
+        trial.note += (trial.note.empty() ? "" : "; ") + note;
+    return trial;
 }
 
 std::string CheckTeller::failureInJson(const std::string& file, const std::string& reason)
 {
-    QJsonObject object{{"status", "failed"},
-                       {"reason", textOrNull(reason)},
-                       {"before", QJsonObject()},
-                       {"after", QJsonObject()}};
-    insertName(object, "file", file);
-    return jsonLine(object);
+    return inJson(file, "failed", reason, {{"before", QJsonObject()}, {"after", QJsonObject()}});
 }
 
 } // namespace host

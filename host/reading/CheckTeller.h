@@ -1,7 +1,6 @@
 #pragma once
 
 #include "DocumentReader.h"
-#include "host/change/ViewDifference.h"
 #include "host/run/ActionSequence.h"
 
 #include <string>
@@ -22,7 +21,7 @@ public:
     struct Question
     {
         const ViewChange& change;
-        /// Counts in the place of the change, unless it is empty.
+        /// Count in the place of the change, unless there are none.
         const std::vector<ActionEntry>& entries;
         CActionInterface& action;
         bool json = false;
@@ -36,16 +35,16 @@ public:
     static std::string failureInJson(const std::string& file, const std::string& reason);
 
 private:
-    struct Found
+    /// What has become of a document in memory.
+    struct Trial
     {
-        std::string reason; ///< Why the document cannot open as asked; empty when it can.
-        std::vector<ViewDifference> differences;
+        std::string reason; ///< Why it cannot open as asked; empty when it can.
         std::string note;
+        std::string details; ///< What the change alone can tell.
     };
 
-    Found tryChange(const std::string& file);
-    Found tryEntries();
-    std::string textOf(const std::string& file, const Found& found) const;
+    Trial tryOut(const std::string& file);
+    Trial tryChange(const std::string& file);
 
     TelvarPDFLibraryCPDylibCPP1311& m_library;
     Question m_question;

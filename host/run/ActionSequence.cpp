@@ -24,7 +24,7 @@ std::string ActionSequence::apply()
     m_errors.ClearAll();
     for (const ActionEntry& entry : m_entries)
         if (call(&CActionInterface::WorkProc, entry) != 0)
-            return m_errors.GetLast().toStdString();
+            return m_errors.GetLast().isEmpty() ? "the action failed" : m_errors.GetLast().toStdString();
     return {};
 }
 

@@ -77,7 +77,7 @@ int BatchRun::run(const WorkerPool::Limits& limits)
     if (!library.LibraryLoaded())
         throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
 
-    if (m_setup.tells >= Tells::Counts && isatty(STDERR_FILENO) != 0)
+    if (m_setup.tells >= Tells::Counts && !m_options.dryRun && isatty(STDERR_FILENO) != 0)
         m_progress = std::make_unique<Progress>(STDERR_FILENO, m_plan.documents().size());
     planJobs();
     if (!m_options.dryRun)

@@ -49,6 +49,9 @@ std::string DocumentResult::toRecord() const
         .add(note)
         .add(stateBefore)
         .add(checksumBefore)
+        .add(viewBefore)
+        .add(viewAfter)
+        .add(changes)
         .add(static_cast<std::int64_t>(certified))
         .bytes();
 }
@@ -65,6 +68,9 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     result.note = reader.text();
     result.stateBefore = reader.text();
     result.checksumBefore = reader.text();
+    result.viewBefore = reader.text();
+    result.viewAfter = reader.text();
+    result.changes = reader.text();
     result.certified = reader.number() != 0;
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);

@@ -38,12 +38,17 @@ struct DocumentResult
     std::string outputState = {};
     /// What the user should know of a document that did not fail; may be empty.
     std::string note = {};
+    /// The document carries a certification; false when it could not be read.
+    bool certified = false;
     /// Of a document that an update was appended to in place, with a report: its state before, and the
     /// checksum (Checksum.h) of all that stood before the update. By these the update can be taken back.
     std::string stateBefore = {};
     std::string checksumBefore = {};
-    /// The document carries a certification; false when it could not be read.
-    bool certified = false;
+    /// What changed in how the document opens: JSON objects with the entries that differ (ViewSnapshot.h), and
+    /// in words. Empty when nothing did, or it was not asked for.
+    std::string viewBefore = {};
+    std::string viewAfter = {};
+    std::string changes = {};
 
     static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;

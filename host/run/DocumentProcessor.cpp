@@ -12,7 +12,8 @@
 
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
-#include "shared/CActionInterface.h"
+
+#include <QJsonDocument>
 
 #include <sys/stat.h>
 
@@ -47,25 +48,11 @@ std::string whyNotAppended(int code)
 
 DocumentProcessor::DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
                                      const ProcessingOptions& options)
-    : m_action(action), m_options(options), m_library(installlayout::toLibraryPath(libraryFile))
+    : m_options(options), m_library(installlayout::toLibraryPath(libraryFile))
 {
     if (!m_library.LibraryLoaded())
         throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
-    bracket(&CActionInterface::PreSequenceProc);
-}
-
-DocumentProcessor::~DocumentProcessor()
-{
-    bracket(&CActionInterface::PostSequenceProc);
-}
-
-void DocumentProcessor::bracket(Bracket call)
-{
-    for (const ActionEntry& entry : m_options.entries) {
-        SettingsMap settings = entry.settings;
-        WorkProcInfoStruct info{&m_library, &m_errors, {}, &settings};
-        (m_action.*call)(&info);
-    }
+    m_sequence.emplace(action, m_library, m_options.entries);
 }
 
 DocumentResult DocumentProcessor::process(const DocumentJob& job, const BeforePlacement& beforePlacement)
@@ -126,15 +113,16 @@ std::string DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int s
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
-    m_errors.ClearAll();
-    m_notes.clear();
-    if (const std::string reason = m_options.change.isEmpty() ? applyEntries() : applyChange(job.source);
-        !reason.empty())
+    if (m_options.tellChanges)
+        m_viewBefore.emplace(m_library);
+    if (const std::string reason = apply(job.source); !reason.empty())
         return DocumentResult::failed(reason);
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
         return m_options.inPlace || m_options.dryRun ? leave() : copy(job);
     if (std::string reason = refusal(); !reason.empty())
         return DocumentResult::failed(reason);
+    if (m_options.tellChanges)
+        m_viewAfter.emplace(m_library);
     return m_options.dryRun ? tryOut() : save(job);
 }
 
@@ -146,27 +134,35 @@ DocumentResult DocumentProcessor::leave() const
     return result;
 }
 
-/// \returns why that failed; empty when it did not.
-std::string DocumentProcessor::applyChange(const std::string& file)
+/// Makes the changes in memory. \returns why that is not possible; empty when all is well.
+std::string DocumentProcessor::apply(const std::string& file)
 {
-    ViewChanger changer(m_library, m_options.change);
-    std::string reason = changer.apply(file);
-    m_notes = changer.notes();
-    return reason;
-}
-
-/// The same with the action.
-std::string DocumentProcessor::applyEntries()
-{
+    m_notes.clear();
+    if (!m_options.change.isEmpty()) {
+        ViewChanger changer(m_library, m_options.change);
+        std::string reason = changer.apply(file);
+        m_notes = changer.notes();
+        return reason;
+    }
     if (std::string note = settingsnotes::aboutPage(m_options.entries, m_library.PageCount()); !note.empty())
         m_notes.push_back(std::move(note));
-    for (const ActionEntry& entry : m_options.entries) {
-        SettingsMap settings = entry.settings;
-        WorkProcInfoStruct info{&m_library, &m_errors, {}, &settings};
-        if (m_action.WorkProc(&info) != 0)
-            return m_errors.GetLast().isEmpty() ? "the action failed" : m_errors.GetLast().toStdString();
-    }
-    return {};
+    return m_sequence->apply();
+}
+
+DocumentResult DocumentProcessor::changed(Saved saved) const
+{
+    DocumentResult result{Status::Changed, saved};
+    if (!m_options.tellChanges)
+        return result;
+    const auto compact = [](const QJsonObject& object) {
+        return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
+    };
+    result.changes = m_viewBefore->changeTo(*m_viewAfter);
+    if (result.changes.empty())
+        return result;
+    result.viewBefore = compact(m_viewBefore->unlike(*m_viewAfter));
+    result.viewAfter = compact(m_viewAfter->unlike(*m_viewBefore));
+    return result;
 }
 
 /// Why the document may not be changed; empty when it may.
@@ -195,7 +191,7 @@ DocumentResult DocumentProcessor::tryOut()
         return libraryFailure(notRewritten);
     if (code != 0 && !rewriting)
         return notAppended(code);
-    DocumentResult result{Status::Changed};
+    DocumentResult result = changed(Saved::Not);
     result.note = notesWith({});
     return result;
 }
@@ -213,7 +209,7 @@ DocumentResult DocumentProcessor::write(const DocumentJob& job)
 {
     const std::wstring target = engine::wideFromFileName(job.temporary);
     if (m_library.AppendToFile(target) != 0)
-        return {Status::Changed, Saved::Appended};
+        return changed(Saved::Appended);
     const int code = m_library.LastErrorCode();
     if (m_options.rewrite && engine::cannotAppend(static_cast<engine::ErrorCode>(code)))
         return rewrite(job);
@@ -224,7 +220,7 @@ DocumentResult DocumentProcessor::rewrite(const DocumentJob& job)
 {
     if (m_library.SaveToFile(engine::wideFromFileName(job.temporary)) == 0)
         return libraryFailure(notRewritten);
-    return {Status::Changed, Saved::Rewritten};
+    return changed(Saved::Rewritten);
 }
 
 DocumentResult DocumentProcessor::copy(const DocumentJob& job)

@@ -29,10 +29,9 @@ std::optional<FileState> FileState::fromText(const std::string& text)
     struct tm date = {};
     long long size = 0;
     struct stat file = {};
-    if (text.size() > longest ||
-        std::sscanf(text.c_str(), "%18lld bytes, %9d-%2d-%2dT%2d:%2d:%2d.%9ldZ", &size, &date.tm_year,
-                    &date.tm_mon, &date.tm_mday, &date.tm_hour, &date.tm_min, &date.tm_sec,
-                    &file.st_mtim.tv_nsec) != 8)
+    if (text.size() > longest || std::sscanf(text.c_str(), "%18lld bytes, %9d-%2d-%2dT%2d:%2d:%2d.%9ldZ",
+                                             &size, &date.tm_year, &date.tm_mon, &date.tm_mday, &date.tm_hour,
+                                             &date.tm_min, &date.tm_sec, &file.st_mtim.tv_nsec) != 8)
         return std::nullopt;
     date.tm_year -= 1900;
     date.tm_mon -= 1;

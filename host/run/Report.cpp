@@ -3,6 +3,8 @@
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/UsageError.h"
 
+#include <QJsonDocument>
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -21,6 +23,11 @@ const char begun[] = "begun";
 QJsonValue textOrNull(const std::string& text)
 {
     return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
+}
+
+QJsonObject objectIn(const std::string& text)
+{
+    return QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
 }
 
 } // namespace
@@ -165,6 +172,10 @@ std::string Report::toJson(const Line& line, const char* status)
     if (!line.result.stateBefore.empty())
         object.insert("undo", QJsonObject{{"fileState", QString::fromStdString(line.result.stateBefore)},
                                           {"sha256", QString::fromStdString(line.result.checksumBefore)}});
+    if (!line.result.viewBefore.empty()) {
+        object.insert("before", objectIn(line.result.viewBefore));
+        object.insert("after", objectIn(line.result.viewAfter));
+    }
     return jsonLine(object);
 }
 

@@ -113,8 +113,9 @@ void UndoPlan::takeResult(const QJsonObject& object, std::size_t number)
     } else if (!object.contains("undo")) {
         m_leftAlone.push_back({path, "the report does not tell what stood there before"});
     } else if (!isUpdate(update) || !isFileName(path)) {
-        m_leftAlone.push_back({path, "line " + std::to_string(number) +
-                                         " of the report says what no run can have done"});
+        m_leftAlone.push_back(
+            {path.empty() ? "a document without a name" : path,
+             "line " + std::to_string(number) + " of the report says what no run can have done"});
     } else {
         takeUpdate(path, update);
         m_newestLine[m_places.at(path)] = number;
@@ -157,11 +158,11 @@ void UndoPlan::sumUp(const std::string& report)
     m_documents = std::move(sorted);
     m_places.clear();
     if (m_unreadable > 0)
-        m_leftAlone.push_back({report, "line " + std::to_string(m_firstUnreadable) +
-                                           (m_unreadable > 1
-                                                ? " and " + std::to_string(m_unreadable - 1) + " more tell"
-                                                : std::string(" tells")) +
-                                           " nothing of a document"});
+        m_leftAlone.push_back(
+            {report, "line " + std::to_string(m_firstUnreadable) +
+                         (m_unreadable > 1 ? " and " + std::to_string(m_unreadable - 1) + " more tell"
+                                           : std::string(" tells")) +
+                         " nothing of a document"});
 }
 
 } // namespace host

@@ -83,6 +83,7 @@ OpeningView OpeningView::read(TelvarPDFLibraryCPDylibCPP1311& library)
     const PresentView present(library);
     for (const viewentries::Description& each : viewentries::all())
         view.m_entries.set(each.entry, present[each.entry]);
+    view.m_entries.set(ViewEntry::Title, present.shownTitle());
     view.m_action = present.openAction();
     if (const int destination = library.GetOpenActionDestination(); destination != 0)
         view.m_destinationName = engine::fileNameFromWide(library.GetDestName(destination));
@@ -154,14 +155,13 @@ QJsonObject OpeningView::toJson() const
 
 QJsonValue OpeningView::openActionInJson(const QJsonValue& destination) const
 {
-    if (m_action.empty())
+    if (const std::string action = otherAction(); !action.empty())
+        return QJsonObject{{"action", QString::fromStdString(action)}};
+    if (!destination.isObject())
         return {};
     QJsonObject object = destination.toObject();
-    object.insert("action", QString::fromStdString(m_action));
-    if (destination.isObject())
-        object.insert("name", m_destinationName.empty()
-                                  ? QJsonValue()
-                                  : QJsonValue(QString::fromStdString(m_destinationName)));
+    object.insert("name", m_destinationName.empty() ? QJsonValue()
+                                                    : QJsonValue(QString::fromStdString(m_destinationName)));
     return object;
 }
 

@@ -91,7 +91,8 @@ private slots:
         WorkFolder::put("in/damaged.pdf", damaged());
         WorkFolder::put("in/deep/large.pdf", large());
         WorkFolder::put("in/h\xf4tel.pdf", PdfBuilder::simple());
-        WorkFolder::put("in/no change.pdf", PdfBuilder::simple("/PageMode /UseThumbs /PageLayout /OneColumn"));
+        WorkFolder::put("in/no change.pdf",
+                        PdfBuilder::simple("/PageMode /UseThumbs /PageLayout /OneColumn"));
         WorkFolder::put("in/failing.pdf", "no document");
         WorkFolder::put("real/a.pdf", PdfBuilder::simple());
         fs::create_symlink("../real/a.pdf", "in/link.pdf");
@@ -153,14 +154,19 @@ private slots:
     {
         const Rows<std::function<void()>, QByteArray> row;
         const std::string name = "in/a.pdf";
-        row("an update behind it", [=] { std::ofstream(name, std::ios::app) << "%%EOF\n"; },
+        row(
+            "an update behind it", [=] { std::ofstream(name, std::ios::app) << "%%EOF\n"; },
             "no longer as the report says");
-        row("its time", [=] { fs::last_write_time(name, fs::file_time_type::clock::now()); },
+        row(
+            "its time", [=] { fs::last_write_time(name, fs::file_time_type::clock::now()); },
             "no longer as the report says");
-        row("a byte with its old time", [=] { overwrite(name, 20); },
+        row(
+            "a byte with its old time", [=] { overwrite(name, 20); },
             "what stands before the update is not what stood there");
-        row("gone", [=] { fs::remove(name); }, "no such file");
-        row("a link",
+        row(
+            "gone", [=] { fs::remove(name); }, "no such file");
+        row(
+            "a link",
             [=] {
                 fs::rename(name, "elsewhere.pdf");
                 fs::create_symlink("../elsewhere.pdf", name);
@@ -208,7 +214,8 @@ private slots:
         std::size_t changed = 0;
         for (int round = 1; round <= 6; ++round) {
             QProcess process;
-            process.start(PROGRAM_FILE, runWords("thumbs", "report") << "--jobs" << "3");
+            process.start(PROGRAM_FILE, runWords("thumbs", "report") << "--jobs"
+                                                                     << "3");
             QVERIFY(process.waitForStarted());
             const auto lines = [] { return ProgramRun::jsonLines(reportText("report")).size(); };
             for (int wait = 0; wait < 2000 && lines() < round * 6 && process.state() == QProcess::Running;
@@ -233,21 +240,23 @@ private slots:
         const Rows<QByteArray, QByteArray, QByteArray> row; // what is replaced in a report, and the reason
         const QByteArray impossible = "line 2 of the report says what no run can have done";
         row("a relative path", "\"output\":\"/", "\"output\":\"../", impossible);
-        row("a path that ends early", "\"output\":", "\"outputBytes\":\"/etc/passwd%00.pdf\",\"output\":",
-            impossible);
+        row("a path that ends early",
+            "\"output\":", "\"outputBytes\":\"/etc/passwd%00.pdf\",\"output\":", impossible);
         row("no path", "\"output\":", "\"output\":7,\"x\":", impossible);
         row("a negative size", "\"undo\":{\"fileState\":\"", "\"undo\":{\"fileState\":\"-", impossible);
-        row("no size at all", "\"undo\":{\"fileState\":\"", "\"undo\":{\"fileState\":\"0 bytes, ", impossible);
+        row("no size at all", "\"undo\":{\"fileState\":\"", "\"undo\":{\"fileState\":\"0 bytes, ",
+            impossible);
         row("more than there is", "\"undo\":{\"fileState\":\"", "\"undo\":{\"fileState\":\"9", impossible);
-        row("a number as a state", "\"undo\":{\"fileState\":", "\"undo\":{\"fileState\":7,\"x\":", impossible);
+        row("a number as a state",
+            "\"undo\":{\"fileState\":", "\"undo\":{\"fileState\":7,\"x\":", impossible);
         row("an array", "\"undo\":{", "\"undo\":[],\"x\":{", impossible);
         row("no checksum", "\"sha256\":\"", "\"sha256\":\"0", impossible);
         row("another checksum", "\"sha256\":\"", "\"sha256\":\"" + QByteArray(64, '0') + "\",\"x\":\"",
             "what stands before the update is not what stood there");
         row("nothing about undoing", "\"undo\":", "\"x\":", "does not tell what stood there before");
         row("no line of a report", "{\"", "[\"", "it is no report of a run");
-        row("a line that is too long", "\"file\":", "\"x\":\"" + QByteArray(2 << 20, ' ') + "\",\"file\":",
-            "line 1 is too long");
+        row("a line that is too long",
+            "\"file\":", "\"x\":\"" + QByteArray(2 << 20, ' ') + "\",\"file\":", "line 1 is too long");
     }
 
     void mistrustsReports()
@@ -316,7 +325,8 @@ private:
                                 const QString& target = "--in-place")
     {
         return QStringList{"run", "--report", report, "--signed", "append", "in"} + target.split(' ') +
-               QStringList{"--set", "LayoutAndMagnCheckBox=true", "--set", "PageLayoutComboBox=One Column",
+               QStringList{"--set", "LayoutAndMagnCheckBox=true",
+                           "--set", "PageLayoutComboBox=One Column",
                            "--set", mode == "thumbs" ? "NavigationTabComboBox=2" : "NavigationTabComboBox=1"};
     }
 
