@@ -63,8 +63,9 @@ struct Description
     const char* key;    ///< ISO 32000's; of the open action's two, what JSON calls them.
     const char* option; ///< Of the command line, without its dashes.
     const char* value;  ///< Stands for the value in help texts.
-    const char* help;
-    int preference; ///< The library's number of a viewer preference, else 0.
+    const char* brief;  ///< What it is, in a line.
+    const char* more;   ///< What else is to be known; may be empty.
+    int preference;     ///< The library's number of a viewer preference, else 0.
     std::span<const Name> names;
     bool unsettable; ///< Whether the word "unset" takes the entry away.
 };

@@ -2,8 +2,12 @@
 
 #include "OptionParser.h"
 
+#include "host/change/PresentView.h"
+#include "host/change/ViewJson.h"
+#include "host/change/ViewValues.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
+#include "host/program/InstallLayout.h"
 #include "host/run/BatchRun.h"
 #include "host/run/EarlierReport.h"
 #include "host/run/Report.h"
@@ -18,6 +22,9 @@
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
+#include "pdflibrary/ErrorCodes.h"
+#include "pdflibrary/FileNameCodec.h"
+#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -88,6 +95,21 @@ std::vector<std::string> oddNumbers(const SettingsMap& settings)
     return found;
 }
 
+/// How a document opens, for others to open so.
+ViewChange viewOf(const std::string& file, const std::string& password)
+{
+    TelvarPDFLibraryCPDylibCPP1311 library(installlayout::toLibraryPath(installlayout::libraryFile()));
+    if (!library.LibraryLoaded())
+        throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
+    if (library.LoadFromFile(engine::wideFromFileName(file), engine::wideFromFileName(password)) == 0)
+        throw UsageError(file + ": " + std::string(engine::errorText(library.LastErrorCode())));
+    try {
+        return PresentView(library).asChange();
+    } catch (const std::runtime_error& error) {
+        throw UsageError(file + ": " + error.what());
+    }
+}
+
 } // namespace
 
 int RunCommand::work(const std::vector<std::string>& words)
@@ -95,8 +117,11 @@ int RunCommand::work(const std::vector<std::string>& words)
     m_inputs = words;
     m_options.flush = m_options.flush || m_options.inPlace;
     check();
-    readSettings();
     readPassword();
+    if (changesView())
+        readChange();
+    else
+        readSettings();
     if (m_fileList)
         readFileList();
     warnOfSettingsWithoutEffect();
@@ -122,6 +147,7 @@ void RunCommand::takeOptions(OptionParser& parser)
     parser.takeValue("favorite", append(m_favorites));
     parser.takeValue("tool-settings", append(m_toolSettings));
     parser.takeValue("set", append(m_settingWords));
+    takeViewOptions(parser);
     parser.takeValue("output", setOnce(m_outputFolder, "-o"));
     parser.takeValue("base", setOnce(m_base, "--base"));
     parser.takeFlag("in-place", m_options.inPlace);
@@ -148,15 +174,35 @@ void RunCommand::takeOptions(OptionParser& parser)
     parser.takeFlag("quiet", m_quiet);
 }
 
+void RunCommand::takeViewOptions(OptionParser& parser)
+{
+    for (const viewentries::Description& each : viewentries::all())
+        parser.takeValue(each.option, [this, entry = each.entry](const std::string& value) {
+            m_change.set(entry, viewvalues::parse(entry, value));
+        });
+    parser.takeValue("view", setOnce(m_viewFile, "--view"));
+    parser.takeValue("like", setOnce(m_model, "--like"));
+    parser.takeFlag("title-from-file-name", m_titleFromFileName);
+    parser.takeFlag("title-if-missing", m_titleIfMissing);
+}
+
+bool RunCommand::changesView() const
+{
+    return !m_change.isEmpty() || m_viewFile || m_model || m_titleFromFileName || m_titleIfMissing;
+}
+
 void RunCommand::check() const
 {
-    const std::size_t sources =
-        m_lists.size() + m_favorites.size() + m_toolSettings.size() + (m_settingWords.empty() ? 0 : 1);
+    const std::size_t sources = m_lists.size() + m_favorites.size() + m_toolSettings.size() +
+                                (m_settingWords.empty() ? 0 : 1) + (changesView() ? 1 : 0);
     if (sources != 1)
         throw UsageError(sources == 0
-                             ? "which settings? Give --list, --favorite, --tool-settings or --set"
-                             : "settings come from one source: --list, --favorite, --tool-settings or "
-                               "--set");
+                             ? "which settings? Give view options (--page-mode, ...), --list, --favorite, "
+                               "--tool-settings or --set"
+                             : "settings come from one source: view options, --list, --favorite, "
+                               "--tool-settings or --set");
+    if (m_titleFromFileName && m_change[ViewEntry::Title])
+        throw UsageError("--title and --title-from-file-name exclude each other");
     if (m_outputFolder.has_value() == m_options.inPlace)
         throw UsageError(m_options.inPlace ? "-o and --in-place exclude each other"
                                            : "where to? Give -o DIR or --in-place");
@@ -175,6 +221,24 @@ void RunCommand::check() const
         throw UsageError("--null goes with --files-from");
     if (m_inputs.empty() && !m_fileList)
         throw UsageError("which documents? Name documents or folders, or give --files-from");
+}
+
+void RunCommand::readChange()
+{
+    if (m_model)
+        m_options.change.add(viewOf(*m_model, m_options.password));
+    if (m_viewFile)
+        m_options.change.add(viewjson::readFile(*m_viewFile));
+    m_options.change.add(m_change);
+    if (m_titleFromFileName)
+        m_options.change.set(ViewEntry::Title, FileNameAsTitle());
+    if (m_titleIfMissing)
+        m_options.change.keepTitles();
+    for (const auto& file : {m_model, m_viewFile})
+        if (file)
+            m_filesRead.push_back(*file);
+    if (const std::string problem = m_options.change.contradiction(); !problem.empty())
+        throw UsageError(problem);
 }
 
 void RunCommand::readSettings()

@@ -2,6 +2,7 @@
 
 #include "Command.h"
 
+#include "host/change/ViewChange.h"
 #include "host/run/BatchRun.h"
 #include "host/run/DocumentProcessor.h"
 #include "host/workers/WorkerPool.h"
@@ -25,10 +26,14 @@ protected:
     int work(const std::vector<std::string>& words) override;
 
 private:
+    void takeViewOptions(OptionParser& parser);
+    /// What the view options ask for, in the order in which they count.
+    void readChange();
     void readSettings();
     void readPassword();
     void readFileList();
     void check() const;
+    bool changesView() const;
     void warnOfSettingsWithoutEffect() const;
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
@@ -44,6 +49,11 @@ private:
     std::vector<std::string> m_favorites;
     std::vector<std::string> m_toolSettings;
     std::vector<std::string> m_settingWords;
+    std::optional<std::string> m_viewFile;
+    std::optional<std::string> m_model;
+    bool m_titleFromFileName = false;
+    bool m_titleIfMissing = false;
+    ViewChange m_change; ///< Of the options that each name an entry.
     std::optional<std::string> m_outputFolder;
     std::optional<std::string> m_base;
     std::optional<std::string> m_password;

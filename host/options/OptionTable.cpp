@@ -1,5 +1,7 @@
 #include "OptionTable.h"
 
+#include "host/change/ViewEntries.h"
+
 #include <algorithm>
 
 namespace host::options {
@@ -23,7 +25,7 @@ const std::vector<Option> optionRows{
      "its entries are applied in their order; \"quintar lists\" tells the names",
      Files, {"xqq"}, {Run}, Group::Source, common},
     {"favorite", 0, "FILE|NAME", "a favourite (.ini), by its file or its name", "",
-     Files, {"ini"}, {Run}, Group::Source, common},
+     Files, {"ini"}, {Run}, Group::Source, rare},
     {"tool-settings", 0, "FILE", "a tool settings file (.tsf)", "",
      Files, {"tsf"}, {Run}, Group::Source, rare},
     {"set", 0, "KEY=VALUE", "one setting of the action; may be repeated",
@@ -39,8 +41,18 @@ const std::vector<Option> optionRows{
     {"tool-settings", 0, "FILE", "starts from a tool settings file (.tsf)", "",
      Files, {"tsf"}, {Configure}, Group::Source, common},
 
-    {"output", 'o', "DIR", "puts the results into this folder, made if it is missing",
-     "a document that needs no change is copied",
+    {"view", 0, "FILE|-", "what a JSON file names, as \"quintar show --json\" prints it", "",
+     Files, {"json"}, {Run}, Group::View, rare},
+    {"like", 0, "DOCUMENT", "makes documents open as this one does", "",
+     Files, {"pdf"}, {Run}, Group::View, common},
+    {"title-from-file-name", 0, "", "the title is the name of the document's file", "",
+     Nothing, {}, {Run}, Group::View, rare},
+    {"title-if-missing", 0, "", "leaves titles that are there",
+     "goes with --title and --title-from-file-name",
+     Nothing, {}, {Run}, Group::View, rare},
+
+    {"output", 'o', "DIR", "puts the results into this folder",
+     "it is made if it is missing; a document that needs no change is copied",
      Folders, {}, {Run}, Group::Target, common},
     {"base", 0, "DIR", "with -o, keeps the documents' paths below this folder",
      "those of documents that are named by themselves as well",
@@ -62,7 +74,7 @@ const std::vector<Option> optionRows{
      Files, {}, {Run}, Group::Documents, rare},
     {"files-from", 0, "FILE|-", "takes further documents from a list, one a line",
      "- is standard input",
-     Files, {}, {Run}, Group::Documents, common},
+     Files, {}, {Run}, Group::Documents, rare},
     {"null", 0, "", "the names in that list end with NUL instead", "",
      Nothing, {}, {Run}, Group::Documents, rare},
 
@@ -77,7 +89,7 @@ const std::vector<Option> optionRows{
      Nothing, {}, {Run}, Group::Work, common},
     {"jobs", 'j', "N", "works on N documents at a time",
      "by default as many as there are processors",
-     Nothing, {}, {Run}, Group::Work, common},
+     Nothing, {}, {Run}, Group::Work, rare},
     {"timeout", 0, "SECONDS", "gives a document up after this time (default: 60)", "",
      Nothing, {}, {Run}, Group::Work, rare},
     {"memory", 0, "MIB", "gives a document up that needs more memory (default: 1024)", "",
@@ -98,12 +110,12 @@ const std::vector<Option> optionRows{
 };
 
 const std::vector<Command> commandRows{
-    {Run, "run", "change how documents open", "SETTINGS (-o DIR | --in-place) DOCUMENT|FOLDER ...",
-     "Makes PDF documents open as the settings say. A folder stands for the PDF documents in it and its "
-     "subfolders.",
-     {{"quintar run --list \"Monthly reports\" -o changed/ manuals/", "apply a stored action list to a folder"},
-      {"quintar run --favorite Slides --in-place talk.pdf", "change a document in its own place"},
-      {"quintar run --list manuals.xqq --in-place -n manuals/", "see what would be changed"}},
+    {Run, "run", "change how documents open", "CHANGE (-o DIR | --in-place) DOCUMENT|FOLDER ...",
+     "Changes how PDF documents open. View options change what they name and leave the rest; settings are those "
+     "of the action. A folder stands for the PDF documents in it and its subfolders.",
+     {{"quintar run --page-mode bookmarks -o changed/ manuals/", "open a folder's documents with the bookmarks"},
+      {"quintar run --open-page unset --in-place -n manual.pdf", "see whether the opening page would be forgotten"},
+      {"quintar run --list \"Monthly reports\" --in-place manuals/", "apply a stored action list"}},
      {{0, "all well"},
       {1, "some documents failed, or the report could not be written to its end"},
       {2, "nothing was begun"},
@@ -135,6 +147,34 @@ const std::vector<Command> commandRows{
      false},
 };
 // clang-format on
+
+/// What --help of a command has room for.
+bool isCommon(ViewEntry entry)
+{
+    return entry == ViewEntry::PageMode || entry == ViewEntry::OpenPage ||
+           entry == ViewEntry::DisplayDocTitle;
+}
+
+/// An option for each entry of the view.
+std::vector<Option> viewRows()
+{
+    std::vector<Option> rows;
+    for (const viewentries::Description& each : viewentries::all()) {
+        std::vector<std::string> words = viewentries::words(each);
+        const Completes completes = words.empty() ? Nothing : Words;
+        rows.push_back({each.option,
+                        0,
+                        each.value,
+                        each.brief,
+                        each.more,
+                        completes,
+                        std::move(words),
+                        {Run},
+                        Group::View,
+                        isCommon(each.entry)});
+    }
+    return rows;
+}
 
 } // namespace
 
@@ -192,9 +232,11 @@ const std::vector<Option>& commonOptions()
 
 std::vector<Option> optionsOf(CommandId command)
 {
+    static const std::vector<Option> view = viewRows();
     std::vector<Option> options;
-    std::copy_if(optionRows.begin(), optionRows.end(), std::back_inserter(options),
-                 [&](const Option& each) { return each.isOf(command); });
+    for (const auto* rows : {&view, &optionRows})
+        std::copy_if(rows->begin(), rows->end(), std::back_inserter(options),
+                     [&](const Option& each) { return each.isOf(command); });
     std::stable_sort(options.begin(), options.end(),
                      [](const Option& one, const Option& other) { return one.group < other.group; });
     return options;

@@ -19,7 +19,7 @@ enum class Completes {
 };
 
 /// Where help texts tell about an option; in their order.
-enum class Group { Source, View, Target, Documents, Signed, Work, Output };
+enum class Group { View, Source, Target, Documents, Signed, Work, Output };
 
 struct Option
 {

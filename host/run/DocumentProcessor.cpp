@@ -1,6 +1,7 @@
 #include "DocumentProcessor.h"
 
 #include "FileState.h"
+#include "host/change/ViewChanger.h"
 #include "host/files/FileAttributes.h"
 #include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
@@ -114,7 +115,11 @@ void DocumentProcessor::tellStates(DocumentResult& result, const std::string& ou
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
     m_errors.ClearAll();
-    if (!applyEntries())
+    if (!m_options.change.isEmpty()) {
+        if (const std::string reason = ViewChanger(m_library, m_options.change).apply(job.source);
+            !reason.empty())
+            return DocumentResult::failed(reason);
+    } else if (!applyEntries())
         return DocumentResult::failed(m_errors.GetLast().toStdString());
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
         return m_options.inPlace || m_options.dryRun ? DocumentResult{Status::Unchanged, Saved::Not, {}, 0}

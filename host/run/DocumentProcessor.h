@@ -2,6 +2,7 @@
 
 #include "DocumentJob.h"
 #include "Placement.h"
+#include "host/change/ViewChange.h"
 #include "host/settings/SettingsFile.h"
 
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
@@ -28,6 +29,8 @@ enum class SignedDocuments { Refuse, Append };
 struct ProcessingOptions
 {
     std::vector<ActionEntry> entries;
+    /// Applied in the place of entries, unless it is empty.
+    ViewChange change;
     std::string password;
     SignedDocuments signedDocuments = SignedDocuments::Refuse;
     /// A document to which nothing can be appended may be written anew.

@@ -41,6 +41,17 @@ private slots:
         row("run --in-place -n --set HideToolbarsCheckBox=1 a.pdf", "did you mean \"HideToobarsCheckBox\"?");
         row("run --in-place -n --set ShowComboBox=DocumentTitel a.pdf", "did you mean \"Document Title\"?");
         row("run --in-place -n --list Manual a.pdf", "did you mean \"manuals\"?");
+        row("run --in-place -n --page-mode bookmrks a.pdf",
+            "--page-mode cannot be \"bookmrks\"; did you mean \"bookmarks\"?");
+        row("run --in-place -n --page-mod bookmarks --zoom fitwidht a.pdf", "did you mean \"fit-width\"?");
+        row("run --in-place -n --open-page first a.pdf", "a page's number from 1, last, unset");
+        row("run --in-place -n --zoom 1,5% a.pdf", "a percentage from 1% to 6400%");
+        row("run --in-place -n --page-mode none --list manuals a.pdf", "settings come from one source");
+        row("run --in-place -n --open-page unset --zoom 100% a.pdf", "excludes --zoom");
+        row("run --in-place -n --title-if-missing a.pdf", "goes with --title");
+        row("run --in-place -n --title x --title-from-file-name a.pdf", "exclude each other");
+        row("run --in-place -n --view a.pdf a.pdf", "the view a.pdf is not a JSON object");
+        row("run --in-place -n --like no.pdf a.pdf", "no.pdf: no such file");
         row("show --jsn a.pdf", "did you mean \"--json\"?");
         row("show", "which documents?");
         row("show --in-place a.pdf",
