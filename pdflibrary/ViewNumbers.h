@@ -9,7 +9,8 @@
 /// has no name for.
 namespace pdflibrary {
 
-/// Page mode of GetPageMode, SetPageMode and viewer preference 7 (which never takes FullScreen).
+/// Page mode of GetPageMode, SetPageMode and viewer preference 7 (which takes neither FullScreen nor
+/// NoPageMode). A document without the entry reads as PageOnly; NoPageMode removes the entry.
 enum PageMode {
     PageOnly = 0,
     BookmarksPanel = 1,
@@ -17,6 +18,7 @@ enum PageMode {
     FullScreen = 3,
     LayersPanel = 4,
     AttachmentsPanel = 5,
+    NoPageMode = 6,
 };
 
 /// Values of /PageMode.
@@ -63,7 +65,19 @@ enum ViewerPreference {
     CenterWindow = 5,
     TitleBar = 6,
     NonFullScreenMode = 7,
+    Direction = 8,
+    PrintScaling = 9,
+    Duplex = 10,
+    PickTrayByPDFSize = 11,
+    NumCopies = 12,
 };
+
+/// Added to an option of GetViewerPreferences: an entry that the document does not have, or that is of a wrong
+/// type, reads as NoPreference whatever the option.
+inline constexpr int AsWritten = 100;
+
+/// What SetViewerPreferences takes to remove an entry.
+inline constexpr int NoPreference = -1;
 
 /// Box of GetPageBox.
 enum PageBox { MediaBox = 1, CropBox = 2, BleedBox = 3, TrimBox = 4, ArtBox = 5 };

@@ -3,6 +3,7 @@
 #include "ViewNumbers.h"
 
 #include <array>
+#include <climits>
 #include <cstddef>
 #include <span>
 #include <stdexcept>
@@ -11,7 +12,7 @@
 /// one table, so a further preference is a further row.
 namespace pdflibrary {
 
-/// One entry of a document's /ViewerPreferences. It is a yes or no unless it has names.
+/// One entry of a document's /ViewerPreferences. It is a yes or no unless it has names or is a number.
 struct PreferenceRow
 {
     /// The option of GetViewerPreferences and SetViewerPreferences.
@@ -27,13 +28,20 @@ struct PreferenceRow
     const char* label;
     /// What they call its values, by number; empty for yes and no.
     std::span<const char* const> valueLabels;
+    /// What a missing entry reads as. Setting an entry that is missing to this number changes nothing.
+    int absent = 0;
+    /// Whether it is a number, from 1.
+    bool isNumber = false;
 
     /// The largest number that it takes.
-    constexpr int highest() const { return names.empty() ? 1 : static_cast<int>(names.size()) - 1; }
+    constexpr int highest() const
+    {
+        return isNumber ? INT_MAX : names.empty() ? 1 : static_cast<int>(names.size()) - 1;
+    }
     /// Whether the library takes a number for it.
     constexpr bool takes(int value) const
     {
-        return value >= 0 && value <= highest() &&
+        return value >= (isNumber ? 1 : 0) && value <= highest() &&
                (names.empty() || *names[static_cast<std::size_t>(value)] != '\0');
     }
 };
@@ -43,6 +51,11 @@ inline constexpr std::array titleLabels{"File Name", "Document Title"};
 /// Values of /NonFullScreenPageMode: the page modes but FullScreen.
 inline constexpr std::array nonFullScreenModeNames{"/UseNone", "/UseOutlines", "/UseThumbs",
                                                    "",         "/UseOC",       "/UseAttachments"};
+
+/// Values of /Direction, /PrintScaling and /Duplex.
+inline constexpr std::array directionNames{"/L2R", "/R2L"};
+inline constexpr std::array printScalingNames{"/None", "/AppDefault"};
+inline constexpr std::array duplexNames{"/Simplex", "/DuplexFlipShortEdge", "/DuplexFlipLongEdge"};
 
 /// What dialog and program call the page modes, by number.
 inline constexpr std::array pageModeLabels{
@@ -60,14 +73,25 @@ inline constexpr std::array viewerPreferences{
     PreferenceRow{TitleBar,           "/DisplayDocTitle",       {}, "ShowComboBox",               "Show",                          titleLabels},
     PreferenceRow{NonFullScreenMode,  "/NonFullScreenPageMode", nonFullScreenModeNames, nullptr,  "After full screen",             pageModeLabels},
 };
+
+/// Those that have no row in the dialog.
+inline constexpr std::array furtherPreferences{
+    PreferenceRow{Direction,         "/Direction",         directionNames,    nullptr, "Reading direction",      {}, NoPreference},
+    PreferenceRow{PrintScaling,      "/PrintScaling",      printScalingNames, nullptr, "Print scaling",          {}, NoPreference},
+    PreferenceRow{Duplex,            "/Duplex",            duplexNames,       nullptr, "Two-sided printing",     {}, NoPreference},
+    PreferenceRow{PickTrayByPDFSize, "/PickTrayByPDFSize", {},                nullptr, "Paper tray by page size", {}, NoPreference},
+    PreferenceRow{NumCopies,         "/NumCopies",         {},                nullptr, "Copies",                 {}, NoPreference, true},
+};
 // clang-format on
 
 /// The row of an option, or null for a number that is none.
 constexpr const PreferenceRow* findPreference(int option)
 {
-    for (const PreferenceRow& row : viewerPreferences)
-        if (row.option == option)
-            return &row;
+    for (const std::span<const PreferenceRow> rows : {std::span<const PreferenceRow>(viewerPreferences),
+                                                      std::span<const PreferenceRow>(furtherPreferences)})
+        for (const PreferenceRow& row : rows)
+            if (row.option == option)
+                return &row;
     return nullptr;
 }
 

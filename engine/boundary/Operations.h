@@ -65,20 +65,38 @@ std::wstring GetInformation(Session& session, int key);
 /// \param key 1 to 8 as above. \param value empty to remove the entry.
 int SetInformation(Session& session, int key, std::wstring_view value);
 
+// CatalogOperations.cpp
+/// \param key "Lang", "PageMode", "PageLayout" or "Version"; others are not available.
+/// \returns the text or the name as it stands in the catalog; empty where it has none, or one of a wrong type.
+std::wstring GetCatalogInformation(Session& session, std::wstring_view key);
+/// \param key "Lang"; the names have operations of their own. \param value empty to remove the entry.
+int SetCatalogInformation(Session& session, std::wstring_view key, std::wstring_view value);
+/// The document's XMP packet, without a byte order mark; empty where it has none.
+/// \throws EngineError MetadataUnreadable for what cannot be decoded, is no text, or is too large.
+std::wstring GetDocumentMetadata(Session& session);
+/// The other entries of the stream stay, and the packet's encoding; it is no longer compressed.
+/// \param packet empty to remove the entry.
+/// \throws EngineError MetadataUnreadable as above.
+int SetDocumentMetadata(Session& session, std::wstring_view packet);
+
 // ViewOperations.cpp, in the numbers of pdflibrary/ViewNumbers.h. An entry that is missing or of a wrong type
 // reads as the document's default. A setter whose value is there already marks nothing as changed.
 
 /// A PageMode; PageOnly when the document has none.
 int GetPageMode(Session& session);
+/// \param mode NoPageMode removes the entry.
 int SetPageMode(Session& session, int mode);
 /// A PageLayout; NoPageLayout when the document has none.
 int GetPageLayout(Session& session);
 /// \param layout NoPageLayout removes the entry.
 int SetPageLayout(Session& session, int layout);
-/// The number of a preference's value, 0 when the document has none.
-/// \param option one of pdflibrary/ViewerPreferences.h.
+/// The number of a preference's value; when the document has none 0, for options from Direction on
+/// NoPreference.
+/// \param option one of pdflibrary/ViewerPreferences.h. With AsWritten added a preference that the document
+///     has not is NoPreference for every option.
 int GetViewerPreferences(Session& session, int option);
-/// \param value what the option takes; the other preferences stay as they are.
+/// \param value what the option takes, or NoPreference to remove the entry; the other preferences stay as they
+///     are, and so does a dictionary that becomes empty.
 int SetViewerPreferences(Session& session, int option, int value);
 /// The id of the destination that the document opens at; 0, which is no failure, when it has none or one that
 /// cannot be followed. Ids stay valid until their document is removed.
@@ -100,6 +118,18 @@ int GetDestPage(Session& session, int destId);
 double GetDestValue(Session& session, int destId, int valueKey);
 /// The name of a named destination, else empty.
 std::wstring GetDestName(Session& session, int destId);
+
+// OpenActionOperations.cpp
+/// The type of the open action as ISO 32000 names it: "GoTo" for destinations too, "JavaScript", "URI", ...;
+/// "Unknown" for what is no action, empty when the document has none.
+/// \param actionId 0, the open action.
+std::wstring GetActionType(Session& session, int actionId);
+/// Changes the magnification of the destination that the document opens at. Everything else about it stays;
+/// a named one becomes explicit.
+/// \param destId as GetOpenActionDestination gives it now; its type is Zoomed.
+/// \param valueKey DestinationZoom.
+/// \param value percent, 0 for none; four decimal places are kept.
+int SetDestValue(Session& session, int destId, int valueKey, double value);
 
 // PageOperations.cpp
 int PageCount(Session& session);

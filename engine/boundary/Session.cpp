@@ -131,4 +131,10 @@ const Destination& Session::destination(int id)
     return m_destinations[slot]->destination;
 }
 
+void Session::changeDestination(int id, const Destination& changed)
+{
+    destination(id);
+    m_destinations[static_cast<std::size_t>(id) - 1]->destination = changed;
+}
+
 } // namespace engine

@@ -66,6 +66,9 @@ public:
     /// The destination of an id, valid until the next call of destinationId().
     /// \throws EngineError UnknownDestination for an id that was not handed out for the selected document.
     const Destination& destination(int id);
+    /// Lets an id stand for what became of its destination.
+    /// \throws EngineError as destination().
+    void changeDestination(int id, const Destination& changed);
 
 private:
     struct KnownDestination

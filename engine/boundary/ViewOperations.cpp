@@ -44,15 +44,30 @@ Stored storedPageLayout(Document& document)
                       pdflibrary::NoPageLayout);
 }
 
-Stored storedPreference(Document& document, const PreferenceRow& preference)
+QPDFObjectHandle preferencesOf(Document& document)
 {
-    QPDFObjectHandle dictionary = document.key(document.catalog(), "/ViewerPreferences");
+    return document.key(document.catalog(), "/ViewerPreferences");
+}
+
+Stored storedNumber(QPDFObjectHandle entry, const PreferenceRow& preference, int absent)
+{
+    const long long number = entry.isInteger() ? entry.getIntValue() : -1;
+    if (number < 1 || number > preference.highest())
+        return {absent, !entry.isNull()};
+    return {static_cast<int>(number), false};
+}
+
+Stored storedPreference(Document& document, const PreferenceRow& preference, int absent)
+{
+    QPDFObjectHandle dictionary = preferencesOf(document);
     if (!dictionary.isDictionary())
-        return {0, !dictionary.isNull()};
+        return {absent, !dictionary.isNull()};
     QPDFObjectHandle entry = document.key(dictionary, preference.pdfName);
+    if (preference.isNumber)
+        return storedNumber(entry, preference, absent);
     if (!preference.names.empty())
-        return storedName(entry, preference.names, 0);
-    return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{0, !entry.isNull()};
+        return storedName(entry, preference.names, absent);
+    return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{absent, !entry.isNull()};
 }
 
 const PreferenceRow& preferenceOf(int option)
@@ -64,26 +79,37 @@ const PreferenceRow& preferenceOf(int option)
 
 QPDFObjectHandle preferenceValue(const PreferenceRow& preference, int value)
 {
+    if (preference.isNumber)
+        return QPDFObjectHandle::newInteger(value);
     return preference.names.empty() ? QPDFObjectHandle::newBool(value != 0)
                                     : QPDFObjectHandle::newName(rowOf(preference.names, value));
 }
 
-void setCatalogEntry(Document& document, const char* key, const QPDFObjectHandle& value)
+/// Takes a name, or nothing for the number behind the last one, which removes the entry.
+QPDFObjectHandle nameOrNull(const auto& names, int number)
 {
-    document.catalog().replaceKeyAndGetNew(key, value);
-    document.markChanged(document.catalog());
+    return number > lastOf(names) ? QPDFObjectHandle::newNull()
+                                  : QPDFObjectHandle::newName(rowOf(names, number));
 }
 
 /// The dictionary that a viewer preference is written to, marked as changed.
 QPDFObjectHandle changedPreferences(Document& document)
 {
-    QPDFObjectHandle dictionary = document.key(document.catalog(), "/ViewerPreferences");
+    QPDFObjectHandle dictionary = preferencesOf(document);
     if (!dictionary.isDictionary()) {
         dictionary = QPDFObjectHandle::newDictionary();
         document.catalog().replaceKey("/ViewerPreferences", dictionary);
     }
     document.markChanged(dictionary.isIndirect() ? dictionary : document.catalog());
     return dictionary;
+}
+
+/// An empty dictionary may stay behind: it says the same as none, and it is not what was asked about.
+void removePreference(Document& document, const PreferenceRow& preference)
+{
+    QPDFObjectHandle dictionary = preferencesOf(document);
+    if (!document.key(dictionary, preference.pdfName).isNull())
+        changedPreferences(document).removeKey(preference.pdfName);
 }
 
 } // namespace
@@ -96,10 +122,12 @@ int GetPageMode(Session& session)
 int SetPageMode(Session& session, int mode)
 {
     Document& document = session.document().document;
-    requireWithin(mode, pdflibrary::PageOnly, pdflibrary::AttachmentsPanel);
-    if (!storedPageMode(document).is(mode))
-        setCatalogEntry(document, "/PageMode",
-                        QPDFObjectHandle::newName(pdflibrary::pageModeNames[static_cast<std::size_t>(mode)]));
+    requireWithin(mode, pdflibrary::PageOnly, pdflibrary::NoPageMode);
+    const bool isAsked = mode == pdflibrary::NoPageMode
+                             ? document.key(document.catalog(), "/PageMode").isNull()
+                             : storedPageMode(document).is(mode);
+    if (!isAsked)
+        document.setCatalogKey("/PageMode", nameOrNull(pdflibrary::pageModeNames, mode));
     return 1;
 }
 
@@ -113,26 +141,29 @@ int SetPageLayout(Session& session, int layout)
     Document& document = session.document().document;
     requireWithin(layout, pdflibrary::SinglePage, pdflibrary::NoPageLayout);
     if (!storedPageLayout(document).is(layout))
-        setCatalogEntry(
-            document, "/PageLayout",
-            layout == pdflibrary::NoPageLayout
-                ? QPDFObjectHandle::newNull()
-                : QPDFObjectHandle::newName(pdflibrary::pageLayoutNames[static_cast<std::size_t>(layout)]));
+        document.setCatalogKey("/PageLayout", nameOrNull(pdflibrary::pageLayoutNames, layout));
     return 1;
 }
 
 int GetViewerPreferences(Session& session, int option)
 {
     Document& document = session.document().document;
-    return storedPreference(document, preferenceOf(option)).value;
+    const bool asWritten = option > pdflibrary::AsWritten;
+    const PreferenceRow& preference = preferenceOf(asWritten ? option - pdflibrary::AsWritten : option);
+    return storedPreference(document, preference, asWritten ? pdflibrary::NoPreference : preference.absent)
+        .value;
 }
 
 int SetViewerPreferences(Session& session, int option, int value)
 {
     Document& document = session.document().document;
     const PreferenceRow& preference = preferenceOf(option);
+    if (value == pdflibrary::NoPreference) {
+        removePreference(document, preference);
+        return 1;
+    }
     require(preference.takes(value), ErrorCode::BadArgument);
-    if (!storedPreference(document, preference).is(value))
+    if (!storedPreference(document, preference, preference.absent).is(value))
         changedPreferences(document).replaceKey(preference.pdfName, preferenceValue(preference, value));
     return 1;
 }
@@ -159,7 +190,7 @@ int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destT
     if (present && isWrittenAs(open.document, present->array, target, operands))
         return 1;
     operands.insertItem(0, open.pages.reference(page));
-    setCatalogEntry(open.document, "/OpenAction", operands);
+    open.document.setCatalogKey("/OpenAction", operands);
     return 1;
 }
 
@@ -167,7 +198,7 @@ int RemoveOpenAction(Session& session)
 {
     Document& document = session.document().document;
     if (!document.key(document.catalog(), "/OpenAction").isNull())
-        setCatalogEntry(document, "/OpenAction", QPDFObjectHandle::newNull());
+        document.setCatalogKey("/OpenAction", QPDFObjectHandle::newNull());
     return 1;
 }
 

@@ -39,6 +39,10 @@ constexpr void addInformation(OperationSlots& slots)
 {
     slots.GetInformation = operations::GetInformation;
     slots.SetInformation = operations::SetInformation;
+    slots.GetCatalogInformation = operations::GetCatalogInformation;
+    slots.SetCatalogInformation = operations::SetCatalogInformation;
+    slots.GetDocumentMetadata = operations::GetDocumentMetadata;
+    slots.SetDocumentMetadata = operations::SetDocumentMetadata;
 }
 
 constexpr void addView(OperationSlots& slots)
@@ -52,9 +56,11 @@ constexpr void addView(OperationSlots& slots)
     slots.GetOpenActionDestination = operations::GetOpenActionDestination;
     slots.SetOpenActionDestinationFull = operations::SetOpenActionDestinationFull;
     slots.RemoveOpenAction = operations::RemoveOpenAction;
+    slots.GetActionType = operations::GetActionType;
     slots.GetDestType = operations::GetDestType;
     slots.GetDestPage = operations::GetDestPage;
     slots.GetDestValue = operations::GetDestValue;
+    slots.SetDestValue = operations::SetDestValue;
     slots.GetDestName = operations::GetDestName;
 }
 

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <climits>
+#include <cmath>
 #include <string_view>
 
 namespace engine {
@@ -113,7 +114,7 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
         if (operand.isNumber())
             destination.*member = operand.getNumericValue();
     }
-    destination.zoom *= 100;
+    destination.zoom = std::round(destination.zoom * 1e6) / 1e4; // no binary fractions: 0.07 is 7 %
     return destination;
 }
 
@@ -130,6 +131,29 @@ QPDFObjectHandle destinationOperands(int type, int zoom, double left, double top
         if (operand != nullptr)
             operands.appendItem(numberOrNull(values.*operand, operand == &Destination::zoom && zoom == 0));
     return operands;
+}
+
+QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent)
+{
+    const bool isRectangle = document.item(array, 1).isNameAndEquals("/FitR");
+    const auto operand = [&](int index) {
+        return index < array.getArrayNItems() ? array.getArrayItem(index) : QPDFObjectHandle::newNull();
+    };
+    return QPDFObjectHandle::newArray({array.getArrayItem(0), QPDFObjectHandle::newName("/XYZ"), operand(2),
+                                       operand(isRectangle ? 5 : 3),
+                                       numberOrNull(percent / 100, percent == 0)});
+}
+
+void redirectOpenAction(Document& document, QPDFObjectHandle array)
+{
+    QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
+    if (action.isDictionary()) {
+        action = action.shallowCopy();
+        action.replaceKey("/D", array);
+        action.removeKey("/SD"); // the same for structure elements, which would count before it
+        array = action;
+    }
+    document.setCatalogKey("/OpenAction", array);
 }
 
 bool isWrittenAs(Document& document, QPDFObjectHandle array, const QPDFObjectHandle& page,

@@ -44,6 +44,14 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
 /// \param zoom in percent.
 QPDFObjectHandle destinationOperands(int type, int zoom, double left, double top);
 
+/// A destination of type /XYZ that shows what `array`, which reads as that type, shows at another magnification.
+/// \param percent 0 for none.
+QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent);
+
+/// Lets the open action, which leads to a destination, lead to this explicit one. What else the action does
+/// stays.
+void redirectOpenAction(Document& document, QPDFObjectHandle array);
+
 /// True when an explicit destination shows this page object with these operands, exactly as it would be
 /// written.
 bool isWrittenAs(Document& document, QPDFObjectHandle array, const QPDFObjectHandle& page,

@@ -93,6 +93,12 @@ void Document::setTrailerKey(const std::string& key, const QPDFObjectHandle& val
     m_changes.setTrailerKey(*m_pdf, key, fetched(value)); // what is not fetched would count as null
 }
 
+void Document::setCatalogKey(const std::string& key, const QPDFObjectHandle& value)
+{
+    m_catalog.replaceKey(key, value);
+    markChanged(m_catalog);
+}
+
 CrossReference Document::crossReference()
 {
     if (m_fetcher)

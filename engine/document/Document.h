@@ -80,6 +80,9 @@ public:
     /// What setTrailerKey() was called with, the last value for each key.
     const std::map<std::string, QPDFObjectHandle>& changedTrailer() const { return m_changes.trailer(); }
 
+    /// Sets an entry of the catalog, or removes it with null, and marks the catalog as changed.
+    void setCatalogKey(const std::string& key, const QPDFObjectHandle& value);
+
     /// Notes that an indirect object differs from the source. For a direct object the caller marks the
     /// indirect one that holds it.
     void markChanged(const QPDFObjectHandle& object) { m_changes.noteObject(object.getObjGen()); }

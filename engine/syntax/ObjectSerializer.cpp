@@ -1,6 +1,6 @@
 #include "ObjectSerializer.h"
 
-#include "StringCipher.h"
+#include "Cipher.h"
 #include "engine/files/EngineError.h"
 
 #include <qpdf/QUtil.hh>
@@ -128,7 +128,7 @@ void ObjectSerializer::writeDictionary(const std::map<std::string, QPDFObjectHan
 
 void ObjectSerializer::writeString(QPDFObjectHandle string)
 {
-    if (m_cipher == nullptr || !m_cipher->changesStrings()) {
+    if (m_cipher == nullptr || !m_cipher->changesAnything()) {
         m_text += string.unparseResolved();
         return;
     }

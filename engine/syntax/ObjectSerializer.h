@@ -9,14 +9,14 @@
 
 namespace engine {
 
-class StringCipher;
+class Cipher;
 
 /// Writes objects in PDF syntax. It never follows a reference, so writing an object reads no other one.
 class ObjectSerializer
 {
 public:
     /// \param cipher encrypts the strings; null writes them as they are. It must outlive the serializer.
-    explicit ObjectSerializer(const StringCipher* cipher = nullptr) : m_cipher(cipher) {}
+    explicit ObjectSerializer(const Cipher* cipher = nullptr) : m_cipher(cipher) {}
 
     /// \param owner the indirect object that the value is, or is part of.
     /// \throws EngineError with CannotAppend for a stream or what is no PDF object, and with TooComplex for
@@ -36,7 +36,7 @@ private:
     void writeDictionary(const std::map<std::string, QPDFObjectHandle>& entries, int depth);
     void writeString(QPDFObjectHandle string);
 
-    const StringCipher* m_cipher;
+    const Cipher* m_cipher;
     QPDFObjGen m_owner;
     std::string m_text;
     std::vector<QPDFObjGen> m_references;

@@ -1,5 +1,6 @@
 #include "IncrementalUpdate.h"
 
+#include "StreamData.h"
 #include "engine/files/EngineError.h"
 
 #include <qpdf/QPDFCryptoProvider.hh>
@@ -60,8 +61,8 @@ std::vector<std::pair<int, int>> stretches(const Entries& entries)
 IncrementalUpdate::IncrementalUpdate(QPDF& pdf, const CrossReference& crossReference,
                                      const ByteSource& source, const std::set<QPDFObjGen>& changed,
                                      const TrailerEntries& trailer)
-    : m_crossReference(crossReference), m_changedTrailer(trailer), m_cipher(pdf), m_serializer(&m_cipher),
-      m_sourceSize(source.size())
+    : m_crossReference(crossReference), m_changedTrailer(trailer), m_cipher(pdf, Cipher::Use::Strings),
+      m_serializer(&m_cipher), m_sourceSize(source.size())
 {
     if (changed.empty() && trailer.empty())
         throw EngineError(ErrorCode::NothingChanged);
@@ -78,9 +79,9 @@ IncrementalUpdate::IncrementalUpdate(QPDF& pdf, const CrossReference& crossRefer
 void IncrementalUpdate::writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& changed)
 {
     for (const QPDFObjGen object : changed)
-        writeObject(pdf.getObject(object));
+        writeObject(pdf, pdf.getObject(object));
     if (changed.empty()) // some readers take a section without entries for damage
-        writeObject(pdf.getRoot());
+        writeObject(pdf, pdf.getRoot());
     // Writing a new object may bring further references.
     std::size_t next = 0;
     while (next < m_serializer.references().size()) {
@@ -89,17 +90,27 @@ void IncrementalUpdate::writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& chan
             continue;
         QPDFObjectHandle object = pdf.getObject(reference);
         if (!object.isNull())
-            writeObject(object);
+            writeObject(pdf, object);
     }
 }
 
-void IncrementalUpdate::writeObject(QPDFObjectHandle object)
+void IncrementalUpdate::writeObject(QPDF& pdf, QPDFObjectHandle object)
 {
     const QPDFObjGen id = object.getObjGen();
     if (id.getObj() <= 0 ||
         !m_written.try_emplace(id.getObj(), ObjectOffset{nextOffset(), id.getGen()}).second)
         throw EngineError(ErrorCode::CannotAppend, "two changed objects have the same number");
-    m_bytes += id.unparse(' ') + " obj\n" + m_serializer.write(object, id) + "\nendobj\n";
+    m_bytes += id.unparse(' ') + " obj\n" + textOf(pdf, object) + "\nendobj\n";
+}
+
+std::string IncrementalUpdate::textOf(QPDF& pdf, QPDFObjectHandle object)
+{
+    const QPDFObjGen id = object.getObjGen();
+    if (!object.isStream())
+        return m_serializer.write(object, id);
+    const std::string data = storedStreamData(pdf, object);
+    return m_serializer.write(streamDictionary(object, data.size()), id) + "\nstream\n" + data +
+           "\nendstream";
 }
 
 void IncrementalUpdate::addUnlistedObjects()

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "CrossReference.h"
+#include "engine/syntax/Cipher.h"
 #include "engine/syntax/ObjectSerializer.h"
-#include "engine/syntax/StringCipher.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -34,7 +34,8 @@ private:
     using ObjectOffset = CrossReference::ObjectOffset;
 
     void writeObjects(QPDF& pdf, const std::set<QPDFObjGen>& changed);
-    void writeObject(QPDFObjectHandle object);
+    void writeObject(QPDF& pdf, QPDFObjectHandle object);
+    std::string textOf(QPDF& pdf, QPDFObjectHandle object);
     void addUnlistedObjects();
     void writeTable();
     void writeStream();
@@ -46,7 +47,7 @@ private:
 
     const CrossReference& m_crossReference; // this and the next in use only while the update is made
     const TrailerEntries& m_changedTrailer;
-    StringCipher m_cipher;
+    Cipher m_cipher;
     ObjectSerializer m_serializer;
     std::uint64_t m_sourceSize;
     std::map<int, ObjectOffset> m_written; // by object number

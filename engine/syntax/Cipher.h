@@ -7,18 +7,20 @@
 
 namespace engine {
 
-/// Encrypts strings as a document's security handler asks; does nothing for a document without one.
-class StringCipher
+/// Encrypts strings, or streams, as a document's security handler asks; does nothing for a document without one.
+class Cipher
 {
 public:
+    enum class Use { Strings, Streams };
+
     /// \param pdf opened with a right password.
     /// \throws EngineError with CannotAppend for a method that is not known.
-    explicit StringCipher(QPDF& pdf);
+    Cipher(QPDF& pdf, Use use);
 
-    /// `object` is the indirect object that the string is part of. With AES every call gives other bytes.
+    /// `object` is the indirect object that the string is part of, or the stream. With AES every call gives other bytes.
     std::string encrypted(const std::string& plain, QPDFObjGen object) const;
 
-    bool changesStrings() const { return m_method != Method::None; }
+    bool changesAnything() const { return m_method != Method::None; }
 
 private:
     enum class Method { None, Rc4, Aes };

@@ -1,4 +1,4 @@
-#include "StringCipher.h"
+#include "Cipher.h"
 
 #include "engine/files/EngineError.h"
 
@@ -55,7 +55,7 @@ std::string aes(std::string key, std::string plain)
 
 } // namespace
 
-StringCipher::StringCipher(QPDF& pdf)
+Cipher::Cipher(QPDF& pdf, Use use)
 {
     int permissions = 0;
     auto streams = QPDF::e_none;
@@ -63,11 +63,11 @@ StringCipher::StringCipher(QPDF& pdf)
     auto files = QPDF::e_none;
     if (!pdf.isEncrypted(m_revision, permissions, m_version, streams, strings, files))
         return;
-    choose(m_version, strings);
+    choose(m_version, use == Use::Strings ? strings : streams);
     m_fileKey = pdf.getEncryptionKey();
 }
 
-void StringCipher::choose(int version, QPDF::encryption_method_e method)
+void Cipher::choose(int version, QPDF::encryption_method_e method)
 {
     // Below version 4 there are no crypt filters, and libqpdf reports no method: it is always RC4.
     if (version < 4 || method == QPDF::e_rc4)
@@ -75,10 +75,10 @@ void StringCipher::choose(int version, QPDF::encryption_method_e method)
     else if (method == QPDF::e_aes || method == QPDF::e_aesv3)
         m_method = Method::Aes;
     else if (method != QPDF::e_none)
-        throw EngineError(ErrorCode::CannotAppend, "an unknown method encrypts the strings");
+        throw EngineError(ErrorCode::CannotAppend, "an unknown method encrypts it");
 }
 
-std::string StringCipher::encrypted(const std::string& plain, QPDFObjGen object) const
+std::string Cipher::encrypted(const std::string& plain, QPDFObjGen object) const
 {
     if (m_method == Method::None)
         return plain;

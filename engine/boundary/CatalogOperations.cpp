@@ -1,0 +1,79 @@
+#include "Arguments.h"
+#include "Operations.h"
+#include "Session.h"
+#include "Text.h"
+#include "engine/document/Metadata.h"
+
+#include <array>
+
+namespace engine::operations {
+
+namespace {
+
+struct CatalogEntry
+{
+    std::string_view key;
+    bool isText; ///< Else a name.
+};
+
+constexpr std::array entries{CatalogEntry{"/Lang", true}, CatalogEntry{"/PageMode", false},
+                             CatalogEntry{"/PageLayout", false}, CatalogEntry{"/Version", false}};
+
+const CatalogEntry& entryOf(std::wstring_view name)
+{
+    const std::string key = "/" + utf8FromWide(name);
+    for (const CatalogEntry& entry : entries)
+        if (entry.key == key)
+            return entry;
+    throw EngineError(ErrorCode::NotAvailable);
+}
+
+QPDFObjectHandle stored(Document& document, const CatalogEntry& entry)
+{
+    return document.key(document.catalog(), std::string(entry.key));
+}
+
+} // namespace
+
+std::wstring GetCatalogInformation(Session& session, std::wstring_view key)
+{
+    Document& document = session.document().document;
+    const CatalogEntry& entry = entryOf(key);
+    QPDFObjectHandle value = stored(document, entry);
+    if (entry.isText)
+        return value.isString() ? wideFromUtf8(value.getUTF8Value()) : std::wstring();
+    return value.isName() ? wideFromUtf8(value.getName().substr(1)) : std::wstring();
+}
+
+int SetCatalogInformation(Session& session, std::wstring_view key, std::wstring_view value)
+{
+    Document& document = session.document().document;
+    const CatalogEntry& entry = entryOf(key);
+    require(entry.isText, ErrorCode::NotAvailable);
+    const std::string text = utf8FromWide(value);
+    QPDFObjectHandle present = stored(document, entry);
+    const bool isThere =
+        present.isNull() ? text.empty() : present.isString() && present.getUTF8Value() == text;
+    if (!isThere)
+        document.setCatalogKey(std::string(entry.key), text.empty()
+                                                           ? QPDFObjectHandle::newNull()
+                                                           : QPDFObjectHandle::newUnicodeString(text));
+    return 1;
+}
+
+std::wstring GetDocumentMetadata(Session& session)
+{
+    return Metadata(session.document().document).packet();
+}
+
+int SetDocumentMetadata(Session& session, std::wstring_view packet)
+{
+    OpenDocument& open = session.document();
+    if (Metadata(open.document).packet() == packet)
+        return 1;
+    open.readWhole();
+    Metadata(open.document).replace(packet);
+    return 1;
+}
+
+} // namespace engine::operations

@@ -1,0 +1,51 @@
+#include "Arguments.h"
+#include "Operations.h"
+#include "Session.h"
+#include "Text.h"
+#include "pdflibrary/ViewNumbers.h"
+
+#include <cmath>
+
+namespace engine::operations {
+
+namespace {
+
+const int openAction = 0;
+const wchar_t* const goTo = L"GoTo";
+const wchar_t* const unknown = L"Unknown";
+
+} // namespace
+
+std::wstring GetActionType(Session& session, int actionId)
+{
+    Document& document = session.document().document;
+    require(actionId == openAction, ErrorCode::BadArgument);
+    QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
+    if (action.isNull())
+        return {};
+    if (action.isArray() || action.isName() || action.isString())
+        return goTo;
+    QPDFObjectHandle type = document.key(action, "/S");
+    return type.isName() ? wideFromUtf8(type.getName().substr(1)) : unknown;
+}
+
+int SetDestValue(Session& session, int destId, int valueKey, double value)
+{
+    OpenDocument& open = session.document();
+    const Destination before = session.destination(destId);
+    require(valueKey == pdflibrary::DestinationZoom && before.type == pdflibrary::Zoomed &&
+                std::isfinite(value) && value >= 0,
+            ErrorCode::BadArgument);
+    const auto target = openActionTarget(open.document);
+    require(target && readDestination(open.document, *target, open.pages) == before,
+            ErrorCode::UnknownDestination);
+    const QPDFObjectHandle array = magnified(open.document, target->array, value);
+    const auto after = readDestination(open.document, {array, {}}, open.pages);
+    if (!after || after->zoom == before.zoom)
+        return 1;
+    redirectOpenAction(open.document, array);
+    session.changeDestination(destId, *after);
+    return 1;
+}
+
+} // namespace engine::operations
