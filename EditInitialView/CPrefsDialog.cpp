@@ -3,7 +3,7 @@
 #include "CElidedTextStyle.h"
 #include "InitialViewSettings.h"
 
-#include "shared/CIniFile.h"
+#include "shared/ini/CIniFile.h"
 #include "shared/CUtils.h"
 #include "shared/lists/CSaveAsActionlistDialog.h"
 #include "shared/lists/CSaveAsCollectionDialog.h"

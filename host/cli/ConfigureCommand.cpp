@@ -18,7 +18,8 @@
 #include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "shared/CActionInterface.h"
-#include "shared/lists/SettingsFiles.h"
+#include "shared/lists/StoreReport.h"
+#include "shared/lists/StoredKeys.h"
 
 #include <QApplication>
 
@@ -30,7 +31,7 @@ namespace host {
 
 namespace {
 
-using namespace settingsfiles;
+using namespace storedkeys;
 
 const int mostEntries = 1 << 20;
 const int iconSide = 42;
@@ -170,7 +171,11 @@ bool ConfigureCommand::showDialog()
     if (document)
         document->lendTo(load);
     m_icon = iconOf(plugin.action());
-    return plugin.action().ShowDialogProc(nullptr, &load) == 1;
+    storereport::begin();
+    const bool isAccepted = plugin.action().ShowDialogProc(nullptr, &load) == 1;
+    for (const QString& report : storereport::take())
+        complain(report.toStdString());
+    return isAccepted;
 }
 
 int ConfigureCommand::deliver()
@@ -195,10 +200,9 @@ int ConfigureCommand::print() const
 
 int ConfigureCommand::write() const
 {
-    const std::string problem = m_output->write(m_settings, m_source, m_icon);
-    if (!problem.empty())
-        complain(problem);
-    return problem.empty() ? exitstatus::done : exitstatus::someFailed;
+    const SettingsOutput::Outcome outcome = m_output->write(m_settings, m_source, m_icon);
+    complain(outcome.words);
+    return outcome.isWritten ? exitstatus::done : exitstatus::someFailed;
 }
 
 } // namespace host

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "StoredVariant.h"
+#include "SettingsMap.h"
 
 #include <string>
 #include <vector>

@@ -1,56 +1,48 @@
 #include "SettingsFile.h"
 
-#include "IniText.h"
-#include "host/files/FileDescriptor.h"
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
-#include "shared/lists/SettingsFiles.h"
+#include "shared/ini/CIniFile.h"
+#include "shared/lists/StoredKeys.h"
 
 #include <algorithm>
-#include <cerrno>
 
 namespace host::settingsfile {
 
 namespace {
 
-using namespace settingsfiles;
-
-const std::size_t largestFile = 16 << 20;
-const std::string entryNameKey = "ActionName";
-const std::string entrySettingsKey = "ActionPrefs";
+using namespace storedkeys;
 
 [[noreturn]] void refuse(const std::string& path, const QString& reason)
 {
     throw UsageError(path + ": " + reason.toStdString());
 }
 
-IniText readIni(const std::string& path)
+CIniFile openIni(const std::string& path)
 {
-    const FileDescriptor file = openRegularFile(path);
-    std::string bytes;
-    if (!file.isOpen() || !readAll(file.get(), bytes, largestFile))
-        throw UsageError(path + ": " +
-                         (errno == EFBIG ? "too large for a settings file" : systemError(errno)));
-    return IniText(bytes);
+    CIniFile file(QByteArray::fromStdString(path), CIniFile::Access::Read);
+    if (!file.problem().isEmpty())
+        refuse(path, file.problem());
+    return file;
 }
 
-SettingsMap readMap(const IniText& ini, const std::string& path, const std::string& key)
+SettingsMap readMap(const CIniFile& ini, const std::string& path, const QString& key)
 {
-    if (ini.values().count(key) == 0)
-        refuse(path, QString("not a settings file of this kind: it has no \"%1\"").arg(key.c_str()));
-    const auto where = [&](const QString& problem) {
-        return QString("the settings in \"%1\" cannot be read: %2").arg(key.c_str(), problem);
+    if (!ini.contains(key))
+        refuse(path, QString("not a settings file of this kind: it has no \"%1\"").arg(key));
+    const auto refuseValue = [&](const QString& problem) {
+        refuse(path, QString("the settings in \"%1\" cannot be read: it %2").arg(key, problem));
     };
-    const std::optional<QString> text = ini.text(key);
-    QString problem = "it is damaged";
-    const std::optional<SettingsMap> map =
-        text ? StoredVariant::decodeMap(*text, problem) : std::optional<SettingsMap>();
-    if (!map)
-        refuse(path, where(problem));
-    if (map->isEmpty())
-        refuse(path, where("it is empty"));
-    return *map;
+    QString problem;
+    const std::optional<QVariant> value = ini.decoded(key, problem);
+    if (!value)
+        refuseValue(problem);
+    if (value->userType() != QMetaType::QVariantMap)
+        refuseValue("is not a settings map");
+    if (value->toMap().isEmpty())
+        refuseValue("is empty");
+    return value->toMap();
 }
 
 bool hasKnownKey(const SettingsMap& map)
@@ -67,9 +59,9 @@ QString actionOf(const SettingsMap& map)
     return action == initialview::actionName ? ours : action;
 }
 
-std::vector<ActionEntry> readSingle(const std::string& path, const std::string& key)
+std::vector<ActionEntry> readSingle(const std::string& path, const QString& key)
 {
-    const SettingsMap map = readMap(readIni(path), path, key);
+    const SettingsMap map = readMap(openIni(path), path, key);
     const QString action = actionOf(map);
     if (action != initialview::actionName)
         refuse(path,
@@ -78,48 +70,30 @@ std::vector<ActionEntry> readSingle(const std::string& path, const std::string& 
     return {{action, map}};
 }
 
-/// The numbers of the list's entries, ascending.
-std::vector<int> entryNumbers(const IniText& ini)
+QString textOf(const CIniFile& ini, const QString& key)
 {
-    std::vector<int> numbers;
-    for (const auto& [key, value] : ini.values()) {
-        if (key.compare(0, entryNameKey.size(), entryNameKey) != 0)
-            continue;
-        bool whole = false;
-        const QString digits = QString::fromStdString(key.substr(entryNameKey.size()));
-        const int number = digits.toInt(&whole);
-        if (whole && QString::number(number) == digits)
-            numbers.push_back(number);
-    }
-    std::sort(numbers.begin(), numbers.end());
-    return numbers;
+    return ini.value(key).toString();
 }
 
-QString textOf(const IniText& ini, const std::string& key)
-{
-    return unmarkedText(ini.text(key).value_or(QString()));
-}
-
-StoredSettings describe(const std::string& path, const IniText& ini)
+StoredSettings describe(const std::string& path, const CIniFile& ini)
 {
     StoredSettings list{textOf(ini, actionlist::sequenceName), textOf(ini, actionlist::sequenceCategory), {}};
-    for (const int number : entryNumbers(ini)) {
-        const QString action = textOf(ini, entryNameKey + std::to_string(number));
+    for (const int number : actionlist::entryNumbers(ini.keys())) {
+        const QString action = textOf(ini, actionlist::actionNameKey(number));
         const bool ours = action == initialview::actionName;
         list.entries.push_back(
-            {action, ours ? readMap(ini, path, entrySettingsKey + std::to_string(number)) : SettingsMap(),
-             number});
+            {action, ours ? readMap(ini, path, actionlist::actionPrefsKey(number)) : SettingsMap(), number});
     }
     if (list.entries.empty())
         refuse(path, "not an action list: it has no \"ActionName0\"");
     return list;
 }
 
-void refuseOtherActions(const std::string& path, const IniText& ini)
+void refuseOtherActions(const std::string& path, const CIniFile& ini)
 {
     QStringList others;
-    for (const int number : entryNumbers(ini)) {
-        const QString name = textOf(ini, entryNameKey + std::to_string(number));
+    for (const int number : actionlist::entryNumbers(ini.keys())) {
+        const QString name = textOf(ini, actionlist::actionNameKey(number));
         if (name != initialview::actionName)
             others += QString("entry %1 is \"%2\"").arg(number).arg(name);
     }
@@ -132,19 +106,19 @@ void refuseOtherActions(const std::string& path, const IniText& ini)
 
 std::vector<ActionEntry> readActionList(const std::string& path)
 {
-    const IniText ini = readIni(path);
+    const CIniFile ini = openIni(path);
     refuseOtherActions(path, ini);
     return describe(path, ini).entries;
 }
 
 StoredSettings describeActionList(const std::string& path)
 {
-    return describe(path, readIni(path));
+    return describe(path, openIni(path));
 }
 
 StoredSettings describeFavorite(const std::string& path)
 {
-    const SettingsMap map = readMap(readIni(path), path, entrySettingsKey);
+    const SettingsMap map = readMap(openIni(path), path, favorite::actionPrefs);
     const QString action = actionOf(map);
     const bool ours = action == initialview::actionName;
     return {map.value(request::collectionName).toString(), {}, {{action, ours ? map : SettingsMap()}}};
@@ -152,12 +126,12 @@ StoredSettings describeFavorite(const std::string& path)
 
 std::vector<ActionEntry> readFavorite(const std::string& path)
 {
-    return readSingle(path, entrySettingsKey);
+    return readSingle(path, favorite::actionPrefs);
 }
 
 std::vector<ActionEntry> readToolSettings(const std::string& path)
 {
-    return readSingle(path, "ToolSettings");
+    return readSingle(path, toolsettings::toolSettings);
 }
 
 } // namespace host::settingsfile

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "StoredVariant.h"
+#include "SettingsMap.h"
 
 #include <string>
 #include <vector>
@@ -28,7 +28,7 @@ struct StoredSettings
 
 /// Reads the files in which settings are stored. What cannot be read whole and understood is refused with a
 /// UsageError that names the file and the reason: a file that is not a regular one or above 16 MiB, a missing
-/// key, a value that is not a settings map, an empty map (a cut-off one reads as such), settings of another
+/// key, a value that is not a settings map, an empty map, settings of another
 /// action.
 namespace settingsfile {
 

@@ -6,7 +6,7 @@
 #include "host/terminal/UsageError.h"
 
 #include "shared/CUtils.h"
-#include "shared/lists/SettingsFiles.h"
+#include "shared/lists/StoredKeys.h"
 
 #include <QFile>
 
@@ -20,7 +20,19 @@
 
 namespace host {
 
-using namespace settingsfiles;
+using namespace storedkeys;
+
+namespace {
+
+const int deepest = 16;
+
+/// Whether it can only be a path: "/a", "./a", "../a".
+bool isPath(const std::string& name)
+{
+    return name.starts_with("/") || name.starts_with("./") || name.starts_with("../");
+}
+
+} // namespace
 
 SettingsFolder SettingsFolder::actionLists()
 {
@@ -46,23 +58,48 @@ std::vector<std::string> SettingsFolder::files() const
 {
     if (const std::string problem = make(); !problem.empty())
         throw UsageError(problem);
-    const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(m_path.c_str()), closedir);
-    if (listing == nullptr)
-        throw UsageError("the folder " + m_path + " cannot be read: " + systemError(errno));
     std::vector<std::string> names;
-    while (const dirent* entry = readdir(listing.get())) {
-        const std::string name = entry->d_name;
-        if (name.size() >= m_suffix.size() &&
-            strcasecmp(name.c_str() + name.size() - m_suffix.size(), m_suffix.c_str()) == 0)
-            names.push_back(name);
-    }
+    std::set<FolderId> seen;
+    if (!collect({}, seen, names))
+        throw UsageError("the folder " + m_path + " cannot be read: " + systemError(errno));
     std::sort(names.begin(), names.end());
     return names;
 }
 
+/// \param below the folder's path from the top one, with a slash at its end.
+bool SettingsFolder::collect(const std::string& below, std::set<FolderId>& seen,
+                             std::vector<std::string>& names) const
+{
+    const std::string folder = pathOf(below);
+    struct stat status;
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
+    if (listing == nullptr || fstat(dirfd(listing.get()), &status) != 0)
+        return false;
+    if (std::count(below.begin(), below.end(), '/') > deepest ||
+        !seen.emplace(status.st_dev, status.st_ino).second)
+        return true;
+    while (const dirent* entry = readdir(listing.get())) {
+        const std::string name = below + entry->d_name;
+        const bool isFolder = fstatat(dirfd(listing.get()), entry->d_name, &status, 0) == 0 &&
+                              S_ISDIR(status.st_mode) && entry->d_name != std::string(".") &&
+                              entry->d_name != std::string("..");
+        const std::size_t before = names.size();
+        const bool isRead = isFolder && collect(name + "/", seen, names);
+        if (isFolder ? !isRead || (hasSuffix(name) && names.size() == before) : hasSuffix(name))
+            names.push_back(name); // a folder only so that its reader says what is wrong with it
+    }
+    return true;
+}
+
+bool SettingsFolder::hasSuffix(const std::string& file) const
+{
+    return file.size() >= m_suffix.size() &&
+           strcasecmp(file.c_str() + file.size() - m_suffix.size(), m_suffix.c_str()) == 0;
+}
+
 std::string SettingsFolder::baseName(const std::string& file) const
 {
-    return file.substr(0, file.size() - m_suffix.size());
+    return hasSuffix(file) ? file.substr(0, file.size() - m_suffix.size()) : file;
 }
 
 std::string SettingsFolder::nameOf(const std::string& file, const StoredSettings& stored) const
@@ -109,8 +146,8 @@ std::string SettingsFolder::namesOf(const std::vector<std::string>& files) const
 std::string SettingsFolder::find(const std::string& pathOrName) const
 {
     struct stat status;
-    const bool isPath = stat(pathOrName.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
-    if (isPath || pathOrName.empty() || pathOrName.find('/') != std::string::npos)
+    const bool isFile = stat(pathOrName.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+    if (isFile || pathOrName.empty() || isPath(pathOrName))
         return pathOrName;
     const std::vector<std::string> all = files();
     std::vector<std::string> found;

@@ -2,7 +2,11 @@
 
 #include "SettingsFile.h"
 
+#include <sys/types.h>
+
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace host {
@@ -21,7 +25,9 @@ public:
     /// Makes the folder if it is missing. \returns empty, or why it cannot be had.
     std::string make() const;
 
-    /// The names of its files in byte order. Throws UsageError when the folder cannot be read.
+    /// The names of its files in byte order, those in folders below it ("a/b.xqq") included. Folders of
+    /// folders are followed 16 deep, and each one once, whatever links lead to it. Throws UsageError when the
+    /// folder itself cannot be read; one below that cannot is among the names, and describe() says why.
     std::vector<std::string> files() const;
     std::string pathOf(const std::string& file) const { return m_path + "/" + file; }
     /// Throws UsageError when the file cannot be read.
@@ -36,9 +42,12 @@ public:
     std::string find(const std::string& pathOrName) const;
 
 private:
+    using FolderId = std::pair<dev_t, ino_t>;
     using Describe = StoredSettings (*)(const std::string& path);
 
     SettingsFolder(const QString& path, const char* suffix, const char* kind, Describe describe);
+    bool collect(const std::string& below, std::set<FolderId>& seen, std::vector<std::string>& names) const;
+    bool hasSuffix(const std::string& file) const;
     bool hasName(const std::string& file, const std::string& name) const;
     /// Without their suffix.
     std::vector<std::string> baseNames(const std::vector<std::string>& files) const;

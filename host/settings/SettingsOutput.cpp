@@ -1,17 +1,15 @@
 #include "SettingsOutput.h"
 
-#include "host/files/FileAttributes.h"
-#include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/Links.h"
 #include "host/files/SafeOutput.h"
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
-#include "shared/CIniFile.h"
-#include "shared/lists/SettingsFiles.h"
-
-#include <QTemporaryDir>
+#include "shared/ini/CIniFile.h"
+#include "shared/ini/WholeFile.h"
+#include "shared/lists/StoreReport.h"
+#include "shared/lists/StoredKeys.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -21,7 +19,7 @@
 
 namespace host {
 
-using namespace settingsfiles;
+using namespace storedkeys;
 
 namespace {
 
@@ -59,8 +57,14 @@ void SettingsOutput::checkPlace() const
     struct stat status;
     if (stat(m_path.c_str(), &status) == 0 && !S_ISREG(status.st_mode))
         throw UsageError(m_path + " cannot be written: it is not a regular file");
-    if (access(SafeOutput::folderOf(m_path).c_str(), W_OK | X_OK) != 0)
-        throw UsageError(m_path + " cannot be written: " + systemError(errno));
+    if (const std::string problem = folderProblem(); !problem.empty())
+        throw UsageError(m_path + " cannot be written: " + problem);
+}
+
+std::string SettingsOutput::folderProblem() const
+{
+    const bool isUsable = access(SafeOutput::folderOf(m_path).c_str(), W_OK | X_OK) == 0;
+    return isUsable ? std::string() : systemError(errno);
 }
 
 bool SettingsOutput::isSameFile(const std::string& path) const
@@ -71,33 +75,29 @@ bool SettingsOutput::isSameFile(const std::string& path) const
            own.st_dev == other.st_dev && own.st_ino == other.st_ino;
 }
 
-std::string SettingsOutput::write(const SettingsMap& settings, const Edit& edit, const QImage& icon) const
+SettingsOutput::Outcome SettingsOutput::write(const SettingsMap& settings, const Edit& edit,
+                                              const QImage& icon) const
 {
-    const QTemporaryDir folder;
-    if (!folder.isValid())
-        return "no temporary folder can be made: " + folder.errorString().toStdString();
-    const QString draft = folder.filePath("draft");
+    if (const std::string problem = folderProblem(); !problem.empty())
+        return {false, m_path + ": cannot be written: " + problem};
+    const QByteArray path = QByteArray::fromStdString(m_path);
     const bool edits = isSameFile(edit.file);
-    if (edits)
-        if (const std::string problem = copyFile(m_path, draft.toStdString()); !problem.empty())
-            return m_path + ": " + problem;
-    if (!compose(draft, settings, edits ? edit.entry : 0, icon))
-        return m_path + " cannot be written: no complete copy could be made in " +
-               folder.path().toStdString();
-    return putInPlace(draft.toStdString());
+    const QString replaced = edits ? ", whose other content stays" : storereport::inPlaceOf(path);
+    CIniFile file(path, edits ? CIniFile::Access::Extend : CIniFile::Access::Replace);
+    compose(file, settings, edits ? edit.entry : 0, icon);
+    if (!file.commit())
+        return {false, m_path + ": cannot be written: " + file.problem().toStdString()};
+    return {true, "stored: " + m_path + replaced.toStdString()};
 }
 
-bool SettingsOutput::compose(const QString& draft, const SettingsMap& settings, int entry,
-                             const QImage& icon) const
+void SettingsOutput::compose(CIniFile& file, const SettingsMap& settings, int entry, const QImage& icon) const
 {
-    CIniFile file(draft, CIniFile::Access::Extend);
     if (m_kind == Kind::ActionList)
         composeActionList(file, settings, entry);
     else if (m_kind == Kind::Favorite)
         composeFavorite(file, settings, icon);
     else
         file.setValue(toolsettings::toolSettings, settings);
-    return file.commit();
 }
 
 void SettingsOutput::composeActionList(CIniFile& file, const SettingsMap& settings, int entry) const
@@ -120,20 +120,6 @@ void SettingsOutput::composeFavorite(CIniFile& file, SettingsMap settings, const
     file.setValue(favorite::actionPrefs, settings);
     if (!file.contains(favorite::actionIcon))
         file.setValue(favorite::actionIcon, icon);
-}
-
-std::string SettingsOutput::putInPlace(const std::string& draft) const
-{
-    const FileDescriptor replaced = openRegularFile(m_path);
-    if (!replaced.isOpen() && errno != ENOENT)
-        return m_path + " cannot be written: " + systemError(errno);
-    const FileAttributes attributes = replaced.isOpen()
-                                          ? FileAttributes(replaced.get(), FileAttributes::Take::All)
-                                          : FileAttributes::ofNewFile();
-    const std::string temporary = SafeOutput::temporaryNameFor(m_path);
-    SafeOutput output(m_path, temporary);
-    const std::string problem = copyFile(draft, temporary);
-    return problem.empty() ? output.commit(attributes, true).problem : m_path + ": " + problem;
 }
 
 QString SettingsOutput::baseName() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "StoredVariant.h"
+#include "SettingsMap.h"
 
 #include <QImage>
 
@@ -24,14 +24,20 @@ public:
         int entry = 0;
     };
 
+    struct Outcome
+    {
+        bool isWritten = false;
+        /// What was stored where and what it replaced, or why nothing was; may hold bytes of file names.
+        std::string words;
+    };
+
     /// Throws UsageError when the suffix is unknown or no file can be written there.
     explicit SettingsOutput(const std::string& path);
 
     /// Replaces the file as a whole, or leaves it as it was.
     /// \param edit when it names this very file, its other content is kept.
     /// \param icon goes with a favourite that has none.
-    /// \returns empty, or the reason of the failure.
-    std::string write(const SettingsMap& settings, const Edit& edit, const QImage& icon) const;
+    Outcome write(const SettingsMap& settings, const Edit& edit, const QImage& icon) const;
 
 private:
     enum class Kind { ActionList, Favorite, ToolSettings };
@@ -39,10 +45,10 @@ private:
     static Kind kindOf(const std::string& path);
     void checkPlace() const;
     bool isSameFile(const std::string& path) const;
-    bool compose(const QString& draft, const SettingsMap& settings, int entry, const QImage& icon) const;
+    std::string folderProblem() const;
+    void compose(CIniFile& file, const SettingsMap& settings, int entry, const QImage& icon) const;
     void composeActionList(CIniFile& file, const SettingsMap& settings, int entry) const;
     void composeFavorite(CIniFile& file, SettingsMap settings, const QImage& icon) const;
-    std::string putInPlace(const std::string& draft) const;
     QString baseName() const;
 
     std::string m_path;

@@ -63,7 +63,7 @@ public:
     /// \param pageRange items separated by commas: a page, or a first and a last one joined by "-".
     /// \param pageCount a number above it is left out; a range is left out only when it starts above it.
     /// \returns false when the text is empty.
-    /// \throws std::bad_alloc, leaving the list as it was, when the text names more pages than a list holds.
+    ///     An item that memory cannot hold adds nothing.
     static bool GetPageList(const QString& pageRange, int pageCount, bool skipOdd, bool skipEven,
                             QList<int>* pages);
 

@@ -1,14 +1,15 @@
 #include "CActionUtils.h"
 
-#include "CIniFile.h"
-#include "lists/SettingsFiles.h"
+#include "ini/CIniFile.h"
+#include "lists/StoreReport.h"
+#include "lists/StoredKeys.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
 
-using namespace settingsfiles;
+using namespace storedkeys;
 
 const QString defaultCategory = QStringLiteral("Default");
 const QString favoritesCategory = QStringLiteral("Favorites");
@@ -23,10 +24,16 @@ QString pathOf(QString listName)
     return CActionUtils::GetSequenceFolder() + "/" + listName.replace(' ', '_') + actionlist::suffix;
 }
 
-/// Whether the list's file lies in the sequence folder itself.
-bool isFileName(const QString& listName)
+/// Whether the list's file lies in the sequence folder or below.
+bool staysInFolder(const QString& listName)
 {
-    return !listName.contains('/') && !listName.contains(QChar::Null);
+    int depth = 0;
+    for (const QString& folder : listName.split('/').mid(0, listName.count('/'))) {
+        depth += folder == ".." ? -1 : folder.isEmpty() || folder == "." ? 0 : 1;
+        if (depth < 0)
+            return false;
+    }
+    return !listName.contains(QChar::Null);
 }
 
 void addEntry(const QString& path, const QMap<QString, QVariant>& prefs)
@@ -38,6 +45,8 @@ void addEntry(const QString& path, const QMap<QString, QVariant>& prefs)
     file.setValue(actionlist::actionNameKey(number), textOf(prefs, request::actionName));
     file.setValue(actionlist::actionPrefsKey(number), prefs);
     file.commit();
+    storereport::add(storereport::inWords("the action list " + path, QString(", as its entry %1").arg(number),
+                                          file.problem()));
 }
 
 /// The settings without what was said to the writer only.
@@ -52,13 +61,16 @@ QMap<QString, QVariant> withoutRequest(QMap<QString, QVariant> prefs)
 bool writeNewList(const QString& path, const QMap<QString, QVariant>& prefs)
 {
     const QString category = textOf(prefs, request::actionListCategory);
+    const QString replaced = storereport::inPlaceOf(QFile::encodeName(path));
     CIniFile file(path, CIniFile::Access::Replace);
     file.setValue(actionlist::sequenceName, textOf(prefs, request::actionListName));
     file.setValue(actionlist::sequenceCategory, category.isEmpty() ? favoritesCategory : category);
     file.setValue(actionlist::ioSettings, 0);
     file.setValue(actionlist::actionNameKey(0), textOf(prefs, request::actionName));
     file.setValue(actionlist::actionPrefsKey(0), withoutRequest(prefs));
-    return file.commit();
+    file.commit();
+    storereport::add(storereport::inWords("the action list " + path, replaced, file.problem()));
+    return file.problem().isEmpty();
 }
 
 } // namespace
@@ -66,9 +78,12 @@ bool writeNewList(const QString& path, const QMap<QString, QVariant>& prefs)
 void CActionUtils::SaveAsCustomActionList(QMap<QString, QVariant>* prefs)
 {
     const QString listName = prefs->value(request::actionListName, "Action").toString();
-    if (!isFileName(listName))
-        return;
     const QString path = pathOf(listName);
+    if (!staysInFolder(listName)) {
+        storereport::add(storereport::inWords("the action list " + path, QString(),
+                                              "its name leads out of the folder of action lists"));
+        return;
+    }
     const bool exists = QFileInfo::exists(path);
     if (exists && !prefs->value(request::actionListOverwrite).toBool()) {
         addEntry(path, *prefs);

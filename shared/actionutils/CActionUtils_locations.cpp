@@ -1,6 +1,6 @@
 #include "CActionUtils.h"
 
-#include "CIniFile.h"
+#include "ini/CIniFile.h"
 #include "CUtils.h"
 
 #include <QStandardPaths>

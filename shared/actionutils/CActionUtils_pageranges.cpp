@@ -1,6 +1,5 @@
 #include "CActionUtils.h"
 
-#include <QSet>
 #include <QVector>
 
 #include <algorithm>
@@ -80,14 +79,65 @@ void dropCountedPages(QVector<PageRun>& runs)
         run.last = std::min(run.last, -1);
 }
 
-void reserveFor(const QVector<PageRun>& runs, bool half, QList<int>* pages)
+/// How many entries the list would have.
+qint64 sizeWith(const QVector<PageRun>& runs, bool half, const QList<int>& pages)
 {
-    qint64 size = pages->size();
+    qint64 size = pages.size();
     for (const PageRun& run : runs)
         size += std::max<qint64>(0, (qint64(run.last) - run.first) / (half ? 2 : 1) + 1);
+    return size;
+}
+
+struct Skipped
+{
+    bool odd;
+    bool even;
+
+    bool has(int page) const { return (odd && page % 2 == 1) || (even && page % 2 == 0); }
+};
+
+/// Makes room for what the runs may add. \returns false, with the list as it was, where memory cannot hold
+/// it.
+bool reserveFor(const QVector<PageRun>& runs, Skipped skipped, QList<int>* pages)
+{
+    const qint64 size = sizeWith(runs, skipped.odd || skipped.even, *pages);
     if (size > longestPageList)
-        throw std::bad_alloc();
-    pages->reserve(static_cast<int>(size));
+        return false;
+    try {
+        pages->reserve(static_cast<int>(size));
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+/// Of the items as many as memory can hold, the shortest ones first; united.
+QVector<PageRun> heldRuns(QVector<PageRun> items, Skipped skipped, QList<int>* pages)
+{
+    if (const QVector<PageRun> all = united(items); reserveFor(all, skipped, pages))
+        return all;
+    std::sort(items.begin(), items.end(),
+              [](PageRun a, PageRun b) { return qint64(a.last) - a.first < qint64(b.last) - b.first; });
+    int held = 0;
+    for (int beyond = items.size(); held + 1 < beyond;) {
+        const int middle = held + (beyond - held) / 2;
+        (reserveFor(united(items.mid(0, middle)), skipped, pages) ? held : beyond) = middle;
+    }
+    return united(items.mid(0, held));
+}
+
+/// Adds what an ascending list with room enough does not have yet.
+void add(const QVector<PageRun>& runs, Skipped skipped, QList<int>* pages)
+{
+    const int before = pages->size();
+    for (const PageRun& run : runs) {
+        for (qint64 wide = run.first; wide <= run.last; ++wide) {
+            const int page = static_cast<int>(wide);
+            const auto end = pages->cbegin() + before;
+            if (!skipped.has(page) && !std::binary_search(pages->cbegin(), end, page))
+                pages->append(page);
+        }
+    }
 }
 
 } // namespace
@@ -120,20 +170,12 @@ bool CActionUtils::GetPageList(const QString& pageRange, int pageCount, bool ski
 {
     if (pageRange.isEmpty())
         return false;
-    QVector<PageRun> runs = united(runsOf(pageRange, pageCount));
+    QVector<PageRun> items = runsOf(pageRange, pageCount);
     if (skipOdd && skipEven)
-        dropCountedPages(runs);
-    reserveFor(runs, skipOdd || skipEven, pages);
-
-    const QSet<int> present(pages->cbegin(), pages->cend());
-    for (const PageRun& run : qAsConst(runs)) {
-        for (qint64 wide = run.first; wide <= run.last; ++wide) {
-            const int page = static_cast<int>(wide);
-            const bool skipped = (skipOdd && page % 2 == 1) || (skipEven && page % 2 == 0);
-            if (!skipped && !present.contains(page))
-                pages->append(page);
-        }
-    }
+        dropCountedPages(items);
+    std::sort(pages->begin(), pages->end());
+    const Skipped skipped{skipOdd, skipEven};
+    add(heldRuns(items, skipped, pages), skipped, pages);
     std::sort(pages->begin(), pages->end());
     return true;
 }

@@ -1,10 +1,12 @@
 #include "CActionHistoryAPI.h"
 
-#include "CIniFile.h"
+#include "ini/CIniFile.h"
 #include "CatchAllProtocol.h"
-#include "SettingsFiles.h"
+#include "StoreReport.h"
+#include "StoredKeys.h"
 #include "actionutils/CActionUtils.h"
 
+#include <QFile>
 #include <QImage>
 #include <QPixmap>
 
@@ -12,7 +14,7 @@
 
 namespace {
 
-using namespace settingsfiles;
+using namespace storedkeys;
 
 const QSize iconSize(42, 42);
 
@@ -29,11 +31,13 @@ QImage storedIcon(const QIcon& icon)
 void writeFavorite(const QMap<QString, QVariant>& prefs, const QIcon& icon)
 {
     const QString name = prefs.value(request::collectionName).toString();
-    CIniFile file(CActionUtils::GetCollectionsFolder() + "/" + name + favorite::suffix,
-                  CIniFile::Access::Replace);
+    const QString path = CActionUtils::GetCollectionsFolder() + "/" + name + favorite::suffix;
+    const QString replaced = storereport::inPlaceOf(QFile::encodeName(path));
+    CIniFile file(path, CIniFile::Access::Replace);
     file.setValue(favorite::actionPrefs, prefs);
     file.setValue(favorite::actionIcon, storedIcon(icon));
     file.commit();
+    storereport::add(storereport::inWords("the favourite " + path, replaced, file.problem()));
 }
 
 int clampedSum(int a, int b)
@@ -65,7 +69,7 @@ QMap<QString, QVariant>* CActionHistoryAPI::LoadSettingsFromHistory(int step)
         return nullptr;
     const QFileInfo& listed = m_Files.at(m_Files.size() - 1 - m_nCurrent);
     const CIniFile file(listed.absoluteFilePath(), CIniFile::Access::Read);
-    if (!file.contains(favorite::actionPrefs))
-        return nullptr;
-    return new QMap<QString, QVariant>(file.value(favorite::actionPrefs).toMap());
+    QString ignored;
+    const std::optional<QVariant> prefs = file.decoded(favorite::actionPrefs, ignored);
+    return prefs ? new QMap<QString, QVariant>(prefs->toMap()) : nullptr;
 }

@@ -1,14 +1,14 @@
 #include "CSaveAsActionlistDialog.h"
 
 #include "CTickedTabStop.h"
-#include "SettingsFiles.h"
+#include "StoredKeys.h"
 #include "actionutils/CActionUtils.h"
 
 #include <QKeyEvent>
 
 #include <utility>
 
-using namespace settingsfiles;
+using namespace storedkeys;
 
 CSaveAsActionlistDialog::CSaveAsActionlistDialog(QWidget* parent, Qt::WindowFlags)
     : CQuintarDialog(parent, false)

@@ -1,15 +1,16 @@
 #include "CSaveAsCollectionDialog.h"
 
 #include "CActionHistoryAPI.h"
-#include "CIniFile.h"
-#include "SettingsFiles.h"
+#include "StoreReport.h"
+#include "StoredKeys.h"
+#include "ini/CIniFile.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QIcon>
 #include <QPixmap>
 
-using namespace settingsfiles;
+using namespace storedkeys;
 
 namespace {
 
@@ -18,9 +19,11 @@ const int iconSide = 128;
 
 void writeToolSettings(const QString& path, const QMap<QString, QVariant>& prefs)
 {
+    const QString replaced = QFile::exists(path) ? ", whose other content stays" : QString();
     CIniFile file(path, CIniFile::Access::Extend);
     file.setValue(toolsettings::toolSettings, prefs);
     file.commit();
+    storereport::add(storereport::inWords("the tool settings " + path, replaced, file.problem()));
 }
 
 } // namespace

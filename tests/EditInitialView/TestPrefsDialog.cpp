@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QRandomGenerator>
 #include <QSettings>
+#include <QUuid>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -326,10 +327,10 @@ private slots:
     void remembersItsPlaceUnderThePreview()
     {
         QDir().mkpath(CUtils::GetSettingsFolder());
-        QSettings(geometryFile(), QSettings::IniFormat).setValue("other", 1);
+        QSettings(geometryFile(), QSettings::IniFormat).setValue("other/of/all", QUuid::createUuid());
         openAndMove("QuintarPreviewClass", {123, 45}, "QuintarPreviewClass");
         QCOMPARE(QSettings(geometryFile(), QSettings::IniFormat).allKeys(),
-                 QStringList({"EditInitialViewPrefsDialoggeometry", "other"}));
+                 QStringList({"EditInitialViewPrefsDialoggeometry", "other/of/all"}));
         QCOMPARE(placeOfNext(), QPoint(123, 45));
     }
 

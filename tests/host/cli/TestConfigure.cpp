@@ -12,6 +12,8 @@
 
 #include <QComboBox>
 #include <QImage>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
 
@@ -151,14 +153,16 @@ private slots:
     void writesEachKindOfFile()
     {
         const Map settings = with(manualsSettings(), key::OpenToPage, 3);
-        QVERIFY(writeFile(path("My_list.xqq"), "[General]\nold=1\n"));
+        QVERIFY(writeFile(path("My_list.xqq"), "[General]\nActionName0=a\nActionName3=b\n"));
         for (const char* file : {"My_list.xqq", "favourite.ini", "tool.tsf"}) {
             const CommandRun run =
                 configure({"--tool-settings", data + "/manuals.tsf", "-o", path(file)}, [](QDialog& dialog) {
                     person::widget<QSpinBox>(dialog, "OpenToPageSpinBox")->setValue(3);
                     pressOk(dialog);
                 });
-            QCOMPARE(run.err, QByteArray());
+            QCOMPARE(run.err,
+                     "quintar: stored: " + path(file).toUtf8() +
+                         (QString(file) == "My_list.xqq" ? ", in place of one with 2 entries\n" : "\n"));
             QCOMPARE(run.out, QByteArray());
             QCOMPARE(run.status, 0);
         }
@@ -257,6 +261,33 @@ private slots:
         });
         QCOMPARE(run.status, 1);
         QVERIFY2(run.err.contains("folder/out.tsf: cannot be written: no such file"), run.err);
+    }
+
+    void tellsWhatTheWindowStored_data()
+    {
+        const Rows<QString, QString> row;
+        row("a new list", "Q1/Q 2", "stored: the action list %1Q1/Q_2.xqq\n");
+        row("an old list", "old", "stored: the action list %1old.xqq, in place of one with 1 entry\n");
+        row("a name that leaves", "../x", "not stored: the action list %1../x.xqq: its name leads out");
+        row("a name too long", QString(300, 'n'), "xqq: file name too long\n");
+        row("below a file", "old.xqq/x", "not stored: the action list %1old.xqq/x.xqq: not a directory\n");
+    }
+
+    void tellsWhatTheWindowStored()
+    {
+        const auto [name, told] = Rows<QString, QString>::current();
+        QVERIFY(QFile::copy(data + "/manuals.xqq", TemporaryHome::actionList("old.xqq")));
+        const CommandRun run = configure({}, [name = name](QDialog& dialog) {
+            person::whenOpens("CSaveAsActionlistDialog", [name](QDialog& save) {
+                person::widget<QLineEdit>(save, "actionListNameLineEdit")->setText(name);
+                person::widget<QPushButton>(save, "saveButton")->click();
+            });
+            QMetaObject::invokeMethod(&dialog, "on_QDShowSaveDialog");
+            pressOk(dialog);
+        });
+        QCOMPARE(run.status, 0);
+        const QString words = told.contains("%1") ? told.arg(TemporaryHome::actionList("")) : told;
+        QVERIFY2(run.err.contains(words.toUtf8()), run.err);
     }
 
     void refusesWithoutADisplay_data()

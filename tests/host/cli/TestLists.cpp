@@ -83,6 +83,28 @@ private slots:
         QCOMPARE(lines[1].value("actions").toArray()[0].toObject().value("action"), QJsonValue("Watermark"));
     }
 
+    void looksBelowTheFolders()
+    {
+        const QString top = TemporaryHome::actionList("");
+        QVERIFY(QDir().mkpath(top + "Q1/deep") && QDir().mkpath(TemporaryHome::favorite("Q1")));
+        storeList("Q1/Q_2.xqq", "Q1/Q 2");
+        storeList("Q1/deep/x.xqq", "Deep");
+        storeFavorite("Q1/f.ini", manualsSettings(), "Q1/f");
+        QVERIFY(QFile::link("..", top + "Q1/up") && QFile::link(".", top + "Q1/deep/here"));
+        const ProgramRun run = quintar({"lists"});
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.out.count("File: "), 3);
+        for (const char* told : {"File: Q1/Q_2.xqq", "File: Q1/deep/x.xqq", "File: Q1/f.ini"})
+            QVERIFY2(run.out.contains(told), run.out);
+        for (const QStringList& words : {QStringList{"--list", "Q1/Q 2"}, QStringList{"--list", "Q1/deep/x"},
+                                         QStringList{"--list", "Deep"}, QStringList{"--favorite", "Q1/f"}}) {
+            const ProgramRun done = quintar(QStringList{"run", "-o", "out", "a.pdf"} + words);
+            QVERIFY2(done.status == 0, done.err);
+            QVERIFY(QDir(m_home.filePath("out")).removeRecursively());
+        }
+    }
+
     // A user who never stored anything need not have the folders either.
     void tellsOfNothing()
     {

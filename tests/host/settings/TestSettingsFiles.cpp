@@ -139,22 +139,22 @@ private slots:
         row("plain text", map("hello"), "not a settings map");
         row("empty map", map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\0)"), "it is empty");
         row("an image", map("@Variant(\\0\\0\\0\\x46\\0\\0\\0\\0)"), "not a settings map");
-        row("a list of texts", map("a, b"), "damaged");
+        row("a list of texts", map("a, b"), "not a settings map");
         row("no end", map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1"), "not a settings map");
-        row("open quote", map("\"@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1)"), "damaged");
+        row("open quote", map("\"@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1)"), "not a settings map");
         row("wrong escape", map("@Variant(\\q)"), "damaged");
-        row("escape at the end", map("@Variant(\\"), "damaged");
+        row("escape at the end", map("@Variant(\\"), "not a settings map");
         row("escape too large", map("@Variant(\\x12345)"), "damaged");
-        row("more than bytes", map("@Variant(\\x100\\0\\0\\b)"), "not a settings map");
+        row("more than bytes", map("@Variant(\\x100\\0\\0\\b)"), "damaged");
         row("claims more than it has",
             map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x2\\0\\0\\0\\x2\\0k\\0\\0\\0\\x1\\x1)"), "cut off");
         row("claims four milliards", map("@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xff)"), "cut off");
         row("a text of four gigabytes", map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\xff\\xff\\xff\\xfe\\0k)"),
             "cut off");
-        row("a map in the map",
-            map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0k\\0\\0\\0\\b\\0\\0\\0\\0)"),
-            "its value \"k\"");
-        row("something left over", map(QByteArray(stored).chopped(1) + "x)"), "something follows");
+        row("an unknown type",
+            map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0k\\0\\0\\0\\x3f\\0\\0\\0\\0)"),
+            "a value, \"k\", that holds a value of the unknown type 63");
+        row("something left over", map(QByteArray(stored).chopped(1) + "x)"), "followed by something else");
         row("settings of nobody",
             map("@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0k\\0\\0\\0\\x1\\x1)"), "another action");
     }

@@ -3,7 +3,9 @@
 #include "support/Rows.h"
 #include "support/TemporaryHome.h"
 
+#include <QJsonObject>
 #include <QSettings>
+#include <QUuid>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -151,16 +153,56 @@ private slots:
                  QString("Work"));
     }
 
-    void refusesNamesOfOtherFolders()
+    void refusesNamesThatLeaveTheFolder()
     {
-        for (const QString& name : {QString("sub/x"), QString("/tmp/x"), QString("../x"), QString("x/"),
-                                    QString("x") + QChar(0) + "y"})
+        for (const QString& name :
+             {QString("../x"), QString("a/../../x"), QString("x") + QChar(0) + "y", QString("/../x")})
             for (const bool overwrite : {true, false}) {
                 const Map prefs = request(name, overwrite);
                 QCOMPARE(save(prefs), prefs);
             }
         QVERIFY(sequenceFolder().isEmpty());
         QVERIFY(!QFile::exists(CUtils::GetAppDataToolsFolder() + "x.xqq"));
+    }
+
+    void storesBelowTheFolder_data()
+    {
+        const Rows<QString, QString> row;
+        row("a folder of its own", "Q1/Q 2", "Q1/Q_2.xqq");
+        row("from the root", "/tmp/x", "tmp/x.xqq");
+        row("up again", "a/../x", "x.xqq");
+        row("a name of nothing", "x/", "x/.xqq");
+    }
+
+    void storesBelowTheFolder()
+    {
+        const auto [name, file] = Rows<QString, QString>::current();
+        QCOMPARE(save(request(name, true)), entryPrefs());
+        save(request(name, false));
+        const Map content = contentOf(m_home.actionList(file));
+        QCOMPARE(content.value("SequenceName").toString(), name);
+        QVERIFY(content.contains("ActionName1"));
+    }
+
+    // As the host may add them: they are no reason to refuse the file.
+    void keepsValuesOfAnyKind()
+    {
+        const QString path = m_home.actionList("list.xqq");
+        save(request("list", true, "Kept"));
+        {
+            QSettings file(path, QSettings::IniFormat);
+            file.setValue("g1/g2/k", QUuid(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11));
+            file.beginWriteArray("files");
+            file.setArrayIndex(0);
+            file.setValue("path", QVariant::fromValue(QJsonObject{{"a", 1}}));
+            file.endArray();
+        }
+        Map expected = contentOf(path);
+        expected["ActionName1"] = "Initial View";
+        expected["ActionPrefs1"] = request("list", false);
+        save(request("list", false));
+        QCOMPARE(contentOf(path), expected);
+        QCOMPARE(CActionUtils::GetActionListCategories(), (QStringList{"Default", "Favorites", "Kept"}));
     }
 
     void keepsTheMapWhereNothingCanBeReplaced()

@@ -86,6 +86,16 @@ private slots:
         QCOMPARE(others.value("place").toString(), QString("/theirs"));
     }
 
+    void takesKeysOfGroups()
+    {
+        for (const char* key : {"g1/g2/k", "1/path", "General/k", "%general/\xc3\xbc k"}) {
+            CActionUtils::SaveLastVisitedLocation(QString::fromUtf8(key), "/a");
+            CActionUtils::SaveLastVisitedLocation("place", QString("/") + key);
+            QCOMPARE(CActionUtils::GetLastVisitedLocation(QString::fromUtf8(key)), QString("/a"));
+            QCOMPARE(CActionUtils::GetLastVisitedLocation("place"), QString("/") + key);
+        }
+    }
+
     void losesWhatCannotBeKept()
     {
         QVERIFY(QDir().mkpath(file()));

@@ -9,9 +9,12 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QMessageBox>
+#include <QPen>
 #include <QPixmap>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTransform>
 #include <QTranslator>
 #include <QtTest>
 
@@ -409,6 +412,22 @@ private slots:
         QVERIFY(filesIn(CUtils::GetCollectionsFolder()).isEmpty());
         // The format does not drift.
         QCOMPARE(bytesOf(path), bytesOf(QString(TEST_DATA_DIR) + "/manuals.tsf"));
+    }
+
+    void savesSettingsBesideValuesOfAnyKind()
+    {
+        const QString path = m_home.filePath("preset.tsf");
+        QSettings(path, QSettings::IniFormat).setValue("a/b/c", QTransform(1, 2, 3, 4, 5, 6));
+        m_prefs["of the host"] = QPen(Qt::red);
+        CSaveAsCollectionDialog dialog(&m_parent);
+        open(dialog, &m_prefs);
+        person::namesFile(path);
+        person::whenOpens("QMessageBox", [](QDialog& box) { // whether the file is to be replaced
+            static_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
+        });
+        click(dialog.ui.saveSettingsToFileButton);
+        QCOMPARE(keysOf(path), (QStringList{"ToolSettings", "a/b/c"}));
+        QCOMPARE(stored(path, "ToolSettings").toMap(), m_prefs);
     }
 
     void closesWhenTheFileDialogIsCancelled()

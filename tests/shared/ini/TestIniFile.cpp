@@ -1,4 +1,4 @@
-#include "shared/CIniFile.h"
+#include "shared/ini/CIniFile.h"
 #include "support/Rows.h"
 #include "support/TemporaryHome.h"
 

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+
+#include <algorithm>
+#include <vector>
 
 /// The keys of the files that keep an action's settings, and those that the save dialogs add to a settings
 /// map. All files are INI files in QSettings' format with their keys at the top level; a settings map is one
 /// value, a QVariantMap.
-namespace settingsfiles {
+namespace storedkeys {
 
 /// Action lists, "*.xqq": a named series of actions.
 namespace actionlist {
@@ -24,6 +28,20 @@ inline QString actionNameKey(int number)
 inline QString actionPrefsKey(int number)
 {
     return QStringLiteral("ActionPrefs") + QString::number(number);
+}
+
+/// The numbers of the entries that are present, ascending.
+inline std::vector<int> entryNumbers(const QStringList& keys)
+{
+    std::vector<int> numbers;
+    for (const QString& key : keys) {
+        bool whole = false;
+        const int number = key.mid(actionNameKey(0).size() - 1).toInt(&whole);
+        if (whole && key == actionNameKey(number))
+            numbers.push_back(number);
+    }
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
 }
 } // namespace actionlist
 
@@ -48,4 +66,4 @@ inline constexpr char actionListOverwrite[] = "ActionListOverwrite";
 inline constexpr char collectionName[] = "CollectionName";
 } // namespace request
 
-} // namespace settingsfiles
+} // namespace storedkeys
