@@ -7,7 +7,7 @@
 #include "host/change/ViewValues.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
-#include "host/program/InstallLayout.h"
+#include "host/program/OpenDocument.h"
 #include "host/run/BatchRun.h"
 #include "host/run/EarlierReport.h"
 #include "host/run/Report.h"
@@ -22,9 +22,6 @@
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
-#include "pdflibrary/ErrorCodes.h"
-#include "pdflibrary/FileNameCodec.h"
-#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -98,13 +95,9 @@ std::vector<std::string> oddNumbers(const SettingsMap& settings)
 /// How a document opens, for others to open so.
 ViewChange viewOf(const std::string& file, const std::string& password)
 {
-    TelvarPDFLibraryCPDylibCPP1311 library(installlayout::toLibraryPath(installlayout::libraryFile()));
-    if (!library.LibraryLoaded())
-        throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
-    if (library.LoadFromFile(engine::wideFromFileName(file), engine::wideFromFileName(password)) == 0)
-        throw UsageError(file + ": " + std::string(engine::errorText(library.LastErrorCode())));
+    OpenDocument document(file, password);
     try {
-        return PresentView(library).asChange();
+        return PresentView(document.library()).asChange();
     } catch (const std::runtime_error& error) {
         throw UsageError(file + ": " + error.what());
     }
