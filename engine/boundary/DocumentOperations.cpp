@@ -160,6 +160,8 @@ int SecurityInfo(Session& session, int item)
         return document.isChanged() ? 1 : 0;
     case AppendRefusal:
         return appendRefusal(document);
+    case Certification:
+        return isCertified(document);
     default:
         throw EngineError(ErrorCode::NotAvailable);
     }

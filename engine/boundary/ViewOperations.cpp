@@ -2,6 +2,7 @@
 #include "Operations.h"
 #include "Session.h"
 #include "Text.h"
+#include "engine/document/PageGeometry.h"
 #include "engine/files/EngineError.h"
 #include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/ViewerPreferences.h"
@@ -184,8 +185,11 @@ int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destT
     require(zoom >= 0, ErrorCode::BadArgument);
     for (const double coordinate : {left, top, right, bottom})
         require(std::isfinite(coordinate), ErrorCode::BadArgument);
-    const QPDFObjectHandle target = open.pages.page(page).page;
-    QPDFObjectHandle operands = destinationOperands(destType, zoom, left, top);
+    const PagePath& path = open.pages.page(page);
+    const QPDFObjectHandle target = path.page;
+    const Point corner = upperLeftAsShown(open.document, path, {left, bottom, right, top});
+    const bool onItsSide = pageRotation(open.document, path) % 180 != 0;
+    QPDFObjectHandle operands = destinationOperands(destType, zoom, corner, onItsSide);
     const auto present = openActionTarget(open.document);
     if (present && isWrittenAs(open.document, present->array, target, operands))
         return 1;

@@ -3,6 +3,7 @@
 #include "Session.h"
 #include "engine/files/EngineError.h"
 #include "engine/reading/DocumentOpening.h"
+#include "engine/update/SourceInput.h"
 
 #include <algorithm>
 #include <climits>
@@ -134,6 +135,8 @@ ErrorCode codeOfCurrentException() noexcept
         return error.code();
     } catch (const QPDFExc& error) {
         return errorCodeOf(error);
+    } catch (const WorkBudgetSpent&) {
+        return ErrorCode::TooMuchWork;
     } catch (const std::bad_alloc&) {
         return ErrorCode::OutOfMemory;
     } catch (const std::logic_error&) {

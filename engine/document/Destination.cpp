@@ -4,6 +4,8 @@
 #include "NamedDestinations.h"
 #include "PageTree.h"
 
+#include "pdflibrary/ViewNumbers.h"
+
 #include <qpdf/QUtil.hh>
 
 #include <array>
@@ -118,11 +120,12 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
     return destination;
 }
 
-QPDFObjectHandle destinationOperands(int type, int zoom, double left, double top)
+QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bool onItsSide)
 {
+    const bool isPoint = type == pdflibrary::Zoomed; // the others name an edge of the page as it is shown
     Destination values;
-    values.left = left;
-    values.top = top;
+    values.left = onItsSide && !isPoint ? corner.y : corner.x;
+    values.top = onItsSide && !isPoint ? corner.x : corner.y;
     values.zoom = zoom / 100.0;
     const DestinationForm& form = forms[type - 1];
     QPDFObjectHandle operands = QPDFObjectHandle::newArray();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PageGeometry.h"
+
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <optional>
@@ -42,7 +44,9 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
 /// What follows the page in an explicit destination: its type and all operands.
 /// \param type 1 to 5.
 /// \param zoom in percent.
-QPDFObjectHandle destinationOperands(int type, int zoom, double left, double top);
+/// \param corner the upper left one of what is to be seen, as the page is shown.
+/// \param onItsSide the page is shown rotated by 90 or 270 degrees: what is at the top is one of its sides.
+QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bool onItsSide);
 
 /// A destination of type /XYZ that shows what `array`, which reads as that type, shows at another magnification.
 /// \param percent 0 for none.

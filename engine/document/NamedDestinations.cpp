@@ -2,6 +2,8 @@
 
 #include "Document.h"
 
+#include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -10,57 +12,96 @@ namespace engine {
 
 namespace {
 
-QPDFObjectHandle valueInLeaf(Document& document, const QPDFObjectHandle& node, const std::string& key)
+/// Searches a name tree node by node. Nodes, arrays and names that are shared are looked at once, so that the
+/// work follows the size of the document.
+class NameTreeSearch
 {
-    QPDFObjectHandle names = document.key(node, "/Names");
-    const int size = names.isArray() ? names.getArrayNItems() : 0;
-    for (int index = 0; index + 1 < size; index += 2) {
-        QPDFObjectHandle name = document.item(names, index);
-        if (name.isString() && name.getStringValue() == key)
-            return document.item(names, index + 1);
-    }
-    return QPDFObjectHandle::newNull();
-}
+public:
+    /// \param byLimits looks only into nodes whose limits hold the key.
+    NameTreeSearch(Document& document, const std::string& key, bool byLimits)
+        : m_document(document), m_key(key), m_byLimits(byLimits)
+    {}
 
-bool limitsHold(Document& document, QPDFObjectHandle node, const std::string& key)
-{
-    QPDFObjectHandle limits = node.isDictionary() ? document.key(node, "/Limits") : node;
-    if (!limits.isArray() || limits.getArrayNItems() != 2)
-        return false;
-    QPDFObjectHandle first = document.item(limits, 0);
-    QPDFObjectHandle last = document.item(limits, 1);
-    return first.isString() && last.isString() && first.getStringValue() <= key &&
-           key <= last.getStringValue();
-}
-
-/// Searches a name tree node by node, each once: those whose limits hold the key, or all of them.
-QPDFObjectHandle searchTree(Document& document, const QPDFObjectHandle& root, const std::string& key,
-                            bool byLimits)
-{
-    std::vector<QPDFObjectHandle> waiting{root};
-    std::set<QPDFObjGen> seen;
-    while (!waiting.empty()) {
-        QPDFObjectHandle node = waiting.back();
-        waiting.pop_back();
-        if (!node.isDictionary() || (node.isIndirect() && !seen.insert(node.getObjGen()).second))
-            continue;
-        QPDFObjectHandle value = valueInLeaf(document, node, key);
-        if (!value.isNull())
-            return value;
-        QPDFObjectHandle kids = document.key(node, "/Kids");
-        for (int kid = kids.isArray() ? kids.getArrayNItems() : 0; kid-- > 0;)
-            if (!byLimits || limitsHold(document, document.item(kids, kid), key))
-                waiting.push_back(document.item(kids, kid));
+    /// \returns null when the tree does not have the key.
+    QPDFObjectHandle in(const QPDFObjectHandle& root)
+    {
+        std::vector<QPDFObjectHandle> waiting{root};
+        while (!waiting.empty()) {
+            const QPDFObjectHandle node = waiting.back();
+            waiting.pop_back();
+            QPDFObjectHandle value = inLeaf(node);
+            if (!value.isNull())
+                return value;
+            addKids(node, waiting);
+        }
+        return QPDFObjectHandle::newNull();
     }
-    return QPDFObjectHandle::newNull();
-}
+
+private:
+    static bool isNew(std::set<QPDFObjGen>& seen, const QPDFObjectHandle& object)
+    {
+        return !object.isIndirect() || seen.insert(object.getObjGen()).second;
+    }
+
+    QPDFObjectHandle inLeaf(const QPDFObjectHandle& node)
+    {
+        QPDFObjectHandle names = m_document.key(node, "/Names");
+        const int size = names.isArray() && isNew(m_leaves, names) ? names.getArrayNItems() : 0;
+        for (int index = 0; index + 1 < size; index += 2) {
+            QPDFObjectHandle name = m_document.item(names, index);
+            if (isNew(m_names, name) && name.isString() && name.getStringValue() == m_key)
+                return m_document.item(names, index + 1);
+        }
+        return QPDFObjectHandle::newNull();
+    }
+
+    void addKids(const QPDFObjectHandle& node, std::vector<QPDFObjectHandle>& waiting)
+    {
+        QPDFObjectHandle kids = m_document.key(node, "/Kids");
+        for (int index = kids.isArray() && isNew(m_nodes, kids) ? kids.getArrayNItems() : 0; index-- > 0;) {
+            const QPDFObjectHandle kid = m_document.item(kids, index);
+            if (isNew(m_nodes, kid) && (!m_byLimits || limitsHold(kid)))
+                waiting.push_back(kid);
+        }
+    }
+
+    bool limitsHold(const QPDFObjectHandle& node)
+    {
+        QPDFObjectHandle limits = m_document.key(node, "/Limits");
+        if (!limits.isArray() || limits.getArrayNItems() != 2)
+            return false;
+        const auto first = comparedWithKey(m_document.item(limits, 0));
+        const auto last = comparedWithKey(m_document.item(limits, 1));
+        return first && last && *first <= 0 && *last >= 0;
+    }
+
+    std::optional<int> comparedWithKey(QPDFObjectHandle name)
+    {
+        if (!name.isString())
+            return std::nullopt;
+        if (!name.isIndirect())
+            return name.getStringValue().compare(m_key);
+        const auto [known, isNew] = m_compared.try_emplace(name.getObjGen());
+        if (isNew)
+            known->second = name.getStringValue().compare(m_key);
+        return known->second;
+    }
+
+    Document& m_document;
+    const std::string& m_key;
+    bool m_byLimits;
+    std::set<QPDFObjGen> m_nodes; // and their arrays of kids
+    std::set<QPDFObjGen> m_leaves;
+    std::set<QPDFObjGen> m_names;
+    std::map<QPDFObjGen, int> m_compared;
+};
 
 QPDFObjectHandle inNameTree(Document& document, const std::string& key)
 {
     QPDFObjectHandle names = document.key(document.catalog(), "/Names");
     QPDFObjectHandle root = names.isDictionary() ? document.key(names, "/Dests") : names;
-    QPDFObjectHandle value = searchTree(document, root, key, true);
-    return value.isNull() ? searchTree(document, root, key, false) : value;
+    QPDFObjectHandle value = NameTreeSearch(document, key, true).in(root);
+    return value.isNull() ? NameTreeSearch(document, key, false).in(root) : value;
 }
 
 QPDFObjectHandle inDictionary(Document& document, const std::string& key)

@@ -1,6 +1,7 @@
 #include "PageTree.h"
 
 #include "Document.h"
+#include "engine/files/ByteSource.h"
 #include "engine/files/EngineError.h"
 #include "engine/reading/KidGlimpse.h"
 
@@ -15,6 +16,9 @@ namespace {
 
 // Trees of up to this many pages are walked whole, so that counts that lie do no harm.
 const int smallTree = 256;
+
+// Nodes can share one array of kids, and so list more pages than the document has bytes.
+const std::size_t mostListed = 250'000;
 
 using Kind = KidKind;
 
@@ -247,7 +251,9 @@ std::optional<PagePath> PageTree::descend(int number)
 class PageTree::Walker
 {
 public:
-    explicit Walker(Document& document) : m_document(document) {}
+    explicit Walker(Document& document)
+        : m_document(document), m_mostKids(mostListed + document.source()->size())
+    {}
 
     void walk(const QPDFObjectHandle& root)
     {
@@ -285,6 +291,8 @@ private:
 
     void meetNextKid()
     {
+        if (++m_kids > m_mostKids)
+            throw EngineError(ErrorCode::TooMuchWork);
         Step& step = m_steps.back();
         const int kid = step.next++;
         const int node = step.node;
@@ -304,6 +312,8 @@ private:
     }
 
     Document& m_document;
+    std::size_t m_mostKids;
+    std::size_t m_kids = 0;
     std::vector<Step> m_steps;
     std::set<QPDFObjGen> m_seen;
 };

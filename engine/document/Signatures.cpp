@@ -3,6 +3,7 @@
 #include "Document.h"
 
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace engine {
@@ -28,13 +29,14 @@ public:
         while (!waiting.empty()) {
             auto [field, isSignature] = waiting.back();
             waiting.pop_back();
-            if (!field.isDictionary() || (field.isIndirect() && !m_fields.insert(field.getObjGen()).second))
+            if (!field.isDictionary())
                 continue;
             QPDFObjectHandle type = m_document.key(field, "/FT"); // inherited by the kids
             if (type.isName())
                 isSignature = type.isNameAndEquals("/Sig");
-            if (isSignature)
-                add(m_document.key(field, "/V"));
+            QPDFObjectHandle value = m_document.key(field, "/V");
+            if (isSignature || isSigning(value))
+                add(value);
             push(waiting, m_document.key(field, "/Kids"), isSignature);
         }
     }
@@ -48,16 +50,29 @@ private:
         bool isSignature;
     };
 
+    /// Whatever the field's type, what covers bytes of the file breaks when they change.
+    bool isSigning(const QPDFObjectHandle& value) { return !m_document.key(value, "/ByteRange").isNull(); }
+
+    /// Fields and arrays that are shared are looked at once for each type that they inherit.
+    bool isNew(const QPDFObjectHandle& object, bool isSignature)
+    {
+        return !object.isIndirect() || m_seen.insert({object.getObjGen(), isSignature}).second;
+    }
+
     void push(std::vector<Field>& waiting, QPDFObjectHandle kids, bool isSignature)
     {
-        for (int kid = kids.isArray() ? kids.getArrayNItems() : 0; kid-- > 0;)
-            waiting.push_back({m_document.item(kids, kid), isSignature});
+        const bool lists = kids.isArray() && isNew(kids, isSignature);
+        for (int index = lists ? kids.getArrayNItems() : 0; index-- > 0;) {
+            const QPDFObjectHandle kid = m_document.item(kids, index);
+            if (isNew(kid, isSignature))
+                waiting.push_back({kid, isSignature});
+        }
     }
 
     Document& m_document;
     int m_count = 0;
     std::set<QPDFObjGen> m_counted;
-    std::set<QPDFObjGen> m_fields;
+    std::set<std::pair<QPDFObjGen, bool>> m_seen;
 };
 
 } // namespace
@@ -73,6 +88,12 @@ int countSignatures(Document& document)
         for (const char* kind : {"/DocMDP", "/UR", "/UR3"})
             counter.add(document.key(permissions, kind));
     return counter.count();
+}
+
+bool isCertified(Document& document)
+{
+    const QPDFObjectHandle permissions = document.key(document.catalog(), "/Perms");
+    return document.key(permissions, "/DocMDP").isDictionary();
 }
 
 } // namespace engine

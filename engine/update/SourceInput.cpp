@@ -11,13 +11,32 @@
 
 namespace engine {
 
+namespace {
+
+// In bytes that libqpdf reads. Dense documents need up to 10 for each of theirs, those made to keep it busy
+// hundreds: a rebuild parses from every "trailer" as far as it gets, with a warning at each oddity.
+const std::uint64_t leastBudget = 4 << 20;
+const std::uint64_t budgetPerByte = 32;
+const std::size_t workOfSeek = 16; // tokens, warnings and lines cost one each
+
+} // namespace
+
 SourceInput::SourceInput(std::shared_ptr<const ByteSource> source, std::string name)
     : m_source(std::move(source)), m_name(std::move(name)),
-      m_end(static_cast<qpdf_offset_t>(documentEnd(*m_source)))
+      m_end(static_cast<qpdf_offset_t>(documentEnd(*m_source))),
+      m_budget(leastBudget + budgetPerByte * m_source->size())
 {}
+
+void SourceInput::spend(std::size_t work)
+{
+    if (work > m_budget)
+        throw WorkBudgetSpent();
+    m_budget -= work;
+}
 
 void SourceInput::seek(qpdf_offset_t offset, int whence)
 {
+    spend(workOfSeek);
     const qpdf_offset_t base = whence == SEEK_SET ? 0 : whence == SEEK_END ? m_end : m_position;
     if (offset > std::numeric_limits<qpdf_offset_t>::max() - base || base + offset < 0)
         throw std::runtime_error(m_name + ": seek outside the document");
@@ -53,6 +72,7 @@ std::size_t SourceInput::read(char* into, std::size_t size)
         m_position = m_end;
     last_offset = m_position;
     size = available(size);
+    spend(size);
     if (size > m_window.size()) {
         size = m_source->read(static_cast<std::uint64_t>(m_position), into, size);
         m_position += static_cast<qpdf_offset_t>(size);

@@ -67,9 +67,11 @@ SignedDocuments signedDocuments(const std::string& value)
 {
     if (value == "append")
         return SignedDocuments::Append;
+    if (value == "append-certified")
+        return SignedDocuments::AppendCertified;
     if (value != "refuse")
-        throw UsageError("--signed takes refuse or append, not \"" + value + "\"" +
-                         suggestion::didYouMean(value, {"refuse", "append"}));
+        throw UsageError("--signed takes refuse, append or append-certified, not \"" + value + "\"" +
+                         suggestion::didYouMean(value, {"refuse", "append", "append-certified"}));
     return SignedDocuments::Refuse;
 }
 

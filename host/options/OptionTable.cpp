@@ -82,8 +82,8 @@ const std::vector<Option> optionRows{
      Nothing, {}, {Run}, Group::Documents, rare},
 
     {"signed", 0, "HOW", "what becomes of signed documents",
-     "refused (the default), or changed by an update behind what is signed",
-     Words, {"refuse", "append"}, {Run}, Group::Signed, rare},
+     "refused (the default), or changed by an update behind what is signed; certified ones with append-certified only",
+     Words, {"refuse", "append", "append-certified"}, {Run}, Group::Signed, rare},
 
     {"rewrite", 0, "", "with -o, writes documents anew that cannot be appended to",
      "if nothing is lost by that; without it such a document is refused",

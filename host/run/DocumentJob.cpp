@@ -47,6 +47,7 @@ std::string DocumentResult::toRecord() const
         .add(fileState)
         .add(outputState)
         .add(note)
+        .add(static_cast<std::int64_t>(certified))
         .bytes();
 }
 
@@ -60,13 +61,14 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     std::string fileState = reader.text();
     std::string outputState = reader.text();
     std::string note = reader.text();
+    const bool certified = reader.number() != 0;
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);
     if (!reader.complete() || !known)
         return std::nullopt;
     return DocumentResult{
         static_cast<Status>(status), static_cast<Saved>(saved), std::move(reason), milliseconds,
-        std::move(fileState),        std::move(outputState),    std::move(note)};
+        std::move(fileState),        std::move(outputState),    std::move(note),   certified};
 }
 
 } // namespace host

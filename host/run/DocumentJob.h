@@ -38,6 +38,8 @@ struct DocumentResult
     std::string outputState = {};
     /// What the user should know of a document that did not fail; may be empty.
     std::string note = {};
+    /// The document carries a certification; false when it could not be read.
+    bool certified = false;
 
     static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;

@@ -98,6 +98,7 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     const int document = m_library.SelectedDocument();
     m_library.SelectDocument(document);
     DocumentResult result = applyAndSave(job);
+    result.certified = m_library.SecurityInfo(engine::Certification) != 0;
     m_library.RemoveDocument(document);
     if (result.status != Status::Failed && !m_options.dryRun)
         tellStates(result, stateOf(job.target));
@@ -145,6 +146,10 @@ std::string DocumentProcessor::refusal()
 {
     if (m_library.SecurityInfo(engine::ModificationAllowed) == 0)
         return "its encryption does not allow changes; the owner password is needed";
+    if (m_options.signedDocuments != SignedDocuments::AppendCertified &&
+        m_library.SecurityInfo(engine::Certification) != 0)
+        return "it is certified, and no certification allows a change of how it opens; "
+               "--signed append-certified changes it all the same";
     if (m_options.signedDocuments == SignedDocuments::Refuse &&
         m_library.SecurityInfo(engine::SignatureCount) > 0)
         return "it is signed, and viewers report any later change; --signed append changes it all the same";
@@ -155,6 +160,8 @@ std::string DocumentProcessor::refusal()
 DocumentResult DocumentProcessor::tryOut()
 {
     const int code = m_library.SecurityInfo(engine::AppendRefusal);
+    if (m_library.LastErrorCode() != 0)
+        return libraryFailure();
     const bool rewriting = m_options.rewrite && engine::cannotAppend(static_cast<engine::ErrorCode>(code));
     if (rewriting && m_library.SaveToString().empty())
         return libraryFailure(notRewritten);

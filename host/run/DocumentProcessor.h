@@ -23,7 +23,8 @@ namespace host {
 
 class SafeOutput;
 
-enum class SignedDocuments { Refuse, Append };
+/// What becomes of signed documents that would change; certified ones only change with AppendCertified.
+enum class SignedDocuments { Refuse, Append, AppendCertified };
 
 /// What holds for every document of a run.
 struct ProcessingOptions

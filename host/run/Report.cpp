@@ -128,6 +128,8 @@ std::string Report::toJson(const Line& line)
     insertName(object, "output", line.output);
     object.insert("status", nameOf(line.result.status));
     object.insert("saved", textOrNull(nameOf(line.result.saved)));
+    if (line.result.certified)
+        object.insert("certified", true);
     object.insert("reason", textOrNull(line.result.reason));
     if (!line.result.note.empty())
         object.insert("note", QString::fromStdString(line.result.note));

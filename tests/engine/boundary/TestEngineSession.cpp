@@ -35,6 +35,31 @@ QByteArray shown(const QString& path, const QString& entry)
     return mutool.waitForFinished() ? mutool.readAllStandardOutput().simplified() : QByteArray("no mutool");
 }
 
+/// Object 10 lists 5000 nodes, which all list `kids`.
+PdfBuilder withSharedKids(const std::string& kids, const std::string& catalogEntries = {})
+{
+    PdfBuilder builder;
+    builder.catalog(catalogEntries).pages(1);
+    std::string nodes;
+    for (int node = 20; node < 5020; ++node) {
+        builder.object(node, "<< /Count 1 /Limits [(a) (z)] /Kids " + kids + " >>");
+        nodes += std::to_string(node) + " 0 R ";
+    }
+    return builder.object(10, "[" + nodes + "]").object(11, "<< /Kids 10 0 R >>");
+}
+
+/// Many nodes of a page tree that share their pages, 25 million in all.
+std::string sharedPages()
+{
+    std::string pages;
+    for (int page = 0; page < 5000; ++page)
+        pages += "3 0 R ";
+    return withSharedKids("12 0 R")
+        .object(2, "<< /Type /Pages /Count 1 /Kids 10 0 R >>")
+        .object(12, "[" + pages + "]")
+        .bytes();
+}
+
 ErrorCode errorOf(LoadedLibrary& library)
 {
     return ErrorCode(library.LastErrorCode());
@@ -231,6 +256,7 @@ private slots:
         row("signed field", "/AcroForm << /Fields [11 0 R] >>", 1);
         row("type inherited, in a circle", "/AcroForm << /Fields [12 0 R] >>", 1);
         row("text field", "/AcroForm << /Fields [14 0 R] >>", 0);
+        row("signed text field", "/AcroForm << /Fields [16 0 R] >>", 1);
         row("certified", std::string("/AcroForm << /Fields [11 0 R] >> /Perms << /DocMDP 20 0 R >>"), 1);
         row("usage rights", "/Perms << /UR3 20 0 R >>", 1);
         row("two", "/AcroForm << /Fields [11 0 R 15 0 R 11 0 R null] >>", 2);
@@ -250,13 +276,41 @@ private slots:
                                    .object(13, "<< /V 20 0 R /Parent 12 0 R >>")
                                    .object(14, "<< /FT /Tx /V << /Type /Sig >> >>")
                                    .object(15, "<< /FT /Sig /V << /Type /Sig >> >>")
+                                   .object(16, "<< /FT /Tx /V 20 0 R >>")
                                    .object(20, "<< /Type /Sig /ByteRange [0 1 2 3] >>")
                                    .bytes(),
                                L"");
         QCOMPARE(library.SecurityInfo(engine::SignatureCount), count);
+        QCOMPARE(library.SecurityInfo(engine::Certification), int(catalog.find("/DocMDP") != catalog.npos));
         QCOMPARE(library.SecurityInfo(engine::ModificationAllowed), 1);
         QCOMPARE(library.SecurityInfo(100), 0);
         QCOMPARE(errorOf(library), ErrorCode::NotAvailable);
+    }
+
+    void givesUpWhereWorkOutgrowsTheDocument()
+    {
+        LoadedLibrary library;
+        std::string trailers = "%PDF-1.4\n";
+        for (int count = 0; count < 5000; ++count) // each is read to the end of the file
+            trailers += "trailer [\n<< 1 >>\n";
+        QCOMPARE(library.LoadFromString(trailers + "startxref\n9\n%%EOF\n", L""), 0);
+        QCOMPARE(errorOf(library), ErrorCode::TooMuchWork);
+        QCOMPARE(library.LoadFromString(sharedPages(), L""), 0);
+        QCOMPARE(errorOf(library), ErrorCode::TooMuchWork);
+    }
+
+    void looksOnceAtWhatIsShared()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        for (const char* entries :
+             {"/OpenAction (x) /Names << /Dests 11 0 R >>", "/AcroForm << /Fields 10 0 R >>"}) {
+            LoadedLibrary library;
+            QCOMPARE(library.LoadFromString(withSharedKids("10 0 R", entries).bytes(), L""), 1);
+            QCOMPARE(library.GetOpenActionDestination(), 0);
+            QCOMPARE(library.SecurityInfo(engine::SignatureCount), 0);
+        }
+        QVERIFY(timer.elapsed() < 10'000);
     }
 
     void writesWhatOtherReadersRead()
@@ -281,7 +335,7 @@ private slots:
                      QByteArray(
                          "<< /DisplayDocTitle true /HideToolbar true /NonFullScreenPageMode /UseThumbs >>"));
             QCOMPARE(shown(path, "OpenAction/1/Rotate"), QByteArray("90"));
-            QVERIFY(shown(path, "OpenAction").endsWith(" 0 R /XYZ 10 700 1.25 ]"));
+            QVERIFY(shown(path, "OpenAction").endsWith(" 0 R /XYZ 10 0 1.25 ]"));
             LoadedLibrary again;
             QCOMPARE(again.LoadFromFile(wide(path), L""), 1);
             QCOMPARE(again.GetDestPage(again.GetOpenActionDestination()), 2);

@@ -289,9 +289,9 @@ private slots:
         row("no zoom", destination(1, 0, 1), "[ 3 0 R /XYZ 0 792 null ]", "1 type 1 0 792 0 0 0");
         row("page", destination(3, 0, 2), "[ 5 0 R /Fit ]", "3 type 2 0 0 0 0 0");
         row("width", destination(3, 75, 3), "[ 5 0 R /FitH 792 ]", "3 type 3 0 792 0 0 0");
-        row("height", destination(1, 0, 4, -7.25), "[ 3 0 R /FitV -7.25 ]", "1 type 4 -7.25 0 0 0 0");
-        row("visible", destination(1, 0, 5, 0, 841.889763779528), "[ 3 0 R /FitBH 841.889764 ]",
-            "1 type 5 0 841.89 0 0 0");
+        row("height", destination(1, 0, 4, 7.25), "[ 3 0 R /FitV 7.25 ]", "1 type 4 7.25 0 0 0 0");
+        row("visible", destination(1, 0, 5, 0, 741.889763779528), "[ 3 0 R /FitBH 741.889764 ]",
+            "1 type 5 0 741.89 0 0 0");
         row("minus zero", destination(1, 33, 1, -0.0, 1e-9), "[ 3 0 R /XYZ 0 0 0.33 ]",
             "1 type 1 0 0 0 0 33");
     }
@@ -308,6 +308,51 @@ private slots:
             QCOMPARE(setter(opened.session), 1);
             QCOMPARE(opened.entry("/OpenAction"), written);
         }
+    }
+
+    void opensAtTheUpperLeftOfThePageAsItIsShown_data()
+    {
+        const Rows<std::string, int, QByteArray> add;
+        const auto row = [&add](const char* page, int type, const char* operands) {
+            add(QString("%1 type %2").arg(page).arg(type), std::string(page), type, QByteArray(operands));
+        };
+        row("", 1, "/XYZ 0 792 null");
+        row("/Rotate 90", 1, "/XYZ 0 0 null");
+        row("/Rotate 180", 1, "/XYZ 612 0 null");
+        row("/Rotate 270", 1, "/XYZ 612 792 null");
+        row("/Rotate 90", 3, "/FitH 0");
+        row("/Rotate 90", 4, "/FitV 0");
+        row("/Rotate 180", 3, "/FitH 0");
+        row("/Rotate 180", 4, "/FitV 612");
+        row("/Rotate 270", 3, "/FitH 612");
+        row("/Rotate 270", 4, "/FitV 792");
+        row("/Rotate 270", 5, "/FitBH 612");
+        row("/CropBox [10 20 600 700]", 1, "/XYZ 10 700 null");
+        row("/CropBox [10 20 600 700] /Rotate 90", 1, "/XYZ 10 20 null");
+        row("/CropBox [10 20 600 700] /Rotate 180", 1, "/XYZ 600 20 null");
+        row("/CropBox [10 20 600 700] /Rotate 270", 1, "/XYZ 600 700 null");
+        row("/CropBox [10 20 600 700] /Rotate 90", 3, "/FitH 10");
+        row("/CropBox [10 20 600 700] /Rotate 90", 4, "/FitV 20");
+        row("/CropBox [10 20 600 700]", 3, "/FitH 700");
+        row("/CropBox [-50 -50 700 900]", 1, "/XYZ 0 792 null");
+        row("/CropBox [1000 1000 1200 1200] /Rotate 180", 1, "/XYZ 612 0 null");
+    }
+
+    void opensAtTheUpperLeftOfThePageAsItIsShown()
+    {
+        const auto [page, type, operands] = Rows<std::string, int, QByteArray>::current();
+        Opened opened(PdfBuilder().catalog("").pages(1, 3, "/MediaBox [0 0 612 792] " + page).bytes());
+        QCOMPARE(destination(1, 0, type)(opened.session), 1);
+        QCOMPARE(opened.entry("/OpenAction"), "[ 3 0 R " + operands + " ]");
+    }
+
+    void movesAPointIntoThePage()
+    {
+        Opened opened(document(""));
+        SetOpenActionDestinationFull(opened.session, 1, 0, 1, -7.25, 1e9, 0, 0);
+        QCOMPARE(opened.entry("/OpenAction"), QByteArray("[ 3 0 R /XYZ 0 792 null ]"));
+        SetOpenActionDestinationFull(opened.session, 1, 0, 1, 1e9, -1e9, 0, 0);
+        QCOMPARE(opened.entry("/OpenAction"), QByteArray("[ 3 0 R /XYZ 612 0 null ]"));
     }
 
     void leavesAnOpenActionThatAlreadyShowsIt_data()

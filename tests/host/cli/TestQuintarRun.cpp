@@ -36,10 +36,10 @@ std::string encrypted(const std::string& plain, const QStringList& options)
     return run.status == 0 ? WorkFolder::contentOf(folder.filePath("out.pdf").toStdString()) : std::string();
 }
 
-std::string signedDocument()
+std::string signedDocument(const std::string& catalogEntries = {})
 {
     PdfBuilder builder;
-    builder.catalog("/AcroForm << /SigFlags 3 /Fields [ 8 0 R ] >>").pages(2);
+    builder.catalog("/AcroForm << /SigFlags 3 /Fields [ 8 0 R ] >> " + catalogEntries).pages(2);
     builder.object(8, "<< /FT /Sig /T (Signature) /V 9 0 R >>");
     builder.object(9, "<< /Type /Sig /Filter /Adobe.PPKLite /ByteRange [ 0 10 20 30 ] /Contents <00> >>");
     return builder.bytes();
@@ -213,7 +213,7 @@ private slots:
         row("report nowhere", "run -o out --report no/r a.pdf" + set, "no/r");
         row("no password file", "run -o out --password-file no a.pdf" + set, "no cannot");
         row("number of jobs", "run -o out --jobs 0 a.pdf" + set, "1 to 1024");
-        row("signed", "run -o out --signed maybe a.pdf" + set, "refuse or append");
+        row("signed", "run -o out --signed maybe a.pdf" + set, "refuse, append or append-certified");
         row("rewriting in place", "run --in-place --rewrite a.pdf" + set, "--rewrite goes with -o");
         row("null without list", "run -o out --null a.pdf" + set, "--files-from");
         row("empty name", "run -o out ''" + set, "empty");
@@ -243,6 +243,27 @@ private slots:
         QCOMPARE(appended.status, 0);
         const std::string result = WorkFolder::contentOf("out/signed.pdf");
         QVERIFY(result.size() > original.size() && result.substr(0, original.size()) == original);
+    }
+
+    void guardsCertifiedDocuments()
+    {
+        const std::string original = put("certified.pdf", signedDocument("/Perms << /DocMDP 9 0 R >>"));
+        for (const char* allowed : {"refuse", "append"}) {
+            const ProgramRun refused =
+                apply({"--signed", allowed, "-o", "out", "--report", "report", "certified.pdf"});
+            QCOMPARE(refused.status, 1);
+            QVERIFY2(reasonFor(refused.err, "certified.pdf").startsWith("it is certified"), refused.err);
+            QVERIFY(reasonFor(refused.err, "certified.pdf").contains("--signed append-certified"));
+            QVERIFY(!fs::exists("out/certified.pdf"));
+        }
+        put("plain.pdf");
+        const ProgramRun appended = apply({"--signed", "append-certified", "-o", "out", "--report", "report",
+                                           "certified.pdf", "plain.pdf"});
+        QCOMPARE(appended.err, QByteArray());
+        const std::string result = WorkFolder::contentOf("out/certified.pdf");
+        QVERIFY(result.size() > original.size() && result.starts_with(original));
+        QVERIFY(report()[0].value("certified").toBool());
+        QVERIFY(!report()[1].contains("certified"));
     }
 
     void appendsOrRefuses_data()
