@@ -1,5 +1,6 @@
 #include "engine/boundary/Operations.h"
 #include "engine/boundary/Session.h"
+#include "pdflibrary/ViewNumbers.h"
 #include "support/EngineErrors.h"
 #include "support/PdfBuilder.h"
 #include "support/Rows.h"
@@ -73,6 +74,13 @@ Setter destination(int page, int zoom, int type, double left = 0, double top = l
 Setter preference(int option, int value)
 {
     return [=](Session& session) { return SetViewerPreferences(session, option, value); };
+}
+
+Setter destinationZoom(double percent)
+{
+    return [=](Session& session) {
+        return SetDestValue(session, GetOpenActionDestination(session), pdflibrary::DestinationZoom, percent);
+    };
 }
 
 Setter pageMode(int mode)
@@ -195,6 +203,36 @@ private slots:
             "<< /HideMenubar true >>");
         row("missing preferences", "/ViewerPreferences 90 0 R", preference(2, 1), "/ViewerPreferences",
             "<< /HideMenubar true >>");
+        row("no mode", "/PageMode /UseOC", pageMode(6), "/PageMode", "null");
+        row("no mode where there is none", "", pageMode(6), "/PageMode");
+        row("no mode for a wrong one", "/PageMode 7", pageMode(6), "/PageMode", "null");
+        row("preference removed", "/ViewerPreferences << /Foo 1 /FitWindow true >>", preference(4, -1),
+            "/ViewerPreferences", "<< /Foo 1 >>");
+        row("last preference removed", "/ViewerPreferences << /NumCopies 2 >>", preference(12, -1),
+            "/ViewerPreferences", "<< >>");
+        row("wrong preference removed", "/ViewerPreferences << /NumCopies -2 >>", preference(12, -1),
+            "/ViewerPreferences", "<< >>");
+        row("none to remove", "/ViewerPreferences << /FitWindow true >>", preference(12, -1),
+            "/ViewerPreferences");
+        row("no preferences to remove from", "/ViewerPreferences (none)", preference(4, -1),
+            "/ViewerPreferences");
+        row("left to right, which is the default", "", preference(8, 0), "/ViewerPreferences",
+            "<< /Direction /L2R >>");
+        row("copies", "/ViewerPreferences << /NumCopies (2) >>", preference(12, 2), "/ViewerPreferences",
+            "<< /NumCopies 2 >>");
+        row("zoom of an array", "/OpenAction [3 0 R /XYZ null 20 0]", destinationZoom(8.33), "/OpenAction",
+            "[ 3 0 R /XYZ null 20 0.0833 ]");
+        row("same zoom", "/OpenAction [3 0 R /XYZ 1 2 0.0833]", destinationZoom(8.33), "/OpenAction");
+        row("zoom of a rectangle", "/OpenAction [3 0 R /FitR 1 2 3 4]", destinationZoom(50), "/OpenAction",
+            "[ 3 0 R /XYZ 1 4 0.5 ]");
+        row("zoom of a short array", "/OpenAction [0]", destinationZoom(50), "/OpenAction",
+            "[ 0 /XYZ null null 0.5 ]");
+        row("zoom of an action",
+            "/OpenAction << /S /GoTo /D [3 0 R /XYZ 1 2 3] /SD [3 0 R] /Next << /S /Named >> >>",
+            destinationZoom(100), "/OpenAction",
+            "<< /D [ 3 0 R /XYZ 1 2 1 ] /Next << /S /Named >> /S /GoTo >>");
+        row("zoom of a name", "/OpenAction /there /Dests << /there [4 0 R /XYZ 1 2 3] >>",
+            destinationZoom(50), "/OpenAction", "[ 4 0 R /XYZ 1 2 0.5 ]");
     }
 
     void changesOnlyWhatDiffers()
@@ -393,13 +431,15 @@ private slots:
         const double nan = std::nan("");
         const ErrorCode bad = ErrorCode::BadArgument;
         row("mode -1", pageMode(-1), bad);
-        row("mode 6", pageMode(6), bad);
+        row("mode 7", pageMode(7), bad);
         row("layout -1", pageLayout(-1), bad);
         row("layout 7", pageLayout(7), bad);
         row("preference 0", preference(0, 1), bad);
-        row("preference 8", preference(8, 1), bad);
+        row("preference 13", preference(13, 1), bad);
+        row("preference 101", preference(101, 1), bad);
+        row("no copies", preference(12, 0), bad);
         row("preference value 2", preference(1, 2), bad);
-        row("preference value -1", preference(6, -1), bad);
+        row("preference value -2", preference(6, -2), bad);
         row("full screen outside full screen", preference(7, 3), bad);
         row("mode 6 outside full screen", preference(7, 6), bad);
         row("page 0", destination(0, 0, 2), ErrorCode::UnknownPage);
@@ -409,7 +449,18 @@ private slots:
         row("negative zoom", destination(1, -5, 1), bad);
         row("left no number", destination(1, 0, 1, nan), bad);
         row("top infinite", destination(1, 0, 1, 0, HUGE_VAL), bad);
-        row("read preference 8", Setter([](Session& s) { return int(GetViewerPreferences(s, 8)); }), bad);
+        for (const int option : {13, 100, 113, -1})
+            row(QString("read preference %1").arg(option),
+                Setter([=](Session& s) { return GetViewerPreferences(s, option); }), bad);
+        row("another action", Setter([](Session& s) { return int(GetActionType(s, 1).size()); }), bad);
+        row("zoom of what has none", destinationZoom(50), bad);
+        row("left", Setter([](Session& s) { return SetDestValue(s, 1, 1, 5); }), bad);
+        row("unknown catalog entry",
+            Setter([](Session& s) { return SetCatalogInformation(s, L"Pages", L"x"); }),
+            ErrorCode::NotAvailable);
+        row("name in the catalog",
+            Setter([](Session& s) { return SetCatalogInformation(s, L"PageMode", L"x"); }),
+            ErrorCode::NotAvailable);
         row("destination 0", Setter([](Session& s) { return int(GetDestPage(s, 0)); }),
             ErrorCode::UnknownDestination);
         row("destination 7", Setter([](Session& s) { return int(GetDestType(s, 7)); }),
@@ -447,6 +498,52 @@ private slots:
         Opened without(document(""));
         QCOMPARE(RemoveOpenAction(without.session), 1);
         QCOMPARE(without.changed(), QByteArray());
+    }
+
+    void tellsWhatTheOpenActionIs_data()
+    {
+        const Rows<std::string, std::wstring> row;
+        row("none", "", L"");
+        row("missing", "/OpenAction 90 0 R", L"");
+        row("destination", "/OpenAction [3 0 R /Fit]", L"GoTo");
+        row("destination of no page", "/OpenAction [90 0 R /Fit]", L"GoTo");
+        row("names", "/OpenAction /there", L"GoTo");
+        row("string", "/OpenAction (there)", L"GoTo");
+        for (const char* type : {"GoTo", "JavaScript", "URI", "Named", "GoToR", "Launch"})
+            row(type, std::string("/OpenAction << /S /") + type + " >>", QString(type).toStdWString());
+        row("no action", "/OpenAction << /D [3 0 R /Fit] >>", L"Unknown");
+        row("number", "/OpenAction 5", L"Unknown");
+    }
+
+    void tellsWhatTheOpenActionIs()
+    {
+        const auto [entries, type] = Rows<std::string, std::wstring>::current();
+        Opened opened(document(entries));
+        QCOMPARE(GetActionType(opened.session, 0), type);
+    }
+
+    void tellsWhatIsMissingFromWhatSaysNo()
+    {
+        Opened opened(document("/PageMode /UseNone /Lang (de) /ViewerPreferences << /FitWindow false "
+                               "/CenterWindow 1 /Direction /R2L /NumCopies 0 >>"));
+        QByteArrayList found;
+        for (int option = 1; option <= 12; ++option)
+            found << QByteArray::number(GetViewerPreferences(opened.session, 100 + option));
+        QCOMPARE(found.join(' '), QByteArray("-1 -1 -1 0 -1 -1 -1 1 -1 -1 -1 -1"));
+        QCOMPARE(GetCatalogInformation(opened.session, L"PageMode"), std::wstring(L"UseNone"));
+        QCOMPARE(GetCatalogInformation(opened.session, L"Lang"), std::wstring(L"de"));
+        QCOMPARE(GetCatalogInformation(opened.session, L"PageLayout"), std::wstring());
+    }
+
+    void keepsTheIdOfAMagnifiedDestination()
+    {
+        Opened opened(document("/OpenAction [3 0 R /XYZ 1 2 3]"));
+        const int id = GetOpenActionDestination(opened.session);
+        destinationZoom(33.3)(opened.session);
+        QCOMPARE(GetDestValue(opened.session, id, 5), 33.3);
+        QCOMPARE(GetOpenActionDestination(opened.session), id);
+        destination(2, 0, 1)(opened.session);
+        QVERIFY_EXCEPTION_THROWN(SetDestValue(opened.session, id, 5, 50), EngineError);
     }
 
     void keepsDestinationIdsWhileTheirDocumentIsOpen()
