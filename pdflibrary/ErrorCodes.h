@@ -37,7 +37,8 @@ enum class ErrorCode : int {
     WrongPassword = 43,
     UnsupportedEncryption = 44,
     TooComplex = 45,
-    MetadataUnreadable = 46,
+    TooMuchWork = 46,
+    MetadataUnreadable = 47,
     NewestRevisionUncertain = 60,
     ObjectStreamsUnread = 61,
     EncryptionUncertain = 62,
@@ -84,6 +85,7 @@ inline constexpr std::array errorTexts{
     ErrorText{ErrorCode::WrongPassword,         "a password is needed, and the one given is not right"},
     ErrorText{ErrorCode::UnsupportedEncryption, "the document's encryption is not supported"},
     ErrorText{ErrorCode::TooComplex,            "the document is nested too deeply or refers to itself"},
+    ErrorText{ErrorCode::TooMuchWork,           "the document needs far more work than its size explains"},
     ErrorText{ErrorCode::MetadataUnreadable,    "its XMP metadata cannot be read"},
     ErrorText{ErrorCode::NewestRevisionUncertain, "its cross-reference or its end is damaged, and it is uncertain which of its revisions is the newest"},
     ErrorText{ErrorCode::ObjectStreamsUnread,   "its cross-reference is damaged, and objects in its object streams would be overlooked"},
@@ -135,6 +137,9 @@ enum SecurityItem {
     UnsavedChanges = 103,
     /// The code with which AppendToFile would refuse the document, 0 when it would not.
     AppendRefusal = 104,
+    /// 1 when the document is certified: its author allows no other changes than those that the certification
+    /// names, else 0.
+    Certification = 105,
 };
 
 } // namespace engine
