@@ -6,7 +6,7 @@
 #include "host/change/ViewValues.h"
 #include "host/program/HostApplication.h"
 #include "host/program/InstallLayout.h"
-#include "host/program/OpenDocument.h"
+#include "host/program/LoadedDocument.h"
 #include "host/program/PluginHost.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"
@@ -135,7 +135,7 @@ void ConfigureCommand::readDocument()
     if (m_documents.empty())
         return;
     const std::string& file = m_documents.front();
-    OpenDocument document(file, m_password);
+    LoadedDocument document(file, m_password);
     if (!m_source.file.empty())
         return;
     try {

@@ -7,7 +7,7 @@
 #include "host/change/ViewValues.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
-#include "host/program/OpenDocument.h"
+#include "host/program/LoadedDocument.h"
 #include "host/run/BatchRun.h"
 #include "host/run/EarlierReport.h"
 #include "host/run/Report.h"
@@ -97,7 +97,7 @@ std::vector<std::string> oddNumbers(const SettingsMap& settings)
 /// How a document opens, for others to open so.
 ViewChange viewOf(const std::string& file, const std::string& password)
 {
-    OpenDocument document(file, password);
+    LoadedDocument document(file, password);
     try {
         return PresentView(document.library()).asChange();
     } catch (const std::runtime_error& error) {

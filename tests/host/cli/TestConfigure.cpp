@@ -167,6 +167,23 @@ private slots:
         QCOMPARE(configure({path("a.pdf"), "--all"}, pressOk).out, said.out);
     }
 
+    // Whatever a document holds, the window does not change it by itself.
+    void leavesTheCorpusAlone()
+    {
+        const QString corpus = qEnvironmentVariable("QUINTAR_CORPUS");
+        if (corpus.isEmpty())
+            QSKIP("QUINTAR_CORPUS names no folder");
+        int shown = 0;
+        for (const QFileInfo& each : QDir(corpus).entryInfoList({"*.pdf"}, QDir::Files)) {
+            if (ProgramRun(PROGRAM_FILE, {"show", each.filePath()}).status != 0)
+                continue;
+            const CommandRun run = configure({each.filePath()}, pressOk);
+            QVERIFY2(run.status == 0 && run.out.isEmpty(), qPrintable(each.fileName() + ": " + run.out));
+            ++shown;
+        }
+        QVERIFY(shown > 0);
+    }
+
     void startsFromAFile_data()
     {
         const Rows<QStringList> row;
@@ -203,6 +220,12 @@ private slots:
         QCOMPARE(run.status, 0);
         QVERIFY2(!run.out.contains("PageLayout") && run.out.count("--set ") == 12, run.out);
         QVERIFY2(run.err.contains("PageLayoutComboBox is left out"), run.err);
+
+        putDocument("/OpenAction [ 4 0 R /XYZ 0 792 1.5 ]");
+        const CommandRun stored = configure({path("a.pdf"), "-o", path("out.tsf")}, pressOk);
+        QVERIFY2(stored.err.contains("MagnificationComboBox is left out"), stored.err);
+        const Map settings = this->stored("out.tsf", "ToolSettings").toMap();
+        QVERIFY(!settings.contains(key::Magnification) && settings.value(key::OpenToPage) == 2);
     }
 
     void doesNothingOnCancel()

@@ -7,11 +7,11 @@
 namespace host {
 
 /// A document that is open and selected in a library of its own for as long as the object lives.
-class OpenDocument
+class LoadedDocument
 {
 public:
     /// Throws UsageError with the file's name when it cannot be opened, std::runtime_error without a library.
-    OpenDocument(const std::string& file, const std::string& password);
+    LoadedDocument(const std::string& file, const std::string& password);
 
     TelvarPDFLibraryCPDylibCPP1311& library() { return m_library; }
 

@@ -1,4 +1,4 @@
-#include "OpenDocument.h"
+#include "LoadedDocument.h"
 
 #include "InstallLayout.h"
 
@@ -11,7 +11,7 @@
 
 namespace host {
 
-OpenDocument::OpenDocument(const std::string& file, const std::string& password)
+LoadedDocument::LoadedDocument(const std::string& file, const std::string& password)
     : m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
 {
     if (!m_library.LibraryLoaded())
