@@ -145,7 +145,7 @@ void ConfigureCommand::readDocument()
         throw UsageError(file + ": " + error.what());
     }
     for (const std::string& each : m_document->notes())
-        note(file + ": " + each);
+        note(std::string(file).append(": ").append(each));
     m_settings = m_document->map();
 }
 
