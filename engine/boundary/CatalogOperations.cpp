@@ -25,7 +25,7 @@ const CatalogEntry& entryOf(std::wstring_view name)
     for (const CatalogEntry& entry : entries)
         if (entry.key == key)
             return entry;
-    throw EngineError(ErrorCode::NotAvailable);
+    throw EngineError(ErrorCode::BadArgument);
 }
 
 QPDFObjectHandle stored(Document& document, const CatalogEntry& entry)
@@ -49,7 +49,7 @@ int SetCatalogInformation(Session& session, std::wstring_view key, std::wstring_
 {
     Document& document = session.document().document;
     const CatalogEntry& entry = entryOf(key);
-    require(entry.isText, ErrorCode::NotAvailable);
+    require(entry.isText, ErrorCode::BadArgument);
     const std::string text = utf8FromWide(value);
     QPDFObjectHandle present = stored(document, entry);
     const bool isThere =

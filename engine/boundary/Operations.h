@@ -66,7 +66,7 @@ std::wstring GetInformation(Session& session, int key);
 int SetInformation(Session& session, int key, std::wstring_view value);
 
 // CatalogOperations.cpp
-/// \param key "Lang", "PageMode", "PageLayout" or "Version"; others are not available.
+/// \param key "Lang", "PageMode", "PageLayout" or "Version".
 /// \returns the text or the name as it stands in the catalog; empty where it has none, or one of a wrong type.
 std::wstring GetCatalogInformation(Session& session, std::wstring_view key);
 /// \param key "Lang"; the names have operations of their own. \param value empty to remove the entry.

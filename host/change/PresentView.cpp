@@ -1,7 +1,5 @@
 #include "PresentView.h"
 
-#include "ViewerOptions.h"
-
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
@@ -101,8 +99,8 @@ ViewValue PresentView::zoom() const
 
 ViewValue PresentView::preference(int option) const
 {
-    const int value = m_library.GetViewerPreferences(vieweroption::AsWritten + option);
-    if (value == vieweroption::Absent)
+    const int value = m_library.GetViewerPreferences(pdflibrary::AsWritten + option);
+    if (value == pdflibrary::NoPreference)
         return Unset();
     return value;
 }

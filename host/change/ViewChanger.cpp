@@ -1,7 +1,6 @@
 #include "ViewChanger.h"
 
 #include "ViewValues.h"
-#include "ViewerOptions.h"
 #include "XmpTitle.h"
 
 #include "pdflibrary/ErrorCodes.h"
@@ -86,13 +85,13 @@ void ViewChanger::changeEntry(ViewEntry entry, const ViewValue& wanted)
 int ViewChanger::write(ViewEntry entry, const ViewValue& wanted)
 {
     if (entry == ViewEntry::PageMode)
-        return m_library.SetPageMode(numberOf(wanted, vieweroption::NoPageMode));
+        return m_library.SetPageMode(numberOf(wanted, pdflibrary::NoPageMode));
     if (entry == ViewEntry::PageLayout)
         return m_library.SetPageLayout(numberOf(wanted, pdflibrary::NoPageLayout));
     if (entry == ViewEntry::Lang)
         return m_library.SetCatalogInformation(L"Lang", wideText(wanted));
     return m_library.SetViewerPreferences(viewentries::describe(entry).preference,
-                                          numberOf(wanted, vieweroption::Absent));
+                                          numberOf(wanted, pdflibrary::NoPreference));
 }
 
 void ViewChanger::changeOpenAction()

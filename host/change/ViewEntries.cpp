@@ -1,6 +1,5 @@
 #include "ViewEntries.h"
 
-#include "ViewerOptions.h"
 #include "pdflibrary/ViewNumbers.h"
 
 #include <algorithm>
@@ -78,15 +77,15 @@ const std::array<Description, viewEntryCount> entries{{
     {ViewEntry::NonFullScreenPageMode, Kind::Name, "NonFullScreenPageMode", "non-full-screen-page-mode", "MODE",
      "the panel beside the page once full screen is left", "", pdflibrary::NonFullScreenMode, panels, true},
     {ViewEntry::Direction, Kind::Name, "Direction", "direction", "l2r|r2l|unset",
-     "the direction in which the document is read", "", vieweroption::Direction, directions, true},
+     "the direction in which the document is read", "", pdflibrary::Direction, directions, true},
     {ViewEntry::PrintScaling, Kind::Name, "PrintScaling", "print-scaling", "SCALING",
-     "how the print dialog scales pages", "", vieweroption::PrintScaling, scalings, true},
+     "how the print dialog scales pages", "", pdflibrary::PrintScaling, scalings, true},
     {ViewEntry::Duplex, Kind::Name, "Duplex", "duplex", "DUPLEX",
-     "how the print dialog uses the two sides of the paper", "", vieweroption::Duplex, duplexes, true},
+     "how the print dialog uses the two sides of the paper", "", pdflibrary::Duplex, duplexes, true},
     {ViewEntry::PickTrayByPDFSize, Kind::Flag, "PickTrayByPDFSize", "pick-tray-by-pdf-size", "FLAG",
-     "whether the page size selects the paper tray", "", vieweroption::PickTrayByPDFSize, {}, true},
+     "whether the page size selects the paper tray", "", pdflibrary::PickTrayByPDFSize, {}, true},
     {ViewEntry::NumCopies, Kind::Count, "NumCopies", "num-copies", "N|unset",
-     "the number of copies that the print dialog proposes", "", vieweroption::NumCopies, {}, true},
+     "the number of copies that the print dialog proposes", "", pdflibrary::NumCopies, {}, true},
     {ViewEntry::Title, Kind::Text, "title", "title", "TEXT",
      "the document's title", "in the information dictionary, and in XMP metadata where there is any; an empty one takes it away", 0, {}, false},
     {ViewEntry::Lang, Kind::Language, "lang", "lang", "TAG|unset",

@@ -131,7 +131,7 @@ Magnification magnificationOf(const QJsonObject& object)
     const QJsonValue percent = object.value("zoom");
     if (percent.isUndefined() || percent.isNull())
         return zoom;
-    zoom.percent = percent.toDouble();
+    zoom.percent = viewvalues::storedPercent(percent.toDouble());
     if (!(zoom.percent >= viewentries::lowestPercent && zoom.percent <= viewentries::highestPercent))
         refuse("zoom", percent, "a percentage from 1 to 6400, or null");
     if (zoom.type != Magnification().type)

@@ -10,6 +10,7 @@
 #include <array>
 #include <charconv>
 #include <climits>
+#include <cmath>
 
 namespace host::viewvalues {
 
@@ -87,7 +88,7 @@ Magnification magnification(const Description& entry, const std::string& word)
     // Written so that no number at all is refused as well.
     if (!percent || !(*percent >= viewentries::lowestPercent && *percent <= viewentries::highestPercent))
         refuse(entry, word);
-    return {viewentries::magnifications().front().number, *percent};
+    return {viewentries::magnifications().front().number, storedPercent(*percent)};
 }
 
 int nameNumber(const Description& entry, const std::string& word)
@@ -155,6 +156,11 @@ std::string wordOf(const Description& entry, int number)
 }
 
 } // namespace
+
+double storedPercent(double percent)
+{
+    return std::round(percent * 1e4) / 1e4;
+}
 
 const Name* nameOf(std::span<const Name> names, int number)
 {

@@ -8,6 +8,9 @@
 /// View values in the words of the command line.
 namespace host::viewvalues {
 
+/// A percentage as documents keep it: with four decimal places.
+double storedPercent(double percent);
+
 /// The value that a word gives an entry; a UsageError that names the choices for any other word. Names count
 /// in any case, and with or without hyphens.
 ViewValue parse(ViewEntry entry, const std::string& word);

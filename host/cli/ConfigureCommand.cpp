@@ -17,8 +17,8 @@
 
 #include "EditInitialView/InitialViewSettings.h"
 #include "shared/CActionInterface.h"
-#include "shared/lists/StoreReport.h"
-#include "shared/lists/StoredKeys.h"
+#include "shared/ini/StoreReport.h"
+#include "shared/ini/StoredKeys.h"
 
 #include <QApplication>
 

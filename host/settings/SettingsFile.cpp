@@ -4,7 +4,7 @@
 
 #include "EditInitialView/InitialViewSettings.h"
 #include "shared/ini/CIniFile.h"
-#include "shared/lists/StoredKeys.h"
+#include "shared/ini/StoredKeys.h"
 
 #include <algorithm>
 

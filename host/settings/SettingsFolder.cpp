@@ -6,7 +6,7 @@
 #include "host/terminal/UsageError.h"
 
 #include "shared/CUtils.h"
-#include "shared/lists/StoredKeys.h"
+#include "shared/ini/StoredKeys.h"
 
 #include <QFile>
 

@@ -8,9 +8,9 @@
 
 #include "EditInitialView/InitialViewSettings.h"
 #include "shared/ini/CIniFile.h"
+#include "shared/ini/StoreReport.h"
+#include "shared/ini/StoredKeys.h"
 #include "shared/ini/WholeFile.h"
-#include "shared/lists/StoreReport.h"
-#include "shared/lists/StoredKeys.h"
 
 #include <QJsonDocument>
 

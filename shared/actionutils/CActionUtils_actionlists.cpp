@@ -1,8 +1,8 @@
 #include "CActionUtils.h"
 
 #include "ini/CIniFile.h"
-#include "lists/StoreReport.h"
-#include "lists/StoredKeys.h"
+#include "ini/StoreReport.h"
+#include "ini/StoredKeys.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #include "CActionUtils.h"
 
-#include "ini/CIniFile.h"
 #include "CUtils.h"
+#include "ini/CIniFile.h"
 
 #include <QStandardPaths>
 

@@ -1,10 +1,10 @@
 #include "CActionHistoryAPI.h"
 
-#include "ini/CIniFile.h"
 #include "CatchAllProtocol.h"
-#include "StoreReport.h"
-#include "StoredKeys.h"
 #include "actionutils/CActionUtils.h"
+#include "ini/CIniFile.h"
+#include "ini/StoreReport.h"
+#include "ini/StoredKeys.h"
 
 #include <QFile>
 #include <QImage>

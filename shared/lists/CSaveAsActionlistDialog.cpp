@@ -1,8 +1,8 @@
 #include "CSaveAsActionlistDialog.h"
 
 #include "CTickedTabStop.h"
-#include "StoredKeys.h"
 #include "actionutils/CActionUtils.h"
+#include "ini/StoredKeys.h"
 
 #include <QKeyEvent>
 

@@ -1,9 +1,9 @@
 #include "CSaveAsCollectionDialog.h"
 
 #include "CActionHistoryAPI.h"
-#include "StoreReport.h"
-#include "StoredKeys.h"
 #include "ini/CIniFile.h"
+#include "ini/StoreReport.h"
+#include "ini/StoredKeys.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -87,6 +87,7 @@ private slots:
         row("zoom", "fit-visible", "fit-visible", R"({"openAction":{"type":"FitBH","zoom":null}})");
         row("zoom", "150%", "150%", R"({"openAction":{"type":"XYZ","zoom":150}})");
         row("zoom", "8.33%", "8.33%", R"({"openAction":{"type":"XYZ","zoom":8.33}})");
+        row("zoom", "8.33333%", "8.3333%", R"({"openAction":{"type":"XYZ","zoom":8.3333}})");
         row("zoom", "1", "1%", R"({"openAction":{"type":"XYZ","zoom":1}})");
         row("zoom", "6400%", "6400%", R"({"openAction":{"type":"XYZ","zoom":6400}})");
         const std::pair<const char*, const char*> flags[] = {{"hide-toolbar", "HideToolbar"},

@@ -10,7 +10,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QPen>
+#include <QPolygonF>
 #include <QPixmap>
 #include <QSettings>
 #include <QSignalSpy>
@@ -418,7 +418,7 @@ private slots:
     {
         const QString path = m_home.filePath("preset.tsf");
         QSettings(path, QSettings::IniFormat).setValue("a/b/c", QTransform(1, 2, 3, 4, 5, 6));
-        m_prefs["of the host"] = QPen(Qt::red);
+        m_prefs["of the host"] = QPolygonF({QPointF(1, 2)});
         CSaveAsCollectionDialog dialog(&m_parent);
         open(dialog, &m_prefs);
         person::namesFile(path);
