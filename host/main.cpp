@@ -2,6 +2,7 @@
 #include "cli/ListsCommand.h"
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
+#include "cli/UndoCommand.h"
 #include "host/options/HelpText.h"
 #include "host/program/HostApplication.h"
 #include "host/terminal/ExitStatus.h"
@@ -26,6 +27,7 @@ Commands allCommands()
 {
     Commands commands;
     commands.push_back(std::make_unique<host::RunCommand>());
+    commands.push_back(std::make_unique<host::UndoCommand>());
     commands.push_back(std::make_unique<host::ShowCommand>());
     commands.push_back(std::make_unique<host::ConfigureCommand>());
     commands.push_back(std::make_unique<host::ListsCommand>());

@@ -130,6 +130,7 @@ int RunCommand::work(const std::vector<std::string>& words)
         if (const std::string problem = SafeOutput::makeFolder(*m_outputFolder); !problem.empty())
             throw UsageError(problem);
     m_options.tellStates = m_reportFile.has_value();
+    m_options.tellChanges = m_reportFile.has_value() || !m_quiet;
     if (report) // may lie in the output folder
         report->begin();
     return BatchRun(plan, m_options, report ? &*report : nullptr, m_quiet, std::move(done)).run(m_limits);

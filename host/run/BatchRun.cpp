@@ -16,6 +16,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <functional>
 #include <set>
 #include <stdexcept>
 
@@ -27,14 +28,19 @@ namespace {
 class DocumentWorker : public Worker
 {
 public:
+    using Announce = std::function<void(std::size_t job, const DocumentResult& expected)>;
+
     DocumentWorker(const std::vector<DocumentJob>& jobs, CActionInterface& action,
-                   const std::string& libraryFile, const ProcessingOptions& options)
-        : m_jobs(jobs), m_processor(action, libraryFile, options)
+                   const std::string& libraryFile, const ProcessingOptions& options, Announce announce)
+        : m_jobs(jobs), m_processor(action, libraryFile, options), m_announce(std::move(announce))
     {}
 
     Answer answer(std::size_t job, WorkerSlot& slot) override
     {
-        const auto note = [&slot](const Placement& placement) { slot.note(placement.toRecord()); };
+        const auto note = [&](const Placement& placement) {
+            slot.note(placement.toRecord());
+            m_announce(job, placement.result());
+        };
         const DocumentResult result = m_processor.process(m_jobs[job], note);
         return {result.toRecord(), m_processor.isWornOut()};
     }
@@ -42,6 +48,7 @@ public:
 private:
     const std::vector<DocumentJob>& m_jobs;
     DocumentProcessor m_processor;
+    Announce m_announce;
 };
 
 void print(const std::string& text)
@@ -68,7 +75,7 @@ int BatchRun::run(const WorkerPool::Limits& limits)
     if (!library.LibraryLoaded())
         throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
 
-    if (!m_quiet && isatty(STDERR_FILENO) != 0)
+    if (!m_quiet && !m_options.dryRun && isatty(STDERR_FILENO) != 0)
         m_progress = std::make_unique<Progress>(STDERR_FILENO, m_plan.documents().size());
     planJobs();
     if (!m_options.dryRun)
@@ -117,11 +124,21 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
     WorkerPool pool(fitting, [&] {
         if (m_report != nullptr)
             m_report->leave();
-        return std::make_unique<DocumentWorker>(m_jobs, action, libraryFile, m_options);
+        return std::make_unique<DocumentWorker>(
+            m_jobs, action, libraryFile, m_options,
+            [this](std::size_t job, const DocumentResult& expected) { announce(job, expected); });
     });
     pool.run(
         m_jobs.size(), [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); }, stop);
     m_stopped = stop.count() > 0;
+}
+
+/// In place, where what was there before is gone with the rename.
+void BatchRun::announce(std::size_t job, const DocumentResult& expected)
+{
+    const RunPlan::Document& planned = m_plan.documents()[m_documentOfJob[job]];
+    if (m_report != nullptr && m_options.inPlace)
+        m_report->announce({planned.name, planned.target, expected});
 }
 
 void BatchRun::jobEnded(std::size_t job, const WorkOutcome& outcome)

@@ -38,6 +38,7 @@ private:
     void planJobs();
     void removeLeftovers() const;
     void runJobs(CActionInterface& action, const std::string& libraryFile, const WorkerPool::Limits& limits);
+    void announce(std::size_t job, const DocumentResult& expected);
     void jobEnded(std::size_t job, const WorkOutcome& outcome);
     void jobLost(std::size_t job, const WorkOutcome& outcome);
     void doneBefore(std::size_t document, const std::string& line);

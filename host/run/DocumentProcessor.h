@@ -3,6 +3,7 @@
 #include "DocumentJob.h"
 #include "Placement.h"
 #include "host/change/ViewChange.h"
+#include "host/change/ViewSnapshot.h"
 #include "host/settings/SettingsFile.h"
 
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
@@ -13,6 +14,7 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,7 +44,9 @@ struct ProcessingOptions
     bool dryRun = false;
     /// Every output is flushed to the disk before it takes its place.
     bool flush = false;
-    /// The result tells the states of the files, for a report.
+    /// The result tells what changes in how the document opens.
+    bool tellChanges = false;
+    /// The result tells the states of the files, for a report, and what it takes to undo a change in place.
     bool tellStates = false;
 };
 
@@ -75,8 +79,12 @@ private:
     void bracket(Bracket call);
     DocumentResult work(const DocumentJob& job);
     std::int64_t millisecondsTaken() const;
-    void tellStates(DocumentResult& result, const std::string& outputState) const;
+    void tellStates(DocumentResult& result, const struct stat& output) const;
+    std::string tellWhatStoodBefore(DocumentResult& result, int source) const;
     DocumentResult applyAndSave(const DocumentJob& job);
+    std::string apply(const std::string& file);
+    DocumentResult changed(Saved saved) const;
+    DocumentResult leave() const;
     bool applyEntries();
     std::string refusal();
     DocumentResult tryOut();
@@ -84,7 +92,8 @@ private:
     DocumentResult write(const DocumentJob& job);
     DocumentResult rewrite(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);
-    DocumentResult commit(SafeOutput& output, const DocumentJob& job, const DocumentResult& result);
+    DocumentResult commit(SafeOutput& output, const DocumentJob& job, DocumentResult result);
+    static DocumentResult sourceChanged();
     DocumentResult notAppended(int code);
     DocumentResult libraryFailure(const std::string& what = {});
 
@@ -92,6 +101,8 @@ private:
     const ProcessingOptions& m_options;
     TelvarPDFLibraryCPDylibCPP1311 m_library;
     CErrorHandler m_errors;
+    std::optional<ViewSnapshot> m_viewBefore;
+    std::optional<ViewSnapshot> m_viewAfter;
     struct stat m_original = {}; ///< The document's file before it was read.
     Clock::time_point m_begin;
     const BeforePlacement* m_beforePlacement = nullptr;

@@ -33,6 +33,8 @@ std::string RunSummary::lineFor(const std::string& name, const DocumentResult& r
     line += "  " + forTerminal(name);
     if (!result.reason.empty())
         line += ": " + forTerminal(result.reason);
+    if (!result.changes.empty())
+        line += ": " + forTerminal(result.changes);
     return line + "\n";
 }
 
