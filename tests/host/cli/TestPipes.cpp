@@ -37,8 +37,8 @@ private slots:
         const mode_t before = umask(027);
         const ProgramRun toFile = quintar({"-o", "new/out.pdf", "-", "--report", "report"}, original);
         umask(before);
-        QCOMPARE(toFile.out,
-                 QByteArray("changed (appended)  standard input\n1 changed, 0 unchanged, 0 failed\n"));
+        QCOMPARE(toFile.out, QByteArray("changed (appended)  standard input: page mode: unset -> "
+                                        "use-outlines\n1 changed, 0 unchanged, 0 failed\n"));
         QCOMPARE(QByteArray::fromStdString(WorkFolder::contentOf("new/out.pdf")), piped.out);
         struct stat status;
         QCOMPARE(stat(qPrintable(m_folder.path() + "/new/out.pdf"), &status), 0);
@@ -49,8 +49,8 @@ private slots:
         const ProgramRun unchanged = quintar({"-o", "-", "-"}, piped.out);
         QCOMPARE(unchanged.out, piped.out);
         const ProgramRun dry = quintar({"-n", "-o", "-", "-"}, original);
-        QCOMPARE(dry.out,
-                 QByteArray("would change  standard input\n1 would change, 0 unchanged, 0 failed\n"));
+        QCOMPARE(dry.out, QByteArray("would change  standard input: page mode: unset -> use-outlines\n1 "
+                                     "would change, 0 unchanged, 0 failed\n"));
     }
 
     void printsNothingOfWhatFailed()
