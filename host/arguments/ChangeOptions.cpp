@@ -4,15 +4,12 @@
 #include "host/change/PresentView.h"
 #include "host/change/ViewJson.h"
 #include "host/change/ViewValues.h"
-#include "host/program/InstallLayout.h"
+#include "host/program/LoadedDocument.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
-#include "pdflibrary/ErrorCodes.h"
-#include "pdflibrary/FileNameCodec.h"
-#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 
 namespace host {
 
@@ -40,13 +37,9 @@ std::vector<std::string> oddNumbers(const SettingsMap& settings)
 /// How a document opens, for others to open so.
 ViewChange viewOf(const std::string& file, const std::string& password)
 {
-    TelvarPDFLibraryCPDylibCPP1311 library(installlayout::toLibraryPath(installlayout::libraryFile()));
-    if (!library.LibraryLoaded())
-        throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
-    if (library.LoadFromFile(engine::wideFromFileName(file), engine::wideFromFileName(password)) == 0)
-        throw UsageError(file + ": " + std::string(engine::errorText(library.LastErrorCode())));
+    LoadedDocument document(file, password);
     try {
-        return PresentView(library).asChange();
+        return PresentView(document.library()).asChange();
     } catch (const std::runtime_error& error) {
         throw UsageError(file + ": " + error.what());
     }

@@ -59,15 +59,20 @@ std::string PresentView::openAction() const
     return type;
 }
 
+ViewChange PresentView::entries() const
+{
+    ViewChange view;
+    for (const viewentries::Description& each : viewentries::all())
+        if (each.entry != ViewEntry::Title && each.entry != ViewEntry::Lang)
+            view.set(each.entry, (*this)[each.entry]);
+    return view;
+}
+
 ViewChange PresentView::asChange() const
 {
-    ViewChange change;
     if (const std::string action = openAction(); !action.empty() && m_library.GetOpenActionDestination() == 0)
         throw std::runtime_error("it opens with an action (" + action + ") that cannot be given to others");
-    for (const viewentries::Description& each : viewentries::all())
-        if (each.entry != ViewEntry::Title &&
-            each.entry != ViewEntry::Lang) // which say nothing of other documents
-            change.set(each.entry, (*this)[each.entry]);
+    ViewChange change = entries();
     if (change[ViewEntry::OpenPage] == ViewValue(Unset()))
         change.remove(ViewEntry::Zoom);
     return change;

@@ -26,6 +26,9 @@ public:
     /// empty for none.
     std::string openAction() const;
 
+    /// Everything that says how a document opens: all entries but its title and language.
+    ViewChange entries() const;
+
     /// The change that makes any document open as this one does. Throws std::runtime_error also for a
     /// document whose open action cannot be given to others.
     ViewChange asChange() const;

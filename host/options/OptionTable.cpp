@@ -60,10 +60,13 @@ const std::vector<Option> optionRows{
     {"in-place", 0, "", "changes the documents in their own places",
      "one that needs no change is not touched",
      Nothing, {}, {Run}, Group::Target, common},
-    {"output", 'o', "FILE", "writes an action list, a favourite or tool settings",
-     "the suffix says which: .xqq, .ini, .tsf; where it is the file that the settings come from, the rest of "
-     "it stays",
-     Files, {"xqq", "ini", "tsf"}, {Configure}, Group::Target, common},
+    {"output", 'o', "FILE", "writes an action list, a favourite, tool settings or a view",
+     "the suffix says which: .xqq, .ini, .tsf, .json; where it is the file that the settings come from, the "
+     "rest of it stays",
+     Files, {"xqq", "ini", "tsf", "json"}, {Configure}, Group::Target, common},
+    {"all", 0, "", "of a document, takes everything that the window shows",
+     "as words of --set, or in a view; without it what was changed there",
+     Nothing, {}, {Configure}, Group::Target, common},
 
     {"password", 0, "P", "opens encrypted documents",
      "other users of the machine can see it in its list of processes",
@@ -156,8 +159,8 @@ const std::vector<Command> commandRows{
      true},
     {Configure, "configure", "make settings in a window", "[DOCUMENT]",
      "Shows the settings in a window. They start as the document opens now, or as the file has them; with "
-     "both, the file counts. OK prints them as words for \"quintar run\", or writes them to a file; Cancel "
-     "does nothing.",
+     "both, the file counts. OK prints words for \"quintar run\", for a document the view options that make "
+     "what was changed in the window, or writes a file; Cancel does nothing.",
      {{"quintar configure manual.pdf", "start as a document opens"},
       {"quintar configure --list \"Monthly reports\" -o reports.xqq", "store them as an action list"},
       {"quintar run $(quintar configure manual.pdf) -o changed/ manuals/", "run what is chosen"}},

@@ -47,12 +47,12 @@ std::string DocumentResult::toRecord() const
         .add(fileState)
         .add(outputState)
         .add(note)
+        .add(static_cast<std::int64_t>(certified))
         .add(stateBefore)
         .add(checksumBefore)
         .add(viewBefore)
         .add(viewAfter)
         .add(changes)
-        .add(static_cast<std::int64_t>(certified))
         .bytes();
 }
 
@@ -66,12 +66,12 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     result.fileState = reader.text();
     result.outputState = reader.text();
     result.note = reader.text();
+    result.certified = reader.number() != 0;
     result.stateBefore = reader.text();
     result.checksumBefore = reader.text();
     result.viewBefore = reader.text();
     result.viewAfter = reader.text();
     result.changes = reader.text();
-    result.certified = reader.number() != 0;
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);
     return reader.complete() && known ? std::optional(result) : std::nullopt;
