@@ -71,10 +71,12 @@ std::string ViewTable::line(const Cells& cells, const std::string& file) const
     }
     if (m_width == 0)
         return text + file + "\n";
+    if (m_width <= leastForName)
+        return textwidth::cutBegin(file, m_width) + "\n";
     const std::size_t taken = textwidth::of(text);
     if (m_width < taken + leastForName)
-        return textwidth::cutEnd(text, m_width - std::min(m_width, leastForName + 1)) + " " +
-               textwidth::cutBegin(file, std::min(m_width, leastForName)) + "\n";
+        return textwidth::cutEnd(text, m_width - leastForName - 1) + " " +
+               textwidth::cutBegin(file, leastForName) + "\n";
     return text + textwidth::cutBegin(file, m_width - taken) + "\n";
 }
 
