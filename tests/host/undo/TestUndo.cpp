@@ -218,7 +218,8 @@ private slots:
                                                                      << "3");
             QVERIFY(process.waitForStarted());
             const auto lines = [] { return ProgramRun::jsonLines(reportText("report")).size(); };
-            for (int wait = 0; wait < 2000 && lines() < round * 6 && process.state() == QProcess::Running;
+            for (int wait = 0; wait < 2000 && lines() < static_cast<std::size_t>(round) * 6 &&
+                               process.state() == QProcess::Running;
                  ++wait)
                 QTest::qWait(1);
             process.kill();
