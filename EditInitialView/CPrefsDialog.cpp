@@ -3,8 +3,8 @@
 #include "CElidedTextStyle.h"
 #include "InitialViewSettings.h"
 
-#include "shared/ini/CIniFile.h"
 #include "shared/CUtils.h"
+#include "shared/ini/CIniFile.h"
 #include "shared/lists/CSaveAsActionlistDialog.h"
 #include "shared/lists/CSaveAsCollectionDialog.h"
 

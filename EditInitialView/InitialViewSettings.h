@@ -69,6 +69,18 @@ inline constexpr std::array magnificationLabels{
     "75%",     "100%",     "200%",      "400%",       "800%",        "1600%",
 };
 
+/// The destination type of a magnification row.
+constexpr int destinationTypeOfRow(int row)
+{
+    return row <= 4 ? row + 1 : pdflibrary::Zoomed;
+}
+
+/// The zoom of a magnification row in percent, 0 for none.
+constexpr int zoomOfRow(int row)
+{
+    return row <= 4 ? 0 : row <= 7 ? (row - 4) * 25 : 100 << (row - 8);
+}
+
 using pdflibrary::titleLabels;
 
 inline constexpr int firstPage = 1;

@@ -8,24 +8,19 @@ set(QUINTAR_MODULE_DIR lib/quintar)
 set(QUINTAR_BUILD_BIN_DIR "${PROJECT_BINARY_DIR}/${QUINTAR_BIN_DIR}")
 set(QUINTAR_BUILD_MODULE_DIR "${PROJECT_BINARY_DIR}/${QUINTAR_MODULE_DIR}")
 
-# Beyond -Wall -Wextra, in the targets that ask for them.
-set(QUINTAR_STRICT_WARNINGS -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor
+set(QUINTAR_WARNINGS -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor
     -Woverloaded-virtual)
 
-# quintar_target(name [STRICT])
+# quintar_target(name)
 # Applies language level, warnings, visibility and sanitizers to a target.
 function(quintar_target name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "STRICT" "" "")
     target_compile_features(${name} PUBLIC cxx_std_20)
     set_target_properties(${name} PROPERTIES
         CXX_EXTENSIONS OFF
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
         POSITION_INDEPENDENT_CODE ON)
-    target_compile_options(${name} PRIVATE -Wall -Wextra $<$<BOOL:${QUINTAR_WERROR}>:-Werror>)
-    if(arg_STRICT)
-        target_compile_options(${name} PRIVATE ${QUINTAR_STRICT_WARNINGS})
-    endif()
+    target_compile_options(${name} PRIVATE ${QUINTAR_WARNINGS} $<$<BOOL:${QUINTAR_WERROR}>:-Werror>)
     # GCC 12 sees overlaps in inlined string additions that cannot be (its bug 105651).
     if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
         target_compile_options(${name} PRIVATE -Wno-restrict)

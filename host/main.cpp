@@ -1,7 +1,9 @@
+#include "cli/CheckCommand.h"
 #include "cli/ConfigureCommand.h"
 #include "cli/ListsCommand.h"
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
+#include "cli/UndoCommand.h"
 #include "host/options/HelpText.h"
 #include "host/program/HostApplication.h"
 #include "host/terminal/ExitStatus.h"
@@ -26,7 +28,9 @@ Commands allCommands()
 {
     Commands commands;
     commands.push_back(std::make_unique<host::RunCommand>());
+    commands.push_back(std::make_unique<host::UndoCommand>());
     commands.push_back(std::make_unique<host::ShowCommand>());
+    commands.push_back(std::make_unique<host::CheckCommand>());
     commands.push_back(std::make_unique<host::ConfigureCommand>());
     commands.push_back(std::make_unique<host::ListsCommand>());
     return commands;

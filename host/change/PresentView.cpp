@@ -1,9 +1,13 @@
 #include "PresentView.h"
 
+#include "XmpTitle.h"
+
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "pdflibrary/ViewNumbers.h"
+
+#include <QString>
 
 #include <stdexcept>
 
@@ -38,6 +42,16 @@ ViewValue PresentView::operator[](ViewEntry entry) const
     return value;
 }
 
+ViewValue PresentView::shownTitle() const
+{
+    const ViewValue title = (*this)[ViewEntry::Title];
+    if (title != ViewValue(Unset()))
+        return title;
+    // Metadata that cannot be read shows no title.
+    const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
+    return textValue(xmptitle::read(packet).value_or(QString()).toStdWString());
+}
+
 std::string PresentView::openAction() const
 {
     const std::string type = engine::fileNameFromWide(m_library.GetActionType(openAction0));
@@ -45,15 +59,20 @@ std::string PresentView::openAction() const
     return type;
 }
 
+ViewChange PresentView::entries() const
+{
+    ViewChange view;
+    for (const viewentries::Description& each : viewentries::all())
+        if (each.entry != ViewEntry::Title && each.entry != ViewEntry::Lang)
+            view.set(each.entry, (*this)[each.entry]);
+    return view;
+}
+
 ViewChange PresentView::asChange() const
 {
-    ViewChange change;
     if (const std::string action = openAction(); !action.empty() && m_library.GetOpenActionDestination() == 0)
         throw std::runtime_error("it opens with an action (" + action + ") that cannot be given to others");
-    for (const viewentries::Description& each : viewentries::all())
-        if (each.entry != ViewEntry::Title &&
-            each.entry != ViewEntry::Lang) // which say nothing of other documents
-            change.set(each.entry, (*this)[each.entry]);
+    ViewChange change = entries();
     if (change[ViewEntry::OpenPage] == ViewValue(Unset()))
         change.remove(ViewEntry::Zoom);
     return change;

@@ -19,9 +19,15 @@ public:
     /// page and its zoom. Throws std::runtime_error when the library cannot tell.
     ViewValue operator[](ViewEntry entry) const;
 
+    /// The title that a viewer finds: where the information dictionary has none, that of the XMP metadata.
+    ViewValue shownTitle() const;
+
     /// What kind of action the document opens with, as ISO 32000 names it ("GoTo" for destinations as well);
     /// empty for none.
     std::string openAction() const;
+
+    /// Everything that says how a document opens: all entries but its title and language.
+    ViewChange entries() const;
 
     /// The change that makes any document open as this one does. Throws std::runtime_error also for a
     /// document whose open action cannot be given to others.

@@ -192,8 +192,7 @@ void ViewChanger::changeTitle(const std::string& title)
 /// A viewer that is to show a title shows the file's name where there is none.
 void ViewChanger::noteMissingTitle()
 {
-    if (m_change[ViewEntry::DisplayDocTitle] == ViewValue(1) &&
-        m_present[ViewEntry::Title] == ViewValue(Unset()))
+    if (m_change[ViewEntry::DisplayDocTitle] == ViewValue(1) && m_present.shownTitle() == ViewValue(Unset()))
         m_notes.emplace_back("its title is to be shown, and it has none");
 }
 

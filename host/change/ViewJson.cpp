@@ -147,10 +147,13 @@ void parseOpenAction(const QJsonValue& value, ViewChange& change)
         refuse(openAction, value, "an object or null");
     const QJsonObject object = value.toObject();
     for (const QString& name : object.keys())
-        requireKnown(name, {"page", "type", "zoom", "name"});
+        requireKnown(name, {"page", "type", "zoom", "name", "action"});
+    if (const QJsonValue action = object.value("action");
+        !action.isUndefined() && action != QJsonValue("GoTo"))
+        refuse("the action of openAction", action, "GoTo; no other can be given to documents");
     if (object.contains("page"))
         change.set(ViewEntry::OpenPage, pageOf(object.value("page")));
-    else if (object.contains("name"))
+    else if (object.contains("name") || object.contains("action"))
         throw UsageError("openAction has no page; a named destination is given by its page");
     if (object.contains("type") || object.contains("zoom"))
         change.set(ViewEntry::Zoom, magnificationOf(object));
@@ -232,7 +235,8 @@ QJsonValue openActionOf(const ViewChange& change)
     }
     if (const auto& zoom = change[ViewEntry::Zoom]; zoom) {
         const auto& value = std::get<Magnification>(*zoom);
-        object.insert("type", viewvalues::nameOf(viewentries::magnifications(), value.type)->name);
+        const viewentries::Name* type = viewvalues::nameOf(viewentries::magnifications(), value.type);
+        object.insert("type", type != nullptr ? QJsonValue(type->name) : QJsonValue());
         object.insert("zoom", value.percent > 0 ? QJsonValue(value.percent) : QJsonValue());
     }
     return object;

@@ -1,7 +1,6 @@
 #include "Command.h"
 
-#include "OptionParser.h"
-
+#include "host/arguments/OptionParser.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardOutput.h"
 

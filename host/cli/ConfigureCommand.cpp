@@ -1,10 +1,11 @@
 #include "ConfigureCommand.h"
 
-#include "OptionParser.h"
-
-#include "host/files/FileDescriptor.h"
+#include "host/arguments/OptionParser.h"
+#include "host/change/PresentView.h"
+#include "host/change/ViewValues.h"
 #include "host/program/HostApplication.h"
 #include "host/program/InstallLayout.h"
+#include "host/program/LoadedDocument.h"
 #include "host/program/PluginHost.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"
@@ -14,9 +15,6 @@
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
-#include "pdflibrary/ErrorCodes.h"
-#include "pdflibrary/FileNameCodec.h"
-#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "shared/CActionInterface.h"
 #include "shared/ini/StoreReport.h"
 #include "shared/ini/StoredKeys.h"
@@ -36,11 +34,6 @@ using namespace storedkeys;
 const int mostEntries = 1 << 20;
 const int iconSide = 42;
 
-OptionParser::Take append(std::vector<std::string>& values)
-{
-    return [&values](const std::string& value) { values.push_back(value); };
-}
-
 /// The window's save buttons fail without a word.
 void noteMissingFolders()
 {
@@ -48,29 +41,6 @@ void noteMissingFolders()
         if (const std::string problem = folder.make(); !problem.empty())
             note(std::string("no ") + folder.kind() + " can be stored: " + problem);
 }
-
-/// The document, open in the library for as long as the object lives.
-class OpenDocument
-{
-public:
-    OpenDocument(const std::string& file, const std::string& password)
-        : m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
-    {
-        if (!m_library.LibraryLoaded())
-            throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
-        if (m_library.LoadFromFile(engine::wideFromFileName(file), engine::wideFromFileName(password)) == 0)
-            throw UsageError(file + ": " + std::string(engine::errorText(m_library.LastErrorCode())));
-    }
-
-    void lendTo(DialogLoadStruct& load)
-    {
-        load.pPDFLibrary = &m_library;
-        load.nDocumentID = m_library.SelectedDocument();
-    }
-
-private:
-    TelvarPDFLibraryCPDylibCPP1311 m_library;
-};
 
 /// The one of the action's images that stands out, as its dialog gives it to favourites.
 QImage iconOf(CActionInterface& action)
@@ -86,6 +56,7 @@ int ConfigureCommand::work(const std::vector<std::string>& words)
     m_documents = words;
     check();
     readSettings();
+    readDocument();
     if (showDialog())
         return deliver();
     complain("the window was closed without OK: no settings were " +
@@ -95,9 +66,9 @@ int ConfigureCommand::work(const std::vector<std::string>& words)
 
 void ConfigureCommand::takeOptions(OptionParser& parser)
 {
-    parser.takeValue("list", append(m_lists));
-    parser.takeValue("favorite", append(m_favorites));
-    parser.takeValue("tool-settings", append(m_toolSettings));
+    parser.takeValue("list", appendTo(m_lists));
+    parser.takeValue("favorite", appendTo(m_favorites));
+    parser.takeValue("tool-settings", appendTo(m_toolSettings));
     parser.takeValue("entry", [this](const std::string& value) {
         m_entry = numberOption("--entry", value, 1, mostEntries);
     });
@@ -106,6 +77,7 @@ void ConfigureCommand::takeOptions(OptionParser& parser)
             throw UsageError("-o is given twice");
         m_output.emplace(value);
     });
+    parser.takeFlag("all", m_all);
     parser.takeValue("password", [this](const std::string& value) { m_password = value; });
 }
 
@@ -151,11 +123,28 @@ void ConfigureCommand::chooseEntry(const StoredSettings& list)
     m_settings = chosen->settings;
 }
 
+/// A settings file counts before the document, which is to be readable all the same.
+void ConfigureCommand::readDocument()
+{
+    if (m_documents.empty())
+        return;
+    const std::string& file = m_documents.front();
+    LoadedDocument document(file, m_password);
+    if (!m_source.file.empty())
+        return;
+    try {
+        const PresentView present(document.library());
+        m_document.emplace(present.entries(), present.openAction());
+    } catch (const std::runtime_error& error) {
+        throw UsageError(file + ": " + error.what());
+    }
+    for (const std::string& each : m_document->notes())
+        note(std::string(file).append(": ").append(each));
+    m_settings = m_document->map();
+}
+
 bool ConfigureCommand::showDialog()
 {
-    std::optional<OpenDocument> document;
-    if (!m_documents.empty())
-        document.emplace(m_documents.front(), m_password);
     char program[] = "quintar";
     char* arguments[] = {program, nullptr};
     int count = 1;
@@ -167,9 +156,7 @@ bool ConfigureCommand::showDialog()
 
     DialogLoadStruct load{};
     load.pSettings = &m_settings;
-    load.bSkipDocumentRead = !m_source.file.empty();
-    if (document)
-        document->lendTo(load);
+    load.bSkipDocumentRead = true; // done above, with what the action passes over
     m_icon = iconOf(plugin.action());
     storereport::begin();
     const bool isAccepted = plugin.action().ShowDialogProc(nullptr, &load) == 1;
@@ -183,24 +170,66 @@ int ConfigureCommand::deliver()
     for (const char* request :
          {request::actionListName, request::actionListCategory, request::actionListOverwrite})
         m_settings.remove(request);
-    return m_output ? write() : print();
+    if (m_output && m_output->isView())
+        return writeView();
+    if (!m_output && m_document && !m_all)
+        return printChange();
+    leaveOutUnchosen();
+    return m_output ? write() : printSettings();
 }
 
-int ConfigureCommand::print() const
+void ConfigureCommand::leaveOutUnchosen()
+{
+    std::vector<std::string> leftOut;
+    setoption::wordsOf(m_settings, leftOut);
+    for (const std::string& key : leftOut) {
+        note(key + " is left out: no value is chosen");
+        m_settings.remove(QString::fromStdString(key));
+    }
+}
+
+int ConfigureCommand::printSettings() const
 {
     std::vector<std::string> leftOut;
     std::string line;
     for (const std::string& word : setoption::wordsOf(m_settings, leftOut))
         line += (line.empty() ? "--set " : " --set ") + word;
-    for (const std::string& key : leftOut)
-        note(key + " is left out: no value is chosen");
     printResult(line + "\n");
     return exitstatus::done;
 }
 
+int ConfigureCommand::printChange() const
+{
+    std::string line;
+    for (const std::string& word : viewvalues::optionsOf(m_document->changeTo(m_settings)))
+        line += (line.empty() ? "" : " ") + word;
+    if (line.empty())
+        note("nothing was changed in the window, so there is nothing to run");
+    else
+        printResult(line + "\n");
+    return exitstatus::done;
+}
+
+int ConfigureCommand::writeView() const
+{
+    const bool isChange = m_document && !m_all;
+    const ViewChange view = isChange ? m_document->changeTo(m_settings) : DialogSettings::viewOf(m_settings);
+    if (view.isEmpty()) {
+        complain(isChange ? "nothing was changed in the window: no view was written; --all takes everything "
+                            "that it shows"
+                          : "both groups of the window are off: no view was written");
+        return exitstatus::someFailed;
+    }
+    return tell(m_output->write(view));
+}
+
 int ConfigureCommand::write() const
 {
-    const SettingsOutput::Outcome outcome = m_output->write(m_settings, m_source, m_icon);
+    return tell(m_output->write(m_settings, m_source, m_icon));
+}
+
+int ConfigureCommand::tell(const SettingsOutput::Outcome& outcome)
+{
     complain(outcome.words);
     return outcome.isWritten ? exitstatus::done : exitstatus::someFailed;
 }

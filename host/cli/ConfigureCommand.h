@@ -2,6 +2,7 @@
 
 #include "Command.h"
 
+#include "host/settings/DialogSettings.h"
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsOutput.h"
 
@@ -26,10 +27,15 @@ private:
     void check() const;
     void readSettings();
     void chooseEntry(const StoredSettings& list);
+    void readDocument();
     bool showDialog();
     int deliver();
-    int print() const;
+    void leaveOutUnchosen();
+    int printSettings() const;
+    int printChange() const;
     int write() const;
+    int writeView() const;
+    static int tell(const SettingsOutput::Outcome& outcome);
 
     std::vector<std::string> m_documents;
     std::vector<std::string> m_lists;
@@ -37,8 +43,10 @@ private:
     std::vector<std::string> m_toolSettings;
     std::string m_password;
     int m_entry = 0; // 0 is none in particular
+    bool m_all = false;
     std::optional<SettingsOutput> m_output;
     SettingsOutput::Edit m_source;
+    std::optional<DialogSettings> m_document;
     SettingsMap m_settings;
     QImage m_icon;
 };

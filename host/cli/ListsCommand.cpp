@@ -1,7 +1,6 @@
 #include "ListsCommand.h"
 
-#include "OptionParser.h"
-
+#include "host/arguments/OptionParser.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/settings/SettingsWords.h"
 #include "host/terminal/ExitStatus.h"

@@ -2,9 +2,11 @@
 
 #include "Command.h"
 
-#include "host/change/ViewChange.h"
+#include "host/arguments/ChangeOptions.h"
+#include "host/arguments/DocumentOptions.h"
 #include "host/run/BatchRun.h"
 #include "host/run/DocumentProcessor.h"
+#include "host/run/StreamFiles.h"
 #include "host/workers/WorkerPool.h"
 
 #include <optional>
@@ -26,44 +28,37 @@ protected:
     int work(const std::vector<std::string>& words) override;
 
 private:
-    void takeViewOptions(OptionParser& parser);
-    /// What the view options ask for, in the order in which they count.
-    void readChange();
-    void readSettings();
-    void readPassword();
-    void readFileList();
+    void readOptions();
     void check() const;
-    bool changesView() const;
-    void warnOfSettingsWithoutEffect() const;
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
-    RunPlan plan() const;
+    RunPlan plan(const RunDestination& destination) const;
+    void begin(Report& report) const;
     /// What --resume leaves out.
     BatchRun::Done doneBefore(const RunPlan& plan) const;
     /// Whether --report and --resume name the same file.
     bool continuesReport() const;
 
+    /// Where the results go. Throws UsageError unless exactly one place is named.
+    RunDestination destination() const;
+    void checkStandardStreams() const;
+    bool hasStandardInput() const;
+    bool printsResult() const;
+    /// Standard input and output as files, where they are among documents and results.
+    void openStreams();
+    Tells tells() const;
+
     bool m_quiet = false;
-    bool m_nullSeparated = false;
-    std::vector<std::string> m_lists;
-    std::vector<std::string> m_favorites;
-    std::vector<std::string> m_toolSettings;
-    std::vector<std::string> m_settingWords;
-    std::optional<std::string> m_viewFile;
-    std::optional<std::string> m_model;
-    bool m_titleFromFileName = false;
-    bool m_titleIfMissing = false;
-    ViewChange m_change; ///< Of the options that each name an entry.
-    std::optional<std::string> m_outputFolder;
+    ChangeOptions m_changeOptions;
+    DocumentOptions m_documentOptions;
+    std::vector<std::string> m_words;
+    std::optional<std::string> m_output;
+    std::optional<std::string> m_suffix;
     std::optional<std::string> m_base;
-    std::optional<std::string> m_password;
-    std::optional<std::string> m_passwordFile;
-    std::optional<std::string> m_fileList;
     std::optional<std::string> m_reportFile;
     std::optional<std::string> m_resumedReport;
-    std::vector<std::string> m_filesRead; ///< Besides the documents.
-    std::vector<std::string> m_inputs;
     ProcessingOptions m_options;
+    std::optional<StreamFiles> m_streams;
     WorkerPool::Limits m_limits;
 };
 

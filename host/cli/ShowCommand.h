@@ -2,6 +2,9 @@
 
 #include "Command.h"
 
+#include "host/arguments/DocumentOptions.h"
+#include "host/workers/WorkerPool.h"
+
 namespace host {
 
 /// "quintar show": tells how documents open.
@@ -16,7 +19,9 @@ protected:
 
 private:
     bool m_json = false;
-    std::string m_password;
+    bool m_table = false;
+    DocumentOptions m_documents;
+    WorkerPool::Limits m_limits;
 };
 
 } // namespace host

@@ -14,13 +14,9 @@ namespace host {
 
 namespace {
 
-std::string copyContent(const FileDescriptor& from, FileDescriptor& to)
+std::string copyContent(int from, std::uint64_t size, FileDescriptor& to)
 {
-    struct stat status;
-    if (fstat(from.get(), &status) != 0)
-        return "cannot be read: " + systemError(errno);
-    const filecopy::Outcome outcome =
-        filecopy::copyContent(from.get(), to.get(), static_cast<std::uint64_t>(status.st_size));
+    const filecopy::Outcome outcome = filecopy::copyContent(from, to.get(), size);
     switch (outcome.kind) {
     case filecopy::Outcome::ReadFailed:
         return "cannot be read: " + systemError(outcome.error);
@@ -39,12 +35,18 @@ std::string copyContent(const FileDescriptor& from, FileDescriptor& to)
 std::string copyFile(const std::string& source, const std::string& target)
 {
     const FileDescriptor from = openRegularFile(source);
-    if (!from.isOpen())
+    struct stat status;
+    if (!from.isOpen() || fstat(from.get(), &status) != 0)
         return "cannot be read: " + systemError(errno);
+    return copyBegin(from.get(), static_cast<std::uint64_t>(status.st_size), target);
+}
+
+std::string copyBegin(int source, std::uint64_t size, const std::string& target)
+{
     FileDescriptor to(::open(target.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
     if (!to.isOpen())
         return "cannot be written: " + systemError(errno);
-    std::string problem = copyContent(from, to);
+    std::string problem = copyContent(source, size, to);
     if (!problem.empty())
         unlink(target.c_str());
     return problem;

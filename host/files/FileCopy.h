@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace host {
@@ -8,5 +9,8 @@ namespace host {
 /// where the file system can, and holes stay holes. \returns empty, or the reason of the failure; a target
 /// that was begun is then removed.
 std::string copyFile(const std::string& source, const std::string& target);
+
+/// The same of the first `size` bytes of an open file.
+std::string copyBegin(int source, std::uint64_t size, const std::string& target);
 
 } // namespace host

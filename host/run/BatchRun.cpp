@@ -2,8 +2,7 @@
 
 #include "Placement.h"
 #include "Progress.h"
-#include "Report.h"
-#include "RunPlan.h"
+#include "StreamFiles.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
 #include "host/program/InstallLayout.h"
@@ -16,6 +15,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <functional>
 #include <set>
 #include <stdexcept>
 
@@ -27,14 +27,19 @@ namespace {
 class DocumentWorker : public Worker
 {
 public:
+    using Announce = std::function<void(std::size_t job, const DocumentResult& expected)>;
+
     DocumentWorker(const std::vector<DocumentJob>& jobs, CActionInterface& action,
-                   const std::string& libraryFile, const ProcessingOptions& options)
-        : m_jobs(jobs), m_processor(action, libraryFile, options)
+                   const std::string& libraryFile, const ProcessingOptions& options, Announce announce)
+        : m_jobs(jobs), m_processor(action, libraryFile, options), m_announce(std::move(announce))
     {}
 
     Answer answer(std::size_t job, WorkerSlot& slot) override
     {
-        const auto note = [&slot](const Placement& placement) { slot.note(placement.toRecord()); };
+        const auto note = [&](const Placement& placement) {
+            slot.note(placement.toRecord());
+            m_announce(job, placement.result());
+        };
         const DocumentResult result = m_processor.process(m_jobs[job], note);
         return {result.toRecord(), m_processor.isWornOut()};
     }
@@ -42,7 +47,13 @@ public:
 private:
     const std::vector<DocumentJob>& m_jobs;
     DocumentProcessor m_processor;
+    Announce m_announce;
 };
+
+std::string shown(const std::string& name)
+{
+    return name == RunDestination::standardStream ? "standard input" : name;
+}
 
 void print(const std::string& text)
 {
@@ -51,10 +62,8 @@ void print(const std::string& text)
 
 } // namespace
 
-BatchRun::BatchRun(const RunPlan& plan, const ProcessingOptions& options, Report* report, bool quiet,
-                   Done done)
-    : m_plan(plan), m_options(options), m_report(report), m_quiet(quiet), m_done(std::move(done)),
-      m_ended(plan.documents().size(), false)
+BatchRun::BatchRun(const RunPlan& plan, const ProcessingOptions& options, Setup setup)
+    : m_plan(plan), m_options(options), m_setup(std::move(setup)), m_ended(plan.documents().size(), false)
 {}
 
 BatchRun::~BatchRun() = default;
@@ -68,7 +77,7 @@ int BatchRun::run(const WorkerPool::Limits& limits)
     if (!library.LibraryLoaded())
         throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
 
-    if (!m_quiet && isatty(STDERR_FILENO) != 0)
+    if (m_setup.tells >= Tells::Counts && !m_options.dryRun && isatty(STDERR_FILENO) != 0)
         m_progress = std::make_unique<Progress>(STDERR_FILENO, m_plan.documents().size());
     planJobs();
     if (!m_options.dryRun)
@@ -84,7 +93,7 @@ void BatchRun::planJobs()
     const std::vector<RunPlan::Document>& documents = m_plan.documents();
     for (std::size_t index = 0; index < documents.size(); ++index) {
         const RunPlan::Document& document = documents[index];
-        if (const auto done = m_done.find(index); done != m_done.end()) {
+        if (const auto done = m_setup.done.find(index); done != m_setup.done.end()) {
             doneBefore(index, done->second);
             continue;
         }
@@ -92,11 +101,19 @@ void BatchRun::planJobs()
             documentEnded(index, DocumentResult::failed(document.problem));
             continue;
         }
-        // In place, the library opens what links lead to: the file that is about to be replaced.
-        m_jobs.push_back({m_options.inPlace ? document.target : document.name, document.target,
-                          SafeOutput::temporaryNameFor(document.target)});
+        m_jobs.push_back(jobFor(document));
         m_documentOfJob.push_back(index);
     }
+}
+
+DocumentJob BatchRun::jobFor(const RunPlan::Document& document) const
+{
+    const bool isInput = document.name == RunDestination::standardStream;
+    const bool isOutput = document.target == RunDestination::standardStream;
+    const std::string target = isOutput ? m_setup.streams->result() : document.target;
+    // In place, the library opens what links lead to: the file that is about to be replaced.
+    const std::string& source = m_options.inPlace ? target : document.name;
+    return {isInput ? m_setup.streams->document() : source, target, SafeOutput::temporaryNameFor(target)};
 }
 
 void BatchRun::removeLeftovers() const
@@ -115,13 +132,23 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
         static_cast<int>(std::clamp<std::size_t>(m_jobs.size(), 1, static_cast<std::size_t>(limits.workers)));
     StopSignal stop;
     WorkerPool pool(fitting, [&] {
-        if (m_report != nullptr)
-            m_report->leave();
-        return std::make_unique<DocumentWorker>(m_jobs, action, libraryFile, m_options);
+        if (m_setup.report != nullptr)
+            m_setup.report->leave();
+        return std::make_unique<DocumentWorker>(
+            m_jobs, action, libraryFile, m_options,
+            [this](std::size_t job, const DocumentResult& expected) { announce(job, expected); });
     });
     pool.run(
         m_jobs.size(), [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); }, stop);
     m_stopped = stop.count() > 0;
+}
+
+/// In place, where what was there before is gone with the rename.
+void BatchRun::announce(std::size_t job, const DocumentResult& expected)
+{
+    const RunPlan::Document& planned = m_plan.documents()[m_documentOfJob[job]];
+    if (m_setup.report != nullptr && m_options.inPlace)
+        m_setup.report->announce({planned.name, planned.target, expected});
 }
 
 void BatchRun::jobEnded(std::size_t job, const WorkOutcome& outcome)
@@ -153,23 +180,31 @@ void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
 {
     const RunPlan::Document& planned = m_plan.documents()[document];
     m_ended[document] = true;
-    m_summary.add(document, planned.name, result);
-    if (m_report != nullptr)
-        m_report->add(document,
-                      Report::Line{planned.name,
-                                   result.status == Status::Failed ? std::string() : planned.target, result});
+    m_summary.add(document, shown(planned.name), result);
+    if (m_setup.report != nullptr)
+        m_setup.report->add(document, lineFor(planned, result));
     if (m_progress)
         m_progress->advance(result.status == Status::Failed);
-    else if (!m_quiet && result.status != Status::Failed)
-        print(RunSummary::lineFor(planned.name, result, m_options.dryRun));
+    else if (m_setup.tells >= Tells::Lines && result.status != Status::Failed)
+        print(RunSummary::lineFor(shown(planned.name), result, m_options.dryRun));
+}
+
+Report::Line BatchRun::lineFor(const RunPlan::Document& document, const DocumentResult& result) const
+{
+    if (result.status == Status::Failed)
+        return {document.name, {}, result};
+    Report::Line line{document.name, document.target, result};
+    if (!m_options.noteOnAll.empty())
+        line.result.note = m_options.noteOnAll + (result.note.empty() ? "" : "; ") + result.note;
+    return line;
 }
 
 void BatchRun::doneBefore(std::size_t document, const std::string& line)
 {
     m_ended[document] = true;
     m_summary.addDoneBefore();
-    if (m_report != nullptr)
-        m_report->add(document, line);
+    if (m_setup.report != nullptr)
+        m_setup.report->add(document, line);
     if (m_progress)
         m_progress->advance(false);
 }
@@ -179,22 +214,25 @@ void BatchRun::sumUp() const
     RunSummary summary = m_summary;
     for (std::size_t index = 0; index < m_ended.size(); ++index)
         if (!m_ended[index])
-            summary.addNotDone(m_plan.documents()[index].name);
-    printError(summary.failures());
-    if (!m_quiet)
+            summary.addNotDone(shown(m_plan.documents()[index].name));
+    printError(summary.failures() + (m_setup.tells >= Tells::Notes ? summary.notes() : "") +
+               summary.notDone());
+    if (m_setup.tells == Tells::Lines)
         print(summary.counts(m_options.dryRun));
-    if (m_report == nullptr)
+    else if (m_setup.tells == Tells::Counts)
+        printError(summary.counts(m_options.dryRun));
+    if (m_setup.report == nullptr)
         return;
-    m_report->flush();
-    if (!m_report->problem().empty())
-        complain(m_report->problem());
+    m_setup.report->flush();
+    if (!m_setup.report->problem().empty())
+        complain(m_setup.report->problem());
 }
 
 int BatchRun::exitStatus() const
 {
     if (m_stopped)
         return exitstatus::stopped;
-    const bool reportComplete = m_report == nullptr || m_report->problem().empty();
+    const bool reportComplete = m_setup.report == nullptr || m_setup.report->problem().empty();
     return m_summary.anyFailed() || !reportComplete ? exitstatus::someFailed : exitstatus::done;
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "DocumentProcessor.h"
+#include "Report.h"
+#include "RunPlan.h"
 #include "RunSummary.h"
 #include "host/workers/WorkerPool.h"
 
@@ -15,8 +17,15 @@ class CActionInterface;
 namespace host {
 
 class Progress;
-class Report;
-class RunPlan;
+class StreamFiles;
+
+/// What a run tells, each with all before it.
+enum class Tells {
+    Failures,
+    Notes,
+    Counts, ///< On standard error, as standard output has the report.
+    Lines,  ///< About each document, and the counts on standard output.
+};
 
 /// Works through a plan: gives the documents to worker processes, reports what became of each, and sums up.
 class BatchRun
@@ -25,10 +34,17 @@ public:
     /// What is done already, and the lines about it for the report, by the place in the plan.
     using Done = std::map<std::size_t, std::string>;
 
-    /// Everything lent must outlive the object. \param report null for none. \param quiet shows failures
-    /// only.
-    BatchRun(const RunPlan& plan, const ProcessingOptions& options, Report* report, bool quiet,
-             Done done = {});
+    struct Setup
+    {
+        Report* report = nullptr; ///< Null for none.
+        Tells tells = Tells::Lines;
+        /// Stands for "-" in the plan; null where there is none.
+        const StreamFiles* streams = nullptr;
+        Done done = {};
+    };
+
+    /// Everything lent must outlive the object.
+    BatchRun(const RunPlan& plan, const ProcessingOptions& options, Setup setup);
     ~BatchRun();
 
     /// \returns the exit status. Throws std::runtime_error when plug-in or library cannot be used.
@@ -36,20 +52,21 @@ public:
 
 private:
     void planJobs();
+    DocumentJob jobFor(const RunPlan::Document& document) const;
     void removeLeftovers() const;
     void runJobs(CActionInterface& action, const std::string& libraryFile, const WorkerPool::Limits& limits);
+    void announce(std::size_t job, const DocumentResult& expected);
     void jobEnded(std::size_t job, const WorkOutcome& outcome);
     void jobLost(std::size_t job, const WorkOutcome& outcome);
     void doneBefore(std::size_t document, const std::string& line);
+    Report::Line lineFor(const RunPlan::Document& document, const DocumentResult& result) const;
     void documentEnded(std::size_t document, const DocumentResult& result);
     void sumUp() const;
     int exitStatus() const;
 
     const RunPlan& m_plan;
     const ProcessingOptions& m_options;
-    Report* m_report;
-    bool m_quiet;
-    Done m_done;
+    Setup m_setup;
     std::vector<DocumentJob> m_jobs;
     /// The document that each job is about.
     std::vector<std::size_t> m_documentOfJob;

@@ -48,6 +48,11 @@ std::string DocumentResult::toRecord() const
         .add(outputState)
         .add(note)
         .add(static_cast<std::int64_t>(certified))
+        .add(stateBefore)
+        .add(checksumBefore)
+        .add(viewBefore)
+        .add(viewAfter)
+        .add(changes)
         .bytes();
 }
 
@@ -56,19 +61,20 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     RecordReader reader(record);
     const std::int64_t status = reader.number();
     const std::int64_t saved = reader.number();
-    std::string reason = reader.text();
-    const std::int64_t milliseconds = reader.number();
-    std::string fileState = reader.text();
-    std::string outputState = reader.text();
-    std::string note = reader.text();
-    const bool certified = reader.number() != 0;
+    DocumentResult result{static_cast<Status>(status), static_cast<Saved>(saved), reader.text()};
+    result.milliseconds = reader.number();
+    result.fileState = reader.text();
+    result.outputState = reader.text();
+    result.note = reader.text();
+    result.certified = reader.number() != 0;
+    result.stateBefore = reader.text();
+    result.checksumBefore = reader.text();
+    result.viewBefore = reader.text();
+    result.viewAfter = reader.text();
+    result.changes = reader.text();
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
                        saved <= static_cast<int>(Saved::Copied);
-    if (!reader.complete() || !known)
-        return std::nullopt;
-    return DocumentResult{
-        static_cast<Status>(status), static_cast<Saved>(saved), std::move(reason), milliseconds,
-        std::move(fileState),        std::move(outputState),    std::move(note),   certified};
+    return reader.complete() && known ? std::optional(result) : std::nullopt;
 }
 
 } // namespace host

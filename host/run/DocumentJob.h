@@ -30,7 +30,7 @@ struct DocumentResult
     Status status = Status::Failed;
     Saved saved = Saved::Not;
     /// Why it failed; UTF-8, may hold bytes of file names.
-    std::string reason;
+    std::string reason = {};
     std::int64_t milliseconds = 0;
     /// Of the document as it was read and of the output, see FileState.h; in place both are the document as
     /// it is now. Empty for a document that failed, and when nothing was to be written.
@@ -40,6 +40,15 @@ struct DocumentResult
     std::string note = {};
     /// The document carries a certification; false when it could not be read.
     bool certified = false;
+    /// Of a document that an update was appended to in place, with a report: its state before, and the
+    /// checksum (Checksum.h) of all that stood before the update. By these the update can be taken back.
+    std::string stateBefore = {};
+    std::string checksumBefore = {};
+    /// What changed in how the document opens: JSON objects with the entries that differ (ViewSnapshot.h), and
+    /// in words. Empty when nothing did, or it was not asked for.
+    std::string viewBefore = {};
+    std::string viewAfter = {};
+    std::string changes = {};
 
     static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;

@@ -2,15 +2,18 @@
 
 #include "FileState.h"
 #include "host/change/ViewChanger.h"
+#include "host/files/Checksum.h"
 #include "host/files/FileAttributes.h"
 #include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/SafeOutput.h"
 #include "host/program/InstallLayout.h"
+#include "host/settings/SettingsNotes.h"
 
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
-#include "shared/CActionInterface.h"
+
+#include <QJsonDocument>
 
 #include <sys/stat.h>
 
@@ -45,25 +48,11 @@ std::string whyNotAppended(int code)
 
 DocumentProcessor::DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
                                      const ProcessingOptions& options)
-    : m_action(action), m_options(options), m_library(installlayout::toLibraryPath(libraryFile))
+    : m_options(options), m_library(installlayout::toLibraryPath(libraryFile))
 {
     if (!m_library.LibraryLoaded())
         throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
-    bracket(&CActionInterface::PreSequenceProc);
-}
-
-DocumentProcessor::~DocumentProcessor()
-{
-    bracket(&CActionInterface::PostSequenceProc);
-}
-
-void DocumentProcessor::bracket(Bracket call)
-{
-    for (const ActionEntry& entry : m_options.entries) {
-        SettingsMap settings = entry.settings;
-        WorkProcInfoStruct info{&m_library, &m_errors, {}, &settings};
-        (m_action.*call)(&info);
-    }
+    m_sequence.emplace(action, m_library, m_options.entries);
 }
 
 DocumentResult DocumentProcessor::process(const DocumentJob& job, const BeforePlacement& beforePlacement)
@@ -100,45 +89,80 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     DocumentResult result = applyAndSave(job);
     result.certified = m_library.SecurityInfo(engine::Certification) != 0;
     m_library.RemoveDocument(document);
-    if (result.status != Status::Failed && !m_options.dryRun)
-        tellStates(result, stateOf(job.target));
     return result;
 }
 
-void DocumentProcessor::tellStates(DocumentResult& result, const std::string& outputState) const
+/// \param output the file that is, or is about to be, in the target's place.
+void DocumentProcessor::tellStates(DocumentResult& result, const struct stat& output) const
 {
-    if (!m_options.tellStates)
+    if (!m_options.tellStates || m_options.dryRun)
         return;
-    result.outputState = outputState;
-    result.fileState = m_options.inPlace ? outputState : stateOf(m_original);
+    result.outputState = stateOf(output);
+    result.fileState = m_options.inPlace ? result.outputState : stateOf(m_original);
+}
+
+/// What it takes to take an update back. \returns why that cannot be told; empty when all is well.
+std::string DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int source) const
+{
+    if (!m_options.tellStates || !m_options.inPlace || result.saved != Saved::Appended)
+        return {};
+    result.stateBefore = stateOf(m_original);
+    result.checksumBefore = checksumOf(source, m_original.st_size);
+    return result.checksumBefore.empty() ? systemError(errno) : std::string();
 }
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
-    m_errors.ClearAll();
-    if (!m_options.change.isEmpty()) {
-        if (const std::string reason = ViewChanger(m_library, m_options.change).apply(job.source);
-            !reason.empty())
-            return DocumentResult::failed(reason);
-    } else if (!applyEntries())
-        return DocumentResult::failed(m_errors.GetLast().toStdString());
+    if (m_options.tellChanges)
+        m_viewBefore.emplace(m_library);
+    if (const std::string reason = apply(job.source); !reason.empty())
+        return DocumentResult::failed(reason);
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
-        return m_options.inPlace || m_options.dryRun ? DocumentResult{Status::Unchanged, Saved::Not, {}, 0}
-                                                     : copy(job);
+        return m_options.inPlace || m_options.dryRun ? leave() : copy(job);
     if (std::string reason = refusal(); !reason.empty())
         return DocumentResult::failed(reason);
+    if (m_options.tellChanges)
+        m_viewAfter.emplace(m_library);
     return m_options.dryRun ? tryOut() : save(job);
 }
 
-bool DocumentProcessor::applyEntries()
+DocumentResult DocumentProcessor::leave() const
 {
-    for (const ActionEntry& entry : m_options.entries) {
-        SettingsMap settings = entry.settings;
-        WorkProcInfoStruct info{&m_library, &m_errors, {}, &settings};
-        if (m_action.WorkProc(&info) != 0)
-            return false;
+    DocumentResult result{Status::Unchanged};
+    result.note = notesWith({});
+    tellStates(result, m_original);
+    return result;
+}
+
+/// Makes the changes in memory. \returns why that is not possible; empty when all is well.
+std::string DocumentProcessor::apply(const std::string& file)
+{
+    m_notes.clear();
+    if (!m_options.change.isEmpty()) {
+        ViewChanger changer(m_library, m_options.change);
+        std::string reason = changer.apply(file);
+        m_notes = changer.notes();
+        return reason;
     }
-    return true;
+    if (std::string note = settingsnotes::aboutPage(m_options.entries, m_library.PageCount()); !note.empty())
+        m_notes.push_back(std::move(note));
+    return m_sequence->apply();
+}
+
+DocumentResult DocumentProcessor::changed(Saved saved) const
+{
+    DocumentResult result{Status::Changed, saved};
+    if (!m_options.tellChanges)
+        return result;
+    const auto compact = [](const QJsonObject& object) {
+        return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
+    };
+    result.changes = m_viewBefore->changeTo(*m_viewAfter);
+    if (result.changes.empty())
+        return result;
+    result.viewBefore = compact(m_viewBefore->unlike(*m_viewAfter));
+    result.viewAfter = compact(m_viewAfter->unlike(*m_viewBefore));
+    return result;
 }
 
 /// Why the document may not be changed; empty when it may.
@@ -167,7 +191,9 @@ DocumentResult DocumentProcessor::tryOut()
         return libraryFailure(notRewritten);
     if (code != 0 && !rewriting)
         return notAppended(code);
-    return {Status::Changed, Saved::Not, {}, 0};
+    DocumentResult result = changed(Saved::Not);
+    result.note = notesWith({});
+    return result;
 }
 
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
@@ -183,7 +209,7 @@ DocumentResult DocumentProcessor::write(const DocumentJob& job)
 {
     const std::wstring target = engine::wideFromFileName(job.temporary);
     if (m_library.AppendToFile(target) != 0)
-        return {Status::Changed, Saved::Appended, {}, 0};
+        return changed(Saved::Appended);
     const int code = m_library.LastErrorCode();
     if (m_options.rewrite && engine::cannotAppend(static_cast<engine::ErrorCode>(code)))
         return rewrite(job);
@@ -194,7 +220,7 @@ DocumentResult DocumentProcessor::rewrite(const DocumentJob& job)
 {
     if (m_library.SaveToFile(engine::wideFromFileName(job.temporary)) == 0)
         return libraryFailure(notRewritten);
-    return {Status::Changed, Saved::Rewritten, {}, 0};
+    return changed(Saved::Rewritten);
 }
 
 DocumentResult DocumentProcessor::copy(const DocumentJob& job)
@@ -203,39 +229,54 @@ DocumentResult DocumentProcessor::copy(const DocumentJob& job)
     std::string problem = SafeOutput::makeFolder(SafeOutput::folderOf(job.target));
     if (problem.empty())
         problem = copyFile(job.source, job.temporary);
-    return problem.empty() ? commit(output, job, {Status::Unchanged, Saved::Copied, {}, 0})
+    return problem.empty() ? commit(output, job, {Status::Unchanged, Saved::Copied})
                            : DocumentResult::failed(problem);
 }
 
 /// Puts the new file in its place, unless the document is no longer the one that was read.
-DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& job,
-                                         const DocumentResult& result)
+DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& job, DocumentResult result)
 {
     const FileDescriptor source = openRegularFile(job.source);
+    if (!source.isOpen())
+        return sourceChanged();
+    if (const std::string problem = tellWhatStoodBefore(result, source.get()); !problem.empty())
+        return DocumentResult::failed(problem);
     struct stat now;
-    if (!source.isOpen() || fstat(source.get(), &now) != 0 || !isSameState(now, m_original))
-        return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
+    if (fstat(source.get(), &now) != 0 || !isSameState(now, m_original))
+        return sourceChanged();
     const auto beforeRename = [&](const struct stat& finished, const std::string& note) {
-        DocumentResult placed = result;
-        placed.milliseconds = millisecondsTaken();
-        placed.note = note;
-        tellStates(placed, stateOf(finished));
-        (*m_beforePlacement)({placed, finished});
+        result.milliseconds = millisecondsTaken();
+        result.note = notesWith(note);
+        tellStates(result, finished);
+        (*m_beforePlacement)({result, finished});
     };
     const auto take = m_options.inPlace ? FileAttributes::Take::All : FileAttributes::Take::ForCopy;
-    const SafeOutput::Outcome outcome =
-        output.commit(FileAttributes(source.get(), take), m_options.flush, beforeRename);
+    const FileAttributes attributes =
+        m_options.keepsAttributes ? FileAttributes(source.get(), take) : FileAttributes::ofNewFile();
+    const SafeOutput::Outcome outcome = output.commit(attributes, m_options.flush, beforeRename);
     if (!outcome.problem.empty())
         return DocumentResult::failed(outcome.problem);
-    DocumentResult placed = result;
-    placed.note = outcome.note;
-    return placed;
+    result.note = notesWith(outcome.note);
+    return result;
+}
+
+std::string DocumentProcessor::notesWith(const std::string& further) const
+{
+    std::string text;
+    for (const std::string& note : m_notes)
+        text += (text.empty() ? "" : "; ") + note;
+    return text + (text.empty() || further.empty() ? "" : "; ") + further;
 }
 
 DocumentResult DocumentProcessor::notAppended(int code)
 {
     m_wornOut = m_wornOut || isCode(code, engine::ErrorCode::OutOfMemory);
     return DocumentResult::failed(whyNotAppended(code));
+}
+
+DocumentResult DocumentProcessor::sourceChanged()
+{
+    return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
 }
 
 DocumentResult DocumentProcessor::libraryFailure(const std::string& what)

@@ -1,23 +1,24 @@
 #pragma once
 
+#include "ActionSequence.h"
 #include "DocumentJob.h"
 #include "Placement.h"
 #include "host/change/ViewChange.h"
+#include "host/change/ViewSnapshot.h"
 #include "host/settings/SettingsFile.h"
 
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
-#include "shared/CErrorHandler.h"
 
 #include <sys/stat.h>
 
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
 class CActionInterface;
-struct WorkProcInfoStruct;
 
 namespace host {
 
@@ -42,7 +43,13 @@ struct ProcessingOptions
     bool dryRun = false;
     /// Every output is flushed to the disk before it takes its place.
     bool flush = false;
-    /// The result tells the states of the files, for a report.
+    /// The output gets the document's rights and attributes; else those of any new file.
+    bool keepsAttributes = true;
+    /// What the report notes on every document that does not fail.
+    std::string noteOnAll;
+    /// The result tells what changes in how the document opens.
+    bool tellChanges = false;
+    /// The result tells the states of the files, for a report, and what it takes to undo a change in place.
     bool tellStates = false;
 };
 
@@ -55,7 +62,6 @@ public:
     /// cannot be used.
     DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
                       const ProcessingOptions& options);
-    ~DocumentProcessor();
     DocumentProcessor(const DocumentProcessor&) = delete;
     DocumentProcessor& operator=(const DocumentProcessor&) = delete;
 
@@ -70,30 +76,35 @@ public:
 
 private:
     using Clock = std::chrono::steady_clock;
-    using Bracket = int (CActionInterface::*)(WorkProcInfoStruct*);
 
-    void bracket(Bracket call);
     DocumentResult work(const DocumentJob& job);
     std::int64_t millisecondsTaken() const;
-    void tellStates(DocumentResult& result, const std::string& outputState) const;
+    void tellStates(DocumentResult& result, const struct stat& output) const;
+    std::string tellWhatStoodBefore(DocumentResult& result, int source) const;
     DocumentResult applyAndSave(const DocumentJob& job);
-    bool applyEntries();
+    std::string apply(const std::string& file);
+    DocumentResult changed(Saved saved) const;
+    DocumentResult leave() const;
+    std::string notesWith(const std::string& further) const;
     std::string refusal();
     DocumentResult tryOut();
     DocumentResult save(const DocumentJob& job);
     DocumentResult write(const DocumentJob& job);
     DocumentResult rewrite(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);
-    DocumentResult commit(SafeOutput& output, const DocumentJob& job, const DocumentResult& result);
+    DocumentResult commit(SafeOutput& output, const DocumentJob& job, DocumentResult result);
+    static DocumentResult sourceChanged();
     DocumentResult notAppended(int code);
     DocumentResult libraryFailure(const std::string& what = {});
 
-    CActionInterface& m_action;
     const ProcessingOptions& m_options;
     TelvarPDFLibraryCPDylibCPP1311 m_library;
-    CErrorHandler m_errors;
+    std::optional<ActionSequence> m_sequence; ///< Once the library is known to work.
+    std::optional<ViewSnapshot> m_viewBefore;
+    std::optional<ViewSnapshot> m_viewAfter;
     struct stat m_original = {}; ///< The document's file before it was read.
     Clock::time_point m_begin;
+    std::vector<std::string> m_notes; ///< On the document that is worked on.
     const BeforePlacement* m_beforePlacement = nullptr;
     bool m_wornOut = false;
 };

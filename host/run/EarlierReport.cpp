@@ -1,14 +1,14 @@
 #include "EarlierReport.h"
 
 #include "FileState.h"
+#include "Report.h"
 #include "host/files/FileDescriptor.h"
+#include "host/files/LineReader.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/UsageError.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <unistd.h>
 
 #include <cerrno>
 #include <stdexcept>
@@ -16,9 +16,6 @@
 namespace host {
 
 namespace {
-
-const std::size_t longestLine = 1 << 20;
-const std::size_t readAtOnce = 64 << 10;
 
 bool isDone(const QJsonObject& object, const RunPlan::Document& document)
 {
@@ -44,30 +41,14 @@ EarlierReport::EarlierReport(const std::string& path, const RunPlan& plan) : m_p
     const FileDescriptor file = openRegularFile(path);
     if (!file.isOpen())
         refuse(systemError(errno));
-    std::string waiting;
-    std::size_t number = 1;
-    for (;;) {
-        const std::size_t before = waiting.size();
-        waiting.resize(before + readAtOnce);
-        const ssize_t count = ::read(file.get(), waiting.data() + before, readAtOnce);
-        waiting.resize(before + static_cast<std::size_t>(count > 0 ? count : 0));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            refuse(systemError(errno));
-        if (count == 0)
-            break;
-        std::size_t begin = 0;
-        for (std::size_t end = 0; (end = waiting.find('\n', begin)) != std::string::npos; begin = end + 1)
-            try {
-                takeLine(std::string_view(waiting).substr(begin, end + 1 - begin));
-                ++number;
-            } catch (const std::invalid_argument& problem) {
-                refuse("line " + std::to_string(number) + " " + problem.what());
-            }
-        waiting.erase(0, begin);
-        if (waiting.size() > longestLine)
-            refuse("line " + std::to_string(number) + " is too long");
+    LineReader lines(file.get(), Report::longestLine);
+    try {
+        while (const auto line = lines.next())
+            takeLine(*line);
+    } catch (const std::invalid_argument& problem) {
+        refuse("line " + std::to_string(lines.number()) + " " + problem.what());
+    } catch (const std::runtime_error& problem) {
+        refuse(problem.what());
     }
 }
 

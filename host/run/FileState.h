@@ -2,6 +2,9 @@
 
 #include <sys/stat.h>
 
+#include <cstdint>
+#include <ctime>
+#include <optional>
 #include <string>
 
 namespace host {
@@ -12,6 +15,16 @@ std::string stateOf(const struct stat& file);
 
 /// The same of the file at a path; empty when there is none.
 std::string stateOf(const std::string& path);
+
+/// What such a text tells.
+struct FileState
+{
+    std::int64_t size;    ///< In bytes.
+    struct timespec time; ///< Of the last change.
+
+    /// Nothing for any other text.
+    static std::optional<FileState> fromText(const std::string& text);
+};
 
 /// Whether two looks at a file saw the same one, unchanged.
 bool isSameState(const struct stat& one, const struct stat& other);

@@ -11,6 +11,7 @@ namespace host {
 namespace {
 
 const std::size_t longestNote = 1000;
+const std::size_t longestChanges = 2000;
 
 } // namespace
 
@@ -18,6 +19,8 @@ Placement::Placement(DocumentResult result, const struct stat& finished)
     : m_result(std::move(result)), m_finished(finished)
 {
     m_result.note.resize(std::min(m_result.note.size(), longestNote));
+    if (m_result.viewBefore.size() + m_result.viewAfter.size() + m_result.changes.size() > longestChanges)
+        m_result.viewBefore = m_result.viewAfter = m_result.changes = {};
 }
 
 std::string Placement::toRecord() const

@@ -1,8 +1,9 @@
 #include "Report.h"
 
 #include "host/terminal/JsonLine.h"
-#include "host/terminal/StandardError.h"
 #include "host/terminal/UsageError.h"
+
+#include <QJsonDocument>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -10,15 +11,23 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <stdexcept>
 #include <utility>
 
 namespace host {
 
 namespace {
 
+const char begun[] = "begun";
+
 QJsonValue textOrNull(const std::string& text)
 {
     return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
+}
+
+QJsonObject objectIn(const std::string& text)
+{
+    return QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
 }
 
 } // namespace
@@ -46,14 +55,18 @@ Report::~Report()
 
 void Report::open(int flags)
 {
-    const int access = m_start == Start::New ? O_WRONLY : O_RDWR | O_APPEND;
-    m_file = FileDescriptor(::open(m_path.c_str(), access | flags | O_CLOEXEC, 0666));
+    if (isStandardOutput()) {
+        m_file = FileDescriptor(fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0));
+        return;
+    }
+    const int access = m_start == Start::New ? O_WRONLY : O_RDWR;
+    m_file = FileDescriptor(::open(m_path.c_str(), access | O_APPEND | flags | O_CLOEXEC, 0666));
 }
 
 bool Report::isRegular() const
 {
     struct stat status;
-    return fstat(m_file.get(), &status) == 0 && S_ISREG(status.st_mode);
+    return !isStandardOutput() && fstat(m_file.get(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 void Report::lock()
@@ -66,8 +79,8 @@ void Report::lock()
     if (problem == EWOULDBLOCK || isGone)
         throw UsageError("the report " + m_path + " is being written by another run");
     if (problem != 0)
-        note("the report " + m_path + " cannot be locked (" + systemError(problem) +
-             "); no other run may write it meanwhile");
+        m_doubt = "the report " + m_path + " cannot be locked (" + systemError(problem) +
+                  "); no other run may write it meanwhile";
 }
 
 void Report::begin()
@@ -115,18 +128,38 @@ void Report::flush()
         write(line);
 }
 
+/// The lock belongs to what was opened before the fork, so the file is opened once more.
+void Report::leave()
+{
+    const FileDescriptor locked = std::move(m_file);
+    struct stat old;
+    struct stat now;
+    if (fstat(locked.get(), &old) != 0 || !S_ISREG(old.st_mode))
+        return;
+    FileDescriptor file(::open(m_path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC | O_NONBLOCK));
+    if (file.isOpen() && fstat(file.get(), &now) == 0 && now.st_dev == old.st_dev && now.st_ino == old.st_ino)
+        m_file = std::move(file);
+}
+
+void Report::announce(const Line& line)
+{
+    const std::string text = toJson(line, begun);
+    if (m_file.isOpen() && !writeAll(m_file.get(), text.data(), text.size()))
+        throw std::runtime_error("the report " + m_path + " cannot be written: " + systemError(errno));
+}
+
 void Report::write(const std::string& line)
 {
     if (m_problem.empty() && !writeAll(m_file.get(), line.data(), line.size()))
         m_problem = "the report " + m_path + " is incomplete: " + systemError(errno);
 }
 
-std::string Report::toJson(const Line& line)
+std::string Report::toJson(const Line& line, const char* status)
 {
     QJsonObject object;
     insertName(object, "file", line.file);
     insertName(object, "output", line.output);
-    object.insert("status", nameOf(line.result.status));
+    object.insert("status", status);
     object.insert("saved", textOrNull(nameOf(line.result.saved)));
     if (line.result.certified)
         object.insert("certified", true);
@@ -136,6 +169,13 @@ std::string Report::toJson(const Line& line)
     object.insert("milliseconds", static_cast<qint64>(line.result.milliseconds));
     object.insert("fileState", textOrNull(line.result.fileState));
     object.insert("outputState", textOrNull(line.result.outputState));
+    if (!line.result.stateBefore.empty())
+        object.insert("undo", QJsonObject{{"fileState", QString::fromStdString(line.result.stateBefore)},
+                                          {"sha256", QString::fromStdString(line.result.checksumBefore)}});
+    if (!line.result.viewBefore.empty()) {
+        object.insert("before", objectIn(line.result.viewBefore));
+        object.insert("after", objectIn(line.result.viewAfter));
+    }
     return jsonLine(object);
 }
 

@@ -9,19 +9,12 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
 #include <map>
 #include <utility>
 
 namespace host {
 
 namespace {
-
-/// The path without "." and "..", links not followed: a linked document keeps the place it is named by.
-std::filesystem::path absolutePath(const std::string& path)
-{
-    return std::filesystem::absolute(path).lexically_normal();
-}
 
 std::string withoutTrailingSlashes(std::string path)
 {
@@ -31,11 +24,6 @@ std::string withoutTrailingSlashes(std::string path)
 }
 
 } // namespace
-
-RunPlan::RunPlan(std::string outputFolder, const std::string& base)
-    : m_outputFolder(withoutTrailingSlashes(std::move(outputFolder))),
-      m_base(base.empty() ? std::string() : absolutePath(base).string())
-{}
 
 void RunPlan::add(const std::string& path)
 {
@@ -52,11 +40,20 @@ void RunPlan::add(const std::string& path)
         addDocument(path, path.substr(path.rfind('/') + 1), status);
 }
 
+void RunPlan::addStandardInput()
+{
+    const std::string& file = m_destination.onlyFile();
+    if (file.empty())
+        throw UsageError("a document from standard input goes to -o FILE.pdf or -o -");
+    m_documents.push_back(
+        {RunDestination::standardStream, m_destination.isStandardOutput() ? file : targetOf(file), {}});
+}
+
 void RunPlan::addDocument(const std::string& path, const std::string& pathBelowOutput,
                           const struct stat& status)
 {
-    const std::string& below = m_base.empty() ? pathBelowOutput : belowBase(path);
-    std::string target = targetOf(m_outputFolder.empty() ? path : m_outputFolder + "/" + below);
+    const std::string output = m_destination.pathFor(path, pathBelowOutput);
+    std::string target = m_destination.isStandardOutput() ? output : targetOf(output);
     m_inputs.try_emplace(idOf(status), m_documents.size());
     m_documents.push_back({path, std::move(target), {}});
 }
@@ -67,31 +64,17 @@ void RunPlan::addFolder(const std::string& folder)
     const std::string prefix = folder == "/" ? folder : folder + "/";
     FolderWalk walk(
         [&](const FolderWalk::Entry& entry) {
+            if (entry.status != nullptr && m_destination.isEarlierResult(prefix + entry.path))
+                return;
             if (entry.status != nullptr)
                 addDocument(prefix + entry.path, entry.path, *entry.status);
             else
                 m_documents.push_back({entry.path.empty() ? folder : prefix + entry.path, {}, entry.problem});
         },
-        [&](const struct stat& status) { return isOutputFolder(status); });
+        [&](const struct stat& status) { return m_destination.isResultFolder(status); });
     walk.walk(folder);
     if (m_documents.size() == before)
         m_emptyFolders.push_back(folder);
-}
-
-/// The outputs of an earlier run are not documents of this one.
-bool RunPlan::isOutputFolder(const struct stat& status) const
-{
-    struct stat output;
-    return !m_outputFolder.empty() && stat(m_outputFolder.c_str(), &output) == 0 &&
-           idOf(status) == idOf(output);
-}
-
-std::string RunPlan::belowBase(const std::string& path) const
-{
-    const std::filesystem::path below = absolutePath(path).lexically_relative(m_base);
-    if (below.empty() || *below.begin() == ".." || *below.begin() == ".")
-        throw UsageError(path + " does not lie below the folder " + m_base + " that --base names");
-    return below.string();
 }
 
 /// The path with all links resolved. Folders are resolved once: each takes a system call for every name in
@@ -118,6 +101,9 @@ std::string RunPlan::targetOf(const std::string& path)
 
 void RunPlan::checkTargets() const
 {
+    if (const std::string& file = m_destination.onlyFile(); !file.empty() && m_documents.size() > 1)
+        throw UsageError("-o " + file + " takes one document, not " + std::to_string(m_documents.size()) +
+                         "; name a folder for the results");
     std::map<std::string, const Document*> targets;
     for (const Document& document : m_documents) {
         if (!document.problem.empty())
@@ -127,13 +113,13 @@ void RunPlan::checkTargets() const
             throw UsageError(other->second->name + " and " + document.name + " would have the same output, " +
                              document.target);
     }
-    if (m_outputFolder.empty())
+    if (m_destination.isInPlace())
         return;
     for (const auto& [id, document] : m_existingOutputs)
         if (const auto input = m_inputs.find(id); input != m_inputs.end())
             throw UsageError("the output of " + m_documents[document].name +
                              " would overwrite the document " + m_documents[input->second].name +
-                             "; --in-place says that this is wanted");
+                             (input->second == document ? "; --in-place says that this is wanted" : ""));
 }
 
 void RunPlan::checkReport(const std::string& path, const std::vector<std::string>& filesRead) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RunDestination.h"
+
 #include <sys/stat.h>
 
 #include <map>
@@ -16,21 +18,20 @@ class RunPlan
 public:
     struct Document
     {
-        /// As the user knows it.
+        /// As the user knows it; "-" is standard input.
         std::string name;
-        /// Where the output lies; in place, what a symbolic link leads to.
+        /// Where the output lies; in place, what a symbolic link leads to. "-" is standard output.
         std::string target;
         /// Why it cannot be worked on, found out already; else empty.
         std::string problem;
     };
 
-    /// \param outputFolder the folder for the outputs; empty for work in place.
-    /// \param base the folder that outputs keep their documents' paths below; empty to keep the paths of
-    /// documents from folders only.
-    explicit RunPlan(std::string outputFolder, const std::string& base = {});
+    explicit RunPlan(RunDestination destination) : m_destination(std::move(destination)) {}
 
     /// Adds a document, or the documents in a folder.
     void add(const std::string& path);
+    /// Adds the document that comes from standard input. Throws UsageError when its result has no place.
+    void addStandardInput();
 
     /// Throws UsageError when two documents would have the same output, or an output would overwrite an
     /// input.
@@ -50,13 +51,10 @@ private:
 
     void addDocument(const std::string& path, const std::string& pathBelowOutput, const struct stat& status);
     void addFolder(const std::string& folder);
-    bool isOutputFolder(const struct stat& status) const;
-    std::string belowBase(const std::string& path) const;
     std::string targetOf(const std::string& path);
     static FileId idOf(const struct stat& status) { return {status.st_dev, status.st_ino}; }
 
-    std::string m_outputFolder;
-    std::string m_base; ///< Absolute.
+    RunDestination m_destination;
     std::vector<Document> m_documents;
     std::map<FileId, std::size_t> m_inputs;                        ///< The first document with each file.
     std::vector<std::pair<FileId, std::size_t>> m_existingOutputs; ///< With their documents.

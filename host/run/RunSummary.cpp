@@ -33,6 +33,8 @@ std::string RunSummary::lineFor(const std::string& name, const DocumentResult& r
     line += "  " + forTerminal(name);
     if (!result.reason.empty())
         line += ": " + forTerminal(result.reason);
+    if (!result.changes.empty())
+        line += ": " + forTerminal(result.changes);
     return line + "\n";
 }
 
@@ -41,12 +43,24 @@ std::string RunSummary::failures() const
     std::string text;
     for (const auto& [place, failure] : m_failures)
         text += "failed: " + forTerminal(failure.name) + ": " + forTerminal(failure.text) + "\n";
+    return text;
+}
+
+std::string RunSummary::notes() const
+{
+    std::string text;
     std::size_t told = 0;
     for (auto note = m_notes.begin(); note != m_notes.end() && told < mostNames; ++note, ++told)
         text += "note: " + forTerminal(note->second.name) + ": " + forTerminal(note->second.text) + "\n";
+    return text + further("note", m_notes.size());
+}
+
+std::string RunSummary::notDone() const
+{
+    std::string text;
     for (std::size_t index = 0; index < m_notDone.size() && index < mostNames; ++index)
         text += "not done: " + forTerminal(m_notDone[index]) + "\n";
-    return text + further("note", m_notes.size()) + further("not done", m_notDone.size());
+    return text + further("not done", m_notDone.size());
 }
 
 std::string RunSummary::counts(bool dryRun) const

@@ -25,9 +25,11 @@ public:
     /// One line about one document, for readers without a progress bar. Safe to print.
     static std::string lineFor(const std::string& name, const DocumentResult& result, bool dryRun);
 
-    /// Each failure with its file and reason, a line each, what is to be noted of other documents, and what
-    /// was not done. Safe to print.
+    /// Each failure with its file and reason, a line each. Safe to print, as are the others.
     std::string failures() const;
+    /// What is to be noted of other documents.
+    std::string notes() const;
+    std::string notDone() const;
     /// "3 changed, 1 unchanged, 0 failed", with a line feed.
     std::string counts(bool dryRun) const;
 

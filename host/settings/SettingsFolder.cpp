@@ -44,9 +44,9 @@ SettingsFolder SettingsFolder::favorites()
     return {CUtils::GetCollectionsFolder(), favorite::suffix, "favourite", settingsfile::describeFavorite};
 }
 
-SettingsFolder::SettingsFolder(const QString& path, const char* suffix, const char* kind, Describe describe)
+SettingsFolder::SettingsFolder(const QString& path, const char* suffix, const char* kind, Describe words)
     : m_path(QFile::encodeName(QString(path).replace("//", "/")).toStdString()), m_suffix(suffix),
-      m_kind(kind), m_describe(describe)
+      m_kind(kind), m_describe(words)
 {}
 
 std::string SettingsFolder::make() const

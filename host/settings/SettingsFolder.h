@@ -45,7 +45,7 @@ private:
     using FolderId = std::pair<dev_t, ino_t>;
     using Describe = StoredSettings (*)(const std::string& path);
 
-    SettingsFolder(const QString& path, const char* suffix, const char* kind, Describe describe);
+    SettingsFolder(const QString& path, const char* suffix, const char* kind, Describe words);
     bool collect(const std::string& below, std::set<FolderId>& seen, std::vector<std::string>& names) const;
     bool hasSuffix(const std::string& file) const;
     bool hasName(const std::string& file, const std::string& name) const;

@@ -1,5 +1,6 @@
 #include "SettingsOutput.h"
 
+#include "host/change/ViewJson.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/Links.h"
 #include "host/files/SafeOutput.h"
@@ -10,6 +11,8 @@
 #include "shared/ini/StoreReport.h"
 #include "shared/ini/StoredKeys.h"
 #include "shared/ini/WholeFile.h"
+
+#include <QJsonDocument>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -24,6 +27,7 @@ using namespace storedkeys;
 namespace {
 
 const std::string_view toolSettingsSuffix = ".tsf";
+const std::string_view viewSuffix = ".json";
 const char ownCategory[] = "Favorites"; // where the dialogs put a list without a category
 
 bool endsWith(std::string_view text, std::string_view end)
@@ -46,8 +50,10 @@ SettingsOutput::Kind SettingsOutput::kindOf(const std::string& path)
         return Kind::Favorite;
     if (endsWith(path, toolSettingsSuffix))
         return Kind::ToolSettings;
-    throw UsageError("-o takes a file that ends in .xqq (action list), .ini (favourite) or .tsf (tool "
-                     "settings), not " +
+    if (endsWith(path, viewSuffix))
+        return Kind::View;
+    throw UsageError("-o takes a file that ends in .xqq (action list), .ini (favourite), .tsf (tool "
+                     "settings) or .json (view), not " +
                      path);
 }
 
@@ -85,8 +91,22 @@ SettingsOutput::Outcome SettingsOutput::write(const SettingsMap& settings, const
     const QString replaced = edits ? ", whose other content stays" : storereport::inPlaceOf(path);
     CIniFile file(path, edits ? CIniFile::Access::Extend : CIniFile::Access::Replace);
     compose(file, settings, edits ? edit.entry : 0, icon);
-    if (!file.commit())
-        return {false, m_path + ": cannot be written: " + file.problem().toStdString()};
+    return outcome(replaced, file.commit() ? QString() : file.problem());
+}
+
+SettingsOutput::Outcome SettingsOutput::write(const ViewChange& view) const
+{
+    if (const std::string problem = folderProblem(); !problem.empty())
+        return {false, m_path + ": cannot be written: " + problem};
+    const QByteArray path = QByteArray::fromStdString(m_path);
+    const QString replaced = storereport::inPlaceOf(path);
+    return outcome(replaced, wholefile::replace(path, QJsonDocument(viewjson::write(view)).toJson()));
+}
+
+SettingsOutput::Outcome SettingsOutput::outcome(const QString& replaced, const QString& problem) const
+{
+    if (!problem.isEmpty())
+        return {false, m_path + ": cannot be written: " + problem.toStdString()};
     return {true, "stored: " + m_path + replaced.toStdString()};
 }
 

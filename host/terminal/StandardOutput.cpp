@@ -17,7 +17,7 @@ bool OutputError::readerHasGone() const
     return m_problem == EPIPE;
 }
 
-void printResult(const std::string& text)
+void printResult(std::string_view text)
 {
     if (!writeAll(STDOUT_FILENO, text.data(), text.size()))
         throw OutputError(errno);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <stdexcept>
-#include <string>
+#include <string_view>
 
 namespace host {
 
@@ -18,6 +18,6 @@ private:
 };
 
 /// Prints what a command was asked for on standard output. Throws OutputError.
-void printResult(const std::string& text);
+void printResult(std::string_view text);
 
 } // namespace host

@@ -1,17 +1,19 @@
 #include "OpeningView.h"
 
 #include "ViewWords.h"
+#include "host/change/PresentView.h"
+#include "host/change/ViewJson.h"
+#include "host/change/ViewValues.h"
 #include "host/terminal/TerminalText.h"
 
 #include "EditInitialView/InitialViewSettings.h"
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
+#include "pdflibrary/ViewerPreferences.h"
 
 #include <QJsonValue>
 #include <QLocale>
-
-#include <algorithm>
 
 namespace host {
 
@@ -26,34 +28,36 @@ using pdflibrary::PreferenceRow;
 
 const std::string unset = "not set in document";
 
-/// A name of the PDF without its slash; null where the table has none.
-template <class Table>
-const char* nameAt(const Table& table, int number)
-{
-    const char* name = labelAt(table, number, nullptr);
-    return name != nullptr && *name != '\0' ? name + 1 : nullptr;
-}
-
-QJsonValue nameInJson(const char* name)
-{
-    return name != nullptr ? QJsonValue(name) : QJsonValue();
-}
-
 /// What the dialog calls a setting.
 std::string labelOf(const char* key)
 {
     return initialview::findKey(key)->label;
 }
 
+int numberOf(const ViewValue& value, int absent)
+{
+    const int* number = std::get_if<int>(&value);
+    return number != nullptr ? *number : absent;
+}
+
+ViewEntry entryOf(const PreferenceRow& preference)
+{
+    for (const viewentries::Description& each : viewentries::all())
+        if (each.preference == preference.option)
+            return each.entry;
+    throw std::invalid_argument("a viewer preference that is no entry of the view");
+}
+
+/// One that the dialog has, or that means the same when it is missing.
 std::string preferenceInWords(const PreferenceRow& preference, int value)
 {
     return preference.valueLabels.empty() ? yesOrNo(value == 1)
                                           : labelAt(preference.valueLabels, value, "unknown");
 }
 
-QJsonValue preferenceInJson(const PreferenceRow& preference, int value)
+std::string inWordsOrUnset(ViewEntry entry, const ViewValue& value)
 {
-    return preference.names.empty() ? QJsonValue(value == 1) : nameInJson(nameAt(preference.names, value));
+    return std::holds_alternative<Unset>(value) ? unset : forTerminal(viewvalues::wordOf(entry, value));
 }
 
 std::string percent(double zoom)
@@ -61,33 +65,11 @@ std::string percent(double zoom)
     return QLocale::c().toString(zoom, 'g', 6).toStdString() + "%";
 }
 
-std::string magnificationInWords(const OpeningView::Destination& destination)
+std::string magnificationInWords(const Magnification& zoom)
 {
-    if (destination.type == pdflibrary::Zoomed && destination.zoom > 0)
-        return percent(destination.zoom);
-    return labelAt(initialview::magnificationLabels, destination.type - 1, "unknown");
-}
-
-std::string destinationInWords(const std::optional<OpeningView::Destination>& destination)
-{
-    if (!destination)
-        return line(labelOf(key::Magnification), unset) + line(labelOf(key::OpenToPage), unset);
-    const std::string name =
-        destination->name.empty() ? "" : " (named destination \"" + forTerminal(destination->name) + "\")";
-    return line(labelOf(key::Magnification), magnificationInWords(*destination)) +
-           line(labelOf(key::OpenToPage), std::to_string(destination->page) + name);
-}
-
-QJsonValue destinationToJson(const std::optional<OpeningView::Destination>& destination)
-{
-    if (!destination)
-        return {};
-    QJsonObject object{{"page", destination->page},
-                       {"type", nameInJson(nameAt(pdflibrary::destinationNames, destination->type))}};
-    object.insert("zoom", destination->zoom > 0 ? QJsonValue(destination->zoom) : QJsonValue());
-    object.insert("name", destination->name.empty() ? QJsonValue()
-                                                    : QJsonValue(QString::fromStdString(destination->name)));
-    return object;
+    if (zoom.type == pdflibrary::Zoomed && zoom.percent > 0)
+        return percent(zoom.percent);
+    return labelAt(initialview::magnificationLabels, zoom.type - 1, "unknown");
 }
 
 } // namespace
@@ -95,50 +77,92 @@ QJsonValue destinationToJson(const std::optional<OpeningView::Destination>& dest
 OpeningView OpeningView::read(TelvarPDFLibraryCPDylibCPP1311& library)
 {
     OpeningView view;
-    view.pageCount = library.PageCount();
-    view.signatures = library.SecurityInfo(engine::SignatureCount);
-    view.encrypted = library.EncryptionStatus() != engine::NotEncrypted;
-    view.pageMode = library.GetPageMode();
-    view.pageLayout = library.GetPageLayout();
-    if (const int id = library.GetOpenActionDestination(); id != 0)
-        view.destination = {library.GetDestType(id), library.GetDestPage(id),
-                            library.GetDestValue(id, pdflibrary::DestinationZoom),
-                            engine::fileNameFromWide(library.GetDestName(id))};
-    std::transform(pdflibrary::viewerPreferences.begin(), pdflibrary::viewerPreferences.end(),
-                   view.preferences.begin(),
-                   [&](const PreferenceRow& row) { return library.GetViewerPreferences(row.option); });
+    view.m_pageCount = library.PageCount();
+    view.m_signatures = library.SecurityInfo(engine::SignatureCount);
+    view.m_encrypted = library.EncryptionStatus() != engine::NotEncrypted;
+    const PresentView present(library);
+    for (const viewentries::Description& each : viewentries::all())
+        view.m_entries.set(each.entry, present[each.entry]);
+    view.m_entries.set(ViewEntry::Title, present.shownTitle());
+    view.m_action = present.openAction();
+    if (const int destination = library.GetOpenActionDestination(); destination != 0)
+        view.m_destinationName = engine::fileNameFromWide(library.GetDestName(destination));
+    else
+        view.m_entries.remove(ViewEntry::Zoom);
     return view;
+}
+
+std::string OpeningView::otherAction() const
+{
+    return (*this)[ViewEntry::OpenPage] == ViewValue(Unset()) ? m_action : std::string();
 }
 
 std::string OpeningView::inWords() const
 {
-    std::string text = line("Pages", std::to_string(pageCount));
-    if (encrypted)
+    const int mode = numberOf((*this)[ViewEntry::PageMode], pdflibrary::PageOnly);
+    const int layout = numberOf((*this)[ViewEntry::PageLayout], pdflibrary::NoPageLayout);
+    return factsInWords() +
+           line(labelOf(key::NavigationTab), labelAt(pdflibrary::pageModeLabels, mode, "unknown")) +
+           line(labelOf(key::PageLayout), labelAt(initialview::pageLayoutLabels, layout, "unknown")) +
+           openActionInWords() + preferencesInWords() +
+           line("Title", inWordsOrUnset(ViewEntry::Title, (*this)[ViewEntry::Title])) +
+           line("Language", inWordsOrUnset(ViewEntry::Lang, (*this)[ViewEntry::Lang]));
+}
+
+std::string OpeningView::factsInWords() const
+{
+    std::string text = line("Pages", std::to_string(m_pageCount));
+    if (m_encrypted)
         text += line("Encrypted", "yes");
-    if (signatures > 0)
-        text += line("Signatures", std::to_string(signatures));
-    text += line(labelOf(key::NavigationTab), labelAt(pdflibrary::pageModeLabels, pageMode, "unknown"));
-    text += line(labelOf(key::PageLayout), labelAt(initialview::pageLayoutLabels, pageLayout, "unknown"));
-    text += destinationInWords(destination);
-    for (std::size_t row = 0; row < preferences.size(); ++row)
-        text += line(pdflibrary::viewerPreferences[row].label,
-                     preferenceInWords(pdflibrary::viewerPreferences[row], preferences[row]));
+    if (m_signatures > 0)
+        text += line("Signatures", std::to_string(m_signatures));
+    return text;
+}
+
+std::string OpeningView::openActionInWords() const
+{
+    if (const std::string action = otherAction(); !action.empty())
+        return line("Open action", forTerminal(action) + ", no page of the document");
+    const ViewValue page = (*this)[ViewEntry::OpenPage];
+    if (page == ViewValue(Unset()))
+        return line(labelOf(key::Magnification), unset) + line(labelOf(key::OpenToPage), unset);
+    const std::string name =
+        m_destinationName.empty() ? "" : " (named destination \"" + forTerminal(m_destinationName) + "\")";
+    return line(labelOf(key::Magnification),
+                magnificationInWords(std::get<Magnification>((*this)[ViewEntry::Zoom]))) +
+           line(labelOf(key::OpenToPage), std::to_string(numberOf(page, 0)) + name);
+}
+
+std::string OpeningView::preferencesInWords() const
+{
+    std::string text;
+    for (const PreferenceRow& row : pdflibrary::viewerPreferences)
+        text += line(row.label, preferenceInWords(row, numberOf((*this)[entryOf(row)], 0)));
+    for (const PreferenceRow& row : pdflibrary::furtherPreferences)
+        text += line(row.label, inWordsOrUnset(entryOf(row), (*this)[entryOf(row)]));
     return text;
 }
 
 QJsonObject OpeningView::toJson() const
 {
-    QJsonObject settings;
-    for (std::size_t row = 0; row < preferences.size(); ++row)
-        settings.insert(pdflibrary::viewerPreferences[row].pdfName + 1,
-                        preferenceInJson(pdflibrary::viewerPreferences[row], preferences[row]));
-    return {{"pages", pageCount},
-            {"encrypted", encrypted},
-            {"signatures", signatures},
-            {"pageMode", nameInJson(nameAt(pdflibrary::pageModeNames, pageMode))},
-            {"pageLayout", nameInJson(nameAt(pdflibrary::pageLayoutNames, pageLayout))},
-            {"openAction", destinationToJson(destination)},
-            {"viewerPreferences", settings}};
+    QJsonObject object = viewjson::write(m_entries);
+    object.insert("pages", m_pageCount);
+    object.insert("encrypted", m_encrypted);
+    object.insert("signatures", m_signatures);
+    object.insert("openAction", openActionInJson(object.value("openAction")));
+    return object;
+}
+
+QJsonValue OpeningView::openActionInJson(const QJsonValue& destination) const
+{
+    if (const std::string action = otherAction(); !action.empty())
+        return QJsonObject{{"action", QString::fromStdString(action)}};
+    if (!destination.isObject())
+        return {};
+    QJsonObject object = destination.toObject();
+    object.insert("name", m_destinationName.empty() ? QJsonValue()
+                                                    : QJsonValue(QString::fromStdString(m_destinationName)));
+    return object;
 }
 
 } // namespace host

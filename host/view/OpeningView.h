@@ -1,47 +1,45 @@
 #pragma once
 
-#include "pdflibrary/ViewerPreferences.h"
+#include "host/change/ViewChange.h"
 
 #include <QJsonObject>
 
-#include <array>
-#include <optional>
 #include <string>
 
 class TelvarPDFLibraryCPDylibCPP1311;
 
 namespace host {
 
-/// How a document opens.
+/// How a document opens, and what else there is to tell of it.
 class OpeningView
 {
 public:
-    struct Destination
-    {
-        int type = 0;
-        int page = 0;
-        /// Percent, 0 for none.
-        double zoom = 0;
-        /// UTF-8; empty unless the destination is a named one.
-        std::string name;
-    };
-
-    int pageCount = 0;
-    int signatures = 0;
-    bool encrypted = false;
-    int pageMode = 0;
-    int pageLayout = 0;
-    std::optional<Destination> destination;
-    /// The library's number for each row of pdflibrary::viewerPreferences.
-    std::array<int, pdflibrary::viewerPreferences.size()> preferences{};
-
-    /// Reads the view of the selected document.
+    /// Reads the view of the selected document. Throws std::runtime_error when the library cannot tell.
     static OpeningView read(TelvarPDFLibraryCPDylibCPP1311& library);
 
-    /// Lines of a label and what it says, each with a line feed. May hold characters of the document's names.
+    int pageCount() const { return m_pageCount; }
+    /// Unset for what the document does not have.
+    ViewValue operator[](ViewEntry entry) const { return m_entries[entry].value_or(Unset()); }
+    /// What kind of action it opens with, where that is none that shows a page; else empty.
+    std::string otherAction() const;
+
+    /// Lines of a label and what it says, each with a line feed; safe to print.
     std::string inWords() const;
-    /// The same with the names of ISO 32000.
+    /// The same with the names of ISO 32000, as ViewJson takes it.
     QJsonObject toJson() const;
+
+private:
+    std::string factsInWords() const;
+    std::string openActionInWords() const;
+    std::string preferencesInWords() const;
+    QJsonValue openActionInJson(const QJsonValue& destination) const;
+
+    int m_pageCount = 0;
+    int m_signatures = 0;
+    bool m_encrypted = false;
+    ViewChange m_entries; ///< The magnification only where there is a destination.
+    std::string m_action;
+    std::string m_destinationName; ///< UTF-8; empty unless the destination is a named one.
 };
 
 } // namespace host

@@ -13,8 +13,8 @@
 #include <QLineEdit>
 #include <QRandomGenerator>
 #include <QSettings>
-#include <QUuid>
 #include <QTemporaryDir>
+#include <QUuid>
 #include <QtTest>
 
 #include <algorithm>
@@ -399,8 +399,8 @@ private slots:
         dialog.show();
         const Prefs prefs = dialog.prefsAfter({{key::OpenToPage, 17}});
         person::whenOpens("CSaveAsCollectionDialog", [&, &button = button](QDialog& further) {
-            const QIcon icon = further.findChild<QToolButton*>("icon_toolButton")->icon();
-            QCOMPARE(icon.pixmap(QSize(128, 128)).toImage(), image.toImage());
+            const QIcon shown = further.findChild<QToolButton*>("icon_toolButton")->icon();
+            QCOMPARE(shown.pixmap(QSize(128, 128)).toImage(), image.toImage());
             further.findChild<QLineEdit*>("collectionNameLineEdit")->setText("Page 17 " + button);
             further.findChild<QPushButton*>(button)->click();
         });

@@ -120,7 +120,7 @@ private slots:
         for (int i = 0; i < 5000; ++i) {
             state = state * 1664525 + 1013904223;
             const auto number = static_cast<qpdf_offset_t>((state >> 8) % (text.size() + 100));
-            const std::size_t size = i % 50 == 0 ? 15000 : number % 300;
+            const auto size = static_cast<std::size_t>(i % 50 == 0 ? 15000 : number % 300);
             if (i % 3 == 0) {
                 input.seek(number, SEEK_SET);
                 expected.seek(number, SEEK_SET);

@@ -77,25 +77,8 @@ private slots:
     void init()
     {
         m_home.reset();
-        const std::string view =
-            "/PageMode /UseThumbs /PageLayout /TwoPageRight /OpenAction [ 4 0 R /FitH 792 ] "
-            "/ViewerPreferences << /HideMenubar true /CenterWindow true >>";
-        QVERIFY(writeFile(path("a.pdf"), QByteArray::fromStdString(PdfBuilder::simple(view))));
-    }
-
-    void startsAsTheDocumentOpens()
-    {
-        const CommandRun run = configure({path("a.pdf")}, pressOk);
-        QCOMPARE(run.err, QByteArray());
-        QCOMPARE(run.status, 0);
-        QCOMPARE(run.out, QByteArray("--set LayoutAndMagnCheckBox=true --set NavigationTabComboBox=2 "
-                                     "--set PageLayoutComboBox=5 --set MagnificationComboBox=2 "
-                                     "--set OpenToPageSpinBox=2 --set ViewerPrefsCheckBox=true "
-                                     "--set HideToobarsCheckBox=false --set HideMenuBarCheckBox=true "
-                                     "--set HideCtrlWindowsCheckBox=false "
-                                     "--set ResizeWinToInitPageCheckBox=false "
-                                     "--set CenterWinOnScreenCheckBox=true "
-                                     "--set OpenInFullScreenCheckBox=false --set ShowComboBox=0\n"));
+        putDocument("/PageMode /UseThumbs /PageLayout /TwoPageRight /OpenAction [ 4 0 R /FitH 792 ] "
+                    "/ViewerPreferences << /HideMenubar true /CenterWindow true >>");
     }
 
     void startsFromAFile_data()
@@ -127,13 +110,19 @@ private slots:
 
     void leavesOutWhatIsNotChosen()
     {
-        const CommandRun run = configure({path("a.pdf")}, [](QDialog& dialog) {
+        const CommandRun run = configure({}, [](QDialog& dialog) {
             person::widget<QComboBox>(dialog, "PageLayoutComboBox")->setCurrentIndex(-1);
             pressOk(dialog);
         });
         QCOMPARE(run.status, 0);
         QVERIFY2(!run.out.contains("PageLayout") && run.out.count("--set ") == 12, run.out);
         QVERIFY2(run.err.contains("PageLayoutComboBox is left out"), run.err);
+
+        putDocument("/OpenAction [ 4 0 R /XYZ 0 792 1.5 ]");
+        const CommandRun stored = configure({path("a.pdf"), "-o", path("out.tsf")}, pressOk);
+        QVERIFY2(stored.err.contains("MagnificationComboBox is left out"), stored.err);
+        const Map settings = this->stored("out.tsf", "ToolSettings").toMap();
+        QVERIFY(!settings.contains(key::Magnification) && settings.value(key::OpenToPage) == 2);
     }
 
     void doesNothingOnCancel()
@@ -300,6 +289,7 @@ private slots:
         row("missing folder", {"-o", "none/out.tsf"},
             "none/out.tsf cannot be written: no such file or directory");
         row("a folder", {"-o", "folder.tsf"}, "folder.tsf cannot be written: it is not a regular file");
+        row("a view that is a folder", {"-o", "folder.json"}, "folder.json cannot be written: it is not");
         row("two outputs", {"-o", "a.tsf", "-o", "b.tsf"}, "-o is given twice");
         row("two documents", {"a.pdf", "b.pdf"}, "configure takes one document, not 2");
         row("two files", {"--list", "a", "--favorite", "b"}, "settings come from one file");
@@ -313,7 +303,8 @@ private slots:
     void refusesWithoutADisplay()
     {
         const auto [words, reason] = Rows<QStringList, QByteArray>::current();
-        QVERIFY(writeFile(path("text"), "text") && QDir().mkpath(path("folder.tsf")));
+        QVERIFY(writeFile(path("text"), "text") && QDir().mkpath(path("folder.tsf")) &&
+                QDir().mkpath(path("folder.json")));
         const ProgramRun run = configureWithoutDisplay(words, m_home.filePath(""));
         QCOMPARE(run.status, 2);
         QCOMPARE(run.out, QByteArray());
@@ -324,11 +315,17 @@ private slots:
     {
         const ProgramRun run = configureWithoutDisplay({"--help"});
         QCOMPARE(run.status, 0);
-        QVERIFY2(run.out.startsWith("quintar configure manual.pdf\n") && run.out.contains("Usage: quintar configure"), run.out);
+        QVERIFY2(run.out.startsWith("quintar configure manual.pdf\n") &&
+                     run.out.contains("Usage: quintar configure"),
+                 run.out);
     }
 
 private:
     QString path(const QString& name) const { return m_home.filePath(name); }
+    void putDocument(const std::string& view) const
+    {
+        QVERIFY(writeFile(path("a.pdf"), QByteArray::fromStdString(PdfBuilder::simple(view))));
+    }
     QVariant stored(const QString& file, const QString& key) const
     {
         return QSettings(path(file), QSettings::IniFormat).value(key);

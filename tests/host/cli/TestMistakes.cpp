@@ -52,6 +52,15 @@ private slots:
         row("run --in-place -n --title x --title-from-file-name a.pdf", "exclude each other");
         row("run --in-place -n --view a.pdf a.pdf", "the view a.pdf is not a JSON object");
         row("run --in-place -n --like no.pdf a.pdf", "no.pdf: no such file");
+        row("run --bookmarks -o x a.pdf", "did you mean \"--page-mode bookmarks\"?");
+        row("run --page-mode none --suffix a/b a.pdf", "--suffix takes a text for file names");
+        row("run --page-mode none -o x.pdf a.pdf b.pdf", "-o x.pdf takes one document, not 2");
+        row("run --page-mode none --in-place -", "from standard input goes to -o FILE.pdf or -o -");
+        row("run --page-mode none -o - --report - -", "standard output takes one of them");
+        row("run --page-mode none -o - --files-from - -", "standard input is named more than once");
+        row("run --title-from-file-name -o - -", "standard input has no name");
+        row("run --page-mode none --suffix x --in-place a.pdf",
+            "-o, --suffix and --in-place exclude each other");
         row("show --jsn a.pdf", "did you mean \"--json\"?");
         row("show", "which documents?");
         row("show --in-place a.pdf",

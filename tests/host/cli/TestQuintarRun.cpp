@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <csignal>
 #include <functional>
 #include <optional>
@@ -111,6 +112,8 @@ private slots:
         QVERIFY(line.take("output").toString().endsWith("/new/out/a.pdf"));
         for (const char* varying : {"milliseconds", "fileState", "outputState"})
             QVERIFY(!line.take(varying).isNull());
+        QCOMPARE(line.take("before").toObject().value("pageMode"), QJsonValue());
+        QCOMPARE(line.take("after").toObject().value("pageMode"), QJsonValue("FullScreen"));
         QCOMPARE(line, (QJsonObject{{"file", "in/a.pdf"},
                                     {"status", "changed"},
                                     {"saved", "appended"},
@@ -202,7 +205,7 @@ private slots:
         row("no target", "run a.pdf" + set, "-o DIR");
         row("two targets", "run -o out --in-place a.pdf" + set, "exclude");
         row("no documents", "run -o out" + set, "which documents");
-        row("output is a file", "run -o a.pdf sub/a.pdf" + set, "not a folder");
+        row("output is a file", "run -o bad.tsf sub/a.pdf" + set, "not a folder");
         row("unknown key", "run -o out --set Colour=1 a.pdf", "HideMenuBarCheckBox");
         row("value out of range", "run -o out --set ShowComboBox=2 a.pdf", "1  Document Title");
         row("settings file damaged", "run -o out --tool-settings bad.tsf a.pdf", "bad.tsf: ");
@@ -333,7 +336,7 @@ private slots:
         const ProgramRun run =
             quintar(QStringList{"run", "--dry-run", "--report", "report", "-o", "out", "in"} + settings);
         QCOMPARE(run.status, 1);
-        QVERIFY2(run.out.contains("would change  in/a.pdf\n"), run.out);
+        QVERIFY2(run.out.contains("would change  in/a.pdf: "), run.out);
         QVERIFY2(run.out.endsWith("2 would change, 0 unchanged, 2 failed\n"), run.out);
         QVERIFY(!fs::exists("out"));
         const ProgramRun inPlace = quintar(QStringList{"run", "--dry-run", "--in-place", "in"} + settings);
@@ -341,6 +344,44 @@ private slots:
         QVERIFY(WorkFolder::contentOf("in/a.pdf") == original);
         QCOMPARE(report()[0].value("status"), QJsonValue("changed"));
         QVERIFY(report()[0].value("saved").isNull());
+    }
+
+    void tellsWhatChanges_data()
+    {
+        const Rows<std::string, QString, QByteArray, QJsonObject, QJsonObject> row;
+        const QString openPage = "--open-page 2 --zoom fit-width";
+        const QJsonObject second{{"page", 2}, {"type", "FitH"}, {"zoom", QJsonValue()}};
+        row("an entry", "/PageMode /UseThumbs", "--page-mode bookmarks",
+            "page mode: use-thumbs -> use-outlines", {{"pageMode", "UseThumbs"}},
+            {{"pageMode", "UseOutlines"}});
+        row("an entry that is not there", "", "--page-mode bookmarks", "page mode: unset -> use-outlines",
+            {{"pageMode", QJsonValue()}}, {{"pageMode", "UseOutlines"}});
+        row("a preference", "/ViewerPreferences << /HideMenubar true /FitWindow true >>", "--hide-menubar no",
+            "hide menubar: yes -> no", {{"viewerPreferences", QJsonObject{{"HideMenubar", true}}}},
+            {{"viewerPreferences", QJsonObject{{"HideMenubar", false}}}});
+        row("a script", "/OpenAction << /S /JavaScript /JS (x) >>", openPage,
+            "open page: JavaScript -> 2; zoom: unset -> fit-width",
+            {{"openAction", QJsonObject{{"action", "JavaScript"}}}}, {{"openAction", second}});
+        row("a page taken away", "/OpenAction [ 3 0 R /Fit ]", "--open-page unset",
+            "open page: 1 -> unset; zoom: fit-page -> unset",
+            {{"openAction", QJsonObject{{"page", 1}, {"type", "Fit"}, {"zoom", QJsonValue()}}}},
+            {{"openAction", QJsonValue()}});
+    }
+
+    void tellsWhatChanges()
+    {
+        const auto [catalog, options, words, before, after] =
+            Rows<std::string, QString, QByteArray, QJsonObject, QJsonObject>::current();
+        put("a.pdf", PdfBuilder::simple(catalog));
+        const QStringList run = QStringList{"run", "a.pdf", "--report", "report"} + options.split(' ');
+        const ProgramRun dry = quintar(run + QStringList{"--in-place", "--dry-run"});
+        QVERIFY2(dry.out.startsWith("would change  a.pdf: " + words + "\n"), dry.out + dry.err);
+        for (const QStringList& target : {QStringList{"-o", "out"}, QStringList{"--in-place"}}) {
+            const ProgramRun real = quintar(run + target);
+            QVERIFY2(real.out.startsWith("changed (appended)  a.pdf: " + words + "\n"), real.out + real.err);
+            QCOMPARE(report().value(0).value("before"), QJsonValue(before));
+            QCOMPARE(report().value(0).value("after"), QJsonValue(after));
+        }
     }
 
     void takesNamesOfAnyBytes()
@@ -582,6 +623,9 @@ private slots:
             QVERIFY(crashed.value(state).toString().contains(" bytes, "));
         for (const char* own : {"file", "output", "fileState", "outputState", "milliseconds"})
             QVERIFY(!crashed.take(own).isNull() && !good.take(own).isNull());
+        QVERIFY(crashed.value("after").toObject().contains("openAction"));
+        for (QJsonObject* line : {&crashed, &good})
+            QCOMPARE(line->take("undo").isObject(), folder == "in");
         QCOMPARE(crashed, good);
     }
 
@@ -610,7 +654,7 @@ private slots:
             put(name);
         QProcess stopped;
         start(stopped, {"--jobs", "1", "--in-place", "--report", "report", "few"});
-        QVERIFY(waitFor([] { return fs::exists("report") && fs::file_size("report") > 0; }));
+        QVERIFY(waitFor([] { return !report().isEmpty(); }));
         ::kill(pid_t(stopped.processId()), SIGTERM);
         QVERIFY(stopped.waitForFinished());
         QVERIFY(stopped.readAllStandardOutput().endsWith(
@@ -718,7 +762,7 @@ private slots:
         QCOMPARE(chown("d", 65534, 65534), 0);
         const ProgramRun run("setpriv",
                              QStringList{"--reuid=65534", "--regid=65534", "--clear-groups", PROGRAM_FILE,
-                                         "run", "--in-place", "--report", "d/report", "--quiet", "d/a.pdf"} +
+                                         "run", "--in-place", "--report", "d/report", "d/a.pdf"} +
                                  panelAndPage,
                              m_folder->path());
         QCOMPARE(run.status, 0);
@@ -789,9 +833,14 @@ private:
         }
     }
 
-    QList<QJsonObject> report() const
+    /// What became of the documents.
+    static QList<QJsonObject> report()
     {
-        return ProgramRun::jsonLines(QByteArray::fromStdString(WorkFolder::contentOf("report")));
+        QList<QJsonObject> lines =
+            ProgramRun::jsonLines(QByteArray::fromStdString(WorkFolder::contentOf("report")));
+        const auto isBegun = [](const QJsonObject& line) { return line.value("status") == "begun"; };
+        lines.erase(std::remove_if(lines.begin(), lines.end(), isBegun), lines.end());
+        return lines;
     }
 
     /// Temporary files that should have gone.

@@ -49,7 +49,7 @@ private slots:
         QCOMPARE(names, (QStringList{"Like a book", "Best of all"}));
 
         const QJsonObject before = shown("other.pdf");
-        QCOMPARE(before.value("pageMode"), QJsonValue("UseNone"));
+        QVERIFY(before.value("pageMode").isNull());
         for (const QStringList& source :
              {QStringList{"--list", "Like a book"}, QStringList{"--favorite", "Best of all"},
               QStringList{"--tool-settings", m_home.filePath("kept.tsf")}}) {

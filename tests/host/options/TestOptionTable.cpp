@@ -151,7 +151,7 @@ private slots:
         row("word", "run --signed re", "refuse");
         row("word behind =", "run --signed = re", "refuse");
         row("settings", "run --list ''", "folder list.xqq");
-        row("folder", "run -o ''", "folder");
+        row("folder", "run --base ''", "folder");
         row("document", "show a", "a b.PDF");
         row("help", "help conf", "configure");
         row("no documents", "lists ''", "");

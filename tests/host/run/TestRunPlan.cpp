@@ -31,7 +31,7 @@ private slots:
         fs::create_directory_symlink("..", "in/loop");
         fs::create_symlink("../outside.pdf", "in/link.pdf");
         QCOMPARE(mkfifo("in/fifo.pdf", 0600), 0);
-        RunPlan plan("out");
+        RunPlan plan(to("out"));
         plan.add("in//");
         QCOMPARE(targets(plan),
                  std::string("in/a/z.Pdf>out/a/z.Pdf in/a.PDF>out/a.PDF in/b.pdf>out/b.pdf "
@@ -47,7 +47,7 @@ private slots:
             fs::current_path(name);
         }
         fs::current_path(here);
-        RunPlan tooLong("out");
+        RunPlan tooLong(to("out"));
         tooLong.add(name);
         QCOMPARE(tooLong.documents().size(), std::size_t(1));
         QCOMPARE(tooLong.documents()[0].problem, std::string("file name too long"));
@@ -57,10 +57,10 @@ private slots:
     {
         WorkFolder::put("in/a.pdf");
         WorkFolder::put("in/out/a.pdf");
-        RunPlan plan("in/out");
+        RunPlan plan(to("in/out"));
         plan.add("in");
         QCOMPARE(targets(plan), std::string("in/a.pdf>in/out/a.pdf "));
-        RunPlan onItself("in");
+        RunPlan onItself(to("in"));
         onItself.add("in");
         QVERIFY(refusalFor(onItself).find("would overwrite") != std::string::npos);
     }
@@ -69,12 +69,12 @@ private slots:
     {
         WorkFolder::put("d/one.pdf");
         WorkFolder::put("two");
-        RunPlan plan("new/er/out/");
+        RunPlan plan(to("new/er/out/"));
         plan.add("d/one.pdf");
         plan.add("./two");
         QCOMPARE(targets(plan), std::string("d/one.pdf>new/er/out/one.pdf ./two>new/er/out/two "));
         WorkFolder::put("d/deep/x\xff.pdf");
-        RunPlan below("out", "./d/");
+        RunPlan below(RunDestination::folder("out", "./d/"));
         for (const std::string& name :
              {std::string("d/one.pdf"), fs::absolute("d/deep").string() + "/../deep"})
             below.add(name);
@@ -82,10 +82,83 @@ private slots:
         QCOMPARE(below.documents()[1].target, fs::canonical(".").string() + "/out/deep/x\xff.pdf");
         below.add("d/missing.pdf");
         QVERIFY_EXCEPTION_THROWN(below.add("two"), UsageError);
-        QVERIFY_EXCEPTION_THROWN(RunPlan("out", "two").add("two"), UsageError);
-        RunPlan inPlace("");
+        QVERIFY_EXCEPTION_THROWN(RunPlan(RunDestination::folder("out", "two")).add("two"), UsageError);
+        RunPlan inPlace(to(""));
         inPlace.add("d/../d/one.pdf");
         QCOMPARE(targets(inPlace), std::string("d/../d/one.pdf>d/one.pdf "));
+    }
+
+    // A name says what it means, unless there is something by that name.
+    void tellsFileFromFolder()
+    {
+        WorkFolder::put("in/x.pdf");
+        WorkFolder::put("old.pdf");
+        WorkFolder::put("file");
+        fs::create_directories("folder.pdf");
+        const auto place = [](const std::string& output, const std::string& base = {}) {
+            std::string text;
+            const std::string refusal = refusalOf([&] {
+                RunPlan plan(RunDestination::named(output, base));
+                plan.add("in/x.pdf");
+                text = targets(plan);
+            });
+            return text + refusal;
+        };
+        QCOMPARE(place("new/y.PDF"), std::string("in/x.pdf>new/y.PDF "));
+        QCOMPARE(place("old.pdf"), std::string("in/x.pdf>old.pdf "));
+        QCOMPARE(place("folder.pdf"), std::string("in/x.pdf>folder.pdf/x.pdf "));
+        QCOMPARE(place("new.pdf/"), std::string("in/x.pdf>new.pdf/x.pdf "));
+        QCOMPARE(place(".pdf"), std::string("in/x.pdf>.pdf/x.pdf "));
+        QCOMPARE(place("-"), std::string("in/x.pdf>- "));
+        QCOMPARE(place("file"), std::string("file is not a folder; a result's own name ends in .pdf"));
+        QCOMPARE(place(""), std::string("-o needs the name of a folder or of a PDF file"));
+        QCOMPARE(place("new.pdf", "in"),
+                 std::string("--base goes with a folder for the results, not with -o new.pdf"));
+        QCOMPARE(mkfifo("fifo.pdf", 0600), 0);
+        QCOMPARE(place("fifo.pdf"), std::string("fifo.pdf is not a regular file"));
+        RunPlan two(RunDestination::named("new.pdf", {}));
+        two.add("in");
+        QCOMPARE(refusalFor(two), std::string());
+        two.add("old.pdf");
+        QCOMPARE(refusalFor(two),
+                 std::string("-o new.pdf takes one document, not 2; name a folder for the results"));
+        RunPlan onItself(RunDestination::named("in/../in/x.pdf", {}));
+        onItself.add("in/x.pdf");
+        QVERIFY(refusalFor(onItself).find("would overwrite") != std::string::npos);
+    }
+
+    void takesStandardInputForOneResult()
+    {
+        const auto place = [](const RunDestination& destination) {
+            RunPlan plan(destination);
+            const std::string refusal = refusalOf([&] { plan.addStandardInput(); });
+            return refusal + targets(plan);
+        };
+        QCOMPARE(place(RunDestination::file("-")), std::string("->- "));
+        QCOMPARE(place(RunDestination::file("new.pdf")), std::string("->new.pdf "));
+        for (const RunDestination& several :
+             {RunDestination::inPlace(), RunDestination::folder("out"), RunDestination::beside("x")})
+            QCOMPARE(place(several),
+                     std::string("a document from standard input goes to -o FILE.pdf or -o -"));
+    }
+
+    void placesResultsBesideTheirDocuments()
+    {
+        for (const char* name : {"in/a.pdf", "in/a-web.pdf", "in/b-web.PDF", "in/-web.pdf", "in/d/c.PDF",
+                                 "in/d/c-web.PDF", "in/plain"})
+            WorkFolder::put(name);
+        RunPlan plan(RunDestination::beside("web"));
+        plan.add("in");
+        plan.add("in/plain");
+        QCOMPARE(targets(plan), std::string("in/-web.pdf>in/-web-web.pdf in/a.pdf>in/a-web.pdf "
+                                            "in/b-web.PDF>in/b-web-web.PDF in/d/c.PDF>in/d/c-web.PDF "
+                                            "in/plain>in/plain-web "));
+        QCOMPARE(refusalFor(plan), std::string());
+        plan.add("in/a-web.pdf"); // by itself it is a document
+        QCOMPARE(refusalFor(plan),
+                 std::string("the output of in/a.pdf would overwrite the document in/a-web.pdf"));
+        for (const std::string& suffix : {std::string(), std::string("a/b"), std::string("a\0b", 3)})
+            QVERIFY_EXCEPTION_THROWN(RunDestination::beside(suffix), UsageError);
     }
 
     void namesWhatCannotBeWorkedOn()
@@ -93,7 +166,7 @@ private slots:
         QCOMPARE(mkfifo("fifo.pdf", 0600), 0);
         fs::create_symlink("nowhere", "broken.pdf");
         WorkFolder::put("file");
-        RunPlan plan("out");
+        RunPlan plan(to("out"));
         for (const std::string& name :
              {std::string("missing.pdf"), std::string("fifo.pdf"), std::string("broken.pdf"),
               std::string("file/x.pdf"), std::string(5000, 'x')})
@@ -132,7 +205,7 @@ private slots:
         fs::create_directory_symlink("a", "linked");
         fs::create_hard_link("a/x.pdf", "hard.pdf");
         fs::create_symlink("p.pdf", "linkedout/q.pdf");
-        RunPlan plan(output.toStdString());
+        RunPlan plan(to(output.toStdString()));
         for (const QString& input : inputs)
             plan.add(input.toStdString());
         QCOMPARE(refusalFor(plan).find("would have the same output") != std::string::npos, refused);
@@ -145,7 +218,7 @@ private slots:
         fs::create_directory_symlink("a", "linked");
         fs::create_directories("out");
         const auto refused = [](const char* output, std::initializer_list<const char*> inputs) {
-            RunPlan plan(output);
+            RunPlan plan(to(output));
             for (const char* input : inputs)
                 plan.add(input);
             return refusalFor(plan).find("would overwrite") != std::string::npos;
@@ -155,7 +228,7 @@ private slots:
         QVERIFY(!refused("out", {"a/x.pdf", "b/y.pdf"}));
         fs::create_hard_link("a/x.pdf", "out/y.pdf");
         QVERIFY(refused("out", {"a/x.pdf", "b/y.pdf"}));
-        RunPlan plan("out");
+        RunPlan plan(to("out"));
         plan.add("a/x.pdf");
         QVERIFY_EXCEPTION_THROWN(plan.checkReport("linked/x.pdf", {}), UsageError);
         QVERIFY_EXCEPTION_THROWN(plan.checkReport("out/x.pdf", {}), UsageError);
@@ -170,7 +243,7 @@ private slots:
         WorkFolder::put("a/x.pdf");
         fs::create_symlink("new/x.pdf", "linked");
         for (const char* output : {"new", "new/", "other/../new/."}) {
-            RunPlan plan(output);
+            RunPlan plan(to(output));
             plan.add("a/x.pdf");
             QCOMPARE(targets(plan), std::string("a/x.pdf>new/x.pdf "));
             for (const char* report : {"new/../new/x.pdf", "new//x.pdf", "./new/./x.pdf", "linked"})
@@ -183,7 +256,7 @@ private slots:
         WorkFolder::put("real/x.pdf");
         fs::create_symlink("real/x.pdf", "one.pdf");
         fs::create_symlink("one.pdf", "two.pdf");
-        RunPlan plan("");
+        RunPlan plan(to(""));
         plan.add("two.pdf");
         QCOMPARE(targets(plan), std::string("two.pdf>real/x.pdf "));
     }
@@ -193,12 +266,18 @@ private slots:
         WorkFolder::put("a/x.pdf");
         fs::create_directory("out");
         fs::create_symlink("../new/y.pdf", "out/x.pdf");
-        RunPlan plan("out");
+        RunPlan plan(to("out"));
         plan.add("a/x.pdf");
         QCOMPARE(targets(plan), std::string("a/x.pdf>new/y.pdf "));
     }
 
 private:
+    /// A folder for the results, or "" for in place.
+    static RunDestination to(const std::string& folder)
+    {
+        return folder.empty() ? RunDestination::inPlace() : RunDestination::folder(folder);
+    }
+
     static std::string refusalFor(const RunPlan& plan)
     {
         return refusalOf([&plan] { plan.checkTargets(); });

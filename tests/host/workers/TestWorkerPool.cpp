@@ -65,7 +65,8 @@ private slots:
         // The program is busy with piece 100 for longer than a worker may take, which may not be ended for
         // it.
         row("busy program", 1, "did it", [](int piece) {
-            return piece >= 100 && piece < 110 && usleep(250'000 + piece % 7 * 20'000) != 0;
+            return piece >= 100 && piece < 110 &&
+                   usleep(static_cast<useconds_t>(250'000 + piece % 7 * 20'000)) != 0;
         });
     }
 
@@ -74,8 +75,9 @@ private slots:
         const auto [each, end, habit] = Rows<unsigned, std::string, Habit>::current();
         for (const int workers : {1, 3}) {
             const auto make = [&, each = each, habit = habit] {
-                return habit ? std::make_unique<FakeWorker>(
-                                   [=](int piece) { return (piece + 1) % each == 0 && habit(piece); })
+                return habit ? std::make_unique<FakeWorker>([=](int piece) {
+                    return static_cast<unsigned>(piece + 1) % each == 0 && habit(piece);
+                })
                              : throw std::runtime_error("none can be made");
             };
             std::vector<std::string> ends(200);

@@ -195,9 +195,9 @@ private slots:
     void drawsLines_data()
     {
         const Rows<SetUp, int, QString, QString, QColor> add;
-        const auto row = [&add](const char* what, const SetUp& setUp, int row, const char* across,
+        const auto row = [&add](const char* what, const SetUp& setUp, int line, const char* across,
                                 const char* down, const QColor& color = Qt::black) {
-            add(what, setUp, row, across, down, color);
+            add(what, setUp, line, across, down, color);
         };
         // A dash is four pen widths long, a dot one, a gap two; square caps then take half a width at each
         // end.

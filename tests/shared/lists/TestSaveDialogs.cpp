@@ -10,8 +10,8 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QPolygonF>
 #include <QPixmap>
+#include <QPolygonF>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTransform>

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,12 @@ private:
     std::map<std::string, Take> m_takers;
     std::string m_help;
 };
+
+/// Takes values of an option that may be repeated. The values must outlive the parser, here and below.
+OptionParser::Take appendTo(std::vector<std::string>& values);
+
+/// Takes the value of an option that may be given once. \param name as the user gives it.
+OptionParser::Take setOnce(std::optional<std::string>& value, const char* name);
 
 /// Parses a whole number within bounds; throws UsageError that names the option.
 int numberOption(const char* name, const std::string& value, int lowest, int highest);

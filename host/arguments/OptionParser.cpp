@@ -132,10 +132,29 @@ void OptionParser::refuseName(const std::string& name) const
     }
     if (!beginnings.empty())
         throw UsageError("--" + name + " may be one of " + beginnings);
+    for (const Option& each : m_options)
+        if (each.completes == options::Completes::Words &&
+            std::find(each.words.begin(), each.words.end(), name) != each.words.end())
+            throw UsageError("unknown option --" + name + "; did you mean \"--" + each.name + " " + name +
+                             "\"?");
     const std::string meant = suggestion::didYouMean(name, names, "--");
     throw UsageError(
         "unknown option --" + name +
         (meant.empty() ? "; \"quintar " + m_command.name + " --help-all\" lists the options" : meant));
+}
+
+OptionParser::Take appendTo(std::vector<std::string>& values)
+{
+    return [&values](const std::string& value) { values.push_back(value); };
+}
+
+OptionParser::Take setOnce(std::optional<std::string>& value, const char* name)
+{
+    return [&value, name](const std::string& given) {
+        if (value)
+            throw UsageError(std::string(name) + " is given twice");
+        value = given;
+    };
 }
 
 int numberOption(const char* name, const std::string& value, int lowest, int highest)

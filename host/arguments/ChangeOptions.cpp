@@ -1,0 +1,133 @@
+#include "ChangeOptions.h"
+
+#include "OptionParser.h"
+#include "host/change/PresentView.h"
+#include "host/change/ViewJson.h"
+#include "host/change/ViewValues.h"
+#include "host/program/LoadedDocument.h"
+#include "host/settings/SetOption.h"
+#include "host/settings/SettingsFolder.h"
+#include "host/settings/SettingsNotes.h"
+#include "host/terminal/UsageError.h"
+
+#include "EditInitialView/InitialViewSettings.h"
+
+namespace host {
+
+namespace {
+
+/// How a document opens, for others to open so.
+ViewChange viewOf(const std::string& file, const std::string& password)
+{
+    LoadedDocument document(file, password);
+    try {
+        return PresentView(document.library()).asChange();
+    } catch (const std::runtime_error& error) {
+        throw UsageError(file + ": " + error.what());
+    }
+}
+
+} // namespace
+
+void ChangeOptions::take(OptionParser& parser)
+{
+    parser.takeValue("list", appendTo(m_lists));
+    parser.takeValue("favorite", appendTo(m_favorites));
+    parser.takeValue("tool-settings", appendTo(m_toolSettings));
+    parser.takeValue("set", appendTo(m_settingWords));
+    takeViewOptions(parser);
+}
+
+void ChangeOptions::takeViewOptions(OptionParser& parser)
+{
+    for (const viewentries::Description& each : viewentries::all())
+        parser.takeValue(each.option, [this, entry = each.entry](const std::string& value) {
+            m_named.set(entry, viewvalues::parse(entry, value));
+        });
+    parser.takeValue("view", setOnce(m_viewFile, "--view"));
+    parser.takeValue("like", setOnce(m_model, "--like"));
+    parser.takeFlag("title-from-file-name", m_titleFromFileName);
+    parser.takeFlag("title-if-missing", m_titleIfMissing);
+}
+
+void ChangeOptions::check() const
+{
+    const std::size_t sources = m_lists.size() + m_favorites.size() + m_toolSettings.size() +
+                                (m_settingWords.empty() ? 0 : 1) + (changesView() ? 1 : 0);
+    if (sources != 1)
+        throw UsageError(sources == 0
+                             ? "which settings? Give view options (--page-mode, ...), --list, --favorite, "
+                               "--tool-settings or --set"
+                             : "settings come from one source: view options, --list, --favorite, "
+                               "--tool-settings or --set");
+    if (m_titleFromFileName && m_named[ViewEntry::Title])
+        throw UsageError("--title and --title-from-file-name exclude each other");
+}
+
+bool ChangeOptions::changesView() const
+{
+    return !m_named.isEmpty() || m_viewFile || m_model || m_titleFromFileName || m_titleIfMissing;
+}
+
+void ChangeOptions::read(const std::string& password)
+{
+    if (changesView())
+        readChange(password);
+    else
+        readSettings();
+}
+
+void ChangeOptions::readChange(const std::string& password)
+{
+    if (m_model)
+        m_change.add(viewOf(*m_model, password));
+    if (m_viewFile)
+        m_change.add(viewjson::readFile(*m_viewFile));
+    m_change.add(m_named);
+    if (m_titleFromFileName)
+        m_change.set(ViewEntry::Title, FileNameAsTitle());
+    if (m_titleIfMissing)
+        m_change.keepTitles();
+    for (const auto& file : {m_model, m_viewFile})
+        if (file)
+            m_filesRead.push_back(*file);
+    if (const std::string problem = m_change.contradiction(); !problem.empty())
+        throw UsageError(problem);
+}
+
+void ChangeOptions::readSettings()
+{
+    if (!m_lists.empty()) {
+        m_filesRead.push_back(SettingsFolder::actionLists().find(m_lists.front()));
+        m_entries = settingsfile::readActionList(m_filesRead.back());
+    } else if (!m_favorites.empty()) {
+        m_filesRead.push_back(SettingsFolder::favorites().find(m_favorites.front()));
+        m_entries = settingsfile::readFavorite(m_filesRead.back());
+    } else if (!m_toolSettings.empty()) {
+        m_filesRead.push_back(m_toolSettings.front());
+        m_entries = settingsfile::readToolSettings(m_filesRead.back());
+    } else {
+        ActionEntry entry{initialview::actionName, {}};
+        for (const std::string& word : m_settingWords)
+            setoption::apply(word, entry.settings);
+        m_entries = {entry};
+    }
+}
+
+std::vector<std::string> ChangeOptions::notes() const
+{
+    std::vector<std::string> notes;
+    for (const ActionEntry& entry : m_entries)
+        for (std::string& note : settingsnotes::about(entry.settings))
+            notes.push_back(std::move(note));
+    if (std::string note = noteOnAll(); !note.empty())
+        notes.push_back(std::move(note));
+    return notes;
+}
+
+std::string ChangeOptions::noteOnAll() const
+{
+    return settingsnotes::aboutRowsLeftOut(m_entries);
+}
+
+} // namespace host

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "host/run/RunPlan.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace host {
+
+class OptionParser;
+
+/// The options that say which documents a command works on, and the password that opens them.
+class DocumentOptions
+{
+public:
+    /// The object must outlive the parser.
+    void take(OptionParser& parser);
+    /// \param words the documents and folders that are named by themselves. Throws UsageError.
+    void check(const std::vector<std::string>& words) const;
+    /// Reads password and list. Throws UsageError.
+    void read(const std::vector<std::string>& words);
+
+    /// Documents and folders: those that are named by themselves, and then those of the list.
+    const std::vector<std::string>& inputs() const { return m_inputs; }
+    /// The documents for a command that only reads them. Folders without any are noted. Throws UsageError.
+    RunPlan planForReading() const;
+    /// Whether an option names it; documents may come from it as well.
+    bool readsStandardInput() const { return m_passwordFile == "-" || m_list == "-"; }
+    const std::string& password() const { return m_password; }
+    const std::vector<std::string>& filesRead() const { return m_filesRead; }
+
+private:
+    void readPassword();
+    void readList();
+
+    bool m_nullSeparated = false;
+    std::optional<std::string> m_givenPassword;
+    std::optional<std::string> m_passwordFile;
+    std::optional<std::string> m_list;
+    std::vector<std::string> m_inputs;
+    std::string m_password;
+    std::vector<std::string> m_filesRead;
+};
+
+} // namespace host

@@ -1,0 +1,51 @@
+#include "CheckCommand.h"
+
+#include "host/arguments/LimitOptions.h"
+#include "host/arguments/OptionParser.h"
+#include "host/program/InstallLayout.h"
+#include "host/program/PluginHost.h"
+#include "host/reading/CheckTeller.h"
+#include "host/reading/ReadingRun.h"
+#include "host/terminal/StandardError.h"
+#include "host/terminal/StandardOutput.h"
+
+namespace host {
+
+void CheckCommand::takeOptions(OptionParser& parser)
+{
+    m_asked.take(parser);
+    m_documents.take(parser);
+    takeLimits(parser, m_limits);
+    parser.takeFlag("json", m_json);
+    parser.takeFlag("quiet", m_quiet);
+}
+
+int CheckCommand::work(const std::vector<std::string>& words)
+{
+    m_asked.check();
+    m_documents.check(words);
+    m_documents.read(words);
+    m_asked.read(m_documents.password());
+    if (!m_quiet)
+        for (const std::string& text : m_asked.notes())
+            note(text);
+    const RunPlan plan = m_documents.planForReading();
+    const PluginHost plugin(installlayout::pluginFile());
+    const CheckTeller::Question question{m_asked.change(), m_asked.entries(), plugin.action(), m_json};
+    ReadingRun run(plan, {m_documents.password(), m_limits, m_quiet,
+                          m_json ? CheckTeller::failureInJson : ReadingRun::FailureLine()});
+    const int status =
+        run.run([&](auto& library) { return std::make_unique<CheckTeller>(library, question); });
+    if (!m_quiet && !m_json)
+        sumUp(run);
+    return status;
+}
+
+void CheckCommand::sumUp(const ReadingRun& run) const
+{
+    printResult(std::to_string(run.count(Reading::Good)) + " as asked, " +
+                std::to_string(run.count(Reading::Differs)) + " not, " +
+                std::to_string(run.count(Reading::Failed)) + " failed\n");
+}
+
+} // namespace host

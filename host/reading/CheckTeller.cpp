@@ -1,0 +1,80 @@
+#include "CheckTeller.h"
+
+#include "host/change/ViewChanger.h"
+#include "host/change/ViewSnapshot.h"
+#include "host/terminal/JsonLine.h"
+#include "host/terminal/TerminalText.h"
+
+#include "pdflibrary/ErrorCodes.h"
+
+namespace host {
+
+namespace {
+
+/// Of what no entry tells.
+const std::string otherPlace = "open page: at another place on the page";
+
+QJsonValue textOrNull(const std::string& text)
+{
+    return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
+}
+
+std::string inJson(const std::string& file, const char* status, const std::string& reason, QJsonObject object)
+{
+    object.insert("status", status);
+    object.insert("reason", textOrNull(reason));
+    insertName(object, "file", file);
+    return jsonLine(object);
+}
+
+} // namespace
+
+CheckTeller::CheckTeller(TelvarPDFLibraryCPDylibCPP1311& library, const Question& question)
+    : m_library(library), m_question(question), m_sequence(question.action, library, question.entries)
+{}
+
+Reading CheckTeller::tell(const std::string& file)
+{
+    const ViewSnapshot before(m_library);
+    const Trial trial = tryOut(file);
+    const ViewSnapshot after(m_library);
+    const bool good = trial.reason.empty() && m_library.SecurityInfo(engine::UnsavedChanges) == 0;
+    if (m_question.json) {
+        QJsonObject object{{"before", before.unlike(after)}, {"after", after.unlike(before)}};
+        if (!trial.note.empty())
+            object.insert("note", QString::fromStdString(trial.note));
+        return {good ? Reading::Good : Reading::Differs,
+                inJson(file, good ? "as asked" : "differs", trial.reason, object), trial.note};
+    }
+    if (good)
+        return {Reading::Good, {}, trial.note};
+    std::string text = trial.reason.empty() ? before.changeTo(after) : trial.reason;
+    if (text.empty())
+        text = trial.details.empty() ? otherPlace : trial.details;
+    return {Reading::Differs, forTerminal(file) + ": " + forTerminal(text) + "\n", trial.note};
+}
+
+CheckTeller::Trial CheckTeller::tryOut(const std::string& file)
+{
+    return m_question.entries.empty() ? tryChange(file) : Trial{m_sequence.apply(), {}, {}};
+}
+
+CheckTeller::Trial CheckTeller::tryChange(const std::string& file)
+{
+    ViewChanger changer(m_library, m_question.change);
+    Trial trial;
+    trial.reason = changer.apply(file);
+    for (const ViewDifference& each : changer.differences())
+        trial.details += (trial.details.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " +
+                         each.before + " -> " + each.after;
+    for (const std::string& note : changer.notes())
+        trial.note += (trial.note.empty() ? "" : "; ") + note;
+    return trial;
+}
+
+std::string CheckTeller::failureInJson(const std::string& file, const std::string& reason)
+{
+    return inJson(file, "failed", reason, {{"before", QJsonObject()}, {"after", QJsonObject()}});
+}
+
+} // namespace host

@@ -1,0 +1,62 @@
+#include "DocumentReader.h"
+
+#include "host/program/InstallLayout.h"
+#include "host/workers/Record.h"
+
+#include "pdflibrary/ErrorCodes.h"
+#include "pdflibrary/FileNameCodec.h"
+
+#include <stdexcept>
+
+namespace host {
+
+std::string Reading::toRecord() const
+{
+    return RecordWriter().add(static_cast<std::int64_t>(kind)).add(text).add(note).bytes();
+}
+
+std::optional<Reading> Reading::fromRecord(const std::string& record)
+{
+    RecordReader reader(record);
+    const std::int64_t kind = reader.number();
+    std::string text = reader.text();
+    std::string note = reader.text();
+    if (!reader.complete() || kind < Good || kind > Failed)
+        return std::nullopt;
+    return Reading{static_cast<Kind>(kind), std::move(text), std::move(note)};
+}
+
+DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, std::string password,
+                               const MakeTeller& makeTeller)
+    : m_documents(documents), m_password(std::move(password)),
+      m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
+{
+    if (!m_library.LibraryLoaded())
+        throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
+    m_teller = makeTeller(m_library);
+}
+
+Worker::Answer DocumentReader::answer(std::size_t piece, WorkerSlot&)
+{
+    const RunPlan::Document& document = m_documents[piece];
+    if (!document.problem.empty())
+        return {Reading{Reading::Failed, document.problem}.toRecord()};
+    if (m_library.LoadFromFile(engine::wideFromFileName(document.name),
+                               engine::wideFromFileName(m_password)) == 0) {
+        const int code = m_library.LastErrorCode();
+        return {Reading{Reading::Failed, std::string(engine::errorText(code))}.toRecord(),
+                code == static_cast<int>(engine::ErrorCode::OutOfMemory)};
+    }
+    const int id = m_library.SelectedDocument();
+    m_library.SelectDocument(id);
+    Reading reading;
+    try {
+        reading = m_teller->tell(document.name);
+    } catch (const std::runtime_error& error) {
+        reading = {Reading::Failed, error.what()};
+    }
+    m_library.RemoveDocument(id);
+    return {reading.toRecord()};
+}
+
+} // namespace host

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "host/run/RunPlan.h"
+#include "host/workers/WorkerPool.h"
+
+#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// What there is to tell of a document that a worker has read.
+struct Reading
+{
+    enum Kind { Good, Differs, Failed };
+    Kind kind = Failed;
+    /// For standard output; of a document that failed why, as it is.
+    std::string text;
+    /// What may be a mistake, as it is; may be empty.
+    std::string note = {};
+
+    std::string toRecord() const;
+    static std::optional<Reading> fromRecord(const std::string& record);
+};
+
+/// Tells of the selected document of a library. What it does to the document is lost with it.
+class DocumentTeller
+{
+public:
+    virtual ~DocumentTeller() = default;
+    virtual Reading tell(const std::string& file) = 0;
+};
+
+/// Lives in a worker process; the library outlives the teller.
+using MakeTeller = std::function<std::unique_ptr<DocumentTeller>(TelvarPDFLibraryCPDylibCPP1311& library)>;
+
+/// Reads one document after the other, in a process of its own: the documents may be anybody's.
+class DocumentReader : public Worker
+{
+public:
+    /// All but the password must outlive the object. Throws std::runtime_error when the library cannot be
+    /// used.
+    DocumentReader(const std::vector<RunPlan::Document>& documents, std::string password,
+                   const MakeTeller& makeTeller);
+
+    Answer answer(std::size_t piece, WorkerSlot& slot) override;
+
+private:
+    const std::vector<RunPlan::Document>& m_documents;
+    std::string m_password;
+    TelvarPDFLibraryCPDylibCPP1311 m_library;
+    std::unique_ptr<DocumentTeller> m_teller;
+};
+
+} // namespace host

@@ -1,0 +1,65 @@
+#include "ReadingRun.h"
+
+#include "host/program/InstallLayout.h"
+#include "host/terminal/ExitStatus.h"
+#include "host/terminal/TerminalText.h"
+#include "host/workers/StopSignal.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace host {
+
+namespace {
+
+Reading readingOf(const WorkOutcome& outcome)
+{
+    if (outcome.kind != WorkOutcome::Answered)
+        return {Reading::Failed, outcome.text};
+    return Reading::fromRecord(outcome.text)
+        .value_or(Reading{Reading::Failed, "the worker process gave no proper answer"});
+}
+
+} // namespace
+
+int ReadingRun::run(const MakeTeller& makeTeller)
+{
+    // Kept open, so that every worker finds the library in memory.
+    const std::string libraryFile = installlayout::libraryFile();
+    const TelvarPDFLibraryCPDylibCPP1311 library(installlayout::toLibraryPath(libraryFile));
+    if (!library.LibraryLoaded())
+        throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
+
+    const std::vector<RunPlan::Document>& documents = m_plan.documents();
+    WorkerPool::Limits limits = m_options.limits;
+    limits.workers = static_cast<int>(
+        std::clamp<std::size_t>(documents.size(), 1, static_cast<std::size_t>(limits.workers)));
+    StopSignal stop;
+    WorkerPool pool(
+        limits, [&] { return std::make_unique<DocumentReader>(documents, m_options.password, makeTeller); });
+    pool.run(
+        documents.size(), [this](std::size_t place, const WorkOutcome& outcome) { ended(place, outcome); },
+        stop);
+    m_output.finish();
+    if (stop.count() > 0)
+        return exitstatus::stopped;
+    return count(Reading::Good) < documents.size() ? exitstatus::someFailed : exitstatus::done;
+}
+
+void ReadingRun::ended(std::size_t place, const WorkOutcome& outcome)
+{
+    const std::string& file = m_plan.documents()[place].name;
+    Reading reading = readingOf(outcome);
+    ++m_counts.at(reading.kind);
+    const std::string about = forTerminal(file) + ": ";
+    std::string errors;
+    if (reading.kind == Reading::Failed) {
+        errors = "quintar: " + about + forTerminal(reading.text) + "\n";
+        reading.text = m_options.failureLine ? m_options.failureLine(file, reading.text) : std::string();
+    }
+    if (!reading.note.empty() && !m_options.quiet)
+        errors += "quintar: note: " + about + forTerminal(reading.note) + "\n";
+    m_output.add(place, std::move(reading.text), std::move(errors));
+}
+
+} // namespace host

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "DocumentReader.h"
+#include "OrderedOutput.h"
+#include "host/workers/WorkerPool.h"
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <string>
+
+namespace host {
+
+/// Has documents read by worker processes, many at a time, and prints in the documents' order what there is
+/// to tell of them: the texts, and on standard error failures and notes.
+class ReadingRun
+{
+public:
+    /// Has a line for standard output when a document cannot be read; empty for none.
+    using FailureLine = std::function<std::string(const std::string& file, const std::string& reason)>;
+
+    struct Options
+    {
+        std::string password;
+        WorkerPool::Limits limits;
+        /// Prints no notes.
+        bool quiet = false;
+        /// Null for failures on standard error alone.
+        FailureLine failureLine = nullptr;
+    };
+
+    /// The plan must outlive the object.
+    ReadingRun(const RunPlan& plan, Options options) : m_plan(plan), m_options(std::move(options)) {}
+
+    /// \returns the exit status. Throws std::runtime_error when the library cannot be used; OutputError.
+    int run(const MakeTeller& makeTeller);
+
+    /// How many documents were of a kind.
+    std::size_t count(Reading::Kind kind) const { return m_counts.at(kind); }
+
+private:
+    void ended(std::size_t place, const WorkOutcome& outcome);
+
+    const RunPlan& m_plan;
+    Options m_options;
+    OrderedOutput m_output;
+    std::array<std::size_t, 3> m_counts{};
+};
+
+} // namespace host

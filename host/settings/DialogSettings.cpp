@@ -1,0 +1,180 @@
+#include "DialogSettings.h"
+
+#include "host/change/ViewValues.h"
+
+#include "EditInitialView/InitialViewSettings.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace host {
+
+namespace {
+
+using namespace initialview;
+
+const int noRow = -1;
+
+struct Preference
+{
+    const char* key;
+    ViewEntry entry;
+};
+
+constexpr std::array preferences{
+    Preference{key::HideToolBars, ViewEntry::HideToolbar},
+    Preference{key::HideMenuBar, ViewEntry::HideMenubar},
+    Preference{key::HideCtrlWindows, ViewEntry::HideWindowUI},
+    Preference{key::ResizeWinToInitPage, ViewEntry::FitWindow},
+    Preference{key::CenterWinOnScreen, ViewEntry::CenterWindow},
+    Preference{key::Show, ViewEntry::DisplayDocTitle},
+};
+
+/// Preferences that have no widget.
+constexpr std::array hiddenEntries{ViewEntry::Direction, ViewEntry::PrintScaling, ViewEntry::Duplex,
+                                   ViewEntry::PickTrayByPDFSize, ViewEntry::NumCopies};
+
+/// The row of a list or the page; nothing where none is chosen.
+std::optional<int> chosenNumber(const SettingsMap& settings, const char* name)
+{
+    const Key& key = *findKey(name);
+    const QVariant value = settings.value(name);
+    const int number = value.toInt();
+    const bool isChosen = value.isValid() && number >= key.lowest && number <= key.highest;
+    return isChosen ? std::optional(number) : std::nullopt;
+}
+
+Magnification magnificationOf(int row)
+{
+    return {destinationTypeOfRow(row), double(zoomOfRow(row))};
+}
+
+int rowOf(const Magnification& magnification)
+{
+    for (int row = 0; row < static_cast<int>(magnificationLabels.size()); ++row)
+        if (magnificationOf(row) == magnification)
+            return row;
+    return noRow;
+}
+
+void addLayout(const SettingsMap& settings, ViewChange& view)
+{
+    if (const auto row = chosenNumber(settings, key::NavigationTab); row)
+        view.set(ViewEntry::PageMode, pageModeOfRow(*row));
+    if (const auto row = chosenNumber(settings, key::PageLayout); row)
+        view.set(ViewEntry::PageLayout, *row == pdflibrary::NoPageLayout ? ViewValue() : ViewValue(*row));
+    if (const auto row = chosenNumber(settings, key::Magnification); row)
+        view.set(ViewEntry::Zoom, magnificationOf(*row));
+    if (const auto page = chosenNumber(settings, key::OpenToPage); page)
+        view.set(ViewEntry::OpenPage, *page);
+}
+
+void addPreferences(const SettingsMap& settings, ViewChange& view)
+{
+    for (const Preference& each : preferences)
+        if (const auto value = chosenNumber(settings, each.key); value)
+            view.set(each.entry, *value);
+    if (!settings.value(key::OpenInFullScreen).toBool())
+        return;
+    if (const auto panel = view[ViewEntry::PageMode]; panel) // shows again when full screen is left
+        view.set(ViewEntry::NonFullScreenPageMode, *panel);
+    view.set(ViewEntry::PageMode, pdflibrary::FullScreen);
+}
+
+} // namespace
+
+DialogSettings::DialogSettings(const ViewChange& present, const std::string& openAction) : m_present(present)
+{
+    m_map = {{key::LayoutAndMagn, true}, {key::ViewerPrefs, true}};
+    showPageMode();
+    m_map.insert(key::PageLayout, number(ViewEntry::PageLayout, pdflibrary::NoPageLayout));
+    showOpenAction(openAction);
+    showPreferences();
+    noteHidden();
+}
+
+int DialogSettings::number(ViewEntry entry, int absent) const
+{
+    const std::optional<ViewValue>& value = m_present[entry];
+    const int* number = value ? std::get_if<int>(&*value) : nullptr;
+    return number != nullptr ? *number : absent;
+}
+
+/// In full screen the panel is the one that shows when it is left.
+void DialogSettings::showPageMode()
+{
+    const bool isFullScreen = number(ViewEntry::PageMode, pdflibrary::PageOnly) == pdflibrary::FullScreen;
+    const ViewEntry panel = isFullScreen ? ViewEntry::NonFullScreenPageMode : ViewEntry::PageMode;
+    m_map.insert(key::NavigationTab, rowOfPageMode(number(panel, pdflibrary::PageOnly)));
+    m_map.insert(key::OpenInFullScreen, isFullScreen);
+}
+
+void DialogSettings::showOpenAction(const std::string& kind)
+{
+    const int page = number(ViewEntry::OpenPage, firstPage);
+    const std::optional<ViewValue>& zoom = m_present[ViewEntry::Zoom];
+    const auto* magnification = zoom ? std::get_if<Magnification>(&*zoom) : nullptr;
+    const bool isOther = magnification == nullptr && !kind.empty();
+    const int row = isOther ? noRow : rowOf(magnification != nullptr ? *magnification : Magnification());
+    m_map.insert(key::Magnification, row);
+    m_map.insert(key::OpenToPage, std::clamp(page, firstPage, lastPage));
+    if (isOther)
+        m_notes.push_back(
+            "it opens with an action (" + kind +
+            ") that the window cannot show; it stays unless a magnification or another page is chosen");
+    else if (row == noRow)
+        m_notes.push_back("the window has no row for its magnification, " +
+                          viewvalues::wordOf(ViewEntry::Zoom, *zoom) + "; it stays unless one is chosen");
+    if (page > lastPage)
+        m_notes.push_back("the window cannot show its opening page, " + std::to_string(page) +
+                          "; it stays unless another is chosen");
+}
+
+void DialogSettings::showPreferences()
+{
+    for (const Preference& each : preferences) {
+        const int value = number(each.entry, 0);
+        const bool isFlag = findKey(each.key)->type == ValueType::Flag;
+        m_map.insert(each.key, isFlag ? QVariant(value == 1) : QVariant(value));
+    }
+}
+
+void DialogSettings::noteHidden()
+{
+    std::string list;
+    for (const ViewEntry each : hiddenEntries)
+        if (const auto& value = m_present[each]; value && *value != ViewValue(Unset()))
+            list += (list.empty() ? "" : ", ") + viewentries::label(each) + " (" +
+                    viewvalues::wordOf(each, *value) + ")";
+    if (!list.empty())
+        m_notes.push_back("the window does not show everything that it has, and leaves it: " + list);
+}
+
+ViewChange DialogSettings::changeTo(const SettingsMap& chosen) const
+{
+    SettingsMap settings = m_map;
+    for (const Key& each : keys)
+        if (each.group != nullptr && chosen.value(each.group).toBool())
+            settings.insert(each.name, chosen.value(each.name));
+    ViewChange change = viewOf(settings);
+    ViewChange shown = viewOf(m_map);
+    shown.set(ViewEntry::NonFullScreenPageMode,
+              number(ViewEntry::NonFullScreenPageMode, pdflibrary::PageOnly));
+    for (const viewentries::Description& each : viewentries::all())
+        if (change[each.entry] == shown[each.entry])
+            change.remove(each.entry);
+    return change;
+}
+
+ViewChange DialogSettings::viewOf(const SettingsMap& settings)
+{
+    ViewChange view;
+    if (settings.value(key::LayoutAndMagn).toBool())
+        addLayout(settings, view);
+    if (settings.value(key::ViewerPrefs).toBool())
+        addPreferences(settings, view);
+    return view;
+}
+
+} // namespace host

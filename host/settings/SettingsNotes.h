@@ -1,0 +1,20 @@
+#pragma once
+
+#include "SettingsFile.h"
+
+#include <string>
+#include <vector>
+
+/// What a user should know of settings that the action takes as they are.
+namespace host::settingsnotes {
+
+/// What holds for every document: numbers that no dialog offers, groups
+std::vector<std::string> about(const SettingsMap& settings);
+
+/// The rows that are left out and that the action takes for the first ones; empty when there are none.
+std::string aboutRowsLeftOut(const std::vector<ActionEntry>& entries);
+
+/// What becomes of the page in a document that does not have it; empty when it has.
+std::string aboutPage(const std::vector<ActionEntry>& entries, int pageCount);
+
+} // namespace host::settingsnotes

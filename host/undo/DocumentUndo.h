@@ -1,0 +1,58 @@
+#pragma once
+
+#include "UndoPlan.h"
+
+#include "host/files/FileDescriptor.h"
+
+#include <sys/stat.h>
+
+#include <string>
+#include <vector>
+
+namespace host {
+
+struct UndoResult
+{
+    enum Kind {
+        Undone,
+        UndoneAlready,
+        NothingDone, ///< The run ended before it changed the document.
+        LeftAlone
+    };
+
+    Kind kind = LeftAlone;
+    /// Why the document, or an older update of one that was undone, is left alone; else empty.
+    std::string reason = {};
+    /// What the user should know of a document that was undone; may be empty.
+    std::string note = {};
+};
+
+/// Cuts the updates that a run has appended off a document, newest first, as far as the document is what the
+/// report says: its size, its time, and the checksum of what stood before each update. It then has every
+/// byte, the mode and the time of change that it had, and another file number.
+class DocumentUndo
+{
+public:
+    /// The plan's document must outlive the object.
+    explicit DocumentUndo(const UndoPlan::Document& document) : m_document(document) {}
+
+    /// \param dryRun writes nothing, and tells what would be. A failure of any kind leaves the document as it
+    /// was.
+    UndoResult perform(bool dryRun);
+
+private:
+    std::string open();
+    void follow();
+    std::string whyNotCut() const;
+    UndoResult cut() const;
+
+    const UndoPlan::Document& m_document;
+    FileDescriptor m_file;
+    struct stat m_present = {};
+    std::vector<const AppendedUpdate*> m_cuts; ///< The newest first.
+    bool m_isBefore = false;                   ///< The document is as it was before some update,
+    bool m_undoneAlready = false;              ///< and one that the run has made.
+    bool m_olderStays = false;
+};
+
+} // namespace host

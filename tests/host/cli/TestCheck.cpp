@@ -1,0 +1,257 @@
+// What the program tells of documents that it only reads, as a user sees it.
+#include "host/reading/OrderedOutput.h"
+#include "support/PdfBuilder.h"
+#include "support/ProgramRun.h"
+#include "support/Rows.h"
+#include "support/WorkFolder.h"
+
+#include <QtTest>
+
+#include <fcntl.h>
+
+namespace {
+
+const std::string everything =
+    "/PageMode /UseOC /PageLayout /TwoPageRight /OpenAction [ 4 0 R /XYZ 0 792 1.5 ] /Lang (de-CH) "
+    "/ViewerPreferences << /HideToolbar true /NonFullScreenPageMode /UseThumbs /Direction /R2L /Duplex "
+    "/DuplexFlipLongEdge /NumCopies 3 /PrintScaling /None /PickTrayByPDFSize true >>";
+
+std::string titled(const std::string& catalog, const std::string& title)
+{
+    return PdfBuilder()
+        .catalog(catalog)
+        .pages(3)
+        .object(9, "<< /Title (" + title + ") >>")
+        .trailer("/Info 9 0 R")
+        .bytes();
+}
+
+const std::string script = "/OpenAction << /S /JavaScript /JS (app.alert\\(1\\)) >>";
+
+} // namespace
+
+class TestCheck : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder.reset(); // which leaves its folder
+        m_folder = std::make_unique<WorkFolder>();
+        WorkFolder::put("d/all.pdf", titled(everything, "Everything"));
+        WorkFolder::put("d/plain.pdf", PdfBuilder::simple());
+        WorkFolder::put("d/sub/script.pdf", PdfBuilder::simple(script));
+    }
+
+    void showsEveryEntry()
+    {
+        const ProgramRun words = quintar({"show", "d/all.pdf", "d/sub/script.pdf"});
+        for (const char* line :
+             {"  Reading direction              r2l\n", "  Print scaling                  none\n",
+              "  Two-sided printing             duplex-flip-long-edge\n",
+              "  Paper tray by page size        yes\n", "  Copies                         3\n",
+              "  Title                          Everything\n", "  Language                       de-CH\n",
+              "  Copies                         not set in document\n",
+              "  Open action                    JavaScript, no page of the document\n"})
+            QVERIFY2(words.out.contains(line), words.out);
+        const QJsonObject action{{"action", "JavaScript"}};
+        QCOMPARE(shown("d/sub/script.pdf").value("openAction").toObject(), action);
+    }
+
+    void showsTheTitleOfTheMetadata()
+    {
+        const std::string packet =
+            "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF "
+            "xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\"><rdf:Description rdf:about=\"\" "
+            "xmlns:dc=\"http://purl.org/dc/elements/1.1/\"><dc:title><rdf:Alt><rdf:li "
+            "xml:lang=\"x-default\">In "
+            "XMP</rdf:li></rdf:Alt></dc:title></rdf:Description></rdf:RDF></x:xmpmeta>";
+        WorkFolder::put("xmp.pdf", PdfBuilder()
+                                       .catalog("/Metadata 9 0 R")
+                                       .pages(1)
+                                       .stream(9, "/Type /Metadata /Subtype /XML", packet)
+                                       .bytes());
+        QCOMPARE(shown("xmp.pdf").value("title"), QJsonValue("In XMP"));
+        const QByteArray note = "its title is to be shown, and it has none";
+        QVERIFY(!quintar({"check", "--display-doc-title", "yes", "xmp.pdf"}).err.contains(note));
+        QVERIFY(quintar({"check", "--display-doc-title", "yes", "d/plain.pdf"}).err.contains(note));
+    }
+
+    void shownJsonIsAView()
+    {
+        WorkFolder::put("view.json", quintar({"show", "--json", "d/all.pdf"}).out.toStdString());
+        QCOMPARE(quintar({"check", "--view", "view.json", "d/all.pdf"}).status, 0);
+        QCOMPARE(quintar({"run", "--view", "view.json", "--in-place", "d/plain.pdf"}).status, 0);
+        QJsonObject all = shown("d/all.pdf");
+        QJsonObject changed = shown("d/plain.pdf");
+        all.remove("file");
+        changed.remove("file");
+        QCOMPARE(changed, all);
+        WorkFolder::put("view.json", quintar({"show", "--json", "d/sub/script.pdf"}).out.toStdString());
+        const ProgramRun refused = quintar({"check", "--view", "view.json", "d"});
+        QCOMPARE(refused.status, 2);
+        QVERIFY2(refused.err.contains("cannot be \"JavaScript\""), refused.err);
+    }
+
+    void tablesFitTheTerminal()
+    {
+        const QByteArray wide = quintar({"show", "--table", "d"}).out;
+        QCOMPARE(wide, QByteArray("PANEL       LAYOUT           PAGE  ZOOM        TITLE FILE\n"
+                                  "layers      two-page-right   2     150%        -     d/all.pdf\n"
+                                  "-           -                -     -           -     d/plain.pdf\n"
+                                  "-           -                -     JavaScript  -     d/sub/script.pdf\n"));
+        for (const int columns : {64, 30, 9, 1}) {
+            const QString shell =
+                QString("COLUMNS=%1 LC_ALL=C.UTF-8 exec \"$0\" show --table d").arg(columns);
+            const ProgramRun run("sh", {"-c", shell, PROGRAM_FILE}, m_folder->path());
+            for (const QString& line : QString::fromUtf8(run.out).split('\n'))
+                QVERIFY2(line.size() <= columns, qPrintable(line));
+            QVERIFY2(columns < 60 || run.out.contains("\xe2\x80\xa6"
+                                                      "script.pdf\n"),
+                     run.out);
+        }
+    }
+
+    void readsManyInTheirOrder()
+    {
+        QByteArray names;
+        for (int number = 0; number < 60; ++number) {
+            const QByteArray name = "m" + QByteArray::number(number) + ".pdf";
+            // Those in front take longest.
+            WorkFolder::put(name.toStdString(), PdfBuilder::simple("", number < 4 ? 3000 : 1));
+            names += name + '\0';
+        }
+        names += "missing.pdf";
+        for (const char* jobs : {"1", "7"}) {
+            const ProgramRun run =
+                quintar({"show", "--json", "--files-from", "-", "--null", "-j", jobs}, names);
+            QCOMPARE(run.status, 1);
+            QCOMPARE(run.err, QByteArray("quintar: missing.pdf: no such file or directory\n"));
+            QByteArray shown;
+            for (const QJsonObject& object : ProgramRun::jsonLines(run.out))
+                shown += object.value("file").toString().toUtf8() + '\0';
+            QCOMPARE(shown + "missing.pdf", names);
+        }
+    }
+
+    void aCostlyDocumentCostsItself()
+    {
+        WorkFolder::put("d/long.pdf", titled("", std::string(300000, 'x')));
+        const ProgramRun run = quintar({"show", "-j", "1", "d"});
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.err.startsWith("quintar: d/long.pdf: what there is to tell") && run.err.count('\n') == 1,
+                 run.err);
+        QVERIFY(run.out.contains("d/plain.pdf\n") && run.out.contains("d/sub/script.pdf\n"));
+    }
+
+    void tellsHowDocumentsDiffer_data()
+    {
+        const Rows<QStringList, QByteArray> row;
+        row("page mode", {"--page-mode", "bookmarks"},
+            "d/all.pdf: page mode: use-oc -> use-outlines\n"
+            "d/plain.pdf: page mode: unset -> use-outlines\n"
+            "d/sub/script.pdf: page mode: unset -> use-outlines\n0 as asked, 3 not, 0 failed\n");
+        row("a default is as good as nothing", {"--hide-menubar", "no"}, "3 as asked, 0 not, 0 failed\n");
+        row("an action", {"--open-page", "1", "--zoom", "150%"},
+            "d/all.pdf: open page: 2 -> 1\nd/plain.pdf: open page: unset -> 1; zoom: unset -> 150%\n"
+            "d/sub/script.pdf: open page: JavaScript -> 1; zoom: unset -> 150%\n"
+            "0 as asked, 3 not, 0 failed\n");
+        row("no such page", {"--open-page", "4", "-q"},
+            "d/all.pdf: it has 3 pages, so it cannot open at page 4\n"
+            "d/plain.pdf: it has 3 pages, so it cannot open at page 4\n"
+            "d/sub/script.pdf: it has 3 pages, so it cannot open at page 4\n");
+        row("the title", {"--title", "Everything", "--title-if-missing"},
+            "d/plain.pdf: title: unset -> Everything\n"
+            "d/sub/script.pdf: title: unset -> Everything\n1 as asked, 2 not, 0 failed\n");
+        row("another one's view", {"--like", "d/plain.pdf", "-q"},
+            "d/all.pdf: page mode: use-oc -> unset; page layout: two-page-right -> unset; open page: 2 -> "
+            "unset; zoom: 150% -> unset; hide toolbar: yes -> unset; non full "
+            "screen page mode: use-thumbs -> unset; direction: r2l -> unset; print scaling: none -> unset; "
+            "duplex: duplex-flip-long-edge -> unset; pick tray by pdf size: yes -> unset; num copies: 3 -> "
+            "unset\nd/sub/script.pdf: open page: JavaScript -> unset\n");
+        row("settings", {"--set", "ViewerPrefsCheckBox=1", "--set", "HideToobarsCheckBox=1", "-q"},
+            "d/plain.pdf: hide toolbar: unset -> yes\nd/sub/script.pdf: hide toolbar: unset -> yes\n");
+    }
+
+    void tellsHowDocumentsDiffer()
+    {
+        const auto [asked, told] = Rows<QStringList, QByteArray>::current();
+        const QByteArray before = contents();
+        const ProgramRun run = quintar(QStringList{"check"} + asked + QStringList{"d"});
+        QCOMPARE(run.out, told);
+        QCOMPARE(run.status, told.contains("->") || told.contains("cannot") ? 1 : 0);
+        QCOMPARE(contents(), before);
+
+        // What a run has changed is as asked, wherever it can be.
+        if (told.contains("cannot"))
+            return;
+        QCOMPARE(quintar(QStringList{"run", "--in-place"} + asked + QStringList{"d"}).status, 0);
+        QCOMPARE(quintar(QStringList{"check"} + asked + QStringList{"d"}).status, 0);
+    }
+
+    void tellsInJson()
+    {
+        WorkFolder::put("d/bad.pdf", "no document");
+        const ProgramRun run = quintar({"check", "--json", "--page-mode", "layers", "d"});
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.err.startsWith("quintar: d/bad.pdf: "), run.err);
+        const QList<QJsonObject> lines = ProgramRun::jsonLines(run.out);
+        QCOMPARE(lines.size(), 4);
+        QCOMPARE(lines[0].value("status"), QJsonValue("as asked"));
+        QCOMPARE(lines[1].value("status"), QJsonValue("failed"));
+        QVERIFY(!lines[1].value("reason").toString().isEmpty());
+        QCOMPARE(lines[2].value("status"), QJsonValue("differs"));
+        QCOMPARE(lines[2].value("before").toObject(), (QJsonObject{{"pageMode", QJsonValue()}}));
+        QCOMPARE(lines[2].value("after").toObject(), (QJsonObject{{"pageMode", "UseOC"}}));
+    }
+
+    void whatWaitsIsPrintedWhole()
+    {
+        // More than waits in memory, so that part of it comes back from a file.
+        const std::size_t count = 200;
+        const auto textOf = [](std::size_t place) {
+            return std::to_string(place) + std::string(host::OrderedOutput::mostInMemory / 100, 'x') + "\n";
+        };
+        std::string whole;
+        const std::string file = m_folder->path("printed").toStdString();
+        const int out = dup(STDOUT_FILENO);
+        const int printed = open(file.c_str(), O_CREAT | O_RDWR | O_CLOEXEC, 0600);
+        dup2(printed, STDOUT_FILENO);
+        host::OrderedOutput output;
+        for (std::size_t place = count; place-- > 0;)
+            if (place != 7)
+                output.add(place, textOf(place));
+        output.finish();
+        dup2(out, STDOUT_FILENO);
+        ::close(out);
+        ::close(printed);
+        for (std::size_t place = 0; place < count; ++place)
+            whole += place == 7 ? "" : textOf(place);
+        QVERIFY(WorkFolder::contentOf(file) == whole);
+    }
+
+private:
+    ProgramRun quintar(const QStringList& arguments, const QByteArray& input = QByteArray()) const
+    {
+        return ProgramRun(PROGRAM_FILE, arguments, m_folder->path(), input);
+    }
+
+    QJsonObject shown(const QString& file) const
+    {
+        return ProgramRun::jsonLines(quintar({"show", "--json", file}).out).value(0);
+    }
+
+    static QByteArray contents()
+    {
+        std::string bytes;
+        for (const char* file : {"d/all.pdf", "d/plain.pdf", "d/sub/script.pdf"})
+            bytes += WorkFolder::contentOf(file);
+        return QByteArray::fromStdString(bytes);
+    }
+
+    std::unique_ptr<WorkFolder> m_folder;
+};
+
+QTEST_GUILESS_MAIN(TestCheck)
+#include "TestCheck.moc"
