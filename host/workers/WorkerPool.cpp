@@ -251,7 +251,11 @@ void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
         }
     waiting.push_back({stop.descriptor(), POLLIN, 0});
     nap();
-    poll(waiting.data(), waiting.size(), millisecondsToNextDeadline());
+    if (poll(waiting.data(), waiting.size(), millisecondsToNextDeadline()) < 0 && errno != EINTR) {
+        std::this_thread::sleep_for(napTime); // the kernel is short of memory: ask each, none of them blocks
+        for (pollfd& each : waiting)
+            each.revents = POLLIN;
+    }
 
     for (std::size_t index = 0; index < running.size(); ++index)
         if (waiting[index].revents != 0)
