@@ -129,8 +129,11 @@ WorkerPool::~WorkerPool()
 {
     for (Process& process : m_processes) // there are any only when `run` was left by an exception
         if (process.isRunning())
-            end(
-                process, [](std::size_t, const WorkOutcome&) {}, WorkOutcome::Stopped);
+            try {
+                end(
+                    process, [](std::size_t, const WorkOutcome&) {}, WorkOutcome::Stopped);
+            } catch (const std::bad_alloc&) { // it has ended all the same; who waits for its news has gone
+            }
 }
 
 void WorkerPool::run(std::size_t count, const Done& done, StopSignal& stop)
