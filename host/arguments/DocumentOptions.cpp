@@ -16,6 +16,7 @@ namespace host {
 namespace {
 
 const std::size_t largestPasswordFile = 64 << 10;
+const std::size_t largestList = 512 << 20; // millions of names, and an end for a device that has none
 
 std::string readLines(const std::string& path, std::size_t limit, const char* what)
 {
@@ -86,7 +87,7 @@ void DocumentOptions::readPassword()
 
 void DocumentOptions::readList()
 {
-    const std::string bytes = readLines(*m_list, std::string::npos / 2, "the list of documents");
+    const std::string bytes = readLines(*m_list, largestList, "the list of documents");
     m_filesRead.push_back(*m_list);
     if (!m_nullSeparated && bytes.find('\0') != std::string::npos)
         throw UsageError("the list of documents " + *m_list +

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <new>
 #include <set>
 #include <stdexcept>
 
@@ -82,7 +83,13 @@ int BatchRun::run(const WorkerPool::Limits& limits)
     planJobs();
     if (!m_options.dryRun)
         removeLeftovers();
-    runJobs(plugin.action(), libraryFile, limits);
+    try {
+        runJobs(plugin.action(), libraryFile, limits);
+    } catch (const std::bad_alloc&) { // not for main: to it, nothing has been begun
+        m_progress.reset();
+        complainInLines("the run ended early, for it is out of memory; some documents may have been changed");
+        return exitstatus::someFailed;
+    }
     m_progress.reset();
     sumUp();
     return exitStatus();

@@ -129,8 +129,11 @@ WorkerPool::~WorkerPool()
 {
     for (Process& process : m_processes) // there are any only when `run` was left by an exception
         if (process.isRunning())
-            end(
-                process, [](std::size_t, const WorkOutcome&) {}, WorkOutcome::Stopped);
+            try {
+                end(
+                    process, [](std::size_t, const WorkOutcome&) {}, WorkOutcome::Stopped);
+            } catch (const std::bad_alloc&) { // it has ended all the same; who waits for its news has gone
+            }
 }
 
 void WorkerPool::run(std::size_t count, const Done& done, StopSignal& stop)
@@ -251,7 +254,11 @@ void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
         }
     waiting.push_back({stop.descriptor(), POLLIN, 0});
     nap();
-    poll(waiting.data(), waiting.size(), millisecondsToNextDeadline());
+    if (poll(waiting.data(), waiting.size(), millisecondsToNextDeadline()) < 0 && errno != EINTR) {
+        std::this_thread::sleep_for(napTime); // the kernel is short of memory: ask each, none of them blocks
+        for (pollfd& each : waiting)
+            each.revents = POLLIN;
+    }
 
     for (std::size_t index = 0; index < running.size(); ++index)
         if (waiting[index].revents != 0)

@@ -219,6 +219,7 @@ private slots:
         row("signed", "run -o out --signed maybe a.pdf" + set, "refuse, append or append-certified");
         row("rewriting in place", "run --in-place --rewrite a.pdf" + set, "--rewrite goes with -o");
         row("null without list", "run -o out --null a.pdf" + set, "--files-from");
+        row("endless list", "run -o out --files-from /dev/zero" + set, "too large");
         row("empty name", "run -o out ''" + set, "empty");
     }
 
