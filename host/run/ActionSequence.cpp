@@ -28,11 +28,11 @@ std::string ActionSequence::apply()
     return {};
 }
 
-int ActionSequence::call(Call call, const ActionEntry& entry)
+int ActionSequence::call(Call operation, const ActionEntry& entry)
 {
     SettingsMap settings = entry.settings;
     WorkProcInfoStruct info{&m_library, &m_errors, {}, &settings};
-    return (m_action.*call)(&info);
+    return (m_action.*operation)(&info);
 }
 
 } // namespace host

@@ -31,7 +31,7 @@ public:
 private:
     using Call = int (CActionInterface::*)(WorkProcInfoStruct*);
 
-    int call(Call call, const ActionEntry& entry);
+    int call(Call operation, const ActionEntry& entry);
 
     CActionInterface& m_action;
     TelvarPDFLibraryCPDylibCPP1311& m_library;
