@@ -211,15 +211,14 @@ private slots:
         for (int number = 0; number < 30; ++number)
             WorkFolder::put("in/" + std::to_string(number) + ".pdf", PdfBuilder::simple());
         const Snapshots before = snapshots();
-        std::size_t changed = 0;
+        int changed = 0;
         for (int round = 1; round <= 6; ++round) {
             QProcess process;
             process.start(PROGRAM_FILE, runWords("thumbs", "report") << "--jobs"
                                                                      << "3");
             QVERIFY(process.waitForStarted());
             const auto lines = [] { return ProgramRun::jsonLines(reportText("report")).size(); };
-            for (int wait = 0; wait < 2000 && lines() < static_cast<std::size_t>(round) * 6 &&
-                               process.state() == QProcess::Running;
+            for (int wait = 0; wait < 2000 && lines() < round * 6 && process.state() == QProcess::Running;
                  ++wait)
                 QTest::qWait(1);
             process.kill();
