@@ -58,8 +58,9 @@ host::Command& commandNamed(const Commands& commands, const std::string& word)
             return *command;
     if (word.empty())
         throw host::UsageError("which command?\n\n" + host::helptext::program());
-    throw host::UsageError("unknown command \"" + word + "\"" +
-                           host::suggestion::didYouMean(word, host::options::commandNames()) +
+    std::vector<std::string> known = host::options::commandNames();
+    known.insert(known.end(), {"help", "--help", "--help-all", "--version"});
+    throw host::UsageError("unknown command \"" + word + "\"" + host::suggestion::didYouMean(word, known) +
                            "\n\"quintar --help\" lists the commands");
 }
 

@@ -59,7 +59,7 @@ const std::array<Description, viewEntryCount> entries{{
     {ViewEntry::PageLayout, Kind::Name, "PageLayout", "page-layout", "LAYOUT",
      "how the pages are laid out", "", 0, pageLayouts, true},
     {ViewEntry::OpenPage, Kind::Page, "page", "open-page", "N|last|unset",
-     "the page that is shown first", "unset takes the open action away", 0, {}, true},
+     "the page that is shown first", "with unset the open action is taken away", 0, {}, true},
     {ViewEntry::Zoom, Kind::Magnification, "zoom", "zoom", "ZOOM",
      "the magnification of the first view", "a percentage from 1% to 6400%, or how the page fits", 0, {}, false},
     {ViewEntry::HideToolbar, Kind::Flag, "HideToolbar", "hide-toolbar", "FLAG",

@@ -121,7 +121,7 @@ std::string examplesSection(const std::vector<options::Example>& examples)
     std::string text = ".Sh EXAMPLES\n";
     for (const options::Example& each : examples)
         text += sentence(each.purpose.substr(0, each.purpose.find_last_not_of('.') + 1) + ":.") +
-                ".Pp\n.Dl " + plain(each.command) + "\n.Pp\n";
+                ".Pp\n.Dl " + quoted(each.command) + "\n.Pp\n";
     text.erase(text.size() - 4); // no space before the next section
     for (std::size_t at; (at = text.find(":.\n")) != std::string::npos;)
         text.erase(at + 1, 1);

@@ -45,9 +45,10 @@ std::string choicesOf(const Key& key, const std::string& separator)
 
 [[noreturn]] void refuseValue(const Key& key, const std::string& value)
 {
+    const std::string choices = choicesOf(key, "\n  ");
     throw UsageError(std::string(key.name) + " cannot be \"" + value + "\"" +
-                     suggestion::didYouMean(value, {key.rows.begin(), key.rows.end()}) + "\nit takes " +
-                     choicesOf(key, "\n  "));
+                     suggestion::didYouMean(value, {key.rows.begin(), key.rows.end()}) + "\nit takes" +
+                     (choices.starts_with('\n') ? "" : " ") + choices);
 }
 
 bool isOneOf(const QString& value, std::initializer_list<const char*> words)
