@@ -293,8 +293,10 @@ bool VariantBytes::skip(qint64 count)
 
 bool VariantBytes::text(QString* value)
 {
+    if (value == nullptr)
+        return bytes();
     QByteArray units;
-    if (!bytes(value == nullptr ? nullptr : &units))
+    if (!bytes(&units))
         return false;
     for (int at = 0; at + 1 < units.size(); at += 2)
         *value += QChar(qFromBigEndian<quint16>(units.constData() + at));
