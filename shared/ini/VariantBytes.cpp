@@ -201,12 +201,12 @@ bool VariantBytes::date()
 {
     quint32 type = 0;
     quint8 isNull = 0;
-    quint8 spec = 0;
+    quint8 timeSpec = 0;
     if (!number(type) || !byte(isNull) || type != QMetaType::QDateTime)
         return refuse("is no date");
-    if (!skip(12) || !byte(spec))
+    if (!skip(12) || !byte(timeSpec))
         return false;
-    return spec == Qt::OffsetFromUTC ? skip(4) : spec != Qt::TimeZone || zone();
+    return timeSpec == Qt::OffsetFromUTC ? skip(4) : timeSpec != Qt::TimeZone || zone();
 }
 
 bool VariantBytes::zone()
