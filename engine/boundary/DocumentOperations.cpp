@@ -1,10 +1,10 @@
 #include "Operations.h"
 #include "Session.h"
 #include "Text.h"
-#include "engine/document/DocumentWriter.h"
 #include "engine/document/Signatures.h"
 #include "engine/files/ByteSource.h"
 #include "engine/files/EngineError.h"
+#include "engine/writing/DocumentWriter.h"
 #include "pdflibrary/FileNameCodec.h"
 
 namespace engine::operations {

@@ -1,7 +1,7 @@
 #include "Operations.h"
 #include "Session.h"
-#include "engine/document/PageGeometry.h"
 #include "engine/files/EngineError.h"
+#include "engine/pages/PageGeometry.h"
 #include "pdflibrary/ViewNumbers.h"
 
 namespace engine::operations {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Buffers.h"
-#include "OpenDocument.h"
-#include "engine/document/Destination.h"
+#include "engine/pages/Destination.h"
+#include "engine/pages/OpenDocument.h"
 #include "pdflibrary/ErrorCodes.h"
 
 #include <map>

@@ -2,8 +2,8 @@
 #include "Operations.h"
 #include "Session.h"
 #include "Text.h"
-#include "engine/document/PageGeometry.h"
 #include "engine/files/EngineError.h"
+#include "engine/pages/PageGeometry.h"
 #include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/ViewerPreferences.h"
 

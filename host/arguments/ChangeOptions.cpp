@@ -1,9 +1,9 @@
 #include "ChangeOptions.h"
 
 #include "OptionParser.h"
-#include "host/change/PresentView.h"
 #include "host/change/ViewJson.h"
 #include "host/change/ViewValues.h"
+#include "host/document/PresentView.h"
 #include "host/program/LoadedDocument.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"

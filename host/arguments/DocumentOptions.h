@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/run/RunPlan.h"
+#include "host/plan/RunPlan.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "ConfigureCommand.h"
 
 #include "host/arguments/OptionParser.h"
-#include "host/change/PresentView.h"
 #include "host/change/ViewValues.h"
+#include "host/document/PresentView.h"
 #include "host/program/HostApplication.h"
 #include "host/program/InstallLayout.h"
 #include "host/program/LoadedDocument.h"

@@ -2,10 +2,10 @@
 
 #include "host/arguments/LimitOptions.h"
 #include "host/arguments/OptionParser.h"
+#include "host/plan/RunPlan.h"
+#include "host/report/EarlierReport.h"
+#include "host/report/Report.h"
 #include "host/run/BatchRun.h"
-#include "host/run/EarlierReport.h"
-#include "host/run/Report.h"
-#include "host/run/RunPlan.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"

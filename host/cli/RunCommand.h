@@ -4,9 +4,9 @@
 
 #include "host/arguments/ChangeOptions.h"
 #include "host/arguments/DocumentOptions.h"
+#include "host/plan/StreamFiles.h"
 #include "host/run/BatchRun.h"
 #include "host/run/DocumentProcessor.h"
-#include "host/run/StreamFiles.h"
 #include "host/workers/WorkerPool.h"
 
 #include <optional>

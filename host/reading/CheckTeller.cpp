@@ -1,7 +1,7 @@
 #include "CheckTeller.h"
 
-#include "host/change/ViewChanger.h"
-#include "host/change/ViewSnapshot.h"
+#include "host/document/ViewChanger.h"
+#include "host/document/ViewSnapshot.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/TerminalText.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "DocumentProcessor.h"
-#include "Report.h"
-#include "RunPlan.h"
-#include "RunSummary.h"
+#include "host/plan/RunPlan.h"
+#include "host/report/Report.h"
+#include "host/report/RunSummary.h"
 #include "host/workers/WorkerPool.h"
 
 #include <cstddef>

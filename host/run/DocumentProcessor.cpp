@@ -1,13 +1,13 @@
 #include "DocumentProcessor.h"
 
-#include "FileState.h"
-#include "host/change/ViewChanger.h"
+#include "host/document/ViewChanger.h"
 #include "host/files/Checksum.h"
-#include "host/files/FileAttributes.h"
-#include "host/files/FileCopy.h"
 #include "host/files/FileDescriptor.h"
-#include "host/files/SafeOutput.h"
+#include "host/plan/FileState.h"
 #include "host/program/InstallLayout.h"
+#include "host/saving/FileAttributes.h"
+#include "host/saving/FileCopy.h"
+#include "host/saving/SafeOutput.h"
 #include "host/settings/SettingsNotes.h"
 
 #include "pdflibrary/ErrorCodes.h"

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ActionSequence.h"
-#include "DocumentJob.h"
-#include "Placement.h"
 #include "host/change/ViewChange.h"
-#include "host/change/ViewSnapshot.h"
+#include "host/document/ViewSnapshot.h"
+#include "host/plan/DocumentJob.h"
+#include "host/plan/Placement.h"
 #include "host/settings/SettingsFile.h"
 
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"

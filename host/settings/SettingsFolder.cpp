@@ -1,7 +1,7 @@
 #include "SettingsFolder.h"
 
 #include "host/files/FileDescriptor.h"
-#include "host/files/SafeOutput.h"
+#include "host/saving/SafeOutput.h"
 #include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 

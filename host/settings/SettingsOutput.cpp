@@ -3,7 +3,7 @@
 #include "host/change/ViewJson.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/Links.h"
-#include "host/files/SafeOutput.h"
+#include "host/saving/SafeOutput.h"
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"

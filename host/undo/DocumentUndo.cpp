@@ -1,10 +1,10 @@
 #include "DocumentUndo.h"
 
 #include "host/files/Checksum.h"
-#include "host/files/FileAttributes.h"
-#include "host/files/FileCopy.h"
-#include "host/files/SafeOutput.h"
-#include "host/run/FileState.h"
+#include "host/plan/FileState.h"
+#include "host/saving/FileAttributes.h"
+#include "host/saving/FileCopy.h"
+#include "host/saving/SafeOutput.h"
 
 #include <fcntl.h>
 #include <unistd.h>

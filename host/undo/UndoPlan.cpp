@@ -1,8 +1,8 @@
 #include "UndoPlan.h"
 
 #include "host/files/LineReader.h"
-#include "host/run/FileState.h"
-#include "host/run/Report.h"
+#include "host/plan/FileState.h"
+#include "host/report/Report.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/UsageError.h"

@@ -1,6 +1,6 @@
 #include "UndoRun.h"
 
-#include "host/files/SafeOutput.h"
+#include "host/saving/SafeOutput.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"

@@ -1,9 +1,9 @@
 #include "OpeningView.h"
 
 #include "ViewWords.h"
-#include "host/change/PresentView.h"
 #include "host/change/ViewJson.h"
 #include "host/change/ViewValues.h"
+#include "host/document/PresentView.h"
 #include "host/terminal/TerminalText.h"
 
 #include "EditInitialView/InitialViewSettings.h"

@@ -1,0 +1,181 @@
+#include "Destination.h"
+
+#include "NamedDestinations.h"
+#include "PageTree.h"
+#include "engine/document/Document.h"
+
+#include "pdflibrary/ViewNumbers.h"
+
+#include <qpdf/QUtil.hh>
+
+#include <array>
+#include <climits>
+#include <cmath>
+#include <string_view>
+
+namespace engine {
+
+namespace {
+
+const int written = 6; // decimal places of a number
+
+/// A type of explicit destination, and which operands follow it, in their order.
+struct DestinationForm
+{
+    const char* name;
+    int type;
+    std::array<double Destination::*, 4> operands;
+};
+
+// clang-format off
+const DestinationForm forms[] = {
+    {"/XYZ",   1, {&Destination::left, &Destination::top, &Destination::zoom}},
+    {"/Fit",   2, {}},
+    {"/FitH",  3, {&Destination::top}},
+    {"/FitV",  4, {&Destination::left}},
+    {"/FitBH", 5, {&Destination::top}},
+    // What follows is read, never written.
+    {"/FitB",  5, {}},
+    {"/FitBV", 5, {&Destination::left}},
+    {"/FitR",  1, {&Destination::left, &Destination::bottom, &Destination::right, &Destination::top}},
+};
+// clang-format on
+
+/// A destination without a type that is known shows the page as /XYZ without operands does.
+const DestinationForm& formOf(QPDFObjectHandle name)
+{
+    for (const DestinationForm& form : forms)
+        if (name.isNameAndEquals(form.name))
+            return form;
+    return forms[0];
+}
+
+QPDFObjectHandle arrayOf(Document& document, QPDFObjectHandle destination)
+{
+    return destination.isDictionary() ? document.key(destination, "/D") : destination;
+}
+
+int pageOf(QPDFObjectHandle target, PageTree& pages)
+{
+    if (!target.isInteger())
+        return pages.numberOf(target);
+    const long long index = target.getIntValue();
+    return index >= 0 && index < pages.pageCount() ? static_cast<int>(index) + 1 : 0;
+}
+
+QPDFObjectHandle numberOrNull(double value, bool isNull)
+{
+    return isNull ? QPDFObjectHandle::newNull() : QPDFObjectHandle::newReal(value + 0.0, written); // no "-0"
+}
+
+bool isNone(QPDFObjectHandle zoom)
+{
+    return zoom.isNull() || (zoom.isNumber() && zoom.getNumericValue() == 0);
+}
+
+bool sameOperand(QPDFObjectHandle one, QPDFObjectHandle other)
+{
+    if (one.isNumber() && other.isNumber())
+        return QUtil::double_to_string(one.getNumericValue() + 0.0, written) ==
+               QUtil::double_to_string(other.getNumericValue() + 0.0, written);
+    return one.isNull() && other.isNull();
+}
+
+} // namespace
+
+std::optional<OpenActionTarget> openActionTarget(Document& document)
+{
+    QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
+    if (action.isDictionary())
+        action = document.key(action, "/S").isNameAndEquals("/GoTo") ? document.key(action, "/D")
+                                                                     : QPDFObjectHandle::newNull();
+    OpenActionTarget target{action, {}};
+    if (action.isName() || action.isString()) {
+        target.array = arrayOf(document, findNamedDestination(document, action));
+        target.name = action.isName() ? action.getName().substr(1) : action.getUTF8Value();
+    }
+    if (!target.array.isArray() || target.array.getArrayNItems() == 0)
+        return std::nullopt;
+    return target;
+}
+
+std::optional<Destination> readDestination(Document& document, OpenActionTarget target, PageTree& pages)
+{
+    Destination destination;
+    destination.name = std::move(target.name);
+    destination.page = pageOf(document.item(target.array, 0), pages);
+    if (destination.page == 0)
+        return std::nullopt;
+    const DestinationForm& form = formOf(document.item(target.array, 1));
+    destination.type = form.type;
+    int index = 2;
+    for (double Destination::*const member : form.operands) {
+        if (member == nullptr)
+            break;
+        QPDFObjectHandle operand = document.item(target.array, index++);
+        if (operand.isNumber())
+            destination.*member = operand.getNumericValue();
+    }
+    destination.zoom = std::round(destination.zoom * 1e6) / 1e4; // no binary fractions: 0.07 is 7 %
+    return destination;
+}
+
+QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bool onItsSide)
+{
+    const bool isPoint = type == pdflibrary::Zoomed; // the others name an edge of the page as it is shown
+    Destination values;
+    values.left = onItsSide && !isPoint ? corner.y : corner.x;
+    values.top = onItsSide && !isPoint ? corner.x : corner.y;
+    values.zoom = zoom / 100.0;
+    const DestinationForm& form = forms[type - 1];
+    QPDFObjectHandle operands = QPDFObjectHandle::newArray();
+    operands.appendItem(QPDFObjectHandle::newName(form.name));
+    for (double Destination::*operand : form.operands)
+        if (operand != nullptr)
+            operands.appendItem(numberOrNull(values.*operand, operand == &Destination::zoom && zoom == 0));
+    return operands;
+}
+
+QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent)
+{
+    const bool isRectangle = document.item(array, 1).isNameAndEquals("/FitR");
+    const auto operand = [&](int index) {
+        return index < array.getArrayNItems() ? array.getArrayItem(index) : QPDFObjectHandle::newNull();
+    };
+    return QPDFObjectHandle::newArray({array.getArrayItem(0), QPDFObjectHandle::newName("/XYZ"), operand(2),
+                                       operand(isRectangle ? 5 : 3),
+                                       numberOrNull(percent / 100, percent == 0)});
+}
+
+void redirectOpenAction(Document& document, QPDFObjectHandle array)
+{
+    QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
+    if (action.isDictionary()) {
+        action = action.shallowCopy();
+        action.replaceKey("/D", array);
+        action.removeKey("/SD"); // the same for structure elements, which would count before it
+        array = action;
+    }
+    document.setCatalogKey("/OpenAction", array);
+}
+
+bool isWrittenAs(Document& document, QPDFObjectHandle array, const QPDFObjectHandle& page,
+                 QPDFObjectHandle operands)
+{
+    QPDFObjectHandle target = document.item(array, 0);
+    const int size = operands.getArrayNItems();
+    if (!page.isIndirect() || target.getObjGen() != page.getObjGen() || array.getArrayNItems() != size + 1 ||
+        !document.item(array, 1).isNameAndEquals(operands.getArrayItem(0).getName()))
+        return false;
+    const bool zooms = operands.getArrayItem(0).isNameAndEquals("/XYZ");
+    for (int index = 1; index < size; ++index) {
+        QPDFObjectHandle stored = document.item(array, index + 1);
+        QPDFObjectHandle wanted = operands.getArrayItem(index);
+        const bool noZoom = zooms && index == size - 1 && isNone(stored) && isNone(wanted);
+        if (!noZoom && !sameOperand(stored, wanted))
+            return false;
+    }
+    return true;
+}
+
+} // namespace engine

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "PresentView.h"
+#include "host/change/ViewChange.h"
+
+#include <string>
+#include <vector>
+
+class TelvarPDFLibraryCPDylibCPP1311;
+
+namespace host {
+
+/// An entry that a change has altered, with what it was and what it is, in words.
+struct ViewDifference
+{
+    ViewEntry entry;
+    std::string before;
+    std::string after;
+};
+
+/// Applies a change to documents that are open in a library. Only what differs from what is asked for is
+/// written.
+class ViewChanger
+{
+public:
+    /// Both must outlive the object.
+    ViewChanger(TelvarPDFLibraryCPDylibCPP1311& library, const ViewChange& change)
+        : m_library(library), m_change(change), m_present(library)
+    {}
+
+    /// Changes the selected document.
+    /// \param file its name, for a title that comes from it.
+    /// \returns why it cannot be changed; empty when it is as asked. After a failure part of the change may
+    /// have been made: the document must not be saved.
+    std::string apply(const std::string& file);
+
+    /// What the last call has altered.
+    const std::vector<ViewDifference>& differences() const { return m_differences; }
+    /// What may be a mistake about the document of the last call.
+    const std::vector<std::string>& notes() const { return m_notes; }
+
+private:
+    void changeEntry(ViewEntry entry, const ViewValue& wanted);
+    int write(ViewEntry entry, const ViewValue& wanted);
+    void changeOpenAction();
+    void removeOpenAction();
+    void openAt(int page, const Magnification& zoom);
+    void setDestination(int page, const Magnification& zoom);
+    int wantedPage() const;
+    void changeTitle(const std::string& title);
+    void noteMissingTitle();
+    void require(int result, ViewEntry entry) const;
+    void altered(ViewEntry entry, const ViewValue& before, const ViewValue& after);
+
+    TelvarPDFLibraryCPDylibCPP1311& m_library;
+    const ViewChange& m_change;
+    PresentView m_present;
+    std::string m_action; ///< What the document opened with, where the change is about it.
+    std::vector<ViewDifference> m_differences;
+    std::vector<std::string> m_notes;
+};
+
+/// The title that a file's name makes: without folder and suffix, what is no UTF-8 as U+FFFD.
+std::string titleFromFileName(const std::string& file);
+
+} // namespace host

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "host/change/ViewChange.h"
+
+#include <QJsonObject>
+
+#include <array>
+#include <optional>
+#include <string>
+
+class TelvarPDFLibraryCPDylibCPP1311;
+
+namespace host {
+
+/// How a document opens at one moment, to be held against another one. What a document makes unreadable is no
+/// difference.
+class ViewSnapshot
+{
+public:
+    /// Reads the selected document.
+    explicit ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library);
+
+    /// This one's values of the entries in which the two differ, with the names of ViewJson.h; null for one
+    /// that the document does not have. An open action that is no destination is an object with its `action`,
+    /// as ISO 32000 names it. Texts are cut off at 200 characters.
+    QJsonObject unlike(const ViewSnapshot& other) const;
+
+    /// "page mode: unset -> use-outlines; open page: 2 -> 1"; empty when nothing differs.
+    std::string changeTo(const ViewSnapshot& after) const;
+
+private:
+    using Value = std::optional<ViewValue>;
+
+    const Value& value(ViewEntry entry) const { return m_values[static_cast<std::size_t>(entry)]; }
+    Value& value(ViewEntry entry) { return m_values[static_cast<std::size_t>(entry)]; }
+    bool differs(ViewEntry entry, const ViewSnapshot& other) const;
+    std::string wordFor(ViewEntry entry) const;
+
+    std::array<Value, viewEntryCount> m_values;
+    std::string m_action; ///< Of another kind than a destination, else empty.
+};
+
+} // namespace host

@@ -1,0 +1,135 @@
+#include "RunDestination.h"
+
+#include "host/saving/SafeOutput.h"
+#include "host/terminal/UsageError.h"
+
+#include <strings.h>
+
+#include <filesystem>
+
+namespace host {
+
+namespace {
+
+const std::size_t lengthOfPdf = 4;
+
+bool endsInPdf(const std::string& path)
+{
+    return path.size() > lengthOfPdf && strcasecmp(path.c_str() + path.size() - lengthOfPdf, ".pdf") == 0;
+}
+
+/// Where the name's ".pdf" begins, or its end.
+std::size_t endOfStem(const std::string& path)
+{
+    return path.size() - (endsInPdf(path) ? lengthOfPdf : 0);
+}
+
+/// The path without "." and "..", links not followed: a linked document keeps the place it is named by.
+std::filesystem::path absolutePath(const std::string& path)
+{
+    return std::filesystem::absolute(path).lexically_normal();
+}
+
+std::string withoutTrailingSlashes(std::string path)
+{
+    while (path.size() > 1 && path.back() == '/')
+        path.pop_back();
+    return path;
+}
+
+} // namespace
+
+RunDestination RunDestination::inPlace()
+{
+    return {Kind::InPlace, {}};
+}
+
+RunDestination RunDestination::folder(const std::string& path, const std::string& base)
+{
+    RunDestination folder(Kind::Folder, withoutTrailingSlashes(path));
+    folder.m_base = base.empty() ? std::string() : absolutePath(base).string();
+    return folder;
+}
+
+RunDestination RunDestination::file(const std::string& path)
+{
+    return {Kind::File, path};
+}
+
+RunDestination RunDestination::beside(const std::string& suffix)
+{
+    if (suffix.empty() || suffix.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
+        throw UsageError("--suffix takes a text for file names, without slashes, not \"" + suffix + "\"");
+    return {Kind::Beside, "-" + suffix};
+}
+
+RunDestination RunDestination::named(const std::string& path, const std::string& base)
+{
+    if (path.empty())
+        throw UsageError("-o needs the name of a folder or of a PDF file");
+    struct stat status;
+    const bool exists = stat(path.c_str(), &status) == 0;
+    const bool isFolder = exists && S_ISDIR(status.st_mode);
+    const bool isFile = path == standardStream || (!isFolder && endsInPdf(path));
+    if (isFile && !base.empty())
+        throw UsageError("--base goes with a folder for the results, not with -o " + path);
+    if (exists && !isFolder && !(isFile && S_ISREG(status.st_mode)) && path != standardStream)
+        throw UsageError(path + (isFile ? " is not a regular file"
+                                        : " is not a folder; a result's own name ends in .pdf"));
+    return isFile ? file(path) : folder(path, base);
+}
+
+const std::string& RunDestination::onlyFile() const
+{
+    static const std::string none;
+    return m_kind == Kind::File ? m_path : none;
+}
+
+std::string RunDestination::pathFor(const std::string& document, const std::string& pathBelow) const
+{
+    switch (m_kind) {
+    case Kind::Folder:
+        return m_path + "/" + (m_base.empty() ? pathBelow : belowBase(document));
+    case Kind::File:
+        return m_path;
+    case Kind::Beside:
+        return std::string(document).insert(endOfStem(document), m_path);
+    case Kind::InPlace:
+        break;
+    }
+    return document;
+}
+
+std::string RunDestination::belowBase(const std::string& document) const
+{
+    const std::filesystem::path below = absolutePath(document).lexically_relative(m_base);
+    if (below.empty() || *below.begin() == ".." || *below.begin() == ".")
+        throw UsageError(document + " does not lie below the folder " + m_base + " that --base names");
+    return below.string();
+}
+
+bool RunDestination::isResultFolder(const struct stat& folder) const
+{
+    struct stat ours;
+    return m_kind == Kind::Folder && stat(m_path.c_str(), &ours) == 0 && ours.st_dev == folder.st_dev &&
+           ours.st_ino == folder.st_ino;
+}
+
+bool RunDestination::isEarlierResult(const std::string& document) const
+{
+    const std::size_t end = endOfStem(document);
+    if (m_kind != Kind::Beside || end < m_path.size() ||
+        document.compare(end - m_path.size(), m_path.size(), m_path) != 0)
+        return false;
+    std::string original = document;
+    original.erase(end - m_path.size(), m_path.size());
+    struct stat status;
+    return stat(original.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+std::string RunDestination::makeFolder() const
+{
+    return m_kind == Kind::Folder ? SafeOutput::makeFolder(m_path) : std::string();
+}
+
+} // namespace host
