@@ -1,0 +1,66 @@
+#include "EventReader.h"
+
+#include "host/terminal/JsonLine.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+
+namespace host::desktop::eventreader {
+
+namespace {
+
+Event start(const QJsonObject& line)
+{
+    const StartEvent event{line.value("version").toInt(), line.value("documents").toInt()};
+    if (event.version == version)
+        return event;
+    return BadLine{QCoreApplication::translate("EventReader", "the program and the window are of different versions")};
+}
+
+Event found(const QJsonObject& line)
+{
+    return FoundEvent{line.value("number").toInt(-1), QByteArray::fromStdString(nameIn(line, "file"))};
+}
+
+Event document(const QJsonObject& line)
+{
+    return DocumentEvent{line.value("number").toInt(-1), line};
+}
+
+Event result(const QJsonObject& line)
+{
+    return ResultEvent{line.value("number").toInt(-1), line};
+}
+
+Event progress(const QJsonObject& line)
+{
+    return ProgressEvent{line.value("done").toInt(), line.value("failed").toInt()};
+}
+
+Event end(const QJsonObject& line)
+{
+    return EndEvent{line, line.value("stopped").toBool()};
+}
+
+struct Row
+{
+    const char* name;
+    Event (*read)(const QJsonObject& line);
+};
+
+const Row rows[] = {{"start", start},   {"found", found},       {"document", document},
+                    {"result", result}, {"progress", progress}, {"end", end}};
+
+} // namespace
+
+Event read(const QByteArray& line)
+{
+    const QJsonObject object = QJsonDocument::fromJson(line).object();
+    const QString name = object.value("event").toString();
+    for (const Row& row : rows)
+        if (name == row.name)
+            return row.read(object);
+    return BadLine{QCoreApplication::translate("EventReader", "the program said something that is not understood")};
+}
+
+} // namespace host::desktop::eventreader
