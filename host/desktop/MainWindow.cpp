@@ -22,7 +22,7 @@ using State = RunMachine::State;
 
 namespace {
 
-const QSize firstSize(1240, 780);
+const QSize firstSize(1280, 800);
 const int toolMargin = 8;
 
 QWidget* line(QFrame::Shape shape)
@@ -54,6 +54,8 @@ MainWindow::MainWindow(const Places& places)
     resize(firstSize);
     restoreGeometry(m_settings.value("window/geometry").toByteArray());
     m_splitter->restoreState(m_settings.value("window/splitter").toByteArray());
+    m_side->restoreState(m_settings.value("window/side").toByteArray());
+    m_actions[Id::ShowPreview]->setChecked(m_settings.value("window/preview", true).toBool());
     showState();
 }
 
@@ -70,7 +72,7 @@ void MainWindow::place()
     m_splitter->addWidget(makeList());
     m_splitter->addWidget(makeSide());
     m_splitter->setStretchFactor(0, 1);
-    m_splitter->setSizes({820, 420});
+    m_splitter->setSizes({860, 420});
     m_pages = new QStackedWidget(this);
     m_pages->addWidget(empty);
     m_pages->addWidget(m_splitter);
@@ -153,9 +155,16 @@ QWidget* MainWindow::makeList()
 QWidget* MainWindow::makeSide()
 {
     m_change = new ChangePanel(m_workbench, this);
-    m_change->setMinimumWidth(360);
+    m_change->setMinimumWidth(380);
+    m_preview = new PreviewPane(m_workbench, this);
+    m_side = new QSplitter(Qt::Vertical, this);
+    m_side->setChildrenCollapsible(false);
+    m_side->addWidget(m_change);
+    m_side->addWidget(m_preview);
+    m_side->setStretchFactor(0, 1);
+    m_side->setSizes({480, 260});
     connect(m_change->destination(), &DestinationRow::folderWanted, &m_commands, &Commands::chooseFolder);
-    return m_change;
+    return m_side;
 }
 
 void MainWindow::connectParts()
@@ -190,6 +199,7 @@ void MainWindow::connectActions()
         m_filter->search()->selectAll();
     });
     connect(m_actions[Id::WhatsThis], &QAction::triggered, this, [] { QWhatsThis::enterWhatsThisMode(); });
+    connect(m_actions[Id::ShowPreview], &QAction::toggled, m_preview, &QWidget::setVisible);
     connect(m_actions[Id::NextPane], &QAction::triggered, this, [this] { goTo(1); });
     connect(m_actions[Id::PreviousPane], &QAction::triggered, this, [this] { goTo(-1); });
     m_actions[Id::OpenInViewer]->setShortcutContext(Qt::WidgetShortcut);
@@ -270,6 +280,8 @@ void MainWindow::saveGeometryOnce()
 {
     m_settings.setValue("window/geometry", saveGeometry());
     m_settings.setValue("window/splitter", m_splitter->saveState());
+    m_settings.setValue("window/side", m_side->saveState());
+    m_settings.setValue("window/preview", m_actions[Id::ShowPreview]->isChecked());
     m_view->saveColumns();
     m_session.save();
 }

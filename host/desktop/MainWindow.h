@@ -6,6 +6,7 @@
 #include "host/desktop/widgets/Commands.h"
 #include "host/desktop/widgets/DocumentView.h"
 #include "host/desktop/widgets/FilterBar.h"
+#include "host/desktop/widgets/PreviewPane.h"
 #include "host/desktop/widgets/RunBar.h"
 
 #include <QMainWindow>
@@ -66,8 +67,10 @@ private:
     FilterBar* m_filter = nullptr;
     DocumentView* m_view = nullptr;
     ChangePanel* m_change = nullptr;
+    PreviewPane* m_preview = nullptr;
     RunBar* m_runBar = nullptr;
     QSplitter* m_splitter = nullptr;
+    QSplitter* m_side = nullptr;
     bool m_closesAtEnd = false;
 };
 

@@ -111,8 +111,8 @@ QString SelectionSummary::textOf(ViewEntry entry) const
     std::stable_sort(parts.begin(), parts.end(), [](const auto& left, const auto& right) { return left.first > right.first; });
     QStringList texts;
     for (std::size_t place = 0; place < std::min(parts.size(), mostValues); ++place)
-        texts += QCoreApplication::translate("SelectionSummary", "%1 %2")
-                     .arg(QLocale().toString(parts[place].first), parts[place].second);
+        texts += QCoreApplication::translate("SelectionSummary", "%1 (%2)")
+                     .arg(parts[place].second, QLocale().toString(parts[place].first));
     if (parts.size() > mostValues)
         texts += QStringLiteral("…");
     return QCoreApplication::translate("SelectionSummary", "different: %1")

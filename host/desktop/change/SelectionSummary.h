@@ -35,7 +35,7 @@ struct SelectionSummary
     static SelectionSummary of(const DocumentTable& table, const DocumentTable::Ids& ids);
 
     const Entry& operator[](ViewEntry entry) const { return entries.at(static_cast<std::size_t>(entry)); }
-    /// "None", "different: 40 None, 6 Bookmarks", or nothing.
+    /// "None", "different: None (40), Bookmarks (6)", or nothing.
     QString textOf(ViewEntry entry) const;
 };
 

@@ -47,7 +47,8 @@ void sortBy(const DocumentTable& table, Qt::SortOrder order, DocumentTable::Ids&
 class TextKeys
 {
 public:
-    TextKeys()
+    /// Without a language texts would be put in the order of their numbers.
+    TextKeys() : m_collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale())
     {
         m_collator.setNumericMode(true);
         m_collator.setCaseSensitivity(Qt::CaseInsensitive);

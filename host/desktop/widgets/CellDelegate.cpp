@@ -11,7 +11,7 @@ namespace host::desktop {
 
 namespace {
 
-const int margin = 6;
+const int margin = 4;
 const int signWidth = 20;
 
 QColor textColor(const QStyleOptionViewItem& option, bool isQuiet)

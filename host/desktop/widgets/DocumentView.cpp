@@ -5,6 +5,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
+#include <QScrollBar>
 
 namespace host::desktop {
 
@@ -36,6 +37,7 @@ DocumentView::DocumentView(DocumentOrder& order, QSettings& settings, QWidget* p
     QHeaderView* header = horizontalHeader();
     header->setSectionsMovable(true);
     header->setHighlightSections(false);
+    header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     header->setAccessibleName(tr("Columns"));
@@ -129,7 +131,7 @@ void DocumentView::contextMenuEvent(QContextMenuEvent* event)
 
 void DocumentView::keepPlace()
 {
-    m_top = m_order.idAt(rowAt(0));
+    m_top = verticalScrollBar()->value() > 0 ? m_order.idAt(rowAt(0)) : 0;
 }
 
 void DocumentView::restorePlace()
@@ -137,6 +139,8 @@ void DocumentView::restorePlace()
     const int row = m_order.rowOf(m_top);
     if (row >= 0)
         scrollTo(m_order.index(row, 0), PositionAtTop);
+    else
+        scrollToTop();
 }
 
 } // namespace host::desktop

@@ -19,7 +19,7 @@ const int estimateMilliseconds = 3000;
 } // namespace
 
 RunBar::RunBar(Workbench& workbench, QWidget* parent)
-    : QWidget(parent), m_workbench(workbench), m_sign(new QLabel(this)), m_text(new QLabel(this)),
+    : QWidget(parent), m_workbench(workbench), m_sign(new QLabel(this)), m_text(new ElidedLabel(this)),
       m_progress(new QProgressBar(this)),
       m_why(button(tr("Show &Why"), tr("Shows the documents that failed or cannot be changed"))),
       m_undo(button(tr("&Undo This Run…"), tr("Gives each document back as it was before the run"))),
@@ -29,7 +29,6 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
       m_stop(button(tr("S&top"), tr("Finishes the documents that are being worked on, and begins no more")))
 {
     m_text->setAccessibleName(tr("Status"));
-    m_text->setWordWrap(false);
     m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_progress->setAccessibleName(tr("Progress"));
     m_progress->setTextVisible(false);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ElidedLabel.h"
+
 #include "host/desktop/workbench/Workbench.h"
 
 #include <QElapsedTimer>
@@ -38,7 +40,7 @@ private:
 
     Workbench& m_workbench;
     QLabel* m_sign;
-    QLabel* m_text;
+    ElidedLabel* m_text;
     QProgressBar* m_progress;
     QPushButton* m_why;
     QPushButton* m_undo;

@@ -36,7 +36,7 @@ bool isNumber(ViewEntry entry)
 
 SettingRow::SettingRow(ViewEntry entry, QGridLayout* layout, QWidget* parent)
     : QObject(parent), m_entry(entry), m_label(new QLabel(viewtexts::nameOf(entry), parent)),
-      m_box(new QComboBox(parent)), m_present(new QLabel(parent))
+      m_box(new QComboBox(parent)), m_present(new ElidedLabel(parent))
 {
     m_label->setBuddy(m_box);
     m_box->setAccessibleName(viewtexts::nameOf(entry));

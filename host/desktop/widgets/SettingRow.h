@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ElidedLabel.h"
+
 #include "host/desktop/change/ChangeDraft.h"
 
 #include <QComboBox>
@@ -57,7 +59,7 @@ private:
     QComboBox* m_box;
     QSpinBox* m_number = nullptr;
     QLineEdit* m_text = nullptr;
-    QLabel* m_present;
+    ElidedLabel* m_present;
     std::vector<Choice> m_choices;
 };
 
