@@ -4,8 +4,12 @@
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
 #include "host/desktop/widgets/DetailLine.h"
+#include "host/desktop/presets/PresetFolder.h"
 #include "host/desktop/widgets/Drawings.h"
 #include "host/desktop/widgets/EmptyPage.h"
+#include "host/desktop/widgets/HelpWindow.h"
+#include "host/desktop/widgets/HistoryDialog.h"
+#include "host/desktop/widgets/PresetMenu.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -22,7 +26,7 @@ using State = RunMachine::State;
 
 namespace {
 
-const QSize firstSize(1280, 800);
+const QSize firstSize(1280, 880);
 const int toolMargin = 8;
 
 QWidget* line(QFrame::Shape shape)
@@ -39,11 +43,11 @@ MainWindow::Places MainWindow::Places::ofUser()
 {
     const QString state = RunHistory::userFolder();
     return {QCoreApplication::applicationDirPath() + "/quintar", state, state + "/../sessions",
-            QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/quintar/window.ini"};
+            QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/quintar/window.ini", PresetFolder::userFolder()};
 }
 
 MainWindow::MainWindow(const Places& places)
-    : m_settings(places.settings, QSettings::IniFormat), m_workbench(places.program, places.reports),
+    : m_settings(places.settings, QSettings::IniFormat), m_views(places.views), m_workbench(places.program, places.reports),
       m_session(m_workbench, places.sessions), m_actions(this), m_commands(m_workbench, m_actions, this)
 {
     setObjectName("QuintarClass"); // the dialogs of actions take their colours and place from a window of this name
@@ -162,7 +166,12 @@ QWidget* MainWindow::makeSide()
     m_side->addWidget(m_change);
     m_side->addWidget(m_preview);
     m_side->setStretchFactor(0, 1);
-    m_side->setSizes({480, 260});
+    m_side->setSizes({540, 240});
+    auto* presets = new PresetMenu(m_workbench, m_actions, m_views, m_change);
+    m_change->presets()->setMenu(presets);
+    connect(presets, &PresetMenu::said, &m_commands, &Commands::said);
+    connect(presets, &PresetMenu::failed, &m_commands, &Commands::failed);
+    connect(m_change, &ChangePanel::configureWanted, &m_commands, &Commands::configure);
     connect(m_change->destination(), &DestinationRow::folderWanted, &m_commands, &Commands::chooseFolder);
     return m_side;
 }
@@ -180,6 +189,11 @@ void MainWindow::connectParts()
     connect(&m_commands, &Commands::said, this, [this](const QString& text) { m_runBar->say(text, false); });
     connect(&m_commands, &Commands::failed, this, [this](const QString& text) { m_runBar->say(text, true); });
     connect(&m_workbench.machine(), &RunMachine::changed, this, &MainWindow::showState);
+    connect(&m_workbench.machine(), &RunMachine::changed, this, [this] {
+        if (m_workbench.machine().isWriting() && m_change->isAncestorOf(focusWidget()))
+            m_view->setFocus(); // what is disabled would pass the focus on, and scroll there
+    });
+    connect(&m_commands, &Commands::dialogOpens, &m_session, &Session::save);
     connect(&m_workbench.order(), &DocumentOrder::shownChanged, this, &MainWindow::showState);
     connect(&m_workbench, &Workbench::progressed, this, &MainWindow::showState);
     connect(&m_workbench, &Workbench::draftChanged, this, [this] {
@@ -198,6 +212,9 @@ void MainWindow::connectActions()
         m_filter->search()->setFocus(Qt::ShortcutFocusReason);
         m_filter->search()->selectAll();
     });
+    m_help = new HelpWindow(this);
+    connect(m_actions[Id::Help], &QAction::triggered, m_help, &HelpWindow::showSettings);
+    connect(m_actions[Id::Keys], &QAction::triggered, this, [this] { m_help->showPage(m_actions.keysPage()); });
     connect(m_actions[Id::WhatsThis], &QAction::triggered, this, [] { QWhatsThis::enterWhatsThisMode(); });
     connect(m_actions[Id::ShowPreview], &QAction::toggled, m_preview, &QWidget::setVisible);
     connect(m_actions[Id::NextPane], &QAction::triggered, this, [this] { goTo(1); });

@@ -15,6 +15,8 @@
 
 namespace host::desktop {
 
+class HelpWindow;
+
 /// Places the parts of the window and connects them; it decides nothing.
 class MainWindow : public QMainWindow
 {
@@ -29,6 +31,8 @@ public:
         QString sessions;
         /// Of the user's settings.
         QString settings;
+        /// Of the presets that are views.
+        QString views;
 
         static Places ofUser();
     };
@@ -58,6 +62,7 @@ private:
     void saveGeometryOnce();
 
     QSettings m_settings;
+    QString m_views;
     Workbench m_workbench;
     Session m_session;
     ActionTable m_actions;
@@ -69,6 +74,7 @@ private:
     ChangePanel* m_change = nullptr;
     PreviewPane* m_preview = nullptr;
     RunBar* m_runBar = nullptr;
+    HelpWindow* m_help = nullptr;
     QSplitter* m_splitter = nullptr;
     QSplitter* m_side = nullptr;
     bool m_closesAtEnd = false;

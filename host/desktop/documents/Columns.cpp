@@ -23,7 +23,7 @@ constexpr ViewEntry window[] = {
 // clang-format off
 const std::array<ColumnRow, columnCount> rows{{
     {Column::Name, "name", QT_TRANSLATE_NOOP("Columns", "Name"),
-     QT_TRANSLATE_NOOP("Columns", "The name of the file. The sign before it says what a run would do or did."), 28, false, true, {}},
+     QT_TRANSLATE_NOOP("Columns", "The name of the file. The sign before it says what a run would do or did."), 32, false, true, {}},
     {Column::Folder, "folder", QT_TRANSLATE_NOOP("Columns", "Folder"),
      QT_TRANSLATE_NOOP("Columns", "Where the document lies."), 24, false, false, {}},
     {Column::Title, "title", QT_TRANSLATE_NOOP("Columns", "Title"),

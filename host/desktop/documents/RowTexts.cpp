@@ -64,8 +64,10 @@ CellText entryCell(const DocumentRecord& record, ViewEntry entry)
 {
     const Outcome* outcome = record.outcome();
     const bool differs = outcome != nullptr && (outcome->before.view[entry] || outcome->after.view[entry]);
-    if (differs)
-        return {outcome->before.textOf(entry), outcome->after.textOf(entry), false};
+    if (differs) {
+        const QString now = outcome->before.textOf(entry);
+        return {now == viewtexts::unset() ? QStringLiteral("–") : now, outcome->after.textOf(entry), false};
+    }
     const ViewReading& view = record.facts->view;
     const bool isUnset = !view.view[entry] || view.view[entry] == ViewValue(Unset());
     if (isUnset && !(entry == ViewEntry::OpenPage && !view.action.isEmpty()))
@@ -82,7 +84,7 @@ CellText entriesCell(const DocumentRecord& record, std::span<const ViewEntry> en
     for (const ViewEntry entry : entries) {
         const CellText text = entryCell(record, entry);
         const auto named = [entry](const QString& value) { return viewtexts::nameOf(entry) + ": " + value; };
-        if (!text.isQuiet && text.now != viewtexts::unset())
+        if (!text.isQuiet && text.now != QStringLiteral("–"))
             now += named(text.now);
         if (!text.after.isEmpty())
             after += named(text.after);
@@ -140,8 +142,9 @@ QString spoken(const DocumentRecord& record, Column column)
         return QCoreApplication::translate("RowTexts", "%1, %2").arg(record.name, stateOf(record));
     if (text.after.isEmpty())
         return text.isQuiet && !text.now.isEmpty() && column != Column::State ? viewtexts::unset() : text.now;
-    return record.result ? QCoreApplication::translate("RowTexts", "%1, became %2").arg(text.now, text.after)
-                         : QCoreApplication::translate("RowTexts", "%1, will be %2").arg(text.now, text.after);
+    const QString now = text.now == QStringLiteral("–") ? viewtexts::unset() : text.now;
+    return record.result ? QCoreApplication::translate("RowTexts", "%1, became %2").arg(now, text.after)
+                         : QCoreApplication::translate("RowTexts", "%1, will be %2").arg(now, text.after);
 }
 
 QString stateOf(const DocumentRecord& record)

@@ -28,6 +28,9 @@ QColor SceneDrawing::mix(double share) const
 void SceneDrawing::paint(QPainter& painter, const QRectF& area)
 {
     painter.save();
+    QFont font = painter.font();
+    font.setPointSizeF(font.pointSizeF() * 0.85);
+    painter.setFont(font);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     QRectF inside = area;

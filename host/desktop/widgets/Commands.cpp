@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "HistoryDialog.h"
 #include "StartQuestion.h"
 
 #include "host/desktop/documents/RowTexts.h"
@@ -10,6 +11,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QSaveFile>
 
@@ -79,6 +81,9 @@ void Commands::connectAll()
     on(Id::UndoLast, &Commands::undoLast);
     on(Id::SaveReport, &Commands::saveReport);
     on(Id::Password, &Commands::askPassword);
+    on(Id::Configure, &Commands::configure);
+    on(Id::History, &Commands::showHistory);
+    on(Id::About, &Commands::about);
 }
 
 void Commands::enable()
@@ -197,6 +202,50 @@ void Commands::saveReport()
         else
             emit failed(tr("The report could not be written to %1: %2").arg(name, file.errorString()));
     });
+}
+
+void Commands::configure()
+{
+    RunMachine& machine = m_workbench.machine();
+    if (!machine.isEnabled(Command::Configure))
+        return;
+    emit dialogOpens();
+    machine.setBusy(true);
+    std::optional<StoredChoice> choice;
+    try {
+        const std::optional<DocumentFacts> facts = current() != nullptr ? current()->facts : std::nullopt;
+        choice = m_dialog.show(m_window, m_workbench.draft().stored(), facts ? &*facts : nullptr);
+    } catch (const std::runtime_error& error) {
+        emit failed(QString::fromStdString(error.what()));
+    }
+    machine.setBusy(false);
+    for (const QString& complaint : m_dialog.complaints())
+        emit failed(complaint);
+    if (!choice)
+        return;
+    ChangeDraft draft;
+    draft.setStored(*choice);
+    m_workbench.setDraft(draft);
+}
+
+void Commands::showHistory()
+{
+    m_workbench.history().reload();
+    auto* dialog = new HistoryDialog(m_workbench.history(), m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &HistoryDialog::undoWanted, this, &Commands::undoRun);
+    dialog->open();
+}
+
+void Commands::about()
+{
+    auto* box = new QMessageBox(QMessageBox::NoIcon, tr("About Quintar"), tr("Quintar %1").arg(QCoreApplication::applicationVersion()),
+                                QMessageBox::Close, m_window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setIconPixmap(m_window->windowIcon().pixmap(64, 64));
+    box->setInformativeText(tr("Says how PDF documents open. It adds to a document and never takes away: every run in place "
+                               "can be undone."));
+    box->open();
 }
 
 void Commands::openInViewer()

@@ -2,6 +2,7 @@
 
 #include "ActionTable.h"
 
+#include "host/desktop/presets/ActionDialog.h"
 #include "host/desktop/texts/ReasonTexts.h"
 #include "host/desktop/workbench/Workbench.h"
 
@@ -23,12 +24,16 @@ public:
     void undoLast();
     void undoRun(int row);
     void saveReport();
+    /// The action's own dialog; what is accepted there is the change.
+    void configure();
+    void showHistory();
     void help(reasontexts::Remedy remedy);
 
 signals:
     void said(const QString& text);
     void failed(const QString& text);
-    void startQuestionWanted();
+    /// A dialog of a plug-in opens: a fault in it would end the window.
+    void dialogOpens();
 
 private:
     void connectAll();
@@ -38,6 +43,7 @@ private:
     void copyCommand();
     void likeThis();
     void askPassword();
+    void about();
     void enable();
     const DocumentRecord* current() const;
     QVector<DocumentId> chosen() const;
@@ -45,6 +51,7 @@ private:
     Workbench& m_workbench;
     ActionTable& m_actions;
     QWidget* m_window;
+    ActionDialog m_dialog;
 };
 
 } // namespace host::desktop
