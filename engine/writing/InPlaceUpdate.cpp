@@ -37,9 +37,11 @@ std::size_t paddingFor(std::uint64_t offset, std::size_t size)
 std::string inPlaceUpdateOf(Document& document)
 {
     std::string update = updateOf(document);
-    if (document.crossReferenceRebuilt() || document.anyWarnings())
-        refuse("readers may search the document for its objects");
     const ByteSource& source = *document.source();
+    // Some readers count offsets from the begin of the file, whatever lies before the header.
+    if (document.crossReferenceRebuilt() || document.anyWarnings() ||
+        CrossReference::headerOffsetOf(source) != 0)
+        refuse("readers may search the document for its objects");
     const auto tail = findDocumentTail(source);
     if (!tail || source.size() - tail->end > longestTail)
         refuse("the document's end lies too far back");

@@ -5,16 +5,29 @@
 #include <sys/file.h>
 
 #include <cerrno>
+#include <thread>
 
 namespace host {
 
+namespace {
+
+const std::chrono::milliseconds step(5);
+
+} // namespace
+
 const char documentLocked[] = "another run, or another program, has it locked";
 
-DocumentLock lockDocument(int file)
+DocumentLock lockDocument(int file, std::chrono::milliseconds patience)
 {
-    if (flock(file, LOCK_EX | LOCK_NB) == 0)
-        return DocumentLock::Taken;
-    return errno == EWOULDBLOCK ? DocumentLock::Held : DocumentLock::Unavailable;
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (flock(file, LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return DocumentLock::Unavailable;
+        if (std::chrono::steady_clock::now() > end)
+            return DocumentLock::Held;
+        std::this_thread::sleep_for(step);
+    }
+    return DocumentLock::Taken;
 }
 
 bool isAsRead(int file, const std::string& path, const struct stat& asRead)

@@ -23,7 +23,7 @@ std::string changedMeanwhile()
 } // namespace
 
 InPlaceAppend::InPlaceAppend(const InPlaceFile& file, const struct stat& before, std::string_view update)
-    : m_file(file), m_before(before), m_update(update), m_begin(withoutLastLines(update))
+    : m_file(file), m_before(before), m_update(update), m_begin(withoutLastLines(update)), m_left(before)
 {}
 
 std::string_view InPlaceAppend::withoutLastLines(std::string_view update)
@@ -31,22 +31,36 @@ std::string_view InPlaceAppend::withoutLastLines(std::string_view update)
     return update.substr(0, update.rfind("startxref"));
 }
 
-InPlaceAppend::Outcome InPlaceAppend::perform() const
+InPlaceAppend::Outcome InPlaceAppend::perform()
 {
-    if (!isAsRead(m_file.get(), m_file.path(), m_before))
+    if (!isAsLeft())
         return {changedMeanwhile()};
-    struct stat begun;
-    if (!m_file.writeAt(m_before.st_size, m_begin) || fstat(m_file.get(), &begun) != 0 || !m_file.flush())
+    if (!write(m_before.st_size, m_begin))
         return failed(systemError(errno));
-    if (begun.st_size != endOf(m_begin) || !isAsRead(m_file.get(), m_file.path(), begun))
+    if (m_left.st_size != endOf(m_begin) || !isAsLeft())
         return {changedMeanwhile()};
-    if (!m_file.writeAt(endOf(m_begin), m_update.substr(m_begin.size())) || !m_file.flush())
+    if (!write(endOf(m_begin), m_update.substr(m_begin.size())))
         return failed(systemError(errno));
     return {};
 }
 
-InPlaceAppend::Outcome InPlaceAppend::settle(const std::string& why) const
+bool InPlaceAppend::write(std::int64_t offset, std::string_view bytes)
 {
+    const bool written = m_file.writeAt(offset, bytes);
+    const int problem = errno;
+    fstat(m_file.get(), &m_left);
+    errno = problem;
+    return written && m_file.flush();
+}
+
+bool InPlaceAppend::isAsLeft() const
+{
+    return isAsRead(m_file.get(), m_file.path(), m_left);
+}
+
+InPlaceAppend::Outcome InPlaceAppend::settle(const std::string& why)
+{
+    fstat(m_file.get(), &m_left); // nobody can tell how the other process left it
     if (!isAll(found()))
         return failed(why);
     const std::string problem = m_file.flush() ? "" : systemError(errno);
@@ -56,7 +70,7 @@ InPlaceAppend::Outcome InPlaceAppend::settle(const std::string& why) const
 InPlaceAppend::Outcome InPlaceAppend::failed(const std::string& why) const
 {
     const Found found = this->found();
-    if (!found.isOfUpdate)
+    if (!found.isOfUpdate || !isAsLeft())
         return {why, changedMeanwhile()};
     return isNothing(found) ? Outcome{why} : cutBack(found, why);
 }

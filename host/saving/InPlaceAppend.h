@@ -36,11 +36,11 @@ public:
 
     /// On failure the document is cut back, unless another program has changed it meanwhile: then it is left
     /// as that program left it.
-    Outcome perform() const;
+    Outcome perform();
 
     /// Brings to an end what a process has begun that is no more: cuts half an update off, and flushes a
     /// whole one. \param why the process ended.
-    Outcome settle(const std::string& why) const;
+    Outcome settle(const std::string& why);
 
     /// All of an update that stands behind a document before its last lines are written.
     static std::string_view withoutLastLines(std::string_view update);
@@ -53,6 +53,9 @@ private:
         std::size_t size = 0;
     };
 
+    /// \returns false, with errno set, on failure.
+    bool write(std::int64_t offset, std::string_view bytes);
+    bool isAsLeft() const;
     Found found() const;
     static bool isNothing(const Found& found) { return found.isOfUpdate && found.size == 0; }
     bool isAll(const Found& found) const { return found.isOfUpdate && found.size == m_update.size(); }
@@ -65,6 +68,7 @@ private:
     const struct stat m_before;
     std::string_view m_update;
     std::string_view m_begin; ///< Without the last lines.
+    struct stat m_left;       ///< As this object left the document last.
 };
 
 } // namespace host
