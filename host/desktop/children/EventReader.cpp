@@ -1,7 +1,5 @@
 #include "EventReader.h"
 
-#include "host/terminal/JsonLine.h"
-
 #include <QCoreApplication>
 #include <QJsonDocument>
 
@@ -19,7 +17,9 @@ Event start(const QJsonObject& line)
 
 Event found(const QJsonObject& line)
 {
-    return FoundEvent{line.value("number").toInt(-1), QByteArray::fromStdString(nameIn(line, "file"))};
+    const QJsonValue bytes = line.value("fileBytes"); // only of names that are no text
+    return FoundEvent{line.value("number").toInt(-1), bytes.isString() ? QByteArray::fromBase64(bytes.toString().toLatin1())
+                                                                       : line.value("file").toString().toUtf8()};
 }
 
 Event document(const QJsonObject& line)

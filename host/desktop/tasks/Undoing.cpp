@@ -46,10 +46,8 @@ void Undoing::takeElsewhere(const ResultEvent& event)
 void Undoing::count(const Outcome& outcome)
 {
     countDone();
-    if (outcome.kind == Outcome::Kind::Undone)
-        ++m_undone;
-    else
-        ++m_leftAlone;
+    m_undone += outcome.kind == Outcome::Kind::Undone ? 1 : 0;
+    m_leftAlone += outcome.kind == Outcome::Kind::LeftAlone ? 1 : 0;
 }
 
 } // namespace host::desktop
