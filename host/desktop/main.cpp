@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "host/desktop/platform/DroppedNames.h"
+#include "host/desktop/platform/Language.h"
 #include "host/program/HostApplication.h"
 
 #include <QGuiApplication>
@@ -14,7 +15,7 @@ int main(int argc, char** argv)
     std::signal(SIGPIPE, SIG_IGN); // a child that ends while it is told something
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     const std::unique_ptr<QCoreApplication> application = hostapplication::forWindows(argc, argv);
-    QGuiApplication::setApplicationDisplayName(QString());
+    desktop::language::choose();
     QGuiApplication::setDesktopFileName("quintar-window");
     desktop::MainWindow window(desktop::MainWindow::Places::ofUser());
     QVector<QByteArray> paths;
