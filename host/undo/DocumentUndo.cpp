@@ -19,8 +19,14 @@ namespace host {
 
 namespace {
 
-const char changedMeanwhile[] = "another program changed it meanwhile";
-const char olderStays[] = "an older change stays: another program changed it between the two";
+const Failure changedMeanwhile{ReasonCode::ChangedMeanwhile, "another program changed it meanwhile"};
+const Failure olderStays{ReasonCode::ChangedSince,
+                         "an older change stays: another program changed it between the two"};
+
+Failure cannotRead(int error)
+{
+    return Failure::ofSystem(error, ReasonCode::ReadFailed);
+}
 
 /// Whether the bytes from `begin` to the end are what ends a PDF document: a report that claims too much must
 /// not cut other files down.
@@ -48,15 +54,17 @@ bool setTime(const std::string& path, const struct timespec& time)
 
 UndoResult DocumentUndo::perform(bool dryRun)
 {
-    if (const std::string problem = open(); !problem.empty())
+    if (const Failure problem = open(); problem)
         return {UndoResult::LeftAlone, problem};
     follow();
     if (m_cuts.empty() && !m_isBefore)
-        return {UndoResult::LeftAlone, "it is no longer as the report says, " +
-                                           m_document.updates.front().after + ", but " + stateOf(m_present)};
+        return {UndoResult::LeftAlone,
+                {ReasonCode::ChangedSince, "it is no longer as the report says, " +
+                                               m_document.updates.front().after + ", but " +
+                                               stateOf(m_present)}};
     UndoResult result{m_undoneAlready ? UndoResult::UndoneAlready : UndoResult::NothingDone};
     if (!m_cuts.empty()) {
-        if (const std::string problem = whyNotCut(); !problem.empty())
+        if (const Failure problem = whyNotCut(); problem)
             return {UndoResult::LeftAlone, problem};
         result = dryRun ? UndoResult{UndoResult::Undone} : cut();
     }
@@ -66,17 +74,17 @@ UndoResult DocumentUndo::perform(bool dryRun)
 }
 
 /// The path is one that links were resolved in, so a link at its end is not the document.
-std::string DocumentUndo::open()
+Failure DocumentUndo::open()
 {
     struct stat named;
     if (lstat(m_document.path.c_str(), &named) != 0)
-        return systemError(errno);
+        return cannotRead(errno);
     if (!S_ISREG(named.st_mode))
-        return systemError(notARegularFile);
+        return cannotRead(notARegularFile);
     m_file = openRegularFile(m_document.path);
     if (!m_file.isOpen() || fstat(m_file.get(), &m_present) != 0)
-        return systemError(errno);
-    return isSameState(named, m_present) ? "" : changedMeanwhile;
+        return cannotRead(errno);
+    return isSameState(named, m_present) ? Failure() : changedMeanwhile;
 }
 
 /// Goes back from state to state. What is newer than the state that the document is in has been undone.
@@ -97,19 +105,19 @@ void DocumentUndo::follow()
     }
 }
 
-/// Why the updates must not be cut off; empty when all is well.
-std::string DocumentUndo::whyNotCut() const
+/// Why the updates must not be cut off.
+Failure DocumentUndo::whyNotCut() const
 {
     for (const AppendedUpdate* update : m_cuts) {
         const std::string checksum = checksumOf(m_file.get(), sizeBefore(*update));
         if (checksum.empty())
-            return errno != 0 ? systemError(errno) : changedMeanwhile;
+            return errno != 0 ? cannotRead(errno) : changedMeanwhile;
         if (checksum != update->checksum)
-            return "what stands before the update is not what stood there";
+            return {ReasonCode::ChangedSince, "what stands before the update is not what stood there"};
     }
     return endsAsUpdate(m_file.get(), sizeBefore(*m_cuts.back()), m_present.st_size)
-               ? ""
-               : "what the report calls an update is none";
+               ? Failure()
+               : Failure{ReasonCode::BadReport, "what the report calls an update is none"};
 }
 
 UndoResult DocumentUndo::cut() const
@@ -118,22 +126,22 @@ UndoResult DocumentUndo::cut() const
     const std::string temporary = SafeOutput::temporaryNameFor(m_document.path);
     SafeOutput output(m_document.path, temporary);
     const auto size = static_cast<std::uint64_t>(before.size);
-    if (const std::string problem = copyBegin(m_file.get(), size, temporary); !problem.empty())
+    if (const Failure problem = copyBegin(m_file.get(), size, temporary); problem)
         return {UndoResult::LeftAlone, problem};
     const bool timeKept = setTime(temporary, before.time);
     const auto beforeRename = [this](const struct stat&, const std::string&) {
         struct stat now;
         if (lstat(m_document.path.c_str(), &now) != 0 || !isSameState(now, m_present))
-            throw std::runtime_error(changedMeanwhile);
+            throw DocumentError(changedMeanwhile);
     };
     try {
         const SafeOutput::Outcome outcome =
             output.commit(FileAttributes(m_file.get(), FileAttributes::Take::All), true, beforeRename);
-        if (!outcome.problem.empty())
+        if (outcome.problem)
             return {UndoResult::LeftAlone, outcome.problem};
         return {UndoResult::Undone, {}, outcome.note + (timeKept ? "" : "its time could not be restored")};
-    } catch (const std::runtime_error& problem) {
-        return {UndoResult::LeftAlone, problem.what()};
+    } catch (const std::runtime_error&) {
+        return {UndoResult::LeftAlone, Failure::ofException()};
     }
 }
 

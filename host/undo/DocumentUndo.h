@@ -21,8 +21,8 @@ struct UndoResult
     };
 
     Kind kind = LeftAlone;
-    /// Why the document, or an older update of one that was undone, is left alone; else empty.
-    std::string reason = {};
+    /// Why the document, or an older update of one that was undone, is left alone.
+    Failure reason = {};
     /// What the user should know of a document that was undone; may be empty.
     std::string note = {};
 };
@@ -41,9 +41,9 @@ public:
     UndoResult perform(bool dryRun);
 
 private:
-    std::string open();
+    Failure open();
     void follow();
-    std::string whyNotCut() const;
+    Failure whyNotCut() const;
     UndoResult cut() const;
 
     const UndoPlan::Document& m_document;
