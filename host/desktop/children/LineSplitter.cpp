@@ -5,7 +5,8 @@ namespace host::desktop {
 std::optional<QByteArray> LineSplitter::next()
 {
     const int end = m_bytes.indexOf('\n', m_begin);
-    if (end >= 0 && end - m_begin < longestLine) {
+    m_isTooLong = (end >= 0 ? end - m_begin + 1 : waiting()) > longestLine;
+    if (end >= 0 && !m_isTooLong) {
         const QByteArray line = m_bytes.mid(m_begin, end - m_begin);
         m_begin = end + 1;
         return line;

@@ -1,7 +1,7 @@
 #include "NameList.h"
 
 #include <QDir>
-#include <QStandardPaths>
+#include <QFileInfo>
 
 namespace host::desktop {
 
@@ -10,8 +10,8 @@ namespace {
 /// Below the user's own run-time folder, which lies in memory, where there is one.
 QString folder()
 {
-    const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    return own.isEmpty() ? QDir::tempPath() : own;
+    const QString own = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return own.startsWith('/') && QFileInfo(own).isWritable() ? own : QDir::tempPath();
 }
 
 } // namespace

@@ -57,7 +57,7 @@ State DocumentRecord::state() const
 
 const Outcome* DocumentRecord::outcome() const
 {
-    return result ? &*result : check && !isAside ? &*check : nullptr;
+    return result ? result.get() : isAside ? nullptr : check.get();
 }
 
 QString DocumentRecord::reasonCode() const

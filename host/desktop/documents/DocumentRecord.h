@@ -5,7 +5,7 @@
 
 #include <QByteArray>
 
-#include <optional>
+#include <memory>
 
 namespace host::desktop {
 
@@ -25,13 +25,14 @@ struct DocumentRecord
     QByteArray path;
     QString name;
     QString folder;
-    /// Nothing until it is read.
-    std::optional<DocumentFacts> facts;
+    /// Null until it is read. Kept apart, so that thousands of records are moved quickly; a copy of a record shares
+    /// them.
+    std::shared_ptr<const DocumentFacts> facts;
     /// Why it could not be read; else empty.
     QString troubleCode;
     QString trouble;
-    std::optional<Outcome> check;
-    std::optional<Outcome> result;
+    std::shared_ptr<const Outcome> check;
+    std::shared_ptr<const Outcome> result;
     /// Which of the session's passwords opens it; -1 for none.
     int password = -1;
     /// The change is not for it now, so its check is not shown.

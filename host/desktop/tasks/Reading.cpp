@@ -35,7 +35,7 @@ void Reading::takeFound(const FoundEvent& event)
 void Reading::takeDocument(DocumentId id, const DocumentEvent& event)
 {
     table().change(id, [&event, this](DocumentRecord& record) {
-        record.facts = DocumentFacts::fromJson(event.facts);
+        record.facts = std::make_shared<DocumentFacts>(DocumentFacts::fromJson(event.facts));
         record.password = part().password >= 0 ? part().password : record.password;
         record.troubleCode.clear();
         record.trouble.clear();

@@ -47,7 +47,8 @@ QStringList Running::arguments(const Part& part)
 void Running::takeResult(DocumentId id, const ResultEvent& event)
 {
     table().change(id, [&event, this](DocumentRecord& record) {
-        (m_mode == Mode::Try ? record.check : record.result) = Outcome::fromJson(event.result, m_mode == Mode::Try);
+        (m_mode == Mode::Try ? record.check : record.result) =
+            std::make_shared<Outcome>(Outcome::fromJson(event.result, m_mode == Mode::Try));
     });
 }
 
@@ -59,7 +60,7 @@ void Running::leave(DocumentId id, const ChildRun::Ending& ending)
         Outcome outcome;
         outcome.kind = Outcome::Kind::NotDone;
         outcome.reason = ending.wasStopped ? QString() : ending.words.section('\n', -1);
-        record.result = outcome;
+        record.result = std::make_shared<Outcome>(outcome);
     });
 }
 

@@ -30,7 +30,7 @@ void Undoing::takeResult(DocumentId id, const ResultEvent& event)
     count(outcome);
     table().change(id, [&outcome](DocumentRecord& record) {
         record.forget();
-        record.result = outcome;
+        record.result = std::make_shared<Outcome>(outcome);
     });
 }
 

@@ -52,6 +52,7 @@ Commands::Commands(Workbench& workbench, ActionTable& actions, QWidget* window)
     connect(&workbench.list(), &ListHistory::changed, this, &Commands::enable);
     connect(&workbench.history(), &RunHistory::modelReset, this, &Commands::enable);
     connect(&workbench, &Workbench::targetsChanged, this, &Commands::enable);
+    connect(&workbench.order(), &DocumentOrder::selectionMoved, this, &Commands::enable);
     enable();
 }
 
@@ -213,8 +214,8 @@ void Commands::configure()
     machine.setBusy(true);
     std::optional<StoredChoice> choice;
     try {
-        const std::optional<DocumentFacts> facts = current() != nullptr ? current()->facts : std::nullopt;
-        choice = m_dialog.show(m_window, m_workbench.draft().stored(), facts ? &*facts : nullptr);
+        const std::shared_ptr<const DocumentFacts> facts = current() != nullptr ? current()->facts : nullptr;
+        choice = m_dialog.show(m_window, m_workbench.draft().stored(), facts.get());
     } catch (const std::runtime_error& error) {
         emit failed(QString::fromStdString(error.what()));
     }

@@ -161,7 +161,10 @@ void Workbench::collectTargets()
     m_targets = targets;
     if (isOther && m_machine.state() != State::Results && !m_machine.isWriting()) {
         const QSet<DocumentId> within(targets.begin(), targets.end());
-        m_table.changeAll([&within](DocumentRecord& record) { record.isAside = !within.contains(record.id); });
+        for (const DocumentRecord& each : m_table.records())
+            if (each.isAside == within.contains(each.id))
+                m_table.change(each.id, [](DocumentRecord& record) { record.isAside = !record.isAside; });
+        m_table.flush();
         m_collectSoon.stop();
         edited();
     }
@@ -195,9 +198,11 @@ void Workbench::leaveResults()
     const bool inPlace = m_lastOrder.destination.kind == Destination::Kind::InPlace;
     m_table.changeAll([inPlace](DocumentRecord& record) {
         if (inPlace && record.result && record.facts && record.result->kind == Outcome::Kind::Changed) {
-            record.facts->view.view.add(record.result->after.view);
+            auto facts = std::make_shared<DocumentFacts>(*record.facts);
+            facts->view.view.add(record.result->after.view);
             if (record.result->after.view[ViewEntry::OpenPage])
-                record.facts->view.action = record.result->after.action;
+                facts->view.action = record.result->after.action;
+            record.facts = facts;
         }
         record.result.reset();
         record.check.reset();
