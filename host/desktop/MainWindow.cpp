@@ -3,8 +3,8 @@
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
-#include "host/desktop/widgets/DetailLine.h"
 #include "host/desktop/presets/PresetFolder.h"
+#include "host/desktop/widgets/DetailLine.h"
 #include "host/desktop/widgets/Drawings.h"
 #include "host/desktop/widgets/EmptyPage.h"
 #include "host/desktop/widgets/HelpWindow.h"
@@ -43,14 +43,17 @@ MainWindow::Places MainWindow::Places::ofUser()
 {
     const QString state = RunHistory::userFolder();
     return {QCoreApplication::applicationDirPath() + "/quintar", state, state + "/../sessions",
-            QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/quintar/window.ini", PresetFolder::userFolder()};
+            QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/quintar/window.ini",
+            PresetFolder::userFolder()};
 }
 
 MainWindow::MainWindow(const Places& places)
-    : m_settings(places.settings, QSettings::IniFormat), m_views(places.views), m_workbench(places.program, places.reports),
-      m_session(m_workbench, places.sessions), m_actions(this), m_commands(m_workbench, m_actions, this)
+    : m_settings(places.settings, QSettings::IniFormat), m_views(places.views),
+      m_workbench(places.program, places.reports), m_session(m_workbench, places.sessions), m_actions(this),
+      m_commands(m_workbench, m_actions, this)
 {
-    setObjectName("QuintarClass"); // the dialogs of actions take their colours and place from a window of this name
+    setObjectName(
+        "QuintarClass"); // the dialogs of actions take their colours and place from a window of this name
     setAcceptDrops(true);
     place();
     connectParts();
@@ -183,9 +186,8 @@ void MainWindow::connectParts()
     connect(m_runBar, &RunBar::undoWanted, &m_commands, &Commands::undoLast);
     connect(m_runBar, &RunBar::saveWanted, &m_commands, &Commands::saveReport);
     for (auto signal : {&Workbench::said, &Workbench::failed})
-        connect(&m_workbench, signal, this, [this, signal](const QString& text) {
-            m_runBar->say(text, signal == &Workbench::failed);
-        });
+        connect(&m_workbench, signal, this,
+                [this, signal](const QString& text) { m_runBar->say(text, signal == &Workbench::failed); });
     connect(&m_commands, &Commands::said, this, [this](const QString& text) { m_runBar->say(text, false); });
     connect(&m_commands, &Commands::failed, this, [this](const QString& text) { m_runBar->say(text, true); });
     connect(&m_workbench.machine(), &RunMachine::changed, this, &MainWindow::showState);
@@ -196,9 +198,8 @@ void MainWindow::connectParts()
     connect(&m_commands, &Commands::dialogOpens, &m_session, &Session::save);
     connect(&m_workbench.order(), &DocumentOrder::shownChanged, this, &MainWindow::showState);
     connect(&m_workbench, &Workbench::progressed, this, &MainWindow::showState);
-    connect(&m_workbench, &Workbench::draftChanged, this, [this] {
-        m_change->destination()->setDestination(m_workbench.destination());
-    });
+    connect(&m_workbench, &Workbench::draftChanged, this,
+            [this] { m_change->destination()->setDestination(m_workbench.destination()); });
     connect(&m_workbench, &Workbench::runEnded, this, [this] {
         if (m_closesAtEnd)
             close();
@@ -214,7 +215,8 @@ void MainWindow::connectActions()
     });
     m_help = new HelpWindow(this);
     connect(m_actions[Id::Help], &QAction::triggered, m_help, &HelpWindow::showSettings);
-    connect(m_actions[Id::Keys], &QAction::triggered, this, [this] { m_help->showPage(m_actions.keysPage()); });
+    connect(m_actions[Id::Keys], &QAction::triggered, this,
+            [this] { m_help->showPage(m_actions.keysPage()); });
     connect(m_actions[Id::WhatsThis], &QAction::triggered, this, [] { QWhatsThis::enterWhatsThisMode(); });
     connect(m_actions[Id::ShowPreview], &QAction::toggled, m_preview, &QWidget::setVisible);
     connect(m_actions[Id::NextPane], &QAction::triggered, this, [this] { goTo(1); });
@@ -251,7 +253,8 @@ void MainWindow::goTo(int step)
     QWidget* const parts[] = {m_view, m_change, m_runBar, m_filter};
     int now = 0;
     for (int place = 0; place < 4; ++place)
-        if (QWidget* focus = focusWidget(); focus != nullptr && (focus == parts[place] || parts[place]->isAncestorOf(focus)))
+        if (QWidget* focus = focusWidget();
+            focus != nullptr && (focus == parts[place] || parts[place]->isAncestorOf(focus)))
             now = place;
     for (int tries = 0; tries < 4; ++tries) {
         now = (now + step + 4) % 4;
@@ -260,7 +263,8 @@ void MainWindow::goTo(int step)
         if (focusWidget() == part && part->focusPolicy() != Qt::NoFocus)
             return;
         for (QWidget* each : part->findChildren<QWidget*>())
-            if (each->isVisible() && each->isEnabled() && (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus)
+            if (each->isVisible() && each->isEnabled() &&
+                (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus)
                 return each->setFocus(Qt::TabFocusReason);
     }
 }
@@ -282,12 +286,13 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (m_workbench.machine().isWriting()) {
         event->ignore();
-        return dialogs::confirm(this, tr("A run is under way. Stop it and close?"),
-                                tr("Documents that are being worked on are finished; the others stay as they are."),
-                                tr("&Stop and Close"), [this] {
-                                    m_closesAtEnd = true;
-                                    m_workbench.stop();
-                                });
+        return dialogs::confirm(
+            this, tr("A run is under way. Stop it and close?"),
+            tr("Documents that are being worked on are finished; the others stay as they are."),
+            tr("&Stop and Close"), [this] {
+                m_closesAtEnd = true;
+                m_workbench.stop();
+            });
     }
     saveGeometryOnce();
     event->accept();

@@ -23,7 +23,9 @@ void fill(DocumentTable& table, const QVector<const char*>& documents)
 {
     for (const char* json : documents) {
         const DocumentTable::Ids ids = table.append({"/d/" + QByteArray::number(table.count()) + ".pdf"});
-        table.change(ids.front(), [json](DocumentRecord& record) { record.facts = std::make_shared<DocumentFacts>(facts(json)); });
+        table.change(ids.front(), [json](DocumentRecord& record) {
+            record.facts = std::make_shared<DocumentFacts>(facts(json));
+        });
     }
     table.flush();
 }
@@ -68,7 +70,9 @@ private slots:
     {
         DocumentTable table;
         fill(table, {R"({"pages":8,"bookmarks":0,"title":"A"})", R"({"pages":3,"bookmarks":4})"});
-        QVERIFY(warnings(table, ViewEntry::PageMode, pdflibrary::BookmarksPanel).join("").contains("no bookmarks"));
+        QVERIFY(warnings(table, ViewEntry::PageMode, pdflibrary::BookmarksPanel)
+                    .join("")
+                    .contains("no bookmarks"));
         QVERIFY(warnings(table, ViewEntry::DisplayDocTitle, 1).join("").contains("no title"));
         QVERIFY(warnings(table, ViewEntry::OpenPage, 4).join("").contains("shortest"));
         QVERIFY(warnings(table, ViewEntry::HideToolbar, 1).join("").contains("Browsers"));
@@ -82,19 +86,24 @@ private slots:
         order.draft.set(ViewEntry::PageMode, pdflibrary::BookmarksPanel);
         order.draft.set(ViewEntry::Title, FileNameAsTitle());
         order.draft.setKeepsTitles(true);
-        QCOMPARE(order.arguments("/d"), QStringList({"--page-mode", "use-outlines", "--title-from-file-name", "--title-if-missing", "--in-place"}));
+        QCOMPARE(order.arguments("/d"), QStringList({"--page-mode", "use-outlines", "--title-from-file-name",
+                                                     "--title-if-missing", "--in-place"}));
         order.draft.set(ViewEntry::Title, std::nullopt);
         order.destination = {Destination::Kind::Folder, "/out", {}};
-        QCOMPARE(order.arguments("/d"), QStringList({"--page-mode", "use-outlines", "--output", "/out", "--base", "/d"}));
+        QCOMPARE(order.arguments("/d"),
+                 QStringList({"--page-mode", "use-outlines", "--output", "/out", "--base", "/d"}));
         DocumentTable table;
         table.append({"/d/it's.pdf", "/d/e/b.pdf"});
-        QCOMPARE(order.commandLine(table, {1, 2}),
-                 QString(R"(quintar run --page-mode use-outlines --output /out --base /d/ '/d/it'\''s.pdf' /d/e/b.pdf)"));
+        QCOMPARE(
+            order.commandLine(table, {1, 2}),
+            QString(
+                R"(quintar run --page-mode use-outlines --output /out --base /d/ '/d/it'\''s.pdf' /d/e/b.pdf)"));
     }
 
     void takesTheViewOfADocumentButNotItsTitle()
     {
-        const ViewChange like = ChangeDraft::like(facts(R"({"title":"A","lang":"en","pageMode":"UseThumbs","openAction":null})"));
+        const ViewChange like =
+            ChangeDraft::like(facts(R"({"title":"A","lang":"en","pageMode":"UseThumbs","openAction":null})"));
         QVERIFY(!like[ViewEntry::Title] && !like[ViewEntry::Lang] && !like[ViewEntry::Zoom]);
         QCOMPARE(*like[ViewEntry::PageMode], ViewValue(pdflibrary::PagesPanel));
         QCOMPARE(*like[ViewEntry::OpenPage], ViewValue(Unset()));
@@ -104,11 +113,14 @@ private slots:
     void drawsBeforeAndAfter()
     {
         DocumentRecord record = DocumentRecord::of(1, "/d/a.pdf");
-        record.facts = std::make_shared<DocumentFacts>(
-            facts(R"({"pages":8,"title":"Lathe","pageLayout":"TwoPageRight","openAction":{"page":4,"type":"FitH"}})"));
-        record.check = std::make_shared<Outcome>(Outcome::fromJson(QJsonDocument::fromJson(
-            R"({"status":"changed","before":{"viewerPreferences":{"DisplayDocTitle":null},"pageMode":null},
-                "after":{"viewerPreferences":{"DisplayDocTitle":true},"pageMode":"UseOutlines"}})").object(), true));
+        record.facts = std::make_shared<DocumentFacts>(facts(
+            R"({"pages":8,"title":"Lathe","pageLayout":"TwoPageRight","openAction":{"page":4,"type":"FitH"}})"));
+        record.check = std::make_shared<Outcome>(Outcome::fromJson(
+            QJsonDocument::fromJson(
+                R"({"status":"changed","before":{"viewerPreferences":{"DisplayDocTitle":null},"pageMode":null},
+                "after":{"viewerPreferences":{"DisplayDocTitle":true},"pageMode":"UseOutlines"}})")
+                .object(),
+            true));
         const PreviewScene before = PreviewScene::before(record, {});
         const PreviewScene after = PreviewScene::after(record, {});
         QCOMPARE(before.titleBar, QString("a.pdf"));
@@ -133,9 +145,11 @@ private slots:
         QVERIFY(!machine.isEnabled(Command::Start) && !machine.isEnabled(Command::Remove));
         machine.setBusy(false);
         QVERIFY(machine.handle(Step::Started));
-        for (const Command command : {Command::Add, Command::Remove, Command::Edit, Command::Start, Command::UndoRun, Command::TryAgain})
+        for (const Command command : {Command::Add, Command::Remove, Command::Edit, Command::Start,
+                                      Command::UndoRun, Command::TryAgain})
             QVERIFY(!machine.reasonAgainst(command).isEmpty());
-        QVERIFY(!machine.handle(Step::Undo) && !machine.handle(Step::Edited) && !machine.handle(Step::Emptied));
+        QVERIFY(!machine.handle(Step::Undo) && !machine.handle(Step::Edited) &&
+                !machine.handle(Step::Emptied));
         QVERIFY(machine.handle(Step::Paused) && machine.handle(Step::Stopped));
         QVERIFY(machine.isWriting() && machine.handle(Step::Ended));
         QCOMPARE(machine.state(), State::Results);

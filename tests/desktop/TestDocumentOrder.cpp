@@ -18,7 +18,8 @@ DocumentFacts facts(const char* json)
 
 void read(DocumentTable& table, DocumentId id, const char* json)
 {
-    table.change(id, [json](DocumentRecord& record) { record.facts = std::make_shared<DocumentFacts>(facts(json)); });
+    table.change(
+        id, [json](DocumentRecord& record) { record.facts = std::make_shared<DocumentFacts>(facts(json)); });
     table.flush();
 }
 
@@ -86,7 +87,8 @@ private slots:
             QTest::newRow(name) << int(kind) << QByteArray(json) << accepted;
         };
         row("shows no title", Kind::NoTitleShown, R"({"title":"T"})", true);
-        row("shows its title", Kind::NoTitleShown, R"({"title":"T","viewerPreferences":{"DisplayDocTitle":true}})", false);
+        row("shows its title", Kind::NoTitleShown,
+            R"({"title":"T","viewerPreferences":{"DisplayDocTitle":true}})", false);
         row("not read is of no kind", Kind::NoTitleShown, "", false);
         row("blank title", Kind::NoTitle, R"({"title":" \n"})", true);
         row("bookmarks hidden", Kind::BookmarksNotShown, R"({"bookmarks":3,"pageMode":"UseNone"})", true);
@@ -115,8 +117,11 @@ private slots:
         DocumentRecord record = DocumentRecord::of(1, "/d/a.pdf");
         record.facts = std::make_shared<DocumentFacts>(facts(R"({"pages":8,"pageMode":"UseThumbs"})"));
         QCOMPARE(rowtexts::cell(record, Column::Panel), (CellText{"Pages", "", false}));
-        record.check = std::make_shared<Outcome>(Outcome::fromJson(QJsonDocument::fromJson(
-            R"({"status":"changed","before":{"pageMode":"UseThumbs"},"after":{"pageMode":"UseOutlines"}})").object(), true));
+        record.check = std::make_shared<Outcome>(Outcome::fromJson(
+            QJsonDocument::fromJson(
+                R"({"status":"changed","before":{"pageMode":"UseThumbs"},"after":{"pageMode":"UseOutlines"}})")
+                .object(),
+            true));
         QCOMPARE(rowtexts::cell(record, Column::Panel), (CellText{"Pages", "Bookmarks", false}));
         QCOMPARE(rowtexts::spoken(record, Column::Panel), QString("Pages, will be Bookmarks"));
         QCOMPARE(rowtexts::spoken(record, Column::Name), QString("a.pdf, will change"));
@@ -126,10 +131,12 @@ private slots:
 
     void leavesOutWhatItDoesNotUnderstand()
     {
-        const DocumentFacts strange = facts(R"({"pages":2,"pageMode":"Sideways","pageLayout":"OneColumn","viewerPreferences":7})");
+        const DocumentFacts strange =
+            facts(R"({"pages":2,"pageMode":"Sideways","pageLayout":"OneColumn","viewerPreferences":7})");
         QVERIFY(!strange.view.view[ViewEntry::PageMode]);
         QCOMPARE(strange.view.textOf(ViewEntry::PageLayout), QString("One column"));
-        QCOMPARE(facts(R"({"openAction":{"action":"JavaScript"}})").view.textOf(ViewEntry::OpenPage), QString("Runs a script"));
+        QCOMPARE(facts(R"({"openAction":{"action":"JavaScript"}})").view.textOf(ViewEntry::OpenPage),
+                 QString("Runs a script"));
     }
 
     void takesRemovingBackWithAllThatIsKnown()

@@ -30,8 +30,9 @@ private slots:
     {
         m_fake = std::make_unique<FakeQuintar>();
         m_folder = std::make_unique<QTemporaryDir>();
-        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::found(1, "/d/b.pdf") + Fake::document(0) +
-                                  Fake::document(1, ",\"pageLayout\":\"OneColumn\"") + Fake::end());
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::found(1, "/d/b.pdf") +
+                                  Fake::document(0) + Fake::document(1, ",\"pageLayout\":\"OneColumn\"") +
+                                  Fake::end());
         m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
         m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
         open();
@@ -50,19 +51,23 @@ private slots:
     void takesWhatIsDroppedAndPasted()
     {
         QMimeData data;
-        data.setData("text/uri-list", "# from elsewhere\r\nfile:///d/b%FF%20c.pdf\r\nhttp://x/y.pdf\r\nfile://host/e\r\n");
+        data.setData("text/uri-list",
+                     "# from elsewhere\r\nfile:///d/b%FF%20c.pdf\r\nhttp://x/y.pdf\r\nfile://host/e\r\n");
         QCOMPARE(droppednames::of(data), QVector<QByteArray>({"/d/b\xff c.pdf", "/e"}));
-        QDragEnterEvent enter(QPoint(5, 5), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton,
+                              Qt::NoModifier);
         QApplication::sendEvent(m_window.get(), &enter);
         QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPointF(5, 5), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(QPointF(5, 5), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton,
+                        Qt::NoModifier);
         QApplication::sendEvent(m_window.get(), &drop);
         QCOMPARE(drop.dropAction(), Qt::CopyAction);
         QTRY_COMPARE(state(), State::Listed);
         QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b\xff c.pdf", "/e"}));
 
         QApplication::clipboard()->setText("\"/p/one two.pdf\"\nnot a path\n");
-        m_fake->plays("show", Fake::start() + Fake::found(0, "/p/one two.pdf") + Fake::document(0) + Fake::end());
+        m_fake->plays("show",
+                      Fake::start() + Fake::found(0, "/p/one two.pdf") + Fake::document(0) + Fake::end());
         QTest::keyClick(m_window.get(), Qt::Key_V, Qt::ControlModifier);
         QTRY_COMPARE(m_window->workbench().table().count(), 3);
         QCOMPARE(m_fake->names(), QList<QByteArray>({"/p/one two.pdf"}));
@@ -71,7 +76,8 @@ private slots:
     void showsWhatWouldChangeAsksAndRuns()
     {
         read();
-        QCOMPARE(find<QComboBox>("Layout")->accessibleDescription(), QString("different: Not set (1), One column (1)"));
+        QCOMPARE(find<QComboBox>("Layout")->accessibleDescription(),
+                 QString("different: Not set (1), One column (1)"));
         QVERIFY(!button("Start…")->isEnabled());
         choose("Panel", "Bookmarks");
         QTRY_VERIFY(button("Start…")->isEnabled());
@@ -80,7 +86,8 @@ private slots:
         click("Start…");
         auto* question = m_window->findChild<StartQuestion*>();
         QVERIFY(question->isVisible());
-        QCOMPARE(StartQuestion::question(m_window->workbench()), QString("%n document(s) will be changed in place.").replace("%n", "1"));
+        QCOMPARE(StartQuestion::question(m_window->workbench()),
+                 QString("%n document(s) will be changed in place.").replace("%n", "1"));
         QCOMPARE(m_fake->starts().filter("--report").size(), 0);
         QTest::keyClick(question, Qt::Key_Return);
         QTRY_COMPARE(state(), State::Results);
@@ -110,7 +117,8 @@ private slots:
     void undoesARunAfterAsking()
     {
         run();
-        m_fake->plays("undo", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::result(0, "undone") + Fake::end());
+        m_fake->plays("undo",
+                      Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::result(0, "undone") + Fake::end());
         dialogs::setNextAnswer({"yes"});
         click("Undo This Run…");
         QTRY_COMPARE(m_fake->starts().filter(QRegularExpression("^undo ")).size(), 1);
@@ -134,7 +142,8 @@ private slots:
         QTRY_COMPARE(list()->model()->rowCount(), 2);
         QTest::keyClick(m_window.get(), Qt::Key_F6);
         for (QWidget* each : m_window->findChildren<QWidget*>())
-            if (each->isVisible() && (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !each->inherits("QScrollArea") && !each->inherits("QMenuBar"))
+            if (each->isVisible() && (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus &&
+                !each->inherits("QScrollArea") && !each->inherits("QMenuBar"))
                 QVERIFY2(!nameOf(each).isEmpty(), each->metaObject()->className());
     }
 
@@ -149,7 +158,8 @@ private slots:
         QCOMPARE(presets.presets().at(0).name, QString("a/b & c"));
         QCOMPARE(presets.presets().at(0).draft, m_window->workbench().draft());
         QTest::keyClick(m_window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-        QVERIFY(QApplication::clipboard()->text().startsWith("quintar run --page-mode unset --page-layout one-column"));
+        QVERIFY(QApplication::clipboard()->text().startsWith(
+            "quintar run --page-mode unset --page-layout one-column"));
     }
 
     void writesToAFolder()
@@ -228,8 +238,9 @@ private:
     void open()
     {
         m_window.reset();
-        m_window = std::make_unique<MainWindow>(MainWindow::Places{
-            Fake::program(), m_folder->filePath("runs"), m_folder->filePath("sessions"), m_folder->filePath("window.ini"), m_folder->filePath("views")});
+        m_window = std::make_unique<MainWindow>(
+            MainWindow::Places{Fake::program(), m_folder->filePath("runs"), m_folder->filePath("sessions"),
+                               m_folder->filePath("window.ini"), m_folder->filePath("views")});
         m_window->show();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         m_window->begin({});

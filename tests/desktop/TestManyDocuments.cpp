@@ -65,8 +65,9 @@ private slots:
     {
         QByteArray stream = FakeQuintar::start();
         for (int number = 0; number < documents; ++number)
-            stream += FakeQuintar::found(number, "/manuals/part-" + QByteArray::number(number % 97) + "/manual-" +
-                                                     QByteArray::number((number * 7919) % documents) + ".pdf");
+            stream +=
+                FakeQuintar::found(number, "/manuals/part-" + QByteArray::number(number % 97) + "/manual-" +
+                                               QByteArray::number((number * 7919) % documents) + ".pdf");
         for (int number = 0; number < documents; ++number)
             stream += FakeQuintar::document(number, number % 3 == 0 ? ",\"pageLayout\":\"OneColumn\"" : "");
         const FakeQuintar fake;

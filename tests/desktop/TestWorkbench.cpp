@@ -32,8 +32,8 @@ private slots:
         m_fake = std::make_unique<FakeQuintar>();
         m_reports = std::make_unique<QTemporaryDir>();
         m_bench = std::make_unique<Workbench>(Fake::program(), m_reports->path());
-        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::found(1, "/d/b.pdf") + Fake::document(0) +
-                                  Fake::document(1) + Fake::end());
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::found(1, "/d/b.pdf") +
+                                  Fake::document(0) + Fake::document(1) + Fake::end());
         m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
         m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
     }
@@ -51,13 +51,15 @@ private slots:
 
         m_bench->start();
         QTRY_COMPARE(state(), State::Results);
-        QVERIFY(m_fake->starts().last().startsWith("run --page-mode use-outlines --in-place --report " + m_reports->path()));
+        QVERIFY(m_fake->starts().last().startsWith("run --page-mode use-outlines --in-place --report " +
+                                                   m_reports->path()));
         QCOMPARE(m_bench->counts().changed, 1);
         QCOMPARE(m_bench->counts().failed, 1);
         QCOMPARE(m_bench->undoableRun(), 0);
         QCOMPARE(m_bench->history().runs().front().what, QString("Panel: Bookmarks"));
 
-        m_fake->plays("undo", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::result(0, "undone") + Fake::end());
+        m_fake->plays("undo",
+                      Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::result(0, "undone") + Fake::end());
         QSignalSpy said(m_bench.get(), &Workbench::said);
         m_bench->undoRun(0);
         QTRY_COMPARE(said.size(), 1);
@@ -81,7 +83,8 @@ private slots:
 
     void triesAPasswordOnAllThatWantOne()
     {
-        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::failed(0, "password") + Fake::end());
+        m_fake->plays("show",
+                      Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::failed(0, "password") + Fake::end());
         read();
         QCOMPARE(m_bench->table().find(1)->reasonCode(), QString("password"));
         m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::document(0) + Fake::end());
@@ -124,8 +127,8 @@ private slots:
         read();
         m_bench->setDraft(bookmarks());
         QTRY_COMPARE(state(), State::Ready);
-        m_fake->plays("run", Fake::start() + "#hear pause\n#hear resume\n" + Fake::changed(0) + "#hear stop\n" +
-                                 "{\"event\":\"end\",\"stopped\":true}\n");
+        m_fake->plays("run", Fake::start() + "#hear pause\n#hear resume\n" + Fake::changed(0) +
+                                 "#hear stop\n" + "{\"event\":\"end\",\"stopped\":true}\n");
         m_bench->start();
         m_bench->pause();
         QCOMPARE(state(), State::Paused);
@@ -141,10 +144,12 @@ private slots:
     void forgetsAnEarlierCheckAtEachEdit()
     {
         read();
-        m_fake->plays("try", Fake::start() + "#wait 300\n" + Fake::changed(0) + Fake::changed(1) + Fake::end());
+        m_fake->plays("try",
+                      Fake::start() + "#wait 300\n" + Fake::changed(0) + Fake::changed(1) + Fake::end());
         m_bench->setDraft(bookmarks());
         QTRY_VERIFY(m_bench->task() != nullptr);
-        m_fake->plays("try", Fake::start() + Fake::result(0, "unchanged") + Fake::result(1, "unchanged") + Fake::end());
+        m_fake->plays("try", Fake::start() + Fake::result(0, "unchanged") + Fake::result(1, "unchanged") +
+                                 Fake::end());
         ChangeDraft other = bookmarks();
         other.set(ViewEntry::PageLayout, 1);
         m_bench->setDraft(other);

@@ -26,7 +26,8 @@ std::string after(const std::vector<std::string>& words, const std::string& opti
 void keep(const std::string& from, const std::string& name)
 {
     if (!from.empty())
-        std::ofstream(folder() + "/" + name, std::ios::binary) << std::ifstream(from, std::ios::binary).rdbuf();
+        std::ofstream(folder() + "/" + name, std::ios::binary)
+            << std::ifstream(from, std::ios::binary).rdbuf();
 }
 
 /// \returns false at the end of standard input.

@@ -15,7 +15,10 @@ public:
     static QString program() { return FAKE_QUINTAR_FILE; }
 
     /// \param command the first argument, or "try" for a run that only tries out.
-    void plays(const QString& command, const QByteArray& stream) const { put(m_folder.filePath(command), stream); }
+    void plays(const QString& command, const QByteArray& stream) const
+    {
+        put(m_folder.filePath(command), stream);
+    }
 
     /// A line for each start: the arguments, separated by spaces.
     QStringList starts() const { return lines("starts"); }
@@ -32,7 +35,8 @@ public:
     static QByteArray end() { return "{\"event\":\"end\",\"stopped\":false}\n"; }
     static QByteArray found(int number, const QByteArray& file)
     {
-        return "{\"event\":\"found\",\"number\":" + QByteArray::number(number) + ",\"file\":\"" + file + "\",\"fileBytes\":null}\n";
+        return "{\"event\":\"found\",\"number\":" + QByteArray::number(number) + ",\"file\":\"" + file +
+               "\",\"fileBytes\":null}\n";
     }
     /// \param more further entries, each with a comma before it.
     static QByteArray document(int number, const QByteArray& more = {})
@@ -43,15 +47,18 @@ public:
     }
     static QByteArray result(int number, const QByteArray& status, const QByteArray& more = {})
     {
-        return "{\"event\":\"result\",\"number\":" + QByteArray::number(number) + ",\"status\":\"" + status + "\"" + more + "}\n";
+        return "{\"event\":\"result\",\"number\":" + QByteArray::number(number) + ",\"status\":\"" + status +
+               "\"" + more + "}\n";
     }
     static QByteArray changed(int number)
     {
-        return result(number, "changed", ",\"before\":{\"pageMode\":null},\"after\":{\"pageMode\":\"UseOutlines\"}");
+        return result(number, "changed",
+                      ",\"before\":{\"pageMode\":null},\"after\":{\"pageMode\":\"UseOutlines\"}");
     }
     static QByteArray failed(int number, const QByteArray& code)
     {
-        return result(number, "failed", ",\"reasonCode\":\"" + code + "\",\"reason\":\"words\",\"before\":{},\"after\":{}");
+        return result(number, "failed",
+                      ",\"reasonCode\":\"" + code + "\",\"reason\":\"words\",\"before\":{},\"after\":{}");
     }
 
 private:
@@ -66,7 +73,10 @@ private:
         QFile file(m_folder.filePath(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    QStringList lines(const QString& name) const { return QString::fromUtf8(content(name)).split('\n', Qt::SkipEmptyParts); }
+    QStringList lines(const QString& name) const
+    {
+        return QString::fromUtf8(content(name)).split('\n', Qt::SkipEmptyParts);
+    }
 
     QTemporaryDir m_folder;
 };

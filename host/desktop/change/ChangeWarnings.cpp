@@ -27,28 +27,52 @@ bool setsWindow(const ViewChange& view)
     return false;
 }
 
-void aboutDocuments(const ViewChange& view, const SelectionSummary& summary, std::vector<ChangeWarning>& warnings)
+void aboutDocuments(const ViewChange& view, const SelectionSummary& summary,
+                    std::vector<ChangeWarning>& warnings)
 {
     const auto& page = view[ViewEntry::OpenPage];
     const int* number = page ? std::get_if<int>(&*page) : nullptr;
     if (sets(view, ViewEntry::PageMode, pdflibrary::BookmarksPanel) && summary.withoutBookmarks > 0)
-        warnings.push_back({say(QT_TRANSLATE_N_NOOP("ChangeWarnings", "%n document(s) have no bookmarks: the panel will be empty."), summary.withoutBookmarks), DocumentFilter::Kind::NoBookmarks});
+        warnings.push_back(
+            {say(QT_TRANSLATE_N_NOOP("ChangeWarnings",
+                                     "%n document(s) have no bookmarks: the panel will be empty."),
+                 summary.withoutBookmarks),
+             DocumentFilter::Kind::NoBookmarks});
     if (sets(view, ViewEntry::DisplayDocTitle, 1) && !view[ViewEntry::Title] && summary.withoutTitle > 0)
-        warnings.push_back({say(QT_TRANSLATE_N_NOOP("ChangeWarnings", "%n document(s) have no title to show."), summary.withoutTitle), DocumentFilter::Kind::NoTitle});
+        warnings.push_back(
+            {say(QT_TRANSLATE_N_NOOP("ChangeWarnings", "%n document(s) have no title to show."),
+                 summary.withoutTitle),
+             DocumentFilter::Kind::NoTitle});
     if (number != nullptr && summary.known > 0 && *number > summary.shortest)
-        warnings.push_back({say(QT_TRANSLATE_N_NOOP("ChangeWarnings", "The shortest document has %n page(s); it cannot open there."), summary.shortest), {}});
+        warnings.push_back(
+            {say(QT_TRANSLATE_N_NOOP("ChangeWarnings",
+                                     "The shortest document has %n page(s); it cannot open there."),
+                 summary.shortest),
+             {}});
     if (summary.signedDocuments > 0)
-        warnings.push_back({say(QT_TRANSLATE_N_NOOP("ChangeWarnings", "%n document(s) are signed and stay as they are, unless you say otherwise."), summary.signedDocuments), DocumentFilter::Kind::Signed});
+        warnings.push_back(
+            {say(QT_TRANSLATE_N_NOOP(
+                     "ChangeWarnings",
+                     "%n document(s) are signed and stay as they are, unless you say otherwise."),
+                 summary.signedDocuments),
+             DocumentFilter::Kind::Signed});
 }
 
 void aboutViewers(const ViewChange& view, std::vector<ChangeWarning>& warnings)
 {
     if (sets(view, ViewEntry::PageMode, pdflibrary::FullScreen))
-        warnings.push_back({QCoreApplication::translate("ChangeWarnings", "Full screen: many viewers ask first, and browsers ignore it."), {}});
+        warnings.push_back(
+            {QCoreApplication::translate("ChangeWarnings",
+                                         "Full screen: many viewers ask first, and browsers ignore it."),
+             {}});
     if (setsWindow(view))
-        warnings.push_back({QCoreApplication::translate("ChangeWarnings", "Browsers ignore what is said about windows and bars."), {}});
+        warnings.push_back({QCoreApplication::translate(
+                                "ChangeWarnings", "Browsers ignore what is said about windows and bars."),
+                            {}});
     if (sets(view, ViewEntry::HideMenubar, 1))
-        warnings.push_back({QCoreApplication::translate("ChangeWarnings", "Without the menu bar, readers need the keyboard."), {}});
+        warnings.push_back({QCoreApplication::translate("ChangeWarnings",
+                                                        "Without the menu bar, readers need the keyboard."),
+                            {}});
 }
 
 } // namespace

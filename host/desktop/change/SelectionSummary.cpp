@@ -108,7 +108,8 @@ QString SelectionSummary::textOf(ViewEntry entry) const
     std::vector<std::pair<int, QString>> parts;
     for (const auto& [value, count] : what.counts)
         parts.emplace_back(count, value);
-    std::stable_sort(parts.begin(), parts.end(), [](const auto& left, const auto& right) { return left.first > right.first; });
+    std::stable_sort(parts.begin(), parts.end(),
+                     [](const auto& left, const auto& right) { return left.first > right.first; });
     QStringList texts;
     for (std::size_t place = 0; place < std::min(parts.size(), mostValues); ++place)
         texts += QCoreApplication::translate("SelectionSummary", "%1 (%2)")

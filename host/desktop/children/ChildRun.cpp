@@ -40,7 +40,8 @@ ChildRun::ChildRun(QObject* parent) : QObject(parent), m_process(new QProcess(th
         if (error != QProcess::FailedToStart)
             return;
         m_isBroken = true;
-        m_ending.words = tr("%1 could not be started: %2").arg(m_process->program(), m_process->errorString());
+        m_ending.words =
+            tr("%1 could not be started: %2").arg(m_process->program(), m_process->errorString());
         end();
     });
 }

@@ -53,7 +53,8 @@ struct BadLine
     QString reason;
 };
 
-using Event = std::variant<StartEvent, FoundEvent, DocumentEvent, ResultEvent, ProgressEvent, EndEvent, BadLine>;
+using Event =
+    std::variant<StartEvent, FoundEvent, DocumentEvent, ResultEvent, ProgressEvent, EndEvent, BadLine>;
 using Events = QVector<Event>;
 
 } // namespace host::desktop

@@ -12,14 +12,16 @@ Event start(const QJsonObject& line)
     const StartEvent event{line.value("version").toInt(), line.value("documents").toInt()};
     if (event.version == version)
         return event;
-    return BadLine{QCoreApplication::translate("EventReader", "the program and the window are of different versions")};
+    return BadLine{
+        QCoreApplication::translate("EventReader", "the program and the window are of different versions")};
 }
 
 Event found(const QJsonObject& line)
 {
     const QJsonValue bytes = line.value("fileBytes"); // only of names that are no text
-    return FoundEvent{line.value("number").toInt(-1), bytes.isString() ? QByteArray::fromBase64(bytes.toString().toLatin1())
-                                                                       : line.value("file").toString().toUtf8()};
+    return FoundEvent{line.value("number").toInt(-1),
+                      bytes.isString() ? QByteArray::fromBase64(bytes.toString().toLatin1())
+                                       : line.value("file").toString().toUtf8()};
 }
 
 Event document(const QJsonObject& line)
@@ -60,7 +62,8 @@ Event read(const QByteArray& line)
     for (const Row& row : rows)
         if (name == row.name)
             return row.read(object);
-    return BadLine{QCoreApplication::translate("EventReader", "the program said something that is not understood")};
+    return BadLine{
+        QCoreApplication::translate("EventReader", "the program said something that is not understood")};
 }
 
 } // namespace host::desktop::eventreader

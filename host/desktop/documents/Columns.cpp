@@ -15,9 +15,10 @@ constexpr ViewEntry page[] = {ViewEntry::OpenPage};
 constexpr ViewEntry zoom[] = {ViewEntry::Zoom};
 constexpr ViewEntry titleBar[] = {ViewEntry::DisplayDocTitle};
 constexpr ViewEntry window[] = {
-    ViewEntry::HideToolbar, ViewEntry::HideMenubar,           ViewEntry::HideWindowUI, ViewEntry::FitWindow,
-    ViewEntry::CenterWindow, ViewEntry::NonFullScreenPageMode, ViewEntry::Direction,    ViewEntry::PrintScaling,
-    ViewEntry::Duplex,       ViewEntry::PickTrayByPDFSize,     ViewEntry::NumCopies,    ViewEntry::Lang,
+    ViewEntry::HideToolbar,       ViewEntry::HideMenubar,  ViewEntry::HideWindowUI,
+    ViewEntry::FitWindow,         ViewEntry::CenterWindow, ViewEntry::NonFullScreenPageMode,
+    ViewEntry::Direction,         ViewEntry::PrintScaling, ViewEntry::Duplex,
+    ViewEntry::PickTrayByPDFSize, ViewEntry::NumCopies,    ViewEntry::Lang,
 };
 
 // clang-format off

@@ -9,7 +9,23 @@
 /// The columns of the list of documents. One row each drives header, menu, memory and sorting.
 namespace host::desktop {
 
-enum class Column { Name, Folder, Title, Pages, Bookmarks, Panel, Layout, Page, Zoom, TitleBar, Window, Signed, Certified, Encrypted, State };
+enum class Column {
+    Name,
+    Folder,
+    Title,
+    Pages,
+    Bookmarks,
+    Panel,
+    Layout,
+    Page,
+    Zoom,
+    TitleBar,
+    Window,
+    Signed,
+    Certified,
+    Encrypted,
+    State
+};
 
 inline constexpr int columnCount = 15;
 
@@ -31,7 +47,10 @@ struct ColumnRow
 namespace columns {
 
 const ColumnRow& describe(Column column);
-inline const ColumnRow& describe(int column) { return describe(static_cast<Column>(column)); }
+inline const ColumnRow& describe(int column)
+{
+    return describe(static_cast<Column>(column));
+}
 
 QString titleOf(Column column);
 QString helpOf(Column column);

@@ -10,7 +10,19 @@ namespace host::desktop {
 class DocumentFilter
 {
 public:
-    enum class Kind { All, NoTitleShown, NoTitle, BookmarksNotShown, NoBookmarks, OpensAtPage, WillChange, Trouble, Signed, Encrypted, Changed };
+    enum class Kind {
+        All,
+        NoTitleShown,
+        NoTitle,
+        BookmarksNotShown,
+        NoBookmarks,
+        OpensAtPage,
+        WillChange,
+        Trouble,
+        Signed,
+        Encrypted,
+        Changed
+    };
 
     /// In the order in which they are offered.
     static const std::vector<Kind>& kinds();

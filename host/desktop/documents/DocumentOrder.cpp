@@ -21,7 +21,8 @@ QItemSelection rangesOf(const QAbstractItemModel& model, std::vector<int> rows)
         std::size_t end = begin + 1;
         while (end < rows.size() && rows[end] == rows[end - 1] + 1)
             ++end;
-        ranges.append(QItemSelectionRange(model.index(rows[begin], 0), model.index(rows[end - 1], lastColumn)));
+        ranges.append(
+            QItemSelectionRange(model.index(rows[begin], 0), model.index(rows[end - 1], lastColumn)));
         begin = end;
     }
     return ranges;
@@ -111,7 +112,8 @@ QVariant DocumentOrder::data(const QModelIndex& index, int role) const
     case Qt::AccessibleTextRole:
         return rowtexts::spoken(*record, column);
     case Qt::ToolTipRole:
-        return column == Column::Name ? QString::fromLocal8Bit(record->path) : rowtexts::spoken(*record, column);
+        return column == Column::Name ? QString::fromLocal8Bit(record->path)
+                                      : rowtexts::spoken(*record, column);
     case Qt::TextAlignmentRole:
         return int(columns::describe(column).isNumber ? Qt::AlignRight | Qt::AlignVCenter
                                                       : Qt::AlignLeft | Qt::AlignVCenter);
@@ -195,8 +197,9 @@ void DocumentOrder::refresh()
     arrange(ids);
     if (ids == m_shown)
         return;
-    const bool areSame = ids.size() == m_shown.size() &&
-                         std::all_of(ids.begin(), ids.end(), [this](DocumentId id) { return m_rows.contains(id); });
+    const bool areSame =
+        ids.size() == m_shown.size() &&
+        std::all_of(ids.begin(), ids.end(), [this](DocumentId id) { return m_rows.contains(id); });
     if (areSame)
         moveTo(std::move(ids));
     else

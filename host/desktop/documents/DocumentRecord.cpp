@@ -69,7 +69,8 @@ QString DocumentRecord::reasonCode() const
 bool DocumentRecord::isInTrouble() const
 {
     const State now = state();
-    return now == State::Unreadable || now == State::Cannot || now == State::Failed || now == State::LeftAlone;
+    return now == State::Unreadable || now == State::Cannot || now == State::Failed ||
+           now == State::LeftAlone;
 }
 
 void DocumentRecord::forget()

@@ -15,7 +15,20 @@ using DocumentId = int;
 /// Everything that the window knows of a document.
 struct DocumentRecord
 {
-    enum class State { Waiting, Known, Unreadable, WillChange, AsAsked, Cannot, Changed, Unchanged, Failed, NotDone, Undone, LeftAlone };
+    enum class State {
+        Waiting,
+        Known,
+        Unreadable,
+        WillChange,
+        AsAsked,
+        Cannot,
+        Changed,
+        Unchanged,
+        Failed,
+        NotDone,
+        Undone,
+        LeftAlone
+    };
 
     /// What a run may do to it if it is signed.
     enum class Signed { Refuse, Append, AppendCertified };

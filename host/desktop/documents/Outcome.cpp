@@ -16,11 +16,11 @@ struct Status
 };
 
 const Status statuses[] = {
-    {"changed", Kind::WillChange, Kind::Changed},     {"differs", Kind::WillChange, Kind::Changed},
-    {"unchanged", Kind::AsAsked, Kind::Unchanged},    {"as asked", Kind::AsAsked, Kind::Unchanged},
-    {"failed", Kind::Cannot, Kind::Failed},           {"undone", Kind::Undone, Kind::Undone},
-    {"undone already", Kind::Undone, Kind::Undone},   {"left alone", Kind::LeftAlone, Kind::LeftAlone},
-    {"leftAlone", Kind::LeftAlone, Kind::LeftAlone},  {"undoneAlready", Kind::Undone, Kind::Undone},
+    {"changed", Kind::WillChange, Kind::Changed},    {"differs", Kind::WillChange, Kind::Changed},
+    {"unchanged", Kind::AsAsked, Kind::Unchanged},   {"as asked", Kind::AsAsked, Kind::Unchanged},
+    {"failed", Kind::Cannot, Kind::Failed},          {"undone", Kind::Undone, Kind::Undone},
+    {"undone already", Kind::Undone, Kind::Undone},  {"left alone", Kind::LeftAlone, Kind::LeftAlone},
+    {"leftAlone", Kind::LeftAlone, Kind::LeftAlone}, {"undoneAlready", Kind::Undone, Kind::Undone},
 };
 
 } // namespace

@@ -56,7 +56,8 @@ CellText flag(bool yes)
 
 CellText number(int value)
 {
-    return value > 0 ? CellText{QLocale().toString(value), {}, false} : CellText{QStringLiteral("–"), {}, true};
+    return value > 0 ? CellText{QLocale().toString(value), {}, false}
+                     : CellText{QStringLiteral("–"), {}, true};
 }
 
 /// Both are of the same document: what the outcome says counts before what was read earlier.
@@ -91,8 +92,8 @@ CellText entriesCell(const DocumentRecord& record, std::span<const ViewEntry> en
         differs = differs || !text.after.isEmpty();
     }
     const QString separator = QCoreApplication::translate("RowTexts", ", ");
-    return {now.isEmpty() ? QStringLiteral("–") : now.join(separator), differs ? after.join(separator) : QString(),
-            now.isEmpty()};
+    return {now.isEmpty() ? QStringLiteral("–") : now.join(separator),
+            differs ? after.join(separator) : QString(), now.isEmpty()};
 }
 
 CellText factCell(const DocumentRecord& record, Column column)
@@ -128,7 +129,9 @@ CellText cell(const DocumentRecord& record, Column column)
     case Column::State: {
         const QString reason = reasonOf(record);
         const State state = record.state();
-        return {reason.isEmpty() ? stateOf(record) : reason, {}, state == State::Waiting || state == State::Known};
+        return {reason.isEmpty() ? stateOf(record) : reason,
+                {},
+                state == State::Waiting || state == State::Known};
     }
     default:
         return record.facts ? factCell(record, column) : CellText{{}, {}, true};
@@ -171,7 +174,8 @@ QString differences(const Outcome& outcome)
     QStringList texts;
     for (const ViewEntry entry : outcome.differences())
         texts += QCoreApplication::translate("RowTexts", "%1: %2")
-                     .arg(viewtexts::nameOf(entry), arrow(outcome.before.textOf(entry), outcome.after.textOf(entry)));
+                     .arg(viewtexts::nameOf(entry),
+                          arrow(outcome.before.textOf(entry), outcome.after.textOf(entry)));
     return texts.join(QCoreApplication::translate("RowTexts", "; "));
 }
 

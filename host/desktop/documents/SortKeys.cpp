@@ -70,9 +70,11 @@ private:
 void arrange(const DocumentTable& table, Column column, Qt::SortOrder order, DocumentTable::Ids& ids)
 {
     if (columns::describe(column).isNumber)
-        return sortBy<int>(table, order, ids, [column](const DocumentRecord& each) { return numberOf(each, column); });
+        return sortBy<int>(table, order, ids,
+                           [column](const DocumentRecord& each) { return numberOf(each, column); });
     if (column == Column::State)
-        return sortBy<int>(table, order, ids, [](const DocumentRecord& each) { return static_cast<int>(each.state()); });
+        return sortBy<int>(table, order, ids,
+                           [](const DocumentRecord& each) { return static_cast<int>(each.state()); });
     TextKeys keys;
     sortBy<QCollatorSortKey>(table, order, ids, [column, &keys](const DocumentRecord& each) {
         return keys.of(rowtexts::cell(each, column).now);

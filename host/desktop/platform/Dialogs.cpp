@@ -19,7 +19,8 @@ std::optional<QStringList> takeAnswer()
     return std::exchange(nextAnswer, std::nullopt);
 }
 
-QFileDialog* fileDialog(QWidget* parent, const QString& title, QFileDialog::FileMode mode, const WithNames& then)
+QFileDialog* fileDialog(QWidget* parent, const QString& title, QFileDialog::FileMode mode,
+                        const WithNames& then)
 {
     auto* dialog = new QFileDialog(parent, title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -28,7 +29,8 @@ QFileDialog* fileDialog(QWidget* parent, const QString& title, QFileDialog::File
     return dialog;
 }
 
-void showInput(QWidget* parent, const QString& title, const QString& label, QLineEdit::EchoMode echo, const WithText& then)
+void showInput(QWidget* parent, const QString& title, const QString& label, QLineEdit::EchoMode echo,
+               const WithText& then)
 {
     if (const auto answer = takeAnswer())
         return then(answer->value(0));
@@ -49,7 +51,8 @@ void askFiles(QWidget* parent, const QString& title, const WithNames& then)
     if (const auto answer = takeAnswer())
         return then(*answer);
     QFileDialog* dialog = fileDialog(parent, title, QFileDialog::ExistingFiles, then);
-    dialog->setNameFilters({QCoreApplication::translate("Dialogs", "PDF documents (*.pdf *.PDF)"), QCoreApplication::translate("Dialogs", "All files (*)")});
+    dialog->setNameFilters({QCoreApplication::translate("Dialogs", "PDF documents (*.pdf *.PDF)"),
+                            QCoreApplication::translate("Dialogs", "All files (*)")});
     dialog->open();
 }
 
@@ -86,11 +89,13 @@ void askPassword(QWidget* parent, const QString& label, const WithText& then)
     showInput(parent, QCoreApplication::translate("Dialogs", "Password"), label, QLineEdit::Password, then);
 }
 
-void confirm(QWidget* parent, const QString& question, const QString& more, const QString& verb, const std::function<void()>& then)
+void confirm(QWidget* parent, const QString& question, const QString& more, const QString& verb,
+             const std::function<void()>& then)
 {
     if (takeAnswer())
         return then();
-    auto* box = new QMessageBox(QMessageBox::Question, parent->window()->windowTitle(), question, QMessageBox::Cancel, parent);
+    auto* box = new QMessageBox(QMessageBox::Question, parent->window()->windowTitle(), question,
+                                QMessageBox::Cancel, parent);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setInformativeText(more);
     QPushButton* yes = box->addButton(verb, QMessageBox::AcceptRole);

@@ -18,7 +18,8 @@ void askSaveName(QWidget* parent, const QString& title, const QString& start, co
 void askText(QWidget* parent, const QString& title, const QString& label, const WithText& then);
 void askPassword(QWidget* parent, const QString& label, const WithText& then);
 /// Calls `then` only for yes. \param verb what the button for it says.
-void confirm(QWidget* parent, const QString& question, const QString& more, const QString& verb, const std::function<void()>& then);
+void confirm(QWidget* parent, const QString& question, const QString& more, const QString& verb,
+             const std::function<void()>& then);
 
 /// What the next question is answered with instead of being shown. For tests.
 void setNextAnswer(const QStringList& answer);

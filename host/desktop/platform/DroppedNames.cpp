@@ -33,7 +33,8 @@ QByteArray nameIn(QByteArray line)
 
 QVector<QByteArray> of(const QMimeData& data)
 {
-    const QByteArray lines = data.hasFormat("text/uri-list") ? data.data("text/uri-list") : data.text().toUtf8();
+    const QByteArray lines =
+        data.hasFormat("text/uri-list") ? data.data("text/uri-list") : data.text().toUtf8();
     QVector<QByteArray> names;
     for (const QByteArray& line : lines.split('\n'))
         if (const QByteArray name = nameIn(line); !line.startsWith('#') && !name.isEmpty())

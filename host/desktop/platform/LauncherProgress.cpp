@@ -11,7 +11,8 @@ void show(double fraction)
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    QDBusMessage signal = QDBusMessage::createSignal("/quintar", "com.canonical.Unity.LauncherEntry", "Update");
+    QDBusMessage signal =
+        QDBusMessage::createSignal("/quintar", "com.canonical.Unity.LauncherEntry", "Update");
     signal << QStringLiteral("application://quintar-window.desktop")
            << QVariantMap{{"progress", fraction}, {"progress-visible", fraction >= 0}};
     bus.send(signal);

@@ -23,8 +23,9 @@ bool viewer(const QByteArray& path)
 
 bool folder(const QByteArray& path)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
-                                                       "org.freedesktop.FileManager1", "ShowItems");
+    QDBusMessage call =
+        QDBusMessage::createMethodCall("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
+                                       "org.freedesktop.FileManager1", "ShowItems");
     call << QStringList{QString::fromLatin1(addressOf(path).toEncoded())} << QString();
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (bus.isConnected() && bus.call(call, QDBus::Block, 2000).type() == QDBusMessage::ReplyMessage)

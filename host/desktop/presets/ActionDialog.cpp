@@ -28,7 +28,8 @@ SettingsMap settingsOf(const QStringList& options)
             if (options.at(place) == "--set")
                 setoption::apply(word, map);
             else
-                map = (options.at(place) == "--list" ? settingsfile::readActionList(word) : settingsfile::readFavorite(word))
+                map = (options.at(place) == "--list" ? settingsfile::readActionList(word)
+                                                     : settingsfile::readFavorite(word))
                           .at(0)
                           .settings;
         }
@@ -82,7 +83,8 @@ std::optional<StoredChoice> ActionDialog::show(QWidget* parent, const std::optio
     if (!isAccepted)
         return std::nullopt;
     using namespace storedkeys;
-    for (const char* key : {request::actionListName, request::actionListCategory, request::actionListOverwrite})
+    for (const char* key :
+         {request::actionListName, request::actionListCategory, request::actionListOverwrite})
         map.remove(key);
     return choiceOf(map);
 }

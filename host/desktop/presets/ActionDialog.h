@@ -17,7 +17,8 @@ public:
     /// Shows the dialog until it is closed.
     /// \param facts of the document that it starts from; may be null.
     /// \returns the settings that were accepted; nothing after Cancel. Throws std::runtime_error without a plug-in.
-    std::optional<StoredChoice> show(QWidget* parent, const std::optional<StoredChoice>& start, const DocumentFacts* facts);
+    std::optional<StoredChoice> show(QWidget* parent, const std::optional<StoredChoice>& start,
+                                     const DocumentFacts* facts);
 
     /// What the dialog told of lists and favourites that could not be stored.
     const QStringList& complaints() const { return m_complaints; }

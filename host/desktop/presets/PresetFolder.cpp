@@ -27,13 +27,15 @@ QStringList linesOf(const StoredSettings& stored)
     for (const ActionEntry& entry : stored.entries) {
         if (entry.action != initialview::actionName)
             throw UsageError("it holds another action, \"" + entry.action.toStdString() + "\"");
-        for (const QString& line : QString::fromStdString(settingsInWords(entry.settings)).split('\n', Qt::SkipEmptyParts))
+        for (const QString& line :
+             QString::fromStdString(settingsInWords(entry.settings)).split('\n', Qt::SkipEmptyParts))
             lines += line.simplified();
     }
     return lines;
 }
 
-void addStored(const SettingsFolder& folder, Preset::Kind kind, const QString& option, std::vector<Preset>& presets)
+void addStored(const SettingsFolder& folder, Preset::Kind kind, const QString& option,
+               std::vector<Preset>& presets)
 {
     std::vector<std::string> files;
     try {
@@ -92,7 +94,8 @@ QString PresetFolder::save(const QString& name, const ViewChange& view) const
     const QByteArray bytes = QJsonDocument(viewjson::write(view)).toJson();
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return {};
-    return QCoreApplication::translate("PresetFolder", "The preset cannot be kept: %1").arg(file.errorString());
+    return QCoreApplication::translate("PresetFolder", "The preset cannot be kept: %1")
+        .arg(file.errorString());
 }
 
 QString PresetFolder::remove(const Preset& preset) const
@@ -100,7 +103,8 @@ QString PresetFolder::remove(const Preset& preset) const
     QFile file(preset.file);
     if (preset.kind == Preset::Kind::View && file.remove())
         return {};
-    return QCoreApplication::translate("PresetFolder", "The preset cannot be removed: %1").arg(file.errorString());
+    return QCoreApplication::translate("PresetFolder", "The preset cannot be removed: %1")
+        .arg(file.errorString());
 }
 
 } // namespace host::desktop

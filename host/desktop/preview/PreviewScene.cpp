@@ -77,7 +77,8 @@ QString titleBarOf(const ViewChange& view, const QString& fileName)
     return shows ? QString::fromStdString(*text).simplified() : fileName;
 }
 
-PreviewScene sceneOf(const ViewChange& view, const DocumentRecord& record, const QVector<PreviewScene::Bookmark>& bookmarks)
+PreviewScene sceneOf(const ViewChange& view, const DocumentRecord& record,
+                     const QVector<PreviewScene::Bookmark>& bookmarks)
 {
     const int mode = numberOf(view, ViewEntry::PageMode, pdflibrary::PageOnly);
     const int layout = numberOf(view, ViewEntry::PageLayout, pdflibrary::NoPageLayout);

@@ -21,7 +21,9 @@ QColor SceneDrawing::mix(double share) const
 {
     const QColor text = m_palette.color(QPalette::Active, QPalette::Text);
     const QColor base = m_palette.color(QPalette::Active, QPalette::Base);
-    const auto part = [share](int one, int other) { return static_cast<int>(one * share + other * (1 - share)); };
+    const auto part = [share](int one, int other) {
+        return static_cast<int>(one * share + other * (1 - share));
+    };
     return {part(text.red(), base.red()), part(text.green(), base.green()), part(text.blue(), base.blue())};
 }
 
@@ -53,8 +55,9 @@ void SceneDrawing::paintBars(QPainter& painter, QRectF& inside)
     const QRectF title(inside.topLeft(), QSizeF(inside.width(), barHeight));
     const QFontMetricsF metrics(painter.font());
     painter.setPen(mix(1));
-    painter.drawText(title.adjusted(gap, 0, -3.5 * barHeight, 0), int(Qt::AlignVCenter | Qt::AlignLeft),
-                     metrics.elidedText(m_scene.titleBar, Qt::ElideMiddle, title.width() - gap - 3.5 * barHeight));
+    painter.drawText(
+        title.adjusted(gap, 0, -3.5 * barHeight, 0), int(Qt::AlignVCenter | Qt::AlignLeft),
+        metrics.elidedText(m_scene.titleBar, Qt::ElideMiddle, title.width() - gap - 3.5 * barHeight));
     painter.setPen(QPen(mix(0.6), 1));
     const double side = 7;
     QRectF button(title.right() - 3 * (side + gap), title.center().y() - side / 2, side, side);
@@ -146,7 +149,8 @@ void SceneDrawing::paintRows(QPainter& painter, const QRectF& panel, bool hasBox
             painter.drawRect(QRectF(panel.left() + gap, y, 8, 8));
         painter.setPen(Qt::NoPen);
         painter.setBrush(mix(0.35));
-        painter.drawRoundedRect(QRectF(panel.left() + gap + 14, y + 2, panel.width() * (0.4 + 0.08 * (row % 3)), 4), 2, 2);
+        painter.drawRoundedRect(
+            QRectF(panel.left() + gap + 14, y + 2, panel.width() * (0.4 + 0.08 * (row % 3)), 4), 2, 2);
     }
 }
 
@@ -158,7 +162,8 @@ QSizeF SceneDrawing::pageSize(const QRectF& inside, bool areTwo) const
     const double whole = std::min(room, (inside.height() - 2 * gap) / shape);
     double width = whole;
     if (m_scene.percent > 0)
-        width = whole * std::clamp(m_scene.percent / 60, 0.3, 4.0); // a usual screen shows a whole page at some 60 %
+        width = whole *
+                std::clamp(m_scene.percent / 60, 0.3, 4.0); // a usual screen shows a whole page at some 60 %
     else if (m_scene.fit == PreviewScene::Fit::Width)
         width = room;
     else if (m_scene.fit == PreviewScene::Fit::Height)
@@ -173,11 +178,14 @@ void SceneDrawing::paintPages(QPainter& painter, const QRectF& inside)
     if (!m_scene.isFullScreen)
         painter.fillRect(inside.adjusted(1, 1, -1, -1), mix(0.08));
     const auto [left, right] = m_scene.firstRow();
-    const bool areTwo = m_scene.layout == PreviewScene::Layout::TwoColumns || m_scene.layout == PreviewScene::Layout::TwoPages;
-    const bool scrolls = m_scene.layout == PreviewScene::Layout::TwoColumns || m_scene.layout == PreviewScene::Layout::Column;
+    const bool areTwo = m_scene.layout == PreviewScene::Layout::TwoColumns ||
+                        m_scene.layout == PreviewScene::Layout::TwoPages;
+    const bool scrolls =
+        m_scene.layout == PreviewScene::Layout::TwoColumns || m_scene.layout == PreviewScene::Layout::Column;
     const QSizeF size = pageSize(inside, areTwo);
     const double all = areTwo ? 2 * size.width() + gap : size.width();
-    double y = scrolls || size.height() > inside.height() ? inside.top() + gap : inside.center().y() - size.height() / 2;
+    double y = scrolls || size.height() > inside.height() ? inside.top() + gap
+                                                          : inside.center().y() - size.height() / 2;
     for (int row = 0; row < (scrolls ? 6 : 1) && y < inside.bottom(); ++row, y += size.height() + gap) {
         const double x = inside.center().x() - all / 2;
         const int step = row * (areTwo ? 2 : 1);
@@ -201,10 +209,12 @@ void SceneDrawing::paintPage(QPainter& painter, const QRectF& place, int page)
         painter.setBrush(QColor(205, 208, 214));
         const double edge = place.width() * 0.12;
         const double step = std::max(4.0, place.height() * 0.05);
-        for (double y = place.top() + place.height() * 0.14; y < place.bottom() - place.height() * 0.2; y += step)
+        for (double y = place.top() + place.height() * 0.14; y < place.bottom() - place.height() * 0.2;
+             y += step)
             painter.drawRect(QRectF(place.left() + edge, y, place.width() - 2 * edge, step * 0.4));
         painter.setPen(QColor(90, 94, 102));
-        painter.drawText(place.adjusted(0, 0, 0, -place.height() * 0.04), int(Qt::AlignBottom | Qt::AlignHCenter), QLocale().toString(page));
+        painter.drawText(place.adjusted(0, 0, 0, -place.height() * 0.04),
+                         int(Qt::AlignBottom | Qt::AlignHCenter), QLocale().toString(page));
     }
     painter.setPen(QPen(QColor(0, 0, 0, 70), 0.5));
     painter.setBrush(Qt::NoBrush);

@@ -18,7 +18,9 @@ const qint64 largestSession = 64 << 20;
 
 QJsonObject toJson(const Destination& destination)
 {
-    return {{"kind", static_cast<int>(destination.kind)}, {"folder", destination.folder}, {"suffix", destination.suffix}};
+    return {{"kind", static_cast<int>(destination.kind)},
+            {"folder", destination.folder},
+            {"suffix", destination.suffix}};
 }
 
 Destination destinationFrom(const QJsonObject& object)
@@ -55,7 +57,8 @@ ChangeDraft draftFrom(const QJsonObject& object)
     }
     const QJsonObject stored = object.value("stored").toObject();
     if (!stored.isEmpty())
-        draft.setStored({stored.value("name").toString(), textsIn(stored.value("options")), textsIn(stored.value("lines"))});
+        draft.setStored({stored.value("name").toString(), textsIn(stored.value("options")),
+                         textsIn(stored.value("lines"))});
     return draft;
 }
 

@@ -55,7 +55,8 @@ void Reading::leave(DocumentId id, const ChildRun::Ending& ending)
 {
     table().change(id, [&ending](DocumentRecord& record) {
         if (!record.facts && record.trouble.isEmpty())
-            record.trouble = ending.wasStopped || ending.words.isEmpty() ? tr("not read: reading was stopped") : ending.words;
+            record.trouble = ending.wasStopped || ending.words.isEmpty() ? tr("not read: reading was stopped")
+                                                                         : ending.words;
     });
 }
 

@@ -9,13 +9,14 @@ namespace {
 
 QString wordOf(DocumentRecord::Signed how)
 {
-    return how == DocumentRecord::Signed::Append ? QStringLiteral("append") : QStringLiteral("append-certified");
+    return how == DocumentRecord::Signed::Append ? QStringLiteral("append")
+                                                 : QStringLiteral("append-certified");
 }
 
 } // namespace
 
-Running::Running(Mode mode, const RunOrder& order, const QString& reports, DocumentTable& table, const Means& means,
-                 QObject* parent)
+Running::Running(Mode mode, const RunOrder& order, const QString& reports, DocumentTable& table,
+                 const Means& means, QObject* parent)
     : DocumentTask(table, means, parent), m_mode(mode), m_order(order), m_folder(reports)
 {}
 

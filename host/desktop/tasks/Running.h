@@ -14,8 +14,8 @@ public:
     enum class Mode { Try, Do };
 
     /// \param reports the folder for the reports of what is done; unused when trying.
-    Running(Mode mode, const RunOrder& order, const QString& reports, DocumentTable& table, const Means& means,
-            QObject* parent);
+    Running(Mode mode, const RunOrder& order, const QString& reports, DocumentTable& table,
+            const Means& means, QObject* parent);
 
     const RunOrder& order() const { return m_order; }
     /// The reports that were begun.

@@ -128,7 +128,8 @@ QString ActionTable::keysPage() const
     for (const Row& row : rows)
         if (const QKeySequence keys = (*this)[row.id]->shortcut(); !keys.isEmpty())
             page += "<tr><td width=\"28%\"><b>" + keys.toString(QKeySequence::NativeText).toHtmlEscaped() +
-                    "</b></td><td>" + withoutMnemonic(tr(row.text)) + "<br>" + tr(row.help).toHtmlEscaped() + "</td></tr>";
+                    "</b></td><td>" + withoutMnemonic(tr(row.text)) + "<br>" + tr(row.help).toHtmlEscaped() +
+                    "</td></tr>";
     return page + "</table>";
 }
 

@@ -17,7 +17,8 @@ const int signWidth = 20;
 QColor textColor(const QStyleOptionViewItem& option, bool isQuiet)
 {
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
-    const QPalette::ColorGroup group = option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+    const QPalette::ColorGroup group =
+        option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
     if (isSelected)
         return option.palette.color(group, QPalette::HighlightedText);
     return isQuiet ? drawings::quietText(option.palette) : option.palette.color(group, QPalette::Text);
@@ -34,13 +35,16 @@ QRect drawPart(QPainter& painter, const QRect& area, const QString& text, const 
 }
 
 /// What it becomes has the room first: that is what a person looks for.
-void drawChange(QPainter& painter, const QStyleOptionViewItem& option, QRect area, const QString& now, const QString& after)
+void drawChange(QPainter& painter, const QStyleOptionViewItem& option, QRect area, const QString& now,
+                const QString& after)
 {
     QFont bold = option.font;
     bold.setWeight(QFont::Bold);
     const QString arrow = option.direction == Qt::RightToLeft ? QStringLiteral(" ← ") : QStringLiteral(" → ");
-    const int needed = QFontMetrics(bold).horizontalAdvance(after) + QFontMetrics(option.font).horizontalAdvance(arrow);
-    const QString before = QFontMetrics(option.font).elidedText(now, Qt::ElideRight, std::max(0, area.width() - needed));
+    const int needed =
+        QFontMetrics(bold).horizontalAdvance(after) + QFontMetrics(option.font).horizontalAdvance(arrow);
+    const QString before =
+        QFontMetrics(option.font).elidedText(now, Qt::ElideRight, std::max(0, area.width() - needed));
     painter.setPen(textColor(option, true));
     area = drawPart(painter, area, before, option.font, Qt::AlignLeft | Qt::AlignVCenter);
     area = drawPart(painter, area, arrow, option.font, Qt::AlignLeft | Qt::AlignVCenter);
@@ -68,7 +72,8 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given, c
     const bool isName = index.column() == static_cast<int>(Column::Name);
     if (isName) {
         painter->setPen(textColor(option, false));
-        const QRect sign(QStyle::visualRect(option.direction, area, QRect(area.topLeft(), QSize(signWidth, area.height()))));
+        const QRect sign(QStyle::visualRect(option.direction, area,
+                                            QRect(area.topLeft(), QSize(signWidth, area.height()))));
         painter->drawText(sign, Qt::AlignCenter, index.data(DocumentOrder::SignRole).toString());
         area = QStyle::visualRect(option.direction, area, area.adjusted(signWidth + 2, 0, 0, 0));
     }

@@ -83,8 +83,9 @@ QLayout* ChangePanel::makeHead()
     auto* label = heading(tr("&Change for"), this);
     label->setBuddy(m_scope);
     m_scope->setAccessibleName(tr("Change for"));
-    m_scope->setWhatsThis(tr("A change is for all documents that are shown, or for those that are selected. Documents "
-                             "that the search or the filter hides stay as they are."));
+    m_scope->setWhatsThis(
+        tr("A change is for all documents that are shown, or for those that are selected. Documents "
+           "that the search or the filter hides stay as they are."));
     m_scope->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_scope->addItems({QString(), QString()});
     connect(m_scope, QOverload<int>::of(&QComboBox::activated), this, [this](int place) {
@@ -93,8 +94,9 @@ QLayout* ChangePanel::makeHead()
     m_presets->setText(tr("&Presets"));
     m_presets->setPopupMode(QToolButton::InstantPopup);
     m_presets->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    m_presets->setWhatsThis(tr("Changes under a name: views that you keep, and the action lists and favourites of the "
-                               "action “Initial View”."));
+    m_presets->setWhatsThis(
+        tr("Changes under a name: views that you keep, and the action lists and favourites of the "
+           "action “Initial View”."));
     m_reset->setAutoDefault(false);
     auto* head = new QHBoxLayout;
     head->setSpacing(spacing);
@@ -115,10 +117,19 @@ QWidget* ChangePanel::makeSettings()
     auto* column = new QVBoxLayout(inside);
     column->setContentsMargins(0, 0, spacing, 0);
     column->setSpacing(0);
-    addGroup(column, {}, {ViewEntry::PageMode, ViewEntry::PageLayout, ViewEntry::OpenPage, ViewEntry::Zoom, ViewEntry::DisplayDocTitle}, true);
-    addGroup(column, tr("Title and language"), {ViewEntry::Title, ViewEntry::Lang, ViewEntry::Direction}, false);
-    addGroup(column, tr("Viewer's window"), {ViewEntry::HideToolbar, ViewEntry::HideMenubar, ViewEntry::HideWindowUI, ViewEntry::FitWindow, ViewEntry::CenterWindow, ViewEntry::NonFullScreenPageMode}, false);
-    addGroup(column, tr("Printing"), {ViewEntry::PrintScaling, ViewEntry::Duplex, ViewEntry::PickTrayByPDFSize, ViewEntry::NumCopies}, false);
+    addGroup(column, {},
+             {ViewEntry::PageMode, ViewEntry::PageLayout, ViewEntry::OpenPage, ViewEntry::Zoom,
+              ViewEntry::DisplayDocTitle},
+             true);
+    addGroup(column, tr("Title and language"), {ViewEntry::Title, ViewEntry::Lang, ViewEntry::Direction},
+             false);
+    addGroup(column, tr("Viewer's window"),
+             {ViewEntry::HideToolbar, ViewEntry::HideMenubar, ViewEntry::HideWindowUI, ViewEntry::FitWindow,
+              ViewEntry::CenterWindow, ViewEntry::NonFullScreenPageMode},
+             false);
+    addGroup(column, tr("Printing"),
+             {ViewEntry::PrintScaling, ViewEntry::Duplex, ViewEntry::PickTrayByPDFSize, ViewEntry::NumCopies},
+             false);
     column->addStretch();
     area->setWidget(inside);
     m_settings = area;
@@ -126,7 +137,8 @@ QWidget* ChangePanel::makeSettings()
 }
 
 /// Groups that a person needs seldom are folded up below their titles.
-void ChangePanel::addGroup(QVBoxLayout* column, const QString& title, const std::vector<ViewEntry>& entries, bool isOpen)
+void ChangePanel::addGroup(QVBoxLayout* column, const QString& title, const std::vector<ViewEntry>& entries,
+                           bool isOpen)
 {
     QToolButton* fold = nullptr;
     if (!title.isEmpty()) {
@@ -236,7 +248,8 @@ void ChangePanel::showWarnings(const SelectionSummary& summary)
         delete item;
     }
     for (const ChangeWarning& warning : m_shownWarnings)
-        m_warnings->addWidget(warningLine(warning, this, [this, warning] { emit showWanted(*warning.show); }));
+        m_warnings->addWidget(
+            warningLine(warning, this, [this, warning] { emit showWanted(*warning.show); }));
 }
 
 } // namespace host::desktop

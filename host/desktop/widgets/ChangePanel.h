@@ -30,7 +30,8 @@ signals:
 private:
     QLayout* makeHead();
     QWidget* makeSettings();
-    void addGroup(QVBoxLayout* column, const QString& title, const std::vector<ViewEntry>& entries, bool isOpen);
+    void addGroup(QVBoxLayout* column, const QString& title, const std::vector<ViewEntry>& entries,
+                  bool isOpen);
     QWidget* makeStored();
     void show();
     void showScope();

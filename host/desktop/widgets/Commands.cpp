@@ -29,11 +29,13 @@ struct Gate
 };
 
 const Gate gates[] = {
-    {Id::AddFiles, Command::Add},       {Id::AddFolder, Command::Add},     {Id::Paste, Command::Add},
-    {Id::Remove, Command::Remove},      {Id::ReadAgain, Command::Remove},  {Id::Password, Command::Remove},
-    {Id::LikeThis, Command::Edit},      {Id::KeepAll, Command::Edit},      {Id::Configure, Command::Configure},
-    {Id::Start, Command::Start},        {Id::Stop, Command::Stop},         {Id::TryAgain, Command::TryAgain},
-    {Id::UndoLast, Command::UndoRun},   {Id::SaveReport, Command::TryAgain},
+    {Id::AddFiles, Command::Add},        {Id::AddFolder, Command::Add},
+    {Id::Paste, Command::Add},           {Id::Remove, Command::Remove},
+    {Id::ReadAgain, Command::Remove},    {Id::Password, Command::Remove},
+    {Id::LikeThis, Command::Edit},       {Id::KeepAll, Command::Edit},
+    {Id::Configure, Command::Configure}, {Id::Start, Command::Start},
+    {Id::Stop, Command::Stop},           {Id::TryAgain, Command::TryAgain},
+    {Id::UndoLast, Command::UndoRun},    {Id::SaveReport, Command::TryAgain},
 };
 
 /// In a field of a table with tabs between.
@@ -65,7 +67,8 @@ void Commands::connectAll()
     on(Id::Remove, [this] { m_workbench.remove(m_workbench.order().selected()); });
     on(Id::UndoList, [this] { m_workbench.undoList(); });
     on(Id::RedoList, [this] { m_workbench.redoList(); });
-    on(Id::SelectAll, [this] { m_workbench.order().select(m_workbench.order().shown(), m_workbench.order().current()); });
+    on(Id::SelectAll,
+       [this] { m_workbench.order().select(m_workbench.order().shown(), m_workbench.order().current()); });
     on(Id::ReadAgain, [this] { m_workbench.readAgain(m_workbench.order().shown()); });
     on(Id::OpenInViewer, &Commands::openInViewer);
     on(Id::ShowInFolder, &Commands::showInFolder);
@@ -151,14 +154,15 @@ void Commands::paste()
 
 void Commands::chooseFolder()
 {
-    dialogs::askFolder(m_window, tr("Folder for the Results"), m_workbench.destination().folder, [this](const QString& name) {
-        if (name.isEmpty())
-            return;
-        Destination destination = m_workbench.destination();
-        destination.kind = Destination::Kind::Folder;
-        destination.folder = name;
-        m_workbench.setDestination(destination);
-    });
+    dialogs::askFolder(m_window, tr("Folder for the Results"), m_workbench.destination().folder,
+                       [this](const QString& name) {
+                           if (name.isEmpty())
+                               return;
+                           Destination destination = m_workbench.destination();
+                           destination.kind = Destination::Kind::Folder;
+                           destination.folder = name;
+                           m_workbench.setDestination(destination);
+                       });
 }
 
 void Commands::start()
@@ -184,19 +188,21 @@ void Commands::undoRun(int row)
     const QString question = run.changed < 0 ? tr("Undo this run?")
                                              : tr("Give %n document(s) back as they were?", "", run.changed);
     dialogs::confirm(m_window, question,
-                     tr("Documents that have been changed since by something else are left alone."), tr("&Undo"),
-                     [this, row] { m_workbench.undoRun(row); });
+                     tr("Documents that have been changed since by something else are left alone."),
+                     tr("&Undo"), [this, row] { m_workbench.undoRun(row); });
 }
 
 void Commands::saveReport()
 {
     dialogs::askSaveName(m_window, tr("Save Report"), tr("report.tsv"), [this](const QString& name) {
         QSaveFile file(name);
-        QByteArray bytes = (tr("Document") + "\t" + tr("State") + "\t" + tr("Change") + "\t" + tr("Reason") + "\n").toUtf8();
+        QByteArray bytes =
+            (tr("Document") + "\t" + tr("State") + "\t" + tr("Change") + "\t" + tr("Reason") + "\n").toUtf8();
         for (const DocumentRecord& record : m_workbench.table().records())
             if (record.result)
                 bytes += (field(QFile::decodeName(record.path)) + "\t" + rowtexts::stateOf(record) + "\t" +
-                          field(rowtexts::differences(*record.result)) + "\t" + field(rowtexts::reasonOf(record)) + "\n")
+                          field(rowtexts::differences(*record.result)) + "\t" +
+                          field(rowtexts::reasonOf(record)) + "\n")
                              .toUtf8();
         if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
             emit said(tr("The report is in %1.").arg(name));
@@ -240,12 +246,14 @@ void Commands::showHistory()
 
 void Commands::about()
 {
-    auto* box = new QMessageBox(QMessageBox::NoIcon, tr("About Quintar"), tr("Quintar %1").arg(QCoreApplication::applicationVersion()),
+    auto* box = new QMessageBox(QMessageBox::NoIcon, tr("About Quintar"),
+                                tr("Quintar %1").arg(QCoreApplication::applicationVersion()),
                                 QMessageBox::Close, m_window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setIconPixmap(m_window->windowIcon().pixmap(64, 64));
-    box->setInformativeText(tr("Says how PDF documents open. It adds to a document and never takes away: every run in place "
-                               "can be undone."));
+    box->setInformativeText(
+        tr("Says how PDF documents open. It adds to a document and never takes away: every run in place "
+           "can be undone."));
     box->open();
 }
 
@@ -272,7 +280,8 @@ void Commands::copyPaths()
 
 void Commands::copyCommand()
 {
-    QApplication::clipboard()->setText(m_workbench.runOrder().commandLine(m_workbench.table(), m_workbench.targets()));
+    QApplication::clipboard()->setText(
+        m_workbench.runOrder().commandLine(m_workbench.table(), m_workbench.targets()));
     emit said(tr("The command is in the clipboard."));
 }
 
@@ -289,11 +298,13 @@ void Commands::likeThis()
 
 void Commands::askPassword()
 {
-    dialogs::askPassword(m_window, tr("The password is tried on all documents that want one. It is kept until this window is closed."),
-                         [this](const QString& text) {
-                             if (!text.isEmpty())
-                                 m_workbench.givePassword(text.toUtf8());
-                         });
+    dialogs::askPassword(
+        m_window,
+        tr("The password is tried on all documents that want one. It is kept until this window is closed."),
+        [this](const QString& text) {
+            if (!text.isEmpty())
+                m_workbench.givePassword(text.toUtf8());
+        });
 }
 
 void Commands::help(reasontexts::Remedy remedy)

@@ -8,14 +8,15 @@
 namespace host::desktop {
 
 DestinationRow::DestinationRow(QWidget* parent)
-    : QWidget(parent), m_kind(new QComboBox(this)), m_folder(new QLineEdit(this)), m_choose(new QToolButton(this)),
-      m_suffix(new QLineEdit(this)), m_note(new QLabel(this))
+    : QWidget(parent), m_kind(new QComboBox(this)), m_folder(new QLineEdit(this)),
+      m_choose(new QToolButton(this)), m_suffix(new QLineEdit(this)), m_note(new QLabel(this))
 {
     m_kind->addItems({tr("The documents themselves"), tr("A folder"), tr("Beside them, under another name")});
     m_kind->setAccessibleName(tr("Write to"));
     m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_kind->setWhatsThis(tr("A run changes the documents themselves, which can be undone, or leaves them as they are and "
-                            "writes its results into a folder or beside them."));
+    m_kind->setWhatsThis(
+        tr("A run changes the documents themselves, which can be undone, or leaves them as they are and "
+           "writes its results into a folder or beside them."));
     m_folder->setAccessibleName(tr("Folder for the results"));
     m_folder->setPlaceholderText(tr("Folder for the results"));
     m_choose->setText(QStringLiteral("…"));

@@ -72,7 +72,8 @@ void DocumentView::restoreColumns()
         const ColumnRow& row = columns::describe(column);
         const int width = row.width * fontMetrics().averageCharWidth();
         header->resizeSection(column, m_settings.value(QString(row.id) + "/width", width).toInt());
-        header->setSectionHidden(column, !m_settings.value(QString(row.id) + "/shown", row.isShownAtFirst).toBool());
+        header->setSectionHidden(column,
+                                 !m_settings.value(QString(row.id) + "/shown", row.isShownAtFirst).toBool());
     }
     for (int place = 0, next = 0; place < order.size(); ++place)
         for (int column = 0; column < columnCount; ++column)
@@ -82,7 +83,8 @@ void DocumentView::restoreColumns()
     for (int column = 0; column < columnCount; ++column)
         if (m_settings.value("sorted").toString() == columns::describe(column).id)
             sorted = column;
-    header->setSortIndicator(sorted, m_settings.value("descending").toBool() ? Qt::DescendingOrder : Qt::AscendingOrder);
+    header->setSortIndicator(sorted, m_settings.value("descending").toBool() ? Qt::DescendingOrder
+                                                                             : Qt::AscendingOrder);
     m_settings.endGroup();
 }
 

@@ -11,7 +11,9 @@ const int grid = 16;
 
 QColor mix(const QColor& one, const QColor& other, double share)
 {
-    const auto part = [share](int left, int right) { return static_cast<int>(left * share + right * (1 - share)); };
+    const auto part = [share](int left, int right) {
+        return static_cast<int>(left * share + right * (1 - share));
+    };
     return {part(one.red(), other.red()), part(one.green(), other.green()), part(one.blue(), other.blue())};
 }
 
@@ -50,7 +52,8 @@ QPainterPath shapeOf(Sign sign)
         path.moveTo(12.5, 2), path.lineTo(12, 5.2), path.lineTo(8.8, 4.8);
         break;
     case Sign::Save:
-        path.moveTo(8, 2.5), path.lineTo(8, 10), path.moveTo(4.5, 6.8), path.lineTo(8, 10.2), path.lineTo(11.5, 6.8);
+        path.moveTo(8, 2.5), path.lineTo(8, 10), path.moveTo(4.5, 6.8), path.lineTo(8, 10.2),
+            path.lineTo(11.5, 6.8);
         path.moveTo(3, 13.5), path.lineTo(13, 13.5);
         break;
     }
@@ -89,24 +92,28 @@ void paintWindow(QPainter& painter, const QPalette& palette, const QRectF& frame
     painter.drawLine(QPointF(frame.left(), frame.top() + bar), QPointF(frame.right(), frame.top() + bar));
     painter.setPen(Qt::NoPen);
     painter.setBrush(accent);
-    painter.drawRoundedRect(QRectF(frame.left() + 14, frame.top() + bar / 2 - 4, frame.width() * 0.42, 8), 4, 4);
+    painter.drawRoundedRect(QRectF(frame.left() + 14, frame.top() + bar / 2 - 4, frame.width() * 0.42, 8), 4,
+                            4);
     const double panel = frame.left() + frame.width() * 0.36;
     const double indents[] = {0, 14, 14, 0, 14, 0};
     double y = frame.top() + bar + 20;
     for (const double indent : indents) {
         painter.setBrush(indent > 0 ? text : accent);
-        painter.drawRoundedRect(QRectF(frame.left() + 14 + indent, y, frame.width() * 0.25 - indent, 6), 3, 3);
+        painter.drawRoundedRect(QRectF(frame.left() + 14 + indent, y, frame.width() * 0.25 - indent, 6), 3,
+                                3);
         y += (frame.height() - bar) * 0.14;
     }
     painter.setPen(QPen(border, 1.5));
     painter.drawLine(QPointF(panel, frame.top() + bar), QPointF(panel, frame.bottom()));
-    const QRectF page(panel + 26, frame.top() + bar + 18, frame.right() - panel - 52, frame.height() - bar - 18);
+    const QRectF page(panel + 26, frame.top() + bar + 18, frame.right() - panel - 52,
+                      frame.height() - bar - 18);
     painter.setBrush(palette.color(QPalette::Window));
     painter.drawRect(page);
     painter.setPen(Qt::NoPen);
     painter.setBrush(text);
     for (double row = page.top() + 18; row < page.bottom() - 12; row += 14)
-        painter.drawRoundedRect(QRectF(page.left() + 16, row, page.width() - (row > page.bottom() - 30 ? 70 : 32), 5), 2, 2);
+        painter.drawRoundedRect(
+            QRectF(page.left() + 16, row, page.width() - (row > page.bottom() - 30 ? 70 : 32), 5), 2, 2);
 }
 
 } // namespace
@@ -115,8 +122,10 @@ QIcon icon(Sign sign, const QPalette& palette)
 {
     QIcon icon;
     for (const int side : {16, 24, 32, 48}) {
-        icon.addPixmap(pixmap(sign, palette.color(QPalette::Active, QPalette::ButtonText), side), QIcon::Normal);
-        icon.addPixmap(pixmap(sign, palette.color(QPalette::Disabled, QPalette::ButtonText), side), QIcon::Disabled);
+        icon.addPixmap(pixmap(sign, palette.color(QPalette::Active, QPalette::ButtonText), side),
+                       QIcon::Normal);
+        icon.addPixmap(pixmap(sign, palette.color(QPalette::Disabled, QPalette::ButtonText), side),
+                       QIcon::Disabled);
     }
     return icon;
 }
@@ -135,12 +144,14 @@ QPixmap emptyList(const QPalette& palette, const QSize& size, qreal ratio)
 /// Two thirds of the text's colour give 5 to 1 on white as on the usual dark bases.
 QColor quietText(const QPalette& palette)
 {
-    return mix(palette.color(QPalette::Active, QPalette::WindowText), palette.color(QPalette::Active, QPalette::Window), 0.66);
+    return mix(palette.color(QPalette::Active, QPalette::WindowText),
+               palette.color(QPalette::Active, QPalette::Window), 0.66);
 }
 
 QColor line(const QPalette& palette)
 {
-    return mix(palette.color(QPalette::Active, QPalette::WindowText), palette.color(QPalette::Active, QPalette::Window), 0.28);
+    return mix(palette.color(QPalette::Active, QPalette::WindowText),
+               palette.color(QPalette::Active, QPalette::Window), 0.28);
 }
 
 } // namespace host::desktop::drawings

@@ -14,8 +14,8 @@ void ElidedLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
-    style()->drawItemText(&painter, contentsRect(), int(Qt::AlignVCenter | Qt::AlignLeft), palette(), isEnabled(), shown,
-                          foregroundRole());
+    style()->drawItemText(&painter, contentsRect(), int(Qt::AlignVCenter | Qt::AlignLeft), palette(),
+                          isEnabled(), shown, foregroundRole());
 }
 
 } // namespace host::desktop

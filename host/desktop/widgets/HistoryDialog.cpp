@@ -11,8 +11,10 @@ HistoryDialog::HistoryDialog(RunHistory& history, QWidget* parent)
     : QDialog(parent), m_history(history), m_table(new QTableView(this)), m_undo(nullptr)
 {
     setWindowTitle(tr("Earlier Runs"));
-    auto* text = new QLabel(tr("Undoing gives each document back as it was before the run. Documents that something else "
-                               "has changed since are left alone."), this);
+    auto* text = new QLabel(
+        tr("Undoing gives each document back as it was before the run. Documents that something else "
+           "has changed since are left alone."),
+        this);
     text->setWordWrap(true);
     m_table->setModel(&history);
     m_table->setAccessibleName(tr("Earlier runs"));

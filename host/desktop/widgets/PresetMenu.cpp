@@ -29,7 +29,9 @@ PresetMenu::PresetMenu(Workbench& workbench, ActionTable& actions, const QString
     setToolTipsVisible(true);
     connect(this, &QMenu::aboutToShow, this, &PresetMenu::fill);
     connect(actions[Id::SavePreset], &QAction::triggered, this, &PresetMenu::save);
-    const auto enable = [this] { m_actions[Id::SavePreset]->setEnabled(!m_workbench.draft().view().isEmpty()); };
+    const auto enable = [this] {
+        m_actions[Id::SavePreset]->setEnabled(!m_workbench.draft().view().isEmpty());
+    };
     connect(&workbench, &Workbench::draftChanged, this, enable);
     enable();
 }
@@ -61,7 +63,8 @@ void PresetMenu::addPresets(Preset::Kind kind, const QString& title)
         QAction* action = addAction(asMenuText(preset.name));
         action->setToolTip(helpOf(preset));
         action->setEnabled(preset.problem.isEmpty());
-        connect(action, &QAction::triggered, this, [this, draft = preset.draft] { m_workbench.setDraft(draft); });
+        connect(action, &QAction::triggered, this,
+                [this, draft = preset.draft] { m_workbench.setDraft(draft); });
     }
 }
 
@@ -72,10 +75,11 @@ void PresetMenu::addRemoval()
         if (preset.kind != Preset::Kind::View)
             continue;
         connect(removal->addAction(asMenuText(preset.name)), &QAction::triggered, this, [this, preset] {
-            dialogs::confirm(parentWidget(), tr("Remove the preset “%1”?").arg(preset.name), {}, tr("&Remove"), [this, preset] {
-                if (const QString problem = m_folder.remove(preset); !problem.isEmpty())
-                    emit failed(problem);
-            });
+            dialogs::confirm(parentWidget(), tr("Remove the preset “%1”?").arg(preset.name), {},
+                             tr("&Remove"), [this, preset] {
+                                 if (const QString problem = m_folder.remove(preset); !problem.isEmpty())
+                                     emit failed(problem);
+                             });
         });
     }
     removal->setEnabled(!removal->isEmpty());

@@ -13,13 +13,17 @@ const double titleHeight = 20;
 
 QString inWords(const PreviewScene& scene)
 {
-    const QString panel = scene.isFullScreen                                ? PreviewPane::tr("full screen")
-                          : scene.panel == PreviewScene::Panel::Bookmarks   ? PreviewPane::tr("bookmarks panel")
-                          : scene.panel == PreviewScene::Panel::Pages       ? PreviewPane::tr("pages panel")
-                          : scene.panel == PreviewScene::Panel::Layers      ? PreviewPane::tr("layers panel")
-                          : scene.panel == PreviewScene::Panel::Attachments ? PreviewPane::tr("attachments panel")
-                                                                            : PreviewPane::tr("no panel");
-    return PreviewPane::tr("title bar “%1”, %2, page %3 of %4").arg(scene.titleBar, panel).arg(scene.page).arg(scene.pages);
+    const QString panel = scene.isFullScreen                              ? PreviewPane::tr("full screen")
+                          : scene.panel == PreviewScene::Panel::Bookmarks ? PreviewPane::tr("bookmarks panel")
+                          : scene.panel == PreviewScene::Panel::Pages     ? PreviewPane::tr("pages panel")
+                          : scene.panel == PreviewScene::Panel::Layers    ? PreviewPane::tr("layers panel")
+                          : scene.panel == PreviewScene::Panel::Attachments
+                              ? PreviewPane::tr("attachments panel")
+                              : PreviewPane::tr("no panel");
+    return PreviewPane::tr("title bar “%1”, %2, page %3 of %4")
+        .arg(scene.titleBar, panel)
+        .arg(scene.page)
+        .arg(scene.pages);
 }
 
 /// Of what is asked for, what only some viewers do.
@@ -42,8 +46,9 @@ PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent) : QWidget(parent
 {
     setAccessibleName(tr("Preview"));
     setMinimumHeight(170);
-    setWhatsThis(tr("A drawing of the first moment of the current document, as it opens now and as it will. Each viewer "
-                    "decides for itself what of this it does."));
+    setWhatsThis(tr(
+        "A drawing of the first moment of the current document, as it opens now and as it will. Each viewer "
+        "decides for itself what of this it does."));
     connect(&workbench.order(), &DocumentOrder::selectionMoved, this, &PreviewPane::show);
     connect(&workbench.table(), &DocumentTable::changed, this, &PreviewPane::show);
     connect(&workbench.order(), &DocumentOrder::shownChanged, this, &PreviewPane::show);
@@ -68,9 +73,9 @@ void PreviewPane::show()
     m_before = before;
     m_after = after;
     m_followers = followersOf(after);
-    setAccessibleDescription(before == after
-                                 ? tr("Opens with %1.").arg(inWords(before))
-                                 : tr("Before: %1. After: %2. %3").arg(inWords(before), inWords(after), m_followers));
+    setAccessibleDescription(
+        before == after ? tr("Opens with %1.").arg(inWords(before))
+                        : tr("Before: %1. After: %2. %3").arg(inWords(before), inWords(after), m_followers));
     update();
 }
 
@@ -80,7 +85,8 @@ void PreviewPane::paintEvent(QPaintEvent*)
     const QRectF area = QRectF(rect()).adjusted(margin, margin / 2, -margin, -margin / 2);
     if (!m_isKnown) {
         painter.setPen(drawings::quietText(palette()));
-        painter.drawText(area, int(Qt::AlignCenter) | int(Qt::TextWordWrap), tr("Select a document to see how it opens."));
+        painter.drawText(area, int(Qt::AlignCenter) | int(Qt::TextWordWrap),
+                         tr("Select a document to see how it opens."));
         return;
     }
     QRectF scenes = area.adjusted(0, 0, 0, -titleHeight);
@@ -92,17 +98,20 @@ void PreviewPane::paintEvent(QPaintEvent*)
     if (isRightToLeft)
         std::swap(first, second);
     if (isSame)
-        paintScene(painter, QRectF(scenes.center().x() - half / 2, scenes.top(), half, scenes.height()), tr("Opens like this"), m_before);
+        paintScene(painter, QRectF(scenes.center().x() - half / 2, scenes.top(), half, scenes.height()),
+                   tr("Opens like this"), m_before);
     else {
         paintScene(painter, first, tr("Before"), m_before);
         paintScene(painter, second, tr("After"), m_after);
     }
     painter.setPen(drawings::quietText(palette()));
     const QRectF line(area.left(), area.bottom() - titleHeight + 4, area.width(), titleHeight - 4);
-    painter.drawText(line, int(Qt::AlignCenter), painter.fontMetrics().elidedText(m_followers, Qt::ElideRight, int(line.width())));
+    painter.drawText(line, int(Qt::AlignCenter),
+                     painter.fontMetrics().elidedText(m_followers, Qt::ElideRight, int(line.width())));
 }
 
-void PreviewPane::paintScene(QPainter& painter, const QRectF& area, const QString& title, const PreviewScene& scene)
+void PreviewPane::paintScene(QPainter& painter, const QRectF& area, const QString& title,
+                             const PreviewScene& scene)
 {
     const QRectF head(area.topLeft(), QSizeF(area.width(), titleHeight));
     painter.setPen(drawings::quietText(palette()));

@@ -39,8 +39,10 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
     row->setSpacing(8);
     row->addWidget(m_sign);
     row->addWidget(m_text, 1);
-    for (QWidget* each : {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_why), static_cast<QWidget*>(m_again),
-                          static_cast<QWidget*>(m_save), static_cast<QWidget*>(m_undo), static_cast<QWidget*>(m_pause), static_cast<QWidget*>(m_stop)})
+    for (QWidget* each :
+         {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_why), static_cast<QWidget*>(m_again),
+          static_cast<QWidget*>(m_save), static_cast<QWidget*>(m_undo), static_cast<QWidget*>(m_pause),
+          static_cast<QWidget*>(m_stop)})
         row->addWidget(each);
     setMinimumHeight(m_stop->sizeHint().height() + 14);
     connect(m_why, &QPushButton::clicked, this, &RunBar::whyWanted);
@@ -118,8 +120,10 @@ QString RunBar::countsInWords() const
 {
     const Workbench::Counts counts = m_workbench.counts();
     const DocumentTask* task = m_workbench.task();
-    const QString done = task == nullptr ? QString()
-                                         : tr("%1 of %2").arg(QLocale().toString(task->done()), QLocale().toString(task->total()));
+    const QString done =
+        task == nullptr
+            ? QString()
+            : tr("%1 of %2").arg(QLocale().toString(task->done()), QLocale().toString(task->total()));
     switch (m_workbench.machine().state()) {
     case State::Empty:
         return tr("The list is empty.");
@@ -130,7 +134,8 @@ QString RunBar::countsInWords() const
         return !problem.isEmpty() ? problem : tr("Finding out what would change… %1").arg(done);
     }
     case State::Ready: {
-        QString text = counts.willChange == 0 ? tr("Nothing would change") : tr("%n will change", "", counts.willChange);
+        QString text =
+            counts.willChange == 0 ? tr("Nothing would change") : tr("%n will change", "", counts.willChange);
         if (counts.asAsked > 0)
             text += "  ·  " + tr("%n open so already", "", counts.asAsked);
         if (counts.cannot > 0)

@@ -57,7 +57,8 @@ SettingRow::SettingRow(ViewEntry entry, QGridLayout* layout, QWidget* parent)
     if (isText(entry)) {
         m_text = new QLineEdit(parent);
         m_text->setAccessibleName(tr("%1, text").arg(viewtexts::nameOf(entry)));
-        m_text->setPlaceholderText(kindOf(entry) == viewentries::Kind::Language ? QStringLiteral("en-GB") : QString());
+        m_text->setPlaceholderText(kindOf(entry) == viewentries::Kind::Language ? QStringLiteral("en-GB")
+                                                                                : QString());
         connect(m_text, &QLineEdit::textEdited, this, &SettingRow::tell);
         editors->addWidget(m_text, 2);
     }
@@ -88,7 +89,8 @@ void SettingRow::offer()
         offer(viewtexts::valueOf(m_entry, LastPage()), SettingRow::Kind::Value, LastPage());
     }
     if (m_number != nullptr)
-        offer(kindOf(m_entry) == viewentries::Kind::Page ? tr("Page…") : tr("Number…"), SettingRow::Kind::Number);
+        offer(kindOf(m_entry) == viewentries::Kind::Page ? tr("Page…") : tr("Number…"),
+              SettingRow::Kind::Number);
     if (m_entry == ViewEntry::Title) {
         offer(tr("From the file name"), SettingRow::Kind::Value, FileNameAsTitle());
         offer(tr("From the file name, where missing"), SettingRow::Kind::TextIfMissing, FileNameAsTitle());
@@ -117,7 +119,8 @@ int SettingRow::placeOf(const Value& value, bool keepsTitles) const
     for (int place = 0; place < static_cast<int>(m_choices.size()); ++place) {
         const Choice& choice = m_choices[static_cast<std::size_t>(place)];
         const bool isExact = choice.kind == SettingRow::Kind::Value && choice.value == *value && !keepsTitles;
-        if (isExact || (choice.kind == SettingRow::Kind::TextIfMissing && choice.value == *value && keepsTitles))
+        if (isExact ||
+            (choice.kind == SettingRow::Kind::TextIfMissing && choice.value == *value && keepsTitles))
             return place;
         if ((choice.kind == SettingRow::Kind::Number && std::holds_alternative<int>(*value)) ||
             (choice.kind == SettingRow::Kind::Text && std::holds_alternative<std::string>(*value)))
@@ -199,14 +202,16 @@ void SettingRow::setPresent(const QString& text, const QString& all)
 
 void SettingRow::setEnabled(bool enabled)
 {
-    for (QWidget* each : {static_cast<QWidget*>(m_box), static_cast<QWidget*>(m_number), static_cast<QWidget*>(m_text)})
+    for (QWidget* each :
+         {static_cast<QWidget*>(m_box), static_cast<QWidget*>(m_number), static_cast<QWidget*>(m_text)})
         if (each != nullptr)
             each->setEnabled(enabled);
 }
 
 void SettingRow::setVisible(bool visible)
 {
-    for (QWidget* each : {static_cast<QWidget*>(m_label), static_cast<QWidget*>(m_box), static_cast<QWidget*>(m_present)})
+    for (QWidget* each :
+         {static_cast<QWidget*>(m_label), static_cast<QWidget*>(m_box), static_cast<QWidget*>(m_present)})
         each->setVisible(visible);
     choose();
 }

@@ -16,7 +16,8 @@ int replaced(Workbench& workbench)
     int count = 0;
     for (const DocumentId id : workbench.targets()) {
         const DocumentRecord* record = workbench.table().find(id);
-        if (record != nullptr && record->check && !record->check->output.isEmpty() && record->check->output != record->path)
+        if (record != nullptr && record->check && !record->check->output.isEmpty() &&
+            record->check->output != record->path)
             count += QFileInfo::exists(QFile::decodeName(record->check->output)) ? 1 : 0;
     }
     return count;
@@ -59,7 +60,8 @@ QString StartQuestion::question(const Workbench& workbench)
     case Destination::Kind::InPlace:
         return tr("%n document(s) will be changed in place.", "", counts.willChange);
     case Destination::Kind::Folder:
-        return tr("%n result(s) will be written to %1.", "", counts.willChange + counts.asAsked).arg(where.folder);
+        return tr("%n result(s) will be written to %1.", "", counts.willChange + counts.asAsked)
+            .arg(where.folder);
     case Destination::Kind::Suffix:
         return tr("%n result(s) will be written beside the documents, with “-%1” added to their names.", "",
                   counts.willChange + counts.asAsked)

@@ -103,7 +103,8 @@ void RunHistory::reload()
     for (const QString& name : folder.entryList({"*.jsonl"}, QDir::Files, QDir::Name))
         if (!told.contains(folder.filePath(name)))
             m_runs.push_back(fromReport(folder.filePath(name)));
-    std::sort(m_runs.begin(), m_runs.end(), [](const Run& left, const Run& right) { return left.when > right.when; });
+    std::sort(m_runs.begin(), m_runs.end(),
+              [](const Run& left, const Run& right) { return left.when > right.when; });
     if (m_runs.size() > mostRuns)
         m_runs.resize(mostRuns);
     endResetModel();
@@ -174,7 +175,9 @@ QString RunHistory::textOf(const Run& run, int column) const
     case HowMany:
         return run.changed < 0 ? tr("not known") : tr("%n changed", "", run.changed);
     case State:
-        return run.isUndone ? tr("undone") : run.isInPlace ? tr("can be undone") : tr("documents are as they were");
+        return run.isUndone    ? tr("undone")
+               : run.isInPlace ? tr("can be undone")
+                               : tr("documents are as they were");
     default:
         return {};
     }

@@ -11,8 +11,35 @@ class RunMachine : public QObject
 
 public:
     enum class State { Empty, Reading, Listed, Checking, Ready, Running, Paused, Stopping, Results, Undoing };
-    enum class Step { Added, Read, Emptied, Edited, Cleared, Checked, Started, Paused, Resumed, Stopped, Ended, Undo, Undone };
-    enum class Command { Add, Remove, Edit, Start, Pause, Resume, Stop, UndoList, UndoRun, TryAgain, Configure, Close };
+    enum class Step {
+        Added,
+        Read,
+        Emptied,
+        Edited,
+        Cleared,
+        Checked,
+        Started,
+        Paused,
+        Resumed,
+        Stopped,
+        Ended,
+        Undo,
+        Undone
+    };
+    enum class Command {
+        Add,
+        Remove,
+        Edit,
+        Start,
+        Pause,
+        Resume,
+        Stop,
+        UndoList,
+        UndoRun,
+        TryAgain,
+        Configure,
+        Close
+    };
 
     using QObject::QObject;
 

@@ -271,7 +271,8 @@ void Workbench::endChecking(const ChildRun::Ending& ending)
     if (ending.wasStopped || !ending.isComplete) {
         m_machine.handle(Step::Cleared);
         if (!ending.isComplete && !ending.wasStopped)
-            emit failed(ending.words.isEmpty() ? tr("Finding out what would change broke off.") : ending.words);
+            emit failed(ending.words.isEmpty() ? tr("Finding out what would change broke off.")
+                                               : ending.words);
     } else {
         m_machine.handle(Step::Checked);
     }
@@ -302,7 +303,8 @@ void Workbench::run(const Ids& ids)
     auto* running = new Running(Running::Mode::Do, m_runOrder, m_history.folder(), m_table, means(), this);
     if (!QDir().mkpath(m_history.folder())) {
         delete running;
-        return emit failed(tr("Nothing is begun: the folder for reports cannot be made: %1").arg(m_history.folder()));
+        return emit failed(
+            tr("Nothing is begun: the folder for reports cannot be made: %1").arg(m_history.folder()));
     }
     m_lastOrder = m_runOrder;
     begin(running, &Workbench::endRunning);
@@ -388,7 +390,8 @@ void Workbench::endUndoing(const ChildRun::Ending& ending)
     else if (leftAlone == 0)
         emit said(tr("%n document(s) are as they were before the run.", "", undone));
     else
-        emit failed(tr("%n document(s) were left alone, since they are no longer as the run left them.", "", leftAlone));
+        emit failed(tr("%n document(s) were left alone, since they are no longer as the run left them.", "",
+                       leftAlone));
     if (ending.isComplete && leftAlone == 0)
         if (const QString problem = m_history.setUndone(m_undoing); !problem.isEmpty())
             emit failed(problem);
@@ -414,8 +417,8 @@ void Workbench::appendAllTheSame(const Ids& ids)
         again.append(id);
         m_table.change(id, [&code](DocumentRecord& each) {
             each.check.reset();
-            each.howSigned = code == "signed" ? DocumentRecord::Signed::Append
-                                              : DocumentRecord::Signed::AppendCertified;
+            each.howSigned =
+                code == "signed" ? DocumentRecord::Signed::Append : DocumentRecord::Signed::AppendCertified;
         });
     }
     m_table.flush();
@@ -445,10 +448,12 @@ Workbench::Counts Workbench::counts() const
     const auto count = [&counts](const DocumentRecord& record) {
         const DocumentRecord::State state = record.state();
         ++counts.targets;
-        counts.waiting += state == DocumentRecord::State::Waiting || state == DocumentRecord::State::Known ? 1 : 0;
+        counts.waiting +=
+            state == DocumentRecord::State::Waiting || state == DocumentRecord::State::Known ? 1 : 0;
         counts.willChange += state == DocumentRecord::State::WillChange ? 1 : 0;
         counts.asAsked += state == DocumentRecord::State::AsAsked ? 1 : 0;
-        counts.cannot += state == DocumentRecord::State::Cannot || state == DocumentRecord::State::Unreadable ? 1 : 0;
+        counts.cannot +=
+            state == DocumentRecord::State::Cannot || state == DocumentRecord::State::Unreadable ? 1 : 0;
         counts.changed += state == DocumentRecord::State::Changed ? 1 : 0;
         counts.unchanged += state == DocumentRecord::State::Unchanged ? 1 : 0;
         counts.failed += state == DocumentRecord::State::Failed ? 1 : 0;
