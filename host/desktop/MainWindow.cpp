@@ -1,15 +1,15 @@
 #include "MainWindow.h"
 
+#include "EmptyPage.h"
+#include "host/desktop/actions/PresetMenu.h"
+#include "host/desktop/dialogs/HelpWindow.h"
+#include "host/desktop/dialogs/HistoryDialog.h"
+#include "host/desktop/list/DetailLine.h"
+#include "host/desktop/look/Drawings.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
 #include "host/desktop/presets/PresetFolder.h"
-#include "host/desktop/widgets/DetailLine.h"
-#include "host/desktop/widgets/Drawings.h"
-#include "host/desktop/widgets/EmptyPage.h"
-#include "host/desktop/widgets/HelpWindow.h"
-#include "host/desktop/widgets/HistoryDialog.h"
-#include "host/desktop/widgets/PresetMenu.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>

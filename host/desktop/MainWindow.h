@@ -1,13 +1,13 @@
 #pragma once
 
+#include "RunBar.h"
+#include "host/desktop/actions/ActionTable.h"
+#include "host/desktop/actions/Commands.h"
+#include "host/desktop/list/DocumentView.h"
+#include "host/desktop/list/FilterBar.h"
+#include "host/desktop/panel/ChangePanel.h"
+#include "host/desktop/panel/PreviewPane.h"
 #include "host/desktop/session/Session.h"
-#include "host/desktop/widgets/ActionTable.h"
-#include "host/desktop/widgets/ChangePanel.h"
-#include "host/desktop/widgets/Commands.h"
-#include "host/desktop/widgets/DocumentView.h"
-#include "host/desktop/widgets/FilterBar.h"
-#include "host/desktop/widgets/PreviewPane.h"
-#include "host/desktop/widgets/RunBar.h"
 
 #include <QMainWindow>
 #include <QSplitter>

@@ -1,6 +1,6 @@
-#include "host/desktop/documents/DocumentOrder.h"
 #include "host/desktop/documents/ListHistory.h"
-#include "host/desktop/documents/RowTexts.h"
+#include "host/desktop/rows/DocumentOrder.h"
+#include "host/desktop/rows/RowTexts.h"
 
 #include <QJsonDocument>
 #include <QtTest>

@@ -1,9 +1,9 @@
 #include "host/desktop/MainWindow.h"
+#include "host/desktop/dialogs/StartQuestion.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/presets/PresetFolder.h"
 #include "host/desktop/texts/ViewTexts.h"
-#include "host/desktop/widgets/StartQuestion.h"
 #include "support/FakeQuintar.h"
 
 #include <QAbstractButton>

@@ -3,7 +3,7 @@
 #include "ChangeDraft.h"
 #include "SelectionSummary.h"
 
-#include "host/desktop/documents/DocumentFilter.h"
+#include "host/desktop/rows/DocumentFilter.h"
 
 #include <vector>
 

@@ -5,8 +5,8 @@
 
 #include "host/desktop/change/RunOrder.h"
 #include "host/desktop/change/SelectionSummary.h"
-#include "host/desktop/documents/DocumentOrder.h"
 #include "host/desktop/documents/ListHistory.h"
+#include "host/desktop/rows/DocumentOrder.h"
 #include "host/desktop/tasks/Passwords.h"
 #include "host/desktop/tasks/Reading.h"
 #include "host/desktop/tasks/Running.h"

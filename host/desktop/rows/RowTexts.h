@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Columns.h"
-#include "DocumentRecord.h"
+#include "host/desktop/documents/DocumentRecord.h"
 
 /// What the cells of the list say.
 namespace host::desktop {

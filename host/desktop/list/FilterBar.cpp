@@ -1,6 +1,6 @@
 #include "FilterBar.h"
 
-#include "Drawings.h"
+#include "host/desktop/look/Drawings.h"
 
 #include <QHBoxLayout>
 #include <QLocale>

@@ -1,8 +1,8 @@
 #include "CellDelegate.h"
 
-#include "Drawings.h"
+#include "host/desktop/look/Drawings.h"
 
-#include "host/desktop/documents/DocumentOrder.h"
+#include "host/desktop/rows/DocumentOrder.h"
 
 #include <QApplication>
 #include <QPainter>

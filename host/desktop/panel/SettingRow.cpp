@@ -1,6 +1,6 @@
 #include "SettingRow.h"
 
-#include "Drawings.h"
+#include "host/desktop/look/Drawings.h"
 
 #include "host/change/ViewValues.h"
 #include "host/desktop/texts/ViewTexts.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DocumentRecord.h"
+#include "host/desktop/documents/DocumentRecord.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #include "RunBar.h"
 
-#include "Drawings.h"
+#include "host/desktop/look/Drawings.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ElidedLabel.h"
+#include "host/desktop/look/ElidedLabel.h"
 
 #include "host/desktop/change/ChangeDraft.h"
 

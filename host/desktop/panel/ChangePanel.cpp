@@ -1,6 +1,6 @@
 #include "ChangePanel.h"
 
-#include "Drawings.h"
+#include "host/desktop/look/Drawings.h"
 
 #include <QScrollArea>
 #include <QScrollBar>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/desktop/documents/DocumentOrder.h"
+#include "host/desktop/rows/DocumentOrder.h"
 
 #include <QSettings>
 #include <QTableView>

@@ -2,7 +2,7 @@
 
 #include "Columns.h"
 #include "DocumentFilter.h"
-#include "DocumentTable.h"
+#include "host/desktop/documents/DocumentTable.h"
 
 #include <QAbstractTableModel>
 #include <QItemSelectionModel>

@@ -1,6 +1,6 @@
 #include "DetailLine.h"
 
-#include "host/desktop/documents/RowTexts.h"
+#include "host/desktop/rows/RowTexts.h"
 
 #include <QHBoxLayout>
 

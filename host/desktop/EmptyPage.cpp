@@ -1,6 +1,6 @@
 #include "EmptyPage.h"
 
-#include "Drawings.h"
+#include "host/desktop/look/Drawings.h"
 
 #include <QEvent>
 #include <QPushButton>

@@ -1,6 +1,6 @@
 #include "DestinationRow.h"
 
-#include "Drawings.h"
+#include "host/desktop/look/Drawings.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

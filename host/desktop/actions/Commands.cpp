@@ -1,12 +1,12 @@
 #include "Commands.h"
 
-#include "HistoryDialog.h"
-#include "StartQuestion.h"
+#include "host/desktop/dialogs/HistoryDialog.h"
+#include "host/desktop/dialogs/StartQuestion.h"
 
-#include "host/desktop/documents/RowTexts.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/OpenWith.h"
+#include "host/desktop/rows/RowTexts.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,6 +1,6 @@
 #include "PreviewPane.h"
 
-#include "Drawings.h"
+#include "host/desktop/look/Drawings.h"
 
 #include <QPainter>
 

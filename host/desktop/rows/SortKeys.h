@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Columns.h"
-#include "DocumentTable.h"
+#include "host/desktop/documents/DocumentTable.h"
 
 /// How documents are put in order.
 namespace host::desktop::SortKeys {
