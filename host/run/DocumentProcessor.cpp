@@ -112,7 +112,10 @@ std::string DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int s
         return {};
     result.stateBefore = stateOf(m_original);
     result.checksumBefore = checksumOf(source, m_original.st_size);
-    return result.checksumBefore.empty() ? systemError(errno) : std::string();
+    if (!result.checksumBefore.empty())
+        return {};
+    return errno != 0 ? systemError(errno)
+                      : std::string(engine::errorText(int(engine::ErrorCode::SourceChanged)));
 }
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)

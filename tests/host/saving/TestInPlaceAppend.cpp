@@ -63,11 +63,11 @@ struct stat oldState()
 } // namespace
 
 extern "C" {
-ssize_t __real_pwrite(int file, const void* bytes, std::size_t size, off_t offset);
-ssize_t __wrap_pwrite(int file, const void* bytes, std::size_t size, off_t offset)
+ssize_t __real_write(int file, const void* bytes, std::size_t size);
+ssize_t __wrap_write(int file, const void* bytes, std::size_t size)
 {
     const int problem = nextProblem("write");
-    return problem > 0 ? -1 : __real_pwrite(file, bytes, problem == half ? (size + 1) / 2 : size, offset);
+    return problem > 0 ? -1 : __real_write(file, bytes, problem == half ? (size + 1) / 2 : size);
 }
 
 int __wrap_fdatasync(int)
