@@ -84,8 +84,11 @@ const std::vector<Option> optionRows{
     {"files-from", 0, "FILE|-", "takes further documents from a list, one a line",
      "- is standard input",
      Files, {}, {Run, Show, Check}, Group::Documents, rare},
+    {"files-from", 0, "FILE|-", "takes back only what is done to the documents in a list, one a line",
+     "- is standard input",
+     Files, {}, {Undo}, Group::Documents, rare},
     {"null", 0, "", "the names in that list end with NUL instead", "",
-     Nothing, {}, {Run, Show, Check}, Group::Documents, rare},
+     Nothing, {}, {Run, Show, Check, Undo}, Group::Documents, rare},
 
     {"signed", 0, "HOW", "what becomes of signed documents",
      "refused (the default), or changed by an update behind what is signed; certified ones with append-certified only",
@@ -109,6 +112,11 @@ const std::vector<Option> optionRows{
      "in place that is always so",
      Nothing, {}, {Run}, Group::Work, rare},
 
+    {"control", 0, "", "takes the words pause, resume and stop from standard input",
+     "a line each; its end means stop", Nothing, {}, {Run, Undo, Show, Check}, Group::Work, rare},
+
+    {"events", 0, "", "tells other programs what is going on, a JSON object a line",
+     "nothing else is printed on standard output then", Nothing, {}, {Run, Undo, Show, Check}, Group::Output, rare},
     {"report", 0, "FILE|-", "writes a JSON object a line about each document",
      "- is standard output",
      Files, {"jsonl"}, {Run}, Group::Output, common},

@@ -34,9 +34,9 @@ const char* nameOf(Saved saved)
     return "";
 }
 
-DocumentResult DocumentResult::failed(const std::string& reason, std::int64_t milliseconds)
+DocumentResult DocumentResult::failed(Failure reason, std::int64_t milliseconds)
 {
-    return {Status::Failed, Saved::Not, reason, milliseconds};
+    return {Status::Failed, Saved::Not, std::move(reason), milliseconds};
 }
 
 std::string DocumentResult::toRecord() const
@@ -44,7 +44,8 @@ std::string DocumentResult::toRecord() const
     return RecordWriter()
         .add(static_cast<std::int64_t>(status))
         .add(static_cast<std::int64_t>(saved))
-        .add(reason)
+        .add(static_cast<std::int64_t>(reason.code))
+        .add(reason.text)
         .add(milliseconds)
         .add(fileState)
         .add(outputState)
@@ -64,7 +65,10 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     RecordReader reader(record);
     const std::int64_t status = reader.number();
     const std::int64_t saved = reader.number();
-    DocumentResult result{static_cast<Status>(status), static_cast<Saved>(saved), reader.text()};
+    const std::int64_t code = reader.number();
+    DocumentResult result{static_cast<Status>(status),
+                          static_cast<Saved>(saved),
+                          {static_cast<ReasonCode>(code), reader.text()}};
     result.milliseconds = reader.number();
     result.fileState = reader.text();
     result.outputState = reader.text();
@@ -77,7 +81,7 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     result.viewAfter = reader.text();
     result.changes = reader.text();
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
-                       saved <= static_cast<int>(Saved::Copied);
+                       saved <= static_cast<int>(Saved::Copied) && isReasonCode(code);
     return reader.complete() && known ? std::optional(result) : std::nullopt;
 }
 

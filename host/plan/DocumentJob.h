@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/failures/Failure.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -35,8 +37,8 @@ struct DocumentResult
 {
     Status status = Status::Failed;
     Saved saved = Saved::Not;
-    /// Why it failed; UTF-8, may hold bytes of file names.
-    std::string reason = {};
+    /// Why it failed.
+    Failure reason = {};
     std::int64_t milliseconds = 0;
     /// Of the document as it was read and of the output, see FileState.h; in place both are the document as
     /// it is now. Empty for a document that failed, and when nothing was to be written.
@@ -59,7 +61,7 @@ struct DocumentResult
     std::string viewAfter = {};
     std::string changes = {};
 
-    static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
+    static DocumentResult failed(Failure reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;
     static std::optional<DocumentResult> fromRecord(const std::string& record);
 };

@@ -59,13 +59,13 @@ std::optional<Placement> Placement::fromRecord(const std::string& record)
                                        : std::nullopt;
 }
 
-std::optional<DocumentResult> Placement::settle(const std::string& target, const std::string& why,
+std::optional<DocumentResult> Placement::settle(const std::string& target, const Failure& why,
                                                 bool flush) const
 {
     return m_update.empty() ? settleRename(target, why, flush) : settleAppend(target, why);
 }
 
-std::optional<DocumentResult> Placement::settleRename(const std::string& target, const std::string& why,
+std::optional<DocumentResult> Placement::settleRename(const std::string& target, const Failure& why,
                                                       bool flush) const
 {
     struct stat now;
@@ -75,18 +75,19 @@ std::optional<DocumentResult> Placement::settleRename(const std::string& target,
     return placed(why, flushed ? "" : "it may not survive a power failure");
 }
 
-std::optional<DocumentResult> Placement::settleAppend(const std::string& target, const std::string& why) const
+std::optional<DocumentResult> Placement::settleAppend(const std::string& target, const Failure& why) const
 {
     const InPlaceFile file(target);
     if (file.get() < 0)
-        return DocumentResult::failed(why + "; what became of it cannot be told: " + systemError(errno));
+        return DocumentResult::failed(
+            {why.code, why.text + "; what became of it cannot be told: " + systemError(errno)});
     if (!isSameFile(file.status(), m_file))
         return std::nullopt; // another program has replaced it since
     if (lockDocument(file.get()) == DocumentLock::Held)
-        return DocumentResult::failed(why + "; " + documentLocked);
+        return DocumentResult::failed({why.code, why.text + "; " + documentLocked.text});
     const InPlaceAppend::Outcome outcome = InPlaceAppend(file, m_file, m_update).settle(why);
     if (!outcome.aftermath.empty())
-        return DocumentResult::failed(why + "; " + outcome.aftermath);
+        return DocumentResult::failed({why.code, why.text + "; " + outcome.aftermath});
     if (!outcome.isAppended())
         return std::nullopt;
     DocumentResult result = placed(why, outcome.note);
@@ -95,11 +96,11 @@ std::optional<DocumentResult> Placement::settleAppend(const std::string& target,
     return result;
 }
 
-DocumentResult Placement::placed(const std::string& why, const std::string& note) const
+DocumentResult Placement::placed(const Failure& why, const std::string& note) const
 {
     DocumentResult result = m_result;
     result.checksumUnfinished.clear();
-    result.note += (result.note.empty() ? "" : "; ") + ("it is in place, but then: " + why) +
+    result.note += (result.note.empty() ? "" : "; ") + ("it is in place, but then: " + why.text) +
                    (note.empty() ? "" : "; ") + note;
     return result;
 }

@@ -26,15 +26,15 @@ public:
     /// What became of the target now that the worker has ended, nothing when that is as it was. An update
     /// that stands there by half is cut off.
     /// \param why the worker ended. \param flush makes sure that what is in place is on the disk.
-    std::optional<DocumentResult> settle(const std::string& target, const std::string& why, bool flush) const;
+    std::optional<DocumentResult> settle(const std::string& target, const Failure& why, bool flush) const;
 
     const DocumentResult& result() const { return m_result; }
 
 private:
-    std::optional<DocumentResult> settleRename(const std::string& target, const std::string& why,
+    std::optional<DocumentResult> settleRename(const std::string& target, const Failure& why,
                                                bool flush) const;
-    std::optional<DocumentResult> settleAppend(const std::string& target, const std::string& why) const;
-    DocumentResult placed(const std::string& why, const std::string& note) const;
+    std::optional<DocumentResult> settleAppend(const std::string& target, const Failure& why) const;
+    DocumentResult placed(const Failure& why, const std::string& note) const;
 
     DocumentResult m_result;
     struct stat m_file;   ///< Only what tells one file from another counts.

@@ -172,7 +172,8 @@ std::string Report::toJson(const Line& line, const char* status)
     object.insert("saved", textOrNull(nameOf(line.result.saved)));
     if (line.result.certified)
         object.insert("certified", true);
-    object.insert("reason", textOrNull(line.result.reason));
+    object.insert("reasonCode", textOrNull(nameOf(line.result.reason.code)));
+    object.insert("reason", textOrNull(line.result.reason.text));
     if (!line.result.note.empty())
         object.insert("note", QString::fromStdString(line.result.note));
     object.insert("milliseconds", static_cast<qint64>(line.result.milliseconds));

@@ -84,13 +84,13 @@ private:
     DocumentResult work(const DocumentJob& job);
     std::int64_t millisecondsTaken() const;
     void tellStates(DocumentResult& result, const struct stat& output) const;
-    std::string tellWhatStoodBefore(DocumentResult& result, int source) const;
+    Failure tellWhatStoodBefore(DocumentResult& result, int source) const;
     DocumentResult applyAndSave(const DocumentJob& job);
-    std::string apply(const std::string& file);
+    Failure apply(const std::string& file);
     DocumentResult changed(Saved saved) const;
     DocumentResult leave() const;
     std::string notesWith(const std::string& further) const;
-    std::string refusal();
+    Failure refusal();
     DocumentResult tryOut();
     DocumentResult save(const DocumentJob& job);
     std::optional<DocumentResult> appendInPlace(const DocumentJob& job);

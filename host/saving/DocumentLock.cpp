@@ -15,7 +15,7 @@ const std::chrono::milliseconds step(5);
 
 } // namespace
 
-const char documentLocked[] = "another run, or another program, has it locked";
+const Failure documentLocked{ReasonCode::Locked, "another run, or another program, has it locked"};
 
 DocumentLock lockDocument(int file, std::chrono::milliseconds patience)
 {

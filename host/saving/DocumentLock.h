@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/failures/Failure.h"
+
 #include <sys/stat.h>
 
 #include <chrono>
@@ -21,7 +23,7 @@ enum class DocumentLock {
 DocumentLock lockDocument(int file, std::chrono::milliseconds patience = std::chrono::seconds(5));
 
 /// Why a document may not be changed now, though nothing is wrong with it.
-extern const char documentLocked[];
+extern const Failure documentLocked;
 
 /// Whether an open file is the one at the path, and unchanged since `asRead` was told of it.
 bool isAsRead(int file, const std::string& path, const struct stat& asRead);

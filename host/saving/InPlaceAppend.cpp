@@ -13,12 +13,22 @@ namespace host {
 
 namespace {
 
-std::string changedMeanwhile()
+Failure changedMeanwhile()
 {
-    return std::string(engine::errorText(int(engine::ErrorCode::SourceChanged)));
+    return Failure::ofLibrary(int(engine::ErrorCode::SourceChanged));
+}
+
+Failure cannotWrite()
+{
+    return Failure::ofSystem(errno, ReasonCode::WriteFailed);
 }
 
 } // namespace
+
+Failure InPlaceAppend::Outcome::whole() const
+{
+    return {problem.code, problem.text + (aftermath.empty() ? "" : "; ") + aftermath};
+}
 
 InPlaceAppend::InPlaceAppend(const InPlaceFile& file, const struct stat& before, std::string_view update)
     : m_file(file), m_before(before), m_update(update), m_begin(withoutLastLines(update)), m_left(before)
@@ -34,11 +44,11 @@ InPlaceAppend::Outcome InPlaceAppend::perform()
     if (!isAsLeft())
         return {changedMeanwhile()};
     if (!write(m_begin))
-        return failed(systemError(errno));
+        return failed(cannotWrite());
     if (m_left.st_size != endOf(m_begin) || !isAsLeft())
         return {changedMeanwhile()};
     if (!write(m_update.substr(m_begin.size())))
-        return failed(systemError(errno));
+        return failed(cannotWrite());
     return {};
 }
 
@@ -56,7 +66,7 @@ bool InPlaceAppend::isAsLeft() const
     return isAsRead(m_file.get(), m_file.path(), m_left);
 }
 
-InPlaceAppend::Outcome InPlaceAppend::settle(const std::string& why)
+InPlaceAppend::Outcome InPlaceAppend::settle(const Failure& why)
 {
     fstat(m_file.get(), &m_left); // nobody can tell how the other process left it
     if (!isAll(found()))
@@ -65,16 +75,16 @@ InPlaceAppend::Outcome InPlaceAppend::settle(const std::string& why)
     return {{}, {}, problem.empty() ? "" : "it may not survive a power failure: " + problem};
 }
 
-InPlaceAppend::Outcome InPlaceAppend::failed(const std::string& why) const
+InPlaceAppend::Outcome InPlaceAppend::failed(const Failure& why) const
 {
     const Found found = this->found();
     if (!found.isOfUpdate || !isAsLeft())
-        return {why, changedMeanwhile()};
+        return {why, changedMeanwhile().text};
     return isNothing(found) ? Outcome{why} : cutBack(found, why);
 }
 
 /// The last lines go first, and are gone on the disk too before the rest goes.
-InPlaceAppend::Outcome InPlaceAppend::cutBack(const Found& found, const std::string& why) const
+InPlaceAppend::Outcome InPlaceAppend::cutBack(const Found& found, const Failure& why) const
 {
     if (found.size > m_begin.size() && m_file.cut(endOf(m_begin)))
         m_file.flush();
@@ -85,7 +95,7 @@ InPlaceAppend::Outcome InPlaceAppend::cutBack(const Found& found, const std::str
     }
     const std::string problem = "it cannot be cut back: " + systemError(errno);
     if (isAll(this->found()))
-        return {{}, {}, "it may not survive a power failure: " + why + "; " + problem};
+        return {{}, {}, "it may not survive a power failure: " + why.text + "; " + problem};
     return {why, "bytes that viewers pass over are left behind its end, for " + problem};
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/failures/Failure.h"
+
 #include <sys/stat.h>
 
 #include <cstddef>
@@ -25,13 +27,15 @@ public:
     struct Outcome
     {
         /// Empty when the document is as asked, else why not.
-        std::string problem = {};
+        Failure problem = {};
         /// Empty when the document is as asked or as it was; else what is the matter with it.
         std::string aftermath = {};
         /// What the user should know of a document that is as asked; may be empty.
         std::string note = {};
 
-        bool isAppended() const { return problem.empty(); }
+        bool isAppended() const { return !problem; }
+        /// The problem and what is left of it.
+        Failure whole() const;
     };
 
     /// On failure the document is cut back, unless another program has changed it meanwhile: then it is left
@@ -40,7 +44,7 @@ public:
 
     /// Brings to an end what a process has begun that is no more: cuts half an update off, and flushes a
     /// whole one. \param why the process ended.
-    Outcome settle(const std::string& why);
+    Outcome settle(const Failure& why);
 
     /// All of an update that stands behind a document before its last lines are written.
     static std::string_view withoutLastLines(std::string_view update);
@@ -60,8 +64,8 @@ private:
     static bool isNothing(const Found& found) { return found.isOfUpdate && found.size == 0; }
     bool isAll(const Found& found) const { return found.isOfUpdate && found.size == m_update.size(); }
     std::optional<std::string> behindDocument() const;
-    Outcome failed(const std::string& why) const;
-    Outcome cutBack(const Found& found, const std::string& why) const;
+    Outcome failed(const Failure& why) const;
+    Outcome cutBack(const Found& found, const Failure& why) const;
     std::int64_t endOf(std::string_view part) const;
 
     const InPlaceFile& m_file;

@@ -22,9 +22,15 @@ namespace host {
 
 namespace {
 
-const char changedMeanwhile[] = "another program changed it meanwhile";
+const Failure changedMeanwhile{ReasonCode::ChangedMeanwhile, "another program changed it meanwhile"};
 const char timeLost[] = "its time could not be restored";
-const char olderStays[] = "an older change stays: another program changed it between the two";
+const Failure olderStays{ReasonCode::ChangedSince,
+                         "an older change stays: another program changed it between the two"};
+
+Failure cannotRead(int error)
+{
+    return Failure::ofSystem(error, ReasonCode::ReadFailed);
+}
 
 /// Of an update that is appended where the document lies; there is no longer one.
 const std::int64_t longestInPlace = 2048;
@@ -71,17 +77,18 @@ std::array<struct timespec, 2> changeTime(const FileState& state)
 
 UndoResult DocumentUndo::perform(bool dryRun)
 {
-    if (const std::string problem = open(); !problem.empty())
+    if (const Failure problem = open(); problem)
         return {UndoResult::LeftAlone, problem};
     if (!follow(stateOf(m_present))) {
         m_cutOff = cutOff();
         if (m_cutOff == nullptr || !follow(m_cutOff->before))
             return {UndoResult::LeftAlone,
-                    "it is no longer as the report says, " + expected() + ", but " + stateOf(m_present)};
+                    {ReasonCode::ChangedSince,
+                     "it is no longer as the report says, " + expected() + ", but " + stateOf(m_present)}};
     }
     UndoResult result{m_undoneAlready ? UndoResult::UndoneAlready : UndoResult::NothingDone};
     if (!m_cuts.empty()) {
-        if (const std::string problem = whyNotCut(); !problem.empty())
+        if (const Failure problem = whyNotCut(); problem)
             return {UndoResult::LeftAlone, problem};
         result = dryRun ? UndoResult{UndoResult::Undone} : cut();
     } else if (m_cutOff != nullptr && !dryRun) {
@@ -100,17 +107,17 @@ std::string DocumentUndo::expected() const
 }
 
 /// The path is one that links were resolved in, so a link at its end is not the document.
-std::string DocumentUndo::open()
+Failure DocumentUndo::open()
 {
     struct stat named;
     if (lstat(m_document.path.c_str(), &named) != 0)
-        return systemError(errno);
+        return cannotRead(errno);
     if (!S_ISREG(named.st_mode))
-        return systemError(notARegularFile);
+        return cannotRead(notARegularFile);
     m_file = openRegularFile(m_document.path);
     if (!m_file.isOpen() || fstat(m_file.get(), &m_present) != 0)
-        return systemError(errno);
-    return isSameState(named, m_present) ? "" : changedMeanwhile;
+        return cannotRead(errno);
+    return isSameState(named, m_present) ? Failure() : changedMeanwhile;
 }
 
 /// Goes back from state to state. What is newer than the state that the document is in has been undone.
@@ -153,19 +160,19 @@ bool DocumentUndo::isAfter(const AppendedUpdate& update, const std::string& stat
            isUnfinished(bytesOf(m_file.get(), begin, end), update.unfinished);
 }
 
-/// Why the updates must not be cut off; empty when all is well.
-std::string DocumentUndo::whyNotCut() const
+/// Why the updates must not be cut off.
+Failure DocumentUndo::whyNotCut() const
 {
     for (const AppendedUpdate* update : m_cuts) {
         const std::string checksum = checksumOf(m_file.get(), sizeOf(update->before));
         if (checksum.empty())
-            return errno != 0 ? systemError(errno) : changedMeanwhile;
+            return errno != 0 ? cannotRead(errno) : changedMeanwhile;
         if (checksum != update->checksum)
-            return "what stands before the update is not what stood there";
+            return {ReasonCode::ChangedSince, "what stands before the update is not what stood there"};
     }
     const bool isUpdate = m_cuts.front()->after.empty() || // whose bytes are known
                           endsAsUpdate(m_file.get(), sizeOf(m_cuts.back()->before), m_present.st_size);
-    return isUpdate ? "" : "what the report calls an update is none";
+    return isUpdate ? Failure() : Failure{ReasonCode::BadReport, "what the report calls an update is none"};
 }
 
 UndoResult DocumentUndo::cut() const
@@ -194,7 +201,7 @@ std::string DocumentUndo::restoreTime() const
 UndoResult DocumentUndo::cutInPlace(const InPlaceFile& file, const FileState& before) const
 {
     if (!file.cut(before.size))
-        return {UndoResult::LeftAlone, systemError(errno)};
+        return {UndoResult::LeftAlone, Failure::ofSystem(errno, ReasonCode::WriteFailed)};
     UndoResult result{UndoResult::Undone};
     if (!file.setTime(before.time))
         result.note = timeLost;
@@ -209,22 +216,22 @@ UndoResult DocumentUndo::replace(const FileState& before) const
     const std::string temporary = SafeOutput::temporaryNameFor(m_document.path);
     SafeOutput output(m_document.path, temporary);
     const auto size = static_cast<std::uint64_t>(before.size);
-    if (const std::string problem = copyBegin(m_file.get(), size, temporary); !problem.empty())
+    if (const Failure problem = copyBegin(m_file.get(), size, temporary); problem)
         return {UndoResult::LeftAlone, problem};
     const bool timeKept =
         utimensat(AT_FDCWD, temporary.c_str(), changeTime(before).data(), AT_SYMLINK_NOFOLLOW) == 0;
     const auto beforeRename = [this](const struct stat&, const std::string&) {
         if (!isAsRead(m_file.get(), m_document.path, m_present))
-            throw std::runtime_error(changedMeanwhile);
+            throw DocumentError(changedMeanwhile);
     };
     try {
         const SafeOutput::Outcome outcome =
             output.commit(FileAttributes(m_file.get(), FileAttributes::Take::All), true, beforeRename);
-        if (!outcome.problem.empty())
+        if (outcome.problem)
             return {UndoResult::LeftAlone, outcome.problem};
         return {UndoResult::Undone, {}, outcome.note + (timeKept ? "" : timeLost)};
-    } catch (const std::runtime_error& problem) {
-        return {UndoResult::LeftAlone, problem.what()};
+    } catch (const std::runtime_error&) {
+        return {UndoResult::LeftAlone, Failure::ofException()};
     }
 }
 

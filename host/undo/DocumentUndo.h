@@ -24,8 +24,8 @@ struct UndoResult
     };
 
     Kind kind = LeftAlone;
-    /// Why the document, or an older update of one that was undone, is left alone; else empty.
-    std::string reason = {};
+    /// Why the document, or an older update of one that was undone, is left alone.
+    Failure reason = {};
     /// What the user should know of a document that was undone; may be empty.
     std::string note = {};
 };
@@ -45,13 +45,13 @@ public:
     UndoResult perform(bool dryRun);
 
 private:
-    std::string open();
+    Failure open();
     std::string expected() const;
     bool follow(std::string state);
     const AppendedUpdate* cutOff() const;
     bool isAfter(const AppendedUpdate& update, const std::string& state) const;
     std::string restoreTime() const;
-    std::string whyNotCut() const;
+    Failure whyNotCut() const;
     UndoResult cut() const;
     UndoResult cutInPlace(const InPlaceFile& file, const FileState& before) const;
     UndoResult replace(const FileState& before) const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/failures/Failure.h"
 #include "host/files/FileDescriptor.h"
 
 #include <cstddef>
@@ -44,12 +45,16 @@ public:
     struct LeftAlone
     {
         std::string name;
-        std::string reason;
+        Failure reason;
     };
 
     /// Reads the report, and keeps runs from writing it while the object lives. Throws UsageError when that
     /// is not possible, when it is no report, and for one of a run that changed nothing in place.
     explicit UndoPlan(const std::string& report);
+
+    /// Forgets what is about other documents. \param names of those that are wanted; what the report does not
+    /// tell of is left alone.
+    void restrictTo(const std::vector<std::string>& names);
 
     /// The one with the newest update first.
     const std::vector<Document>& documents() const { return m_documents; }

@@ -117,6 +117,7 @@ private slots:
         QCOMPARE(line.take("after").toObject().value("pageMode"), QJsonValue("FullScreen"));
         QCOMPARE(line, (QJsonObject{{"file", "in/a.pdf"},
                                     {"status", "changed"},
+                                    {"reasonCode", QJsonValue()},
                                     {"saved", "appended"},
                                     {"reason", QJsonValue()}}));
     }
