@@ -2,9 +2,7 @@
 #include "Operations.h"
 #include "Session.h"
 #include "Text.h"
-#include "engine/files/EngineError.h"
 #include "engine/pages/PageGeometry.h"
-#include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/ViewerPreferences.h"
 
 #include <array>
