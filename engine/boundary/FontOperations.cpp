@@ -19,8 +19,8 @@ struct Destroy
     void operator()(auto* object) const { destroy(object); }
 };
 
-/// Fontconfig keeps things in static variables for good. Unloaded along with this library, it would lose
-/// them, each time again.
+/// Fontconfig never frees its static variables. Unloaded along with this library and loaded again, it would
+/// leak them each time.
 void keepFontconfigLoaded()
 {
     Dl_info library;

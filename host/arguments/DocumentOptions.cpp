@@ -16,7 +16,7 @@ namespace host {
 namespace {
 
 const std::size_t largestPasswordFile = 64 << 10;
-const std::size_t largestList = 512 << 20; // millions of names, and an end for a device that has none
+const std::size_t largestList = 512 << 20; // millions of names; /dev/zero has no end of its own
 
 std::string readLines(const std::string& path, std::size_t limit, const char* what)
 {
@@ -27,7 +27,7 @@ std::string readLines(const std::string& path, std::size_t limit, const char* wh
     return bytes;
 }
 
-/// A list names files only.
+/// In a list "-" is a file of that name, not standard input.
 std::string fileNamed(const std::string& name)
 {
     return name == RunDestination::standardStream ? "./" + name : name;

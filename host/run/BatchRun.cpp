@@ -85,7 +85,7 @@ int BatchRun::run(const WorkerPool::Limits& limits)
         removeLeftovers();
     try {
         runJobs(plugin.action(), libraryFile, limits);
-    } catch (const std::bad_alloc&) { // not for main: to it, nothing has been begun
+    } catch (const std::bad_alloc&) { // main would tell that nothing was begun
         m_progress.reset();
         complainInLines("the run ended early, for it is out of memory; some documents may have been changed");
         return exitstatus::someFailed;
@@ -150,7 +150,7 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
     m_stopped = stop.count() > 0;
 }
 
-/// In place, where what was there before is gone with the rename.
+/// Only in place: there the rename takes away what undoing needs to know.
 void BatchRun::announce(std::size_t job, const DocumentResult& expected)
 {
     const RunPlan::Document& planned = m_plan.documents()[m_documentOfJob[job]];
