@@ -22,8 +22,8 @@ namespace engine {
 
 namespace {
 
-// QPDFWriter writes a few bytes at a time, and finishes its pipelines in destructors, which nothing thrown
-// may leave: the first failure is kept, and what comes after it is dropped.
+// QPDFWriter writes a few bytes at a time, so they are collected. It finishes its pipelines in destructors,
+// which nothing thrown may leave: the first failure is kept, and what is written after it is dropped.
 class FilePipeline : public Pipeline
 {
 public:

@@ -55,7 +55,7 @@ int RunCommand::work(const std::vector<std::string>& words)
             throw UsageError(problem.text);
     m_options.tellStates = m_reportFile.has_value();
     m_options.tellChanges = m_reportFile.has_value() || !m_quiet || m_live.events() != nullptr;
-    if (report) // may lie in the output folder
+    if (report) // only now, for it may lie in the output folder
         begin(*report);
     const int status = BatchRun(plan, m_options,
                                 {m_live.control(), m_live.events(), report ? &*report : nullptr, tells(),
@@ -203,7 +203,7 @@ BatchRun::Done RunCommand::doneBefore(const RunPlan& plan) const
     if (!m_resumedReport || firstRun)
         return {};
     BatchRun::Done done = EarlierReport(*m_resumedReport, plan).done();
-    if (continuesReport()) // which has the lines
+    if (continuesReport()) // the file has these lines already
         for (auto& [place, line] : done)
             line.clear();
     return done;

@@ -236,7 +236,7 @@ std::string Option::form() const
 std::string Option::rest() const
 {
     std::string text = more;
-    if (completes != Completes::Words || value.find('|') != std::string::npos) // where the value says them
+    if (completes != Completes::Words || value.find('|') != std::string::npos) // which lists the words itself
         return text;
     text += (text.empty() ? "" : "; ") + value + " is ";
     for (const std::string& word : words)

@@ -137,7 +137,7 @@ void Report::flush()
         write(line);
 }
 
-/// The lock belongs to what was opened before the fork, so the file is opened once more.
+/// A forked process shares the descriptor, and with it the lock: so it opens the file once more for itself.
 void Report::leave()
 {
     const FileDescriptor locked = std::move(m_file);

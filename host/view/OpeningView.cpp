@@ -48,7 +48,7 @@ ViewEntry entryOf(const PreferenceRow& preference)
     throw std::invalid_argument("a viewer preference that is no entry of the view");
 }
 
-/// One that the dialog has, or that means the same when it is missing.
+/// Of a preference that reads as a value where it is missing, too.
 std::string preferenceInWords(const PreferenceRow& preference, int value)
 {
     return preference.valueLabels.empty() ? yesOrNo(value == 1)
