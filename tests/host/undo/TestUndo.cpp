@@ -256,7 +256,7 @@ private slots:
         row("nothing about undoing", "\"undo\":", "\"x\":", "does not tell what stood there before");
         row("no line of a report", "{\"", "[\"", "it is no report of a run");
         row("a line that is too long",
-            "\"file\":", "\"x\":\"" + QByteArray(2 << 20, ' ') + "\",\"file\":", "line 1 is too long");
+            "\"file\":", "\"x\":\"" + QByteArray(2 << 20, ' ') + "\",\"file\":", "line 2 is too long");
     }
 
     void mistrustsReports()
