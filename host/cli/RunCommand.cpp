@@ -115,6 +115,7 @@ void RunCommand::takeOptions(OptionParser& parser)
     parser.takeValue("base", setOnce(m_base, "--base"));
     parser.takeValue("suffix", setOnce(m_suffix, "--suffix"));
     parser.takeFlag("in-place", m_options.inPlace);
+    parser.takeFlag("replace", m_options.replace);
     parser.takeValue("report", setOnce(m_reportFile, "--report"));
     parser.takeValue("resume", setOnce(m_resumedReport, "--resume"));
     parser.takeValue(
@@ -130,6 +131,8 @@ void RunCommand::check() const
     m_changeOptions.check();
     if (m_options.rewrite && m_options.inPlace)
         throw UsageError("--rewrite goes with -o: in place, the document's own bytes would be gone");
+    if (m_options.replace && !m_options.inPlace)
+        throw UsageError("--replace goes with --in-place: other results are always files of their own");
     if (m_base && (m_base->empty() || !m_output))
         throw UsageError(m_base->empty() ? "the name of the base folder is empty" : "--base goes with -o");
     m_documentOptions.check(m_words);

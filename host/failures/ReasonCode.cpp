@@ -46,6 +46,7 @@ constexpr std::array<Name, reasonCodeCount> names{{
     {ReadOnly, "readOnly"},
     {TooLarge, "tooLarge"},
     {ChangedMeanwhile, "changedMeanwhile"},
+    {Locked, "locked"},
     {Timeout, "timeout"},
     {Memory, "memory"},
     {Crashed, "crashed"},
@@ -116,6 +117,7 @@ constexpr std::array libraryErrors{
     meaning(ErrorCode::ByteRangesPresent, CannotRewrite),
     meaning(ErrorCode::RewritingLoses, CannotRewrite),
     meaning(ErrorCode::StreamLengthsWrong, ReasonCode::CannotAppend),
+    meaning(ErrorCode::NotInPlace, ReasonCode::CannotAppend),
 };
 static_assert(libraryErrors.size() + 1 == engine::errorTexts.size(), "each has a meaning, but no error");
 

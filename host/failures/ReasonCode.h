@@ -33,6 +33,7 @@ enum class ReasonCode : std::uint8_t {
     ReadOnly,
     TooLarge,
     ChangedMeanwhile,
+    Locked,
     Timeout,
     Memory,
     Crashed,

@@ -63,6 +63,9 @@ const std::vector<Option> optionRows{
     {"in-place", 0, "", "changes the documents in their own places",
      "one that needs no change is not touched",
      Nothing, {}, {Run}, Group::Target, common},
+    {"replace", 0, "", "with --in-place, puts a changed copy into each document's place",
+     "without it a change is appended where the document lies, if that is safe there",
+     Nothing, {}, {Run}, Group::Target, rare},
     {"output", 'o', "FILE", "writes an action list, a favourite, tool settings or a view",
      "the suffix says which: .xqq, .ini, .tsf, .json; where it is the file that the settings come from, the "
      "rest of it stays",

@@ -22,6 +22,8 @@ const char* nameOf(Saved saved)
     switch (saved) {
     case Saved::Appended:
         return "appended";
+    case Saved::AppendedInPlace:
+        return "appended in place";
     case Saved::Rewritten:
         return "rewritten";
     case Saved::Copied:
@@ -51,6 +53,7 @@ std::string DocumentResult::toRecord() const
         .add(static_cast<std::int64_t>(certified))
         .add(stateBefore)
         .add(checksumBefore)
+        .add(checksumUnfinished)
         .add(viewBefore)
         .add(viewAfter)
         .add(changes)
@@ -73,6 +76,7 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     result.certified = reader.number() != 0;
     result.stateBefore = reader.text();
     result.checksumBefore = reader.text();
+    result.checksumUnfinished = reader.text();
     result.viewBefore = reader.text();
     result.viewAfter = reader.text();
     result.changes = reader.text();

@@ -12,7 +12,13 @@ namespace host {
 enum class Status { Changed, Unchanged, Failed };
 
 /// How its output came about.
-enum class Saved { Not, Appended, Rewritten, Copied };
+enum class Saved {
+    Not,
+    Appended, ///< To a copy.
+    AppendedInPlace,
+    Rewritten,
+    Copied
+};
 
 /// The words of the report.
 const char* nameOf(Status status);
@@ -46,6 +52,9 @@ struct DocumentResult
     /// checksum (Checksum.h) of all that stood before the update. By these the update can be taken back.
     std::string stateBefore = {};
     std::string checksumBefore = {};
+    /// While an update is being appended where the document lies: the checksum of what of it stands behind the
+    /// document before its last lines do.
+    std::string checksumUnfinished = {};
     /// What changed in how the document opens: JSON objects with the entries that differ (ViewSnapshot.h), and
     /// in words. Empty when nothing did, or it was not asked for.
     std::string viewBefore = {};

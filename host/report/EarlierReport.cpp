@@ -2,8 +2,8 @@
 
 #include "Report.h"
 #include "host/files/FileDescriptor.h"
+#include "host/files/FileState.h"
 #include "host/files/LineReader.h"
-#include "host/plan/FileState.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/UsageError.h"
 

@@ -152,7 +152,7 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
         m_setup.control);
 }
 
-/// In place, where what was there before is gone with the rename.
+/// In place, where what was there before is gone then, or half a change may be left.
 void BatchRun::announce(std::size_t job, const DocumentResult& expected)
 {
     const RunPlan::Document& planned = m_plan.documents()[m_documentOfJob[job]];
@@ -170,18 +170,12 @@ void BatchRun::jobEnded(std::size_t job, const WorkOutcome& outcome)
                       {ReasonCode::Crashed, "the worker process gave no proper answer"})));
 }
 
-/// The worker may have put the new file in place before it ended.
+/// The worker may have put the change in place before it ended.
 void BatchRun::jobLost(std::size_t job, const WorkOutcome& outcome)
 {
-    if (const auto placement = Placement::fromRecord(outcome.note);
-        placement && placement->isAt(m_jobs[job].target)) {
-        DocumentResult result = placement->result();
-        result.note +=
-            (result.note.empty() ? "" : "; ") + ("it is in place, but then: " + outcome.failure.text);
-        if (m_options.flush && !SafeOutput::flushPlaced(m_jobs[job].target))
-            result.note += "; it may not survive a power failure";
-        return documentEnded(m_documentOfJob[job], result);
-    }
+    if (const auto placement = Placement::fromRecord(outcome.note))
+        if (const auto result = placement->settle(m_jobs[job].target, outcome.failure, m_options.flush))
+            return documentEnded(m_documentOfJob[job], *result);
     SafeOutput::removeTemporary(m_jobs[job].temporary);
     if (outcome.kind == WorkOutcome::Lost)
         documentEnded(m_documentOfJob[job], DocumentResult::failed(outcome.failure));

@@ -3,10 +3,13 @@
 #include "host/document/ViewChanger.h"
 #include "host/files/Checksum.h"
 #include "host/files/FileDescriptor.h"
-#include "host/plan/FileState.h"
+#include "host/files/FileState.h"
 #include "host/program/InstallLayout.h"
+#include "host/saving/DocumentLock.h"
 #include "host/saving/FileAttributes.h"
 #include "host/saving/FileCopy.h"
+#include "host/saving/InPlaceAppend.h"
+#include "host/saving/InPlaceFile.h"
 #include "host/saving/SafeOutput.h"
 #include "host/settings/SettingsNotes.h"
 
@@ -91,7 +94,7 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     return result;
 }
 
-/// \param output the file that is, or is about to be, in the target's place.
+/// \param output the file that is in the target's place, or is about to be renamed over it.
 void DocumentProcessor::tellStates(DocumentResult& result, const struct stat& output) const
 {
     if (!m_options.tellStates || m_options.dryRun)
@@ -103,7 +106,8 @@ void DocumentProcessor::tellStates(DocumentResult& result, const struct stat& ou
 /// What it takes to take an update back. \returns why that cannot be told.
 Failure DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int source) const
 {
-    if (!m_options.tellStates || !m_options.inPlace || result.saved != Saved::Appended)
+    const bool isAppended = result.saved == Saved::Appended || result.saved == Saved::AppendedInPlace;
+    if (!m_options.tellStates || !m_options.inPlace || !isAppended)
         return {};
     result.stateBefore = stateOf(m_original);
     result.checksumBefore = checksumOf(source, m_original.st_size);
@@ -200,11 +204,54 @@ DocumentResult DocumentProcessor::tryOut()
 
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
 {
+    if (m_options.inPlace && !m_options.replace)
+        if (std::optional<DocumentResult> result = appendInPlace(job))
+            return *std::move(result);
     SafeOutput output(job.target, job.temporary);
     if (Failure problem = SafeOutput::makeFolder(SafeOutput::folderOf(job.target)); problem)
         return DocumentResult::failed(problem);
     const DocumentResult result = write(job);
     return result.status == Status::Failed ? result : commit(output, job, result);
+}
+
+/// \returns nothing where a new file has to take the document's place.
+std::optional<DocumentResult> DocumentProcessor::appendInPlace(const DocumentJob& job)
+{
+    const InPlaceFile file(job.target);
+    if (!file.isSuited())
+        return std::nullopt;
+    const std::string update = m_library.AppendToString(engine::ForInPlace);
+    const int code = m_library.LastErrorCode();
+    if (isCode(code, engine::ErrorCode::NotInPlace))
+        return std::nullopt;
+    if (code != 0)
+        return notAppended(code);
+    const DocumentLock lock = lockDocument(file.get());
+    if (lock == DocumentLock::Held)
+        return DocumentResult::failed(documentLocked);
+    if (lock == DocumentLock::Unavailable)
+        return std::nullopt;
+    return append(file, update);
+}
+
+DocumentResult DocumentProcessor::append(const InPlaceFile& file, const std::string& update)
+{
+    DocumentResult result = changed(Saved::AppendedInPlace);
+    if (const Failure problem = tellWhatStoodBefore(result, file.get()); problem)
+        return DocumentResult::failed(problem);
+    result.milliseconds = millisecondsTaken();
+    result.note = notesWith({});
+    result.checksumUnfinished = checksumOf(InPlaceAppend::withoutLastLines(update));
+    (*m_beforePlacement)({result, m_original, update});
+    const InPlaceAppend::Outcome outcome = InPlaceAppend(file, m_original, update).perform();
+    if (!outcome.isAppended())
+        return DocumentResult::failed(outcome.whole());
+    result.checksumUnfinished.clear();
+    result.note = notesWith(outcome.note);
+    struct stat now;
+    if (fstat(file.get(), &now) == 0)
+        tellStates(result, now);
+    return result;
 }
 
 DocumentResult DocumentProcessor::write(const DocumentJob& job)
@@ -241,10 +288,11 @@ DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& 
     const FileDescriptor source = openRegularFile(job.source);
     if (!source.isOpen())
         return sourceChanged();
+    if (m_options.inPlace && lockDocument(source.get()) == DocumentLock::Held)
+        return DocumentResult::failed(documentLocked);
     if (const Failure problem = tellWhatStoodBefore(result, source.get()); problem)
         return DocumentResult::failed(problem);
-    struct stat now;
-    if (fstat(source.get(), &now) != 0 || !isSameState(now, m_original))
+    if (!isAsRead(source.get(), job.source, m_original))
         return sourceChanged();
     const auto beforeRename = [&](const struct stat& finished, const std::string& note) {
         result.milliseconds = millisecondsTaken();

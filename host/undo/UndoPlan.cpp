@@ -1,8 +1,8 @@
 #include "UndoPlan.h"
 
+#include "host/files/FileState.h"
 #include "host/files/LineReader.h"
 #include "host/files/Links.h"
-#include "host/plan/FileState.h"
 #include "host/report/Report.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/StandardError.h"
@@ -36,7 +36,9 @@ bool isUpdate(const AppendedUpdate& update)
 {
     const auto before = FileState::fromText(update.before);
     const auto after = FileState::fromText(update.after);
-    return before && after && before->size > 0 && after->size > before->size && isChecksum(update.checksum);
+    const bool isKnown = update.after.empty() ? update.begun && isChecksum(update.unfinished)
+                                              : after && before && after->size > before->size;
+    return before && before->size > 0 && isKnown && isChecksum(update.checksum);
 }
 
 bool isFileName(const std::string& name)
@@ -108,7 +110,7 @@ void UndoPlan::takeResult(const QJsonObject& object, std::size_t number)
     const std::string saved = textIn(object, "saved");
     const QJsonObject undo = object.value("undo").toObject();
     const AppendedUpdate update{textIn(undo, "fileState"), textIn(object, "outputState"),
-                                textIn(undo, "sha256"), status == "begun"};
+                                textIn(undo, "sha256"), status == "begun", textIn(undo, "unfinished")};
     if ((status != "changed" && status != "begun" && saved != "copied") || saved.empty())
         return;
     if (!object.contains("undo") && update.after != textIn(object, "fileState")) {
@@ -136,10 +138,12 @@ void UndoPlan::takeUpdate(const std::string& path, AppendedUpdate update)
         m_newestLine.push_back(0);
     }
     std::vector<AppendedUpdate>& updates = m_documents[place->second].updates;
-    const bool settled = !updates.empty() && updates.back().begun && updates.back().before == update.before &&
-                         updates.back().after == update.after;
-    if (settled)
-        updates.back().begun = update.begun;
+    const auto settles = [&update](const AppendedUpdate& other) {
+        return other.begun && other.before == update.before &&
+               (other.after == update.after || other.after.empty());
+    };
+    if (!updates.empty() && settles(updates.back()))
+        updates.back() = std::move(update);
     else
         updates.push_back(std::move(update));
 }

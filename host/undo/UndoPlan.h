@@ -16,13 +16,16 @@ namespace host {
 /// One update that a run has appended to a document in place.
 struct AppendedUpdate
 {
-    /// The document's states, see FileState.h; it became larger.
+    /// The document's states, see FileState.h; it became larger. The one after an update that was begun where
+    /// the document lies is not known.
     std::string before;
     std::string after;
     /// Of all that stood before the update, see Checksum.h.
     std::string checksum;
     /// The run noted that it was about to do it, and not what became of it.
     bool begun = false;
+    /// Of an update whose state after is not known, all but its last lines, see Checksum.h.
+    std::string unfinished = {};
 };
 
 /// What the report of a run, or of several that continued each other, tells of changes in place. A report may
