@@ -88,4 +88,7 @@ inline constexpr std::array pageBoxNames{"", "/MediaBox", "/CropBox", "/BleedBox
 /// Dimension of GetPageBox, in points of default user space.
 enum BoxDimension { BoxLeft = 0, BoxTop = 1, BoxWidth = 2, BoxHeight = 3, BoxRight = 4, BoxBottom = 5 };
 
+/// Flags of GetOutlineStyle; with OpenOutline, what is below a bookmark is shown at first.
+enum OutlineStyle { ItalicOutline = 1, BoldOutline = 2, OpenOutline = 4 };
+
 } // namespace pdflibrary

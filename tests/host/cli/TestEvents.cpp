@@ -164,7 +164,7 @@ private slots:
         }
         QCOMPARE(found.size(), codes.size());
         for (const QJsonObject& line : ProgramRun::jsonLines(bytesOf("report")))
-            if (line.contains("file"))
+            if (line.contains("file") && line.value("status") != "begun")
                 QCOMPARE(line.value("reasonCode").toString(), codes.at(line.value("file").toString()));
     }
 

@@ -238,7 +238,7 @@ private slots:
     void mistrustsReports_data()
     {
         const Rows<QByteArray, QByteArray, QByteArray> row; // what is replaced in a report, and the reason
-        const QByteArray impossible = "line 2 of the report says what no run can have done";
+        const QByteArray impossible = "line 3 of the report says what no run can have done";
         row("a relative path", "\"output\":\"/", "\"output\":\"../", impossible);
         row("a path that ends early",
             "\"output\":", "\"outputBytes\":\"/etc/passwd%00.pdf\",\"output\":", impossible);
