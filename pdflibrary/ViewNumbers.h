@@ -117,4 +117,7 @@ inline constexpr std::array informationNames{
 inline constexpr int AllCharacterSets = 2;
 inline constexpr int FontFamilyNames = 1;
 
+/// Flags of GetOutlineStyle; with OpenOutline, what is below a bookmark is shown at first.
+enum OutlineStyle { ItalicOutline = 1, BoldOutline = 2, OpenOutline = 4 };
+
 } // namespace pdflibrary

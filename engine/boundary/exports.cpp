@@ -66,6 +66,17 @@ constexpr void addView(OperationSlots& slots)
     slots.GetDestName = operations::GetDestName;
 }
 
+constexpr void addOutline(OperationSlots& slots)
+{
+    slots.OutlineCount = operations::OutlineCount;
+    slots.GetFirstOutline = operations::GetFirstOutline;
+    slots.GetFirstChildOutline = operations::GetFirstChildOutline;
+    slots.GetNextOutline = operations::GetNextOutline;
+    slots.OutlineTitle = operations::OutlineTitle;
+    slots.GetOutlinePage = operations::GetOutlinePage;
+    slots.GetOutlineStyle = operations::GetOutlineStyle;
+}
+
 constexpr void addPages(OperationSlots& slots)
 {
     slots.PageCount = operations::PageCount;
@@ -84,6 +95,7 @@ constexpr OperationSlots implemented()
     addDocuments(slots);
     addInformation(slots);
     addView(slots);
+    addOutline(slots);
     addPages(slots);
     slots.GetInstalledFontsByCharset = operations::GetInstalledFontsByCharset;
     return slots;

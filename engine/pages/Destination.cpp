@@ -102,13 +102,17 @@ bool sameOperand(QPDFObjectHandle one, QPDFObjectHandle other)
 
 } // namespace
 
-std::optional<OpenActionTarget> openActionTarget(Document& document)
+std::optional<ActionTarget> openActionTarget(Document& document)
 {
-    QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
+    return destinationTarget(document, document.key(document.catalog(), "/OpenAction"));
+}
+
+std::optional<ActionTarget> destinationTarget(Document& document, QPDFObjectHandle action)
+{
     if (action.isDictionary())
         action = document.key(action, "/S").isNameAndEquals("/GoTo") ? document.key(action, "/D")
                                                                      : QPDFObjectHandle::newNull();
-    OpenActionTarget target{action, {}};
+    ActionTarget target{action, {}};
     if (action.isName() || action.isString()) {
         target.array = arrayOf(document, findNamedDestination(document, action));
         target.name = action.isName() ? action.getName().substr(1) : action.getUTF8Value();
@@ -118,7 +122,7 @@ std::optional<OpenActionTarget> openActionTarget(Document& document)
     return target;
 }
 
-std::optional<Destination> readDestination(Document& document, OpenActionTarget target, PageTree& pages)
+std::optional<Destination> readDestination(Document& document, ActionTarget target, PageTree& pages)
 {
     Destination destination;
     destination.name = std::move(target.name);

@@ -27,19 +27,21 @@ struct Destination
     bool operator==(const Destination&) const = default;
 };
 
-/// Where the document's open action leads to, as the document has it.
-struct OpenActionTarget
+/// Where an action leads to, as the document has it.
+struct ActionTarget
 {
     QPDFObjectHandle array; ///< The explicit destination.
     std::string name;       ///< As in Destination.
 };
 
-/// Nothing when there is no open action, when it does not go to a destination, or when its name is not
-/// defined.
-std::optional<OpenActionTarget> openActionTarget(Document& document);
+/// \param action a destination, or an action that goes to one. Nothing for anything else, and when its name is
+/// not defined.
+std::optional<ActionTarget> destinationTarget(Document& document, QPDFObjectHandle action);
+/// The same of the document's open action.
+std::optional<ActionTarget> openActionTarget(Document& document);
 
 /// Nothing when the target's page is no page of the document.
-std::optional<Destination> readDestination(Document& document, OpenActionTarget target, PageTree& pages);
+std::optional<Destination> readDestination(Document& document, ActionTarget target, PageTree& pages);
 
 /// What follows the page in an explicit destination: its type and all operands.
 /// \param type a pdflibrary::DestinationType.

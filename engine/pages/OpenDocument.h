@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Outline.h"
 #include "PageTree.h"
 #include "engine/document/Document.h"
 
@@ -15,7 +16,7 @@ struct OpenDocument
     /// \throws EngineError when the file is no document, is damaged beyond repair, or stays closed to the
     ///     password.
     OpenDocument(std::shared_ptr<ByteSource> source, std::string fileName, std::string_view password)
-        : document(std::move(source), std::move(fileName), password), pages(document)
+        : document(std::move(source), std::move(fileName), password), pages(document), outline(document)
     {}
 
     /// Opens the document whole, by libqpdf, when reading it piece by piece came to its end. The selected
@@ -32,6 +33,7 @@ struct OpenDocument
     Document document;
     /// The pages of `document`.
     PageTree pages;
+    Outline outline;
     /// From 1. The document may have fewer pages: that shows when the page is used.
     int selectedPage = 1;
 

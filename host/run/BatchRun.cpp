@@ -250,7 +250,9 @@ void BatchRun::sumUp() const
     else if (m_setup.tells == Tells::Counts)
         printError(summary.counts(m_options.dryRun));
     if (m_setup.report != nullptr) {
-        m_setup.report->flush();
+        QJsonObject counts = summary.toJson();
+        counts.insert("stopped", m_setup.control.isStopped());
+        m_setup.report->end(counts);
         if (!m_setup.report->problem().empty())
             complain(m_setup.report->problem());
     }

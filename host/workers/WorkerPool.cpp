@@ -270,7 +270,7 @@ void WorkerPool::serve(Process& process, int wakeUps, pid_t parent)
                 worker = m_makeWorker();
             const Worker::Answer answer = worker->answer(m_round[place], slot);
             if (answer.text.size() > WorkerSlot::largestAnswer)
-                throw std::length_error("what there is to tell of it is longer than 128 KiB");
+                throw std::length_error("what there is to tell of it is longer than 512 KiB");
             tell(WorkerSlot::Answered, answer.text);
             last = answer.last;
         }

@@ -289,7 +289,7 @@ private slots:
     void mistrustsReports_data()
     {
         const Rows<QByteArray, QByteArray, QByteArray> row; // what is replaced in a report, and the reason
-        const QByteArray impossible = "line 2 of the report says what no run can have done";
+        const QByteArray impossible = "line 3 of the report says what no run can have done";
         row("a relative path", "\"output\":\"/", "\"output\":\"../", impossible);
         row("a path that ends early",
             "\"output\":", "\"outputBytes\":\"/etc/passwd%00.pdf\",\"output\":", impossible);
@@ -307,7 +307,7 @@ private slots:
         row("nothing about undoing", "\"undo\":", "\"x\":", "does not tell what stood there before");
         row("no line of a report", "{\"", "[\"", "it is no report of a run");
         row("a line that is too long",
-            "\"file\":", "\"x\":\"" + QByteArray(2 << 20, ' ') + "\",\"file\":", "line 1 is too long");
+            "\"file\":", "\"x\":\"" + QByteArray(2 << 20, ' ') + "\",\"file\":", "line 2 is too long");
     }
 
     void mistrustsReports()
