@@ -16,7 +16,7 @@ namespace host {
 
 namespace {
 
-/// How a document opens, for others to open so.
+/// The change that makes other documents open as this one does.
 ViewChange viewOf(const std::string& file, const std::string& password)
 {
     LoadedDocument document(file, password);

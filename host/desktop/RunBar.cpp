@@ -133,15 +133,8 @@ QString RunBar::countsInWords() const
         const QString problem = m_workbench.destination().problem();
         return !problem.isEmpty() ? problem : tr("Finding out what would change… %1").arg(done);
     }
-    case State::Ready: {
-        QString text =
-            counts.willChange == 0 ? tr("Nothing would change") : tr("%n will change", "", counts.willChange);
-        if (counts.asAsked > 0)
-            text += "  ·  " + tr("%n open so already", "", counts.asAsked);
-        if (counts.cannot > 0)
-            text += "  ·  " + tr("%n cannot be changed", "", counts.cannot);
-        return text;
-    }
+    case State::Ready:
+        return plannedInWords(counts);
     case State::Running:
         return tr("Changing… %1").arg(done) + timeLeft();
     case State::Paused:
@@ -150,20 +143,35 @@ QString RunBar::countsInWords() const
         return tr("Stopping… documents that are being worked on are finished");
     case State::Undoing:
         return tr("Undoing…");
-    case State::Results: {
-        QString text = tr("%n changed", "", counts.changed);
-        if (counts.unchanged > 0)
-            text += "  ·  " + tr("%n as they were", "", counts.unchanged);
-        if (counts.failed > 0)
-            text += "  ·  " + tr("%n failed", "", counts.failed);
-        if (counts.notDone > 0)
-            text += "  ·  " + tr("%n not done", "", counts.notDone);
-        return text;
-    }
+    case State::Results:
+        return doneInWords(counts);
     case State::Listed:
         break;
     }
     return tr("Say on the right what is to change.");
+}
+
+QString RunBar::plannedInWords(const Workbench::Counts& counts)
+{
+    QString text =
+        counts.willChange == 0 ? tr("Nothing would change") : tr("%n will change", "", counts.willChange);
+    if (counts.asAsked > 0)
+        text += "  ·  " + tr("%n open so already", "", counts.asAsked);
+    if (counts.cannot > 0)
+        text += "  ·  " + tr("%n cannot be changed", "", counts.cannot);
+    return text;
+}
+
+QString RunBar::doneInWords(const Workbench::Counts& counts)
+{
+    QString text = tr("%n changed", "", counts.changed);
+    if (counts.unchanged > 0)
+        text += "  ·  " + tr("%n as they were", "", counts.unchanged);
+    if (counts.failed > 0)
+        text += "  ·  " + tr("%n failed", "", counts.failed);
+    if (counts.notDone > 0)
+        text += "  ·  " + tr("%n not done", "", counts.notDone);
+    return text;
 }
 
 QString RunBar::timeLeft() const

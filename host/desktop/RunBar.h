@@ -35,6 +35,8 @@ private:
     void show();
     void showProgress();
     QString countsInWords() const;
+    static QString plannedInWords(const Workbench::Counts& counts);
+    static QString doneInWords(const Workbench::Counts& counts);
     QString timeLeft() const;
     void announce(const QString& text);
 

@@ -92,6 +92,7 @@ private slots:
         order.destination = {Destination::Kind::Folder, "/out", {}};
         QCOMPARE(order.arguments("/d"),
                  QStringList({"--page-mode", "use-outlines", "--output", "/out", "--base", "/d"}));
+        QCOMPARE(order.resultOf("/d/e/b.pdf", "/d/"), QByteArray("/out/e/b.pdf"));
         DocumentTable table;
         table.append({"/d/it's.pdf", "/d/e/b.pdf"});
         QCOMPARE(

@@ -44,6 +44,21 @@ QString RunOrder::commonFolder(const DocumentTable& table, const DocumentTable::
     return QFile::decodeName(common.isEmpty() ? QByteArray("/") : common);
 }
 
+QByteArray RunOrder::resultOf(const QByteArray& path, const QString& base) const
+{
+    switch (destination.kind) {
+    case Destination::Kind::InPlace:
+        return path;
+    case Destination::Kind::Folder:
+        return QFile::encodeName(destination.folder) + "/" + path.mid(QFile::encodeName(base).size());
+    case Destination::Kind::Suffix: {
+        const auto dot = path.lastIndexOf('.');
+        return path.left(dot) + "-" + QFile::encodeName(destination.suffix) + path.mid(dot);
+    }
+    }
+    return path;
+}
+
 /// Many documents are told by their folder: they need not be all that lie there, but a person sees how it is done.
 QString RunOrder::commandLine(const DocumentTable& table, const DocumentTable::Ids& ids) const
 {

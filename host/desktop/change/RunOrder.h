@@ -16,6 +16,8 @@ struct RunOrder
     QStringList arguments(const QString& base) const;
     /// The deepest folder in which all of the documents lie.
     static QString commonFolder(const DocumentTable& table, const DocumentTable::Ids& ids);
+    /// Where the result of a document goes. \param base as for arguments().
+    QByteArray resultOf(const QByteArray& path, const QString& base) const;
     /// The command that does the same, for a shell.
     QString commandLine(const DocumentTable& table, const DocumentTable::Ids& ids) const;
 

@@ -47,14 +47,19 @@ struct EndEvent
     bool wasStopped = false;
 };
 
-/// A line that is no event, or of one that is not known.
+/// One that a later program tells; to be passed over.
+struct OtherEvent
+{};
+
+/// A line that is no event.
 struct BadLine
 {
     QString reason;
 };
 
 using Event =
-    std::variant<StartEvent, FoundEvent, DocumentEvent, ResultEvent, ProgressEvent, EndEvent, BadLine>;
+    std::variant<StartEvent, FoundEvent, DocumentEvent, ResultEvent, ProgressEvent, EndEvent, OtherEvent,
+                           BadLine>;
 using Events = QVector<Event>;
 
 } // namespace host::desktop

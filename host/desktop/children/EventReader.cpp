@@ -62,6 +62,8 @@ Event read(const QByteArray& line)
     for (const Row& row : rows)
         if (name == row.name)
             return row.read(object);
+    if (!name.isEmpty())
+        return OtherEvent();
     return BadLine{
         QCoreApplication::translate("EventReader", "the program said something that is not understood")};
 }

@@ -1,7 +1,7 @@
 #include "StartQuestion.h"
 
 #include <QDialogButtonBox>
-#include <QFileInfo>
+#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -13,12 +13,14 @@ namespace {
 /// How many of the results are there already.
 int replaced(Workbench& workbench)
 {
+    const QString base = RunOrder::commonFolder(workbench.table(), workbench.targets());
     int count = 0;
     for (const DocumentId id : workbench.targets()) {
         const DocumentRecord* record = workbench.table().find(id);
-        if (record != nullptr && record->check && !record->check->output.isEmpty() &&
-            record->check->output != record->path)
-            count += QFileInfo::exists(QFile::decodeName(record->check->output)) ? 1 : 0;
+        if (record == nullptr || !record->check || record->check->isTrouble())
+            continue;
+        const QByteArray result = workbench.runOrder().resultOf(record->path, base);
+        count += result != record->path && QFile::exists(QFile::decodeName(result)) ? 1 : 0;
     }
     return count;
 }

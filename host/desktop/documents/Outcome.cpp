@@ -1,7 +1,5 @@
 #include "Outcome.h"
 
-#include "host/terminal/JsonLine.h"
-
 namespace host::desktop {
 
 namespace {
@@ -35,7 +33,6 @@ Outcome Outcome::fromJson(const QJsonObject& object, bool isCheck)
     outcome.reasonCode = object.value("reasonCode").toString();
     outcome.reason = object.value("reason").toString();
     outcome.note = object.value("note").toString();
-    outcome.output = QByteArray::fromStdString(nameIn(object, "output"));
     outcome.before = ViewReading::fromJson(object.value("before").toObject());
     outcome.after = ViewReading::fromJson(object.value("after").toObject());
     return outcome;

@@ -26,8 +26,6 @@ struct Outcome
     QString reasonCode;
     QString reason;
     QString note;
-    /// The result's path; empty where nothing was or would be written.
-    QByteArray output;
     /// Only the entries that differ.
     ViewReading before;
     ViewReading after;

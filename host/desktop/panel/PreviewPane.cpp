@@ -42,7 +42,7 @@ QString followersOf(const PreviewScene& scene)
 
 } // namespace
 
-PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent) : QWidget(parent), m_workbench(workbench)
+PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent) : QWidget(parent), m_workbench(workbench), m_outline(workbench.program())
 {
     setAccessibleName(tr("Preview"));
     setMinimumHeight(170);
@@ -52,6 +52,7 @@ PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent) : QWidget(parent
     connect(&workbench.order(), &DocumentOrder::selectionMoved, this, &PreviewPane::show);
     connect(&workbench.table(), &DocumentTable::changed, this, &PreviewPane::show);
     connect(&workbench.order(), &DocumentOrder::shownChanged, this, &PreviewPane::show);
+    connect(&m_outline, &Outline::came, this, &PreviewPane::show);
     show();
 }
 
@@ -66,8 +67,11 @@ void PreviewPane::show()
             update();
         return;
     }
-    const PreviewScene before = PreviewScene::before(*record, {});
-    const PreviewScene after = PreviewScene::after(*record, {});
+    QVector<PreviewScene::Bookmark> bookmarks;
+    if (record->facts->bookmarks != 0 && isVisible())
+        bookmarks = m_outline.of(record->path, m_workbench.passwordOf(*record));
+    const PreviewScene before = PreviewScene::before(*record, bookmarks);
+    const PreviewScene after = PreviewScene::after(*record, bookmarks);
     if (wasKnown && before == m_before && after == m_after)
         return;
     m_before = before;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/desktop/preview/Outline.h"
 #include "host/desktop/preview/SceneDrawing.h"
 #include "host/desktop/workbench/Workbench.h"
 
@@ -25,6 +26,7 @@ private:
     void paintScene(QPainter& painter, const QRectF& area, const QString& title, const PreviewScene& scene);
 
     Workbench& m_workbench;
+    Outline m_outline;
     bool m_isKnown = false;
     PreviewScene m_before;
     PreviewScene m_after;

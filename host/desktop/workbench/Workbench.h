@@ -86,6 +86,9 @@ public:
     /// Tries the password on all documents that want one; kept in memory only.
     void givePassword(const QByteArray& password);
 
+    const QString& program() const { return m_program; }
+    /// What opens the document; empty for none.
+    QByteArray passwordOf(const DocumentRecord& record) const { return m_passwords.at(record.password); }
     /// The work under way; null when there is none.
     const DocumentTask* task() const { return m_task; }
     /// The order of the run whose results are shown.
