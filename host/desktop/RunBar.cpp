@@ -33,7 +33,6 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
     m_progress->setAccessibleName(tr("Progress"));
     m_progress->setTextVisible(false);
     m_progress->setFixedWidth(180);
-    m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 6, 12, 6);
     row->setSpacing(8);
@@ -89,6 +88,7 @@ void RunBar::show()
     const bool areResults = state == State::Results;
     m_text->setText(m_said.isEmpty() ? countsInWords() : m_said);
     m_text->setToolTip(m_text->text());
+    m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
     m_sign->setVisible(!m_said.isEmpty() && m_isTrouble);
     m_why->setVisible(areResults ? counts.failed > 0 : state == State::Ready && counts.cannot > 0);
     m_why->setText(areResults ? tr("Sho&w %n Failed", "", counts.failed) : tr("Show &Why"));

@@ -31,7 +31,9 @@ QRect drawPart(QPainter& painter, const QRect& area, const QString& text, const 
     const QFontMetrics metrics(font);
     const QString fitting = metrics.elidedText(text, Qt::ElideRight, area.width());
     painter.drawText(area, alignment | Qt::TextSingleLine, fitting);
-    return area.adjusted(metrics.horizontalAdvance(fitting), 0, 0, 0);
+    const int width = metrics.horizontalAdvance(fitting);
+    return painter.layoutDirection() == Qt::RightToLeft ? area.adjusted(0, 0, -width, 0)
+                                                        : area.adjusted(width, 0, 0, 0);
 }
 
 /// What it becomes has the room first: that is what a person looks for.
@@ -68,6 +70,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given, c
     const QStyle* style = option.widget != nullptr ? option.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
     painter->save();
+    painter->setLayoutDirection(option.direction);
     QRect area = option.rect.adjusted(margin, 0, -margin, 0);
     const bool isName = index.column() == static_cast<int>(Column::Name);
     if (isName) {

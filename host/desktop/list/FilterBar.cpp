@@ -2,6 +2,8 @@
 
 #include "host/desktop/look/Drawings.h"
 
+#include <QAction>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLocale>
 
@@ -26,7 +28,8 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     m_search->setPlaceholderText(tr("Search name, folder, title"));
     m_search->setClearButtonEnabled(true);
     m_search->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
-    m_search->addAction(drawings::icon(drawings::Sign::Search, palette()), QLineEdit::LeadingPosition);
+    m_sign =
+        m_search->addAction(drawings::icon(drawings::Sign::Search, palette()), QLineEdit::LeadingPosition);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
@@ -53,6 +56,13 @@ void FilterBar::clear()
 {
     m_search->clear();
     m_kind->setCurrentIndex(0);
+}
+
+void FilterBar::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && m_sign != nullptr)
+        m_sign->setIcon(drawings::icon(drawings::Sign::Search, palette()));
+    QWidget::changeEvent(event);
 }
 
 void FilterBar::apply()

@@ -21,6 +21,9 @@ public:
     void clear();
     QLineEdit* search() { return m_search; }
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void apply();
     void tell();
@@ -29,6 +32,7 @@ private:
     QComboBox* m_kind;
     QLineEdit* m_search;
     QLabel* m_count;
+    QAction* m_sign = nullptr;
     QTimer m_soon;
 };
 

@@ -46,6 +46,11 @@ QWidget* warningLine(const ChangeWarning& warning, QWidget* parent, const std::f
     return line;
 }
 
+Qt::ArrowType foldedArrow(const QWidget* widget)
+{
+    return widget->layoutDirection() == Qt::RightToLeft ? Qt::LeftArrow : Qt::RightArrow;
+}
+
 } // namespace
 
 ChangePanel::ChangePanel(Workbench& workbench, QWidget* parent)
@@ -147,7 +152,7 @@ void ChangePanel::addGroup(QVBoxLayout* column, const QString& title, const std:
         fold->setCheckable(true);
         fold->setAutoRaise(true);
         fold->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        fold->setArrowType(Qt::RightArrow);
+        fold->setArrowType(foldedArrow(fold));
         column->addWidget(fold);
     }
     auto* body = new QWidget;
@@ -171,7 +176,7 @@ void ChangePanel::addGroup(QVBoxLayout* column, const QString& title, const std:
     body->setVisible(isOpen);
     if (fold != nullptr)
         connect(fold, &QToolButton::toggled, body, [fold, body](bool open) {
-            fold->setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
+            fold->setArrowType(open ? Qt::DownArrow : foldedArrow(fold));
             body->setVisible(open);
         });
 }
