@@ -8,9 +8,11 @@
 
 #include <qpdf/QUtil.hh>
 
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <cmath>
+#include <iterator>
 #include <string_view>
 
 namespace engine {
@@ -28,26 +30,32 @@ struct DestinationForm
 };
 
 // clang-format off
+// At the number of the form, less one.
 const DestinationForm forms[] = {
     {"/XYZ",   1, {&Destination::left, &Destination::top, &Destination::zoom}},
     {"/Fit",   2, {}},
     {"/FitH",  3, {&Destination::top}},
     {"/FitV",  4, {&Destination::left}},
     {"/FitBH", 5, {&Destination::top}},
-    // What follows is read, never written.
     {"/FitB",  5, {}},
     {"/FitBV", 5, {&Destination::left}},
     {"/FitR",  1, {&Destination::left, &Destination::bottom, &Destination::right, &Destination::top}},
 };
 // clang-format on
 
-/// A destination without a type that is known shows the page as /XYZ without operands does.
-const DestinationForm& formOf(QPDFObjectHandle name)
+/// 0 for a name that is none of them.
+int formOf(QPDFObjectHandle name)
 {
-    for (const DestinationForm& form : forms)
-        if (name.isNameAndEquals(form.name))
-            return form;
-    return forms[0];
+    const auto* const found =
+        std::find_if(std::begin(forms), std::end(forms),
+                     [&](const DestinationForm& form) { return name.isNameAndEquals(form.name); });
+    return found == std::end(forms) ? 0 : static_cast<int>(found - forms) + 1;
+}
+
+/// A destination without a type that is known shows the page as /XYZ without operands does.
+const DestinationForm& rowOfForm(int form)
+{
+    return forms[std::max(form, 1) - 1];
 }
 
 QPDFObjectHandle arrayOf(Document& document, QPDFObjectHandle destination)
@@ -66,6 +74,17 @@ int pageOf(QPDFObjectHandle target, PageTree& pages)
 QPDFObjectHandle numberOrNull(double value, bool isNull)
 {
     return isNull ? QPDFObjectHandle::newNull() : QPDFObjectHandle::newReal(value + 0.0, written); // no "-0"
+}
+
+QPDFObjectHandle operandsOf(const DestinationForm& form, const Destination& values)
+{
+    QPDFObjectHandle operands = QPDFObjectHandle::newArray();
+    operands.appendItem(QPDFObjectHandle::newName(form.name));
+    for (double Destination::*operand : form.operands)
+        if (operand != nullptr)
+            operands.appendItem(
+                numberOrNull(values.*operand, operand == &Destination::zoom && values.zoom == 0));
+    return operands;
 }
 
 bool isNone(QPDFObjectHandle zoom)
@@ -106,7 +125,8 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
     destination.page = pageOf(document.item(target.array, 0), pages);
     if (destination.page == 0)
         return std::nullopt;
-    const DestinationForm& form = formOf(document.item(target.array, 1));
+    destination.form = formOf(document.item(target.array, 1));
+    const DestinationForm& form = rowOfForm(destination.form);
     destination.type = form.type;
     int index = 2;
     for (double Destination::*const member : form.operands) {
@@ -120,20 +140,24 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
     return destination;
 }
 
-QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bool onItsSide)
+QPDFObjectHandle destinationOperands(int form, int zoom, const Point& corner, bool onItsSide)
 {
-    const bool isPoint = type == pdflibrary::Zoomed; // the others name an edge of the page as it is shown
+    const bool isPoint = form == pdflibrary::Zoomed; // the others name an edge of the page as it is shown
     Destination values;
     values.left = onItsSide && !isPoint ? corner.y : corner.x;
     values.top = onItsSide && !isPoint ? corner.x : corner.y;
     values.zoom = zoom / 100.0;
-    const DestinationForm& form = forms[type - 1];
-    QPDFObjectHandle operands = QPDFObjectHandle::newArray();
-    operands.appendItem(QPDFObjectHandle::newName(form.name));
-    for (double Destination::*operand : form.operands)
-        if (operand != nullptr)
-            operands.appendItem(numberOrNull(values.*operand, operand == &Destination::zoom && zoom == 0));
-    return operands;
+    return operandsOf(rowOfForm(form), values);
+}
+
+QPDFObjectHandle rectangleOperands(const QPDFObjectHandle::Rectangle& rectangle)
+{
+    Destination values;
+    values.left = rectangle.llx;
+    values.bottom = rectangle.lly;
+    values.right = rectangle.urx;
+    values.top = rectangle.ury;
+    return operandsOf(rowOfForm(pdflibrary::FitRectangle), values);
 }
 
 QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent)

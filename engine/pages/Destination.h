@@ -17,6 +17,7 @@ struct Destination
 {
     int page = 0; ///< From 1.
     int type = 0; ///< 1 to 5, see docs/engine.md.
+    int form = 0; ///< The type that is written, 1 to 8; 0 for none that is known.
     double left = 0;
     double top = 0;
     double right = 0;
@@ -42,11 +43,14 @@ std::optional<OpenActionTarget> openActionTarget(Document& document);
 std::optional<Destination> readDestination(Document& document, OpenActionTarget target, PageTree& pages);
 
 /// What follows the page in an explicit destination: its type and all operands.
-/// \param type 1 to 5.
+/// \param form 1 to 8.
 /// \param zoom in percent.
 /// \param corner the upper left one of what is to be seen, as the page is shown.
 /// \param onItsSide the page is shown rotated by 90 or 270 degrees: what is at the top is one of its sides.
-QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bool onItsSide);
+QPDFObjectHandle destinationOperands(int form, int zoom, const Point& corner, bool onItsSide);
+
+/// The same for /FitR, which shows this part of the page.
+QPDFObjectHandle rectangleOperands(const QPDFObjectHandle::Rectangle& rectangle);
 
 /// A destination of type /XYZ that shows what `array`, which reads as that type, shows at another magnification.
 /// \param percent 0 for none.
