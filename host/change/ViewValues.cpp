@@ -4,6 +4,8 @@
 #include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
+#include "pdflibrary/ViewNumbers.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -11,6 +13,7 @@
 #include <charconv>
 #include <climits>
 #include <cmath>
+#include <map>
 
 namespace host::viewvalues {
 
@@ -55,11 +58,22 @@ std::string choicesOf(const Description& entry)
     return text;
 }
 
+/// What else people write for yes and no.
+std::string answerMeant(const std::string& word)
+{
+    static const std::map<std::string, std::string> answers{{"true", "yes"}, {"on", "yes"}, {"1", "yes"},
+                                                            {"false", "no"}, {"off", "no"}, {"0", "no"}};
+    const auto found = answers.find(plain(word));
+    return found == answers.end() ? std::string() : "; did you mean \"" + found->second + "\"?";
+}
+
 [[noreturn]] void refuse(const Description& entry, const std::string& word)
 {
-    throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word + "\"" +
-                     suggestion::didYouMean(word, viewentries::words(entry)) +
-                     (entry.kind == Kind::Text ? "" : "\nit takes " + choicesOf(entry)));
+    std::string meant = entry.kind == Kind::Flag ? answerMeant(word) : std::string();
+    if (meant.empty())
+        meant = suggestion::didYouMean(word, viewentries::words(entry));
+    throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word + "\"" + meant +
+                     "\nit takes " + choicesOf(entry));
 }
 
 template <class Number>
@@ -118,9 +132,15 @@ ViewValue title(const Description& entry, const std::string& word)
 {
     if (word.empty())
         return Unset();
+    const QString text = QString::fromStdString(word);
     // What is no UTF-8 comes back as another character.
-    if (QString::fromStdString(word).toStdString() != word)
-        refuse(entry, word);
+    if (text.toStdString() != word)
+        throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word +
+                         "\": it is not in UTF-8");
+    if (std::any_of(text.begin(), text.end(),
+                    [](QChar each) { return each.category() == QChar::Other_Control; }))
+        throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word +
+                         "\": it holds control characters, such as line feeds");
     return word;
 }
 
@@ -132,17 +152,24 @@ std::string language(const Description& entry, const std::string& word)
 }
 
 /// The shortest text that reads as the same number.
-std::string percentOf(double percent)
+std::string shortest(double number)
 {
     std::array<char, 32> text{};
-    const auto [end, problem] = std::to_chars(text.data(), text.data() + text.size(), percent);
-    return std::string(text.data(), end) + "%";
+    const auto [end, problem] = std::to_chars(text.data(), text.data() + text.size(), number);
+    return std::string(text.data(), end);
 }
 
 std::string wordOf(const Magnification& value)
 {
-    const Name* name = nameOf(viewentries::magnifications(), value.type);
-    return value.percent > 0 ? percentOf(value.percent) : name != nullptr ? name->word : "unknown";
+    if (value.percent != 0)
+        return shortest(value.percent) + "%";
+    const Name* name = nameOf(viewentries::allMagnifications(), value.type);
+    std::string word = name != nullptr ? name->word : "unknown";
+    if (value.type != pdflibrary::FitRectangle)
+        return word;
+    for (const double side : value.rectangle)
+        word += " " + shortest(side);
+    return word;
 }
 
 std::string wordOf(const Description& entry, int number)
@@ -159,7 +186,8 @@ std::string wordOf(const Description& entry, int number)
 
 double storedPercent(double percent)
 {
-    return std::round(percent * 1e4) / 1e4;
+    const double mostWithPlaces = 1e9; // larger ones may become infinite
+    return percent < mostWithPlaces ? std::round(percent * 1e4) / 1e4 : percent;
 }
 
 const Name* nameOf(std::span<const Name> names, int number)
@@ -216,7 +244,19 @@ std::string wordOf(ViewEntry entry, const ViewValue& value)
         return "last";
     if (std::holds_alternative<FileNameAsTitle>(value))
         return "the file's name";
+    if (std::holds_alternative<Invalid>(value))
+        return "invalid";
+    if (const auto* action = std::get_if<OtherAction>(&value))
+        return action->type;
     return description.unsettable ? "unset" : "";
+}
+
+std::string told(ViewEntry entry, const ViewValue& value)
+{
+    if (std::holds_alternative<Unset>(value))
+        return "unset";
+    std::string word = wordOf(entry, value);
+    return word.empty() ? "empty" : word;
 }
 
 std::vector<std::string> optionsOf(const ViewChange& change)

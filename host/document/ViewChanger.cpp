@@ -12,6 +12,8 @@
 
 #include <strings.h>
 
+#include <array>
+#include <climits>
 #include <cmath>
 #include <stdexcept>
 
@@ -43,9 +45,27 @@ std::wstring wideText(const ViewValue& value)
     return text != nullptr ? engine::wideFromFileName(*text) : std::wstring();
 }
 
+/// Whether a number of percent can be given where the library takes a whole one.
 bool isWhole(double percent)
 {
-    return percent == std::floor(percent);
+    return percent == std::floor(percent) && percent <= INT_MAX;
+}
+
+Magnification magnificationFrom(const ViewValue& zoom)
+{
+    const auto* value = std::get_if<Magnification>(&zoom);
+    return value != nullptr ? *value : Magnification();
+}
+
+/// Whether the place that a destination shows can stay when its magnification changes.
+bool canBeMagnified(const Magnification& zoom)
+{
+    return zoom.type == 0 || zoom.type == pdflibrary::Zoomed || zoom.type == pdflibrary::FitRectangle;
+}
+
+std::string typeOfAction(const OtherAction& action)
+{
+    return "an action (" + action.type + ")" + (action.type == "GoTo" ? " that leads to no page" : "");
 }
 
 } // namespace
@@ -54,6 +74,7 @@ std::string ViewChanger::apply(const std::string& file)
 {
     m_differences.clear();
     m_notes.clear();
+    m_leftOut.clear();
     try {
         for (const viewentries::Description& each : viewentries::all()) {
             const std::optional<ViewValue>& wanted = m_change[each.entry];
@@ -100,12 +121,29 @@ void ViewChanger::changeOpenAction()
     const std::optional<ViewValue>& zoom = m_change[ViewEntry::Zoom];
     if (!page && !zoom)
         return;
-    m_action = m_present.openAction();
     if (page == ViewValue(Unset()))
         return removeOpenAction();
-    const ViewValue present = m_present[ViewEntry::Zoom];
-    const auto* kept = std::get_if<Magnification>(&present);
-    openAt(wantedPage(), zoom ? std::get<Magnification>(*zoom) : kept != nullptr ? *kept : Magnification());
+    if (page && std::holds_alternative<OtherAction>(*page))
+        return leaveOpenAction(std::get<OtherAction>(*page));
+    const int wanted = wantedPage();
+    if (zoom)
+        openAt(wanted, std::get<Magnification>(*zoom));
+    else if (m_present[ViewEntry::OpenPage] != ViewValue(wanted))
+        openAt(wanted, presentZoom());
+}
+
+/// An action of the same type is taken for the same.
+void ViewChanger::leaveOpenAction(const OtherAction& wanted)
+{
+    if (m_present[ViewEntry::OpenPage] != ViewValue(wanted))
+        m_leftOut = "it does not open with " + typeOfAction(wanted) + ", which cannot be given to it";
+}
+
+/// What documents have that can be given to no page becomes what viewers make of it.
+Magnification ViewChanger::presentZoom() const
+{
+    const Magnification zoom = magnificationFrom(m_present[ViewEntry::Zoom]);
+    return zoom.type == 0 || zoom.percent < 0 ? Magnification() : zoom;
 }
 
 int ViewChanger::wantedPage() const
@@ -123,9 +161,9 @@ int ViewChanger::wantedPage() const
 
 void ViewChanger::removeOpenAction()
 {
-    if (m_action.empty())
-        return;
     const ViewValue before = m_present[ViewEntry::OpenPage];
+    if (before == ViewValue(Unset()))
+        return;
     require(m_library.RemoveOpenAction(), ViewEntry::OpenPage);
     altered(ViewEntry::OpenPage, before, Unset());
 }
@@ -136,9 +174,8 @@ void ViewChanger::openAt(int page, const Magnification& zoom)
     const ViewValue zoomBefore = m_present[ViewEntry::Zoom];
     if (pageBefore == ViewValue(page) && zoomBefore == ViewValue(zoom))
         return;
-    const auto* before = std::get_if<Magnification>(&zoomBefore);
-    const bool zoomAlone = pageBefore == ViewValue(page) && before != nullptr &&
-                           before->type == pdflibrary::Zoomed && zoom.type == pdflibrary::Zoomed;
+    const bool zoomAlone = pageBefore == ViewValue(page) && zoom.type == pdflibrary::Zoomed &&
+                           canBeMagnified(magnificationFrom(zoomBefore));
     if (!zoomAlone) // else the place on the page stays
         setDestination(page, zoom);
     if (zoomAlone || !isWhole(zoom.percent))
@@ -150,16 +187,20 @@ void ViewChanger::openAt(int page, const Magnification& zoom)
         altered(ViewEntry::Zoom, zoomBefore, zoom);
 }
 
-/// At the corner of the page where reading begins.
+/// At the corner of the page where reading begins, or at the rectangle that is to be shown.
 void ViewChanger::setDestination(int page, const Magnification& zoom)
 {
     const int selected = m_library.SelectedPage();
     require(m_library.SelectPage(page), ViewEntry::OpenPage);
     const auto side = [this](int dimension) { return m_library.GetPageBox(pdflibrary::MediaBox, dimension); };
-    const int result = m_library.SetOpenActionDestinationFull(
-        page, static_cast<int>(zoom.percent), zoom.type, side(pdflibrary::BoxLeft), side(pdflibrary::BoxTop),
-        side(pdflibrary::BoxRight), side(pdflibrary::BoxBottom));
-    require(result, ViewEntry::OpenPage);
+    const auto [left, bottom, right, top] =
+        zoom.type == pdflibrary::FitRectangle
+            ? zoom.rectangle
+            : std::array{side(pdflibrary::BoxLeft), side(pdflibrary::BoxBottom), side(pdflibrary::BoxRight),
+                         side(pdflibrary::BoxTop)};
+    const int percent = isWhole(zoom.percent) ? static_cast<int>(zoom.percent) : 0;
+    require(m_library.SetOpenActionDestinationFull(page, percent, zoom.type, left, top, right, bottom),
+            ViewEntry::OpenPage);
     m_library.SelectPage(selected);
 }
 
@@ -169,7 +210,7 @@ void ViewChanger::changeTitle(const std::string& title)
     const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
     require(m_library.LastErrorCode() == 0 ? 1 : 0, ViewEntry::Title);
     const QString inMetadata = xmptitle::read(packet).value_or(QString());
-    if (m_change.keepsTitles() && (before != ViewValue(Unset()) || !inMetadata.isEmpty()))
+    if (m_change.keepsTitles() && m_present.hasTitle())
         return;
     const ViewValue wanted = title.empty() ? ViewValue(Unset()) : ViewValue(title);
     if (before != wanted) {
@@ -181,18 +222,20 @@ void ViewChanger::changeTitle(const std::string& title)
         return;
     const std::optional<QString> changed = xmptitle::write(packet, text);
     if (!changed)
-        throw std::runtime_error("the title in its XMP metadata cannot be changed");
+        throw std::runtime_error(xmptitle::canBeWritten(text)
+                                     ? "the title in its XMP metadata cannot be changed"
+                                     : "its XMP metadata cannot hold the title's control characters");
     if (*changed == packet)
         return;
     require(m_library.SetDocumentMetadata(changed->toStdWString()), ViewEntry::Title);
     if (before == wanted)
-        altered(ViewEntry::Title, inMetadata.toStdString(), wanted);
+        altered(ViewEntry::Title, inMetadata.isEmpty() ? ViewValue() : inMetadata.toStdString(), wanted);
 }
 
 /// A viewer that is to show a title shows the file's name where there is none.
 void ViewChanger::noteMissingTitle()
 {
-    if (m_change[ViewEntry::DisplayDocTitle] == ViewValue(1) && m_present.shownTitle() == ViewValue(Unset()))
+    if (m_change[ViewEntry::DisplayDocTitle] == ViewValue(1) && !m_present.hasTitle())
         m_notes.emplace_back("its title is to be shown, and it has none");
 }
 
@@ -205,11 +248,7 @@ void ViewChanger::require(int result, ViewEntry entry) const
 
 void ViewChanger::altered(ViewEntry entry, const ViewValue& before, const ViewValue& after)
 {
-    const auto word = [entry](const ViewValue& value) {
-        return std::holds_alternative<Unset>(value) ? "unset" : viewvalues::wordOf(entry, value);
-    };
-    const bool isOther = entry == ViewEntry::OpenPage && before == ViewValue(Unset());
-    m_differences.push_back({entry, isOther && !m_action.empty() ? m_action : word(before), word(after)});
+    m_differences.push_back({entry, viewvalues::told(entry, before), viewvalues::told(entry, after)});
 }
 
 std::string titleFromFileName(const std::string& file)

@@ -20,9 +20,8 @@ public:
     /// Reads the selected document.
     explicit ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library);
 
-    /// This one's values of the entries in which the two differ, with the names of ViewJson.h; null for one
-    /// that the document does not have. An open action that is no destination is an object with its `action`,
-    /// as ISO 32000 names it. Texts are cut off at 200 characters.
+    /// This one's values of the entries in which the two differ, as ViewJson.h writes a document's view. Texts
+    /// are cut off at 200 characters.
     QJsonObject unlike(const ViewSnapshot& other) const;
 
     /// "page mode: unset -> use-outlines; open page: 2 -> 1"; empty when nothing differs.
@@ -37,7 +36,6 @@ private:
     std::string wordFor(ViewEntry entry) const;
 
     std::array<Value, viewEntryCount> m_values;
-    std::string m_action; ///< Of another kind than a destination, else empty.
 };
 
 } // namespace host

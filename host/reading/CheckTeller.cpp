@@ -2,6 +2,7 @@
 
 #include "host/document/ViewChanger.h"
 #include "host/document/ViewSnapshot.h"
+#include "host/plan/StreamFiles.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/TerminalText.h"
 
@@ -51,7 +52,7 @@ Reading CheckTeller::tell(const std::string& file)
     std::string text = trial.reason.empty() ? before.changeTo(after) : trial.reason;
     if (text.empty())
         text = trial.details.empty() ? otherPlace : trial.details;
-    return {Reading::Differs, forTerminal(file) + ": " + forTerminal(text) + "\n", trial.note};
+    return {Reading::Differs, forTerminal(shownName(file)) + ": " + forTerminal(text) + "\n", trial.note};
 }
 
 CheckTeller::Trial CheckTeller::tryOut(const std::string& file)
@@ -67,6 +68,8 @@ CheckTeller::Trial CheckTeller::tryChange(const std::string& file)
     for (const ViewDifference& each : changer.differences())
         trial.details += (trial.details.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " +
                          each.before + " -> " + each.after;
+    if (trial.reason.empty())
+        trial.reason = changer.leftOut();
     for (const std::string& note : changer.notes())
         trial.note += (trial.note.empty() ? "" : "; ") + note;
     return trial;

@@ -142,6 +142,8 @@ std::string DocumentProcessor::apply(const std::string& file)
         ViewChanger changer(m_library, m_options.change);
         std::string reason = changer.apply(file);
         m_notes = changer.notes();
+        if (!changer.leftOut().empty())
+            m_notes.push_back(changer.leftOut());
         return reason;
     }
     if (std::string note = settingsnotes::aboutPage(m_options.entries, m_library.PageCount()); !note.empty())
