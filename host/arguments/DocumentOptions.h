@@ -16,8 +16,11 @@ class DocumentOptions
 public:
     /// The object must outlive the parser.
     void take(OptionParser& parser);
-    /// \param words the documents and folders that are named by themselves. Throws UsageError.
-    void check(const std::vector<std::string>& words) const;
+    /// \param words the documents and folders that are named by themselves.
+    /// \param isInputTaken whether something else is read from standard input. Throws UsageError.
+    void check(const std::vector<std::string>& words, bool isInputTaken = false) const;
+    /// Whether one of the documents comes from standard input.
+    static bool haveStandardInput(const std::vector<std::string>& words);
     /// Reads password and list. Throws UsageError.
     void read(const std::vector<std::string>& words);
 
@@ -25,8 +28,6 @@ public:
     const std::vector<std::string>& inputs() const { return m_inputs; }
     /// The documents for a command that only reads them. Folders without any are noted. Throws UsageError.
     RunPlan planForReading() const;
-    /// Whether an option names it; documents may come from it as well.
-    bool readsStandardInput() const { return m_passwordFile == "-" || m_list == "-"; }
     const std::string& password() const { return m_password; }
     const std::vector<std::string>& filesRead() const { return m_filesRead; }
 

@@ -2,14 +2,18 @@
 
 #include "host/arguments/LimitOptions.h"
 #include "host/arguments/OptionParser.h"
+#include "host/plan/StreamFiles.h"
 #include "host/reading/ReadingRun.h"
 #include "host/reading/ShowTeller.h"
+#include "host/reading/ViewTable.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/TextWidth.h"
 #include "host/terminal/UsageError.h"
 
 #include <unistd.h>
+
+#include <optional>
 
 namespace host {
 
@@ -27,18 +31,33 @@ int ShowCommand::work(const std::vector<std::string>& words)
         throw UsageError("--json and --table exclude each other");
     m_documents.check(words);
     m_documents.read(words);
+    std::optional<StreamFiles> streams;
+    if (DocumentOptions::haveStandardInput(words))
+        streams.emplace().readInput();
     const RunPlan plan = m_documents.planForReading();
     ShowTeller::Form form = ShowTeller::Words();
     if (m_json)
         form = ShowTeller::Json();
     if (m_table) {
         const ViewTable table(textwidth::ofTerminal(STDOUT_FILENO));
+        noteLeftOut(table);
         printResult(table.header());
         form = table;
     }
-    return ReadingRun(plan, {m_documents.password(), m_limits}).run([&](auto& library) {
+    ReadingRun::Options options{m_documents.password(), m_limits};
+    options.streams = streams ? &*streams : nullptr;
+    return ReadingRun(plan, options).run([&](auto& library) {
         return std::make_unique<ShowTeller>(library, form);
     });
+}
+
+void ShowCommand::noteLeftOut(const ViewTable& table)
+{
+    std::string titles;
+    for (const std::string& title : table.leftOut())
+        titles += (titles.empty() ? "" : ", ") + title;
+    if (!titles.empty())
+        note("the terminal is too narrow for all columns; left out: " + titles);
 }
 
 } // namespace host

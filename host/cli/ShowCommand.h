@@ -7,6 +7,8 @@
 
 namespace host {
 
+class ViewTable;
+
 /// "quintar show": tells how documents open.
 class ShowCommand : public Command
 {
@@ -18,6 +20,8 @@ protected:
     int work(const std::vector<std::string>& words) override;
 
 private:
+    static void noteLeftOut(const ViewTable& table);
+
     bool m_json = false;
     bool m_table = false;
     DocumentOptions m_documents;

@@ -5,6 +5,8 @@
 
 #include <strings.h>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 
 namespace host {
@@ -12,10 +14,26 @@ namespace host {
 namespace {
 
 const std::size_t lengthOfPdf = 4;
+const std::size_t shortestSuffix = 2; // "out.d" is a folder's name
+const std::size_t longestSuffix = 4;
 
 bool endsInPdf(const std::string& path)
 {
     return path.size() > lengthOfPdf && strcasecmp(path.c_str() + path.size() - lengthOfPdf, ".pdf") == 0;
+}
+
+/// Whether the name ends in a suffix as files have it: a few letters. "v1.0" is none, nor is "out.d/".
+bool looksLikeFile(const std::string& path)
+{
+    const std::size_t dot = path.rfind('.');
+    const std::size_t slash = path.rfind('/');
+    const std::size_t begin = slash == std::string::npos ? 0 : slash + 1;
+    if (dot == std::string::npos || dot <= begin)
+        return false;
+    const std::string suffix = path.substr(dot + 1);
+    return suffix.size() >= shortestSuffix && suffix.size() <= longestSuffix &&
+           std::all_of(suffix.begin(), suffix.end(),
+                       [](unsigned char each) { return std::isalpha(each) != 0; });
 }
 
 /// Where the name's ".pdf" begins, or its end.
@@ -42,6 +60,11 @@ std::string withoutTrailingSlashes(std::string path)
 RunDestination RunDestination::inPlace()
 {
     return {Kind::InPlace, {}};
+}
+
+RunDestination RunDestination::none()
+{
+    return {Kind::None, {}};
 }
 
 RunDestination RunDestination::folder(const std::string& path, const std::string& base)
@@ -76,6 +99,10 @@ RunDestination RunDestination::named(const std::string& path, const std::string&
     if (exists && !isFolder && !(isFile && S_ISREG(status.st_mode)) && path != standardStream)
         throw UsageError(path + (isFile ? " is not a regular file"
                                         : " is not a folder; a result's own name ends in .pdf"));
+    if (!exists && !isFile && looksLikeFile(path))
+        throw UsageError("-o " + path +
+                         " is neither a folder nor the name of a PDF document; a result's own name " +
+                         "ends in .pdf, and \"" + path + "/\" names a folder to be made");
     return isFile ? file(path) : folder(path, base);
 }
 
@@ -94,6 +121,7 @@ std::string RunDestination::pathFor(const std::string& document, const std::stri
         return m_path;
     case Kind::Beside:
         return std::string(document).insert(endOfStem(document), m_path);
+    case Kind::None:
     case Kind::InPlace:
         break;
     }

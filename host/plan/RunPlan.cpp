@@ -3,6 +3,7 @@
 #include "FolderWalk.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/Links.h"
+#include "host/terminal/NearbyFile.h"
 #include "host/terminal/UsageError.h"
 
 #include <sys/stat.h>
@@ -15,6 +16,8 @@
 namespace host {
 
 namespace {
+
+const int mostSuggestions = 10;
 
 std::string withoutTrailingSlashes(std::string path)
 {
@@ -31,7 +34,7 @@ void RunPlan::add(const std::string& path)
         throw UsageError("a document's name is empty");
     struct stat status;
     if (stat(path.c_str(), &status) != 0)
-        m_documents.push_back({path, {}, systemError(errno)});
+        m_documents.push_back({path, {}, whyMissing(path, errno)});
     else if (S_ISDIR(status.st_mode))
         addFolder(withoutTrailingSlashes(path));
     else if (!S_ISREG(status.st_mode))
@@ -40,9 +43,18 @@ void RunPlan::add(const std::string& path)
         addDocument(path, path.substr(path.rfind('/') + 1), status);
 }
 
+/// Of many names that are wrong, the first few show what is.
+std::string RunPlan::whyMissing(const std::string& path, int problem)
+{
+    const bool isHelped = problem == ENOENT && m_suggestions++ < mostSuggestions;
+    return systemError(problem) + (isHelped ? suggestion::nearbyFile(path) : "");
+}
+
 void RunPlan::addStandardInput()
 {
     const std::string& file = m_destination.onlyFile();
+    if (m_destination.isNone())
+        return m_documents.push_back({RunDestination::standardStream, {}, {}});
     if (file.empty())
         throw UsageError("a document from standard input goes to -o FILE.pdf or -o -");
     m_documents.push_back(

@@ -1,5 +1,6 @@
 #include "ReadingRun.h"
 
+#include "host/plan/StreamFiles.h"
 #include "host/program/InstallLayout.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/TerminalText.h"
@@ -35,8 +36,10 @@ int ReadingRun::run(const MakeTeller& makeTeller)
     limits.workers = static_cast<int>(
         std::clamp<std::size_t>(documents.size(), 1, static_cast<std::size_t>(limits.workers)));
     StopSignal stop;
-    WorkerPool pool(
-        limits, [&] { return std::make_unique<DocumentReader>(documents, m_options.password, makeTeller); });
+    const std::string input = m_options.streams != nullptr ? m_options.streams->document() : std::string();
+    WorkerPool pool(limits, [&] {
+        return std::make_unique<DocumentReader>(documents, input, m_options.password, makeTeller);
+    });
     pool.run(
         documents.size(), [this](std::size_t place, const WorkOutcome& outcome) { ended(place, outcome); },
         stop);
@@ -51,7 +54,7 @@ void ReadingRun::ended(std::size_t place, const WorkOutcome& outcome)
     const std::string& file = m_plan.documents()[place].name;
     Reading reading = readingOf(outcome);
     ++m_counts.at(reading.kind);
-    const std::string about = forTerminal(file) + ": ";
+    const std::string about = forTerminal(shownName(file)) + ": ";
     std::string errors;
     if (reading.kind == Reading::Failed) {
         errors = "quintar: " + about + forTerminal(reading.text) + "\n";

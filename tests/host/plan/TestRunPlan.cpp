@@ -169,14 +169,14 @@ private slots:
         RunPlan plan(to("out"));
         for (const std::string& name :
              {std::string("missing.pdf"), std::string("fifo.pdf"), std::string("broken.pdf"),
-              std::string("file/x.pdf"), std::string(5000, 'x')})
+              std::string("file/x.pdf"), std::string(5000, 'x'), std::string("./brokn")})
             plan.add(name);
         QStringList problems;
         for (const RunPlan::Document& document : plan.documents())
             problems += QString::fromStdString(document.problem);
-        QCOMPARE(problems,
-                 (QStringList{"no such file or directory", "not a regular file", "no such file or directory",
-                              "not a directory", "file name too long"}));
+        QCOMPARE(problems, (QStringList{"no such file or directory", "not a regular file",
+                                        "no such file or directory", "not a directory", "file name too long",
+                                        "no such file or directory; did you mean \"./broken.pdf\"?"}));
         QVERIFY(refusalFor(plan).empty());
         QVERIFY_EXCEPTION_THROWN(plan.add(""), UsageError);
     }
