@@ -19,6 +19,7 @@ void CheckCommand::takeOptions(OptionParser& parser)
     m_asked.take(parser);
     m_documents.take(parser);
     takeLimits(parser, m_limits);
+    m_live.take(parser);
     parser.takeFlag("json", m_json);
     parser.takeFlag("quiet", m_quiet);
 }
@@ -28,6 +29,8 @@ int CheckCommand::work(const std::vector<std::string>& words)
     const bool hasInput = DocumentOptions::haveStandardInput(words);
     m_asked.check(hasInput);
     m_documents.check(words, m_asked.readsStandardInput());
+    m_live.check(m_json ? "--json" : "",
+                 hasInput || m_documents.readsStandardInput() || m_asked.readsStandardInput());
     m_documents.read(words);
     m_asked.read(m_documents.password());
     if (!m_quiet)
@@ -36,18 +39,31 @@ int CheckCommand::work(const std::vector<std::string>& words)
     std::optional<StreamFiles> streams;
     if (hasInput)
         streams.emplace().readInput();
-    const RunPlan plan = m_documents.planForReading();
+    m_live.begin(name(), m_documents.inputs());
+    const RunPlan plan = m_documents.planForReading(m_live.found());
     const PluginHost plugin(installlayout::pluginFile());
-    const CheckTeller::Question question{m_asked.change(), m_asked.entries(), plugin.action(), m_json};
+    const CheckTeller::Question question{m_asked.change(), m_asked.entries(), plugin.action(),
+                                         m_json || m_live.events() != nullptr};
     // In JSON, notes stand in the lines.
-    ReadingRun run(plan, {m_documents.password(), m_limits, m_quiet || m_json,
+    ReadingRun run(plan, {m_documents.password(), m_limits, m_live.control(), m_live.events(), m_quiet || m_json,
                           m_json ? CheckTeller::failureInJson : ReadingRun::FailureLine(),
                           streams ? &*streams : nullptr});
     const int status =
         run.run([&](auto& library) { return std::make_unique<CheckTeller>(library, question); });
-    if (!m_quiet && !m_json)
+    if (m_live.events() != nullptr)
+        end(run);
+    else if (!m_quiet && !m_json)
         sumUp(run);
     return status;
+}
+
+void CheckCommand::end(const ReadingRun& run)
+{
+    const auto count = [&](Reading::Kind kind) { return static_cast<qint64>(run.count(kind)); };
+    m_live.events()->end({{"asAsked", count(Reading::Good)},
+                          {"differs", count(Reading::Differs)},
+                          {"failed", count(Reading::Failed)}},
+                         m_live.control().isStopped());
 }
 
 void CheckCommand::sumUp(const ReadingRun& run) const

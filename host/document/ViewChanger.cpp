@@ -70,11 +70,11 @@ std::string typeOfAction(const OtherAction& action)
 
 } // namespace
 
-std::string ViewChanger::apply(const std::string& file)
+Failure ViewChanger::apply(const std::string& file)
 {
     m_differences.clear();
     m_notes.clear();
-    m_leftOut.clear();
+    m_leftOut = {};
     try {
         for (const viewentries::Description& each : viewentries::all()) {
             const std::optional<ViewValue>& wanted = m_change[each.entry];
@@ -89,8 +89,8 @@ std::string ViewChanger::apply(const std::string& file)
                                                                         : std::get<std::string>(*title));
         noteMissingTitle();
         return {};
-    } catch (const std::runtime_error& error) {
-        return error.what();
+    } catch (const std::runtime_error&) {
+        return Failure::ofException();
     }
 }
 
@@ -136,7 +136,8 @@ void ViewChanger::changeOpenAction()
 void ViewChanger::leaveOpenAction(const OtherAction& wanted)
 {
     if (m_present[ViewEntry::OpenPage] != ViewValue(wanted))
-        m_leftOut = "it does not open with " + typeOfAction(wanted) + ", which cannot be given to it";
+        m_leftOut = {ReasonCode::OpenAction,
+                     "it does not open with " + typeOfAction(wanted) + ", which cannot be given to it"};
 }
 
 /// What documents have that can be given to no page becomes what viewers make of it.
@@ -154,8 +155,9 @@ int ViewChanger::wantedPage() const
         return numberOf(m_present[ViewEntry::OpenPage], 1);
     const int page = numberOf(*wanted, count);
     if (page > count)
-        throw std::runtime_error("it has " + std::to_string(count) + (count == 1 ? " page" : " pages") +
-                                 ", so it cannot open at page " + std::to_string(page));
+        throw DocumentError({ReasonCode::PageBeyondEnd,
+                             "it has " + std::to_string(count) + (count == 1 ? " page" : " pages") +
+                                 ", so it cannot open at page " + std::to_string(page)});
     return page;
 }
 
@@ -222,9 +224,10 @@ void ViewChanger::changeTitle(const std::string& title)
         return;
     const std::optional<QString> changed = xmptitle::write(packet, text);
     if (!changed)
-        throw std::runtime_error(xmptitle::canBeWritten(text)
-                                     ? "the title in its XMP metadata cannot be changed"
-                                     : "its XMP metadata cannot hold the title's control characters");
+        throw DocumentError({ReasonCode::Metadata,
+                             xmptitle::canBeWritten(text)
+                                 ? "the title in its XMP metadata cannot be changed"
+                                 : "its XMP metadata cannot hold the title's control characters"});
     if (*changed == packet)
         return;
     require(m_library.SetDocumentMetadata(changed->toStdWString()), ViewEntry::Title);
@@ -242,8 +245,8 @@ void ViewChanger::noteMissingTitle()
 void ViewChanger::require(int result, ViewEntry entry) const
 {
     if (result == 0)
-        throw std::runtime_error("its " + viewentries::label(entry) + " cannot be changed: " +
-                                 std::string(engine::errorText(m_library.LastErrorCode())));
+        throw DocumentError(Failure::ofLibrary(m_library.LastErrorCode(),
+                                               "its " + viewentries::label(entry) + " cannot be changed: "));
 }
 
 void ViewChanger::altered(ViewEntry entry, const ViewValue& before, const ViewValue& after)

@@ -2,6 +2,7 @@
 
 #include "PresentView.h"
 #include "host/change/ViewChange.h"
+#include "host/failures/Failure.h"
 
 #include <string>
 #include <vector>
@@ -30,16 +31,16 @@ public:
 
     /// Changes the selected document.
     /// \param file its name, for a title that comes from it.
-    /// \returns why it cannot be changed; empty when it is as asked. After a failure part of the change may
+    /// \returns why it cannot be changed. After a failure part of the change may
     /// have been made: the document must not be saved.
-    std::string apply(const std::string& file);
+    Failure apply(const std::string& file);
 
     /// What the last call has altered.
     const std::vector<ViewDifference>& differences() const { return m_differences; }
     /// What may be a mistake about the document of the last call.
     const std::vector<std::string>& notes() const { return m_notes; }
-    /// What was asked for and cannot be given to any document; empty for nothing. Everything else is as asked.
-    const std::string& leftOut() const { return m_leftOut; }
+    /// What was asked for and can be given to no document, if anything. Everything else is as asked.
+    const Failure& leftOut() const { return m_leftOut; }
 
 private:
     void changeEntry(ViewEntry entry, const ViewValue& wanted);
@@ -61,7 +62,7 @@ private:
     PresentView m_present;
     std::vector<ViewDifference> m_differences;
     std::vector<std::string> m_notes;
-    std::string m_leftOut;
+    Failure m_leftOut;
 };
 
 /// The title that a file's name makes: without folder and suffix, what is no UTF-8 as U+FFFD.

@@ -34,31 +34,33 @@ void RunPlan::add(const std::string& path)
         throw UsageError("a document's name is empty");
     struct stat status;
     if (stat(path.c_str(), &status) != 0)
-        m_documents.push_back({path, {}, whyMissing(path, errno)});
+        append({path, {}, whyMissing(path, errno)});
     else if (S_ISDIR(status.st_mode))
         addFolder(withoutTrailingSlashes(path));
     else if (!S_ISREG(status.st_mode))
-        m_documents.push_back({path, {}, systemError(notARegularFile)});
+        append({path, {}, Failure::ofSystem(notARegularFile, ReasonCode::ReadFailed)});
     else
         addDocument(path, path.substr(path.rfind('/') + 1), status);
 }
 
 /// Of many names that are wrong, the first few show what is.
-std::string RunPlan::whyMissing(const std::string& path, int problem)
+Failure RunPlan::whyMissing(const std::string& path, int problem)
 {
-    const bool isHelped = problem == ENOENT && m_suggestions++ < mostSuggestions;
-    return systemError(problem) + (isHelped ? suggestion::nearbyFile(path) : "");
+    Failure failure = Failure::ofSystem(problem, ReasonCode::ReadFailed);
+    if (problem == ENOENT && m_suggestions++ < mostSuggestions)
+        failure.text += suggestion::nearbyFile(path);
+    return failure;
 }
 
 void RunPlan::addStandardInput()
 {
     const std::string& file = m_destination.onlyFile();
     if (m_destination.isNone())
-        return m_documents.push_back({RunDestination::standardStream, {}, {}});
+        return append({RunDestination::standardStream, {}});
     if (file.empty())
         throw UsageError("a document from standard input goes to -o FILE.pdf or -o -");
     m_documents.push_back(
-        {RunDestination::standardStream, m_destination.isStandardOutput() ? file : targetOf(file), {}});
+        {RunDestination::standardStream, m_destination.isStandardOutput() ? file : targetOf(file)});
 }
 
 void RunPlan::addDocument(const std::string& path, const std::string& pathBelowOutput,
@@ -67,7 +69,7 @@ void RunPlan::addDocument(const std::string& path, const std::string& pathBelowO
     const std::string output = m_destination.pathFor(path, pathBelowOutput);
     std::string target = m_destination.isStandardOutput() ? output : targetOf(output);
     m_inputs.try_emplace(idOf(status), m_documents.size());
-    m_documents.push_back({path, std::move(target), {}});
+    append({path, std::move(target)});
 }
 
 void RunPlan::addFolder(const std::string& folder)
@@ -81,12 +83,23 @@ void RunPlan::addFolder(const std::string& folder)
             if (entry.status != nullptr)
                 addDocument(prefix + entry.path, entry.path, *entry.status);
             else
-                m_documents.push_back({entry.path.empty() ? folder : prefix + entry.path, {}, entry.problem});
+                append({entry.path.empty() ? folder : prefix + entry.path, {}, entry.problem});
         },
-        [&](const struct stat& status) { return m_destination.isResultFolder(status); });
+        [&](const struct stat& status) {
+            if (m_found)
+                m_found(nullptr);
+            return m_destination.isResultFolder(status);
+        });
     walk.walk(folder);
     if (m_documents.size() == before)
         m_emptyFolders.push_back(folder);
+}
+
+void RunPlan::append(Document document)
+{
+    m_documents.push_back(std::move(document));
+    if (m_found)
+        m_found(&m_documents.back());
 }
 
 /// The path with all links resolved. Folders are resolved once: each takes a system call for every name in
@@ -118,7 +131,7 @@ void RunPlan::checkTargets() const
                          "; name a folder for the results");
     std::map<std::string, const Document*> targets;
     for (const Document& document : m_documents) {
-        if (!document.problem.empty())
+        if (document.problem)
             continue;
         const auto [other, added] = targets.try_emplace(document.target, &document);
         if (!added)
@@ -138,7 +151,7 @@ void RunPlan::checkReport(const std::string& path, const std::vector<std::string
 {
     const std::string target = resolved(behindLink(path));
     for (const Document& document : m_documents)
-        if (document.problem.empty() && document.target == target)
+        if (!document.problem && document.target == target)
             throw UsageError("the report and " + document.name + " would have the same output, " + target);
     struct stat status;
     if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))

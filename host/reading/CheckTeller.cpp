@@ -20,10 +20,11 @@ QJsonValue textOrNull(const std::string& text)
     return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
 }
 
-std::string inJson(const std::string& file, const char* status, const std::string& reason, QJsonObject object)
+std::string inJson(const std::string& file, const char* status, const Failure& reason, QJsonObject object)
 {
     object.insert("status", status);
-    object.insert("reason", textOrNull(reason));
+    object.insert("reasonCode", textOrNull(nameOf(reason.code)));
+    object.insert("reason", textOrNull(reason.text));
     insertName(object, "file", file);
     return jsonLine(object);
 }
@@ -39,20 +40,21 @@ Reading CheckTeller::tell(const std::string& file)
     const ViewSnapshot before(m_library);
     const Trial trial = tryOut(file);
     const ViewSnapshot after(m_library);
-    const bool good = trial.reason.empty() && m_library.SecurityInfo(engine::UnsavedChanges) == 0;
+    const bool good = !trial.reason && m_library.SecurityInfo(engine::UnsavedChanges) == 0;
     if (m_question.json) {
         QJsonObject object{{"before", before.unlike(after)}, {"after", after.unlike(before)}};
         if (!trial.note.empty())
             object.insert("note", QString::fromStdString(trial.note));
         return {good ? Reading::Good : Reading::Differs,
-                inJson(file, good ? "as asked" : "differs", trial.reason, object), trial.note};
+                inJson(file, good ? "as asked" : "differs", trial.reason, object), trial.note, trial.reason};
     }
     if (good)
         return {Reading::Good, {}, trial.note};
-    std::string text = trial.reason.empty() ? before.changeTo(after) : trial.reason;
+    std::string text = trial.reason ? trial.reason.text : before.changeTo(after);
     if (text.empty())
         text = trial.details.empty() ? otherPlace : trial.details;
-    return {Reading::Differs, forTerminal(shownName(file)) + ": " + forTerminal(text) + "\n", trial.note};
+    return {Reading::Differs, forTerminal(shownName(file)) + ": " + forTerminal(text) + "\n", trial.note,
+            trial.reason};
 }
 
 CheckTeller::Trial CheckTeller::tryOut(const std::string& file)
@@ -68,14 +70,14 @@ CheckTeller::Trial CheckTeller::tryChange(const std::string& file)
     for (const ViewDifference& each : changer.differences())
         trial.details += (trial.details.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " +
                          each.before + " -> " + each.after;
-    if (trial.reason.empty())
+    if (!trial.reason)
         trial.reason = changer.leftOut();
     for (const std::string& note : changer.notes())
         trial.note += (trial.note.empty() ? "" : "; ") + note;
     return trial;
 }
 
-std::string CheckTeller::failureInJson(const std::string& file, const std::string& reason)
+std::string CheckTeller::failureInJson(const std::string& file, const Failure& reason)
 {
     return inJson(file, "failed", reason, {{"before", QJsonObject()}, {"after", QJsonObject()}});
 }
