@@ -17,6 +17,8 @@ namespace host {
 
 namespace {
 
+const std::size_t longestLanguage = 3;
+
 /// How a document opens, for others to open so.
 ViewChange viewOf(const std::string& file, const std::string& password)
 {
@@ -129,11 +131,23 @@ std::vector<std::string> ChangeOptions::notes() const
         notes.push_back(std::move(note));
     if (changesView() && m_change.isEmpty())
         notes.emplace_back("the view names nothing, so nothing is asked of the documents");
-    const auto& language = m_change[ViewEntry::Lang];
-    if (const auto* tag = language ? std::get_if<std::string>(&*language) : nullptr;
-        tag != nullptr && !isLanguageTag(*tag))
-        notes.push_back("the view's lang, \"" + *tag + "\", has not the form of a language tag");
+    if (std::string note = noteOnLanguage(); !note.empty())
+        notes.push_back(std::move(note));
     return notes;
+}
+
+std::string ChangeOptions::noteOnLanguage() const
+{
+    const auto& language = m_change[ViewEntry::Lang];
+    const auto* tag = language ? std::get_if<std::string>(&*language) : nullptr;
+    if (tag == nullptr)
+        return {};
+    if (!isLanguageTag(*tag))
+        return "the view's lang, \"" + *tag + "\", has not the form of a language tag";
+    if (std::min(tag->find('-'), tag->size()) > longestLanguage)
+        return "no language has the code \"" + tag->substr(0, tag->find('-')) +
+               "\" so far: codes have two or three letters, as \"en\" for English";
+    return {};
 }
 
 std::string ChangeOptions::noteOnAll() const

@@ -39,6 +39,7 @@ private:
     /// What the view options ask for, in the order in which they count.
     void readChange(const std::string& password);
     void readSettings();
+    std::string noteOnLanguage() const;
 
     std::vector<std::string> m_lists;
     std::vector<std::string> m_favorites;

@@ -254,7 +254,9 @@ std::string contentOf(const std::string& path)
     const FileDescriptor file(path == "-" ? dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     std::string bytes;
     if (!file.isOpen() || !readAll(file.get(), bytes, largestFile))
-        throw UsageError("the view " + path + " cannot be read: " + systemError(errno));
+        throw UsageError(
+            "the view " + path + " cannot be read: " + systemError(errno) +
+            (path.starts_with('{') ? "; --view takes the name of a file, or - for standard input" : ""));
     return bytes;
 }
 
@@ -334,11 +336,13 @@ ViewChange parse(const QJsonObject& object)
 ViewChange readFile(const std::string& path)
 {
     QJsonParseError problem;
-    const QJsonDocument document =
-        QJsonDocument::fromJson(QByteArray::fromStdString(contentOf(path)), &problem);
+    const std::string bytes = contentOf(path);
+    const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(bytes), &problem);
     if (!document.isObject())
         throw UsageError("the view " + path + " is not a JSON object" +
-                         (document.isNull() ? ": " + problem.errorString().toStdString() : ""));
+                         (bytes.starts_with("%PDF-") ? "; \"--like " + path + "\" takes a document"
+                          : document.isNull()        ? ": " + problem.errorString().toStdString()
+                                                     : ""));
     try {
         return parse(document.object());
     } catch (const UsageError& error) {

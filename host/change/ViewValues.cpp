@@ -13,7 +13,6 @@
 #include <charconv>
 #include <climits>
 #include <cmath>
-#include <map>
 
 namespace host::viewvalues {
 
@@ -22,6 +21,8 @@ namespace {
 using viewentries::Description;
 using viewentries::Kind;
 using viewentries::Name;
+
+const std::string unset = "unset";
 
 /// The forms of an answer in which it is sure to be meant.
 std::string plain(const std::string& word)
@@ -58,22 +59,54 @@ std::string choicesOf(const Description& entry)
     return text;
 }
 
-/// What else people write for yes and no.
-std::string answerMeant(const std::string& word)
+/// What people write who know it from elsewhere.
+struct Habit
 {
-    static const std::map<std::string, std::string> answers{{"true", "yes"}, {"on", "yes"}, {"1", "yes"},
-                                                            {"false", "no"}, {"off", "no"}, {"0", "no"}};
-    const auto found = answers.find(plain(word));
-    return found == answers.end() ? std::string() : "; did you mean \"" + found->second + "\"?";
+    Kind kind;
+    const char* word;
+    const char* meant;
+};
+
+const std::array<Habit, 18> habits{{{Kind::Flag, "true", "yes"},
+                                    {Kind::Flag, "on", "yes"},
+                                    {Kind::Flag, "1", "yes"},
+                                    {Kind::Flag, "false", "no"},
+                                    {Kind::Flag, "off", "no"},
+                                    {Kind::Flag, "0", "no"},
+                                    {Kind::Page, "first", "1"},
+                                    {Kind::Page, "0", "1"},
+                                    {Kind::Page, "end", "last"},
+                                    {Kind::Page, "none", "unset"},
+                                    {Kind::Magnification, "inherit", "default"},
+                                    {Kind::Magnification, "actualsize", "100%"},
+                                    {Kind::Name, "continuous", "one-column"},
+                                    {Kind::Name, "facing", "two-page-left"},
+                                    {Kind::Name, "lefttoright", "l2r"},
+                                    {Kind::Name, "righttoleft", "r2l"},
+                                    {Kind::Name, "off", "none"},
+                                    {Kind::Name, "default", "unset"}}};
+
+/// What may be meant, as far as the option takes it.
+std::string meantBy(const Description& entry, const std::string& word)
+{
+    const std::string plainWord = plain(word);
+    for (const Habit& habit : habits)
+        if (entry.kind == habit.kind && plainWord == habit.word &&
+            (entry.kind != Kind::Name || nameOf(entry.names, habit.meant) != nullptr || habit.meant == unset))
+            return habit.meant;
+    std::string tag = word;
+    std::replace(tag.begin(), tag.end(), '_', '-');
+    if (entry.kind == Kind::Language && isLanguageTag(tag))
+        return tag;
+    return suggestion::nearest(word, viewentries::words(entry));
 }
 
 [[noreturn]] void refuse(const Description& entry, const std::string& word)
 {
-    std::string meant = entry.kind == Kind::Flag ? answerMeant(word) : std::string();
-    if (meant.empty())
-        meant = suggestion::didYouMean(word, viewentries::words(entry));
-    throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word + "\"" + meant +
-                     "\nit takes " + choicesOf(entry));
+    const std::string meant = meantBy(entry, word);
+    throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word + "\"" +
+                     (meant.empty() ? "" : "; did you mean \"" + meant + "\"?") + "\nit takes " +
+                     choicesOf(entry));
 }
 
 template <class Number>
@@ -210,7 +243,7 @@ const Name* nameOf(std::span<const Name> names, const std::string& word)
 ViewValue parse(ViewEntry entry, const std::string& word)
 {
     const Description& description = viewentries::describe(entry);
-    if (description.unsettable && plain(word) == "unset")
+    if (description.unsettable && plain(word) == unset)
         return Unset();
     switch (description.kind) {
     case Kind::Name:

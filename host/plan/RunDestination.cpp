@@ -83,6 +83,9 @@ RunDestination RunDestination::beside(const std::string& suffix)
 {
     if (suffix.empty() || suffix.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
         throw UsageError("--suffix takes a text for file names, without slashes, not \"" + suffix + "\"");
+    if (endsInPdf("x" + suffix) || suffix.starts_with('-'))
+        throw UsageError("--suffix takes what stands between \"manual-\" and \".pdf\", not \"" + suffix +
+                         "\"");
     return {Kind::Beside, "-" + suffix};
 }
 

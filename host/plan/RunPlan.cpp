@@ -134,6 +134,8 @@ void RunPlan::checkTargets() const
         if (document.problem)
             continue;
         const auto [other, added] = targets.try_emplace(document.target, &document);
+        if (!added && other->second->name == document.name)
+            throw UsageError(document.name + " is named twice");
         if (!added)
             throw UsageError(other->second->name + " and " + document.name + " would have the same output, " +
                              document.target);

@@ -63,13 +63,25 @@ bool isPartOf(const std::string& word, const std::string& candidate, const std::
            });
 }
 
-/// 0 for the same word; `farthest` and above is too far.
-std::size_t remoteness(const std::string& word, const std::string& candidate, std::size_t farthest)
+/// Whether most of the parts of both are the same: "title-if-empty" and "title-if-missing".
+bool sharesMostParts(const std::vector<std::string>& parts, const std::vector<std::string>& others)
 {
+    const auto shared = std::count_if(parts.begin(), parts.end(), [&](const std::string& part) {
+        return std::find(others.begin(), others.end(), part) != others.end();
+    });
+    return shared > 1 && 2 * shared > std::max(std::ssize(parts), std::ssize(others));
+}
+
+/// 0 for the same word; `farthest` and above is too far.
+std::size_t remoteness(std::string_view given, const std::string& candidate, std::size_t farthest)
+{
+    const std::string word = plain(given);
     const std::string whole = plain(candidate);
     const std::size_t apart = distance(word, whole);
     if (apart < farthest || word.size() < shortestPart)
         return apart;
+    if (sharesMostParts(partsOf(given), partsOf(candidate)))
+        return farthest - 2;
     return isPartOf(word, whole, partsOf(candidate)) ? farthest - 1 : farthest;
 }
 
@@ -82,7 +94,7 @@ std::string nearest(std::string_view word, const std::vector<std::string>& candi
     std::size_t best = farthest;
     std::string found;
     for (const std::string& candidate : candidates) {
-        const std::size_t apart = remoteness(wanted, candidate, farthest);
+        const std::size_t apart = remoteness(word, candidate, farthest);
         // Of a short word nearly everything may be left: something has to be the same.
         if (apart < best && apart < std::max<std::size_t>(wanted.size(), 1)) {
             best = apart;
