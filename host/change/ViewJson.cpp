@@ -98,13 +98,11 @@ int numberOfName(const QString& name, const QJsonValue& value, std::span<const v
     refuse(name, value, choices + suggestion::didYouMean(value.toString().toStdString(), known));
 }
 
-/// Any text: documents have them of all kinds. An empty one says what none says.
+/// Any text: documents have them of all kinds.
 ViewValue textValue(const QString& name, const QJsonValue& value)
 {
     if (!value.isString())
         refuse(name, value, "a text or null");
-    if (value.toString().isEmpty())
-        return Unset();
     return value.toString().toStdString();
 }
 

@@ -46,10 +46,15 @@ ViewValue PresentView::shownTitle() const
     const ViewValue title = (*this)[ViewEntry::Title];
     if (isSaid(title))
         return title;
-    // Metadata that cannot be read shows no title.
+    const ViewValue inMetadata = titleInMetadata();
+    return isSaid(inMetadata) ? inMetadata : title;
+}
+
+ViewValue PresentView::titleInMetadata() const
+{
     const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
-    const QString inMetadata = xmptitle::read(packet).value_or(QString());
-    return inMetadata.isEmpty() ? title : ViewValue(inMetadata.toStdString());
+    const QString title = xmptitle::read(packet).value_or(QString());
+    return title.isEmpty() ? ViewValue(Unset()) : title.toStdString();
 }
 
 bool PresentView::hasTitle() const

@@ -22,6 +22,8 @@ public:
 
     /// The title that a viewer finds: where the information dictionary has none, that of the XMP metadata.
     ViewValue shownTitle() const;
+    /// That of the XMP metadata; Unset where there is none that can be read.
+    ViewValue titleInMetadata() const;
     /// Whether a viewer finds any title.
     bool hasTitle() const;
 

@@ -24,9 +24,11 @@ namespace {
 const int zoomValue = 5; // of SetDestValue
 const int titleKey = 1;  // of SetInformation
 
-/// A missing entry does the same as an explicit default, so it needs no change.
+/// A missing entry does the same as an explicit default, and says what an empty text says, so it needs no change.
 bool isDefault(ViewEntry entry, const ViewValue& value)
 {
+    if (value == ViewValue(std::string()))
+        return true;
     const bool isFlag = viewentries::describe(entry).kind == viewentries::Kind::Flag;
     const bool isMode = entry == ViewEntry::PageMode || entry == ViewEntry::NonFullScreenPageMode;
     return (isFlag && value == ViewValue(0)) || (isMode && value == ViewValue(pdflibrary::PageOnly));
@@ -39,10 +41,11 @@ int numberOf(const ViewValue& value, int absent)
     return number != nullptr ? *number : absent;
 }
 
-std::wstring wideText(const ViewValue& value)
+/// Empty for what is none.
+std::string textOf(const ViewValue& value)
 {
     const std::string* text = std::get_if<std::string>(&value);
-    return text != nullptr ? engine::wideFromFileName(*text) : std::wstring();
+    return text != nullptr ? *text : std::string();
 }
 
 /// Whether a number of percent can be given where the library takes a whole one.
@@ -84,9 +87,7 @@ Failure ViewChanger::apply(const std::string& file)
         }
         changeOpenAction();
         if (const auto& title = m_change[ViewEntry::Title]; title)
-            changeTitle(std::holds_alternative<FileNameAsTitle>(*title) ? titleFromFileName(file)
-                        : std::holds_alternative<Unset>(*title)         ? std::string()
-                                                                        : std::get<std::string>(*title));
+            changeTitle(std::holds_alternative<FileNameAsTitle>(*title) ? titleFromFileName(file) : *title);
         noteMissingTitle();
         return {};
     } catch (const std::runtime_error&) {
@@ -110,7 +111,9 @@ int ViewChanger::write(ViewEntry entry, const ViewValue& wanted)
     if (entry == ViewEntry::PageLayout)
         return m_library.SetPageLayout(numberOf(wanted, pdflibrary::NoPageLayout));
     if (entry == ViewEntry::Lang)
-        return m_library.SetCatalogInformation(L"Lang", wideText(wanted));
+        return m_library.SetCatalogInformation(L"Lang", engine::wideFromFileName(textOf(wanted)));
+    if (entry == ViewEntry::Title)
+        return m_library.SetInformation(titleKey, engine::wideFromFileName(textOf(wanted)));
     return m_library.SetViewerPreferences(viewentries::describe(entry).preference,
                                           numberOf(wanted, pdflibrary::NoPreference));
 }
@@ -206,33 +209,34 @@ void ViewChanger::setDestination(int page, const Magnification& zoom)
     m_library.SelectPage(selected);
 }
 
-void ViewChanger::changeTitle(const std::string& title)
+void ViewChanger::changeTitle(const ViewValue& wanted)
 {
-    const ViewValue before = m_present[ViewEntry::Title];
     const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
     require(m_library.LastErrorCode() == 0 ? 1 : 0, ViewEntry::Title);
-    const QString inMetadata = xmptitle::read(packet).value_or(QString());
     if (m_change.keepsTitles() && m_present.hasTitle())
         return;
-    const ViewValue wanted = title.empty() ? ViewValue(Unset()) : ViewValue(title);
-    if (before != wanted) {
-        require(m_library.SetInformation(titleKey, wideText(wanted)), ViewEntry::Title);
-        altered(ViewEntry::Title, before, wanted);
-    }
-    const QString text = QString::fromStdString(title);
-    if (packet.isEmpty() || inMetadata == text)
+    changeEntry(ViewEntry::Title, wanted);
+    if (!packet.isEmpty())
+        changeMetadata(packet, wanted);
+}
+
+void ViewChanger::changeMetadata(const QString& packet, const ViewValue& title)
+{
+    const QString text = QString::fromStdString(textOf(title));
+    const QString before = xmptitle::read(packet).value_or(QString());
+    if (before == text)
         return;
     const std::optional<QString> changed = xmptitle::write(packet, text);
     if (!changed)
-        throw DocumentError({ReasonCode::Metadata,
-                             xmptitle::canBeWritten(text)
-                                 ? "the title in its XMP metadata cannot be changed"
-                                 : "its XMP metadata cannot hold the title's control characters"});
+        throw DocumentError(
+            {ReasonCode::Metadata, xmptitle::canBeWritten(text)
+                                       ? "the title in its XMP metadata cannot be changed"
+                                       : "its XMP metadata cannot hold the title's control characters"});
     if (*changed == packet)
         return;
     require(m_library.SetDocumentMetadata(changed->toStdWString()), ViewEntry::Title);
-    if (before == wanted)
-        altered(ViewEntry::Title, inMetadata.isEmpty() ? ViewValue() : inMetadata.toStdString(), wanted);
+    if (m_differences.empty() || m_differences.back().entry != ViewEntry::Title)
+        altered(ViewEntry::Title, before.isEmpty() ? ViewValue() : before.toStdString(), title);
 }
 
 /// A viewer that is to show a title shows the file's name where there is none.

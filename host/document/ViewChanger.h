@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+class QString;
 class TelvarPDFLibraryCPDylibCPP1311;
 
 namespace host {
@@ -52,7 +53,8 @@ private:
     void setDestination(int page, const Magnification& zoom);
     Magnification presentZoom() const;
     int wantedPage() const;
-    void changeTitle(const std::string& title);
+    void changeTitle(const ViewValue& wanted);
+    void changeMetadata(const QString& packet, const ViewValue& title);
     void noteMissingTitle();
     void require(int result, ViewEntry entry) const;
     void altered(ViewEntry entry, const ViewValue& before, const ViewValue& after);

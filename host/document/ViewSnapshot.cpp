@@ -26,7 +26,7 @@ ViewValue cutOff(const ViewValue& value)
 
 } // namespace
 
-ViewSnapshot::ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library)
+ViewSnapshot::ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library, bool withMetadata)
 {
     const PresentView view(library);
     for (const viewentries::Description& each : viewentries::all())
@@ -34,15 +34,23 @@ ViewSnapshot::ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library)
             value(each.entry) = view[each.entry];
         } catch (const std::runtime_error&) { // left out
         }
+    if (withMetadata)
+        m_titleInMetadata = view.titleInMetadata();
     if (!value(ViewEntry::OpenPage) || !value(ViewEntry::Zoom))
         value(ViewEntry::OpenPage) = value(ViewEntry::Zoom) = std::nullopt;
 }
 
 bool ViewSnapshot::differs(ViewEntry entry, const ViewSnapshot& other) const
 {
-    if (!value(entry) || !other.value(entry))
-        return false;
-    return value(entry) != other.value(entry);
+    const Value& own = told(entry, other);
+    const Value& others = other.told(entry, *this);
+    return own && others && own != others;
+}
+
+/// Of the two titles the one in which they differ, as far as they do.
+const ViewSnapshot::Value& ViewSnapshot::told(ViewEntry entry, const ViewSnapshot& other) const
+{
+    return entry == ViewEntry::Title && value(entry) == other.value(entry) ? m_titleInMetadata : value(entry);
 }
 
 QJsonObject ViewSnapshot::unlike(const ViewSnapshot& other) const
@@ -50,7 +58,7 @@ QJsonObject ViewSnapshot::unlike(const ViewSnapshot& other) const
     ViewChange own;
     for (const viewentries::Description& each : viewentries::all())
         if (differs(each.entry, other))
-            own.set(each.entry, cutOff(*value(each.entry)));
+            own.set(each.entry, cutOff(*told(each.entry, other)));
     if (own[ViewEntry::Zoom] == ViewValue(Unset())) // no destination: the page says so
         own.remove(ViewEntry::Zoom);
     return viewjson::write(own);
@@ -61,14 +69,14 @@ std::string ViewSnapshot::changeTo(const ViewSnapshot& after) const
     std::string text;
     for (const viewentries::Description& each : viewentries::all())
         if (differs(each.entry, after))
-            text += (text.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " + wordFor(each.entry) +
-                    " -> " + after.wordFor(each.entry);
+            text += (text.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " +
+                    wordFor(each.entry, after) + " -> " + after.wordFor(each.entry, *this);
     return text;
 }
 
-std::string ViewSnapshot::wordFor(ViewEntry entry) const
+std::string ViewSnapshot::wordFor(ViewEntry entry, const ViewSnapshot& other) const
 {
-    return viewvalues::told(entry, cutOff(*value(entry)));
+    return viewvalues::told(entry, cutOff(*told(entry, other)));
 }
 
 } // namespace host

@@ -37,9 +37,10 @@ CheckTeller::CheckTeller(TelvarPDFLibraryCPDylibCPP1311& library, const Question
 
 Reading CheckTeller::tell(const std::string& file)
 {
-    const ViewSnapshot before(m_library);
+    const bool asksForTitle = m_question.change[ViewEntry::Title].has_value();
+    const ViewSnapshot before(m_library, asksForTitle);
     const Trial trial = tryOut(file);
-    const ViewSnapshot after(m_library);
+    const ViewSnapshot after(m_library, asksForTitle);
     const bool good = !trial.reason && m_library.SecurityInfo(engine::UnsavedChanges) == 0;
     if (m_question.json) {
         QJsonObject object{{"before", before.unlike(after)}, {"after", after.unlike(before)}};

@@ -117,7 +117,7 @@ Failure DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int sourc
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
     if (m_options.tellChanges)
-        m_viewBefore.emplace(m_library);
+        m_viewBefore.emplace(m_library, m_options.change[ViewEntry::Title].has_value());
     if (const Failure reason = apply(job.source); reason)
         return DocumentResult::failed(reason);
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
@@ -125,7 +125,7 @@ DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
     if (const Failure reason = refusal(); reason)
         return DocumentResult::failed(reason);
     if (m_options.tellChanges)
-        m_viewAfter.emplace(m_library);
+        m_viewAfter.emplace(m_library, m_options.change[ViewEntry::Title].has_value());
     return m_options.dryRun ? tryOut() : save(job);
 }
 

@@ -76,6 +76,21 @@ private slots:
         const QByteArray note = "its title is to be shown, and it has none";
         QVERIFY(!quintar({"check", "--display-doc-title", "yes", "xmp.pdf"}).err.contains(note));
         QVERIFY(quintar({"check", "--display-doc-title", "yes", "d/plain.pdf"}).err.contains(note));
+        QCOMPARE(quintar({"run", "--title", "New", "-n", "--in-place", "xmp.pdf"}).out.split('\n').first(),
+                 QByteArray("would change  xmp.pdf: title: unset -> New"));
+        WorkFolder::put("both.pdf", PdfBuilder()
+                                        .catalog("/Metadata 9 0 R")
+                                        .pages(1)
+                                        .stream(9, "/Type /Metadata /Subtype /XML", packet)
+                                        .object(10, "<< /Title (New) >>")
+                                        .trailer("/Info 10 0 R")
+                                        .bytes());
+        QCOMPARE(quintar({"run", "--title", "New", "-n", "--in-place", "both.pdf"}).out.split('\n').first(),
+                 QByteArray("would change  both.pdf: title: In XMP -> New"));
+        const QJsonObject differs =
+            ProgramRun::jsonLines(quintar({"check", "--json", "--title", "New", "both.pdf"}).out).value(0);
+        QCOMPARE(differs.value("before").toObject(), (QJsonObject{{"title", "In XMP"}}));
+        QCOMPARE(differs.value("after").toObject(), (QJsonObject{{"title", "New"}}));
     }
 
     void shownJsonIsAView()
