@@ -100,7 +100,7 @@ std::vector<std::string> OptionParser::parse(int argc, char** argv)
         if (option == nullptr)
             refuse(argv, argc);
         if (optarg != nullptr && optarg == argv[optind - 1])
-            requireValue("--" + option->name, optarg);
+            requireValue(*option, optarg);
         m_takers.at(option->name)(optarg != nullptr ? optarg : "");
     }
     std::vector<std::string> words(argv + optind, argv + argc);
@@ -124,20 +124,31 @@ void OptionParser::refuse(char** argv, int count) const
                                           (word.starts_with('-') ? word : whole).substr(1)));
 }
 
+/// Long names may be cut short, letters stand together.
 bool OptionParser::isOption(const std::string& word) const
 {
-    return std::any_of(m_options.begin(), m_options.end(), [&](const Option& each) {
-        return word == "--" + each.name || word.starts_with("--" + each.name + "=") ||
-               (each.letter != 0 && word == std::string("-") + each.letter);
+    if (word.size() < 2 || word[0] != '-')
+        return false;
+    const auto any = [this](const auto& isIt) {
+        return std::any_of(m_options.begin(), m_options.end(), isIt);
+    };
+    if (word[1] == '-') {
+        const std::string name = word.substr(2, word.find('=') - 2);
+        return !name.empty() && any([&](const Option& each) { return each.name.starts_with(name); });
+    }
+    return std::all_of(word.begin() + 1, word.end(), [&](char letter) {
+        return any([=](const Option& each) { return each.letter == letter; });
     });
 }
 
 /// A value that was forgotten would take the next option with it: "--title -n" is no dry run.
-void OptionParser::requireValue(const std::string& option, const std::string& value) const
+void OptionParser::requireValue(const Option& option, const std::string& value) const
 {
+    const std::string name = "--" + option.name;
     if (isOption(value))
-        throw UsageError("the option " + option + " needs a value, and \"" + value + "\" is an option; \"" +
-                         option + "=" + value + "\" would make it the value");
+        throw UsageError(
+            "the option " + name + " needs a value, and \"" + value + "\" is an option" +
+            (option.words.empty() ? "; \"" + name + "=" + value + "\" would make it the value" : ""));
 }
 
 OptionParser::Take appendTo(std::vector<std::string>& values)

@@ -35,7 +35,7 @@ private:
     void take(const std::string& name, bool isFlag, Take take);
     [[noreturn]] void refuse(char** argv, int count) const;
     bool isOption(const std::string& word) const;
-    void requireValue(const std::string& option, const std::string& value) const;
+    void requireValue(const options::Option& option, const std::string& value) const;
 
     const options::Command& m_command;
     std::vector<options::Option> m_options;

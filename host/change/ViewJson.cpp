@@ -92,10 +92,12 @@ int numberOfName(const QString& name, const QJsonValue& value, std::span<const v
             return each.number;
         known.emplace_back(each.name);
     }
-    std::string choices = "one of";
+    std::string choices;
     for (const std::string& each : known)
-        choices += " " + each;
-    refuse(name, value, choices + suggestion::didYouMean(value.toString().toStdString(), known));
+        choices += (choices.empty() ? "" : ", ") + each;
+    throw UsageError(name.toStdString() + " cannot be " + textOf(value).toStdString() +
+                     suggestion::didYouMean(value.toString().toStdString(), known) + "\nit is one of " +
+                     choices);
 }
 
 /// Any text: documents have them of all kinds.

@@ -234,13 +234,14 @@ private slots:
         const Rows<QByteArray, QByteArray> add;
         const auto row = [&add](const char* json, const char* answer) { add(json, json, answer); };
         row(R"({"pagemode":"UseNone"})", "unknown name \"pagemode\"; did you mean \"pageMode\"?");
-        row(R"({"pageMode":"use-none"})", "pageMode cannot be \"use-none\": it is one of UseNone");
+        row(R"({"pageMode":"use-none"})",
+            "pageMode cannot be \"use-none\"; did you mean \"UseNone\"?\nit is one of UseNone, UseOutlines");
         row(R"({"pageMode":7})", "pageMode cannot be 7");
         row(R"({"openAction":5})", "an object or null");
         row(R"({"openAction":{"page":0}})", "page cannot be 0");
         row(R"({"openAction":{"page":1.5}})", "page cannot be 1.5");
         row(R"({"openAction":{"page":null}})", "page cannot be null");
-        row(R"({"openAction":{"type":"JavaScript"}})", "type cannot be \"JavaScript\": it is one of XYZ");
+        row(R"({"openAction":{"type":"JavaScript"}})", "type cannot be \"JavaScript\"\nit is one of XYZ");
         row(R"({"openAction":{"type":"Fit","zoom":50}})", "only the type XYZ");
         row(R"({"openAction":{"zoom":0}})", "zoom cannot be 0: it is a percentage above 0, or null");
         row(R"({"openAction":{"zoom":"50%"}})", "zoom cannot be \"50%\"");

@@ -32,7 +32,9 @@ private slots:
         row("run -x a.pdf", "unknown option -x; \"quintar run --help-all\" lists the options");
         // Without this answer the document would be changed, in place, to a title of "-n".
         row("run --title -n --in-place a.pdf", "the option --title needs a value, and \"-n\" is an option");
-        row("run --hide-toolbar --in-place a.pdf", "\"--hide-toolbar=--in-place\" would make it the value");
+        row("run --title -nq --in-place a.pdf", "\"--title=-nq\" would make it the value");
+        row("run --title --in a.pdf -n", "\"--in\" is an option");
+        row("run --hide-toolbar --in-place a.pdf", "needs a value, and \"--in-place\" is an option\n");
         row("run \u2013-page-mode none --in-place a.pdf", "begins with a dash that is no hyphen");
         row("run --title-from-file-name --title-if-empty --in-place a.pdf",
             "did you mean \"--title-if-missing\"?");
