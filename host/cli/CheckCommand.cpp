@@ -45,8 +45,8 @@ int CheckCommand::work(const std::vector<std::string>& words)
     const CheckTeller::Question question{m_asked.change(), m_asked.entries(), plugin.action(),
                                          m_json || m_live.events() != nullptr};
     // In JSON, notes stand in the lines.
-    ReadingRun run(plan, {m_documents.password(), m_limits, m_live.control(), m_live.events(), m_quiet || m_json,
-                          m_json ? CheckTeller::failureInJson : ReadingRun::FailureLine(),
+    ReadingRun run(plan, {m_documents.password(), m_limits, m_live.control(), m_live.events(),
+                          m_quiet || m_json, m_json ? CheckTeller::failureInJson : ReadingRun::FailureLine(),
                           streams ? &*streams : nullptr});
     const int status =
         run.run([&](auto& library) { return std::make_unique<CheckTeller>(library, question); });

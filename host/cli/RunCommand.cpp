@@ -151,8 +151,8 @@ bool RunCommand::printsResult() const
 void RunCommand::checkStandardOutput() const
 {
     const bool printsReport = m_reportFile == Report::standardOutput;
-    const bool readsInput = hasStandardInput() || m_documentOptions.readsStandardInput() ||
-                            m_changeOptions.readsStandardInput();
+    const bool readsInput =
+        hasStandardInput() || m_documentOptions.readsStandardInput() || m_changeOptions.readsStandardInput();
     m_live.check(printsResult() ? "-o -" : printsReport ? "--report -" : "", readsInput);
     if (printsResult() && printsReport)
         throw UsageError("-o - and --report - exclude each other: standard output takes one of them");

@@ -595,9 +595,10 @@ private slots:
                              {"show", "-j1", "--timeout", "1", "--memory", "300", "in"}, m_folder->path());
         QCOMPARE(run.status, 1);
         QVERIFY2(run.out.startsWith("in/1-good.pdf\n") && run.out.contains("in/5-good.pdf\n"), run.out);
-        QCOMPARE(run.err, QByteArray("quintar: in/2-crash.pdf: the worker process crashed on it: Aborted\n"
-                                     "quintar: in/3-hungry.pdf: the document needs more memory than there is\n"
-                                     "quintar: in/4-hang.pdf: it took longer than 1 s\n"));
+        QCOMPARE(run.err,
+                 QByteArray("quintar: in/2-crash.pdf: the worker process crashed on it: Aborted\n"
+                            "quintar: in/3-hungry.pdf: the document needs more memory than there is\n"
+                            "quintar: in/4-hang.pdf: it took longer than 1 s\n"));
     }
 
     void stopsWhenAsked()
