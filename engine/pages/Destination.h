@@ -16,8 +16,8 @@ class PageTree;
 struct Destination
 {
     int page = 0; ///< From 1.
-    int type = 0; ///< 1 to 5, see docs/engine.md.
-    int form = 0; ///< The type that is written, 1 to 8; 0 for none that is known.
+    int type = 0; ///< A pdflibrary::DestinationType of the first five.
+    int form = 0; ///< The pdflibrary::DestinationType that is written; 0 for none that is known.
     double left = 0;
     double top = 0;
     double right = 0;
@@ -28,23 +28,25 @@ struct Destination
     bool operator==(const Destination&) const = default;
 };
 
-/// Where the document's open action leads to, as the document has it.
-struct OpenActionTarget
+/// Where an action leads to, as the document has it.
+struct ActionTarget
 {
     QPDFObjectHandle array; ///< The explicit destination.
     std::string name;       ///< As in Destination.
 };
 
-/// Nothing when there is no open action, when it does not go to a destination, or when its name is not
-/// defined.
-std::optional<OpenActionTarget> openActionTarget(Document& document);
+/// \param action a destination, or an action that goes to one. Nothing for anything else, and when its name is
+/// not defined.
+std::optional<ActionTarget> destinationTarget(Document& document, QPDFObjectHandle action);
+/// The same of the document's open action.
+std::optional<ActionTarget> openActionTarget(Document& document);
 
 /// Nothing when the target's page is no page of the document.
-std::optional<Destination> readDestination(Document& document, OpenActionTarget target, PageTree& pages);
+std::optional<Destination> readDestination(Document& document, ActionTarget target, PageTree& pages);
 
 /// What follows the page in an explicit destination: its type and all operands.
-/// \param form 1 to 8.
-/// \param zoom in percent.
+/// \param form a pdflibrary::DestinationType but FitRectangle.
+/// \param zoom in percent, 0 for none.
 /// \param corner the upper left one of what is to be seen, as the page is shown.
 /// \param onItsSide the page is shown rotated by 90 or 270 degrees: what is at the top is one of its sides.
 QPDFObjectHandle destinationOperands(int form, int zoom, const Point& corner, bool onItsSide);
@@ -52,7 +54,8 @@ QPDFObjectHandle destinationOperands(int form, int zoom, const Point& corner, bo
 /// The same for /FitR, which shows this part of the page.
 QPDFObjectHandle rectangleOperands(const QPDFObjectHandle::Rectangle& rectangle);
 
-/// A destination of type /XYZ that shows what `array`, which reads as that type, shows at another magnification.
+/// A destination of type /XYZ that shows what `array`, which reads as that type, shows at another
+/// magnification.
 /// \param percent 0 for none.
 QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent);
 

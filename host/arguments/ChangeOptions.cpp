@@ -19,7 +19,7 @@ namespace {
 
 const std::size_t longestLanguage = 3;
 
-/// How a document opens, for others to open so.
+/// The change that makes other documents open as this one does.
 ViewChange viewOf(const std::string& file, const std::string& password)
 {
     LoadedDocument document(file, password);

@@ -36,7 +36,8 @@ const char ifMissing[] = "titleIfMissing";
 const char invalid[] = "invalid";
 
 /// What stands in the object of a document besides its view.
-const Names facts{"file", "fileBytes", "pages", "encrypted", "signatures", invalid};
+const Names facts{"file",      "fileBytes", "pages",   "encrypted",   "signatures",
+                  "certified", "bookmarks", "outline", "outlineNote", invalid};
 
 bool isPreference(const Description& entry)
 {

@@ -2,6 +2,7 @@
 
 #include "host/arguments/LimitOptions.h"
 #include "host/arguments/OptionParser.h"
+#include "host/change/ViewJson.h"
 #include "host/plan/RunPlan.h"
 #include "host/report/EarlierReport.h"
 #include "host/report/Report.h"
@@ -54,8 +55,8 @@ int RunCommand::work(const std::vector<std::string>& words)
             throw UsageError(problem.text);
     m_options.tellStates = m_reportFile.has_value();
     m_options.tellChanges = m_reportFile.has_value() || !m_quiet || m_live.events() != nullptr;
-    if (report) // may lie in the output folder
-        begin(*report);
+    if (report) // only now, for it may lie in the output folder
+        begin(*report, plan);
     const int status = BatchRun(plan, m_options,
                                 {m_live.control(), m_live.events(), report ? &*report : nullptr, tells(),
                                  m_streams ? &*m_streams : nullptr, std::move(done)})
@@ -65,9 +66,14 @@ int RunCommand::work(const std::vector<std::string>& words)
     return status;
 }
 
-void RunCommand::begin(Report& report) const
+void RunCommand::begin(Report& report, const RunPlan& plan) const
 {
-    report.begin();
+    const bool changesView = !m_options.change.isEmpty();
+    report.begin({{"command", name()},
+                  {"documents", static_cast<qint64>(plan.documents().size())},
+                  {"inPlace", m_options.inPlace},
+                  {"dryRun", m_options.dryRun},
+                  {"change", changesView ? QJsonValue(viewjson::write(m_options.change)) : QJsonValue()}});
     if (!report.doubt().empty())
         note(report.doubt());
 }
@@ -197,7 +203,7 @@ BatchRun::Done RunCommand::doneBefore(const RunPlan& plan) const
     if (!m_resumedReport || firstRun)
         return {};
     BatchRun::Done done = EarlierReport(*m_resumedReport, plan).done();
-    if (continuesReport()) // which has the lines
+    if (continuesReport()) // the file has these lines already
         for (auto& [place, line] : done)
             line.clear();
     return done;

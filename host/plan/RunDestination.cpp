@@ -1,9 +1,8 @@
 #include "RunDestination.h"
 
+#include "host/files/Paths.h"
 #include "host/saving/SafeOutput.h"
 #include "host/terminal/UsageError.h"
-
-#include <strings.h>
 
 #include <algorithm>
 #include <cctype>
@@ -13,14 +12,8 @@ namespace host {
 
 namespace {
 
-const std::size_t lengthOfPdf = 4;
 const std::size_t shortestSuffix = 2; // "out.d" is a folder's name
 const std::size_t longestSuffix = 4;
-
-bool endsInPdf(const std::string& path)
-{
-    return path.size() > lengthOfPdf && strcasecmp(path.c_str() + path.size() - lengthOfPdf, ".pdf") == 0;
-}
 
 /// Whether the name ends in a suffix as files have it: a few letters. "v1.0" is none, nor is "out.d/".
 bool looksLikeFile(const std::string& path)
@@ -36,23 +29,10 @@ bool looksLikeFile(const std::string& path)
                        [](unsigned char each) { return std::isalpha(each) != 0; });
 }
 
-/// Where the name's ".pdf" begins, or its end.
-std::size_t endOfStem(const std::string& path)
-{
-    return path.size() - (endsInPdf(path) ? lengthOfPdf : 0);
-}
-
 /// The path without "." and "..", links not followed: a linked document keeps the place it is named by.
 std::filesystem::path absolutePath(const std::string& path)
 {
     return std::filesystem::absolute(path).lexically_normal();
-}
-
-std::string withoutTrailingSlashes(std::string path)
-{
-    while (path.size() > 1 && path.back() == '/')
-        path.pop_back();
-    return path;
 }
 
 } // namespace
@@ -83,7 +63,7 @@ RunDestination RunDestination::beside(const std::string& suffix)
 {
     if (suffix.empty() || suffix.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
         throw UsageError("--suffix takes a text for file names, without slashes, not \"" + suffix + "\"");
-    if (endsInPdf("x" + suffix) || suffix.starts_with('-'))
+    if (isPdfName("x" + suffix) || suffix.starts_with('-'))
         throw UsageError("--suffix takes what stands between \"manual-\" and \".pdf\", not \"" + suffix +
                          "\"");
     return {Kind::Beside, "-" + suffix};
@@ -96,7 +76,7 @@ RunDestination RunDestination::named(const std::string& path, const std::string&
     struct stat status;
     const bool exists = stat(path.c_str(), &status) == 0;
     const bool isFolder = exists && S_ISDIR(status.st_mode);
-    const bool isFile = path == standardStream || (!isFolder && endsInPdf(path));
+    const bool isFile = path == standardStream || (!isFolder && isPdfName(path));
     if (isFile && !base.empty())
         throw UsageError("--base goes with a folder for the results, not with -o " + path);
     if (exists && !isFolder && !(isFile && S_ISREG(status.st_mode)) && path != standardStream)

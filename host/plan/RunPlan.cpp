@@ -3,6 +3,7 @@
 #include "FolderWalk.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/Links.h"
+#include "host/files/Paths.h"
 #include "host/terminal/NearbyFile.h"
 #include "host/terminal/UsageError.h"
 
@@ -18,13 +19,6 @@ namespace host {
 namespace {
 
 const int mostSuggestions = 10;
-
-std::string withoutTrailingSlashes(std::string path)
-{
-    while (path.size() > 1 && path.back() == '/')
-        path.pop_back();
-    return path;
-}
 
 } // namespace
 

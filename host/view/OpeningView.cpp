@@ -76,6 +76,8 @@ OpeningView OpeningView::read(TelvarPDFLibraryCPDylibCPP1311& library)
     OpeningView view;
     view.m_pageCount = library.PageCount();
     view.m_signatures = library.SecurityInfo(engine::SignatureCount);
+    view.m_certified = library.SecurityInfo(engine::Certification) != 0;
+    view.m_bookmarks = library.OutlineCount();
     view.m_encrypted = library.EncryptionStatus() != engine::NotEncrypted;
     const PresentView present(library);
     for (const viewentries::Description& each : viewentries::all())
@@ -116,6 +118,10 @@ std::string OpeningView::factsInWords() const
         text += line("Encrypted", "yes");
     if (m_signatures > 0)
         text += line("Signatures", std::to_string(m_signatures));
+    if (m_certified)
+        text += line("Certified", "yes");
+    if (m_bookmarks > 0)
+        text += line("Bookmarks", std::to_string(m_bookmarks));
     return text;
 }
 
@@ -158,6 +164,8 @@ QJsonObject OpeningView::toJson() const
     object.insert("pages", m_pageCount);
     object.insert("encrypted", m_encrypted);
     object.insert("signatures", m_signatures);
+    object.insert("certified", m_certified);
+    object.insert("bookmarks", m_bookmarks);
     if (QJsonObject action = object.value("openAction").toObject(); action.contains("page")) {
         action.insert("name", m_destinationName.empty()
                                   ? QJsonValue()
