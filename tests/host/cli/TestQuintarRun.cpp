@@ -589,7 +589,7 @@ private slots:
         for (const char* name :
              {"in/1-good.pdf", "in/2-crash.pdf", "in/3-hungry.pdf", "in/4-hang.pdf", "in/5-good.pdf"})
             put(name);
-        const ProgramRun run(programWithTroubledLibrary(),
+        const ProgramRun run(programBesideTrouble(path("installed")),
                              {"show", "-j1", "--timeout", "1", "--memory", "300", "in"}, m_folder->path());
         QCOMPARE(run.status, 1);
         QVERIFY2(run.out.startsWith("in/1-good.pdf\n") && run.out.contains("in/5-good.pdf\n"), run.out);
