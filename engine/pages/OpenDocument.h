@@ -6,7 +6,9 @@
 
 namespace engine {
 
-/// A document of a session, with the page that is selected in it. Owned by the session, used by its thread.
+/// A document of a session: its objects, its pages, and which page is selected. Owned by the session, used by
+/// its thread. All that reads an object may throw DirectReadingEnded; who runs an operation then calls
+/// readWhole() and runs it again.
 struct OpenDocument
 {
     /// Reads the cross-reference and the catalog; pages are looked for when they are asked for.
@@ -27,17 +29,19 @@ struct OpenDocument
         lastBox = {};
     }
 
+    /// The objects, and which of them were changed.
     Document document;
+    /// The pages of `document`.
     PageTree pages;
     Outline outline;
     /// From 1. The document may have fewer pages: that shows when the page is used.
     int selectedPage = 1;
 
-    /// A page box that was asked for: its sides are asked for one by one.
+    /// The page box that was asked for last: its sides are asked for one by one.
     struct
     {
-        int page = 0;
-        int box = 0;
+        int page = 0; ///< From 1; 0 for none.
+        int box = 0;  ///< A pdflibrary::PageBox.
         QPDFObjectHandle::Rectangle rectangle;
     } lastBox;
 };

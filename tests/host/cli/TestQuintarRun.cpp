@@ -1,4 +1,5 @@
 // Runs the program as a user does, and has its documents confirmed by another reader.
+#include "support/FileStatus.h"
 #include "support/PdfBuilder.h"
 #include "support/ProgramRun.h"
 #include "support/Rows.h"
@@ -104,15 +105,28 @@ private slots:
                                     {"reason", QJsonValue()}}));
     }
 
+    void changesInPlace_data()
+    {
+        const Rows<QString, bool, QByteArray>
+            row; // whether the document has another name, and how it is saved
+        row("where it lies", "--in-place", false, "appended in place");
+        row("with another name", "--in-place", true, "appended");
+        row("as asked for", "--in-place --replace", false, "appended");
+    }
+
     void changesInPlace()
     {
+        const auto [words, isLinked, saved] = Rows<QString, bool, QByteArray>::current();
         const std::string original = put("real/a.pdf");
         QCOMPARE(chmod("real/a.pdf", 0640), 0);
         fs::create_symlink("real/a.pdf", "link.pdf");
-        fs::create_hard_link("real/a.pdf", "kept.pdf");
-        const ProgramRun run = apply({"--in-place", "link.pdf"});
+        isLinked ? fs::create_hard_link("real/a.pdf", "kept.pdf") : fs::copy("real/a.pdf", "kept.pdf");
+        const ino_t file = statusOf("real/a.pdf").st_ino;
+        const ProgramRun run = apply(words.split(' ') + QStringList{"link.pdf"});
         QCOMPARE(run.err, QByteArray());
         QCOMPARE(run.status, 0);
+        QVERIFY2(run.out.startsWith("changed (" + saved + ")  link.pdf"), run.out);
+        QCOMPARE(statusOf("real/a.pdf").st_ino == file, saved == "appended in place");
         QVERIFY(fs::is_symlink("link.pdf"));
         QCOMPARE(fs::read_symlink("link.pdf").string(), std::string("real/a.pdf"));
         QCOMPARE(int(fs::status("real/a.pdf").permissions()), 0640);
@@ -202,6 +216,7 @@ private slots:
         row("number of jobs", "run -o out --jobs 0 a.pdf" + set, "1 to 1024");
         row("signed", "run -o out --signed maybe a.pdf" + set, "refuse, append or append-certified");
         row("rewriting in place", "run --in-place --rewrite a.pdf" + set, "--rewrite goes with -o");
+        row("replacing elsewhere", "run -o out --replace a.pdf" + set, "--replace goes with --in-place");
         row("null without list", "run -o out --null a.pdf" + set, "--files-from");
         row("endless list", "run -o out --files-from /dev/zero" + set, "too large");
         row("empty name", "run -o out ''" + set, "empty");
@@ -564,6 +579,24 @@ private slots:
             QVERIFY2(!name.contains("hang") || reason.contains("longer than 8 s"), qPrintable(reason));
             QVERIFY2(!name.contains("hungry") || reason.contains("memory"), qPrintable(reason));
         }
+    }
+
+    void limitsHoldForReadingToo()
+    {
+#if defined(__SANITIZE_ADDRESS__)
+        QSKIP("workers have no memory limit under the sanitizer");
+#endif
+        for (const char* name :
+             {"in/1-good.pdf", "in/2-crash.pdf", "in/3-hungry.pdf", "in/4-hang.pdf", "in/5-good.pdf"})
+            put(name);
+        const ProgramRun run(programWithTroubledLibrary(),
+                             {"show", "-j1", "--timeout", "1", "--memory", "300", "in"}, m_folder->path());
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.out.startsWith("in/1-good.pdf\n") && run.out.contains("in/5-good.pdf\n"), run.out);
+        QCOMPARE(run.err,
+                 QByteArray("quintar: in/2-crash.pdf: the worker process crashed on it: Aborted\n"
+                            "quintar: in/3-hungry.pdf: the document needs more memory than there is\n"
+                            "quintar: in/4-hang.pdf: it took longer than 1 s\n"));
     }
 
     void stopsWhenAsked()

@@ -192,6 +192,57 @@ private slots:
         QVERIFY(snapshotOf("in/b.pdf") == before);
     }
 
+    void leavesTheDocumentTheSameFile()
+    {
+        const ino_t file = statusOf("in/a.pdf").st_ino;
+        QCOMPARE(change("thumbs", "report").status, 0);
+        QCOMPARE(statusOf("in/a.pdf").st_ino, file);
+        QCOMPARE(undo({"report"}).status, 0);
+        QCOMPARE(statusOf("in/a.pdf").st_ino, file);
+        fs::create_hard_link("in/a.pdf", "other.pdf");
+        QCOMPARE(change("thumbs", "report").status, 0);
+        fs::rename("in/a.pdf", "changed.pdf");
+        fs::create_hard_link("changed.pdf", "in/a.pdf");
+        QCOMPARE(undo({"report"}).status, 0);
+        QVERIFY(WorkFolder::contentOf("changed.pdf") != WorkFolder::contentOf("in/a.pdf"));
+    }
+
+    // What a run leaves that is killed with all its workers while it appends where the document lies.
+    void takesHalfAnUpdateBack()
+    {
+        const Snapshots before = snapshots();
+        QCOMPARE(change("thumbs", "report").status, 0);
+        const std::string after = WorkFolder::contentOf("in/a.pdf");
+        const std::string report = WorkFolder::contentOf("report");
+        WorkFolder::put("report", report.substr(0, report.find('\n') + 1)); // the line "begun"
+        const std::size_t lastLines = after.rfind("startxref");
+        for (const std::size_t size : {after.size(), lastLines}) {
+            WorkFolder::put("in/a.pdf", after.substr(0, size));
+            QCOMPARE(undo({"report"}).out, "undone  " + m_folder->path("in/a.pdf").toUtf8() +
+                                               "\n1 undone, 0 undone already, 0 left alone\n");
+            QVERIFY(snapshots() == before);
+        }
+        for (const std::string& other : {after.substr(0, lastLines - 1),
+                                         after.substr(0, lastLines) + "startxref\n1\n", after + "%%EOF\n"}) {
+            WorkFolder::put("in/a.pdf", other);
+            QCOMPARE(undo({"report"}).status, 1);
+            QCOMPARE(WorkFolder::contentOf("in/a.pdf"), other);
+        }
+    }
+
+    // Killed itself, it may have cut a document off and not restored the time.
+    void restoresTheTimeOfWhatIsCutOffAlready()
+    {
+        const Snapshots before = snapshots();
+        QCOMPARE(change("thumbs", "report").status, 0);
+        fs::resize_file("in/a.pdf", before.at("in/a.pdf").bytes.size());
+        QVERIFY(
+            undo({"--dry-run", "report"}).out.contains("0 would be undone, 1 undone already, 0 left alone"));
+        QVERIFY(snapshots() != before);
+        QVERIFY(undo({"report"}).out.contains("0 undone, 1 undone already, 0 left alone"));
+        QVERIFY(snapshots() == before);
+    }
+
     // What another program did between two runs stays, and all that is older.
     void stopsAtAChangeBetweenTwoRuns()
     {
