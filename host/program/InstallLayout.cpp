@@ -28,6 +28,11 @@ std::string libraryFile()
     return moduleFile("TelvarPDFLibraryCPDylib1311.dylib");
 }
 
+std::string renderProgram()
+{
+    return moduleFile("quintar-render");
+}
+
 std::wstring toLibraryPath(std::string_view bytes)
 {
     std::wstring path;

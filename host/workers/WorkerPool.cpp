@@ -359,6 +359,7 @@ void WorkerPool::end(Process& process, const Done& done, WorkOutcome::Kind kind,
     process.id = 0;
     process.wakeUps.close();
     takeAnswers(process, done);
+    // The only piece that there is, is what it was at, unless it was to find none.
     const std::uint64_t told = (*process.slot)->piece();
     const std::uint64_t place = m_round.size() == 1 && untaken() == 0 ? 0 : told;
     pieceEnded(place, done,
