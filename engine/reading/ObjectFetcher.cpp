@@ -13,27 +13,10 @@ namespace engine {
 
 namespace {
 
-/// The references that an array consists of. \returns nothing when it holds anything else.
-std::shared_ptr<KidReferences> referencesIn(std::string_view array)
-{
-    if (!array.starts_with('[') || !array.ends_with(']'))
-        return nullptr;
-    auto references = std::make_shared<KidReferences>();
-    references->reserve(array.size() / 8);
-    SyntaxScanner scanner(array, 1);
-    for (scanner.skipSpace(); scanner.position() + 1 < array.size(); scanner.skipSpace()) {
-        const auto id = scanner.reference();
-        if (!id)
-            return nullptr;
-        references->emplace_back(id->number, id->generation);
-    }
-    return references;
-}
-
 struct NodeText
 {
     std::string withoutKids;
-    std::shared_ptr<KidReferences> kids;
+    std::shared_ptr<const KidList> kids;
 };
 
 /// Splits a node's text. \returns nothing for what is no node, or has kids that are no references.
@@ -44,7 +27,7 @@ std::optional<NodeText> splitNode(std::string_view text)
     while (const auto entry = scanner.next()) {
         if (entry->key != "Kids")
             continue;
-        auto kids = split ? nullptr : referencesIn(entry->value);
+        auto kids = split ? nullptr : KidList::of(entry->value);
         if (!kids)
             return std::nullopt;
         const auto start = static_cast<std::size_t>(entry->key.data() - 1 - text.data());
@@ -124,7 +107,7 @@ void ObjectFetcher::fetchNode(QPDFObjectHandle object)
         m_fetched.insert(id);
 }
 
-std::shared_ptr<const KidReferences> ObjectFetcher::kidsOf(QPDFObjGen id) const
+std::shared_ptr<const KidList> ObjectFetcher::kidsOf(QPDFObjGen id) const
 {
     const auto known = m_kids.find(id);
     return known == m_kids.end() ? nullptr : known->second;
