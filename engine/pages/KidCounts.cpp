@@ -5,24 +5,23 @@
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 namespace engine {
 
-KidCounts::KidCounts(Document& document, Kids kids, int total)
-    : m_document(&document), m_kids(std::move(kids)), m_total(total)
+KidCounts::KidCounts(Document& document, const QPDFObjectHandle& node)
+    : m_document(document), m_kids(document.kids(node)), m_total(statedCount(document, node).value_or(-1))
 {}
 
-std::optional<KidCounts> KidCounts::of(Document& document, const QPDFObjectHandle& node)
+bool KidCounts::isLikely()
 {
-    const std::optional<int> total = statedCount(document, node);
-    if (!total)
-        return std::nullopt;
-    KidCounts counts(document, document.kids(node), *total);
-    if (counts.isList())
-        return counts;
-    counts.m_regular = counts.looksRegular();
-    return counts.m_regular || counts.addUp() ? std::optional(std::move(counts)) : std::nullopt;
+    return isList() || (m_kids.size() < m_total && pagesUnder(m_document, m_kids, 0) > 1) || isBorneOut();
+}
+
+bool KidCounts::isBorneOut()
+{
+    if (m_count == Count::Unproved && !isList() && looksRegular() && haveFitted())
+        m_count = Count::Regular;
+    return isList() || m_count == Count::Regular || addUp();
 }
 
 /// Whether the first and the last kid fit the node's count, and those where the counts change from the one's
@@ -30,8 +29,8 @@ std::optional<KidCounts> KidCounts::of(Document& document, const QPDFObjectHandl
 bool KidCounts::looksRegular()
 {
     const int kids = m_kids.size();
-    const auto early = kids > 0 ? pagesUnder(*m_document, m_kids, 0) : std::nullopt;
-    const auto late = early ? pagesUnder(*m_document, m_kids, kids - 1) : std::nullopt;
+    const auto early = kids > 0 ? pagesUnder(m_document, m_kids, 0) : std::nullopt;
+    const auto late = early ? pagesUnder(m_document, m_kids, kids - 1) : std::nullopt;
     if (!late)
         return false;
     m_early = *early;
@@ -40,20 +39,31 @@ bool KidCounts::looksRegular()
     const long long difference = m_early - m_late;
     if (difference == 0)
         return behindEarly == 0;
-    if (behindEarly % difference != 0 || behindEarly / difference < 1 || behindEarly / difference >= kids)
+    const long long change = behindEarly / difference;
+    if (change * difference != behindEarly || change < 1 || change >= kids)
         return false;
-    m_change = static_cast<int>(behindEarly / difference);
-    return pagesUnder(*m_document, m_kids, m_change - 1) == early &&
-           pagesUnder(*m_document, m_kids, m_change) == late;
+    m_change = static_cast<int>(change);
+    return pagesUnder(m_document, m_kids, m_change - 1) == early &&
+           pagesUnder(m_document, m_kids, m_change) == late;
+}
+
+/// Whether the kids that were added up before it was known how they should be are so.
+bool KidCounts::haveFitted() const
+{
+    for (std::size_t kid = 0; kid + 1 < m_front.size(); ++kid)
+        if (m_front[kid + 1] - m_front[kid] != expected(static_cast<int>(kid)))
+            return false;
+    return true;
 }
 
 bool KidCounts::addFromFront()
 {
     const int kid = static_cast<int>(m_front.size()) - 1;
-    const auto pages = pagesUnder(*m_document, m_kids, kid);
-    if (m_regular && !fits(kid, pages))
+    const auto pages = kid < m_kids.size() ? pagesUnder(m_document, m_kids, kid) : std::nullopt;
+    const bool isPossible = pages && *pages <= m_total - m_front.back();
+    if (m_count == Count::Regular && (!isPossible || *pages != expected(kid)))
         return addUp();
-    if (!pages || *pages > m_total - m_front.back())
+    if (!isPossible)
         return false;
     m_front.push_back(m_front.back() + *pages);
     return true;
@@ -62,8 +72,8 @@ bool KidCounts::addFromFront()
 bool KidCounts::addFromBack()
 {
     const int kid = m_kids.size() - static_cast<int>(m_back.size());
-    const auto pages = pagesUnder(*m_document, m_kids, kid);
-    if (!fits(kid, pages))
+    const auto pages = pagesUnder(m_document, m_kids, kid);
+    if (!pages || *pages != expected(kid))
         return addUp();
     m_back.push_back(m_back.back() + *pages);
     return true;
@@ -71,11 +81,15 @@ bool KidCounts::addFromBack()
 
 bool KidCounts::addUp()
 {
-    m_regular = false;
-    while (static_cast<int>(m_front.size()) <= m_kids.size())
-        if (!addFromFront())
-            return false;
-    return m_front.back() == m_total;
+    if (m_count != Count::Sum && m_count != Count::Wrong) {
+        m_count = Count::Wrong;
+        while (static_cast<int>(m_front.size()) <= m_kids.size())
+            if (!addFromFront())
+                return false;
+        if (m_front.back() == m_total)
+            m_count = Count::Sum;
+    }
+    return m_count == Count::Sum;
 }
 
 std::optional<KidCounts::Place> KidCounts::placeOf(int page)
@@ -83,10 +97,12 @@ std::optional<KidCounts::Place> KidCounts::placeOf(int page)
     if (isList())
         return Place{page - 1, page - 1};
     const bool isLate = page > m_total / 2;
-    while (m_regular && isLate && m_total - m_back.back() >= page)
+    if (isLate && !isBorneOut())
+        return std::nullopt;
+    while (isLate && m_count == Count::Regular && m_total - m_back.back() >= page)
         if (!addFromBack())
             return std::nullopt;
-    if (m_regular && isLate) {
+    if (isLate && m_count == Count::Regular) {
         const auto behind = std::upper_bound(m_back.begin(), m_back.end(), m_total - page);
         return Place{m_kids.size() - static_cast<int>(behind - m_back.begin()), m_total - *behind};
     }
@@ -103,10 +119,13 @@ std::optional<int> KidCounts::pagesBefore(int kid)
         return kid;
     const auto before = static_cast<std::size_t>(kid);
     const auto behind = static_cast<std::size_t>(m_kids.size() - kid);
-    while (m_regular && behind < before && m_back.size() <= behind)
+    const bool isLate = behind < before;
+    if (isLate && !isBorneOut())
+        return std::nullopt;
+    while (isLate && m_count == Count::Regular && m_back.size() <= behind)
         if (!addFromBack())
             return std::nullopt;
-    if (m_regular && behind < before)
+    if (isLate && m_count == Count::Regular)
         return m_total - m_back[behind];
     while (m_front.size() <= before)
         if (!addFromFront())

@@ -11,19 +11,25 @@ namespace engine {
 
 class Document;
 
-/// How many pages come before each kid of a node, as the counts say.
+/// How many pages come before each kid of a node, as the counts say. Only the kids that it takes to tell are
+/// looked at.
 ///
-/// Of few kids it is known without looking at all of them. A node with as many kids as pages has only pages.
-/// Writers that make nodes of one size make nodes whose kids have one count up to some kid, and one other
-/// count behind it; where the first and the last kid, and the two at that place, fit the node's count, the
-/// kids are looked at from the nearer end up to the one that is wanted, as long as they fit as well. The
-/// kids of any other node are added up.
+/// A node with as many kids as pages has only pages. In any other the kids' counts are added up to the kid
+/// that is wanted. From the back they are added up where the node's count is borne out: writers that make
+/// nodes of one size make nodes whose kids have one count up to some kid, and one other count behind it; the
+/// first and the last kid, and the two at that place, show whether the node's count can be their sum. Where it
+/// cannot, or where a kid does not fit, all are added up.
 class KidCounts
 {
 public:
     /// \param document must outlive the counts.
-    /// \returns nothing when the node's count is seen not to be the sum of its kids'.
-    static std::optional<KidCounts> of(Document& document, const QPDFObjectHandle& node);
+    /// \param node with a count from 0.
+    KidCounts(Document& document, const QPDFObjectHandle& node);
+
+    /// Whether the node's count can be the sum of its kids', as far as the first one shows.
+    bool isLikely();
+    /// The same, as far as four of them show, or else all.
+    bool isBorneOut();
 
     struct Place
     {
@@ -41,22 +47,20 @@ public:
     std::optional<int> pagesBefore(int kid);
 
 private:
-    KidCounts(Document& document, Kids kids, int total);
+    enum class Count { Unproved, Regular, Sum, Wrong };
 
     bool isList() const { return m_total == m_kids.size(); }
     bool looksRegular();
-    bool fits(int kid, std::optional<int> pages) const
-    {
-        return pages == (kid < m_change ? m_early : m_late);
-    }
+    bool haveFitted() const;
+    int expected(int kid) const { return kid < m_change ? m_early : m_late; }
     bool addFromFront();
     bool addFromBack();
     bool addUp();
 
-    Document* m_document;
+    Document& m_document;
     Kids m_kids;
     int m_total;
-    bool m_regular = false;
+    Count m_count = Count::Unproved;
     int m_early = 0;             // count of a regular node's kids before m_change
     int m_late = 0;              // and from there on
     int m_change = 0;            // place of a kid

@@ -17,6 +17,9 @@ namespace {
 // Trees of up to this many pages are walked whole, so that counts that lie do no harm.
 const int smallTree = 256;
 
+// Above this many pages what a kid more costs is to be felt where object streams are used.
+const int largeTree = 10'000;
+
 } // namespace
 
 QPDFObjectHandle PagePath::inherited(Document& document, const std::string& key,
@@ -57,7 +60,7 @@ bool PageTree::hasPages()
 
 int PageTree::pageCount()
 {
-    if (const std::optional<int> count = trustedCount())
+    if (const std::optional<int> count = believedCount())
         return *count;
     return static_cast<int>(walk().leaves.size());
 }
@@ -65,28 +68,24 @@ int PageTree::pageCount()
 std::shared_ptr<KidCounts> PageTree::countsOf(const QPDFObjectHandle& node)
 {
     // The root's are asked for again and again.
-    if (node.getObjGen() != m_countedNode || m_counts == nullptr) {
-        std::optional<KidCounts> counts = KidCounts::of(m_document, node);
-        if (!counts)
-            return nullptr;
-        auto kept = std::make_shared<KidCounts>(std::move(*counts));
-        if (node.getObjGen() != root().getObjGen())
-            return kept;
-        m_countedNode = node.getObjGen();
-        m_counts = std::move(kept);
-    }
+    if (node.getObjGen() != root().getObjGen())
+        return std::make_shared<KidCounts>(m_document, node);
+    if (m_counts == nullptr)
+        m_counts = std::make_shared<KidCounts>(m_document, node);
     return m_counts;
 }
 
 /// The root's count where it is believed. A document cannot have more pages than objects, but for pages that
 /// stand directly in their /Kids, which hardly anybody writes.
-std::optional<int> PageTree::trustedCount()
+std::optional<int> PageTree::believedCount()
 {
     if (m_walk || m_mustWalk || kindOf(m_document, root()) != KidKind::Node)
         return std::nullopt;
     const std::optional<int> count = statedCount(m_document, root());
-    const bool fits = count && *count > smallTree && *count < m_document.objectCount() && countsOf(root());
-    return fits ? count : std::nullopt;
+    if (!count || *count <= smallTree || *count >= m_document.objectCount())
+        return std::nullopt;
+    const std::shared_ptr<KidCounts> counts = countsOf(root());
+    return (*count > largeTree ? counts->isLikely() : counts->isBorneOut()) ? count : std::nullopt;
 }
 
 void PageTree::requirePage(int number)
@@ -103,7 +102,7 @@ const PagePath& PageTree::page(int number)
         return m_lastPath;
     if (number < 1 || number > pageCount())
         throw EngineError(ErrorCode::UnknownPage);
-    std::optional<PagePath> path = trustedCount() ? descend(number) : std::nullopt;
+    std::optional<PagePath> path = believedCount() ? descend(number) : std::nullopt;
     if (!path) {
         const std::vector<TreeWalk::Leaf>& pages = walk().leaves;
         if (static_cast<std::size_t>(number) > pages.size())
@@ -121,8 +120,7 @@ std::optional<PagePath> PageTree::descend(int number)
     std::set<QPDFObjGen> seen;
     QPDFObjectHandle node = root();
     while (true) {
-        const std::shared_ptr<KidCounts> counts = countsOf(node);
-        const auto place = counts ? counts->placeOf(number) : std::nullopt;
+        const auto place = countsOf(node)->placeOf(number);
         if (!place || !seen.insert(node.getObjGen()).second)
             return std::nullopt;
         path.nodes.push_back(node);
@@ -174,7 +172,7 @@ int PageTree::numberOf(const QPDFObjectHandle& page)
     if (!page.isIndirect())
         return 0;
     const QPDFObjGen wanted = page.getObjGen();
-    if (trustedCount()) {
+    if (believedCount()) {
         const std::optional<int> number = climb(page);
         if (number && this->page(*number).page.getObjGen() == wanted)
             return *number;
@@ -197,8 +195,7 @@ std::optional<int> PageTree::climb(QPDFObjectHandle page)
         if (kindOf(m_document, parent) != KidKind::Node)
             return std::nullopt;
         const int kid = m_document.kids(parent).placeOf(node.getObjGen());
-        const std::shared_ptr<KidCounts> counts = countsOf(parent);
-        const auto before = kid >= 0 && counts ? counts->pagesBefore(kid) : std::nullopt;
+        const auto before = kid >= 0 ? countsOf(parent)->pagesBefore(kid) : std::nullopt;
         if (!before || *before > INT_MAX - number)
             return std::nullopt;
         number += *before;

@@ -65,7 +65,7 @@ private:
     PagePath walkedPath(const TreeWalk::Leaf& leaf);
     QPDFObjGen idOf(const TreeWalk::Leaf& leaf);
     std::shared_ptr<KidCounts> countsOf(const QPDFObjectHandle& node);
-    std::optional<int> trustedCount();
+    std::optional<int> believedCount();
     std::optional<PagePath> descend(int number);
     QPDFObjectHandle holderOfKids(const PagePath& path);
     std::optional<int> climb(QPDFObjectHandle page);
@@ -74,8 +74,7 @@ private:
     std::optional<TreeWalk> m_walk; ///< Once the tree was walked.
     bool m_mustWalk = false;
     std::shared_ptr<KidCounts> m_counts; ///< Of the root.
-    QPDFObjGen m_countedNode;
-    int m_lastNumber = 0; ///< Number of the page in m_lastPath, 0 for none.
+    int m_lastNumber = 0;                ///< Number of the page in m_lastPath, 0 for none.
     PagePath m_lastPath;
 };
 

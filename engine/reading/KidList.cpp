@@ -2,25 +2,14 @@
 
 #include "engine/syntax/SyntaxScanner.h"
 
+#include <algorithm>
 #include <climits>
-#include <cstring>
 
 namespace engine {
 
 namespace {
 
 const int kidsPerMark = 32;
-
-/// Steps over a reference as nearly all are written. \returns null at any other.
-const char* behindUsualReference(const char* at, const char* end)
-{
-    const char* next = at;
-    while (next < end && isDigit(*next))
-        ++next;
-    const bool isNumber = next - at > 0 && next - at < 10 && *at != '0'; // below INT_MAX
-    const bool isUsual = isNumber && end - next > 4 && std::memcmp(next, " 0 R", 4) == 0;
-    return isUsual && !isRegular(next[4]) ? next + 4 : nullptr;
-}
 
 const char* skipSpace(const char* at, const char* end)
 {
@@ -31,34 +20,33 @@ const char* skipSpace(const char* at, const char* end)
 
 } // namespace
 
-std::shared_ptr<const KidList> KidList::of(std::string_view array)
+std::shared_ptr<const KidList> KidList::read(std::string_view text)
 {
-    if (!array.starts_with('[') || !array.ends_with(']'))
-        return nullptr;
-    std::shared_ptr<KidList> list(new KidList(array));
-    return list->count() ? list : nullptr;
+    std::shared_ptr<KidList> list(new KidList);
+    return text.starts_with('[') && list->count(text) ? list : nullptr;
 }
 
-bool KidList::count()
+bool KidList::count(std::string_view text)
 {
-    const char* const begin = m_text.data();
-    const char* const end = begin + m_text.size() - 1;
-    m_marks.reserve(m_text.size() / (10 * kidsPerMark) + 1);
-    for (const char* next = skipSpace(begin + 1, end); next < end; next = skipSpace(next, end)) {
+    const char* const begin = text.data();
+    const char* const end = begin + text.size();
+    const char* next = skipSpace(begin + 1, end);
+    for (; next < end && *next != ']'; next = skipSpace(next, end)) {
         if (m_size == INT_MAX)
             return false;
         if (m_size++ % kidsPerMark == 0)
             m_marks.push_back(static_cast<std::size_t>(next - begin));
-        const char* behind = behindUsualReference(next, end + 1);
+        const char* behind = SyntaxScanner::behindUsualReference(next, end);
         if (behind == nullptr) {
-            SyntaxScanner scanner(m_text, static_cast<std::size_t>(next - begin));
+            SyntaxScanner scanner(text, static_cast<std::size_t>(next - begin));
             if (!scanner.reference())
                 return false;
             behind = begin + scanner.position();
         }
         next = behind;
     }
-    return true;
+    m_text.assign(begin, std::min(next + 1, end));
+    return next < end;
 }
 
 /// Where a kid's reference begins, or the space before it.

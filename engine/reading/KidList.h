@@ -15,9 +15,11 @@ namespace engine {
 class KidList
 {
 public:
-    /// \param array its text, which is copied.
-    /// \returns null when it holds anything but references.
-    static std::shared_ptr<const KidList> of(std::string_view array);
+    /// Reads the array that a text begins with. \returns null when it holds anything but references.
+    static std::shared_ptr<const KidList> read(std::string_view text);
+
+    /// How long the array is, with its brackets.
+    std::size_t length() const { return m_text.size(); }
 
     int size() const { return m_size; }
     /// \param kid from 0 to size() - 1.
@@ -26,12 +28,12 @@ public:
     int placeOf(QPDFObjGen id) const;
 
 private:
-    explicit KidList(std::string_view array) : m_text(array) {}
+    KidList() = default;
 
-    bool count();
+    bool count(std::string_view text);
     std::size_t startOf(int kid) const;
 
-    std::string m_text;
+    std::string m_text;               // the array
     std::vector<std::size_t> m_marks; // where each so many-th reference begins
     int m_size = 0;
     mutable int m_nextKid = 0; // whose start is known: kids are mostly asked for in a row
