@@ -3,6 +3,7 @@
 #include "Command.h"
 
 #include "host/arguments/DocumentOptions.h"
+#include "host/arguments/LiveOptions.h"
 #include "host/workers/WorkerPool.h"
 
 namespace host {
@@ -21,6 +22,7 @@ private:
     bool m_json = false;
     bool m_table = false;
     DocumentOptions m_documents;
+    LiveOptions m_live{EventStream::Unheard::Ends};
     WorkerPool::Limits m_limits;
 };
 
