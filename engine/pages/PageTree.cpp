@@ -65,14 +65,16 @@ int PageTree::pageCount()
     return static_cast<int>(walk().leaves.size());
 }
 
+/// The counts of a node, null when they are not to be believed.
 std::shared_ptr<KidCounts> PageTree::countsOf(const QPDFObjectHandle& node)
 {
     // The root's are asked for again and again.
-    if (node.getObjGen() != root().getObjGen())
-        return std::make_shared<KidCounts>(m_document, node);
-    if (m_counts == nullptr)
-        m_counts = std::make_shared<KidCounts>(m_document, node);
-    return m_counts;
+    const bool isRoot = node.getObjGen() == root().getObjGen();
+    auto counts = isRoot && m_counts ? m_counts : std::make_shared<KidCounts>(m_document, node);
+    if (isRoot)
+        m_counts = counts;
+    const bool isLarge = statedCount(m_document, root()) > largeTree;
+    return (isLarge ? counts->isLikely() : counts->isBorneOut()) ? counts : nullptr;
 }
 
 /// The root's count where it is believed. A document cannot have more pages than objects, but for pages that
@@ -82,10 +84,8 @@ std::optional<int> PageTree::believedCount()
     if (m_walk || m_mustWalk || kindOf(m_document, root()) != KidKind::Node)
         return std::nullopt;
     const std::optional<int> count = statedCount(m_document, root());
-    if (!count || *count <= smallTree || *count >= m_document.objectCount())
-        return std::nullopt;
-    const std::shared_ptr<KidCounts> counts = countsOf(root());
-    return (*count > largeTree ? counts->isLikely() : counts->isBorneOut()) ? count : std::nullopt;
+    const bool isPossible = count && *count > smallTree && *count < m_document.objectCount();
+    return isPossible && countsOf(root()) ? count : std::nullopt;
 }
 
 void PageTree::requirePage(int number)
@@ -120,7 +120,8 @@ std::optional<PagePath> PageTree::descend(int number)
     std::set<QPDFObjGen> seen;
     QPDFObjectHandle node = root();
     while (true) {
-        const auto place = countsOf(node)->placeOf(number);
+        const std::shared_ptr<KidCounts> counts = countsOf(node);
+        const auto place = counts ? counts->placeOf(number) : std::nullopt;
         if (!place || !seen.insert(node.getObjGen()).second)
             return std::nullopt;
         path.nodes.push_back(node);
@@ -195,7 +196,8 @@ std::optional<int> PageTree::climb(QPDFObjectHandle page)
         if (kindOf(m_document, parent) != KidKind::Node)
             return std::nullopt;
         const int kid = m_document.kids(parent).placeOf(node.getObjGen());
-        const auto before = kid >= 0 ? countsOf(parent)->pagesBefore(kid) : std::nullopt;
+        const std::shared_ptr<KidCounts> counts = countsOf(parent);
+        const auto before = kid >= 0 && counts ? counts->pagesBefore(kid) : std::nullopt;
         if (!before || *before > INT_MAX - number)
             return std::nullopt;
         number += *before;

@@ -105,7 +105,17 @@ void ViewChanger::changeOpenAction()
         return removeOpenAction();
     const ViewValue present = m_present[ViewEntry::Zoom];
     const auto* kept = std::get_if<Magnification>(&present);
-    openAt(wantedPage(), zoom ? std::get<Magnification>(*zoom) : kept != nullptr ? *kept : Magnification());
+    const Magnification wanted = zoom              ? std::get<Magnification>(*zoom)
+                                 : kept != nullptr ? *kept
+                                                   : Magnification();
+    const int count = m_library.PageCount();
+    try {
+        openAt(wantedPage(), wanted);
+    } catch (const DocumentError&) {
+        if (m_library.PageCount() == count)
+            throw;
+        openAt(wantedPage(), wanted); // looking for the page has shown how many there are
+    }
 }
 
 int ViewChanger::wantedPage() const
