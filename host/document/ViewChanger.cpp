@@ -96,23 +96,23 @@ int ViewChanger::write(ViewEntry entry, const ViewValue& wanted)
 
 void ViewChanger::changeOpenAction()
 {
-    const std::optional<ViewValue>& page = m_change[ViewEntry::OpenPage];
+    const std::optional<ViewValue>& openPage = m_change[ViewEntry::OpenPage];
     const std::optional<ViewValue>& zoom = m_change[ViewEntry::Zoom];
-    if (!page && !zoom)
+    if (!openPage && !zoom)
         return;
     m_action = m_present.openAction();
-    if (page == ViewValue(Unset()))
+    if (openPage == ViewValue(Unset()))
         return removeOpenAction();
     const ViewValue present = m_present[ViewEntry::Zoom];
     const auto* kept = std::get_if<Magnification>(&present);
     const Magnification wanted = zoom              ? std::get<Magnification>(*zoom)
                                  : kept != nullptr ? *kept
                                                    : Magnification();
-    const int count = m_library.PageCount();
+    const int page = wantedPage();
     try {
-        openAt(wantedPage(), wanted);
+        openAt(page, wanted);
     } catch (const DocumentError&) {
-        if (m_library.PageCount() == count)
+        if (page <= m_library.PageCount())
             throw;
         openAt(wantedPage(), wanted); // looking for the page has shown how many there are
     }
