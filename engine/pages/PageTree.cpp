@@ -62,7 +62,7 @@ int PageTree::pageCount()
 {
     if (const std::optional<int> count = believedCount())
         return *count;
-    return static_cast<int>(walk().leaves.size());
+    return countAll();
 }
 
 /// The counts of a node, null when they are not to be believed.

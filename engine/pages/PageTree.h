@@ -45,6 +45,9 @@ public:
 
     int pageCount();
 
+    /// The pages that there are, whatever counts say.
+    int countAll() { return static_cast<int>(walk().leaves.size()); }
+
     /// Throws UnknownPage.
     const PagePath& page(int number);
 
