@@ -10,7 +10,6 @@ namespace engine::operations {
 
 namespace {
 
-const int openAction = 0;
 const wchar_t* const goTo = L"GoTo";
 const wchar_t* const unknown = L"Unknown";
 
@@ -19,7 +18,7 @@ const wchar_t* const unknown = L"Unknown";
 std::wstring GetActionType(Session& session, int actionId)
 {
     Document& document = session.document().document;
-    require(actionId == openAction, ErrorCode::BadArgument);
+    require(actionId == pdflibrary::OpenAction, ErrorCode::BadArgument);
     QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
     if (action.isNull())
         return {};
@@ -40,10 +39,11 @@ int SetDestValue(Session& session, int destId, int valueKey, double value)
     require(target && readDestination(open.document, *target, open.pages) == before,
             ErrorCode::UnknownDestination);
     const QPDFObjectHandle array = magnified(open.document, target->array, value);
-    const auto after = readDestination(open.document, {array, {}}, open.pages);
-    if (!after || after->zoom == before.zoom)
+    auto after = readDestination(open.document, {array, before.name}, open.pages);
+    if (!after || *after == before)
         return 1;
     redirectOpenAction(open.document, array);
+    after->name.clear();
     session.changeDestination(destId, *after);
     return 1;
 }

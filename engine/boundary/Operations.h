@@ -96,7 +96,8 @@ int SetPageLayout(Session& session, int layout);
 /// The number of a preference's value; when the document has none 0, for options from Direction on
 /// NoPreference.
 /// \param option one of pdflibrary/ViewerPreferences.h. With AsWritten added a preference that the document
-///     has not is NoPreference for every option.
+///     has not is NoPreference for every option, and one that means nothing InvalidPreference; a WrittenEntry
+///     is an option then, too.
 int GetViewerPreferences(Session& session, int option);
 /// \param value what the option takes, or NoPreference to remove the entry; the other preferences stay as they
 ///     are, and so does a dictionary that becomes empty.
@@ -108,7 +109,7 @@ int GetOpenActionDestination(Session& session);
 /// \param page from 1.
 /// \param zoom percent, 0 for none; used by Zoomed alone.
 /// \param destType a DestinationType.
-/// \param left, top, right, bottom finite; points of default user space.
+/// \param left, top, right, bottom finite; points of default user space. FitRectangle shows them as they are.
 int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destType, double left, double top,
                                  double right, double bottom);
 /// Whatever kind of action it is.
@@ -117,7 +118,8 @@ int RemoveOpenAction(Session& session);
 int GetDestType(Session& session, int destId);
 /// The page, from 1.
 int GetDestPage(Session& session, int destId);
-/// \param valueKey a DestinationValue. 0 for what the destination leaves open.
+/// \param valueKey a DestinationValue. 0 for what the destination leaves open. DestinationForm is a
+///     DestinationType, or 0 for a type that is not known.
 double GetDestValue(Session& session, int destId, int valueKey);
 /// The name of a named destination, else empty.
 std::wstring GetDestName(Session& session, int destId);
@@ -133,6 +135,22 @@ std::wstring GetActionType(Session& session, int actionId);
 /// \param valueKey DestinationZoom.
 /// \param value percent, 0 for none; four decimal places are kept.
 int SetDestValue(Session& session, int destId, int valueKey, double value);
+
+// OutlineOperations.cpp
+/// The number of bookmarks, each counted once; no more than Outline::mostCounted.
+int OutlineCount(Session& session);
+/// The id of the first bookmark at the top, 0 when there is none. Ids stay valid until their document is
+/// removed.
+int GetFirstOutline(Session& session);
+/// The first bookmark below one, and the next one beside it; 0 when there is none.
+/// \throws EngineError TooComplex where bookmarks lead in a circle.
+int GetFirstChildOutline(Session& session, int outlineId);
+int GetNextOutline(Session& session, int outlineId);
+std::wstring OutlineTitle(Session& session, int outlineId);
+/// The page that it leads to, from 1; 0 when it leads to none.
+int GetOutlinePage(Session& session, int outlineId);
+/// OutlineStyle flags.
+int GetOutlineStyle(Session& session, int outlineId);
 
 // PageOperations.cpp
 int PageCount(Session& session);

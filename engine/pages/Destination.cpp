@@ -3,51 +3,69 @@
 #include "NamedDestinations.h"
 #include "PageTree.h"
 #include "engine/document/Document.h"
-
 #include "pdflibrary/ViewNumbers.h"
 
 #include <qpdf/QUtil.hh>
 
+#include <algorithm>
 #include <array>
-#include <climits>
 #include <cmath>
-#include <string_view>
+#include <iterator>
 
 namespace engine {
 
 namespace {
 
-const int written = 6; // decimal places of a number
+using namespace pdflibrary;
 
-/// A type of explicit destination, and which operands follow it, in their order.
+const int written = 6;      // decimal places of a number
+const int firstOperand = 2; // of an explicit destination: page and type come before
+
+using Operand = double Destination::*;
+
+/// A form of explicit destinations, and which operands follow its name, in their order.
 struct DestinationForm
 {
     const char* name;
-    int type;
-    std::array<double Destination::*, 4> operands;
+    DestinationType type;
+    std::array<Operand, 4> operands;
 };
 
 // clang-format off
+// At the number of the form, less one.
 const DestinationForm forms[] = {
-    {"/XYZ",   1, {&Destination::left, &Destination::top, &Destination::zoom}},
-    {"/Fit",   2, {}},
-    {"/FitH",  3, {&Destination::top}},
-    {"/FitV",  4, {&Destination::left}},
-    {"/FitBH", 5, {&Destination::top}},
-    // What follows is read, never written.
-    {"/FitB",  5, {}},
-    {"/FitBV", 5, {&Destination::left}},
-    {"/FitR",  1, {&Destination::left, &Destination::bottom, &Destination::right, &Destination::top}},
+    {destinationNames[Zoomed],       Zoomed,     {&Destination::left, &Destination::top, &Destination::zoom}},
+    {destinationNames[FitPage],      FitPage,    {}},
+    {destinationNames[FitWidth],     FitWidth,   {&Destination::top}},
+    {destinationNames[FitHeight],    FitHeight,  {&Destination::left}},
+    {destinationNames[FitVisible],   FitVisible, {&Destination::top}},
+    {destinationNames[FitBox],       FitVisible, {}},
+    {destinationNames[FitBoxHeight], FitVisible, {&Destination::left}},
+    {destinationNames[FitRectangle], Zoomed,     {&Destination::left, &Destination::bottom, &Destination::right, &Destination::top}},
 };
 // clang-format on
 
-/// A destination without a type that is known shows the page as /XYZ without operands does.
-const DestinationForm& formOf(QPDFObjectHandle name)
+/// 0 for a name that is none of them.
+int formOf(QPDFObjectHandle name)
 {
-    for (const DestinationForm& form : forms)
-        if (name.isNameAndEquals(form.name))
-            return form;
-    return forms[0];
+    const auto* const found =
+        std::find_if(std::begin(forms), std::end(forms),
+                     [&](const DestinationForm& form) { return name.isNameAndEquals(form.name); });
+    return found == std::end(forms) ? 0 : static_cast<int>(found - forms) + 1;
+}
+
+/// A destination without a type that is known shows the page as /XYZ without operands does.
+const DestinationForm& rowOfForm(int form)
+{
+    return forms[std::max(form, 1) - 1];
+}
+
+/// An operand as it stands in a destination; null where that has none.
+QPDFObjectHandle operandOf(QPDFObjectHandle array, const DestinationForm& form, Operand operand)
+{
+    const auto place = std::find(form.operands.begin(), form.operands.end(), operand) - form.operands.begin();
+    const int index = firstOperand + static_cast<int>(place);
+    return index < array.getArrayNItems() ? array.getArrayItem(index) : QPDFObjectHandle::newNull();
 }
 
 QPDFObjectHandle arrayOf(Document& document, QPDFObjectHandle destination)
@@ -68,6 +86,17 @@ QPDFObjectHandle numberOrNull(double value, bool isNull)
     return isNull ? QPDFObjectHandle::newNull() : QPDFObjectHandle::newReal(value + 0.0, written); // no "-0"
 }
 
+QPDFObjectHandle operandsOf(const DestinationForm& form, const Destination& values)
+{
+    QPDFObjectHandle operands = QPDFObjectHandle::newArray();
+    operands.appendItem(QPDFObjectHandle::newName(form.name));
+    for (double Destination::*operand : form.operands)
+        if (operand != nullptr)
+            operands.appendItem(
+                numberOrNull(values.*operand, operand == &Destination::zoom && values.zoom == 0));
+    return operands;
+}
+
 bool isNone(QPDFObjectHandle zoom)
 {
     return zoom.isNull() || (zoom.isNumber() && zoom.getNumericValue() == 0);
@@ -83,13 +112,17 @@ bool sameOperand(QPDFObjectHandle one, QPDFObjectHandle other)
 
 } // namespace
 
-std::optional<OpenActionTarget> openActionTarget(Document& document)
+std::optional<ActionTarget> openActionTarget(Document& document)
 {
-    QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
+    return destinationTarget(document, document.key(document.catalog(), "/OpenAction"));
+}
+
+std::optional<ActionTarget> destinationTarget(Document& document, QPDFObjectHandle action)
+{
     if (action.isDictionary())
         action = document.key(action, "/S").isNameAndEquals("/GoTo") ? document.key(action, "/D")
                                                                      : QPDFObjectHandle::newNull();
-    OpenActionTarget target{action, {}};
+    ActionTarget target{action, {}};
     if (action.isName() || action.isString()) {
         target.array = arrayOf(document, findNamedDestination(document, action));
         target.name = action.isName() ? action.getName().substr(1) : action.getUTF8Value();
@@ -99,17 +132,18 @@ std::optional<OpenActionTarget> openActionTarget(Document& document)
     return target;
 }
 
-std::optional<Destination> readDestination(Document& document, OpenActionTarget target, PageTree& pages)
+std::optional<Destination> readDestination(Document& document, ActionTarget target, PageTree& pages)
 {
     Destination destination;
     destination.name = std::move(target.name);
     destination.page = pageOf(document.item(target.array, 0), pages);
     if (destination.page == 0)
         return std::nullopt;
-    const DestinationForm& form = formOf(document.item(target.array, 1));
+    destination.form = formOf(document.item(target.array, 1));
+    const DestinationForm& form = rowOfForm(destination.form);
     destination.type = form.type;
-    int index = 2;
-    for (double Destination::*const member : form.operands) {
+    int index = firstOperand;
+    for (const Operand member : form.operands) {
         if (member == nullptr)
             break;
         QPDFObjectHandle operand = document.item(target.array, index++);
@@ -120,31 +154,33 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
     return destination;
 }
 
-QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bool onItsSide)
+QPDFObjectHandle destinationOperands(int form, int zoom, const Point& corner, bool onItsSide)
 {
-    const bool isPoint = type == pdflibrary::Zoomed; // the others name an edge of the page as it is shown
+    const bool isPoint = form == Zoomed; // the others name an edge of the page as it is shown
     Destination values;
     values.left = onItsSide && !isPoint ? corner.y : corner.x;
     values.top = onItsSide && !isPoint ? corner.x : corner.y;
     values.zoom = zoom / 100.0;
-    const DestinationForm& form = forms[type - 1];
-    QPDFObjectHandle operands = QPDFObjectHandle::newArray();
-    operands.appendItem(QPDFObjectHandle::newName(form.name));
-    for (double Destination::*operand : form.operands)
-        if (operand != nullptr)
-            operands.appendItem(numberOrNull(values.*operand, operand == &Destination::zoom && zoom == 0));
-    return operands;
+    return operandsOf(rowOfForm(form), values);
+}
+
+QPDFObjectHandle rectangleOperands(const QPDFObjectHandle::Rectangle& rectangle)
+{
+    Destination values;
+    values.left = rectangle.llx;
+    values.bottom = rectangle.lly;
+    values.right = rectangle.urx;
+    values.top = rectangle.ury;
+    return operandsOf(rowOfForm(pdflibrary::FitRectangle), values);
 }
 
 QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent)
 {
-    const bool isRectangle = document.item(array, 1).isNameAndEquals("/FitR");
-    const auto operand = [&](int index) {
-        return index < array.getArrayNItems() ? array.getArrayItem(index) : QPDFObjectHandle::newNull();
-    };
-    return QPDFObjectHandle::newArray({array.getArrayItem(0), QPDFObjectHandle::newName("/XYZ"), operand(2),
-                                       operand(isRectangle ? 5 : 3),
-                                       numberOrNull(percent / 100, percent == 0)});
+    const DestinationForm& form = rowOfForm(formOf(document.item(array, 1)));
+    return QPDFObjectHandle::newArray(
+        {array.getArrayItem(0), QPDFObjectHandle::newName(destinationNames[Zoomed]),
+         operandOf(array, form, &Destination::left), operandOf(array, form, &Destination::top),
+         numberOrNull(percent / 100, percent == 0)});
 }
 
 void redirectOpenAction(Document& document, QPDFObjectHandle array)
@@ -167,12 +203,12 @@ bool isWrittenAs(Document& document, QPDFObjectHandle array, const QPDFObjectHan
     if (!page.isIndirect() || target.getObjGen() != page.getObjGen() || array.getArrayNItems() != size + 1 ||
         !document.item(array, 1).isNameAndEquals(operands.getArrayItem(0).getName()))
         return false;
-    const bool zooms = operands.getArrayItem(0).isNameAndEquals("/XYZ");
+    const DestinationForm& form = rowOfForm(formOf(operands.getArrayItem(0)));
     for (int index = 1; index < size; ++index) {
         QPDFObjectHandle stored = document.item(array, index + 1);
         QPDFObjectHandle wanted = operands.getArrayItem(index);
-        const bool noZoom = zooms && index == size - 1 && isNone(stored) && isNone(wanted);
-        if (!noZoom && !sameOperand(stored, wanted))
+        const bool isZoom = form.operands[static_cast<std::size_t>(index) - 1] == &Destination::zoom;
+        if (!(isZoom && isNone(stored) && isNone(wanted)) && !sameOperand(stored, wanted))
             return false;
     }
     return true;

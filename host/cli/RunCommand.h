@@ -34,7 +34,7 @@ private:
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
     RunPlan plan(const RunDestination& destination);
-    void begin(Report& report) const;
+    void begin(Report& report, const RunPlan& plan) const;
     /// What --resume leaves out.
     BatchRun::Done doneBefore(const RunPlan& plan) const;
     /// Whether --report and --resume name the same file.
@@ -42,7 +42,7 @@ private:
 
     /// Where the results go. Throws UsageError unless exactly one place is named.
     RunDestination destination() const;
-    void checkStandardStreams() const;
+    void checkStandardOutput() const;
     bool hasStandardInput() const;
     bool printsResult() const;
     /// Standard input and output as files, where they are among documents and results.

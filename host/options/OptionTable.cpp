@@ -127,7 +127,11 @@ const std::vector<Option> optionRows{
      Nothing, {}, {Run, Check}, Group::Output, common},
     {"quiet", 'q', "", "prints only what is left alone", "no notes either",
      Nothing, {}, {Undo}, Group::Output, common},
-    {"table", 0, "", "prints a row a document, cut to the terminal's width", "",
+    {"outline", 0, "N|all", "tells the bookmarks as well, with their pages",
+     "no more than N of each document; all of them end at 5000",
+     Nothing, {}, {Show}, Group::Output, rare},
+    {"table", 0, "", "prints a row a document",
+     "in a terminal too narrow for all columns, the less important ones are left out",
      Nothing, {}, {Show}, Group::Output, common},
     {"json", 0, "", "prints a JSON object a line", "",
      Nothing, {}, {Show, Check, Lists}, Group::Output, common},
@@ -159,14 +163,15 @@ const std::vector<Command> commandRows{
      false},
     {Show, "show", "tell how documents open", "DOCUMENT|FOLDER ...",
      "Tells how each document opens: panel, layout, page, magnification, viewer preferences, title and language. A "
-     "folder stands for the PDF documents in it and its subfolders.",
+     "folder stands for the PDF documents in it and its subfolders, - for standard input.",
      {{"quintar show manual.pdf", "how a document opens, in words"},
       {"quintar show --table manuals/", "a folder's documents, a row each"},
       {"quintar show --json manual.pdf > view.json", "for quintar run --view view.json"}},
      {{0, "all well"}, {1, "some documents cannot be read"}, {2, "nothing was begun"}},
      true},
     {Check, "check", "tell which documents do not open as asked", "CHANGE DOCUMENT|FOLDER ...",
-     "Names the documents that quintar run would change, and what it would change of each. Nothing is written.",
+     "Names the documents that quintar run would change, and what it would change of each. Nothing is written. A "
+     "folder stands for the PDF documents in it and its subfolders, - for standard input.",
      {{"quintar check --display-doc-title yes manuals/", "which documents do not show their titles"},
       {"quintar check --like cover.pdf --json manuals/", "which open otherwise than this one, as JSON"},
       {"quintar check --list \"Monthly reports\" -q manuals/", "whether a stored action list is applied"}},
@@ -236,7 +241,7 @@ std::string Option::form() const
 std::string Option::rest() const
 {
     std::string text = more;
-    if (completes != Completes::Words || value.find('|') != std::string::npos) // where the value says them
+    if (completes != Completes::Words || value.find('|') != std::string::npos) // which lists the words itself
         return text;
     text += (text.empty() ? "" : "; ") + value + " is ";
     for (const std::string& word : words)

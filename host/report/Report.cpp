@@ -1,8 +1,10 @@
 #include "Report.h"
 
+#include "host/files/DiskFlush.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/UsageError.h"
 
+#include <QDateTime>
 #include <QJsonDocument>
 
 #include <fcntl.h>
@@ -19,6 +21,44 @@ namespace host {
 namespace {
 
 const char begun[] = "begun";
+const char startEvent[] = "start";
+const char endEvent[] = "end";
+const int formVersion = 1;
+
+/// In UTC, as ISO 8601 writes it.
+QString now()
+{
+    return QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
+}
+
+/// Takes back what was written last, unless another process has written behind it.
+void takeBack(int file, std::size_t written)
+{
+    struct stat status;
+    const off_t end = lseek(file, 0, SEEK_CUR);
+    if (written > 0 && fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size == end)
+        static_cast<void>(ftruncate(file, end - static_cast<off_t>(written)) ==
+                          0); // nobody is left to be told
+}
+
+/// Appends the line, or nothing of it: behind the half that fits on a full disk the next line would be lost, too.
+/// \returns false, with errno set, on failure.
+bool appendLine(int file, const std::string& line)
+{
+    for (std::size_t written = 0; written < line.size();) {
+        const ssize_t count = ::write(file, line.data() + written, line.size() - written);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0) {
+            const int problem = errno;
+            takeBack(file, written);
+            errno = problem;
+            return false;
+        }
+        written += static_cast<std::size_t>(count);
+    }
+    return true;
+}
 
 QJsonValue textOrNull(const std::string& text)
 {
@@ -92,7 +132,7 @@ void Report::lock()
                   "); no other run may write it meanwhile";
 }
 
-void Report::begin()
+void Report::begin(QJsonObject about)
 {
     if (!m_file.isOpen()) {
         open(O_CREAT);
@@ -105,6 +145,10 @@ void Report::begin()
         dropCutOffLine();
     else if (isRegular() && ftruncate(m_file.get(), 0) != 0)
         throw UsageError("the report " + m_path + " cannot be written: " + systemError(errno));
+    about.insert("event", startEvent);
+    about.insert("version", formVersion);
+    about.insert("time", now());
+    write(jsonLine(about));
 }
 
 /// An earlier run may have been killed in the middle of a line.
@@ -131,13 +175,16 @@ void Report::add(std::size_t index, std::string line)
     }
 }
 
-void Report::flush()
+void Report::end(QJsonObject counts)
 {
     for (const auto& [index, line] : std::exchange(m_waiting, {}))
         write(line);
+    counts.insert("event", endEvent);
+    counts.insert("time", now());
+    write(jsonLine(counts));
 }
 
-/// The lock belongs to what was opened before the fork, so the file is opened once more.
+/// A forked process shares the descriptor, and with it the lock: so it opens the file once more for itself.
 void Report::leave()
 {
     const FileDescriptor locked = std::move(m_file);
@@ -153,14 +200,20 @@ void Report::leave()
 void Report::announce(const Line& line)
 {
     const std::string text = toJson(line, begun);
-    if (m_file.isOpen() && !writeAll(m_file.get(), text.data(), text.size()))
+    if (m_file.isOpen() && (!appendLine(m_file.get(), text) || !flushFile(m_file.get())))
         throw std::runtime_error("the report " + m_path + " cannot be written: " + systemError(errno));
 }
 
 void Report::write(const std::string& line)
 {
-    if (m_problem.empty() && !writeAll(m_file.get(), line.data(), line.size()))
+    if (m_problem.empty() && !appendLine(m_file.get(), line))
         m_problem = "the report " + m_path + " is incomplete: " + systemError(errno);
+}
+
+bool Report::isAboutRun(const QJsonObject& line)
+{
+    const QString event = line.value("event").toString();
+    return event == startEvent || event == endEvent;
 }
 
 std::string Report::toJson(const Line& line, const char* status)

@@ -53,11 +53,6 @@ private:
     Announce m_announce;
 };
 
-std::string shown(const std::string& name)
-{
-    return name == RunDestination::standardStream ? "standard input" : name;
-}
-
 void print(const std::string& text)
 {
     writeAll(STDOUT_FILENO, text.data(), text.size()); // nobody may be listening
@@ -87,7 +82,7 @@ int BatchRun::run(const WorkerPool::Limits& limits)
         removeLeftovers();
     try {
         runJobs(plugin.action(), libraryFile, limits);
-    } catch (const std::bad_alloc&) { // not for main: to it, nothing has been begun
+    } catch (const std::bad_alloc&) { // main would tell that nothing was begun
         m_progress.reset();
         complainInLines("the run ended early, for it is out of memory; some documents may have been changed");
         return exitstatus::someFailed;
@@ -152,7 +147,7 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
         m_setup.control);
 }
 
-/// In place, where what was there before is gone then, or half a change may be left.
+/// Only in place: there what was before is gone then, or half a change may be left.
 void BatchRun::announce(std::size_t job, const DocumentResult& expected)
 {
     const RunPlan::Document& planned = m_plan.documents()[m_documentOfJob[job]];
@@ -185,7 +180,7 @@ void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
 {
     const RunPlan::Document& planned = m_plan.documents()[document];
     m_ended[document] = true;
-    m_summary.add(document, shown(planned.name), result);
+    m_summary.add(document, shownName(planned.name), result);
     const Report::Line line = lineFor(planned, result);
     if (m_setup.report != nullptr)
         m_setup.report->add(document, line);
@@ -194,7 +189,7 @@ void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
     if (m_progress)
         m_progress->advance(result.status == Status::Failed);
     else if (m_setup.tells >= Tells::Lines && result.status != Status::Failed)
-        print(RunSummary::lineFor(shown(planned.name), result, m_options.dryRun));
+        print(RunSummary::lineFor(shownName(planned.name), result, m_options.dryRun));
 }
 
 Report::Line BatchRun::lineFor(const RunPlan::Document& document, const DocumentResult& result) const
@@ -241,7 +236,7 @@ void BatchRun::sumUp() const
     RunSummary summary = m_summary;
     for (std::size_t index = 0; index < m_ended.size(); ++index)
         if (!m_ended[index])
-            summary.addNotDone(shown(m_plan.documents()[index].name));
+            summary.addNotDone(shownName(m_plan.documents()[index].name));
     if (m_setup.tells >= Tells::Failures)
         printError(summary.failures() + (m_setup.tells >= Tells::Notes ? summary.notes() : "") +
                    summary.notDone());
@@ -250,7 +245,9 @@ void BatchRun::sumUp() const
     else if (m_setup.tells == Tells::Counts)
         printError(summary.counts(m_options.dryRun));
     if (m_setup.report != nullptr) {
-        m_setup.report->flush();
+        QJsonObject counts = summary.toJson();
+        counts.insert("stopped", m_setup.control.isStopped());
+        m_setup.report->end(counts);
         if (!m_setup.report->problem().empty())
             complain(m_setup.report->problem());
     }

@@ -111,13 +111,16 @@ Failure DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int sourc
         return {};
     result.stateBefore = stateOf(m_original);
     result.checksumBefore = checksumOf(source, m_original.st_size);
-    return result.checksumBefore.empty() ? Failure::ofSystem(errno, ReasonCode::ReadFailed) : Failure();
+    if (!result.checksumBefore.empty())
+        return {};
+    return errno != 0 ? Failure::ofSystem(errno, ReasonCode::ReadFailed)
+                      : Failure::ofLibrary(int(engine::ErrorCode::SourceChanged));
 }
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
     if (m_options.tellChanges)
-        m_viewBefore.emplace(m_library);
+        m_viewBefore.emplace(m_library, m_options.change[ViewEntry::Title].has_value());
     if (const Failure reason = apply(job.source); reason)
         return DocumentResult::failed(reason);
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
@@ -125,7 +128,7 @@ DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
     if (const Failure reason = refusal(); reason)
         return DocumentResult::failed(reason);
     if (m_options.tellChanges)
-        m_viewAfter.emplace(m_library);
+        m_viewAfter.emplace(m_library, m_options.change[ViewEntry::Title].has_value());
     return m_options.dryRun ? tryOut() : save(job);
 }
 
@@ -145,6 +148,8 @@ Failure DocumentProcessor::apply(const std::string& file)
         ViewChanger changer(m_library, m_options.change);
         Failure reason = changer.apply(file);
         m_notes = changer.notes();
+        if (changer.leftOut())
+            m_notes.push_back(changer.leftOut().text);
         return reason;
     }
     lookForPage(settingsnotes::openingPage(m_options.entries));
