@@ -75,6 +75,15 @@ std::optional<std::string_view> Document::unreadKid(const Kids& kids, int index)
     return m_fetcher ? m_fetcher->unread(kids.id(index)) : std::nullopt;
 }
 
+int Document::objectCount()
+{
+    if (m_fetcher)
+        return m_fetcher->reader().size() - 1;
+    if (!m_objectCount)
+        m_objectCount = static_cast<int>(m_pdf->getXRefTable().size());
+    return *m_objectCount;
+}
+
 QPDFObjectHandle Document::makeIndirect(const QPDFObjectHandle& object)
 {
     QPDFObjectHandle made = m_pdf->makeIndirectObject(object);

@@ -68,6 +68,9 @@ public:
     /// call of any function.
     std::optional<std::string_view> unreadKid(const Kids& kids, int index);
 
+    /// How many objects the cross-reference can list, the head of the free ones left out.
+    int objectCount();
+
     /// Makes a direct object an indirect one with a new number.
     QPDFObjectHandle makeIndirect(const QPDFObjectHandle& object);
 
@@ -125,6 +128,7 @@ private:
     QPDFObjectHandle m_catalog; // looking it up anew each time is not cheap
     DocumentChanges m_changes;
     ReadingTrouble m_trouble;
+    std::optional<int> m_objectCount; // of the whole document: counting is not cheap
 };
 
 } // namespace engine

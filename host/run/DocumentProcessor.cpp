@@ -152,9 +152,19 @@ Failure DocumentProcessor::apply(const std::string& file)
             m_notes.push_back(changer.leftOut().text);
         return reason;
     }
+    lookForPage(settingsnotes::openingPage(m_options.entries));
     if (std::string note = settingsnotes::aboutPage(m_options.entries, m_library.PageCount()); !note.empty())
         m_notes.push_back(std::move(note));
     return m_sequence->apply();
+}
+
+/// So that the library knows how many pages there are: what a large document says of that is believed until a
+/// page is missing, and the action asks before it selects one.
+void DocumentProcessor::lookForPage(int page)
+{
+    const int selected = m_library.SelectedPage();
+    if (page > selected && m_library.SelectPage(page) != 0)
+        m_library.SelectPage(selected);
 }
 
 DocumentResult DocumentProcessor::changed(Saved saved) const

@@ -87,6 +87,7 @@ private:
     Failure tellWhatStoodBefore(DocumentResult& result, int source) const;
     DocumentResult applyAndSave(const DocumentJob& job);
     Failure apply(const std::string& file);
+    void lookForPage(int page);
     DocumentResult changed(Saved saved) const;
     DocumentResult leave() const;
     std::string notesWith(const std::string& further) const;
