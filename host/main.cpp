@@ -4,6 +4,7 @@
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
 #include "cli/UndoCommand.h"
+#include "cli/WindowCommand.h"
 #include "host/arguments/UnknownWords.h"
 #include "host/options/HelpText.h"
 #include "host/program/HostApplication.h"
@@ -34,6 +35,7 @@ Commands allCommands()
     commands.push_back(std::make_unique<host::CheckCommand>());
     commands.push_back(std::make_unique<host::ConfigureCommand>());
     commands.push_back(std::make_unique<host::ListsCommand>());
+    commands.push_back(std::make_unique<host::WindowCommand>());
     return commands;
 }
 

@@ -194,6 +194,15 @@ const std::vector<Command> commandRows{
       {"quintar run --list \"Monthly reports\" -o changed/ manuals/", "use one by its name"}},
      {{0, "all well"}, {1, "some cannot be read"}, {2, "nothing was begun"}},
      false},
+    {Window, "window", "show documents and change them in a window", "[DOCUMENT|FOLDER ...]",
+     "Starts the window with these documents in its list, beside those that it had when it was closed. The list shows "
+     "how each document opens and, once a change is chosen, how it will; nothing is changed before a run is started. "
+     "Runs in place can be undone.",
+     {{"quintar window", "start with the list of the last time"},
+      {"quintar window manuals/", "with the documents of a folder"},
+      {"quintar window a.pdf b.pdf", "with two documents"}},
+     {{0, "the window was closed"}, {2, "no window was shown"}},
+     true},
 };
 // clang-format on
 

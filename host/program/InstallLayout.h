@@ -11,6 +11,8 @@ std::string pluginFile();
 std::string libraryFile();
 /// The program that draws pages; it may not be installed.
 std::string renderProgram();
+/// Beside the program.
+std::string windowProgram();
 
 /// As the binding takes the path of the library file: each byte is one character.
 std::wstring toLibraryPath(std::string_view bytes);
