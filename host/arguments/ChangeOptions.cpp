@@ -4,7 +4,7 @@
 #include "host/change/ViewJson.h"
 #include "host/change/ViewValues.h"
 #include "host/document/PresentView.h"
-#include "host/program/LoadedDocument.h"
+#include "host/model/ModelDocument.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/settings/SettingsNotes.h"
@@ -16,15 +16,9 @@ namespace host {
 
 namespace {
 
-/// How a document opens, for others to open so.
-ViewChange viewOf(const std::string& file, const std::string& password)
+ModelDocument asChange(const PresentView& present)
 {
-    LoadedDocument document(file, password);
-    try {
-        return PresentView(document.library()).asChange();
-    } catch (const std::runtime_error& error) {
-        throw UsageError(file + ": " + error.what());
-    }
+    return {present.asChange()};
 }
 
 } // namespace
@@ -69,18 +63,18 @@ bool ChangeOptions::changesView() const
     return !m_named.isEmpty() || m_viewFile || m_model || m_titleFromFileName || m_titleIfMissing;
 }
 
-void ChangeOptions::read(const std::string& password)
+void ChangeOptions::read(const std::string& password, Cell& cell)
 {
     if (changesView())
-        readChange(password);
+        readChange(password, cell);
     else
         readSettings();
 }
 
-void ChangeOptions::readChange(const std::string& password)
+void ChangeOptions::readChange(const std::string& password, Cell& cell)
 {
     if (m_model)
-        m_change.add(viewOf(*m_model, password));
+        m_change.add(ModelDocument::read(*m_model, password, cell, asChange).view);
     if (m_viewFile)
         m_change.add(viewjson::readFile(*m_viewFile));
     m_change.add(m_named);

@@ -9,6 +9,7 @@
 
 namespace host {
 
+class Cell;
 class OptionParser;
 
 /// The options that say how documents are to open: view options, or settings of the action from one source.
@@ -19,8 +20,10 @@ public:
     void take(OptionParser& parser);
     /// Throws UsageError unless there is exactly one source.
     void check() const;
-    /// Reads the source. \param password opens the document that others are to open like. Throws UsageError.
-    void read(const std::string& password);
+    /// Reads the source. Throws UsageError.
+    /// \param password opens the document that others are to open like.
+    /// \param cell locks in who reads that one.
+    void read(const std::string& password, Cell& cell);
 
     /// What has been read: the entries, unless there is a change.
     const std::vector<ActionEntry>& entries() const { return m_entries; }
@@ -37,7 +40,7 @@ private:
     void takeViewOptions(OptionParser& parser);
     bool changesView() const;
     /// What the view options ask for, in the order in which they count.
-    void readChange(const std::string& password);
+    void readChange(const std::string& password, Cell& cell);
     void readSettings();
 
     std::vector<std::string> m_lists;

@@ -16,6 +16,7 @@ void CheckCommand::takeOptions(OptionParser& parser)
     m_asked.take(parser);
     m_documents.take(parser);
     takeLimits(parser, m_limits);
+    takeSandbox(parser, m_sandbox);
     parser.takeFlag("json", m_json);
     parser.takeFlag("quiet", m_quiet);
 }
@@ -25,14 +26,17 @@ int CheckCommand::work(const std::vector<std::string>& words)
     m_asked.check();
     m_documents.check(words);
     m_documents.read(words);
-    m_asked.read(m_documents.password());
+    Cell cell(m_sandbox);
+    m_asked.read(m_documents.password(), cell);
+    if (!m_quiet)
+        noteMissing(cell, m_sandbox);
     if (!m_quiet)
         for (const std::string& text : m_asked.notes())
             note(text);
     const RunPlan plan = m_documents.planForReading();
     const PluginHost plugin(installlayout::pluginFile());
     const CheckTeller::Question question{m_asked.change(), m_asked.entries(), plugin.action(), m_json};
-    ReadingRun run(plan, {m_documents.password(), m_limits, m_quiet,
+    ReadingRun run(plan, cell, {m_documents.password(), m_limits, m_quiet,
                           m_json ? CheckTeller::failureInJson : ReadingRun::FailureLine()});
     const int status =
         run.run([&](auto& library) { return std::make_unique<CheckTeller>(library, question); });

@@ -4,6 +4,7 @@
 
 #include "host/arguments/ChangeOptions.h"
 #include "host/arguments/DocumentOptions.h"
+#include "host/cell/Cell.h"
 #include "host/workers/WorkerPool.h"
 
 namespace host {
@@ -28,6 +29,7 @@ private:
     ChangeOptions m_asked;
     DocumentOptions m_documents;
     WorkerPool::Limits m_limits;
+    Sandbox m_sandbox = Sandbox::Default;
 };
 
 } // namespace host

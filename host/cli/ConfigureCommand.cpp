@@ -1,11 +1,12 @@
 #include "ConfigureCommand.h"
 
+#include "host/arguments/LimitOptions.h"
 #include "host/arguments/OptionParser.h"
 #include "host/change/ViewValues.h"
 #include "host/document/PresentView.h"
+#include "host/model/ModelDocument.h"
 #include "host/program/HostApplication.h"
 #include "host/program/InstallLayout.h"
-#include "host/program/LoadedDocument.h"
 #include "host/program/PluginHost.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"
@@ -78,6 +79,7 @@ void ConfigureCommand::takeOptions(OptionParser& parser)
         m_output.emplace(value);
     });
     parser.takeFlag("all", m_all);
+    takeSandbox(parser, m_sandbox);
     parser.takeValue("password", [this](const std::string& value) { m_password = value; });
 }
 
@@ -129,15 +131,14 @@ void ConfigureCommand::readDocument()
     if (m_documents.empty())
         return;
     const std::string& file = m_documents.front();
-    LoadedDocument document(file, m_password);
+    Cell cell(m_sandbox);
+    noteMissing(cell, m_sandbox);
+    const ModelDocument model = ModelDocument::read(file, m_password, cell, [](const PresentView& present) {
+        return ModelDocument{present.entries(), present.openAction()};
+    });
     if (!m_source.file.empty())
         return;
-    try {
-        const PresentView present(document.library());
-        m_document.emplace(present.entries(), present.openAction());
-    } catch (const std::runtime_error& error) {
-        throw UsageError(file + ": " + error.what());
-    }
+    m_document.emplace(model.view, model.openAction);
     for (const std::string& each : m_document->notes())
         note(std::string(file).append(": ").append(each));
     m_settings = m_document->map();

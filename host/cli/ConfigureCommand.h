@@ -2,6 +2,7 @@
 
 #include "Command.h"
 
+#include "host/cell/Cell.h"
 #include "host/settings/DialogSettings.h"
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsOutput.h"
@@ -44,6 +45,7 @@ private:
     std::string m_password;
     int m_entry = 0; // 0 is none in particular
     bool m_all = false;
+    Sandbox m_sandbox = Sandbox::Default;
     std::optional<SettingsOutput> m_output;
     SettingsOutput::Edit m_source;
     std::optional<DialogSettings> m_document;

@@ -42,7 +42,10 @@ int RunCommand::work(const std::vector<std::string>& words)
     check();
     const RunDestination destination = this->destination();
     checkStandardStreams();
-    readOptions();
+    Cell cell(m_sandbox);
+    if (!m_quiet)
+        noteMissing(cell, m_sandbox);
+    readOptions(cell);
 
     const RunPlan plan = this->plan(destination);
     std::optional<Report> report;
@@ -58,7 +61,7 @@ int RunCommand::work(const std::vector<std::string>& words)
     if (report) // may lie in the output folder
         begin(*report);
     const int status =
-        BatchRun(plan, m_options,
+        BatchRun(plan, m_options, cell,
                  {report ? &*report : nullptr, tells(), m_streams ? &*m_streams : nullptr, std::move(done)})
             .run(m_limits);
     if (m_streams && destination.isStandardOutput())
@@ -102,6 +105,7 @@ void RunCommand::takeOptions(OptionParser& parser)
     m_changeOptions.take(parser);
     m_documentOptions.take(parser);
     takeLimits(parser, m_limits);
+    takeSandbox(parser, m_sandbox);
     parser.takeValue("output", setOnce(m_output, "-o"));
     parser.takeValue("base", setOnce(m_base, "--base"));
     parser.takeValue("suffix", setOnce(m_suffix, "--suffix"));
@@ -158,11 +162,11 @@ void RunCommand::checkStandardStreams() const
         StreamFiles::checkOutput();
 }
 
-void RunCommand::readOptions()
+void RunCommand::readOptions(Cell& cell)
 {
     m_documentOptions.read(m_words);
     m_options.password = m_documentOptions.password();
-    m_changeOptions.read(m_options.password);
+    m_changeOptions.read(m_options.password, cell);
     m_options.entries = m_changeOptions.entries();
     m_options.change = m_changeOptions.change();
     for (const std::string& odd : m_changeOptions.notes())

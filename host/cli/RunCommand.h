@@ -4,6 +4,7 @@
 
 #include "host/arguments/ChangeOptions.h"
 #include "host/arguments/DocumentOptions.h"
+#include "host/cell/Cell.h"
 #include "host/plan/StreamFiles.h"
 #include "host/run/BatchRun.h"
 #include "host/run/DocumentProcessor.h"
@@ -28,7 +29,7 @@ protected:
     int work(const std::vector<std::string>& words) override;
 
 private:
-    void readOptions();
+    void readOptions(Cell& cell);
     void check() const;
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
@@ -60,6 +61,7 @@ private:
     ProcessingOptions m_options;
     std::optional<StreamFiles> m_streams;
     WorkerPool::Limits m_limits;
+    Sandbox m_sandbox = Sandbox::Default;
 };
 
 } // namespace host

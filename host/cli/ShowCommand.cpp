@@ -19,6 +19,7 @@ void ShowCommand::takeOptions(OptionParser& parser)
     parser.takeFlag("table", m_table);
     m_documents.take(parser);
     takeLimits(parser, m_limits);
+    takeSandbox(parser, m_sandbox);
 }
 
 int ShowCommand::work(const std::vector<std::string>& words)
@@ -27,6 +28,8 @@ int ShowCommand::work(const std::vector<std::string>& words)
         throw UsageError("--json and --table exclude each other");
     m_documents.check(words);
     m_documents.read(words);
+    Cell cell(m_sandbox);
+    noteMissing(cell, m_sandbox);
     const RunPlan plan = m_documents.planForReading();
     ShowTeller::Form form = ShowTeller::Words();
     if (m_json)
@@ -36,7 +39,7 @@ int ShowCommand::work(const std::vector<std::string>& words)
         printResult(table.header());
         form = table;
     }
-    return ReadingRun(plan, {m_documents.password(), m_limits}).run([&](auto& library) {
+    return ReadingRun(plan, cell, {m_documents.password(), m_limits}).run([&](auto& library) {
         return std::make_unique<ShowTeller>(library, form);
     });
 }

@@ -102,6 +102,11 @@ const std::vector<Option> optionRows{
      Nothing, {}, {Run, Show, Check}, Group::Work, rare},
     {"memory", 0, "MIB", "gives a document up that needs more memory (default: 1024)", "",
      Nothing, {}, {Run, Show, Check}, Group::Work, rare},
+    {"sandbox", 0, "HOW", "how far those are locked in who read documents (default: try)",
+     "a document that takes its reader over can then do nothing but read the documents of this run and write where "
+     "results go: no other file, no network, no other program; what it writes into results nothing keeps from it; "
+     "try takes what the kernel offers and tells what is missing, require begins nothing then, off locks nobody in",
+     Words, {"try", "require", "off"}, {Run, Show, Check, Configure}, Group::Work, rare},
     {"sync", 0, "", "with -o, flushes each document to the disk before the next",
      "in place that is always so",
      Nothing, {}, {Run}, Group::Work, rare},

@@ -1,5 +1,7 @@
 #include "ReadingRun.h"
 
+#include "host/cell/Cell.h"
+#include "host/cell/Reach.h"
 #include "host/program/InstallLayout.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/TerminalText.h"
@@ -34,9 +36,14 @@ int ReadingRun::run(const MakeTeller& makeTeller)
     WorkerPool::Limits limits = m_options.limits;
     limits.workers = static_cast<int>(
         std::clamp<std::size_t>(documents.size(), 1, static_cast<std::size_t>(limits.workers)));
+    Reach reach;
+    for (const RunPlan::Document& document : documents)
+        reach.addFileToRead(document.name);
+    m_cell.allow(reach);
     StopSignal stop;
     WorkerPool pool(
-        limits, [&] { return std::make_unique<DocumentReader>(documents, m_options.password, makeTeller); });
+        limits, [&] { return std::make_unique<DocumentReader>(documents, m_options.password, makeTeller); },
+        m_cell);
     pool.run(
         documents.size(), [this](std::size_t place, const WorkOutcome& outcome) { ended(place, outcome); },
         stop);

@@ -11,6 +11,8 @@
 
 namespace host {
 
+class Cell;
+
 /// Has documents read by worker processes, many at a time, and prints in the documents' order what there is
 /// to tell of them: the texts, and on standard error failures and notes.
 class ReadingRun
@@ -29,8 +31,10 @@ public:
         FailureLine failureLine = nullptr;
     };
 
-    /// The plan must outlive the object.
-    ReadingRun(const RunPlan& plan, Options options) : m_plan(plan), m_options(std::move(options)) {}
+    /// Plan and cell must outlive the object.
+    ReadingRun(const RunPlan& plan, Cell& cell, Options options)
+        : m_plan(plan), m_cell(cell), m_options(std::move(options))
+    {}
 
     /// \returns the exit status. Throws std::runtime_error when the library cannot be used; OutputError.
     int run(const MakeTeller& makeTeller);
@@ -42,6 +46,7 @@ private:
     void ended(std::size_t place, const WorkOutcome& outcome);
 
     const RunPlan& m_plan;
+    Cell& m_cell;
     Options m_options;
     OrderedOutput m_output;
     std::array<std::size_t, 3> m_counts{};

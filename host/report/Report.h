@@ -41,8 +41,9 @@ public:
     /// have been made since. Throws UsageError when that is not possible.
     void begin();
     /// In a process that was forked off: the file is left to others when this run ends, though this process
-    /// may live a little longer. Of what it holds, only `announce` may be used from then on.
-    void leave();
+    /// may live a little longer. Of what it holds, only `announce` may be used from then on. \returns the
+    /// file's descriptor, -1 when there is nothing to announce in.
+    int leave();
     /// Writes at once that a document is about to be replaced, with the line that will follow: should both
     /// this process and the run be killed, the report still has what undoing takes. Only in a regular file.
     /// Throws std::runtime_error when it cannot be written.

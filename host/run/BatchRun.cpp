@@ -1,5 +1,7 @@
 #include "BatchRun.h"
 
+#include "host/cell/Cell.h"
+#include "host/cell/Reach.h"
 #include "host/files/FileDescriptor.h"
 #include "host/plan/Placement.h"
 #include "host/plan/StreamFiles.h"
@@ -31,8 +33,10 @@ public:
     using Announce = std::function<void(std::size_t job, const DocumentResult& expected)>;
 
     DocumentWorker(const std::vector<DocumentJob>& jobs, CActionInterface& action,
-                   const std::string& libraryFile, const ProcessingOptions& options, Announce announce)
-        : m_jobs(jobs), m_processor(action, libraryFile, options), m_announce(std::move(announce))
+                   const std::string& libraryFile, const ProcessingOptions& options, Announce announce,
+                   int report)
+        : m_jobs(jobs), m_processor(action, libraryFile, options), m_announce(std::move(announce)),
+          m_report(report)
     {}
 
     Answer answer(std::size_t job, WorkerSlot& slot) override
@@ -45,10 +49,13 @@ public:
         return {result.toRecord(), m_processor.isWornOut()};
     }
 
+    std::vector<int> descriptors() const override { return {m_report}; }
+
 private:
     const std::vector<DocumentJob>& m_jobs;
     DocumentProcessor m_processor;
     Announce m_announce;
+    int m_report; ///< -1 for none.
 };
 
 std::string shown(const std::string& name)
@@ -63,8 +70,9 @@ void print(const std::string& text)
 
 } // namespace
 
-BatchRun::BatchRun(const RunPlan& plan, const ProcessingOptions& options, Setup setup)
-    : m_plan(plan), m_options(options), m_setup(std::move(setup)), m_ended(plan.documents().size(), false)
+BatchRun::BatchRun(const RunPlan& plan, const ProcessingOptions& options, Cell& cell, Setup setup)
+    : m_plan(plan), m_options(options), m_cell(cell), m_setup(std::move(setup)),
+      m_ended(plan.documents().size(), false)
 {}
 
 BatchRun::~BatchRun() = default;
@@ -131,20 +139,33 @@ void BatchRun::removeLeftovers() const
             SafeOutput::removeLeftovers(SafeOutput::folderOf(job.target));
 }
 
+/// Workers read the documents, and write beside the results.
+void BatchRun::allowJobs()
+{
+    Reach reach;
+    for (const DocumentJob& job : m_jobs) {
+        reach.addFileToRead(job.source);
+        if (!m_options.dryRun)
+            reach.addFolderToWrite(SafeOutput::folderOf(job.target));
+    }
+    m_cell.allow(reach);
+}
+
 void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
                        const WorkerPool::Limits& limits)
 {
     WorkerPool::Limits fitting = limits;
     fitting.workers =
         static_cast<int>(std::clamp<std::size_t>(m_jobs.size(), 1, static_cast<std::size_t>(limits.workers)));
+    allowJobs();
     StopSignal stop;
-    WorkerPool pool(fitting, [&] {
-        if (m_setup.report != nullptr)
-            m_setup.report->leave();
+    const auto makeWorker = [&] {
         return std::make_unique<DocumentWorker>(
             m_jobs, action, libraryFile, m_options,
-            [this](std::size_t job, const DocumentResult& expected) { announce(job, expected); });
-    });
+            [this](std::size_t job, const DocumentResult& expected) { announce(job, expected); },
+            m_setup.report != nullptr ? m_setup.report->leave() : -1);
+    };
+    WorkerPool pool(fitting, makeWorker, m_cell);
     pool.run(
         m_jobs.size(), [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); }, stop);
     m_stopped = stop.count() > 0;

@@ -16,6 +16,7 @@ class CActionInterface;
 
 namespace host {
 
+class Cell;
 class Progress;
 class StreamFiles;
 
@@ -44,7 +45,7 @@ public:
     };
 
     /// Everything lent must outlive the object.
-    BatchRun(const RunPlan& plan, const ProcessingOptions& options, Setup setup);
+    BatchRun(const RunPlan& plan, const ProcessingOptions& options, Cell& cell, Setup setup);
     ~BatchRun();
 
     /// \returns the exit status. Throws std::runtime_error when plug-in or library cannot be used.
@@ -54,6 +55,7 @@ private:
     void planJobs();
     DocumentJob jobFor(const RunPlan::Document& document) const;
     void removeLeftovers() const;
+    void allowJobs();
     void runJobs(CActionInterface& action, const std::string& libraryFile, const WorkerPool::Limits& limits);
     void announce(std::size_t job, const DocumentResult& expected);
     void jobEnded(std::size_t job, const WorkOutcome& outcome);
@@ -66,6 +68,7 @@ private:
 
     const RunPlan& m_plan;
     const ProcessingOptions& m_options;
+    Cell& m_cell;
     Setup m_setup;
     std::vector<DocumentJob> m_jobs;
     /// The document that each job is about.

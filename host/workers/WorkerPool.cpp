@@ -3,6 +3,7 @@
 #include "StopSignal.h"
 #include "WorkerSlot.h"
 
+#include "host/cell/Cell.h"
 #include "host/files/FileDescriptor.h"
 #include "pdflibrary/ErrorCodes.h"
 
@@ -63,8 +64,10 @@ void limitWorker(int memoryMiB)
     dup2(null.get(), STDERR_FILENO);
 }
 
-std::string describeEnd(int status)
+std::string describeEnd(int status, std::optional<int> outsideCall)
 {
+    if (outsideCall)
+        return "did what no document needs (" + callfilter::nameOf(*outsideCall) + ")";
     if (WIFSIGNALED(status))
         return "the worker process crashed on it: " + std::string(strsignal(WTERMSIG(status)));
     return "the worker process ended on it with status " + std::to_string(WEXITSTATUS(status));
@@ -90,6 +93,11 @@ void tellOfException()
     } catch (const std::exception& error) {
         tell(WorkerSlot::Lost, error.what());
     }
+}
+
+void tellOfOutsideCall(int call)
+{
+    ownSlot->outside(call);
 }
 
 /// An exception that leaves a library's destructor ends the process; its reason is told all the same.
@@ -120,8 +128,8 @@ struct WorkerPool::Process
     }
 };
 
-WorkerPool::WorkerPool(Limits limits, MakeWorker makeWorker)
-    : m_limits(limits), m_makeWorker(std::move(makeWorker)),
+WorkerPool::WorkerPool(Limits limits, MakeWorker makeWorker, const Cell& cell)
+    : m_limits(limits), m_makeWorker(std::move(makeWorker)), m_cell(cell),
       m_processes(static_cast<std::size_t>(limits.workers))
 {}
 
@@ -230,7 +238,7 @@ void WorkerPool::serve(Process& process, int wakeUps, pid_t parent)
                 break;
             slot.begin(place);
             if (!worker)
-                worker = m_makeWorker();
+                worker = lockedInWorker(wakeUps);
             const Worker::Answer answer = worker->answer(m_round[place], slot);
             if (answer.text.size() > WorkerSlot::largestAnswer)
                 throw std::length_error("what there is to tell of it is longer than 128 KiB");
@@ -241,6 +249,15 @@ void WorkerPool::serve(Process& process, int wakeUps, pid_t parent)
         tellOfException();
     }
     _exit(0);
+}
+
+std::unique_ptr<Worker> WorkerPool::lockedInWorker(int wakeUps) const
+{
+    std::unique_ptr<Worker> worker = m_makeWorker();
+    std::vector<int> descriptors = worker->descriptors();
+    descriptors.push_back(wakeUps);
+    m_cell.enter(descriptors, tellOfOutsideCall);
+    return worker;
 }
 
 void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
@@ -328,7 +345,7 @@ void WorkerPool::end(Process& process, const Done& done, WorkOutcome::Kind kind,
     const std::uint64_t told = (*process.slot)->piece();
     const std::uint64_t place = m_round.size() == 1 ? 0 : told;
     pieceEnded(place, done,
-               {kind, reason.empty() ? describeEnd(status) : reason,
+               {kind, reason.empty() ? describeEnd(status, (*process.slot)->outsideCall()) : reason,
                 told == place ? (*process.slot)->noted() : std::string()});
     process.slot.reset();
     if (told >= m_round.size() && status != 0 && ++m_fruitless >= mostFruitless)

@@ -15,6 +15,7 @@
 
 namespace host {
 
+class Cell;
 class StopSignal;
 class WorkerSlot;
 
@@ -32,6 +33,8 @@ public:
     virtual ~Worker() = default;
     /// \param slot takes a note about the piece, which reaches the program even if the answer does not.
     virtual Answer answer(std::size_t piece, WorkerSlot& slot) = 0;
+    /// The files that it has open when it begins, and needs.
+    virtual std::vector<int> descriptors() const { return {}; }
 };
 
 /// How a piece of work ended.
@@ -64,7 +67,8 @@ public:
     using MakeWorker = std::function<std::unique_ptr<Worker>()>;
     using Done = std::function<void(std::size_t, const WorkOutcome&)>;
 
-    WorkerPool(Limits limits, MakeWorker makeWorker);
+    /// \param cell the workers are locked in there as soon as they are made; it must outlive the object.
+    WorkerPool(Limits limits, MakeWorker makeWorker, const Cell& cell);
     ~WorkerPool();
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
@@ -84,6 +88,7 @@ private:
     void startWorkers(const Done& done);
     bool start(Process& process);
     [[noreturn]] void serve(Process& process, int wakeUps, pid_t parent);
+    std::unique_ptr<Worker> lockedInWorker(int wakeUps) const;
     void waitForNews(const Done& done, StopSignal& stop);
     void nap() const;
     void receive(Process& process, const Done& done);
@@ -98,6 +103,7 @@ private:
 
     Limits m_limits;
     MakeWorker m_makeWorker;
+    const Cell& m_cell;
     std::vector<Process> m_processes;
     std::vector<bool> m_ended;
     /// The pieces of this round; workers take places in this list.

@@ -48,6 +48,12 @@ std::string WorkerSlot::noted() const
     return {m_note.data(), std::min<std::size_t>(m_noteSize, largestNote)};
 }
 
+std::optional<int> WorkerSlot::outsideCall() const
+{
+    const std::uint64_t call = m_outside;
+    return call == none ? std::nullopt : std::optional(static_cast<int>(call));
+}
+
 std::optional<WorkerSlot::Answer> WorkerSlot::takeAnswer()
 {
     const std::uint64_t begin = m_taken;

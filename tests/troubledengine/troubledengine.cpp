@@ -59,7 +59,7 @@ EXPORTED int TPLLoadFromFile(int instance, char* fileName, char* password)
     if (asksFor(L"slow"))
         usleep(700'000);
     while (asksFor(L"hang"))
-        pause();
+        sleep(1);
     const int loaded = real(TPLLoadFromFile, "TPLLoadFromFile")(instance, fileName, password);
     if (asksFor(L"replaced"))
         std::rename("newer", "replaced.pdf");
@@ -71,6 +71,6 @@ EXPORTED int TPLRemoveDocument(int instance, int document)
     if (asksFor(L"late-crash"))
         std::abort();
     while (asksFor(L"late-hang"))
-        pause();
+        sleep(1);
     return real(TPLRemoveDocument, "TPLRemoveDocument")(instance, document);
 }

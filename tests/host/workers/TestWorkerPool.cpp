@@ -1,3 +1,4 @@
+#include "host/cell/Cell.h"
 #include "host/workers/StopSignal.h"
 #include "host/workers/WorkerPool.h"
 #include "host/workers/WorkerSlot.h"
@@ -86,7 +87,8 @@ private slots:
                 usleep(each == 1 && piece == 100 ? 1'300'000 : 0);
             };
             StopSignal stop;
-            WorkerPool({workers, 1, 1024}, make).run(ends.size(), done, stop);
+            const Cell cell(Sandbox::Default);
+            WorkerPool({workers, 1, 1024}, make, cell).run(ends.size(), done, stop);
             for (std::size_t piece = 0; piece < ends.size(); ++piece)
                 QCOMPARE(ends[piece], (piece + 1) % each == 0 ? end : "did it");
         }
