@@ -13,7 +13,6 @@ namespace host::callfilter {
 
 namespace {
 
-const int endedStatus = 128 + SIGSYS;
 const std::uint32_t asTree = 2; // for SCMP_FLTATR_CTL_OPTIMIZE
 
 using Filter = std::unique_ptr<void, void (*)(scmp_filter_ctx)>;
@@ -42,6 +41,7 @@ int fill(scmp_filter_ctx filter)
     // slow all of it down.
     seccomp_attr_set(filter, SCMP_FLTATR_CTL_SSB, 1);
     seccomp_attr_set(filter, SCMP_FLTATR_CTL_OPTIMIZE, asTree);
+    seccomp_attr_set(filter, SCMP_FLTATR_API_SYSRAWRC, 1); // the kernel's own reasons
     seccomp_attr_set(filter, SCMP_FLTATR_ACT_BADARCH, SCMP_ACT_KILL_PROCESS);
     for (const allowedcalls::Group& group : allowedcalls::table(getpid()))
         for (const allowedcalls::Call& call : group.calls) {

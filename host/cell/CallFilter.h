@@ -1,9 +1,13 @@
 #pragma once
 
+#include <csignal>
 #include <string>
 
 /// Which system calls a process may make, and Linux holds it to: the kernel's seccomp.
 namespace host::callfilter {
+
+/// The exit status of a process that made a call which is not allowed.
+inline constexpr int endedStatus = 128 + SIGSYS;
 
 /// Is told of the number of a call that is not allowed, as the last thing that the process does. Must be safe
 /// in a signal handler.

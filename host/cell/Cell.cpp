@@ -1,6 +1,5 @@
 #include "Cell.h"
 
-#include "Reach.h"
 #include "host/files/FileDescriptor.h"
 #include "host/terminal/UsageError.h"
 
@@ -141,18 +140,30 @@ Cell::Cell(Sandbox wanted)
     m_state.callsProblem = inWords(problems[1], "seccomp");
     if (wanted == Sandbox::Require && !m_state.missing().empty())
         throw UsageError("workers cannot be locked in as --sandbox require asks: " + m_state.missing());
-    if (m_state.limitsFiles())
-        m_landlock.emplace(Landlock::version());
+    makeRules();
     readAhead();
     prctl(PR_SET_DUMPABLE, 0); // out of the workers' reach, and never in a core file
 }
 
-void Cell::allow(const Reach& reach)
+void Cell::allow(Reach reach)
+{
+    m_reach = std::move(reach);
+    makeRules();
+}
+
+void Cell::renew()
+try {
+    makeRules();
+} catch (const std::system_error&) { // what a worker is kept from then fails with that reason
+}
+
+void Cell::makeRules()
 {
     if (!m_state.limitsFiles())
         return;
-    m_landlock.emplace(Landlock::version());
-    reach.allowBy(*m_landlock);
+    Landlock rules(Landlock::version());
+    m_reach.allowBy(rules);
+    m_landlock = std::move(rules);
 }
 
 void Cell::enter(const std::vector<int>& descriptors, callfilter::Outside outside) const

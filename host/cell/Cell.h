@@ -3,13 +3,12 @@
 #include "CallFilter.h"
 #include "CellState.h"
 #include "Landlock.h"
+#include "Reach.h"
 
 #include <optional>
 #include <vector>
 
 namespace host {
-
-class Reach;
 
 /// What --sandbox asks for.
 enum class Sandbox {
@@ -31,14 +30,19 @@ public:
     const CellState& state() const { return m_state; }
 
     /// What the workers reach that are started from now on. Throws std::runtime_error.
-    void allow(const Reach& reach);
+    void allow(Reach reach);
+    /// The same by what lies there now; for want of memory, rules stay as they are.
+    void renew();
 
     /// Locks this process in, which has one thread. Standard streams lead nowhere from then on, and all other
     /// descriptors are closed but those. Throws std::runtime_error.
     void enter(const std::vector<int>& descriptors, callfilter::Outside outside) const;
 
 private:
+    void makeRules();
+
     CellState m_state;
+    Reach m_reach;
     std::optional<Landlock> m_landlock;
 };
 

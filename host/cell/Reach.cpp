@@ -2,17 +2,21 @@
 
 #include "host/saving/SafeOutput.h"
 
+#include <fcntl.h>
 #include <unistd.h>
+
+#include <cerrno>
 
 namespace host {
 
 namespace {
 
-std::string existing(std::string folder)
+/// It, or the folder above it that is there.
+std::string existing(std::string path)
 {
-    while (access(folder.c_str(), F_OK) != 0 && folder != SafeOutput::folderOf(folder))
-        folder = SafeOutput::folderOf(folder);
-    return folder;
+    while (access(path.c_str(), F_OK) != 0 && path != SafeOutput::folderOf(path))
+        path = SafeOutput::folderOf(path);
+    return path;
 }
 
 } // namespace
@@ -38,6 +42,13 @@ void Reach::allowBy(Landlock& landlock) const
         written.insert(existing(folder));
     for (const std::string& folder : written)
         landlock.allow(folder, Landlock::Access::Write);
+}
+
+bool isOutOfReach(const std::string& path)
+{
+    const std::string place = existing(path);
+    const FileDescriptor file(::open(place.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    return !file.isOpen() && errno == EACCES && access(place.c_str(), R_OK) == 0;
 }
 
 } // namespace host

@@ -30,4 +30,8 @@ private:
     std::set<std::string> m_folders;
 };
 
+/// Whether it is the cell that keeps this process from a file, or from a folder or the one above it that is
+/// there: the user may read it, and rules are about what lay there when they were made.
+bool isOutOfReach(const std::string& path);
+
 } // namespace host

@@ -102,10 +102,10 @@ const std::vector<Option> optionRows{
      Nothing, {}, {Run, Show, Check}, Group::Work, rare},
     {"memory", 0, "MIB", "gives a document up that needs more memory (default: 1024)", "",
      Nothing, {}, {Run, Show, Check}, Group::Work, rare},
-    {"sandbox", 0, "HOW", "how far those are locked in who read documents (default: try)",
-     "a document that takes its reader over can then do nothing but read the documents of this run and write where "
-     "results go: no other file, no network, no other program; what it writes into results nothing keeps from it; "
-     "try takes what the kernel offers and tells what is missing, require begins nothing then, off locks nobody in",
+    {"sandbox", 0, "HOW", "how far the processes that read documents are locked in",
+     "even taken over by a document, they reach no files but this run's, no network and no other program; what they "
+     "write into results is not judged; try (the default) takes what the kernel offers, require begins nothing "
+     "without all of it",
      Words, {"try", "require", "off"}, {Run, Show, Check, Configure}, Group::Work, rare},
     {"sync", 0, "", "with -o, flushes each document to the disk before the next",
      "in place that is always so",

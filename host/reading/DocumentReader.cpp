@@ -1,5 +1,6 @@
 #include "DocumentReader.h"
 
+#include "host/cell/Reach.h"
 #include "host/program/InstallLayout.h"
 #include "host/workers/Record.h"
 
@@ -45,7 +46,7 @@ Worker::Answer DocumentReader::answer(std::size_t piece, WorkerSlot&)
                                engine::wideFromFileName(m_password)) == 0) {
         const int code = m_library.LastErrorCode();
         return {Reading{Reading::Failed, std::string(engine::errorText(code))}.toRecord(),
-                code == static_cast<int>(engine::ErrorCode::OutOfMemory)};
+                code == static_cast<int>(engine::ErrorCode::OutOfMemory), isOutOfReach(document.name)};
     }
     const int id = m_library.SelectedDocument();
     m_library.SelectDocument(id);

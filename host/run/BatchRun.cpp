@@ -46,7 +46,7 @@ public:
             m_announce(job, placement.result());
         };
         const DocumentResult result = m_processor.process(m_jobs[job], note);
-        return {result.toRecord(), m_processor.isWornOut()};
+        return {result.toRecord(), m_processor.isWornOut(), m_processor.isKeptOut()};
     }
 
     std::vector<int> descriptors() const override { return {m_report}; }

@@ -1,5 +1,6 @@
 #include "DocumentProcessor.h"
 
+#include "host/cell/Reach.h"
 #include "host/document/ViewChanger.h"
 #include "host/files/Checksum.h"
 #include "host/files/FileDescriptor.h"
@@ -69,6 +70,9 @@ DocumentResult DocumentProcessor::process(const DocumentJob& job, const BeforePl
         result = DocumentResult::failed(error.what());
     }
     result.milliseconds = millisecondsTaken();
+    m_keptOut =
+        result.status == Status::Failed &&
+        (isOutOfReach(job.source) || (!m_options.dryRun && isOutOfReach(SafeOutput::folderOf(job.target))));
     return result;
 }
 

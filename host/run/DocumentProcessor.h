@@ -73,6 +73,8 @@ public:
 
     /// True once a document needed more memory than there is: what is left may be in pieces.
     bool isWornOut() const { return m_wornOut; }
+    /// True when the last document failed, and what it needs is out of this process's reach (Reach.h).
+    bool isKeptOut() const { return m_keptOut; }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -107,6 +109,7 @@ private:
     std::vector<std::string> m_notes; ///< On the document that is worked on.
     const BeforePlacement* m_beforePlacement = nullptr;
     bool m_wornOut = false;
+    bool m_keptOut = false;
 };
 
 } // namespace host

@@ -1,7 +1,6 @@
 #include "WorkerPool.h"
 
 #include "StopSignal.h"
-#include "WorkerSlot.h"
 
 #include "host/cell/Cell.h"
 #include "host/files/FileDescriptor.h"
@@ -66,7 +65,7 @@ void limitWorker(int memoryMiB)
 
 std::string describeEnd(int status, std::optional<int> outsideCall)
 {
-    if (outsideCall)
+    if (outsideCall && WIFEXITED(status) && WEXITSTATUS(status) == callfilter::endedStatus)
         return "did what no document needs (" + callfilter::nameOf(*outsideCall) + ")";
     if (WIFSIGNALED(status))
         return "the worker process crashed on it: " + std::string(strsignal(WTERMSIG(status)));
@@ -128,7 +127,7 @@ struct WorkerPool::Process
     }
 };
 
-WorkerPool::WorkerPool(Limits limits, MakeWorker makeWorker, const Cell& cell)
+WorkerPool::WorkerPool(Limits limits, MakeWorker makeWorker, Cell& cell)
     : m_limits(limits), m_makeWorker(std::move(makeWorker)), m_cell(cell),
       m_processes(static_cast<std::size_t>(limits.workers))
 {}
@@ -160,12 +159,15 @@ void WorkerPool::doRound(const Done& done, StopSignal& stop)
 }
 
 /// The next piece that a worker took without living to name it, or whose answer it corrupted; alone, so that
-/// there is no doubt about which one it was if the next worker does not live either.
+/// there is no doubt about which one it was if the next worker does not live either. Or one that a cell kept a
+/// worker from, which is then right about what it allows.
 void WorkerPool::planNextRound()
 {
     const auto left =
         std::find(m_ended.begin() + static_cast<std::ptrdiff_t>(m_round.front()), m_ended.end(), false);
     m_round.clear();
+    if (left != m_ended.end())
+        m_cell.renew();
     if (left != m_ended.end())
         m_round.push_back(static_cast<std::size_t>(left - m_ended.begin()));
     *m_next = 0;
@@ -242,7 +244,10 @@ void WorkerPool::serve(Process& process, int wakeUps, pid_t parent)
             const Worker::Answer answer = worker->answer(m_round[place], slot);
             if (answer.text.size() > WorkerSlot::largestAnswer)
                 throw std::length_error("what there is to tell of it is longer than 128 KiB");
-            tell(WorkerSlot::Answered, answer.text);
+            const bool again = answer.again && m_round.size() > 1;
+            tell(again ? WorkerSlot::Again : WorkerSlot::Answered, answer.text);
+            if (again)
+                slot.begin(WorkerSlot::none);
             last = answer.last;
         }
     } catch (const std::exception&) {
@@ -306,14 +311,20 @@ void WorkerPool::receive(Process& process, const Done& done)
         end(process, done, WorkOutcome::Lost);
 }
 
+void WorkerPool::takeAnswer(const Process& process, const WorkerSlot::Answer& answer, const Done& done)
+{
+    if (answer.kind == WorkerSlot::Answered)
+        pieceEnded(answer.piece, done, {WorkOutcome::Answered, answer.text});
+    else if (answer.kind == WorkerSlot::Lost)
+        pieceEnded(answer.piece, done, {WorkOutcome::Lost, answer.text, (*process.slot)->noted()});
+}
+
 /// \returns their number.
 int WorkerPool::takeAnswers(Process& process, const Done& done)
 {
     int count = 0;
     for (; const std::optional<WorkerSlot::Answer> answer = (*process.slot)->takeAnswer(); ++count)
-        pieceEnded(answer->piece, done,
-                   {answer->kind == WorkerSlot::Answered ? WorkOutcome::Answered : WorkOutcome::Lost,
-                    answer->text, answer->kind == WorkerSlot::Answered ? "" : (*process.slot)->noted()});
+        takeAnswer(process, *answer, done);
     if (count > 0) {
         process.news = Clock::now();
         setDeadline(process); // what took this program long is not the worker's

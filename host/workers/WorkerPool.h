@@ -1,6 +1,7 @@
 #pragma once
 
 #include "SharedMemory.h"
+#include "WorkerSlot.h"
 
 #include <sys/types.h>
 
@@ -17,7 +18,6 @@ namespace host {
 
 class Cell;
 class StopSignal;
-class WorkerSlot;
 
 /// What a worker process does.
 class Worker
@@ -28,6 +28,8 @@ public:
         std::string text;
         /// The worker is not fit for further work, and a fresh one takes its place.
         bool last = false;
+        /// The cell keeps the worker from what the user may reach: once more, in a new one.
+        bool again = false;
     };
 
     virtual ~Worker() = default;
@@ -68,7 +70,7 @@ public:
     using Done = std::function<void(std::size_t, const WorkOutcome&)>;
 
     /// \param cell the workers are locked in there as soon as they are made; it must outlive the object.
-    WorkerPool(Limits limits, MakeWorker makeWorker, const Cell& cell);
+    WorkerPool(Limits limits, MakeWorker makeWorker, Cell& cell);
     ~WorkerPool();
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
@@ -92,6 +94,7 @@ private:
     void waitForNews(const Done& done, StopSignal& stop);
     void nap() const;
     void receive(Process& process, const Done& done);
+    void takeAnswer(const Process& process, const WorkerSlot::Answer& answer, const Done& done);
     int takeAnswers(Process& process, const Done& done);
     void pieceEnded(std::uint64_t place, const Done& done, const WorkOutcome& outcome);
     void end(Process& process, const Done& done, WorkOutcome::Kind kind, const std::string& reason = {});
@@ -103,7 +106,7 @@ private:
 
     Limits m_limits;
     MakeWorker m_makeWorker;
-    const Cell& m_cell;
+    Cell& m_cell;
     std::vector<Process> m_processes;
     std::vector<bool> m_ended;
     /// The pieces of this round; workers take places in this list.

@@ -66,7 +66,8 @@ std::optional<WorkerSlot::Answer> WorkerSlot::takeAnswer()
         m_taken = end; // corrupted
         return std::nullopt;
     }
-    Answer answer{header.piece, header.kind == Answered ? Answered : Lost, std::string(header.size, '\0')};
+    const Kind kind = header.kind == Answered ? Answered : header.kind == Again ? Again : Lost;
+    Answer answer{header.piece, kind, std::string(header.size, '\0')};
     copyOut(begin + sizeof header, answer.text.data(), answer.text.size());
     m_taken = begin + sizeof header + answer.text.size();
     return answer;

@@ -22,7 +22,7 @@ public:
 
     static constexpr std::uint64_t none = UINT64_MAX;
 
-    enum Kind : std::uint64_t { Answered, Lost };
+    enum Kind : std::uint64_t { Answered, Lost, Again };
     struct Answer
     {
         std::uint64_t piece;
@@ -37,7 +37,7 @@ public:
     /// What the program is to know about the piece if the worker ends before it answers. Throws
     /// std::length_error when it is longer than `largestNote`.
     void note(std::string_view bytes);
-    /// Ends the piece. Waits while the program has not taken earlier answers and there is no room; what is
+    /// Ends the piece, or with Again leaves it for later. Waits while the program has not taken earlier answers and there is no room; what is
     /// longer than `largestAnswer` is cut off. \returns whether the program may be waiting for it.
     bool answer(Kind kind, std::string_view text);
     /// The process ends because it made a system call that it must not make.

@@ -2,6 +2,7 @@
 #include "support/PdfBuilder.h"
 #include "support/ProgramRun.h"
 #include "support/Rows.h"
+#include "support/TroubledProgram.h"
 #include "support/WorkFolder.h"
 
 #include <QSettings>
@@ -484,7 +485,7 @@ private slots:
 
         put("1-hang.pdf");
         put("2-good.pdf");
-        const QString program = programWithTroubledLibrary();
+        const QString program = troubledProgramIn(m_folder->path());
         QProcess process;
         process.start("sh", QStringList{"-c", "trap '' HUP; exec \"$0\" \"$@\"", program, "run", "--jobs",
                                         "1", "--timeout", "2", "--report", "report", "--in-place",
@@ -503,7 +504,7 @@ private slots:
         for (const char* name : {"in/1-good.pdf", "in/2-slow.pdf", "in/3-good.pdf"})
             put(name);
         QProcess process;
-        process.start(programWithTroubledLibrary(),
+        process.start(troubledProgramIn(m_folder->path()),
                       QStringList{"run", "--jobs", "1", "-o", "out", "in"} + panelAndPage);
         QVERIFY(waitFor([] { return fs::exists("out/1-good.pdf"); }));
         fs::remove_all("out");
@@ -518,8 +519,8 @@ private slots:
         for (const QStringList& target : {QStringList{"--in-place"}, QStringList{"-o", "out"}}) {
             put("replaced.pdf");
             const std::string newer = put("newer", PdfBuilder::simple("/PageMode /UseThumbs"));
-            const ProgramRun run(programWithTroubledLibrary(),
-                                 QStringList{"run", "replaced.pdf"} + target + panelAndPage,
+            const ProgramRun run(troubledProgramIn(m_folder->path()),
+                                 QStringList{"run", "--sandbox", "off", "replaced.pdf"} + target + panelAndPage,
                                  m_folder->path());
             QVERIFY2(reasonFor(run.err, "replaced.pdf").contains("changed by another program"), run.err);
             QVERIFY(WorkFolder::contentOf("replaced.pdf") == newer);
@@ -554,7 +555,7 @@ private slots:
             const QString name = trouble < 0 ? "good" : troubles[trouble];
             put(QString("in/%1-%2.pdf").arg(number, 3, 10, QChar('0')).arg(name).toStdString());
         }
-        const ProgramRun run(programWithTroubledLibrary(),
+        const ProgramRun run(troubledProgramIn(m_folder->path()),
                              QStringList{"run", "--jobs", "3", "--timeout", "8", "--memory", "300", "-o",
                                          "out", "--report", "report", "in"} +
                                  panelAndPage,
@@ -580,7 +581,7 @@ private slots:
         for (const char* name : {"in/1-good.pdf", "in/2-hang.pdf", "in/3-late-hang.pdf", "in/4-good.pdf"})
             put(name);
         QProcess process;
-        process.start(programWithTroubledLibrary(),
+        process.start(troubledProgramIn(m_folder->path()),
                       QStringList{"run", "--jobs", "2", "--in-place", "--report", "report", "in"} +
                           panelAndPage);
         QVERIFY(waitFor([] { return WorkFolder::contentOf("in/3-late-hang.pdf") != PdfBuilder::simple(); }));
@@ -611,7 +612,7 @@ private slots:
         const auto [words, folder] = Rows<QString, QString>::current();
         for (const char* name : {"in/1-late-crash.pdf", "in/2-good.pdf"})
             put(name);
-        const ProgramRun run(programWithTroubledLibrary(),
+        const ProgramRun run(troubledProgramIn(m_folder->path()),
                              QStringList{"run", "--report", "report"} + words.split(' ') + panelAndPage,
                              m_folder->path());
         QVERIFY2(run.out.endsWith("2 changed, 0 unchanged, 0 failed\n"), run.err);
@@ -633,7 +634,7 @@ private slots:
     // After a stop signal no document is begun, and one that takes long keeps no other waiting.
     void beginsNoDocumentTooLateOrTooEarly()
     {
-        const auto start = [program = programWithTroubledLibrary()](QProcess& process,
+        const auto start = [program = troubledProgramIn(m_folder->path())](QProcess& process,
                                                                     const QStringList& options) {
             process.start(program, QStringList{"run"} + options + panelAndPage);
         };
@@ -852,19 +853,6 @@ private:
             if (entry.path().filename().string().find(".quintar-") != std::string::npos)
                 found += QString::fromStdString(entry.path().string());
         return found;
-    }
-
-    /// A copy of the program beside a library that crashes, hangs or eats memory when a document's name says
-    /// so.
-    QString programWithTroubledLibrary() const
-    {
-        const std::string modules = path("installed/lib/quintar").toStdString();
-        fs::create_directories(path("installed/bin").toStdString());
-        fs::create_directories(modules);
-        fs::copy_file(PROGRAM_FILE, path("installed/bin/quintar").toStdString());
-        fs::create_symlink(PLUGIN_FILE, modules + "/EditInitialView.so");
-        fs::create_symlink(TROUBLED_ENGINE_FILE, modules + "/TelvarPDFLibraryCPDylib1311.dylib");
-        return path("installed/bin/quintar");
     }
 
     bool waitFor(const std::function<bool()>& condition) const

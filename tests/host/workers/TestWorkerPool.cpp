@@ -87,7 +87,7 @@ private slots:
                 usleep(each == 1 && piece == 100 ? 1'300'000 : 0);
             };
             StopSignal stop;
-            const Cell cell(Sandbox::Default);
+            Cell cell(Sandbox::Default);
             WorkerPool({workers, 1, 1024}, make, cell).run(ends.size(), done, stop);
             for (std::size_t piece = 0; piece < ends.size(); ++piece)
                 QCOMPARE(ends[piece], (piece + 1) % each == 0 ? end : "did it");
