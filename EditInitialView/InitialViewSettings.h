@@ -118,7 +118,7 @@ constexpr Key listKey(const char* name, const char* group, const char* label,
 
 constexpr Key preferenceKey(pdflibrary::ViewerPreference option)
 {
-    const pdflibrary::PreferenceRow& row = pdflibrary::preference(option);
+    const pdflibrary::PreferenceRow row = pdflibrary::preference(option);
     return row.valueLabels.empty() ? flagKey(row.key, key::ViewerPrefs, row.label)
                                    : listKey(row.key, key::ViewerPrefs, row.label, row.valueLabels);
 }

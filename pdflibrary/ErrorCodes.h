@@ -20,6 +20,7 @@ enum class ErrorCode : int {
     CannotAppend = 8,
     OutOfMemory = 9,
     Internal = 10,
+    NotInPlace = 11,
     FileNotFound = 20,
     AccessDenied = 21,
     NotARegularFile = 22,
@@ -68,6 +69,7 @@ inline constexpr std::array errorTexts{
     ErrorText{ErrorCode::CannotAppend,          "the change cannot be appended to this document"},
     ErrorText{ErrorCode::OutOfMemory,           "the document needs more memory than there is"},
     ErrorText{ErrorCode::Internal,              "internal error"},
+    ErrorText{ErrorCode::NotInPlace,            "the change can be appended to a copy of the document only"},
     ErrorText{ErrorCode::FileNotFound,          "no such file or folder"},
     ErrorText{ErrorCode::AccessDenied,          "permission denied"},
     ErrorText{ErrorCode::NotARegularFile,       "not a regular file"},
@@ -125,6 +127,15 @@ enum EncryptionStatus {
     NotEncrypted = 0,
     OpenedWithUserPassword = 1,
     OpenedWithOwnerPassword = 2,
+};
+
+/// Forms of an update that AppendToString returns.
+enum UpdateForm {
+    /// As AppendToFile writes it, behind a copy.
+    ForCopy = 0,
+    /// To be written where the document lies, and from its last "startxref" on only when all before that is
+    /// on the disk. Up to then readers pass over it.
+    ForInPlace = 1,
 };
 
 /// Items of SecurityInfo; other items are not available here.

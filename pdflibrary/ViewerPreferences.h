@@ -5,8 +5,8 @@
 #include <array>
 #include <climits>
 #include <cstddef>
+#include <optional>
 #include <span>
-#include <stdexcept>
 
 /// The viewer preferences, each under all of its names. Library file, action, dialog and program read this
 /// one table, so a further preference is a further row.
@@ -84,22 +84,21 @@ inline constexpr std::array furtherPreferences{
 };
 // clang-format on
 
-/// The row of an option, or null for a number that is none.
-constexpr const PreferenceRow* findPreference(int option)
+/// The row of an option; none for a number that has none.
+constexpr std::optional<PreferenceRow> findPreference(int option)
 {
     for (const std::span<const PreferenceRow> rows : {std::span<const PreferenceRow>(viewerPreferences),
                                                       std::span<const PreferenceRow>(furtherPreferences)})
         for (const PreferenceRow& row : rows)
             if (row.option == option)
-                return &row;
-    return nullptr;
+                return row;
+    return {};
 }
 
 /// The row of an option, which must have one.
-constexpr const PreferenceRow& preference(ViewerPreference option)
+constexpr PreferenceRow preference(ViewerPreference option)
 {
-    const PreferenceRow* row = findPreference(option);
-    return row != nullptr ? *row : throw std::invalid_argument("no such viewer preference");
+    return findPreference(option).value();
 }
 
 } // namespace pdflibrary

@@ -1,3 +1,4 @@
+#include "Arguments.h"
 #include "Operations.h"
 #include "Session.h"
 #include "Text.h"
@@ -5,6 +6,7 @@
 #include "engine/files/ByteSource.h"
 #include "engine/files/EngineError.h"
 #include "engine/writing/DocumentWriter.h"
+#include "engine/writing/InPlaceUpdate.h"
 #include "pdflibrary/FileNameCodec.h"
 
 namespace engine::operations {
@@ -84,6 +86,13 @@ int AppendToFile(Session& session, std::wstring_view fileName)
 {
     appendUpdate(session.document().document, pathFrom(fileName));
     return 1;
+}
+
+std::string AppendToString(Session& session, int form)
+{
+    Document& document = session.document().document;
+    requireWithin(form, ForCopy, ForInPlace);
+    return form == ForInPlace ? inPlaceUpdateOf(document) : updateOf(document);
 }
 
 std::string SaveToString(Session& session)

@@ -32,6 +32,9 @@ int SaveToFile(Session& session, std::wstring_view fileName);
 /// Writes the original bytes and, after them, the changed objects, to a new file that then takes the name.
 /// \throws EngineError NothingChanged; CannotAppend for a document that has to be written whole.
 int AppendToFile(Session& session, std::wstring_view fileName);
+/// What AppendToFile writes behind the original bytes, in the form of an UpdateForm (ErrorCodes.h).
+/// \throws EngineError as AppendToFile; NotInPlace where it may be appended to a copy only.
+std::string AppendToString(Session& session, int form);
 /// The whole document, written anew.
 std::string SaveToString(Session& session);
 /// The number of open documents.

@@ -71,10 +71,10 @@ Stored storedPreference(Document& document, const PreferenceRow& preference, int
     return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{absent, !entry.isNull()};
 }
 
-const PreferenceRow& preferenceOf(int option)
+PreferenceRow preferenceOf(int option)
 {
-    const PreferenceRow* preference = pdflibrary::findPreference(option);
-    require(preference != nullptr, ErrorCode::BadArgument);
+    const std::optional<PreferenceRow> preference = pdflibrary::findPreference(option);
+    require(preference.has_value(), ErrorCode::BadArgument);
     return *preference;
 }
 
@@ -150,7 +150,7 @@ int GetViewerPreferences(Session& session, int option)
 {
     Document& document = session.document().document;
     const bool asWritten = option > pdflibrary::AsWritten;
-    const PreferenceRow& preference = preferenceOf(asWritten ? option - pdflibrary::AsWritten : option);
+    const PreferenceRow preference = preferenceOf(asWritten ? option - pdflibrary::AsWritten : option);
     return storedPreference(document, preference, asWritten ? pdflibrary::NoPreference : preference.absent)
         .value;
 }
@@ -158,7 +158,7 @@ int GetViewerPreferences(Session& session, int option)
 int SetViewerPreferences(Session& session, int option, int value)
 {
     Document& document = session.document().document;
-    const PreferenceRow& preference = preferenceOf(option);
+    const PreferenceRow preference = preferenceOf(option);
     if (value == pdflibrary::NoPreference) {
         removePreference(document, preference);
         return 1;

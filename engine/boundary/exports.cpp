@@ -21,6 +21,7 @@ constexpr void addDocuments(OperationSlots& slots)
     slots.LoadFromString = operations::LoadFromString;
     slots.SaveToFile = operations::SaveToFile;
     slots.AppendToFile = operations::AppendToFile;
+    slots.AppendToString = operations::AppendToString;
     slots.SaveToString = operations::SaveToString;
     slots.DocumentCount = operations::DocumentCount;
     slots.GetDocumentID = operations::GetDocumentID;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ListOptions.h"
 #include "host/plan/RunPlan.h"
 
 #include <optional>
@@ -24,20 +25,18 @@ public:
     /// Documents and folders: those that are named by themselves, and then those of the list.
     const std::vector<std::string>& inputs() const { return m_inputs; }
     /// The documents for a command that only reads them. Folders without any are noted. Throws UsageError.
-    RunPlan planForReading() const;
+    RunPlan planForReading(RunPlan::Found found) const;
     /// Whether an option names it; documents may come from it as well.
-    bool readsStandardInput() const { return m_passwordFile == "-" || m_list == "-"; }
+    bool readsStandardInput() const { return m_passwordFile == "-" || m_list.isStandardInput(); }
     const std::string& password() const { return m_password; }
     const std::vector<std::string>& filesRead() const { return m_filesRead; }
 
 private:
     void readPassword();
-    void readList();
 
-    bool m_nullSeparated = false;
     std::optional<std::string> m_givenPassword;
     std::optional<std::string> m_passwordFile;
-    std::optional<std::string> m_list;
+    ListOptions m_list;
     std::vector<std::string> m_inputs;
     std::string m_password;
     std::vector<std::string> m_filesRead;

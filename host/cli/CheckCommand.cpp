@@ -17,6 +17,7 @@ void CheckCommand::takeOptions(OptionParser& parser)
     m_documents.take(parser);
     takeLimits(parser, m_limits);
     takeSandbox(parser, m_sandbox);
+    m_live.take(parser);
     parser.takeFlag("json", m_json);
     parser.takeFlag("quiet", m_quiet);
 }
@@ -25,6 +26,7 @@ int CheckCommand::work(const std::vector<std::string>& words)
 {
     m_asked.check();
     m_documents.check(words);
+    m_live.check(m_json ? "--json" : "", m_documents.readsStandardInput() || m_asked.readsStandardInput());
     m_documents.read(words);
     Cell cell(m_sandbox);
     m_asked.read(m_documents.password(), cell);
@@ -33,16 +35,30 @@ int CheckCommand::work(const std::vector<std::string>& words)
     if (!m_quiet)
         for (const std::string& text : m_asked.notes())
             note(text);
-    const RunPlan plan = m_documents.planForReading();
+    m_live.begin(name(), m_documents.inputs());
+    const RunPlan plan = m_documents.planForReading(m_live.found());
     const PluginHost plugin(installlayout::pluginFile());
-    const CheckTeller::Question question{m_asked.change(), m_asked.entries(), plugin.action(), m_json};
-    ReadingRun run(plan, cell, {m_documents.password(), m_limits, m_quiet,
-                          m_json ? CheckTeller::failureInJson : ReadingRun::FailureLine()});
+    const CheckTeller::Question question{m_asked.change(), m_asked.entries(), plugin.action(),
+                                         m_json || m_live.events() != nullptr};
+    ReadingRun run(plan, cell,
+                   {m_documents.password(), m_limits, m_live.control(), m_live.events(), m_quiet,
+                    m_json ? CheckTeller::failureInJson : ReadingRun::FailureLine()});
     const int status =
         run.run([&](auto& library) { return std::make_unique<CheckTeller>(library, question); });
-    if (!m_quiet && !m_json)
+    if (m_live.events() != nullptr)
+        end(run);
+    else if (!m_quiet && !m_json)
         sumUp(run);
     return status;
+}
+
+void CheckCommand::end(const ReadingRun& run)
+{
+    const auto count = [&](Reading::Kind kind) { return static_cast<qint64>(run.count(kind)); };
+    m_live.events()->end({{"asAsked", count(Reading::Good)},
+                          {"differs", count(Reading::Differs)},
+                          {"failed", count(Reading::Failed)}},
+                         m_live.control().isStopped());
 }
 
 void CheckCommand::sumUp(const ReadingRun& run) const

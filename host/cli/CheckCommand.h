@@ -4,6 +4,7 @@
 
 #include "host/arguments/ChangeOptions.h"
 #include "host/arguments/DocumentOptions.h"
+#include "host/arguments/LiveOptions.h"
 #include "host/cell/Cell.h"
 #include "host/workers/WorkerPool.h"
 
@@ -22,12 +23,14 @@ protected:
     int work(const std::vector<std::string>& words) override;
 
 private:
+    void end(const ReadingRun& run);
     void sumUp(const ReadingRun& run) const;
 
     bool m_json = false;
     bool m_quiet = false;
     ChangeOptions m_asked;
     DocumentOptions m_documents;
+    LiveOptions m_live{EventStream::Unheard::Ends};
     WorkerPool::Limits m_limits;
     Sandbox m_sandbox = Sandbox::Default;
 };

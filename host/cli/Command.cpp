@@ -3,6 +3,7 @@
 #include "host/arguments/OptionParser.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardOutput.h"
+#include "host/workers/RunControl.h"
 
 namespace host {
 
@@ -11,10 +12,15 @@ int Command::run(int argc, char** argv)
     OptionParser parser(options::command(id()));
     takeOptions(parser);
     const std::vector<std::string> words = parser.parse(argc, argv);
-    if (parser.help().empty())
+    if (!parser.help().empty()) {
+        printResult(parser.help());
+        return exitstatus::done;
+    }
+    try {
         return work(words);
-    printResult(parser.help());
-    return exitstatus::done;
+    } catch (const StoppedEarly&) {
+        return exitstatus::stopped;
+    }
 }
 
 } // namespace host

@@ -54,16 +54,16 @@ int RunCommand::work(const std::vector<std::string>& words)
     BatchRun::Done done = doneBefore(plan);
     openStreams();
     if (!m_options.dryRun)
-        if (const std::string problem = destination.makeFolder(); !problem.empty())
-            throw UsageError(problem);
+        if (const Failure problem = destination.makeFolder(); problem)
+            throw UsageError(problem.text);
     m_options.tellStates = m_reportFile.has_value();
-    m_options.tellChanges = m_reportFile.has_value() || !m_quiet;
+    m_options.tellChanges = m_reportFile.has_value() || !m_quiet || m_live.events() != nullptr;
     if (report) // may lie in the output folder
         begin(*report);
-    const int status =
-        BatchRun(plan, m_options, cell,
-                 {report ? &*report : nullptr, tells(), m_streams ? &*m_streams : nullptr, std::move(done)})
-            .run(m_limits);
+    const int status = BatchRun(plan, m_options, cell,
+                                {m_live.control(), m_live.events(), report ? &*report : nullptr, tells(),
+                                 m_streams ? &*m_streams : nullptr, std::move(done)})
+                           .run(m_limits);
     if (m_streams && destination.isStandardOutput())
         m_streams->printResult();
     return status;
@@ -91,8 +91,10 @@ bool RunCommand::hasStandardInput() const
 }
 
 /// Standard output takes one thing only.
-Tells RunCommand::tells() const
+Tells RunCommand::tells()
 {
+    if (m_live.events() != nullptr)
+        return Tells::Nothing;
     if (m_quiet)
         return Tells::Failures;
     if (m_reportFile == Report::standardOutput)
@@ -106,10 +108,12 @@ void RunCommand::takeOptions(OptionParser& parser)
     m_documentOptions.take(parser);
     takeLimits(parser, m_limits);
     takeSandbox(parser, m_sandbox);
+    m_live.take(parser);
     parser.takeValue("output", setOnce(m_output, "-o"));
     parser.takeValue("base", setOnce(m_base, "--base"));
     parser.takeValue("suffix", setOnce(m_suffix, "--suffix"));
     parser.takeFlag("in-place", m_options.inPlace);
+    parser.takeFlag("replace", m_options.replace);
     parser.takeValue("report", setOnce(m_reportFile, "--report"));
     parser.takeValue("resume", setOnce(m_resumedReport, "--resume"));
     parser.takeValue(
@@ -125,6 +129,8 @@ void RunCommand::check() const
     m_changeOptions.check();
     if (m_options.rewrite && m_options.inPlace)
         throw UsageError("--rewrite goes with -o: in place, the document's own bytes would be gone");
+    if (m_options.replace && !m_options.inPlace)
+        throw UsageError("--replace goes with --in-place: other results are always files of their own");
     if (m_base && (m_base->empty() || !m_output))
         throw UsageError(m_base->empty() ? "the name of the base folder is empty" : "--base goes with -o");
     m_documentOptions.check(m_words);
@@ -152,11 +158,13 @@ void RunCommand::checkStandardStreams() const
     const auto documents = std::count(m_words.begin(), m_words.end(), RunDestination::standardStream);
     const auto readers = documents + (m_documentOptions.readsStandardInput() ? 1 : 0) +
                          (m_changeOptions.readsStandardInput() ? 1 : 0);
+    const bool printsReport = m_reportFile == Report::standardOutput;
+    m_live.check(printsResult() ? "-o -" : printsReport ? "--report -" : "", readers > 0);
     if (readers > 1)
         throw UsageError("standard input is named more than once, and can be read once only");
     if (hasStandardInput() && m_changeOptions.takesTitleFromFileName())
         throw UsageError("--title-from-file-name: a document from standard input has no name");
-    if (printsResult() && m_reportFile == Report::standardOutput)
+    if (printsResult() && printsReport)
         throw UsageError("-o - and --report - exclude each other: standard output takes one of them");
     if (printsResult() && !m_options.dryRun)
         StreamFiles::checkOutput();
@@ -205,9 +213,10 @@ BatchRun::Done RunCommand::doneBefore(const RunPlan& plan) const
     return done;
 }
 
-RunPlan RunCommand::plan(const RunDestination& destination) const
+RunPlan RunCommand::plan(const RunDestination& destination)
 {
-    RunPlan plan(destination);
+    m_live.begin(name(), m_documentOptions.inputs(), m_reportFile.value_or(""));
+    RunPlan plan(destination, m_live.found());
     for (const std::string& input : m_documentOptions.inputs())
         input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input);
     plan.checkTargets();

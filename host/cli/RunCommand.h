@@ -4,6 +4,7 @@
 
 #include "host/arguments/ChangeOptions.h"
 #include "host/arguments/DocumentOptions.h"
+#include "host/arguments/LiveOptions.h"
 #include "host/cell/Cell.h"
 #include "host/plan/StreamFiles.h"
 #include "host/run/BatchRun.h"
@@ -33,7 +34,7 @@ private:
     void check() const;
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
-    RunPlan plan(const RunDestination& destination) const;
+    RunPlan plan(const RunDestination& destination);
     void begin(Report& report) const;
     /// What --resume leaves out.
     BatchRun::Done doneBefore(const RunPlan& plan) const;
@@ -47,11 +48,12 @@ private:
     bool printsResult() const;
     /// Standard input and output as files, where they are among documents and results.
     void openStreams();
-    Tells tells() const;
+    Tells tells();
 
     bool m_quiet = false;
     ChangeOptions m_changeOptions;
     DocumentOptions m_documentOptions;
+    LiveOptions m_live{EventStream::Unheard::GoesOn};
     std::vector<std::string> m_words;
     std::optional<std::string> m_output;
     std::optional<std::string> m_suffix;

@@ -20,6 +20,7 @@ void ShowCommand::takeOptions(OptionParser& parser)
     m_documents.take(parser);
     takeLimits(parser, m_limits);
     takeSandbox(parser, m_sandbox);
+    m_live.take(parser);
 }
 
 int ShowCommand::work(const std::vector<std::string>& words)
@@ -27,21 +28,27 @@ int ShowCommand::work(const std::vector<std::string>& words)
     if (m_json && m_table)
         throw UsageError("--json and --table exclude each other");
     m_documents.check(words);
+    m_live.check(m_json ? "--json" : m_table ? "--table" : "", m_documents.readsStandardInput());
     m_documents.read(words);
     Cell cell(m_sandbox);
     noteMissing(cell, m_sandbox);
-    const RunPlan plan = m_documents.planForReading();
+    m_live.begin(name(), m_documents.inputs());
+    const RunPlan plan = m_documents.planForReading(m_live.found());
     ShowTeller::Form form = ShowTeller::Words();
-    if (m_json)
+    if (m_json || m_live.events() != nullptr)
         form = ShowTeller::Json();
     if (m_table) {
         const ViewTable table(textwidth::ofTerminal(STDOUT_FILENO));
         printResult(table.header());
         form = table;
     }
-    return ReadingRun(plan, cell, {m_documents.password(), m_limits}).run([&](auto& library) {
-        return std::make_unique<ShowTeller>(library, form);
-    });
+    ReadingRun run(plan, cell, {m_documents.password(), m_limits, m_live.control(), m_live.events()});
+    const int status = run.run([&](auto& library) { return std::make_unique<ShowTeller>(library, form); });
+    if (m_live.events() != nullptr)
+        m_live.events()->end({{"read", static_cast<qint64>(run.count(Reading::Good))},
+                              {"failed", static_cast<qint64>(run.count(Reading::Failed))}},
+                             m_live.control().isStopped());
+    return status;
 }
 
 } // namespace host

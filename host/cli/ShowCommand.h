@@ -3,6 +3,7 @@
 #include "Command.h"
 
 #include "host/arguments/DocumentOptions.h"
+#include "host/arguments/LiveOptions.h"
 #include "host/cell/Cell.h"
 #include "host/workers/WorkerPool.h"
 
@@ -22,6 +23,7 @@ private:
     bool m_json = false;
     bool m_table = false;
     DocumentOptions m_documents;
+    LiveOptions m_live{EventStream::Unheard::Ends};
     WorkerPool::Limits m_limits;
     Sandbox m_sandbox = Sandbox::Default;
 };

@@ -2,6 +2,9 @@
 
 #include "Command.h"
 
+#include "host/arguments/ListOptions.h"
+#include "host/arguments/LiveOptions.h"
+
 namespace host {
 
 /// "quintar undo": takes back what a run changed in place, by its report.
@@ -15,6 +18,8 @@ protected:
     int work(const std::vector<std::string>& words) override;
 
 private:
+    ListOptions m_list;
+    LiveOptions m_live{EventStream::Unheard::GoesOn};
     bool m_dryRun = false;
     bool m_quiet = false;
 };

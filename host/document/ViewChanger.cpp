@@ -50,7 +50,7 @@ bool isWhole(double percent)
 
 } // namespace
 
-std::string ViewChanger::apply(const std::string& file)
+Failure ViewChanger::apply(const std::string& file)
 {
     m_differences.clear();
     m_notes.clear();
@@ -68,8 +68,8 @@ std::string ViewChanger::apply(const std::string& file)
                                                                         : std::get<std::string>(*title));
         noteMissingTitle();
         return {};
-    } catch (const std::runtime_error& error) {
-        return error.what();
+    } catch (const std::runtime_error&) {
+        return Failure::ofException();
     }
 }
 
@@ -116,8 +116,9 @@ int ViewChanger::wantedPage() const
         return numberOf(m_present[ViewEntry::OpenPage], 1);
     const int page = numberOf(*wanted, count);
     if (page > count)
-        throw std::runtime_error("it has " + std::to_string(count) + (count == 1 ? " page" : " pages") +
-                                 ", so it cannot open at page " + std::to_string(page));
+        throw DocumentError({ReasonCode::PageBeyondEnd,
+                             "it has " + std::to_string(count) + (count == 1 ? " page" : " pages") +
+                                 ", so it cannot open at page " + std::to_string(page)});
     return page;
 }
 
@@ -181,7 +182,7 @@ void ViewChanger::changeTitle(const std::string& title)
         return;
     const std::optional<QString> changed = xmptitle::write(packet, text);
     if (!changed)
-        throw std::runtime_error("the title in its XMP metadata cannot be changed");
+        throw DocumentError({ReasonCode::Metadata, "the title in its XMP metadata cannot be changed"});
     if (*changed == packet)
         return;
     require(m_library.SetDocumentMetadata(changed->toStdWString()), ViewEntry::Title);
@@ -199,8 +200,8 @@ void ViewChanger::noteMissingTitle()
 void ViewChanger::require(int result, ViewEntry entry) const
 {
     if (result == 0)
-        throw std::runtime_error("its " + viewentries::label(entry) + " cannot be changed: " +
-                                 std::string(engine::errorText(m_library.LastErrorCode())));
+        throw DocumentError(Failure::ofLibrary(m_library.LastErrorCode(),
+                                               "its " + viewentries::label(entry) + " cannot be changed: "));
 }
 
 void ViewChanger::altered(ViewEntry entry, const ViewValue& before, const ViewValue& after)

@@ -2,6 +2,7 @@
 
 #include "PresentView.h"
 #include "host/change/ViewChange.h"
+#include "host/failures/Failure.h"
 
 #include <string>
 #include <vector>
@@ -30,9 +31,9 @@ public:
 
     /// Changes the selected document.
     /// \param file its name, for a title that comes from it.
-    /// \returns why it cannot be changed; empty when it is as asked. After a failure part of the change may
+    /// \returns why it cannot be changed. After a failure part of the change may
     /// have been made: the document must not be saved.
-    std::string apply(const std::string& file);
+    Failure apply(const std::string& file);
 
     /// What the last call has altered.
     const std::vector<ViewDifference>& differences() const { return m_differences; }

@@ -42,4 +42,11 @@ std::string checksumOf(int file, std::int64_t size)
     return read ? hash.result().toHex().toStdString() : std::string();
 }
 
+std::string checksumOf(std::string_view bytes)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(bytes.data(), static_cast<int>(bytes.size()));
+    return hash.result().toHex().toStdString();
+}
+
 } // namespace host

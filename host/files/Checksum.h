@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace host {
 
@@ -10,5 +11,8 @@ namespace host {
 /// changes its size or its time, or means to go unnoticed.
 /// \returns empty, with errno set, when they cannot be read; errno is 0 when there are fewer.
 std::string checksumOf(int file, std::int64_t size);
+
+/// The same of all of some bytes.
+std::string checksumOf(std::string_view bytes);
 
 } // namespace host

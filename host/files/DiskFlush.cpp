@@ -45,6 +45,11 @@ bool flushFile(int file)
            (isInability(errno) && flushFileSystem(file, errno));
 }
 
+bool flushContent(int file)
+{
+    return retried([file] { return fdatasync(file); }) == 0;
+}
+
 bool flushFolder(const std::string& folder, int fileInIt)
 {
     const FileDescriptor directory(

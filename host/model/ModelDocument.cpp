@@ -6,8 +6,8 @@
 #include "host/program/InstallLayout.h"
 #include "host/terminal/UsageError.h"
 #include "host/workers/Record.h"
+#include "host/workers/RunControl.h"
 #include "host/workers/SignalMask.h"
-#include "host/workers/StopSignal.h"
 
 #include <bit>
 #include <memory>
@@ -49,10 +49,10 @@ void take(RecordReader& record, ViewChange& view, ViewEntry entry)
 ModelDocument fromAnswer(const std::string& file, const WorkOutcome& outcome)
 {
     if (outcome.kind == WorkOutcome::Stopped)
-        refuse(file, "stopped by a signal");
+        throw StoppedEarly();
     if (outcome.kind == WorkOutcome::Lost)
-        refuse(file, outcome.text);
-    RecordReader answer(outcome.text);
+        refuse(file, outcome.failure.text);
+    RecordReader answer(outcome.answer);
     const std::string problem = answer.text();
     if (!problem.empty())
         refuse(file, problem);
@@ -75,13 +75,14 @@ ModelDocument ModelDocument::read(const std::string& file, const std::string& pa
     Reach reach;
     reach.addFileToRead(file);
     cell.allow(reach);
-    WorkOutcome outcome{WorkOutcome::Stopped, {}};
+    WorkOutcome outcome{WorkOutcome::Stopped};
     const SignalMask mask;
-    StopSignal stop;
+    RunControl control;
+    control.takeSignals();
     WorkerPool pool(
         {}, [&] { return std::make_unique<ModelReader>(file, password, ask); }, cell);
     pool.run(
-        1, [&](std::size_t, const WorkOutcome& end) { outcome = end; }, stop);
+        1, [&](std::size_t, const WorkOutcome& end) { outcome = end; }, control);
     return fromAnswer(file, outcome);
 }
 

@@ -22,8 +22,8 @@ struct ModelDocument
     /// Asks in the worker; what it throws is the reason why the document is refused.
     using Ask = std::function<ModelDocument(const PresentView&)>;
 
-    /// Throws UsageError with the document's name when it cannot be read, or when a stop signal comes;
-    /// std::runtime_error when the library cannot be used.
+    /// Throws UsageError with the document's name when it cannot be read, std::runtime_error when the library
+    /// cannot be used, StoppedEarly when a stop signal comes.
     /// \param cell is changed: it allows the document from now on.
     static ModelDocument read(const std::string& file, const std::string& password, Cell& cell,
                               const Ask& ask);

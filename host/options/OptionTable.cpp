@@ -63,6 +63,9 @@ const std::vector<Option> optionRows{
     {"in-place", 0, "", "changes the documents in their own places",
      "one that needs no change is not touched",
      Nothing, {}, {Run}, Group::Target, common},
+    {"replace", 0, "", "with --in-place, puts a changed copy into each document's place",
+     "without it a change is appended where the document lies, if that is safe there",
+     Nothing, {}, {Run}, Group::Target, rare},
     {"output", 'o', "FILE", "writes an action list, a favourite, tool settings or a view",
      "the suffix says which: .xqq, .ini, .tsf, .json; where it is the file that the settings come from, the "
      "rest of it stays",
@@ -81,8 +84,11 @@ const std::vector<Option> optionRows{
     {"files-from", 0, "FILE|-", "takes further documents from a list, one a line",
      "- is standard input",
      Files, {}, {Run, Show, Check}, Group::Documents, rare},
+    {"files-from", 0, "FILE|-", "takes back only what is done to the documents in a list, one a line",
+     "- is standard input",
+     Files, {}, {Undo}, Group::Documents, rare},
     {"null", 0, "", "the names in that list end with NUL instead", "",
-     Nothing, {}, {Run, Show, Check}, Group::Documents, rare},
+     Nothing, {}, {Run, Show, Check, Undo}, Group::Documents, rare},
 
     {"signed", 0, "HOW", "what becomes of signed documents",
      "refused (the default), or changed by an update behind what is signed; certified ones with append-certified only",
@@ -111,6 +117,11 @@ const std::vector<Option> optionRows{
      "in place that is always so",
      Nothing, {}, {Run}, Group::Work, rare},
 
+    {"control", 0, "", "takes the words pause, resume and stop from standard input",
+     "a line each; its end means stop", Nothing, {}, {Run, Undo, Show, Check}, Group::Work, rare},
+
+    {"events", 0, "", "tells other programs what is going on, a JSON object a line",
+     "nothing else is printed on standard output then", Nothing, {}, {Run, Undo, Show, Check}, Group::Output, rare},
     {"report", 0, "FILE|-", "writes a JSON object a line about each document",
      "- is standard output",
      Files, {"jsonl"}, {Run}, Group::Output, common},

@@ -22,6 +22,8 @@ const char* nameOf(Saved saved)
     switch (saved) {
     case Saved::Appended:
         return "appended";
+    case Saved::AppendedInPlace:
+        return "appended in place";
     case Saved::Rewritten:
         return "rewritten";
     case Saved::Copied:
@@ -32,9 +34,9 @@ const char* nameOf(Saved saved)
     return "";
 }
 
-DocumentResult DocumentResult::failed(const std::string& reason, std::int64_t milliseconds)
+DocumentResult DocumentResult::failed(Failure reason, std::int64_t milliseconds)
 {
-    return {Status::Failed, Saved::Not, reason, milliseconds};
+    return {Status::Failed, Saved::Not, std::move(reason), milliseconds};
 }
 
 std::string DocumentResult::toRecord() const
@@ -42,7 +44,8 @@ std::string DocumentResult::toRecord() const
     return RecordWriter()
         .add(static_cast<std::int64_t>(status))
         .add(static_cast<std::int64_t>(saved))
-        .add(reason)
+        .add(static_cast<std::int64_t>(reason.code))
+        .add(reason.text)
         .add(milliseconds)
         .add(fileState)
         .add(outputState)
@@ -50,6 +53,7 @@ std::string DocumentResult::toRecord() const
         .add(static_cast<std::int64_t>(certified))
         .add(stateBefore)
         .add(checksumBefore)
+        .add(checksumUnfinished)
         .add(viewBefore)
         .add(viewAfter)
         .add(changes)
@@ -61,7 +65,10 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     RecordReader reader(record);
     const std::int64_t status = reader.number();
     const std::int64_t saved = reader.number();
-    DocumentResult result{static_cast<Status>(status), static_cast<Saved>(saved), reader.text()};
+    const std::int64_t code = reader.number();
+    DocumentResult result{static_cast<Status>(status),
+                          static_cast<Saved>(saved),
+                          {static_cast<ReasonCode>(code), reader.text()}};
     result.milliseconds = reader.number();
     result.fileState = reader.text();
     result.outputState = reader.text();
@@ -69,11 +76,12 @@ std::optional<DocumentResult> DocumentResult::fromRecord(const std::string& reco
     result.certified = reader.number() != 0;
     result.stateBefore = reader.text();
     result.checksumBefore = reader.text();
+    result.checksumUnfinished = reader.text();
     result.viewBefore = reader.text();
     result.viewAfter = reader.text();
     result.changes = reader.text();
     const bool known = status >= 0 && status <= static_cast<int>(Status::Failed) && saved >= 0 &&
-                       saved <= static_cast<int>(Saved::Copied);
+                       saved <= static_cast<int>(Saved::Copied) && isReasonCode(code);
     return reader.complete() && known ? std::optional(result) : std::nullopt;
 }
 

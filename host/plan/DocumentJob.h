@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/failures/Failure.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -10,7 +12,13 @@ namespace host {
 enum class Status { Changed, Unchanged, Failed };
 
 /// How its output came about.
-enum class Saved { Not, Appended, Rewritten, Copied };
+enum class Saved {
+    Not,
+    Appended, ///< To a copy.
+    AppendedInPlace,
+    Rewritten,
+    Copied
+};
 
 /// The words of the report.
 const char* nameOf(Status status);
@@ -29,8 +37,8 @@ struct DocumentResult
 {
     Status status = Status::Failed;
     Saved saved = Saved::Not;
-    /// Why it failed; UTF-8, may hold bytes of file names.
-    std::string reason = {};
+    /// Why it failed.
+    Failure reason = {};
     std::int64_t milliseconds = 0;
     /// Of the document as it was read and of the output, see FileState.h; in place both are the document as
     /// it is now. Empty for a document that failed, and when nothing was to be written.
@@ -44,13 +52,16 @@ struct DocumentResult
     /// checksum (Checksum.h) of all that stood before the update. By these the update can be taken back.
     std::string stateBefore = {};
     std::string checksumBefore = {};
+    /// While an update is being appended where the document lies: the checksum of what of it stands behind the
+    /// document before its last lines do.
+    std::string checksumUnfinished = {};
     /// What changed in how the document opens: JSON objects with the entries that differ (ViewSnapshot.h), and
     /// in words. Empty when nothing did, or it was not asked for.
     std::string viewBefore = {};
     std::string viewAfter = {};
     std::string changes = {};
 
-    static DocumentResult failed(const std::string& reason, std::int64_t milliseconds = 0);
+    static DocumentResult failed(Failure reason, std::int64_t milliseconds = 0);
     std::string toRecord() const;
     static std::optional<DocumentResult> fromRecord(const std::string& record);
 };

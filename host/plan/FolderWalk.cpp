@@ -1,7 +1,5 @@
 #include "FolderWalk.h"
 
-#include "host/files/FileDescriptor.h"
-
 #include <dirent.h>
 #include <strings.h>
 #include <sys/stat.h>
@@ -59,8 +57,9 @@ void FolderWalk::visit(const std::string& folder, const std::string& relative, i
 {
     std::vector<std::string> names;
     if (depth > deepest || !listNames(folder, names)) {
-        m_found(
-            {relative, nullptr, depth > deepest ? "the folders are nested too deeply" : systemError(errno)});
+        m_found({relative, nullptr,
+                 depth > deepest ? Failure{ReasonCode::ReadFailed, "the folders are nested too deeply"}
+                                 : Failure::ofSystem(errno, ReasonCode::ReadFailed)});
         return;
     }
     const std::string folderPrefix = folder + "/";
@@ -71,7 +70,7 @@ void FolderWalk::visit(const std::string& folder, const std::string& relative, i
         struct stat status;
         if (lstat(path.c_str(), &status) != 0) {
             if (errno != ENOENT) // it has gone since
-                m_found({below, nullptr, systemError(errno)});
+                m_found({below, nullptr, Failure::ofSystem(errno, ReasonCode::ReadFailed)});
             continue;
         }
         if (S_ISDIR(status.st_mode) && !m_skip(status))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/failures/Failure.h"
+
 #include <sys/stat.h>
 
 #include <functional>
@@ -20,7 +22,7 @@ public:
         /// Null when there is a problem.
         const struct stat* status;
         /// Why this one cannot be read.
-        std::string problem;
+        Failure problem;
     };
     using Found = std::function<void(const Entry& entry)>;
     /// A folder for which this answers true is passed over.

@@ -127,9 +127,9 @@ bool RunDestination::isEarlierResult(const std::string& document) const
     return stat(original.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
-std::string RunDestination::makeFolder() const
+Failure RunDestination::makeFolder() const
 {
-    return m_kind == Kind::Folder ? SafeOutput::makeFolder(m_path) : std::string();
+    return m_kind == Kind::Folder ? SafeOutput::makeFolder(m_path) : Failure();
 }
 
 } // namespace host

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/failures/Failure.h"
+
 #include <sys/stat.h>
 
 #include <string>
@@ -41,8 +43,8 @@ public:
     /// that it belongs to is there.
     bool isEarlierResult(const std::string& document) const;
 
-    /// Makes the folder for the results. \returns empty, or the reason of the failure.
-    std::string makeFolder() const;
+    /// Makes the folder for the results.
+    Failure makeFolder() const;
 
 private:
     enum class Kind { InPlace, Folder, File, Beside };

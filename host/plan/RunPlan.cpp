@@ -31,11 +31,11 @@ void RunPlan::add(const std::string& path)
         throw UsageError("a document's name is empty");
     struct stat status;
     if (stat(path.c_str(), &status) != 0)
-        m_documents.push_back({path, {}, systemError(errno)});
+        append({path, {}, Failure::ofSystem(errno, ReasonCode::ReadFailed)});
     else if (S_ISDIR(status.st_mode))
         addFolder(withoutTrailingSlashes(path));
     else if (!S_ISREG(status.st_mode))
-        m_documents.push_back({path, {}, systemError(notARegularFile)});
+        append({path, {}, Failure::ofSystem(notARegularFile, ReasonCode::ReadFailed)});
     else
         addDocument(path, path.substr(path.rfind('/') + 1), status);
 }
@@ -46,7 +46,7 @@ void RunPlan::addStandardInput()
     if (file.empty())
         throw UsageError("a document from standard input goes to -o FILE.pdf or -o -");
     m_documents.push_back(
-        {RunDestination::standardStream, m_destination.isStandardOutput() ? file : targetOf(file), {}});
+        {RunDestination::standardStream, m_destination.isStandardOutput() ? file : targetOf(file)});
 }
 
 void RunPlan::addDocument(const std::string& path, const std::string& pathBelowOutput,
@@ -55,7 +55,7 @@ void RunPlan::addDocument(const std::string& path, const std::string& pathBelowO
     const std::string output = m_destination.pathFor(path, pathBelowOutput);
     std::string target = m_destination.isStandardOutput() ? output : targetOf(output);
     m_inputs.try_emplace(idOf(status), m_documents.size());
-    m_documents.push_back({path, std::move(target), {}});
+    append({path, std::move(target)});
 }
 
 void RunPlan::addFolder(const std::string& folder)
@@ -69,12 +69,23 @@ void RunPlan::addFolder(const std::string& folder)
             if (entry.status != nullptr)
                 addDocument(prefix + entry.path, entry.path, *entry.status);
             else
-                m_documents.push_back({entry.path.empty() ? folder : prefix + entry.path, {}, entry.problem});
+                append({entry.path.empty() ? folder : prefix + entry.path, {}, entry.problem});
         },
-        [&](const struct stat& status) { return m_destination.isResultFolder(status); });
+        [&](const struct stat& status) {
+            if (m_found)
+                m_found(nullptr);
+            return m_destination.isResultFolder(status);
+        });
     walk.walk(folder);
     if (m_documents.size() == before)
         m_emptyFolders.push_back(folder);
+}
+
+void RunPlan::append(Document document)
+{
+    m_documents.push_back(std::move(document));
+    if (m_found)
+        m_found(&m_documents.back());
 }
 
 /// The path with all links resolved. Folders are resolved once: each takes a system call for every name in
@@ -106,7 +117,7 @@ void RunPlan::checkTargets() const
                          "; name a folder for the results");
     std::map<std::string, const Document*> targets;
     for (const Document& document : m_documents) {
-        if (!document.problem.empty())
+        if (document.problem)
             continue;
         const auto [other, added] = targets.try_emplace(document.target, &document);
         if (!added)
@@ -126,7 +137,7 @@ void RunPlan::checkReport(const std::string& path, const std::vector<std::string
 {
     const std::string target = resolved(behindLink(path));
     for (const Document& document : m_documents)
-        if (document.problem.empty() && document.target == target)
+        if (!document.problem && document.target == target)
             throw UsageError("the report and " + document.name + " would have the same output, " + target);
     struct stat status;
     if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))

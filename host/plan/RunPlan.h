@@ -4,6 +4,7 @@
 
 #include <sys/stat.h>
 
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -22,11 +23,17 @@ public:
         std::string name;
         /// Where the output lies; in place, what a symbolic link leads to. "-" is standard output.
         std::string target;
-        /// Why it cannot be worked on, found out already; else empty.
-        std::string problem;
+        /// Why it cannot be worked on, found out already.
+        Failure problem = {};
     };
 
-    explicit RunPlan(RunDestination destination) : m_destination(std::move(destination)) {}
+    /// Is told of each document as it is found, and with null of each folder that is looked into. What it
+    /// throws ends the search.
+    using Found = std::function<void(const Document* document)>;
+
+    explicit RunPlan(RunDestination destination, Found found = {})
+        : m_destination(std::move(destination)), m_found(std::move(found))
+    {}
 
     /// Adds a document, or the documents in a folder.
     void add(const std::string& path);
@@ -51,10 +58,12 @@ private:
 
     void addDocument(const std::string& path, const std::string& pathBelowOutput, const struct stat& status);
     void addFolder(const std::string& folder);
+    void append(Document document);
     std::string targetOf(const std::string& path);
     static FileId idOf(const struct stat& status) { return {status.st_dev, status.st_ino}; }
 
     RunDestination m_destination;
+    Found m_found;
     std::vector<Document> m_documents;
     std::map<FileId, std::size_t> m_inputs;                        ///< The first document with each file.
     std::vector<std::pair<FileId, std::size_t>> m_existingOutputs; ///< With their documents.

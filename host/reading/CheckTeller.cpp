@@ -19,10 +19,11 @@ QJsonValue textOrNull(const std::string& text)
     return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
 }
 
-std::string inJson(const std::string& file, const char* status, const std::string& reason, QJsonObject object)
+std::string inJson(const std::string& file, const char* status, const Failure& reason, QJsonObject object)
 {
     object.insert("status", status);
-    object.insert("reason", textOrNull(reason));
+    object.insert("reasonCode", textOrNull(nameOf(reason.code)));
+    object.insert("reason", textOrNull(reason.text));
     insertName(object, "file", file);
     return jsonLine(object);
 }
@@ -38,20 +39,20 @@ Reading CheckTeller::tell(const std::string& file)
     const ViewSnapshot before(m_library);
     const Trial trial = tryOut(file);
     const ViewSnapshot after(m_library);
-    const bool good = trial.reason.empty() && m_library.SecurityInfo(engine::UnsavedChanges) == 0;
+    const bool good = !trial.reason && m_library.SecurityInfo(engine::UnsavedChanges) == 0;
     if (m_question.json) {
         QJsonObject object{{"before", before.unlike(after)}, {"after", after.unlike(before)}};
         if (!trial.note.empty())
             object.insert("note", QString::fromStdString(trial.note));
         return {good ? Reading::Good : Reading::Differs,
-                inJson(file, good ? "as asked" : "differs", trial.reason, object), trial.note};
+                inJson(file, good ? "as asked" : "differs", trial.reason, object), trial.note, trial.reason};
     }
     if (good)
         return {Reading::Good, {}, trial.note};
-    std::string text = trial.reason.empty() ? before.changeTo(after) : trial.reason;
+    std::string text = trial.reason ? trial.reason.text : before.changeTo(after);
     if (text.empty())
         text = trial.details.empty() ? otherPlace : trial.details;
-    return {Reading::Differs, forTerminal(file) + ": " + forTerminal(text) + "\n", trial.note};
+    return {Reading::Differs, forTerminal(file) + ": " + forTerminal(text) + "\n", trial.note, trial.reason};
 }
 
 CheckTeller::Trial CheckTeller::tryOut(const std::string& file)
@@ -72,7 +73,7 @@ CheckTeller::Trial CheckTeller::tryChange(const std::string& file)
     return trial;
 }
 
-std::string CheckTeller::failureInJson(const std::string& file, const std::string& reason)
+std::string CheckTeller::failureInJson(const std::string& file, const Failure& reason)
 {
     return inJson(file, "failed", reason, {{"before", QJsonObject()}, {"after", QJsonObject()}});
 }

@@ -32,13 +32,13 @@ public:
     Reading tell(const std::string& file) override;
 
     /// The line of a document that cannot be read.
-    static std::string failureInJson(const std::string& file, const std::string& reason);
+    static std::string failureInJson(const std::string& file, const Failure& reason);
 
 private:
     /// What has become of a document in memory.
     struct Trial
     {
-        std::string reason; ///< Why it cannot open as asked; empty when it can.
+        Failure reason; ///< Why it cannot open as asked.
         std::string note;
         std::string details; ///< What the change alone can tell.
     };

@@ -13,7 +13,13 @@ namespace host {
 
 std::string Reading::toRecord() const
 {
-    return RecordWriter().add(static_cast<std::int64_t>(kind)).add(text).add(note).bytes();
+    return RecordWriter()
+        .add(static_cast<std::int64_t>(kind))
+        .add(text)
+        .add(note)
+        .add(static_cast<std::int64_t>(reason.code))
+        .add(reason.text)
+        .bytes();
 }
 
 std::optional<Reading> Reading::fromRecord(const std::string& record)
@@ -22,9 +28,14 @@ std::optional<Reading> Reading::fromRecord(const std::string& record)
     const std::int64_t kind = reader.number();
     std::string text = reader.text();
     std::string note = reader.text();
-    if (!reader.complete() || kind < Good || kind > Failed)
+    const std::int64_t code = reader.number();
+    std::string reason = reader.text();
+    if (!reader.complete() || kind < Good || kind > Failed || !isReasonCode(code))
         return std::nullopt;
-    return Reading{static_cast<Kind>(kind), std::move(text), std::move(note)};
+    return Reading{static_cast<Kind>(kind),
+                   std::move(text),
+                   std::move(note),
+                   {static_cast<ReasonCode>(code), std::move(reason)}};
 }
 
 DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, std::string password,
@@ -40,12 +51,12 @@ DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, 
 Worker::Answer DocumentReader::answer(std::size_t piece, WorkerSlot&)
 {
     const RunPlan::Document& document = m_documents[piece];
-    if (!document.problem.empty())
-        return {Reading{Reading::Failed, document.problem}.toRecord()};
+    if (document.problem)
+        return {Reading::failed(document.problem).toRecord()};
     if (m_library.LoadFromFile(engine::wideFromFileName(document.name),
                                engine::wideFromFileName(m_password)) == 0) {
         const int code = m_library.LastErrorCode();
-        return {Reading{Reading::Failed, std::string(engine::errorText(code))}.toRecord(),
+        return {Reading::failed(Failure::ofLibrary(code)).toRecord(),
                 code == static_cast<int>(engine::ErrorCode::OutOfMemory), isOutOfReach(document.name)};
     }
     const int id = m_library.SelectedDocument();
@@ -53,8 +64,8 @@ Worker::Answer DocumentReader::answer(std::size_t piece, WorkerSlot&)
     Reading reading;
     try {
         reading = m_teller->tell(document.name);
-    } catch (const std::runtime_error& error) {
-        reading = {Reading::Failed, error.what()};
+    } catch (const std::runtime_error&) {
+        reading = Reading::failed(Failure::ofException());
     }
     m_library.RemoveDocument(id);
     return {reading.toRecord()};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/failures/Failure.h"
 #include "host/plan/RunPlan.h"
 #include "host/workers/WorkerPool.h"
 
@@ -18,10 +19,14 @@ struct Reading
 {
     enum Kind { Good, Differs, Failed };
     Kind kind = Failed;
-    /// For standard output; of a document that failed why, as it is.
-    std::string text;
+    /// For standard output.
+    std::string text = {};
     /// What may be a mistake, as it is; may be empty.
     std::string note = {};
+    /// Why a document failed, or can never open as asked.
+    Failure reason = {};
+
+    static Reading failed(Failure reason) { return {Failed, {}, {}, std::move(reason)}; }
 
     std::string toRecord() const;
     static std::optional<Reading> fromRecord(const std::string& record);

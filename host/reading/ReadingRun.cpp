@@ -5,7 +5,9 @@
 #include "host/program/InstallLayout.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/TerminalText.h"
-#include "host/workers/StopSignal.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <stdexcept>
@@ -17,9 +19,9 @@ namespace {
 Reading readingOf(const WorkOutcome& outcome)
 {
     if (outcome.kind != WorkOutcome::Answered)
-        return {Reading::Failed, outcome.text};
-    return Reading::fromRecord(outcome.text)
-        .value_or(Reading{Reading::Failed, "the worker process gave no proper answer"});
+        return Reading::failed(outcome.failure);
+    return Reading::fromRecord(outcome.answer)
+        .value_or(Reading::failed({ReasonCode::Crashed, "the worker process gave no proper answer"}));
 }
 
 } // namespace
@@ -40,29 +42,54 @@ int ReadingRun::run(const MakeTeller& makeTeller)
     for (const RunPlan::Document& document : documents)
         reach.addFileToRead(document.name);
     m_cell.allow(reach);
-    StopSignal stop;
+    m_options.control.takeSignals();
     WorkerPool pool(
         limits, [&] { return std::make_unique<DocumentReader>(documents, m_options.password, makeTeller); },
         m_cell);
     pool.run(
         documents.size(), [this](std::size_t place, const WorkOutcome& outcome) { ended(place, outcome); },
-        stop);
+        m_options.control);
     m_output.finish();
-    if (stop.count() > 0)
+    if (m_options.control.isStopped())
         return exitstatus::stopped;
     return count(Reading::Good) < documents.size() ? exitstatus::someFailed : exitstatus::done;
 }
 
 void ReadingRun::ended(std::size_t place, const WorkOutcome& outcome)
 {
-    const std::string& file = m_plan.documents()[place].name;
+    if (outcome.kind == WorkOutcome::Stopped)
+        return;
     Reading reading = readingOf(outcome);
     ++m_counts.at(reading.kind);
+    if (m_options.events != nullptr)
+        tell(place, reading);
+    else
+        print(place, std::move(reading));
+}
+
+void ReadingRun::tell(std::size_t place, const Reading& reading) const
+{
+    QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(reading.text)).object();
+    object.remove("fileBytes"); // which says it otherwise than events do
+    const bool isChecked = object.contains("status");
+    if (reading.kind != Reading::Failed && !isChecked)
+        return m_options.events->document(place, object);
+    object.remove("file");
+    if (reading.kind == Reading::Failed)
+        object = {{"status", "failed"}, {"before", QJsonObject()}, {"after", QJsonObject()}};
+    if (!object.contains("note"))
+        object.insert("note", QJsonValue());
+    m_options.events->result(place, reading.reason, reading.kind == Reading::Failed, object);
+}
+
+void ReadingRun::print(std::size_t place, Reading reading)
+{
+    const std::string& file = m_plan.documents()[place].name;
     const std::string about = forTerminal(file) + ": ";
     std::string errors;
     if (reading.kind == Reading::Failed) {
-        errors = "quintar: " + about + forTerminal(reading.text) + "\n";
-        reading.text = m_options.failureLine ? m_options.failureLine(file, reading.text) : std::string();
+        errors = "quintar: " + about + forTerminal(reading.reason.text) + "\n";
+        reading.text = m_options.failureLine ? m_options.failureLine(file, reading.reason) : std::string();
     }
     if (!reading.note.empty() && !m_options.quiet)
         errors += "quintar: note: " + about + forTerminal(reading.note) + "\n";

@@ -2,6 +2,8 @@
 
 #include "DocumentReader.h"
 #include "OrderedOutput.h"
+#include "host/report/EventStream.h"
+#include "host/workers/RunControl.h"
 #include "host/workers/WorkerPool.h"
 
 #include <array>
@@ -14,17 +16,21 @@ namespace host {
 class Cell;
 
 /// Has documents read by worker processes, many at a time, and prints in the documents' order what there is
-/// to tell of them: the texts, and on standard error failures and notes.
+/// to tell of them: the texts, and on standard error failures and notes. Or it tells that as events, as it
+/// comes.
 class ReadingRun
 {
 public:
     /// Has a line for standard output when a document cannot be read; empty for none.
-    using FailureLine = std::function<std::string(const std::string& file, const std::string& reason)>;
+    using FailureLine = std::function<std::string(const std::string& file, const Failure& reason)>;
 
     struct Options
     {
         std::string password;
         WorkerPool::Limits limits;
+        RunControl& control;
+        /// Is told what there would be to print; null for none. The tellers' texts are JSON lines then.
+        EventStream* events = nullptr;
         /// Prints no notes.
         bool quiet = false;
         /// Null for failures on standard error alone.
@@ -44,6 +50,8 @@ public:
 
 private:
     void ended(std::size_t place, const WorkOutcome& outcome);
+    void tell(std::size_t place, const Reading& reading) const;
+    void print(std::size_t place, Reading reading);
 
     const RunPlan& m_plan;
     Cell& m_cell;

@@ -2,8 +2,8 @@
 
 #include "Report.h"
 #include "host/files/FileDescriptor.h"
+#include "host/files/FileState.h"
 #include "host/files/LineReader.h"
-#include "host/plan/FileState.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/UsageError.h"
 
@@ -35,7 +35,7 @@ EarlierReport::EarlierReport(const std::string& path, const RunPlan& plan) : m_p
         throw UsageError("the report of an earlier run, " + path + ", cannot be used: " + why);
     };
     for (std::size_t place = 0; place < plan.documents().size(); ++place)
-        if (plan.documents()[place].problem.empty())
+        if (!plan.documents()[place].problem)
             m_places.emplace(plan.documents()[place].name, place);
 
     const FileDescriptor file = openRegularFile(path);

@@ -25,6 +25,15 @@ QJsonValue textOrNull(const std::string& text)
     return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
 }
 
+QJsonObject undoing(const DocumentResult& result)
+{
+    QJsonObject object{{"fileState", QString::fromStdString(result.stateBefore)},
+                       {"sha256", QString::fromStdString(result.checksumBefore)}};
+    if (!result.checksumUnfinished.empty())
+        object.insert("unfinished", QString::fromStdString(result.checksumUnfinished));
+    return object;
+}
+
 QJsonObject objectIn(const std::string& text)
 {
     return QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
@@ -164,15 +173,15 @@ std::string Report::toJson(const Line& line, const char* status)
     object.insert("saved", textOrNull(nameOf(line.result.saved)));
     if (line.result.certified)
         object.insert("certified", true);
-    object.insert("reason", textOrNull(line.result.reason));
+    object.insert("reasonCode", textOrNull(nameOf(line.result.reason.code)));
+    object.insert("reason", textOrNull(line.result.reason.text));
     if (!line.result.note.empty())
         object.insert("note", QString::fromStdString(line.result.note));
     object.insert("milliseconds", static_cast<qint64>(line.result.milliseconds));
     object.insert("fileState", textOrNull(line.result.fileState));
     object.insert("outputState", textOrNull(line.result.outputState));
     if (!line.result.stateBefore.empty())
-        object.insert("undo", QJsonObject{{"fileState", QString::fromStdString(line.result.stateBefore)},
-                                          {"sha256", QString::fromStdString(line.result.checksumBefore)}});
+        object.insert("undo", undoing(line.result));
     if (!line.result.viewBefore.empty()) {
         object.insert("before", objectIn(line.result.viewBefore));
         object.insert("after", objectIn(line.result.viewAfter));

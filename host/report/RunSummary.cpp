@@ -20,7 +20,7 @@ void RunSummary::add(std::size_t place, const std::string& name, const DocumentR
     m_changed += result.status == Status::Changed ? 1 : 0;
     m_unchanged += result.status == Status::Unchanged ? 1 : 0;
     if (result.status == Status::Failed)
-        m_failures.insert_or_assign(place, About{name, result.reason});
+        m_failures.insert_or_assign(place, About{name, result.reason.text});
     else if (!result.note.empty())
         m_notes.insert_or_assign(place, About{name, result.note});
 }
@@ -31,8 +31,8 @@ std::string RunSummary::lineFor(const std::string& name, const DocumentResult& r
     if (result.saved != Saved::Not)
         line += std::string(" (") + nameOf(result.saved) + ")";
     line += "  " + forTerminal(name);
-    if (!result.reason.empty())
-        line += ": " + forTerminal(result.reason);
+    if (result.reason)
+        line += ": " + forTerminal(result.reason.text);
     if (!result.changes.empty())
         line += ": " + forTerminal(result.changes);
     return line + "\n";
@@ -73,6 +73,16 @@ std::string RunSummary::counts(bool dryRun) const
     if (!m_notDone.empty())
         text += ", stopped with " + std::to_string(m_notDone.size()) + " not done";
     return text + "\n";
+}
+
+QJsonObject RunSummary::toJson() const
+{
+    const auto number = [](std::size_t count) { return static_cast<qint64>(count); };
+    return {{"changed", number(m_changed)},
+            {"unchanged", number(m_unchanged)},
+            {"failed", number(m_failures.size())},
+            {"doneBefore", number(m_doneBefore)},
+            {"notDone", number(m_notDone.size())}};
 }
 
 } // namespace host

@@ -2,6 +2,8 @@
 
 #include "host/plan/DocumentJob.h"
 
+#include <QJsonObject>
+
 #include <cstddef>
 #include <map>
 #include <string>
@@ -32,6 +34,8 @@ public:
     std::string notDone() const;
     /// "3 changed, 1 unchanged, 0 failed", with a line feed.
     std::string counts(bool dryRun) const;
+    /// The same for programs.
+    QJsonObject toJson() const;
 
 private:
     struct About

@@ -19,12 +19,13 @@ ActionSequence::~ActionSequence()
         call(&CActionInterface::PostSequenceProc, entry);
 }
 
-std::string ActionSequence::apply()
+Failure ActionSequence::apply()
 {
     m_errors.ClearAll();
     for (const ActionEntry& entry : m_entries)
         if (call(&CActionInterface::WorkProc, entry) != 0)
-            return m_errors.GetLast().isEmpty() ? "the action failed" : m_errors.GetLast().toStdString();
+            return {ReasonCode::RefusedCall,
+                    m_errors.GetLast().isEmpty() ? "the action failed" : m_errors.GetLast().toStdString()};
     return {};
 }
 

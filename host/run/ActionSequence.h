@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/failures/Failure.h"
 #include "host/settings/SettingsFile.h"
 
 #include "shared/CErrorHandler.h"
@@ -25,8 +26,8 @@ public:
     ActionSequence(const ActionSequence&) = delete;
     ActionSequence& operator=(const ActionSequence&) = delete;
 
-    /// Works on the selected document. \returns why it failed; empty when it is done.
-    std::string apply();
+    /// Works on the selected document.
+    Failure apply();
 
 private:
     using Call = int (CActionInterface::*)(WorkProcInfoStruct*);

@@ -11,8 +11,10 @@
 #include "host/saving/SafeOutput.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
-#include "host/workers/StopSignal.h"
 #include "host/workers/WorkerSlot.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <unistd.h>
 
@@ -112,7 +114,7 @@ void BatchRun::planJobs()
             doneBefore(index, done->second);
             continue;
         }
-        if (!document.problem.empty()) {
+        if (document.problem) {
             documentEnded(index, DocumentResult::failed(document.problem));
             continue;
         }
@@ -158,7 +160,7 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
     fitting.workers =
         static_cast<int>(std::clamp<std::size_t>(m_jobs.size(), 1, static_cast<std::size_t>(limits.workers)));
     allowJobs();
-    StopSignal stop;
+    m_setup.control.takeSignals();
     const auto makeWorker = [&] {
         return std::make_unique<DocumentWorker>(
             m_jobs, action, libraryFile, m_options,
@@ -167,11 +169,11 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
     };
     WorkerPool pool(fitting, makeWorker, m_cell);
     pool.run(
-        m_jobs.size(), [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); }, stop);
-    m_stopped = stop.count() > 0;
+        m_jobs.size(), [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); },
+        m_setup.control);
 }
 
-/// In place, where what was there before is gone with the rename.
+/// In place, where what was there before is gone then, or half a change may be left.
 void BatchRun::announce(std::size_t job, const DocumentResult& expected)
 {
     const RunPlan::Document& planned = m_plan.documents()[m_documentOfJob[job]];
@@ -183,25 +185,21 @@ void BatchRun::jobEnded(std::size_t job, const WorkOutcome& outcome)
 {
     if (outcome.kind != WorkOutcome::Answered)
         return jobLost(job, outcome);
-    const auto result = DocumentResult::fromRecord(outcome.text);
+    const auto result = DocumentResult::fromRecord(outcome.answer);
     documentEnded(m_documentOfJob[job],
-                  result.value_or(DocumentResult::failed("the worker process gave no proper answer")));
+                  result.value_or(DocumentResult::failed(
+                      {ReasonCode::Crashed, "the worker process gave no proper answer"})));
 }
 
-/// The worker may have put the new file in place before it ended.
+/// The worker may have put the change in place before it ended.
 void BatchRun::jobLost(std::size_t job, const WorkOutcome& outcome)
 {
-    if (const auto placement = Placement::fromRecord(outcome.note);
-        placement && placement->isAt(m_jobs[job].target)) {
-        DocumentResult result = placement->result();
-        result.note += (result.note.empty() ? "" : "; ") + ("it is in place, but then: " + outcome.text);
-        if (m_options.flush && !SafeOutput::flushPlaced(m_jobs[job].target))
-            result.note += "; it may not survive a power failure";
-        return documentEnded(m_documentOfJob[job], result);
-    }
+    if (const auto placement = Placement::fromRecord(outcome.note))
+        if (const auto result = placement->settle(m_jobs[job].target, outcome.failure, m_options.flush))
+            return documentEnded(m_documentOfJob[job], *result);
     SafeOutput::removeTemporary(m_jobs[job].temporary);
     if (outcome.kind == WorkOutcome::Lost)
-        documentEnded(m_documentOfJob[job], DocumentResult::failed(outcome.text));
+        documentEnded(m_documentOfJob[job], DocumentResult::failed(outcome.failure));
 }
 
 void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
@@ -209,8 +207,11 @@ void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
     const RunPlan::Document& planned = m_plan.documents()[document];
     m_ended[document] = true;
     m_summary.add(document, shown(planned.name), result);
+    const Report::Line line = lineFor(planned, result);
     if (m_setup.report != nullptr)
-        m_setup.report->add(document, lineFor(planned, result));
+        m_setup.report->add(document, line);
+    if (m_setup.events != nullptr)
+        tell(document, line.result);
     if (m_progress)
         m_progress->advance(result.status == Status::Failed);
     else if (m_setup.tells >= Tells::Lines && result.status != Status::Failed)
@@ -227,12 +228,31 @@ Report::Line BatchRun::lineFor(const RunPlan::Document& document, const Document
     return line;
 }
 
+void BatchRun::tell(std::size_t document, const DocumentResult& result) const
+{
+    const auto objectIn = [](const std::string& text) {
+        return QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
+    };
+    const QString note = QString::fromStdString(result.note);
+    m_setup.events->result(document, result.reason, result.status == Status::Failed,
+                           {{"status", nameOf(result.status)},
+                            {"note", note.isEmpty() ? QJsonValue() : QJsonValue(note)},
+                            {"before", objectIn(result.viewBefore)},
+                            {"after", objectIn(result.viewAfter)}});
+}
+
 void BatchRun::doneBefore(std::size_t document, const std::string& line)
 {
     m_ended[document] = true;
     m_summary.addDoneBefore();
     if (m_setup.report != nullptr)
         m_setup.report->add(document, line);
+    if (m_setup.events != nullptr)
+        m_setup.events->result(document, {}, false,
+                               {{"status", "done before"},
+                                {"note", QJsonValue()},
+                                {"before", QJsonObject()},
+                                {"after", QJsonObject()}});
     if (m_progress)
         m_progress->advance(false);
 }
@@ -243,22 +263,25 @@ void BatchRun::sumUp() const
     for (std::size_t index = 0; index < m_ended.size(); ++index)
         if (!m_ended[index])
             summary.addNotDone(shown(m_plan.documents()[index].name));
-    printError(summary.failures() + (m_setup.tells >= Tells::Notes ? summary.notes() : "") +
-               summary.notDone());
+    if (m_setup.tells >= Tells::Failures)
+        printError(summary.failures() + (m_setup.tells >= Tells::Notes ? summary.notes() : "") +
+                   summary.notDone());
     if (m_setup.tells == Tells::Lines)
         print(summary.counts(m_options.dryRun));
     else if (m_setup.tells == Tells::Counts)
         printError(summary.counts(m_options.dryRun));
-    if (m_setup.report == nullptr)
-        return;
-    m_setup.report->flush();
-    if (!m_setup.report->problem().empty())
-        complain(m_setup.report->problem());
+    if (m_setup.report != nullptr) {
+        m_setup.report->flush();
+        if (!m_setup.report->problem().empty())
+            complain(m_setup.report->problem());
+    }
+    if (m_setup.events != nullptr)
+        m_setup.events->end(summary.toJson(), m_setup.control.isStopped());
 }
 
 int BatchRun::exitStatus() const
 {
-    if (m_stopped)
+    if (m_setup.control.isStopped())
         return exitstatus::stopped;
     const bool reportComplete = m_setup.report == nullptr || m_setup.report->problem().empty();
     return m_summary.anyFailed() || !reportComplete ? exitstatus::someFailed : exitstatus::done;

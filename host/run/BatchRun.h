@@ -2,8 +2,10 @@
 
 #include "DocumentProcessor.h"
 #include "host/plan/RunPlan.h"
+#include "host/report/EventStream.h"
 #include "host/report/Report.h"
 #include "host/report/RunSummary.h"
+#include "host/workers/RunControl.h"
 #include "host/workers/WorkerPool.h"
 
 #include <cstddef>
@@ -22,6 +24,7 @@ class StreamFiles;
 
 /// What a run tells, each with all before it.
 enum class Tells {
+    Nothing, ///< The events do.
     Failures,
     Notes,
     Counts, ///< On standard error, as standard output has the report.
@@ -37,7 +40,9 @@ public:
 
     struct Setup
     {
-        Report* report = nullptr; ///< Null for none.
+        RunControl& control;
+        EventStream* events = nullptr; ///< Null for none.
+        Report* report = nullptr;      ///< Null for none.
         Tells tells = Tells::Lines;
         /// Stands for "-" in the plan; null where there is none.
         const StreamFiles* streams = nullptr;
@@ -63,6 +68,7 @@ private:
     void doneBefore(std::size_t document, const std::string& line);
     Report::Line lineFor(const RunPlan::Document& document, const DocumentResult& result) const;
     void documentEnded(std::size_t document, const DocumentResult& result);
+    void tell(std::size_t document, const DocumentResult& result) const;
     void sumUp() const;
     int exitStatus() const;
 
@@ -76,7 +82,6 @@ private:
     std::vector<bool> m_ended;
     std::unique_ptr<Progress> m_progress;
     RunSummary m_summary;
-    bool m_stopped = false;
 };
 
 } // namespace host

@@ -4,10 +4,13 @@
 #include "host/document/ViewChanger.h"
 #include "host/files/Checksum.h"
 #include "host/files/FileDescriptor.h"
-#include "host/plan/FileState.h"
+#include "host/files/FileState.h"
 #include "host/program/InstallLayout.h"
+#include "host/saving/DocumentLock.h"
 #include "host/saving/FileAttributes.h"
 #include "host/saving/FileCopy.h"
+#include "host/saving/InPlaceAppend.h"
+#include "host/saving/InPlaceFile.h"
 #include "host/saving/SafeOutput.h"
 #include "host/settings/SettingsNotes.h"
 
@@ -34,15 +37,16 @@ bool isCode(int code, engine::ErrorCode wanted)
 }
 
 /// Doubt about what a document holds keeps it from being written anew, too.
-std::string whyNotAppended(int code)
+Failure whyNotAppended(int code)
 {
     const auto errorCode = static_cast<engine::ErrorCode>(code);
     if (!engine::cannotAppend(errorCode))
-        return "not saved: " + std::string(engine::errorText(code));
-    return std::string(engine::errorText(code)) +
-           (engine::isDoubt(errorCode)
-                ? "; nothing is appended to it, and for the same reason --rewrite would refuse it"
-                : "; --rewrite writes it anew if nothing is lost by that");
+        return Failure::ofLibrary(code, "not saved: ");
+    Failure failure = Failure::ofLibrary(code);
+    failure.text += engine::isDoubt(errorCode)
+                        ? "; nothing is appended to it, and for the same reason --rewrite would refuse it"
+                        : "; --rewrite writes it anew if nothing is lost by that";
+    return failure;
 }
 
 } // namespace
@@ -63,11 +67,9 @@ DocumentResult DocumentProcessor::process(const DocumentJob& job, const BeforePl
     DocumentResult result;
     try {
         result = work(job);
-    } catch (const std::bad_alloc&) {
-        m_wornOut = true;
-        result = DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::OutOfMemory))));
-    } catch (const std::exception& error) {
-        result = DocumentResult::failed(error.what());
+    } catch (const std::exception&) {
+        result = DocumentResult::failed(Failure::ofException());
+        m_wornOut = m_wornOut || result.reason.code == ReasonCode::Memory;
     }
     result.milliseconds = millisecondsTaken();
     m_keptOut =
@@ -84,7 +86,7 @@ std::int64_t DocumentProcessor::millisecondsTaken() const
 DocumentResult DocumentProcessor::work(const DocumentJob& job)
 {
     if (stat(job.source.c_str(), &m_original) != 0)
-        return DocumentResult::failed(systemError(errno));
+        return DocumentResult::failed(Failure::ofSystem(errno, ReasonCode::ReadFailed));
     if (m_library.LoadFromFile(engine::wideFromFileName(job.source),
                                engine::wideFromFileName(m_options.password)) == 0)
         return libraryFailure();
@@ -96,7 +98,7 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
     return result;
 }
 
-/// \param output the file that is, or is about to be, in the target's place.
+/// \param output the file that is in the target's place, or is about to be renamed over it.
 void DocumentProcessor::tellStates(DocumentResult& result, const struct stat& output) const
 {
     if (!m_options.tellStates || m_options.dryRun)
@@ -105,25 +107,26 @@ void DocumentProcessor::tellStates(DocumentResult& result, const struct stat& ou
     result.fileState = m_options.inPlace ? result.outputState : stateOf(m_original);
 }
 
-/// What it takes to take an update back. \returns why that cannot be told; empty when all is well.
-std::string DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int source) const
+/// What it takes to take an update back. \returns why that cannot be told.
+Failure DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int source) const
 {
-    if (!m_options.tellStates || !m_options.inPlace || result.saved != Saved::Appended)
+    const bool isAppended = result.saved == Saved::Appended || result.saved == Saved::AppendedInPlace;
+    if (!m_options.tellStates || !m_options.inPlace || !isAppended)
         return {};
     result.stateBefore = stateOf(m_original);
     result.checksumBefore = checksumOf(source, m_original.st_size);
-    return result.checksumBefore.empty() ? systemError(errno) : std::string();
+    return result.checksumBefore.empty() ? Failure::ofSystem(errno, ReasonCode::ReadFailed) : Failure();
 }
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
     if (m_options.tellChanges)
         m_viewBefore.emplace(m_library);
-    if (const std::string reason = apply(job.source); !reason.empty())
+    if (const Failure reason = apply(job.source); reason)
         return DocumentResult::failed(reason);
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
         return m_options.inPlace || m_options.dryRun ? leave() : copy(job);
-    if (std::string reason = refusal(); !reason.empty())
+    if (const Failure reason = refusal(); reason)
         return DocumentResult::failed(reason);
     if (m_options.tellChanges)
         m_viewAfter.emplace(m_library);
@@ -138,13 +141,13 @@ DocumentResult DocumentProcessor::leave() const
     return result;
 }
 
-/// Makes the changes in memory. \returns why that is not possible; empty when all is well.
-std::string DocumentProcessor::apply(const std::string& file)
+/// Makes the changes in memory. \returns why that is not possible.
+Failure DocumentProcessor::apply(const std::string& file)
 {
     m_notes.clear();
     if (!m_options.change.isEmpty()) {
         ViewChanger changer(m_library, m_options.change);
-        std::string reason = changer.apply(file);
+        Failure reason = changer.apply(file);
         m_notes = changer.notes();
         return reason;
     }
@@ -169,18 +172,21 @@ DocumentResult DocumentProcessor::changed(Saved saved) const
     return result;
 }
 
-/// Why the document may not be changed; empty when it may.
-std::string DocumentProcessor::refusal()
+/// Why the document may not be changed.
+Failure DocumentProcessor::refusal()
 {
     if (m_library.SecurityInfo(engine::ModificationAllowed) == 0)
-        return "its encryption does not allow changes; the owner password is needed";
+        return {ReasonCode::Permission,
+                "its encryption does not allow changes; the owner password is needed"};
     if (m_options.signedDocuments != SignedDocuments::AppendCertified &&
         m_library.SecurityInfo(engine::Certification) != 0)
-        return "it is certified, and no certification allows a change of how it opens; "
-               "--signed append-certified changes it all the same";
+        return {ReasonCode::Certified,
+                "it is certified, and no certification allows a change of how it opens; "
+                "--signed append-certified changes it all the same"};
     if (m_options.signedDocuments == SignedDocuments::Refuse &&
         m_library.SecurityInfo(engine::SignatureCount) > 0)
-        return "it is signed, and viewers report any later change; --signed append changes it all the same";
+        return {ReasonCode::Signed,
+                "it is signed, and viewers report any later change; --signed append changes it all the same"};
     return {};
 }
 
@@ -202,11 +208,54 @@ DocumentResult DocumentProcessor::tryOut()
 
 DocumentResult DocumentProcessor::save(const DocumentJob& job)
 {
+    if (m_options.inPlace && !m_options.replace)
+        if (std::optional<DocumentResult> result = appendInPlace(job))
+            return *std::move(result);
     SafeOutput output(job.target, job.temporary);
-    if (std::string problem = SafeOutput::makeFolder(SafeOutput::folderOf(job.target)); !problem.empty())
+    if (Failure problem = SafeOutput::makeFolder(SafeOutput::folderOf(job.target)); problem)
         return DocumentResult::failed(problem);
     const DocumentResult result = write(job);
     return result.status == Status::Failed ? result : commit(output, job, result);
+}
+
+/// \returns nothing where a new file has to take the document's place.
+std::optional<DocumentResult> DocumentProcessor::appendInPlace(const DocumentJob& job)
+{
+    const InPlaceFile file(job.target);
+    if (!file.isSuited())
+        return std::nullopt;
+    const std::string update = m_library.AppendToString(engine::ForInPlace);
+    const int code = m_library.LastErrorCode();
+    if (isCode(code, engine::ErrorCode::NotInPlace))
+        return std::nullopt;
+    if (code != 0)
+        return notAppended(code);
+    const DocumentLock lock = lockDocument(file.get());
+    if (lock == DocumentLock::Held)
+        return DocumentResult::failed(documentLocked);
+    if (lock == DocumentLock::Unavailable)
+        return std::nullopt;
+    return append(file, update);
+}
+
+DocumentResult DocumentProcessor::append(const InPlaceFile& file, const std::string& update)
+{
+    DocumentResult result = changed(Saved::AppendedInPlace);
+    if (const Failure problem = tellWhatStoodBefore(result, file.get()); problem)
+        return DocumentResult::failed(problem);
+    result.milliseconds = millisecondsTaken();
+    result.note = notesWith({});
+    result.checksumUnfinished = checksumOf(InPlaceAppend::withoutLastLines(update));
+    (*m_beforePlacement)({result, m_original, update});
+    const InPlaceAppend::Outcome outcome = InPlaceAppend(file, m_original, update).perform();
+    if (!outcome.isAppended())
+        return DocumentResult::failed(outcome.whole());
+    result.checksumUnfinished.clear();
+    result.note = notesWith(outcome.note);
+    struct stat now;
+    if (fstat(file.get(), &now) == 0)
+        tellStates(result, now);
+    return result;
 }
 
 DocumentResult DocumentProcessor::write(const DocumentJob& job)
@@ -230,11 +279,11 @@ DocumentResult DocumentProcessor::rewrite(const DocumentJob& job)
 DocumentResult DocumentProcessor::copy(const DocumentJob& job)
 {
     SafeOutput output(job.target, job.temporary);
-    std::string problem = SafeOutput::makeFolder(SafeOutput::folderOf(job.target));
-    if (problem.empty())
+    Failure problem = SafeOutput::makeFolder(SafeOutput::folderOf(job.target));
+    if (!problem)
         problem = copyFile(job.source, job.temporary);
-    return problem.empty() ? commit(output, job, {Status::Unchanged, Saved::Copied})
-                           : DocumentResult::failed(problem);
+    return problem ? DocumentResult::failed(problem)
+                   : commit(output, job, {Status::Unchanged, Saved::Copied});
 }
 
 /// Puts the new file in its place, unless the document is no longer the one that was read.
@@ -243,10 +292,11 @@ DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& 
     const FileDescriptor source = openRegularFile(job.source);
     if (!source.isOpen())
         return sourceChanged();
-    if (const std::string problem = tellWhatStoodBefore(result, source.get()); !problem.empty())
+    if (m_options.inPlace && lockDocument(source.get()) == DocumentLock::Held)
+        return DocumentResult::failed(documentLocked);
+    if (const Failure problem = tellWhatStoodBefore(result, source.get()); problem)
         return DocumentResult::failed(problem);
-    struct stat now;
-    if (fstat(source.get(), &now) != 0 || !isSameState(now, m_original))
+    if (!isAsRead(source.get(), job.source, m_original))
         return sourceChanged();
     const auto beforeRename = [&](const struct stat& finished, const std::string& note) {
         result.milliseconds = millisecondsTaken();
@@ -258,7 +308,7 @@ DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& 
     const FileAttributes attributes =
         m_options.keepsAttributes ? FileAttributes(source.get(), take) : FileAttributes::ofNewFile();
     const SafeOutput::Outcome outcome = output.commit(attributes, m_options.flush, beforeRename);
-    if (!outcome.problem.empty())
+    if (outcome.problem)
         return DocumentResult::failed(outcome.problem);
     result.note = notesWith(outcome.note);
     return result;
@@ -280,14 +330,14 @@ DocumentResult DocumentProcessor::notAppended(int code)
 
 DocumentResult DocumentProcessor::sourceChanged()
 {
-    return DocumentResult::failed(std::string(engine::errorText(int(engine::ErrorCode::SourceChanged))));
+    return DocumentResult::failed(Failure::ofLibrary(int(engine::ErrorCode::SourceChanged)));
 }
 
 DocumentResult DocumentProcessor::libraryFailure(const std::string& what)
 {
     const int code = m_library.LastErrorCode();
     m_wornOut = m_wornOut || isCode(code, engine::ErrorCode::OutOfMemory);
-    return DocumentResult::failed(what + std::string(engine::errorText(code)));
+    return DocumentResult::failed(Failure::ofLibrary(code, what));
 }
 
 } // namespace host

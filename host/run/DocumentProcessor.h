@@ -22,6 +22,7 @@ class CActionInterface;
 
 namespace host {
 
+class InPlaceFile;
 class SafeOutput;
 
 /// What becomes of signed documents that would change; certified ones only change with AppendCertified.
@@ -39,6 +40,9 @@ struct ProcessingOptions
     bool rewrite = false;
     /// The target is the source: a document that needs no change is left alone instead of copied.
     bool inPlace = false;
+    /// In place, a new file takes the document's place, also where the document could be appended to as it
+    /// lies.
+    bool replace = false;
     /// Nothing is written; the result says what would be.
     bool dryRun = false;
     /// Every output is flushed to the disk before it takes its place.
@@ -65,7 +69,7 @@ public:
     DocumentProcessor(const DocumentProcessor&) = delete;
     DocumentProcessor& operator=(const DocumentProcessor&) = delete;
 
-    /// Is told before a new file takes its target's place.
+    /// Is told before a new file takes its target's place, and before a document is changed where it lies.
     using BeforePlacement = std::function<void(const Placement&)>;
 
     /// Never throws; a failure of any kind leaves the target as it was.
@@ -82,15 +86,17 @@ private:
     DocumentResult work(const DocumentJob& job);
     std::int64_t millisecondsTaken() const;
     void tellStates(DocumentResult& result, const struct stat& output) const;
-    std::string tellWhatStoodBefore(DocumentResult& result, int source) const;
+    Failure tellWhatStoodBefore(DocumentResult& result, int source) const;
     DocumentResult applyAndSave(const DocumentJob& job);
-    std::string apply(const std::string& file);
+    Failure apply(const std::string& file);
     DocumentResult changed(Saved saved) const;
     DocumentResult leave() const;
     std::string notesWith(const std::string& further) const;
-    std::string refusal();
+    Failure refusal();
     DocumentResult tryOut();
     DocumentResult save(const DocumentJob& job);
+    std::optional<DocumentResult> appendInPlace(const DocumentJob& job);
+    DocumentResult append(const InPlaceFile& file, const std::string& update);
     DocumentResult write(const DocumentJob& job);
     DocumentResult rewrite(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);

@@ -97,12 +97,13 @@ SafeOutput::~SafeOutput()
         removeTemporary(m_temporary);
 }
 
-std::string SafeOutput::makeFolder(const std::string& folder)
+Failure SafeOutput::makeFolder(const std::string& folder)
 {
     struct stat status;
     if (stat(folder.c_str(), &status) == 0)
-        return S_ISDIR(status.st_mode) ? std::string() : folder + " is not a folder";
-    if (std::string problem = makeFolder(folderOf(folder)); !problem.empty())
+        return S_ISDIR(status.st_mode) ? Failure()
+                                       : Failure{ReasonCode::WriteFailed, folder + " is not a folder"};
+    if (Failure problem = makeFolder(folderOf(folder)); problem)
         return problem;
     if (mkdir(folder.c_str(), 0777) == 0)
         return {};
@@ -110,8 +111,8 @@ std::string SafeOutput::makeFolder(const std::string& folder)
     if (stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
         return {}; // another worker has made it
     if (lstat(folder.c_str(), &status) == 0 && S_ISLNK(status.st_mode))
-        return folder + " is a symbolic link that leads nowhere";
-    return "the folder " + folder + " cannot be made: " + systemError(problem);
+        return {ReasonCode::WriteFailed, folder + " is a symbolic link that leads nowhere"};
+    return Failure::ofSystem(problem, ReasonCode::WriteFailed, "the folder " + folder + " cannot be made: ");
 }
 
 std::string SafeOutput::folderOf(const std::string& file)
@@ -124,7 +125,8 @@ SafeOutput::Outcome SafeOutput::commit(const FileAttributes& attributes, bool fl
                                        const BeforeRename& beforeRename)
 {
     const auto failed = [this] {
-        return Outcome{m_target + " cannot be written: " + systemError(errno), {}};
+        return Outcome{Failure::ofSystem(errno, ReasonCode::WriteFailed, m_target + " cannot be written: "),
+                       {}};
     };
     std::vector<std::string> notKept;
     const FileDescriptor file(::open(m_temporary.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/failures/Failure.h"
+
 #include <sys/stat.h>
 
 #include <functional>
@@ -22,17 +24,16 @@ public:
     SafeOutput(const SafeOutput&) = delete;
     SafeOutput& operator=(const SafeOutput&) = delete;
 
-    /// Makes a folder and those above it; one that is there already is fine. \returns empty, or the reason of
-    /// the failure.
-    static std::string makeFolder(const std::string& folder);
+    /// Makes a folder and those above it; one that is there already is fine.
+    static Failure makeFolder(const std::string& folder);
     /// The folder that a file lies in.
     static std::string folderOf(const std::string& file);
 
     /// What became of the new file.
     struct Outcome
     {
-        /// Empty when it is in the target's place; else why all is as it was.
-        std::string problem;
+        /// None when it is in the target's place; else why all is as it was.
+        Failure problem;
         /// What the user should know of a file that is in its place; may be empty.
         std::string note;
     };

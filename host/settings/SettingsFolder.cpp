@@ -51,7 +51,7 @@ SettingsFolder::SettingsFolder(const QString& path, const char* suffix, const ch
 
 std::string SettingsFolder::make() const
 {
-    return SafeOutput::makeFolder(m_path);
+    return SafeOutput::makeFolder(m_path).text;
 }
 
 std::vector<std::string> SettingsFolder::files() const

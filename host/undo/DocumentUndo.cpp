@@ -1,9 +1,12 @@
 #include "DocumentUndo.h"
 
 #include "host/files/Checksum.h"
-#include "host/plan/FileState.h"
+#include "host/files/DiskFlush.h"
+#include "host/files/FileState.h"
+#include "host/saving/DocumentLock.h"
 #include "host/saving/FileAttributes.h"
 #include "host/saving/FileCopy.h"
+#include "host/saving/InPlaceFile.h"
 #include "host/saving/SafeOutput.h"
 
 #include <fcntl.h>
@@ -19,44 +22,70 @@ namespace host {
 
 namespace {
 
-const char changedMeanwhile[] = "another program changed it meanwhile";
-const char olderStays[] = "an older change stays: another program changed it between the two";
+const Failure changedMeanwhile{ReasonCode::ChangedMeanwhile, "another program changed it meanwhile"};
+const char timeLost[] = "its time could not be restored";
+const Failure olderStays{ReasonCode::ChangedSince,
+                         "an older change stays: another program changed it between the two"};
+
+Failure cannotRead(int error)
+{
+    return Failure::ofSystem(error, ReasonCode::ReadFailed);
+}
+
+/// Of an update that is appended where the document lies; there is no longer one.
+const std::int64_t longestInPlace = 2048;
+
+/// Empty when they cannot be read.
+std::string bytesOf(int file, std::int64_t begin, std::int64_t end)
+{
+    std::string bytes(static_cast<std::size_t>(end - begin), '\0');
+    const ssize_t count = pread(file, bytes.data(), bytes.size(), begin);
+    return count == end - begin ? bytes : std::string();
+}
 
 /// Whether the bytes from `begin` to the end are what ends a PDF document: a report that claims too much must
 /// not cut other files down.
 bool endsAsUpdate(int file, std::int64_t begin, std::int64_t end)
 {
-    std::array<char, 32> bytes;
-    const auto size = static_cast<std::size_t>(std::min<std::int64_t>(end - begin, bytes.size()));
-    const ssize_t count = pread(file, bytes.data(), size, end - static_cast<std::int64_t>(size));
-    return count == static_cast<ssize_t>(size) &&
-           std::string_view(bytes.data(), size).find("%%EOF") != std::string_view::npos;
+    const std::int64_t looked = 32;
+    return bytesOf(file, std::max(begin, end - looked), end).find("%%EOF") != std::string::npos;
 }
 
-std::int64_t sizeBefore(const AppendedUpdate& update)
+/// Whether the bytes are an update that was to be appended where the document lies, with its last lines or
+/// without.
+bool isUnfinished(const std::string& bytes, const std::string& checksum)
 {
-    return FileState::fromText(update.before)->size;
+    const std::size_t longestEnd = 64;
+    const std::size_t lastLines = std::min(bytes.rfind("startxref"), bytes.size());
+    const bool isEnd =
+        lastLines == bytes.size() || (bytes.size() - lastLines < longestEnd && bytes.ends_with("\n%%EOF\n"));
+    return isEnd && checksumOf(std::string_view(bytes).substr(0, lastLines)) == checksum;
 }
 
-bool setTime(const std::string& path, const struct timespec& time)
+std::int64_t sizeOf(const std::string& state)
 {
-    const std::array<struct timespec, 2> times{timespec{0, UTIME_OMIT}, time};
-    return utimensat(AT_FDCWD, path.c_str(), times.data(), AT_SYMLINK_NOFOLLOW) == 0;
+    return FileState::fromText(state)->size;
+}
+
+std::array<struct timespec, 2> changeTime(const struct timespec& time)
+{
+    return {timespec{0, UTIME_OMIT}, time};
 }
 
 } // namespace
 
 UndoResult DocumentUndo::perform(bool dryRun)
 {
-    if (const std::string problem = open(); !problem.empty())
+    if (const Failure problem = open(); problem)
         return {UndoResult::LeftAlone, problem};
     follow();
     if (m_cuts.empty() && !m_isBefore)
-        return {UndoResult::LeftAlone, "it is no longer as the report says, " +
-                                           m_document.updates.front().after + ", but " + stateOf(m_present)};
+        return {UndoResult::LeftAlone,
+                {ReasonCode::ChangedSince,
+                 "it is no longer as the report says, " + expected() + ", but " + stateOf(m_present)}};
     UndoResult result{m_undoneAlready ? UndoResult::UndoneAlready : UndoResult::NothingDone};
     if (!m_cuts.empty()) {
-        if (const std::string problem = whyNotCut(); !problem.empty())
+        if (const Failure problem = whyNotCut(); problem)
             return {UndoResult::LeftAlone, problem};
         result = dryRun ? UndoResult{UndoResult::Undone} : cut();
     }
@@ -65,18 +94,25 @@ UndoResult DocumentUndo::perform(bool dryRun)
     return result;
 }
 
+/// What the document would be like, in words.
+std::string DocumentUndo::expected() const
+{
+    const AppendedUpdate& newest = m_document.updates.front();
+    return newest.after.empty() ? newest.before + " and what the run was about to append" : newest.after;
+}
+
 /// The path is one that links were resolved in, so a link at its end is not the document.
-std::string DocumentUndo::open()
+Failure DocumentUndo::open()
 {
     struct stat named;
     if (lstat(m_document.path.c_str(), &named) != 0)
-        return systemError(errno);
+        return cannotRead(errno);
     if (!S_ISREG(named.st_mode))
-        return systemError(notARegularFile);
+        return cannotRead(notARegularFile);
     m_file = openRegularFile(m_document.path);
     if (!m_file.isOpen() || fstat(m_file.get(), &m_present) != 0)
-        return systemError(errno);
-    return isSameState(named, m_present) ? "" : changedMeanwhile;
+        return cannotRead(errno);
+    return isSameState(named, m_present) ? Failure() : changedMeanwhile;
 }
 
 /// Goes back from state to state. What is newer than the state that the document is in has been undone.
@@ -85,7 +121,7 @@ void DocumentUndo::follow()
     std::string state = stateOf(m_present);
     for (const AppendedUpdate& update : m_document.updates) {
         m_olderStays = !m_cuts.empty() || m_isBefore;
-        if (state == update.after) {
+        if (isAfter(update, state)) {
             m_cuts.push_back(&update);
             state = update.before;
             m_olderStays = false;
@@ -97,43 +133,78 @@ void DocumentUndo::follow()
     }
 }
 
-/// Why the updates must not be cut off; empty when all is well.
-std::string DocumentUndo::whyNotCut() const
+bool DocumentUndo::isAfter(const AppendedUpdate& update, const std::string& state) const
+{
+    if (!update.after.empty())
+        return state == update.after;
+    const std::int64_t begin = sizeOf(update.before);
+    const std::int64_t end = sizeOf(state);
+    return begin < end && end - begin <= longestInPlace &&
+           isUnfinished(bytesOf(m_file.get(), begin, end), update.unfinished);
+}
+
+/// Why the updates must not be cut off.
+Failure DocumentUndo::whyNotCut() const
 {
     for (const AppendedUpdate* update : m_cuts) {
-        const std::string checksum = checksumOf(m_file.get(), sizeBefore(*update));
+        const std::string checksum = checksumOf(m_file.get(), sizeOf(update->before));
         if (checksum.empty())
-            return errno != 0 ? systemError(errno) : changedMeanwhile;
+            return errno != 0 ? cannotRead(errno) : changedMeanwhile;
         if (checksum != update->checksum)
-            return "what stands before the update is not what stood there";
+            return {ReasonCode::ChangedSince, "what stands before the update is not what stood there"};
     }
-    return endsAsUpdate(m_file.get(), sizeBefore(*m_cuts.back()), m_present.st_size)
-               ? ""
-               : "what the report calls an update is none";
+    const bool isUpdate = m_cuts.front()->after.empty() || // whose bytes are known
+                          endsAsUpdate(m_file.get(), sizeOf(m_cuts.back()->before), m_present.st_size);
+    return isUpdate ? Failure() : Failure{ReasonCode::BadReport, "what the report calls an update is none"};
 }
 
 UndoResult DocumentUndo::cut() const
 {
+    if (lockDocument(m_file.get()) == DocumentLock::Held)
+        return {UndoResult::LeftAlone, documentLocked};
+    if (!isAsRead(m_file.get(), m_document.path, m_present))
+        return {UndoResult::LeftAlone, changedMeanwhile};
     const FileState before = *FileState::fromText(m_cuts.back()->before);
+    const InPlaceFile file(m_document.path);
+    return file.isSuited() && isSameFile(file.status(), m_present) ? cutInPlace(file, before)
+                                                                   : replace(before);
+}
+
+/// A file's size changes in one step, also when power fails.
+UndoResult DocumentUndo::cutInPlace(const InPlaceFile& file, const FileState& before) const
+{
+    if (ftruncate(file.get(), before.size) != 0)
+        return {UndoResult::LeftAlone, Failure::ofSystem(errno, ReasonCode::WriteFailed)};
+    UndoResult result{UndoResult::Undone};
+    if (futimens(file.get(), changeTime(before.time).data()) != 0)
+        result.note = timeLost;
+    if (!flushFile(file.get()))
+        result.note +=
+            (result.note.empty() ? "" : "; ") + ("it may not survive a power failure: " + systemError(errno));
+    return result;
+}
+
+UndoResult DocumentUndo::replace(const FileState& before) const
+{
     const std::string temporary = SafeOutput::temporaryNameFor(m_document.path);
     SafeOutput output(m_document.path, temporary);
     const auto size = static_cast<std::uint64_t>(before.size);
-    if (const std::string problem = copyBegin(m_file.get(), size, temporary); !problem.empty())
+    if (const Failure problem = copyBegin(m_file.get(), size, temporary); problem)
         return {UndoResult::LeftAlone, problem};
-    const bool timeKept = setTime(temporary, before.time);
+    const bool timeKept =
+        utimensat(AT_FDCWD, temporary.c_str(), changeTime(before.time).data(), AT_SYMLINK_NOFOLLOW) == 0;
     const auto beforeRename = [this](const struct stat&, const std::string&) {
-        struct stat now;
-        if (lstat(m_document.path.c_str(), &now) != 0 || !isSameState(now, m_present))
-            throw std::runtime_error(changedMeanwhile);
+        if (!isAsRead(m_file.get(), m_document.path, m_present))
+            throw DocumentError(changedMeanwhile);
     };
     try {
         const SafeOutput::Outcome outcome =
             output.commit(FileAttributes(m_file.get(), FileAttributes::Take::All), true, beforeRename);
-        if (!outcome.problem.empty())
+        if (outcome.problem)
             return {UndoResult::LeftAlone, outcome.problem};
-        return {UndoResult::Undone, {}, outcome.note + (timeKept ? "" : "its time could not be restored")};
-    } catch (const std::runtime_error& problem) {
-        return {UndoResult::LeftAlone, problem.what()};
+        return {UndoResult::Undone, {}, outcome.note + (timeKept ? "" : timeLost)};
+    } catch (const std::runtime_error&) {
+        return {UndoResult::LeftAlone, Failure::ofException()};
     }
 }
 

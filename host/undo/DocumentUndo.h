@@ -11,6 +11,9 @@
 
 namespace host {
 
+class InPlaceFile;
+struct FileState;
+
 struct UndoResult
 {
     enum Kind {
@@ -21,15 +24,16 @@ struct UndoResult
     };
 
     Kind kind = LeftAlone;
-    /// Why the document, or an older update of one that was undone, is left alone; else empty.
-    std::string reason = {};
+    /// Why the document, or an older update of one that was undone, is left alone.
+    Failure reason = {};
     /// What the user should know of a document that was undone; may be empty.
     std::string note = {};
 };
 
 /// Cuts the updates that a run has appended off a document, newest first, as far as the document is what the
 /// report says: its size, its time, and the checksum of what stood before each update. It then has every
-/// byte, the mode and the time of change that it had, and another file number.
+/// byte, the mode and the time of change that it had. It stays the same file where a run would append to it
+/// as it lies, else a new one takes its place.
 class DocumentUndo
 {
 public:
@@ -41,10 +45,14 @@ public:
     UndoResult perform(bool dryRun);
 
 private:
-    std::string open();
+    Failure open();
+    std::string expected() const;
     void follow();
-    std::string whyNotCut() const;
+    bool isAfter(const AppendedUpdate& update, const std::string& state) const;
+    Failure whyNotCut() const;
     UndoResult cut() const;
+    UndoResult cutInPlace(const InPlaceFile& file, const FileState& before) const;
+    UndoResult replace(const FileState& before) const;
 
     const UndoPlan::Document& m_document;
     FileDescriptor m_file;

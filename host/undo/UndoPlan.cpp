@@ -1,7 +1,8 @@
 #include "UndoPlan.h"
 
+#include "host/files/FileState.h"
 #include "host/files/LineReader.h"
-#include "host/plan/FileState.h"
+#include "host/files/Links.h"
 #include "host/report/Report.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/StandardError.h"
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <numeric>
+#include <set>
 #include <stdexcept>
 #include <utility>
 
@@ -34,7 +36,9 @@ bool isUpdate(const AppendedUpdate& update)
 {
     const auto before = FileState::fromText(update.before);
     const auto after = FileState::fromText(update.after);
-    return before && after && before->size > 0 && after->size > before->size && isChecksum(update.checksum);
+    const bool isKnown = update.after.empty() ? update.begun && isChecksum(update.unfinished)
+                                              : after && before && after->size > before->size;
+    return before && before->size > 0 && isKnown && isChecksum(update.checksum);
 }
 
 bool isFileName(const std::string& name)
@@ -104,18 +108,20 @@ void UndoPlan::takeResult(const QJsonObject& object, std::size_t number)
     const std::string saved = textIn(object, "saved");
     const QJsonObject undo = object.value("undo").toObject();
     const AppendedUpdate update{textIn(undo, "fileState"), textIn(object, "outputState"),
-                                textIn(undo, "sha256"), status == "begun"};
+                                textIn(undo, "sha256"), status == "begun", textIn(undo, "unfinished")};
     if ((status != "changed" && status != "begun" && saved != "copied") || saved.empty())
         return;
     if (!object.contains("undo") && update.after != textIn(object, "fileState")) {
         ++m_results;
-        m_leftAlone.push_back({path, "it is a result of -o, and its document is as it was"});
-    } else if (!object.contains("undo")) {
-        m_leftAlone.push_back({path, "the report does not tell what stood there before"});
-    } else if (!isUpdate(update) || !isFileName(path)) {
         m_leftAlone.push_back(
-            {path.empty() ? "a document without a name" : path,
-             "line " + std::to_string(number) + " of the report says what no run can have done"});
+            {path, {ReasonCode::NotInPlace, "it is a result of -o, and its document is as it was"}});
+    } else if (!object.contains("undo")) {
+        m_leftAlone.push_back(
+            {path, {ReasonCode::NoUndoRecord, "the report does not tell what stood there before"}});
+    } else if (!isUpdate(update) || !isFileName(path)) {
+        m_leftAlone.push_back({path.empty() ? "a document without a name" : path,
+                               {ReasonCode::BadReport, "line " + std::to_string(number) +
+                                                           " of the report says what no run can have done"}});
     } else {
         takeUpdate(path, update);
         m_newestLine[m_places.at(path)] = number;
@@ -130,12 +136,33 @@ void UndoPlan::takeUpdate(const std::string& path, AppendedUpdate update)
         m_newestLine.push_back(0);
     }
     std::vector<AppendedUpdate>& updates = m_documents[place->second].updates;
-    const bool settled = !updates.empty() && updates.back().begun && updates.back().before == update.before &&
-                         updates.back().after == update.after;
-    if (settled)
-        updates.back().begun = update.begun;
+    const auto settles = [&update](const AppendedUpdate& other) {
+        return other.begun && other.before == update.before &&
+               (other.after == update.after || other.after.empty());
+    };
+    if (!updates.empty() && settles(updates.back()))
+        updates.back() = std::move(update);
     else
         updates.push_back(std::move(update));
+}
+
+void UndoPlan::restrictTo(const std::vector<std::string>& names)
+{
+    std::map<std::string, const std::string*> wanted;
+    for (const std::string& name : names)
+        wanted.emplace(resolved(behindLink(name)), &name);
+    std::set<std::string> found;
+    const auto isUnwanted = [&](const std::string& path) {
+        const bool isWanted = wanted.count(path) > 0;
+        if (isWanted)
+            found.insert(path);
+        return !isWanted;
+    };
+    std::erase_if(m_documents, [&](const Document& each) { return isUnwanted(each.path); });
+    std::erase_if(m_leftAlone, [&](const LeftAlone& each) { return isUnwanted(each.name); });
+    for (const auto& [path, name] : wanted)
+        if (found.count(path) == 0)
+            m_leftAlone.push_back({*name, {ReasonCode::NotInReport, "the report tells of no change of it"}});
 }
 
 /// Puts the newest first.
@@ -159,10 +186,12 @@ void UndoPlan::sumUp(const std::string& report)
     m_places.clear();
     if (m_unreadable > 0)
         m_leftAlone.push_back(
-            {report, "line " + std::to_string(m_firstUnreadable) +
-                         (m_unreadable > 1 ? " and " + std::to_string(m_unreadable - 1) + " more tell"
-                                           : std::string(" tells")) +
-                         " nothing of a document"});
+            {report,
+             {ReasonCode::BadReport,
+              "line " + std::to_string(m_firstUnreadable) +
+                  (m_unreadable > 1 ? " and " + std::to_string(m_unreadable - 1) + " more tell"
+                                    : std::string(" tells")) +
+                  " nothing of a document"}});
 }
 
 } // namespace host

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/failures/Failure.h"
 #include "host/files/FileDescriptor.h"
 
 #include <cstddef>
@@ -15,13 +16,16 @@ namespace host {
 /// One update that a run has appended to a document in place.
 struct AppendedUpdate
 {
-    /// The document's states, see FileState.h; it became larger.
+    /// The document's states, see FileState.h; it became larger. The one after an update that was begun where
+    /// the document lies is not known.
     std::string before;
     std::string after;
     /// Of all that stood before the update, see Checksum.h.
     std::string checksum;
     /// The run noted that it was about to do it, and not what became of it.
     bool begun = false;
+    /// Of an update whose state after is not known, all but its last lines, see Checksum.h.
+    std::string unfinished = {};
 };
 
 /// What the report of a run, or of several that continued each other, tells of changes in place. A report may
@@ -41,12 +45,16 @@ public:
     struct LeftAlone
     {
         std::string name;
-        std::string reason;
+        Failure reason;
     };
 
     /// Reads the report, and keeps runs from writing it while the object lives. Throws UsageError when that
     /// is not possible, when it is no report, and for one of a run that changed nothing in place.
     explicit UndoPlan(const std::string& report);
+
+    /// Forgets what is about other documents. \param names of those that are wanted; what the report does not
+    /// tell of is left alone.
+    void restrictTo(const std::vector<std::string>& names);
 
     /// The one with the newest update first.
     const std::vector<Document>& documents() const { return m_documents; }

@@ -5,7 +5,8 @@
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/TerminalText.h"
-#include "host/workers/StopSignal.h"
+
+#include <QJsonObject>
 
 #include <unistd.h>
 
@@ -20,21 +21,45 @@ void print(const std::string& text)
     writeAll(STDOUT_FILENO, text.data(), text.size()); // nobody may be listening
 }
 
+const char* nameOf(UndoResult::Kind kind)
+{
+    switch (kind) {
+    case UndoResult::Undone:
+        return "undone";
+    case UndoResult::UndoneAlready:
+        return "undone already";
+    case UndoResult::NothingDone:
+        return "unchanged";
+    case UndoResult::LeftAlone:
+        break;
+    }
+    return "left alone";
+}
+
 } // namespace
 
 int UndoRun::run()
 {
-    StopSignal stop;
-    if (!m_dryRun)
+    m_options.control.takeSignals();
+    if (m_options.events != nullptr)
+        tellFound();
+    if (!m_options.dryRun)
         removeLeftovers();
-    undoDocuments(stop);
+    undoDocuments();
+    for (std::size_t index = 0; index < m_plan.leftAlone().size(); ++index)
+        leaveAlone(m_plan.documents().size() + index, m_plan.leftAlone()[index]);
+    sumUp();
+    return m_options.control.isStopped() ? exitstatus::stopped
+           : m_leftAlone > 0             ? exitstatus::someFailed
+                                         : exitstatus::done;
+}
+
+void UndoRun::tellFound() const
+{
+    for (const UndoPlan::Document& document : m_plan.documents())
+        m_options.events->found(document.path);
     for (const UndoPlan::LeftAlone& what : m_plan.leftAlone())
-        leaveAlone(what);
-    if (!m_quiet)
-        print(counts());
-    return stop.count() > 0  ? exitstatus::stopped
-           : m_leftAlone > 0 ? exitstatus::someFailed
-                             : exitstatus::done;
+        m_options.events->found(what.name);
 }
 
 void UndoRun::removeLeftovers() const
@@ -45,39 +70,67 @@ void UndoRun::removeLeftovers() const
             SafeOutput::removeLeftovers(SafeOutput::folderOf(document.path));
 }
 
-void UndoRun::undoDocuments(StopSignal& stop)
+void UndoRun::undoDocuments()
 {
-    for (const UndoPlan::Document& document : m_plan.documents())
-        if (stop.count() > 0)
+    const std::vector<UndoPlan::Document>& documents = m_plan.documents();
+    for (std::size_t index = 0; index < documents.size(); ++index) {
+        m_options.control.waitWhilePaused();
+        if (m_options.control.isStopped())
             ++m_notDone;
         else
-            add(document.path, DocumentUndo(document).perform(m_dryRun));
+            add(index, documents[index].path, DocumentUndo(documents[index]).perform(m_options.dryRun));
+    }
 }
 
-void UndoRun::add(const std::string& path, const UndoResult& result)
+void UndoRun::add(std::size_t number, const std::string& path, const UndoResult& result)
 {
     m_undone += result.kind == UndoResult::Undone ? 1 : 0;
     m_undoneAlready += result.kind == UndoResult::UndoneAlready ? 1 : 0;
-    if (!m_quiet && result.kind == UndoResult::Undone)
-        print((m_dryRun ? "would undo  " : "undone  ") + forTerminal(path) + "\n");
-    if (!m_quiet && result.kind == UndoResult::UndoneAlready)
-        print("undone already  " + forTerminal(path) + "\n");
-    if (!m_quiet && !result.note.empty())
-        printError("note: " + forTerminal(path) + ": " + forTerminal(result.note) + "\n");
-    if (!result.reason.empty())
-        leaveAlone({path, result.reason});
+    if (result.reason)
+        ++m_leftAlone;
+    if (m_options.events == nullptr)
+        return print(path, result);
+    const QString note = QString::fromStdString(result.note);
+    m_options.events->result(number, result.reason, result.kind == UndoResult::LeftAlone,
+                             {{"status", nameOf(result.kind)},
+                              {"note", note.isEmpty() ? QJsonValue() : QJsonValue(note)},
+                              {"before", QJsonObject()},
+                              {"after", QJsonObject()}});
 }
 
-void UndoRun::leaveAlone(const UndoPlan::LeftAlone& what)
+void UndoRun::leaveAlone(std::size_t number, const UndoPlan::LeftAlone& what)
 {
-    ++m_leftAlone;
-    printError("left alone: " + forTerminal(what.name) + ": " + forTerminal(what.reason) + "\n");
+    add(number, what.name, {UndoResult::LeftAlone, what.reason});
+}
+
+void UndoRun::print(const std::string& path, const UndoResult& result) const
+{
+    if (!m_options.quiet && result.kind == UndoResult::Undone)
+        host::print((m_options.dryRun ? "would undo  " : "undone  ") + forTerminal(path) + "\n");
+    if (!m_options.quiet && result.kind == UndoResult::UndoneAlready)
+        host::print("undone already  " + forTerminal(path) + "\n");
+    if (!m_options.quiet && !result.note.empty())
+        printError("note: " + forTerminal(path) + ": " + forTerminal(result.note) + "\n");
+    if (result.reason)
+        printError("left alone: " + forTerminal(path) + ": " + forTerminal(result.reason.text) + "\n");
+}
+
+void UndoRun::sumUp() const
+{
+    const auto number = [](std::size_t count) { return static_cast<qint64>(count); };
+    if (m_options.events != nullptr)
+        m_options.events->end({{"undone", number(m_undone)},
+                               {"undoneAlready", number(m_undoneAlready)},
+                               {"leftAlone", number(m_leftAlone)}},
+                              m_options.control.isStopped());
+    else if (!m_options.quiet)
+        host::print(counts());
 }
 
 /// "3 undone, 0 undone already, 1 left alone", with a line feed.
 std::string UndoRun::counts() const
 {
-    return std::to_string(m_undone) + (m_dryRun ? " would be undone, " : " undone, ") +
+    return std::to_string(m_undone) + (m_options.dryRun ? " would be undone, " : " undone, ") +
            std::to_string(m_undoneAlready) + " undone already, " + std::to_string(m_leftAlone) +
            " left alone" +
            (m_notDone > 0 ? ", stopped with " + std::to_string(m_notDone) + " not done" : std::string()) +

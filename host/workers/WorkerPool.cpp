@@ -1,10 +1,9 @@
 #include "WorkerPool.h"
 
-#include "StopSignal.h"
+#include "RunControl.h"
 
 #include "host/cell/Cell.h"
 #include "host/files/FileDescriptor.h"
-#include "pdflibrary/ErrorCodes.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -23,6 +22,7 @@
 #include <numeric>
 #include <optional>
 #include <thread>
+#include <utility>
 
 namespace host {
 
@@ -63,13 +63,15 @@ void limitWorker(int memoryMiB)
     dup2(null.get(), STDERR_FILENO);
 }
 
-std::string describeEnd(int status, std::optional<int> outsideCall)
+Failure describeEnd(int status, std::optional<int> outsideCall)
 {
     if (outsideCall && WIFEXITED(status) && WEXITSTATUS(status) == callfilter::endedStatus)
-        return "did what no document needs (" + callfilter::nameOf(*outsideCall) + ")";
+        return {ReasonCode::Hostile, "did what no document needs (" + callfilter::nameOf(*outsideCall) + ")"};
     if (WIFSIGNALED(status))
-        return "the worker process crashed on it: " + std::string(strsignal(WTERMSIG(status)));
-    return "the worker process ended on it with status " + std::to_string(WEXITSTATUS(status));
+        return {ReasonCode::Crashed,
+                "the worker process crashed on it: " + std::string(strsignal(WTERMSIG(status)))};
+    return {ReasonCode::Crashed,
+            "the worker process ended on it with status " + std::to_string(WEXITSTATUS(status))};
 }
 
 // A worker's own ends, for the handler that takes no arguments.
@@ -85,13 +87,23 @@ void tell(WorkerSlot::Kind kind, std::string_view text)
 
 void tellOfException()
 {
-    try {
-        throw;
-    } catch (const std::bad_alloc&) {
-        tell(WorkerSlot::Lost, engine::errorText(static_cast<int>(engine::ErrorCode::OutOfMemory)));
-    } catch (const std::exception& error) {
-        tell(WorkerSlot::Lost, error.what());
-    }
+    const Failure failure = Failure::ofException();
+    tell(WorkerSlot::Lost, std::string(1, static_cast<char>(failure.code)) + failure.text);
+}
+
+/// What `tellOfException` has told.
+Failure failureIn(const std::string& text)
+{
+    const auto code = text.empty() ? 0 : static_cast<unsigned char>(text.front());
+    return {code > 0 && isReasonCode(code) ? static_cast<ReasonCode>(code) : ReasonCode::Internal,
+            text.substr(std::min<std::size_t>(text.size(), 1))};
+}
+
+WorkOutcome outcomeOf(WorkerSlot::Answer& answer, const WorkerSlot& slot)
+{
+    if (answer.kind == WorkerSlot::Answered)
+        return {WorkOutcome::Answered, std::move(answer.text)};
+    return {WorkOutcome::Lost, {}, failureIn(answer.text), slot.noted()};
 }
 
 void tellOfOutsideCall(int call)
@@ -143,19 +155,41 @@ WorkerPool::~WorkerPool()
             }
 }
 
-void WorkerPool::run(std::size_t count, const Done& done, StopSignal& stop)
+void WorkerPool::run(std::size_t count, const Done& done, RunControl& control)
 {
     m_ended.assign(count, false);
     m_round.resize(count);
     std::iota(m_round.begin(), m_round.end(), std::size_t{0});
-    for (*m_next = 0; m_stopSignals == 0 && !m_round.empty(); planNextRound())
-        doRound(done, stop);
+    for (*m_next = 0; m_stops == 0 && !m_round.empty(); planNextRound())
+        doRound(done, control);
 }
 
-void WorkerPool::doRound(const Done& done, StopSignal& stop)
+void WorkerPool::doRound(const Done& done, RunControl& control)
 {
-    while (startWorkers(done), anyRunning())
-        waitForNews(done, stop);
+    heed(control);
+    while (startWorkers(done), anyRunning() || untaken() > 0)
+        waitForNews(done, control);
+}
+
+void WorkerPool::heed(const RunControl& control)
+{
+    if (m_stops == 0 && control.isStopped()) {
+        m_stopDeadline = Clock::now() + stopGrace;
+        endRound();
+    }
+    m_stops = control.stops();
+    if (control.isPaused() && !m_held)
+        m_held = m_next->exchange(m_round.size());
+    else if (!control.isPaused() && m_held)
+        *m_next = *std::exchange(m_held, std::nullopt);
+}
+
+/// No further place is taken.
+void WorkerPool::endRound()
+{
+    *m_next = m_round.size();
+    if (m_held)
+        m_held = m_round.size();
 }
 
 /// The next piece that a worker took without living to name it, or whose answer it corrupted; alone, so that
@@ -170,26 +204,29 @@ void WorkerPool::planNextRound()
         m_cell.renew();
     if (left != m_ended.end())
         m_round.push_back(static_cast<std::size_t>(left - m_ended.begin()));
+    m_held.reset();
     *m_next = 0;
 }
 
 std::size_t WorkerPool::untaken() const
 {
-    return m_round.size() - std::min<std::size_t>(*m_next, m_round.size());
+    const std::uint64_t next = m_held ? *m_held : m_next->load();
+    return m_round.size() - std::min<std::size_t>(next, m_round.size());
 }
 
 void WorkerPool::startWorkers(const Done& done)
 {
     for (Process& process : m_processes)
-        while (!process.isRunning() && untaken() > 0) {
+        while (!process.isRunning() && untaken() > 0 && !m_held) {
             if (m_round.size() == 1 && anyRunning())
                 return;
             if (start(process))
                 break;
-            const std::string problem = "no worker process can be started: " + systemError(errno);
+            const Failure problem{ReasonCode::NoProcess,
+                                  "no worker process can be started: " + systemError(errno)};
             if (anyRunning())
                 return; // there cannot be as many workers as wanted: those that there are do the rest
-            pieceEnded((*m_next)++, done, {WorkOutcome::Lost, problem});
+            pieceEnded((*m_next)++, done, {WorkOutcome::Lost, {}, problem});
         }
 }
 
@@ -265,7 +302,7 @@ std::unique_ptr<Worker> WorkerPool::lockedInWorker(int wakeUps) const
     return worker;
 }
 
-void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
+void WorkerPool::waitForNews(const Done& done, RunControl& control)
 {
     std::vector<pollfd> waiting; // no more than there are open descriptors: poll takes that for an error
     std::vector<Process*> running;
@@ -274,7 +311,7 @@ void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
             running.push_back(&process);
             waiting.push_back({process.wakeUps.get(), POLLIN, 0});
         }
-    waiting.push_back({stop.descriptor(), POLLIN, 0});
+    control.addTo(waiting);
     nap();
     if (poll(waiting.data(), waiting.size(), millisecondsToNextDeadline()) < 0 && errno != EINTR) {
         std::this_thread::sleep_for(napTime); // the kernel is short of memory: ask each, none of them blocks
@@ -285,12 +322,11 @@ void WorkerPool::waitForNews(const Done& done, StopSignal& stop)
     for (std::size_t index = 0; index < running.size(); ++index)
         if (waiting[index].revents != 0)
             receive(*running[index], done);
-    const int signals = waiting.back().revents != 0 ? stop.count() : m_stopSignals;
-    if (m_stopSignals == 0 && signals > 0) {
-        m_stopDeadline = Clock::now() + stopGrace;
-        *m_next = m_round.size();
+    if (std::any_of(waiting.begin() + static_cast<std::ptrdiff_t>(running.size()), waiting.end(),
+                    [](const pollfd& each) { return each.revents != 0; })) {
+        control.take();
+        heed(control);
     }
-    m_stopSignals = signals;
     endOverdue(done);
     endStopped(done);
 }
@@ -311,20 +347,13 @@ void WorkerPool::receive(Process& process, const Done& done)
         end(process, done, WorkOutcome::Lost);
 }
 
-void WorkerPool::takeAnswer(const Process& process, const WorkerSlot::Answer& answer, const Done& done)
-{
-    if (answer.kind == WorkerSlot::Answered)
-        pieceEnded(answer.piece, done, {WorkOutcome::Answered, answer.text});
-    else if (answer.kind == WorkerSlot::Lost)
-        pieceEnded(answer.piece, done, {WorkOutcome::Lost, answer.text, (*process.slot)->noted()});
-}
-
 /// \returns their number.
 int WorkerPool::takeAnswers(Process& process, const Done& done)
 {
     int count = 0;
-    for (; const std::optional<WorkerSlot::Answer> answer = (*process.slot)->takeAnswer(); ++count)
-        takeAnswer(process, *answer, done);
+    for (; std::optional<WorkerSlot::Answer> answer = (*process.slot)->takeAnswer(); ++count)
+        if (answer->kind != WorkerSlot::Again)
+            pieceEnded(answer->piece, done, outcomeOf(*answer, **process.slot));
     if (count > 0) {
         process.news = Clock::now();
         setDeadline(process); // what took this program long is not the worker's
@@ -343,8 +372,8 @@ void WorkerPool::pieceEnded(std::uint64_t place, const Done& done, const WorkOut
 }
 
 /// What the worker has told is read after its end, when nothing can be added any more.
-/// \param reason why the piece is lost that it was at; empty for how it ended.
-void WorkerPool::end(Process& process, const Done& done, WorkOutcome::Kind kind, const std::string& reason)
+/// \param why the piece is lost that it was at; none for how it ended.
+void WorkerPool::end(Process& process, const Done& done, WorkOutcome::Kind kind, const Failure& why)
 {
     kill(process.id, SIGKILL); // changes nothing for one that has ended
     int status = 0;
@@ -354,13 +383,15 @@ void WorkerPool::end(Process& process, const Done& done, WorkOutcome::Kind kind,
     process.wakeUps.close();
     takeAnswers(process, done);
     const std::uint64_t told = (*process.slot)->piece();
-    const std::uint64_t place = m_round.size() == 1 ? 0 : told;
+    const std::uint64_t place = m_round.size() == 1 && untaken() == 0 ? 0 : told;
     pieceEnded(place, done,
-               {kind, reason.empty() ? describeEnd(status, (*process.slot)->outsideCall()) : reason,
+               {kind,
+                {},
+                why ? why : describeEnd(status, (*process.slot)->outsideCall()),
                 told == place ? (*process.slot)->noted() : std::string()});
     process.slot.reset();
     if (told >= m_round.size() && status != 0 && ++m_fruitless >= mostFruitless)
-        *m_next = m_round.size();
+        endRound();
 }
 
 void WorkerPool::setDeadline(Process& process) const
@@ -382,17 +413,18 @@ void WorkerPool::endOverdue(const Done& done)
             setDeadline(process);
         else
             end(process, done, WorkOutcome::Lost,
-                "it took longer than " + std::to_string(m_limits.timeoutSeconds) + " s");
+                {ReasonCode::Timeout,
+                 "it took longer than " + std::to_string(m_limits.timeoutSeconds) + " s"});
     }
 }
 
 void WorkerPool::endStopped(const Done& done)
 {
-    if (m_stopSignals == 0 || (m_stopSignals == 1 && Clock::now() < m_stopDeadline))
+    if (m_stops == 0 || (m_stops == 1 && Clock::now() < m_stopDeadline))
         return;
     for (Process& process : m_processes)
         if (process.isRunning())
-            end(process, done, WorkOutcome::Stopped, "stopped");
+            end(process, done, WorkOutcome::Stopped);
 }
 
 bool WorkerPool::anyRunning() const
@@ -407,7 +439,7 @@ int WorkerPool::millisecondsToNextDeadline() const
     for (const Process& process : m_processes)
         if (process.isRunning())
             next = std::min(next, process.deadline);
-    if (m_stopSignals > 0)
+    if (m_stops > 0)
         next = std::min(next, m_stopDeadline);
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(next - Clock::now()).count();
     return static_cast<int>(std::clamp<std::int64_t>(left, 0, 1 << 30));

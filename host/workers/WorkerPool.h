@@ -2,6 +2,7 @@
 
 #include "SharedMemory.h"
 #include "WorkerSlot.h"
+#include "host/failures/Failure.h"
 
 #include <sys/types.h>
 
@@ -11,13 +12,14 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace host {
 
 class Cell;
-class StopSignal;
+class RunControl;
 
 /// What a worker process does.
 class Worker
@@ -44,8 +46,8 @@ struct WorkOutcome
 {
     enum Kind { Answered, Lost, Stopped };
     Kind kind;
-    /// The worker's answer, or the reason why there is none.
-    std::string text;
+    std::string answer = {};
+    Failure failure = {}; ///< Why there is no answer.
     /// What the worker had noted about a piece that it did not answer.
     std::string note = {};
 };
@@ -75,29 +77,30 @@ public:
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
 
-    /// Has pieces 0 to count - 1 done and tells of each as it ends. After a stop signal no piece is begun;
-    /// those in work are waited for a few seconds, or not at all after a second signal, and then end as
-    /// Stopped.
-    void run(std::size_t count, const Done& done, StopSignal& stop);
+    /// Has pieces 0 to count - 1 done and tells of each as it ends. Once a stop is asked for no piece is begun;
+    /// those in work are waited for a few seconds, or not at all when it is asked for again, and then end as
+    /// Stopped. While it is paused no piece is begun either, and workers end that have none.
+    void run(std::size_t count, const Done& done, RunControl& control);
 
 private:
     using Clock = std::chrono::steady_clock;
     struct Process;
 
-    void doRound(const Done& done, StopSignal& stop);
+    void doRound(const Done& done, RunControl& control);
     void planNextRound();
+    void heed(const RunControl& control);
+    void endRound();
     std::size_t untaken() const;
     void startWorkers(const Done& done);
     bool start(Process& process);
     [[noreturn]] void serve(Process& process, int wakeUps, pid_t parent);
     std::unique_ptr<Worker> lockedInWorker(int wakeUps) const;
-    void waitForNews(const Done& done, StopSignal& stop);
+    void waitForNews(const Done& done, RunControl& control);
     void nap() const;
     void receive(Process& process, const Done& done);
-    void takeAnswer(const Process& process, const WorkerSlot::Answer& answer, const Done& done);
     int takeAnswers(Process& process, const Done& done);
     void pieceEnded(std::uint64_t place, const Done& done, const WorkOutcome& outcome);
-    void end(Process& process, const Done& done, WorkOutcome::Kind kind, const std::string& reason = {});
+    void end(Process& process, const Done& done, WorkOutcome::Kind kind, const Failure& why = {});
     void setDeadline(Process& process) const;
     void endOverdue(const Done& done);
     void endStopped(const Done& done);
@@ -112,9 +115,11 @@ private:
     /// The pieces of this round; workers take places in this list.
     std::vector<std::size_t> m_round;
     SharedMemory<std::atomic<std::uint64_t>> m_next;
+    /// While it is paused, the next place; workers then find none.
+    std::optional<std::uint64_t> m_held;
     int m_fruitless = 0; ///< Workers in a row that ended at no piece.
     Clock::duration m_perPiece = Clock::duration::max();
-    int m_stopSignals = 0;
+    int m_stops = 0;
     Clock::time_point m_stopDeadline;
 };
 

@@ -117,6 +117,7 @@ private slots:
         QCOMPARE(line.take("after").toObject().value("pageMode"), QJsonValue("FullScreen"));
         QCOMPARE(line, (QJsonObject{{"file", "in/a.pdf"},
                                     {"status", "changed"},
+                                    {"reasonCode", QJsonValue()},
                                     {"saved", "appended"},
                                     {"reason", QJsonValue()}}));
     }
@@ -378,9 +379,11 @@ private slots:
         const QStringList run = QStringList{"run", "a.pdf", "--report", "report"} + options.split(' ');
         const ProgramRun dry = quintar(run + QStringList{"--in-place", "--dry-run"});
         QVERIFY2(dry.out.startsWith("would change  a.pdf: " + words + "\n"), dry.out + dry.err);
-        for (const QStringList& target : {QStringList{"-o", "out"}, QStringList{"--in-place"}}) {
-            const ProgramRun real = quintar(run + target);
-            QVERIFY2(real.out.startsWith("changed (appended)  a.pdf: " + words + "\n"), real.out + real.err);
+        for (const QString target : {"--suffix=new", "--in-place"}) {
+            const ProgramRun real = quintar(run + QStringList{target});
+            const QByteArray saved = target == "--in-place" ? "appended in place" : "appended";
+            QVERIFY2(real.out.startsWith("changed (" + saved + ")  a.pdf: " + words + "\n"),
+                     real.out + real.err);
             QCOMPARE(report().value(0).value("before"), QJsonValue(before));
             QCOMPARE(report().value(0).value("after"), QJsonValue(after));
         }
@@ -427,12 +430,17 @@ private slots:
         if (ProgramRun("mount", {"-t", "tmpfs", "-o", "size=128k", "tmpfs", path("disk")}).status != 0)
             QSKIP("no file system can be mounted here");
         const auto unmount = qScopeGuard([this] { ProgramRun("umount", {"-l", path("disk")}); });
-        const std::string padding = std::string(100000, 'x');
-        PdfBuilder builder;
-        builder.catalog("").pages(2).stream(9, "", padding);
-        const std::string original = put("disk/a.pdf", builder.bytes());
-        for (const QStringList& target : {QStringList{"--in-place"}, QStringList{"-o", "disk/out"}}) {
-            const ProgramRun run = apply(target + QStringList{"disk/a.pdf"});
+        const auto document = [](std::size_t size) {
+            return PdfBuilder().catalog("").pages(2).stream(9, "", std::string(size, 'x')).bytes();
+        };
+        // A few bytes of what is appended where it lies still fit.
+        const std::size_t padding = 100000;
+        const std::string original =
+            put("disk/a.pdf", document(padding + 4090 - document(padding).size() % 4096));
+        for (const char* target : {"--in-place --replace", "-o disk/out", "--in-place"}) {
+            if (target == std::string("--in-place"))
+                put("disk/filler", std::string(1 << 20, 'x'));
+            const ProgramRun run = apply(QString(target).split(' ') + QStringList{"disk/a.pdf"});
             QCOMPARE(run.status, 1);
             QVERIFY2(reasonFor(run.err, "disk/a.pdf").contains("no space left"), run.err);
             QVERIFY(WorkFolder::contentOf("disk/a.pdf") == original);

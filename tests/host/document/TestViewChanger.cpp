@@ -165,7 +165,7 @@ private slots:
         TelvarPDFLibraryCPDylibCPP1311 library(Recorder::path());
         const ViewChange change = changeOf(json);
         ViewChanger changer(library, change);
-        QCOMPARE(changer.apply("folder/my manual.PDF"), std::string());
+        QCOMPARE(changer.apply("folder/my manual.PDF").text, std::string());
         QCOMPARE(changes(recorder.takeLog()), calls);
         QCOMPARE(inWords(changer.differences()), told);
     }
@@ -179,7 +179,7 @@ private slots:
         TelvarPDFLibraryCPDylibCPP1311 library(Recorder::path());
         const ViewChange change = changeOf(R"({"title":"New"})");
         ViewChanger changer(library, change);
-        QCOMPARE(changer.apply("a.pdf"), std::string());
+        QCOMPARE(changer.apply("a.pdf").text, std::string());
         const QStringList calls = changes(recorder.takeLog());
         QVERIFY2(calls.size() == 1 && calls[0].contains(">New</rdf:li>"), qPrintable(calls.join("\n")));
         QCOMPARE(inWords(changer.differences()), QString("title: Old -> New"));
@@ -210,7 +210,7 @@ private slots:
         answerAsEmpty(recorder);
         TelvarPDFLibraryCPDylibCPP1311 library(Recorder::path());
         const ViewChange change = changeOf(json);
-        QCOMPARE(ViewChanger(library, change).apply("a.pdf"), reason);
+        QCOMPARE(ViewChanger(library, change).apply("a.pdf").text, reason);
     }
 
     void notesMissingTitles()

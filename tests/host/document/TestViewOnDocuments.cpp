@@ -181,7 +181,7 @@ std::string changed(const std::string& bytes, const QByteArray& json, const QTem
     LoadedLibrary library;
     library.LoadFromString(bytes, L"");
     const ViewChange change = viewjson::parse(QJsonDocument::fromJson(json).object());
-    if (std::string problem = ViewChanger(library, change).apply("name.pdf"); !problem.empty())
+    if (std::string problem = ViewChanger(library, change).apply("name.pdf").text; !problem.empty())
         return problem;
     const std::wstring path = folder.filePath("changed.pdf").toStdWString();
     if (library.SecurityInfo(103) == 0)

@@ -50,7 +50,7 @@ private slots:
         RunPlan tooLong(to("out"));
         tooLong.add(name);
         QCOMPARE(tooLong.documents().size(), std::size_t(1));
-        QCOMPARE(tooLong.documents()[0].problem, std::string("file name too long"));
+        QCOMPARE(tooLong.documents()[0].problem.text, std::string("file name too long"));
     }
 
     void leavesOutTheOutputFolder()
@@ -173,7 +173,7 @@ private slots:
             plan.add(name);
         QStringList problems;
         for (const RunPlan::Document& document : plan.documents())
-            problems += QString::fromStdString(document.problem);
+            problems += QString::fromStdString(document.problem.text);
         QCOMPARE(problems,
                  (QStringList{"no such file or directory", "not a regular file", "no such file or directory",
                               "not a directory", "file name too long"}));
@@ -289,7 +289,7 @@ private:
         const std::string here = fs::canonical(".").string() + "/";
         std::string text;
         for (const RunPlan::Document& document : plan.documents()) {
-            const std::string target = document.problem.empty() ? document.target : "!" + document.problem;
+            const std::string target = document.problem ? "!" + document.problem.text : document.target;
             text +=
                 document.name + ">" + (target.find(here) == 0 ? target.substr(here.size()) : target) + " ";
         }

@@ -22,7 +22,8 @@ private slots:
     void reportsInOrderAndInValidJson()
     {
         const auto line = [](const std::string& file) {
-            return Report::Line{file, "", DocumentResult::failed("\"quoted\"\n\x01\xff", 7)};
+            return Report::Line{file, "",
+                                DocumentResult::failed({ReasonCode::Damaged, "\"quoted\"\n\x01\xff"}, 7)};
         };
         Report report("report", Report::Start::New);
         report.begin();

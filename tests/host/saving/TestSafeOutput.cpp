@@ -74,7 +74,7 @@ private slots:
         QCOMPARE(WorkFolder::contentOf("target"), std::string("old"));
         QVERIFY(!fs::exists(temporary));
         for (const bool flush : {false, true}) {
-            QCOMPARE(SafeOutput::makeFolder(SafeOutput::folderOf("deep/er/target")), std::string());
+            QCOMPARE(SafeOutput::makeFolder(SafeOutput::folderOf("deep/er/target")).text, std::string());
             QCOMPARE(replace("deep/er/target", flush), std::string());
             QCOMPARE(WorkFolder::contentOf("deep/er/target"), std::string("new"));
         }
@@ -125,11 +125,11 @@ private slots:
     void tellsWhyAFolderCannotBeMade()
     {
         folderProblem = EROFS;
-        QCOMPARE(SafeOutput::makeFolder("new"),
+        QCOMPARE(SafeOutput::makeFolder("new").text,
                  std::string("the folder new cannot be made: read-only file system"));
         folderProblem = 0;
         WorkFolder::put("file");
-        QCOMPARE(SafeOutput::makeFolder("file/new"), std::string("file is not a folder"));
+        QCOMPARE(SafeOutput::makeFolder("file/new").text, std::string("file is not a folder"));
     }
 
     void removesWhatEndedProcessesLeft()
@@ -176,7 +176,7 @@ private:
         const FileDescriptor like = openRegularFile(temporary);
         const SafeOutput::Outcome outcome =
             output.commit(FileAttributes(like.get(), FileAttributes::Take::All), flush);
-        return outcome.problem.empty() && !outcome.note.empty() ? "note: " + outcome.note : outcome.problem;
+        return !outcome.problem && !outcome.note.empty() ? "note: " + outcome.note : outcome.problem.text;
     }
 
     std::optional<WorkFolder> m_folder;

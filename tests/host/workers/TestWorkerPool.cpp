@@ -1,5 +1,5 @@
 #include "host/cell/Cell.h"
-#include "host/workers/StopSignal.h"
+#include "host/workers/RunControl.h"
 #include "host/workers/WorkerPool.h"
 #include "host/workers/WorkerSlot.h"
 #include "support/Rows.h"
@@ -83,12 +83,13 @@ private slots:
             };
             std::vector<std::string> ends(200);
             const auto done = [&, each = each](std::size_t piece, const WorkOutcome& outcome) {
-                ends[piece] += outcome.text.substr(0, outcome.text.find_last_not_of(' ') + 1) + outcome.note;
+                ends[piece] += outcome.answer.substr(0, outcome.answer.find_last_not_of(' ') + 1) +
+                               outcome.failure.text + outcome.note;
                 usleep(each == 1 && piece == 100 ? 1'300'000 : 0);
             };
-            StopSignal stop;
+            RunControl control;
             Cell cell(Sandbox::Default);
-            WorkerPool({workers, 1, 1024}, make, cell).run(ends.size(), done, stop);
+            WorkerPool({workers, 1, 1024}, make, cell).run(ends.size(), done, control);
             for (std::size_t piece = 0; piece < ends.size(); ++piece)
                 QCOMPARE(ends[piece], (piece + 1) % each == 0 ? end : "did it");
         }

@@ -26,6 +26,8 @@ struct FileState
     static std::optional<FileState> fromText(const std::string& text);
 };
 
+/// Whether two looks at a file saw the same one, changed or not.
+bool isSameFile(const struct stat& one, const struct stat& other);
 /// Whether two looks at a file saw the same one, unchanged.
 bool isSameState(const struct stat& one, const struct stat& other);
 

@@ -42,9 +42,14 @@ std::optional<FileState> FileState::fromText(const std::string& text)
     return FileState{size, file.st_mtim};
 }
 
+bool isSameFile(const struct stat& one, const struct stat& other)
+{
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
 bool isSameState(const struct stat& one, const struct stat& other)
 {
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_size == other.st_size &&
+    return isSameFile(one, other) && one.st_size == other.st_size &&
            one.st_mtim.tv_sec == other.st_mtim.tv_sec && one.st_mtim.tv_nsec == other.st_mtim.tv_nsec;
 }
 
