@@ -134,7 +134,7 @@ private slots:
         const auto [planned, failure, expected] = Rows<Problems, int, std::vector<off_t>>::current();
         problems = planned;
         const InPlaceAppend::Outcome outcome = append();
-        QCOMPARE(outcome.problem, failure == 0 ? std::string() : systemError(failure));
+        QCOMPARE(outcome.problem.text, failure == 0 ? std::string() : systemError(failure));
         QCOMPARE(outcome.aftermath + outcome.note, std::string());
         QCOMPARE(WorkFolder::contentOf(name), failure == 0 ? old + update : old);
         QCOMPARE(cuts, expected);
@@ -191,7 +191,7 @@ private slots:
         };
         problems = {{"flush", {problem}}};
         const InPlaceAppend::Outcome outcome = append();
-        QVERIFY((outcome.problem + outcome.aftermath).find("changed by another program") !=
+        QVERIFY((outcome.problem.text + outcome.aftermath).find("changed by another program") !=
                 std::string::npos);
         QCOMPARE(WorkFolder::contentOf(name), left);
         QCOMPARE(cuts.size(), 0u);
@@ -200,7 +200,7 @@ private slots:
     void refusesWhatIsNotAsItWasRead()
     {
         std::ofstream(name, std::ios::app) << "more";
-        QVERIFY(append().problem.find("changed by another program") != std::string::npos);
+        QVERIFY(append().problem.text.find("changed by another program") != std::string::npos);
         QCOMPARE(WorkFolder::contentOf(name), old + "more");
     }
 
@@ -213,7 +213,7 @@ private slots:
         const auto settled = [&](const std::string& behind) {
             std::ofstream(name, std::ios::app) << behind;
             const std::optional<Placement> placement = Placement::fromRecord(noted.toRecord());
-            return placement.value().settle(name, "it crashed", true);
+            return placement.value().settle(name, {host::ReasonCode::Crashed, "it crashed"}, true);
         };
         for (std::size_t size = 0; size < update.size(); ++size) {
             QVERIFY(!settled(update.substr(0, size)));
