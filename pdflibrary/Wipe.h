@@ -6,25 +6,25 @@
 /// Passwords do not stay in memory when they are no longer needed. The header stands alone, for hosts to use.
 namespace engine {
 
-/// Overwrites what a text has room for, and empties it.
+/// A text that is overwritten at the end of its life. It must not have to grow: what it was would stay behind.
 template <class Character>
-void wipe(std::basic_string<Character>& text)
+class Wiped
 {
-    text.resize(text.capacity());
-    explicit_bzero(text.data(), text.size() * sizeof(Character));
-    text.clear();
-}
+public:
+    std::basic_string<Character> text;
 
-/// A text that is wiped at the end of its life.
-template <class Text>
-struct Wiped
-{
-    Text text;
-
-    explicit Wiped(Text wiped) : text(std::move(wiped)) {}
-    ~Wiped() { wipe(text); }
+    Wiped() = default;
+    /// The argument is overwritten as well.
+    explicit Wiped(std::basic_string<Character> secret) : text(secret) { overwrite(secret); }
+    ~Wiped() { overwrite(text); }
     Wiped(const Wiped&) = delete;
     Wiped& operator=(const Wiped&) = delete;
+
+private:
+    static void overwrite(std::basic_string<Character>& characters)
+    {
+        explicit_bzero(characters.data(), characters.size() * sizeof(Character));
+    }
 };
 
 } // namespace engine

@@ -63,7 +63,7 @@ bool ChangeOptions::changesView() const
     return !m_named.isEmpty() || m_viewFile || m_model || m_titleFromFileName || m_titleIfMissing;
 }
 
-void ChangeOptions::read(const std::string& password, Cell& cell)
+void ChangeOptions::read(std::string_view password, Cell& cell)
 {
     if (changesView())
         readChange(password, cell);
@@ -71,7 +71,7 @@ void ChangeOptions::read(const std::string& password, Cell& cell)
         readSettings();
 }
 
-void ChangeOptions::readChange(const std::string& password, Cell& cell)
+void ChangeOptions::readChange(std::string_view password, Cell& cell)
 {
     if (m_model)
         m_change.add(ModelDocument::read(*m_model, password, cell, asChange).view);

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace host {
@@ -23,7 +24,7 @@ public:
     /// Reads the source. Throws UsageError.
     /// \param password opens the document that others are to open like.
     /// \param cell locks in who reads that one.
-    void read(const std::string& password, Cell& cell);
+    void read(std::string_view password, Cell& cell);
 
     /// What has been read: the entries, unless there is a change.
     const std::vector<ActionEntry>& entries() const { return m_entries; }
@@ -40,7 +41,7 @@ private:
     void takeViewOptions(OptionParser& parser);
     bool changesView() const;
     /// What the view options ask for, in the order in which they count.
-    void readChange(const std::string& password, Cell& cell);
+    void readChange(std::string_view password, Cell& cell);
     void readSettings();
 
     std::vector<std::string> m_lists;

@@ -6,24 +6,16 @@
 
 namespace host {
 
-namespace {
-
-const std::size_t largestPasswordFile = 64 << 10;
-
-} // namespace
-
 void DocumentOptions::take(OptionParser& parser)
 {
-    parser.takeValue("password", setOnce(m_givenPassword, "--password"));
-    parser.takeValue("password-file", setOnce(m_passwordFile, "--password-file"));
+    m_password.take(parser);
     m_list.take(parser);
 }
 
 void DocumentOptions::check(const std::vector<std::string>& words) const
 {
-    if (m_givenPassword && m_passwordFile)
-        throw UsageError("--password and --password-file exclude each other");
-    if (m_passwordFile == "-" && m_list.isStandardInput())
+    m_password.check();
+    if (m_password.file() == "-" && m_list.isStandardInput())
         throw UsageError("--password-file and --files-from cannot both read standard input");
     m_list.check();
     if (words.empty() && !m_list.isGiven())
@@ -33,7 +25,9 @@ void DocumentOptions::check(const std::vector<std::string>& words) const
 void DocumentOptions::read(const std::vector<std::string>& words)
 {
     m_inputs = words;
-    readPassword();
+    m_password.read();
+    if (m_password.file())
+        m_filesRead.push_back(*m_password.file());
     if (!m_list.isGiven())
         return;
     const std::vector<std::string> names = m_list.read();
@@ -51,16 +45,6 @@ RunPlan DocumentOptions::planForReading(RunPlan::Found found) const
     if (plan.documents().empty() && plan.emptyFolders().empty())
         note("the list of documents is empty");
     return plan;
-}
-
-void DocumentOptions::readPassword()
-{
-    m_password = m_givenPassword.value_or("");
-    if (!m_passwordFile)
-        return;
-    m_filesRead.push_back(*m_passwordFile);
-    const std::string lines = readNamedFile(*m_passwordFile, largestPasswordFile, "the password file");
-    m_password = lines.substr(0, lines.find_first_of("\r\n"));
 }
 
 } // namespace host

@@ -72,6 +72,12 @@ void OptionParser::takeFlag(const std::string& name, bool& flag)
     take(name, true, [&flag](const std::string&) { flag = true; });
 }
 
+void OptionParser::takeSecret(const std::string& name, TakeSecret take)
+{
+    takeValue(name, {});
+    m_secretTakers[name] = std::move(take);
+}
+
 void OptionParser::take(const std::string& name, bool isFlag, Take take)
 {
     const bool known = std::any_of(m_options.begin(), m_options.end(), [&](const Option& each) {
@@ -98,7 +104,10 @@ std::vector<std::string> OptionParser::parse(int argc, char** argv)
                              " needs a value");
         if (option == nullptr)
             refuse(argv, argc);
-        m_takers.at(option->name)(optarg != nullptr ? optarg : "");
+        if (const auto secret = m_secretTakers.find(option->name); secret != m_secretTakers.end())
+            secret->second(optarg);
+        else
+            m_takers.at(option->name)(optarg != nullptr ? optarg : "");
     }
     return std::vector<std::string>(argv + optind, argv + argc);
 }

@@ -80,7 +80,7 @@ void ConfigureCommand::takeOptions(OptionParser& parser)
     });
     parser.takeFlag("all", m_all);
     takeSandbox(parser, m_sandbox);
-    parser.takeValue("password", [this](const std::string& value) { m_password = value; });
+    m_password.take(parser);
 }
 
 void ConfigureCommand::check() const
@@ -91,6 +91,7 @@ void ConfigureCommand::check() const
         throw UsageError("settings come from one file: --list, --favorite or --tool-settings");
     if (m_entry != 0 && m_lists.empty())
         throw UsageError("--entry goes with --list");
+    m_password.check();
 }
 
 void ConfigureCommand::readSettings()
@@ -131,11 +132,13 @@ void ConfigureCommand::readDocument()
     if (m_documents.empty())
         return;
     const std::string& file = m_documents.front();
+    m_password.read();
     Cell cell(m_sandbox);
     noteMissing(cell, m_sandbox);
-    const ModelDocument model = ModelDocument::read(file, m_password, cell, [](const PresentView& present) {
-        return ModelDocument{present.entries(), present.openAction()};
-    });
+    const ModelDocument model =
+        ModelDocument::read(file, m_password.password(), cell, [](const PresentView& present) {
+            return ModelDocument{present.entries(), present.openAction()};
+        });
     if (!m_source.file.empty())
         return;
     m_document.emplace(model.view, model.openAction);

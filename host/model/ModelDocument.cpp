@@ -64,7 +64,7 @@ ModelDocument fromAnswer(const std::string& file, const WorkOutcome& outcome)
 
 } // namespace
 
-ModelDocument ModelDocument::read(const std::string& file, const std::string& password, Cell& cell,
+ModelDocument ModelDocument::read(const std::string& file, std::string_view password, Cell& cell,
                                   const Ask& ask)
 {
     // Kept open, so that the worker finds the library in memory.

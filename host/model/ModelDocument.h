@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace host {
 
@@ -25,8 +26,7 @@ struct ModelDocument
     /// Throws UsageError with the document's name when it cannot be read, std::runtime_error when the library
     /// cannot be used, StoppedEarly when a stop signal comes.
     /// \param cell is changed: it allows the document from now on.
-    static ModelDocument read(const std::string& file, const std::string& password, Cell& cell,
-                              const Ask& ask);
+    static ModelDocument read(const std::string& file, std::string_view password, Cell& cell, const Ask& ask);
 
     std::string toRecord() const;
     /// Nothing for what toRecord() cannot have written.

@@ -1,17 +1,17 @@
 #include "ModelReader.h"
 
+#include "host/document/DocumentLoading.h"
 #include "host/document/PresentView.h"
 #include "host/program/InstallLayout.h"
 #include "host/workers/Record.h"
 
 #include "pdflibrary/ErrorCodes.h"
-#include "pdflibrary/FileNameCodec.h"
 
 #include <stdexcept>
 
 namespace host {
 
-ModelReader::ModelReader(const std::string& file, const std::string& password, const ModelDocument::Ask& ask)
+ModelReader::ModelReader(const std::string& file, std::string_view password, const ModelDocument::Ask& ask)
     : m_file(file), m_password(password), m_ask(ask),
       m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
 {
@@ -30,7 +30,7 @@ Worker::Answer ModelReader::answer(std::size_t, WorkerSlot&)
 
 ModelDocument ModelReader::ask()
 {
-    if (m_library.LoadFromFile(engine::wideFromFileName(m_file), engine::wideFromFileName(m_password)) == 0)
+    if (!loadDocument(m_library, m_file, m_password))
         throw std::runtime_error(std::string(engine::errorText(m_library.LastErrorCode())));
     return m_ask(PresentView(m_library));
 }

@@ -6,6 +6,7 @@
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 
 #include <string>
+#include <string_view>
 
 namespace host {
 
@@ -14,7 +15,7 @@ class ModelReader : public Worker
 {
 public:
     /// All must outlive the object. Throws std::runtime_error when the library cannot be used.
-    ModelReader(const std::string& file, const std::string& password, const ModelDocument::Ask& ask);
+    ModelReader(const std::string& file, std::string_view password, const ModelDocument::Ask& ask);
 
     /// "" and the model's record, or the reason why there is none.
     Answer answer(std::size_t piece, WorkerSlot& slot) override;
@@ -23,7 +24,7 @@ private:
     ModelDocument ask();
 
     const std::string& m_file;
-    const std::string& m_password;
+    std::string_view m_password;
     const ModelDocument::Ask& m_ask;
     TelvarPDFLibraryCPDylibCPP1311 m_library;
 };

@@ -1,6 +1,7 @@
 #include "DocumentReader.h"
 
 #include "host/cell/Reach.h"
+#include "host/document/DocumentLoading.h"
 #include "host/program/InstallLayout.h"
 #include "host/workers/Record.h"
 
@@ -38,9 +39,9 @@ std::optional<Reading> Reading::fromRecord(const std::string& record)
                    {static_cast<ReasonCode>(code), std::move(reason)}};
 }
 
-DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, std::string password,
+DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, std::string_view password,
                                const MakeTeller& makeTeller)
-    : m_documents(documents), m_password(std::move(password)),
+    : m_documents(documents), m_password(password),
       m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
 {
     if (!m_library.LibraryLoaded())
@@ -53,14 +54,12 @@ Worker::Answer DocumentReader::answer(std::size_t piece, WorkerSlot&)
     const RunPlan::Document& document = m_documents[piece];
     if (document.problem)
         return {Reading::failed(document.problem).toRecord()};
-    if (m_library.LoadFromFile(engine::wideFromFileName(document.name),
-                               engine::wideFromFileName(m_password)) == 0) {
+    if (!loadDocument(m_library, document.name, m_password)) {
         const int code = m_library.LastErrorCode();
         return {Reading::failed(Failure::ofLibrary(code)).toRecord(),
                 code == static_cast<int>(engine::ErrorCode::OutOfMemory), isOutOfReach(document.name)};
     }
     const int id = m_library.SelectedDocument();
-    m_library.SelectDocument(id);
     Reading reading;
     try {
         reading = m_teller->tell(document.name);

@@ -47,16 +47,16 @@ using MakeTeller = std::function<std::unique_ptr<DocumentTeller>(TelvarPDFLibrar
 class DocumentReader : public Worker
 {
 public:
-    /// All but the password must outlive the object. Throws std::runtime_error when the library cannot be
+    /// All must outlive the object. Throws std::runtime_error when the library cannot be
     /// used.
-    DocumentReader(const std::vector<RunPlan::Document>& documents, std::string password,
+    DocumentReader(const std::vector<RunPlan::Document>& documents, std::string_view password,
                    const MakeTeller& makeTeller);
 
     Answer answer(std::size_t piece, WorkerSlot& slot) override;
 
 private:
     const std::vector<RunPlan::Document>& m_documents;
-    std::string m_password;
+    std::string_view m_password;
     TelvarPDFLibraryCPDylibCPP1311 m_library;
     std::unique_ptr<DocumentTeller> m_teller;
 };

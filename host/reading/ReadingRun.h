@@ -26,7 +26,7 @@ public:
 
     struct Options
     {
-        std::string password;
+        std::string_view password;
         WorkerPool::Limits limits;
         RunControl& control;
         /// Is told what there would be to print; null for none. The tellers' texts are JSON lines then.

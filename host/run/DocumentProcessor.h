@@ -34,7 +34,8 @@ struct ProcessingOptions
     std::vector<ActionEntry> entries;
     /// Applied in the place of entries, unless it is empty.
     ViewChange change;
-    std::string password;
+    /// Somebody else's, who keeps it during the run.
+    std::string_view password;
     SignedDocuments signedDocuments = SignedDocuments::Refuse;
     /// A document to which nothing can be appended may be written anew.
     bool rewrite = false;
