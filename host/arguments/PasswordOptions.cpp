@@ -5,6 +5,7 @@
 #include "host/terminal/UsageError.h"
 
 #include <fcntl.h>
+#include <sys/prctl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -16,7 +17,13 @@ namespace {
 
 const std::size_t largestFile = 64 << 10;
 
-/// In pieces and without a buffer of somebody else's, where it would stay.
+/// This process and its workers, from now on.
+void leaveNoCore()
+{
+    prctl(PR_SET_DUMPABLE, 0);
+}
+
+/// Without a buffer of somebody else's, where it would stay.
 bool readAllInto(std::string& bytes, int file)
 {
     bytes.resize(largestFile + 1);
@@ -46,6 +53,7 @@ void PasswordOptions::takeFrom(char* argument)
     if (m_isGiven)
         throw UsageError("--password is given twice");
     m_isGiven = true;
+    leaveNoCore();
     m_password.text.assign(argument);
     explicit_bzero(argument, m_password.text.size()); // the system's list of processes shows it
 }
@@ -60,6 +68,7 @@ void PasswordOptions::read()
 {
     if (!m_file)
         return;
+    leaveNoCore();
     const FileDescriptor file(*m_file == "-" ? dup(STDIN_FILENO)
                                              : ::open(m_file->c_str(), O_RDONLY | O_CLOEXEC));
     engine::Wiped<char> bytes;

@@ -8,10 +8,13 @@
 #include <QProcess>
 
 #include <optional>
+#include <sstream>
+#include <vector>
 
 #include <fcntl.h>
 #include <seccomp.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
@@ -190,7 +193,61 @@ private slots:
         QCOMPARE(status, 0);
     }
 
+    void showsNobodyAPassword_data()
+    {
+        const Rows<QString> row;
+        row("locked in", "require");
+        row("free", "off");
+    }
+
+    void showsNobodyAPassword()
+    {
+        const auto [sandbox] = Rows<QString>::current();
+        m_folder->put("1-slow.pdf", PdfBuilder::simple());
+        m_folder->put("2-hang.pdf", PdfBuilder::simple());
+        const QStringList words{"run",       "--page-mode", "bookmarks",  "--in-place", "--report",
+                                "report",    "--jobs",      "1",          "--password", "n0b0dys",
+                                "--sandbox", sandbox,       "1-slow.pdf", "2-hang.pdf"};
+        const pid_t program = started(words);
+        QTRY_VERIFY(WorkFolder::contentOf("report").find("1-slow.pdf") != std::string::npos);
+        std::istringstream workers(WorkFolder::contentOf("/proc/" + std::to_string(program) + "/task/" +
+                                                         std::to_string(program) + "/children"));
+        int count = 0;
+        for (pid_t process = program; process != 0; ++count) {
+            const std::string line = WorkFolder::contentOf("/proc/" + std::to_string(process) + "/cmdline");
+            QVERIFY(line.find("--password") != std::string::npos &&
+                    line.find("n0b0dys") == std::string::npos);
+            process = 0;
+            workers >> process;
+        }
+        QCOMPARE(count, 2);
+        ::kill(program, SIGSEGV);
+        int status = 0;
+        QCOMPARE(waitpid(program, &status, 0), program);
+        QVERIFY(WIFSIGNALED(status) && !WCOREDUMP(status));
+        QVERIFY(WorkFolder::contentOf("report").find("n0b0dys") == std::string::npos);
+    }
+
 private:
+    /// As from a shell that lets programs leave cores.
+    pid_t started(const QStringList& words) const
+    {
+        std::vector<QByteArray> arguments{m_program.toUtf8()};
+        for (const QString& word : words)
+            arguments.push_back(word.toUtf8());
+        std::vector<char*> pointers;
+        for (QByteArray& each : arguments)
+            pointers.push_back(each.data());
+        pointers.push_back(nullptr);
+        const pid_t child = fork();
+        if (child != 0)
+            return child;
+        const rlimit unlimited{RLIM_INFINITY, RLIM_INFINITY};
+        setrlimit(RLIMIT_CORE, &unlimited);
+        execv(pointers[0], pointers.data());
+        _exit(127);
+    }
+
     static int listenAt(const std::string& name)
     {
         fs::remove(name);
