@@ -4,12 +4,19 @@
 #include <string_view>
 
 /// What LastErrorCode says of an instance's last call, and the library's other numbers that hosts act on. The
-/// header stands alone, so that a host can show the texts without linking the library.
+/// header stands alone, so that a host can show the texts without linking the library. Nothing here keeps
+/// anything: any thread.
+///
+///     if (library.LoadFromFile(name, L"") == 0)
+///         std::cerr << engine::errorText(library.LastErrorCode());
 namespace engine {
 
-/// The numbers are part of the library's interface: never reuse or renumber one.
+/// Why a call gave 0 or an empty string; `errorTexts` says of each what it means. The numbers are part of the
+/// library's interface: never reuse or renumber one. docs/engine.md tells which operation gives which.
 enum class ErrorCode : int {
+    /// The call succeeded, or 0 and empty are what it had to tell.
     None = 0,
+    // Of the call itself; the document is as it was.
     NotAvailable = 1,
     NoDocument = 2,
     UnknownDocument = 3,
@@ -21,6 +28,7 @@ enum class ErrorCode : int {
     OutOfMemory = 9,
     Internal = 10,
     NotInPlace = 11,
+    // Of the file that is read or written; what was at a target's path is there still.
     FileNotFound = 20,
     AccessDenied = 21,
     NotARegularFile = 22,
@@ -32,6 +40,7 @@ enum class ErrorCode : int {
     FileTooLarge = 28,
     DeviceFailed = 29,
     ReadOnlyFileSystem = 30,
+    // Of the document as it was found.
     NotAPdf = 40,
     Damaged = 41,
     NoPages = 42,
@@ -40,6 +49,7 @@ enum class ErrorCode : int {
     TooComplex = 45,
     TooMuchWork = 46,
     MetadataUnreadable = 47,
+    // Why it is not written; up to ObjectsUncertain it is in doubt what it holds.
     NewestRevisionUncertain = 60,
     ObjectStreamsUnread = 61,
     EncryptionUncertain = 62,
@@ -50,12 +60,14 @@ enum class ErrorCode : int {
     StreamLengthsWrong = 67,
 };
 
+/// A code and its words.
 struct ErrorText
 {
     ErrorCode code;
     std::string_view text;
 };
 
+/// A text for every code: in English, without a full stop, to stand behind a document's name and a colon.
 // clang-format off
 inline constexpr std::array errorTexts{
     ErrorText{ErrorCode::None,                  "no error"},
@@ -113,7 +125,8 @@ constexpr bool cannotAppend(ErrorCode code)
     return code == ErrorCode::CannotAppend || code == ErrorCode::StreamLengthsWrong || isDoubt(code);
 }
 
-/// The text of a code as LastErrorCode returns it; that of Internal for a number that is none.
+/// The text of a code as LastErrorCode returns it; that of Internal for a number that is none. It lives as
+/// long as the program.
 constexpr std::string_view errorText(int code)
 {
     for (const ErrorText& entry : errorTexts)

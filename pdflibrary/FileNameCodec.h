@@ -6,9 +6,12 @@
 /// File names as they cross the library boundary. A file name is any bytes; a wide string holds characters.
 /// What is valid UTF-8 crosses as its characters, and each other byte 0x80 to 0xFF as U+DC80 to U+DCFF, lone
 /// surrogates that no text contains: every name survives the way there and back. The header stands alone, for
-/// hosts to use.
+/// hosts to use. Any thread; std::bad_alloc is all that is thrown.
+///
+///     library.LoadFromFile(engine::wideFromFileName(path), L"");
 namespace engine {
 
+/// What the two functions below are made of.
 namespace filename_detail {
 
 constexpr char32_t escapeOfByte0 = 0xdc00;
@@ -40,6 +43,7 @@ inline std::size_t sequenceLength(std::string_view bytes)
     return overlong || surrogate || beyondUnicode ? 0 : length;
 }
 
+/// The character that a valid sequence stands for.
 inline wchar_t character(std::string_view sequence)
 {
     const auto lead = static_cast<unsigned char>(sequence[0]);
@@ -49,6 +53,7 @@ inline wchar_t character(std::string_view sequence)
     return static_cast<wchar_t>(code);
 }
 
+/// \param code up to U+10FFFF.
 inline void appendUtf8(std::string& bytes, char32_t code)
 {
     if (code < 0x80) {
@@ -64,6 +69,8 @@ inline void appendUtf8(std::string& bytes, char32_t code)
 } // namespace filename_detail
 
 /// The wide string that stands for a file name's bytes.
+/// \param bytes any, without a NUL for the name of a file; a path with its slashes is fine.
+/// \returns one wide character for each character, and for each byte that is part of none.
 inline std::wstring wideFromFileName(std::string_view bytes)
 {
     using namespace filename_detail;
@@ -80,8 +87,9 @@ inline std::wstring wideFromFileName(std::string_view bytes)
     return wide;
 }
 
-/// The bytes that a wide string stands for. Every string that `wideFromFileName` makes comes back whole; of
-/// other strings, what is no character (a lone surrogate, a number beyond Unicode) becomes U+FFFD.
+/// The bytes that a wide string stands for, also of names that the library gives. Every string that
+/// `wideFromFileName` makes comes back whole; of other strings, what is no character (a lone surrogate, a
+/// number beyond Unicode) becomes U+FFFD.
 inline std::string fileNameFromWide(std::wstring_view wide)
 {
     using namespace filename_detail;

@@ -2,11 +2,12 @@
 
 #include <array>
 
-/// The numbers that the document view operations exchange, and the names that PDF has for them (ISO 32000-1,
-/// 7.7.2, 12.2 and 12.3.2). They are part of the library's interface: never reuse or renumber one.
+/// The numbers that the document operations exchange, and the names that PDF has for them (ISO 32000-1,
+/// 7.7.2, 12.2, 12.3.2 and 14.3.3). They are part of the library's interface: never reuse or renumber one.
 ///
 /// A table of names has each one at the library's number for it; an empty name stands at a number that PDF
-/// has no name for.
+/// has no name for. An operation that gets any other number returns 0 or an empty string, and LastErrorCode
+/// then BadArgument. The header stands alone, for the library file, actions and hosts.
 namespace pdflibrary {
 
 /// Page mode of GetPageMode, SetPageMode and viewer preference 7 (which takes neither FullScreen nor
@@ -14,25 +15,26 @@ namespace pdflibrary {
 enum PageMode {
     PageOnly = 0,
     BookmarksPanel = 1,
-    PagesPanel = 2,
+    PagesPanel = 2, ///< Thumbnails.
     FullScreen = 3,
-    LayersPanel = 4,
+    LayersPanel = 4, ///< Optional content.
     AttachmentsPanel = 5,
-    NoPageMode = 6,
+    NoPageMode = 6, ///< Set, never read.
 };
 
 /// Values of /PageMode.
 inline constexpr std::array pageModeNames{"/UseNone",    "/UseOutlines", "/UseThumbs",
                                           "/FullScreen", "/UseOC",       "/UseAttachments"};
 
-/// Page layout of GetPageLayout and SetPageLayout; 6 stands for a document without the entry.
+/// Page layout of GetPageLayout and SetPageLayout; NoPageLayout stands for a document without the entry, and
+/// removes it.
 enum PageLayout {
-    SinglePage = 0,
-    OneColumn = 1,
-    TwoColumnLeft = 2,
-    TwoColumnRight = 3,
-    TwoPageLeft = 4,
-    TwoPageRight = 5,
+    SinglePage = 0,     ///< One page at a time.
+    OneColumn = 1,      ///< Pages below one another.
+    TwoColumnLeft = 2,  ///< Two columns of pages, odd-numbered ones on the left.
+    TwoColumnRight = 3, ///< The same with these on the right.
+    TwoPageLeft = 4,    ///< Two pages at a time, the odd-numbered one on the left.
+    TwoPageRight = 5,   ///< The same with that on the right.
     NoPageLayout = 6,
 };
 
@@ -44,10 +46,12 @@ inline constexpr std::array pageLayoutNames{"/SinglePage",     "/OneColumn",   "
 /// none).
 enum DestinationType { Zoomed = 1, FitPage = 2, FitWidth = 3, FitHeight = 4, FitVisible = 5 };
 
-/// Types of explicit destinations.
+/// Types of explicit destinations, as they are written. Documents may hold others, which read as the nearest
+/// of these.
 inline constexpr std::array destinationNames{"", "/XYZ", "/Fit", "/FitH", "/FitV", "/FitBH"};
 
-/// Value of GetDestValue: coordinates in points of default user space, the zoom in percent.
+/// Value of GetDestValue: coordinates in points of default user space, the zoom in percent. SetDestValue
+/// takes DestinationZoom alone.
 enum DestinationValue {
     DestinationLeft = 1,
     DestinationTop = 2,
@@ -55,6 +59,9 @@ enum DestinationValue {
     DestinationBottom = 4,
     DestinationZoom = 5,
 };
+
+/// Action of GetActionType: what the document opens with. There is no other.
+inline constexpr int OpenAction = 0;
 
 /// Option of GetViewerPreferences and SetViewerPreferences; ViewerPreferences.h tells what each takes.
 enum ViewerPreference {
@@ -72,14 +79,14 @@ enum ViewerPreference {
     NumCopies = 12,
 };
 
-/// Added to an option of GetViewerPreferences: an entry that the document does not have, or that is of a wrong
-/// type, reads as NoPreference whatever the option.
+/// Added to an option of GetViewerPreferences: an entry that the document does not have, or that is of a
+/// wrong type, reads as NoPreference whatever the option.
 inline constexpr int AsWritten = 100;
 
 /// What SetViewerPreferences takes to remove an entry.
 inline constexpr int NoPreference = -1;
 
-/// Box of GetPageBox.
+/// Box of GetPageBox. One that a page does not have reads as the one that PDF lets it default to.
 enum PageBox { MediaBox = 1, CropBox = 2, BleedBox = 3, TrimBox = 4, ArtBox = 5 };
 
 /// Keys of a page.
@@ -87,5 +94,30 @@ inline constexpr std::array pageBoxNames{"", "/MediaBox", "/CropBox", "/BleedBox
 
 /// Dimension of GetPageBox, in points of default user space.
 enum BoxDimension { BoxLeft = 0, BoxTop = 1, BoxWidth = 2, BoxHeight = 3, BoxRight = 4, BoxBottom = 5 };
+
+/// Key of GetInformation and SetInformation. The version is the header's or the catalog's, and is only read;
+/// dates are texts as they stand in the document.
+enum InformationKey {
+    InformationVersion = 0,
+    InformationTitle = 1,
+    InformationAuthor = 2,
+    InformationSubject = 3,
+    InformationKeywords = 4,
+    InformationCreator = 5,
+    InformationProducer = 6,
+    InformationCreationDate = 7,
+    InformationModificationDate = 8,
+};
+
+/// Keys of the document information dictionary.
+inline constexpr std::array informationNames{
+    "", "/Title", "/Author", "/Subject", "/Keywords", "/Creator", "/Producer", "/CreationDate", "/ModDate"};
+
+/// What GetInstalledFontsByCharset can be asked for: of fonts for every character set, the names of families.
+inline constexpr int AllCharacterSets = 2;
+inline constexpr int FontFamilyNames = 1;
+
+/// Flags of GetOutlineStyle; with OpenOutline, what is below a bookmark is shown at first.
+enum OutlineStyle { ItalicOutline = 1, BoldOutline = 2, OpenOutline = 4 };
 
 } // namespace pdflibrary

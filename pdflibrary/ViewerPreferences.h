@@ -8,8 +8,12 @@
 #include <optional>
 #include <span>
 
-/// The viewer preferences, each under all of its names. Library file, action, dialog and program read this
-/// one table, so a further preference is a further row.
+/// The viewer preferences (ISO 32000-1, 12.2), each under all of its names. Library file, action, dialog and
+/// program read this one table, so a further preference is a further row. Everything is known when it is
+/// compiled, and the header stands alone; any thread.
+///
+///     for (const PreferenceRow& row : viewerPreferences)
+///         std::cout << row.label << ": " << library.GetViewerPreferences(row.option) << "\n";
 namespace pdflibrary {
 
 /// One entry of a document's /ViewerPreferences. It is a yes or no unless it has names or is a number.
@@ -24,7 +28,7 @@ struct PreferenceRow
     std::span<const char* const> names;
     /// The key in an action's settings; null for one that has no setting of its own.
     const char* key;
-    /// What the dialog and the program call it.
+    /// What the dialog and the program call it, in English.
     const char* label;
     /// What they call its values, by number; empty for yes and no.
     std::span<const char* const> valueLabels;
@@ -33,7 +37,7 @@ struct PreferenceRow
     /// Whether it is a number, from 1.
     bool isNumber = false;
 
-    /// The largest number that it takes.
+    /// The largest number that it takes, the smallest being 0, or 1 for a number.
     constexpr int highest() const
     {
         return isNumber ? INT_MAX : names.empty() ? 1 : static_cast<int>(names.size()) - 1;
@@ -46,13 +50,14 @@ struct PreferenceRow
     }
 };
 
+/// What dialog and program call the values of /DisplayDocTitle, by number.
 inline constexpr std::array titleLabels{"File Name", "Document Title"};
 
-/// Values of /NonFullScreenPageMode: the page modes but FullScreen.
+/// Values of /NonFullScreenPageMode, by number: the page modes but FullScreen.
 inline constexpr std::array nonFullScreenModeNames{"/UseNone", "/UseOutlines", "/UseThumbs",
                                                    "",         "/UseOC",       "/UseAttachments"};
 
-/// Values of /Direction, /PrintScaling and /Duplex.
+/// Values of /Direction, /PrintScaling and /Duplex, by number.
 inline constexpr std::array directionNames{"/L2R", "/R2L"};
 inline constexpr std::array printScalingNames{"/None", "/AppDefault"};
 inline constexpr std::array duplexNames{"/Simplex", "/DuplexFlipShortEdge", "/DuplexFlipLongEdge"};
@@ -63,6 +68,8 @@ inline constexpr std::array pageModeLabels{
     "Full screen", "Conten Group Panel and Page", "Attachments Panel and Page",
 };
 
+/// Those that the dialog shows, each by itself or with the page mode, in the order of their options. The
+/// first five are set before full screen, the title bar after it.
 // clang-format off
 inline constexpr std::array viewerPreferences{
     PreferenceRow{HideToolBars,       "/HideToolbar",           {}, "HideToobarsCheckBox",        "Hide tool bars",                {}},
@@ -74,7 +81,7 @@ inline constexpr std::array viewerPreferences{
     PreferenceRow{NonFullScreenMode,  "/NonFullScreenPageMode", nonFullScreenModeNames, nullptr,  "After full screen",             pageModeLabels},
 };
 
-/// Those that have no row in the dialog.
+/// Those that have no row in the dialog. A missing one reads as NoPreference, for no value means the same.
 inline constexpr std::array furtherPreferences{
     PreferenceRow{Direction,         "/Direction",         directionNames,    nullptr, "Reading direction",      {}, NoPreference},
     PreferenceRow{PrintScaling,      "/PrintScaling",      printScalingNames, nullptr, "Print scaling",          {}, NoPreference},
@@ -95,7 +102,8 @@ constexpr std::optional<PreferenceRow> findPreference(int option)
     return {};
 }
 
-/// The row of an option, which must have one.
+/// The row of an option.
+/// \throws std::bad_optional_access for an option without one; where it is a constant, it does not compile.
 constexpr PreferenceRow preference(ViewerPreference option)
 {
     return findPreference(option).value();

@@ -3,6 +3,12 @@
 #include "engine/files/EngineError.h"
 #include "pdflibrary/ErrorCodes.h"
 
+/// Checks of what a caller of the library hands to an operation. They come before anything is changed, so
+/// that a refused call leaves the document as it was; the guard around the operations turns what they throw
+/// into the code of LastErrorCode. No function here keeps anything: any thread.
+///
+///     requireWithin(layout, SinglePage, lastOf(pageLayoutNames));
+///     const char* const name = rowOf(pageLayoutNames, layout);
 namespace engine {
 
 /// Throws EngineError with `code` unless the condition holds.
@@ -18,14 +24,17 @@ inline void requireWithin(int value, int first, int last)
     require(value >= first && value <= last, ErrorCode::BadArgument);
 }
 
-/// The number of a table's last row.
+/// The number of a table's last row: the highest that requireWithin() may let pass for rowOf().
+/// \param table has a row at least.
 template <class Table>
 constexpr int lastOf(const Table& table)
 {
     return static_cast<int>(table.size()) - 1;
 }
 
-/// The row of a table for a number that was found to be within it.
+/// The row of a table at a number.
+/// \param number 0 to lastOf(table), as requireWithin() has found; it is not checked once more.
+/// \returns a reference into the table.
 template <class Table>
 constexpr const auto& rowOf(const Table& table, int number)
 {

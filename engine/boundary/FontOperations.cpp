@@ -1,6 +1,7 @@
+#include "Arguments.h"
 #include "Operations.h"
 #include "Text.h"
-#include "engine/files/EngineError.h"
+#include "pdflibrary/ViewNumbers.h"
 
 #include <dlfcn.h>
 #include <fontconfig/fontconfig.h>
@@ -12,17 +13,14 @@ namespace engine::operations {
 
 namespace {
 
-const int allCharsets = 2;
-const int familyNames = 1;
-
 template <auto destroy>
 struct Destroy
 {
     void operator()(auto* object) const { destroy(object); }
 };
 
-/// Fontconfig keeps things in static variables for good. Unloaded along with this library, it would lose
-/// them, each time again.
+/// Fontconfig never frees its static variables. Unloaded along with this library and loaded again, it would
+/// leak them each time.
 void keepFontconfigLoaded()
 {
     Dl_info library;
@@ -55,8 +53,8 @@ std::set<std::string> installedFamilies()
 
 std::wstring GetInstalledFontsByCharset(Session&, int charset, int options)
 {
-    if (charset != allCharsets || options != familyNames)
-        throw EngineError(ErrorCode::BadArgument);
+    require(charset == pdflibrary::AllCharacterSets && options == pdflibrary::FontFamilyNames,
+            ErrorCode::BadArgument);
     std::wstring names;
     for (const std::string& family : installedFamilies())
         names += (names.empty() ? L"" : L"\r\n") + wideFromUtf8(family);

@@ -2,20 +2,16 @@
 #include "Operations.h"
 #include "Session.h"
 #include "Text.h"
+#include "pdflibrary/ViewNumbers.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 namespace engine::operations {
 
+using namespace pdflibrary;
+
 namespace {
-
-const int versionKey = 0;
-
-// At the library's number for it; 0 is the PDF version.
-const std::array informationKeys{"",         "/Title",    "/Author",       "/Subject", "/Keywords",
-                                 "/Creator", "/Producer", "/CreationDate", "/ModDate"};
 
 /// The higher of the versions that the header and the catalog state, "1.7".
 std::string versionOf(Document& document)
@@ -43,18 +39,18 @@ QPDFObjectHandle changedInformation(Document& document)
 std::wstring GetInformation(Session& session, int key)
 {
     Document& document = session.document().document;
-    requireWithin(key, versionKey, lastOf(informationKeys));
-    if (key == versionKey)
+    requireWithin(key, InformationVersion, lastOf(informationNames));
+    if (key == InformationVersion)
         return wideFromUtf8(versionOf(document));
-    QPDFObjectHandle value = document.key(document.trailerKey("/Info"), rowOf(informationKeys, key));
+    QPDFObjectHandle value = document.key(document.trailerKey("/Info"), rowOf(informationNames, key));
     return value.isString() ? wideFromUtf8(value.getUTF8Value()) : std::wstring();
 }
 
 int SetInformation(Session& session, int key, std::wstring_view value)
 {
     Document& document = session.document().document;
-    requireWithin(key, versionKey + 1, lastOf(informationKeys));
-    const char* const name = rowOf(informationKeys, key);
+    requireWithin(key, InformationTitle, lastOf(informationNames));
+    const char* const name = rowOf(informationNames, key);
     const std::string text = utf8FromWide(value);
     QPDFObjectHandle present = document.key(document.trailerKey("/Info"), name);
     const bool isThere =

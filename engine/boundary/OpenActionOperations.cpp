@@ -10,7 +10,6 @@ namespace engine::operations {
 
 namespace {
 
-const int openAction = 0;
 const wchar_t* const goTo = L"GoTo";
 const wchar_t* const unknown = L"Unknown";
 
@@ -19,7 +18,7 @@ const wchar_t* const unknown = L"Unknown";
 std::wstring GetActionType(Session& session, int actionId)
 {
     Document& document = session.document().document;
-    require(actionId == openAction, ErrorCode::BadArgument);
+    require(actionId == pdflibrary::OpenAction, ErrorCode::BadArgument);
     QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
     if (action.isNull())
         return {};

@@ -6,10 +6,15 @@
 #include <string_view>
 #include <type_traits>
 
+/// Which function implements which operation of the library. Everything here is made from the rows of
+/// operations.def when it is compiled; nothing changes while the library runs, so any thread may read it.
+///
+///     OperationSlots slots;
+///     slots.SetPageLayout = operations::SetPageLayout;
 namespace engine {
 
-/// The C++ type of every operation, by name: `SetPageLayout` is `int(int)`, `GetInformation` is
-/// `std::wstring(int)`.
+/// The C++ type of every operation, by name, with owning strings where it takes or gives some:
+/// `SetPageLayout` is `int(int)`, `GetInformation` is `std::wstring(int)`.
 struct OperationTypes
 {
     using I = int;
@@ -21,8 +26,8 @@ struct OperationTypes
 #undef TPL_OP
 };
 
-/// How an argument reaches an implementation: a number as it is, a string as a view that is valid during the
-/// call.
+/// How an argument of an operation's type reaches its implementation: a number as it is, a string as a view
+/// that is valid during the call. What an implementation is to keep it copies.
 template <class Type>
 using SlotArgument =
     std::conditional_t<std::is_same_v<Type, std::wstring>, std::wstring_view,
@@ -38,9 +43,11 @@ struct SlotFor;
 template <class Result, class... Parameters>
 struct SlotFor<Result(Parameters...)>
 {
+    /// The session is the caller's instance and used by this thread alone until the call ends.
     using Pointer = Result (*)(Session&, SlotArgument<Parameters>...);
 
-    /// Stands where nothing is assigned: an empty result and the code NotAvailable.
+    /// Stands where nothing is assigned: an empty result and the code NotAvailable, whatever the arguments
+    /// and with or without a document.
     static Result unavailable(Session& session, SlotArgument<Parameters>...)
     {
         session.setLastError(ErrorCode::NotAvailable);

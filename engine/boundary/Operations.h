@@ -134,6 +134,22 @@ std::wstring GetActionType(Session& session, int actionId);
 /// \param value percent, 0 for none; four decimal places are kept.
 int SetDestValue(Session& session, int destId, int valueKey, double value);
 
+// OutlineOperations.cpp
+/// The number of bookmarks, each counted once; no more than Outline::mostCounted.
+int OutlineCount(Session& session);
+/// The id of the first bookmark at the top, 0 when there is none. Ids stay valid until their document is
+/// removed.
+int GetFirstOutline(Session& session);
+/// The first bookmark below one, and the next one beside it; 0 when there is none.
+/// \throws EngineError TooComplex where bookmarks lead in a circle.
+int GetFirstChildOutline(Session& session, int outlineId);
+int GetNextOutline(Session& session, int outlineId);
+std::wstring OutlineTitle(Session& session, int outlineId);
+/// The page that it leads to, from 1; 0 when it leads to none.
+int GetOutlinePage(Session& session, int outlineId);
+/// OutlineStyle flags.
+int GetOutlineStyle(Session& session, int outlineId);
+
 // PageOperations.cpp
 int PageCount(Session& session);
 /// \param page from 1.

@@ -1,6 +1,6 @@
+#include "Arguments.h"
 #include "Operations.h"
 #include "Session.h"
-#include "engine/files/EngineError.h"
 #include "engine/pages/PageGeometry.h"
 #include "pdflibrary/ViewNumbers.h"
 
@@ -59,8 +59,7 @@ int SelectedPage(Session& session)
 double GetPageBox(Session& session, int box, int dimension)
 {
     OpenDocument& open = session.document();
-    if (box < MediaBox || box > ArtBox)
-        throw EngineError(ErrorCode::BadArgument);
+    requireWithin(box, MediaBox, ArtBox);
     if (open.lastBox.page != open.selectedPage || open.lastBox.box != box)
         open.lastBox = {open.selectedPage, box, pageBox(open.document, selectedPage(session), box)};
     return dimensionOf(open.lastBox.rectangle, dimension);

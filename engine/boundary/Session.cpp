@@ -54,7 +54,7 @@ void Session::release(int instance)
     Registry& all = registry();
     std::unique_lock lock(all.mutex);
     const auto released = all.sessions.extract(instance);
-    // Closing documents can take a while and concerns no other session.
+    // Closing its documents can take a while: other sessions are not to wait for that.
     lock.unlock();
 }
 
@@ -124,7 +124,7 @@ int Session::destinationId(const Destination& destination)
 const Destination& Session::destination(int id)
 {
     document();
-    const auto slot = static_cast<std::size_t>(id) - 1; // far out of range for 0 and what is negative
+    const auto slot = static_cast<std::size_t>(id) - 1; // a huge number for 0 and below
     if (slot >= m_destinations.size() || !m_destinations[slot] ||
         m_destinations[slot]->documentId != m_selected)
         throw EngineError(ErrorCode::UnknownDestination);

@@ -2,9 +2,7 @@
 #include "Operations.h"
 #include "Session.h"
 #include "Text.h"
-#include "engine/files/EngineError.h"
 #include "engine/pages/PageGeometry.h"
-#include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/ViewerPreferences.h"
 
 #include <array>
@@ -86,7 +84,7 @@ QPDFObjectHandle preferenceValue(const PreferenceRow& preference, int value)
                                     : QPDFObjectHandle::newName(rowOf(preference.names, value));
 }
 
-/// Takes a name, or nothing for the number behind the last one, which removes the entry.
+/// The name at a number; null, which removes an entry, for the number behind the last one.
 QPDFObjectHandle nameOrNull(const auto& names, int number)
 {
     return number > lastOf(names) ? QPDFObjectHandle::newNull()
@@ -105,7 +103,7 @@ QPDFObjectHandle changedPreferences(Document& document)
     return dictionary;
 }
 
-/// An empty dictionary may stay behind: it says the same as none, and it is not what was asked about.
+/// A dictionary that becomes empty stays: it says the same as none, and only the entry was to go.
 void removePreference(Document& document, const PreferenceRow& preference)
 {
     QPDFObjectHandle dictionary = preferencesOf(document);

@@ -66,6 +66,17 @@ constexpr void addView(OperationSlots& slots)
     slots.GetDestName = operations::GetDestName;
 }
 
+constexpr void addOutline(OperationSlots& slots)
+{
+    slots.OutlineCount = operations::OutlineCount;
+    slots.GetFirstOutline = operations::GetFirstOutline;
+    slots.GetFirstChildOutline = operations::GetFirstChildOutline;
+    slots.GetNextOutline = operations::GetNextOutline;
+    slots.OutlineTitle = operations::OutlineTitle;
+    slots.GetOutlinePage = operations::GetOutlinePage;
+    slots.GetOutlineStyle = operations::GetOutlineStyle;
+}
+
 constexpr void addPages(OperationSlots& slots)
 {
     slots.PageCount = operations::PageCount;
@@ -84,6 +95,7 @@ constexpr OperationSlots implemented()
     addDocuments(slots);
     addInformation(slots);
     addView(slots);
+    addOutline(slots);
     addPages(slots);
     slots.GetInstalledFontsByCharset = operations::GetInstalledFontsByCharset;
     return slots;
@@ -143,7 +155,7 @@ ErrorCode codeOfCurrentException() noexcept
     } catch (const std::logic_error&) {
         return ErrorCode::Internal;
     } catch (const std::runtime_error&) {
-        // libqpdf's way to say that numbers in the document are beyond what can be
+        // libqpdf throws it for numbers in the document that are out of range
         return ErrorCode::Damaged;
     } catch (...) {
         return ErrorCode::Internal;
@@ -183,7 +195,7 @@ struct ExportedCall<Result(Parameters...)>
 {
     using Returned = typename BoundaryType<Result>::Result;
 
-    /// A direct reader may have to give up at any object.
+    /// When reading directly ends within it, once more, over the document as libqpdf reads it.
     template <class... Arguments>
     static Result run(typename SlotFor<Result(Parameters...)>::Pointer slot, Session& session,
                       Arguments... arguments)
@@ -239,9 +251,8 @@ using D = double;
 using W = char*;
 using B = char*;
 
-// int TPLSetPageLayout(int instance, int layout)
-// { return ExportedCall<OperationTypes::SetPageLayout>::call(implementations.SetPageLayout, instance,
-// layout); }
+// int TPLSetPageLayout(int instance, int layout) { return
+// ExportedCall<OperationTypes::SetPageLayout>::call(implementations.SetPageLayout, instance, layout); }
 #define TPL_OP(Result, Name, Arguments, ...)                                                                 \
     ExportedCall<OperationTypes::Name>::Returned TPL##Name(int instance TPL_ARGUMENTS(__VA_ARGS__))          \
     {                                                                                                        \

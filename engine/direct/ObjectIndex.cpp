@@ -67,7 +67,7 @@ bool ObjectIndex::streamsHaveTheirNumbers(const std::set<std::int64_t>& offsets)
     });
 }
 
-/// One bad entry, of whatever object, makes other readers distrust all of them: so each is looked at.
+/// Every entry is looked at: one bad entry, of whatever object, makes other readers search the whole file.
 std::optional<ObjectIndex::IndexSection> ObjectIndex::readSection(std::int64_t offset)
 {
     auto section = SectionReader(m_file).read(offset);

@@ -64,7 +64,7 @@ std::size_t ObjectStreamCache::Decoded::endOf(std::size_t start) const
     return end == largestDecoded ? start : end;
 }
 
-/// \param size how much of its objects is wanted at least, if it has as much.
+/// \param size how many bytes of its objects are wanted; all of them when it has fewer.
 const ObjectStreamCache::Decoded* ObjectStreamCache::decoded(int number, std::size_t size)
 {
     const auto known = m_streams.find(number);

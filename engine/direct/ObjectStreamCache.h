@@ -52,7 +52,8 @@ private:
     WorkBudget& m_budget;
     std::map<int, Decoded> m_streams;
     std::size_t m_memory = 0;
-    std::size_t m_expected = 2048; // how much of a stream will be needed: as much as of the last one
+    std::size_t m_expected =
+        2048; // bytes of a stream's objects to decode at first: as many as the last one took
 };
 
 } // namespace engine

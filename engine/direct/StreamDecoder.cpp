@@ -13,8 +13,8 @@ namespace {
 
 const std::size_t widestRow = 64; // of a predictor
 
-/// What stands before and behind the data in the format of zlib, whose checksum costs a quarter of the
-/// decoding.
+/// Bytes before and behind the data in zlib's format. Both are read here: zlib itself would compute the
+/// checksum of data that is decoded in part as well, which costs a quarter of the decoding.
 const std::size_t zlibHeader = 2;
 const std::size_t zlibChecksum = 4;
 

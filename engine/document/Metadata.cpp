@@ -91,14 +91,14 @@ std::wstring decoded(const std::string& stored)
     }
     std::wstring packet = wideFromFileName(bytes);
     const bool isText = std::none_of(packet.begin(), packet.end(), [](wchar_t character) {
-        return character >= 0xd800 && character <= 0xdfff; // which stand for bytes that are no text
+        return character >= 0xd800 && character <= 0xdfff; // stands for a byte that is no text
     });
     if (!isText || encoded(packet, encoding) != stored)
         refuse("it is no text in UTF-8 or UTF-16");
     return packet;
 }
 
-/// The filters of a stream that is to be plain: none, but for one that keeps it from being encrypted.
+/// The filter of a stream that is no longer compressed: none but /Crypt, which says how it is encrypted.
 QPDFObjectHandle filterOfPlain(QPDFObjectHandle dictionary)
 {
     const bool first =
@@ -127,7 +127,7 @@ std::string Metadata::bytes() const
     QPDFObjectHandle stream = m_stream;
     if (stream.getDict().hasKey("/F"))
         refuse("it is in another file");
-    m_document.anyWarnings(); // from now on the warnings are about the data
+    m_document.anyWarnings(); // collects those so far: what comes from now on is about the data
     PacketBytes packet;
     bool decodes = false;
     const bool succeeded = stream.pipeStreamData(&packet, &decodes, 0, qpdf_dl_all);

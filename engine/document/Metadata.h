@@ -34,7 +34,7 @@ private:
     void fill(const std::string& bytes);
 
     Document& m_document;
-    QPDFObjectHandle m_stream; ///< Anything else when the document has none.
+    QPDFObjectHandle m_stream; ///< No stream when the document has none.
 };
 
 } // namespace engine

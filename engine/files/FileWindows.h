@@ -33,8 +33,8 @@ private:
         std::int64_t offset = 0;
         std::size_t size = 0;
         std::size_t capacity = 0;
-        std::unique_ptr<char[]>
-            bytes; // a string would be filled with zeros first, which costs more than reading
+        // Not a string: filling that with zeros first costs more than reading.
+        std::unique_ptr<char[]> bytes;
 
         std::string_view text() const { return {bytes.get(), size}; }
         void reserve(std::size_t count);

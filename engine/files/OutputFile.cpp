@@ -79,7 +79,7 @@ std::string unguessableName()
 
 OutputFile::OutputFile(const std::string& path) : m_target(isUnfinished(path) ? path : followed(path))
 {
-    if (isUnfinished(m_target)) { // a link of such a name is not followed, for it would be there already
+    if (isUnfinished(m_target)) { // made with O_EXCL, so a link of that name is refused
         createAt(m_target, 0600);
         if (m_fd < 0)
             fail(errno);

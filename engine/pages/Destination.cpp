@@ -3,41 +3,45 @@
 #include "NamedDestinations.h"
 #include "PageTree.h"
 #include "engine/document/Document.h"
-
 #include "pdflibrary/ViewNumbers.h"
 
 #include <qpdf/QUtil.hh>
 
+#include <algorithm>
 #include <array>
-#include <climits>
 #include <cmath>
-#include <string_view>
+#include <iterator>
 
 namespace engine {
 
 namespace {
 
-const int written = 6; // decimal places of a number
+using namespace pdflibrary;
 
-/// A type of explicit destination, and which operands follow it, in their order.
+const int written = 6;      // decimal places of a number
+const int firstOperand = 2; // of an explicit destination: page and type come before
+
+using Operand = double Destination::*;
+
+/// A form of explicit destinations, and which operands follow its name, in their order.
 struct DestinationForm
 {
     const char* name;
-    int type;
-    std::array<double Destination::*, 4> operands;
+    DestinationType type;
+    std::array<Operand, 4> operands;
 };
 
 // clang-format off
 const DestinationForm forms[] = {
-    {"/XYZ",   1, {&Destination::left, &Destination::top, &Destination::zoom}},
-    {"/Fit",   2, {}},
-    {"/FitH",  3, {&Destination::top}},
-    {"/FitV",  4, {&Destination::left}},
-    {"/FitBH", 5, {&Destination::top}},
+    {destinationNames[Zoomed],     Zoomed,     {&Destination::left, &Destination::top, &Destination::zoom}},
+    {destinationNames[FitPage],    FitPage,    {}},
+    {destinationNames[FitWidth],   FitWidth,   {&Destination::top}},
+    {destinationNames[FitHeight],  FitHeight,  {&Destination::left}},
+    {destinationNames[FitVisible], FitVisible, {&Destination::top}},
     // What follows is read, never written.
-    {"/FitB",  5, {}},
-    {"/FitBV", 5, {&Destination::left}},
-    {"/FitR",  1, {&Destination::left, &Destination::bottom, &Destination::right, &Destination::top}},
+    {"/FitB",                      FitVisible, {}},
+    {"/FitBV",                     FitVisible, {&Destination::left}},
+    {"/FitR",                      Zoomed,     {&Destination::left, &Destination::bottom, &Destination::right, &Destination::top}},
 };
 // clang-format on
 
@@ -48,6 +52,21 @@ const DestinationForm& formOf(QPDFObjectHandle name)
         if (name.isNameAndEquals(form.name))
             return form;
     return forms[0];
+}
+
+/// The form in which a type is written.
+const DestinationForm& formOf(int type)
+{
+    return *std::find_if(std::begin(forms), std::end(forms),
+                         [type](const DestinationForm& form) { return form.type == type; });
+}
+
+/// An operand as it stands in a destination; null where that has none.
+QPDFObjectHandle operandOf(QPDFObjectHandle array, const DestinationForm& form, Operand operand)
+{
+    const auto place = std::find(form.operands.begin(), form.operands.end(), operand) - form.operands.begin();
+    const int index = firstOperand + static_cast<int>(place);
+    return index < array.getArrayNItems() ? array.getArrayItem(index) : QPDFObjectHandle::newNull();
 }
 
 QPDFObjectHandle arrayOf(Document& document, QPDFObjectHandle destination)
@@ -83,13 +102,17 @@ bool sameOperand(QPDFObjectHandle one, QPDFObjectHandle other)
 
 } // namespace
 
-std::optional<OpenActionTarget> openActionTarget(Document& document)
+std::optional<ActionTarget> openActionTarget(Document& document)
 {
-    QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
+    return destinationTarget(document, document.key(document.catalog(), "/OpenAction"));
+}
+
+std::optional<ActionTarget> destinationTarget(Document& document, QPDFObjectHandle action)
+{
     if (action.isDictionary())
         action = document.key(action, "/S").isNameAndEquals("/GoTo") ? document.key(action, "/D")
                                                                      : QPDFObjectHandle::newNull();
-    OpenActionTarget target{action, {}};
+    ActionTarget target{action, {}};
     if (action.isName() || action.isString()) {
         target.array = arrayOf(document, findNamedDestination(document, action));
         target.name = action.isName() ? action.getName().substr(1) : action.getUTF8Value();
@@ -99,7 +122,7 @@ std::optional<OpenActionTarget> openActionTarget(Document& document)
     return target;
 }
 
-std::optional<Destination> readDestination(Document& document, OpenActionTarget target, PageTree& pages)
+std::optional<Destination> readDestination(Document& document, ActionTarget target, PageTree& pages)
 {
     Destination destination;
     destination.name = std::move(target.name);
@@ -108,8 +131,8 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
         return std::nullopt;
     const DestinationForm& form = formOf(document.item(target.array, 1));
     destination.type = form.type;
-    int index = 2;
-    for (double Destination::*const member : form.operands) {
+    int index = firstOperand;
+    for (const Operand member : form.operands) {
         if (member == nullptr)
             break;
         QPDFObjectHandle operand = document.item(target.array, index++);
@@ -122,15 +145,15 @@ std::optional<Destination> readDestination(Document& document, OpenActionTarget 
 
 QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bool onItsSide)
 {
-    const bool isPoint = type == pdflibrary::Zoomed; // the others name an edge of the page as it is shown
+    const bool isPoint = type == Zoomed; // the others name an edge of the page as it is shown
     Destination values;
     values.left = onItsSide && !isPoint ? corner.y : corner.x;
     values.top = onItsSide && !isPoint ? corner.x : corner.y;
     values.zoom = zoom / 100.0;
-    const DestinationForm& form = forms[type - 1];
+    const DestinationForm& form = formOf(type);
     QPDFObjectHandle operands = QPDFObjectHandle::newArray();
     operands.appendItem(QPDFObjectHandle::newName(form.name));
-    for (double Destination::*operand : form.operands)
+    for (const Operand operand : form.operands)
         if (operand != nullptr)
             operands.appendItem(numberOrNull(values.*operand, operand == &Destination::zoom && zoom == 0));
     return operands;
@@ -138,12 +161,10 @@ QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bo
 
 QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent)
 {
-    const bool isRectangle = document.item(array, 1).isNameAndEquals("/FitR");
-    const auto operand = [&](int index) {
-        return index < array.getArrayNItems() ? array.getArrayItem(index) : QPDFObjectHandle::newNull();
-    };
-    return QPDFObjectHandle::newArray({array.getArrayItem(0), QPDFObjectHandle::newName("/XYZ"), operand(2),
-                                       operand(isRectangle ? 5 : 3),
+    const DestinationForm& form = formOf(document.item(array, 1));
+    return QPDFObjectHandle::newArray({array.getArrayItem(0), QPDFObjectHandle::newName(formOf(Zoomed).name),
+                                       operandOf(array, form, &Destination::left),
+                                       operandOf(array, form, &Destination::top),
                                        numberOrNull(percent / 100, percent == 0)});
 }
 
@@ -167,12 +188,12 @@ bool isWrittenAs(Document& document, QPDFObjectHandle array, const QPDFObjectHan
     if (!page.isIndirect() || target.getObjGen() != page.getObjGen() || array.getArrayNItems() != size + 1 ||
         !document.item(array, 1).isNameAndEquals(operands.getArrayItem(0).getName()))
         return false;
-    const bool zooms = operands.getArrayItem(0).isNameAndEquals("/XYZ");
+    const DestinationForm& form = formOf(operands.getArrayItem(0));
     for (int index = 1; index < size; ++index) {
         QPDFObjectHandle stored = document.item(array, index + 1);
         QPDFObjectHandle wanted = operands.getArrayItem(index);
-        const bool noZoom = zooms && index == size - 1 && isNone(stored) && isNone(wanted);
-        if (!noZoom && !sameOperand(stored, wanted))
+        const bool isZoom = form.operands[static_cast<std::size_t>(index) - 1] == &Destination::zoom;
+        if (!(isZoom && isNone(stored) && isNone(wanted)) && !sameOperand(stored, wanted))
             return false;
     }
     return true;

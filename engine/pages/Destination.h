@@ -16,7 +16,7 @@ class PageTree;
 struct Destination
 {
     int page = 0; ///< From 1.
-    int type = 0; ///< 1 to 5, see docs/engine.md.
+    int type = 0; ///< A pdflibrary::DestinationType.
     double left = 0;
     double top = 0;
     double right = 0;
@@ -27,28 +27,31 @@ struct Destination
     bool operator==(const Destination&) const = default;
 };
 
-/// Where the document's open action leads to, as the document has it.
-struct OpenActionTarget
+/// Where an action leads to, as the document has it.
+struct ActionTarget
 {
     QPDFObjectHandle array; ///< The explicit destination.
     std::string name;       ///< As in Destination.
 };
 
-/// Nothing when there is no open action, when it does not go to a destination, or when its name is not
-/// defined.
-std::optional<OpenActionTarget> openActionTarget(Document& document);
+/// \param action a destination, or an action that goes to one. Nothing for anything else, and when its name is
+/// not defined.
+std::optional<ActionTarget> destinationTarget(Document& document, QPDFObjectHandle action);
+/// The same of the document's open action.
+std::optional<ActionTarget> openActionTarget(Document& document);
 
 /// Nothing when the target's page is no page of the document.
-std::optional<Destination> readDestination(Document& document, OpenActionTarget target, PageTree& pages);
+std::optional<Destination> readDestination(Document& document, ActionTarget target, PageTree& pages);
 
 /// What follows the page in an explicit destination: its type and all operands.
-/// \param type 1 to 5.
-/// \param zoom in percent.
+/// \param type a pdflibrary::DestinationType.
+/// \param zoom in percent, 0 for none.
 /// \param corner the upper left one of what is to be seen, as the page is shown.
 /// \param onItsSide the page is shown rotated by 90 or 270 degrees: what is at the top is one of its sides.
 QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bool onItsSide);
 
-/// A destination of type /XYZ that shows what `array`, which reads as that type, shows at another magnification.
+/// A destination of type /XYZ that shows what `array`, which reads as that type, shows at another
+/// magnification.
 /// \param percent 0 for none.
 QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent);
 

@@ -12,9 +12,11 @@ struct PagePath;
 /// letter's. \param box pdflibrary::PageBox.
 QPDFObjectHandle::Rectangle pageBox(Document& document, const PagePath& path, int box);
 
-/// Degrees clockwise in which the page is shown: 0, 90, 180 or 270.
+/// Degrees clockwise in which the page is shown: 0, 90, 180 or 270. Inherited; what is no multiple of 90 is
+/// as good as absent.
 int pageRotation(Document& document, const PagePath& path);
 
+/// A place on a page, in points of default user space.
 struct Point
 {
     double x = 0;

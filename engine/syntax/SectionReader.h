@@ -12,7 +12,8 @@
 
 namespace engine {
 
-/// Readers stop at object numbers far above; a section that claims more is a lie that must not be built upon.
+/// The largest /Size that is believed: readers have given up long before, and adding to a number above it
+/// could overflow.
 inline constexpr std::int64_t largestSize = 0x7ffffff0;
 
 /// Readers need not take larger object numbers, and some do not. A /Size that lies may be above.

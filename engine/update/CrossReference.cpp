@@ -21,7 +21,7 @@ namespace {
 // Far above any file's size, so that sums of offsets cannot overflow.
 constexpr std::uint64_t largestOffset = std::uint64_t{1} << 62;
 
-// Some search the file for its objects when its end is not within this.
+// How many bytes before the end all readers look for `startxref`; some then search the file for its objects.
 constexpr std::uint64_t searchedByAllReaders = 1024;
 
 [[noreturn]] void refuse(const char* reason)

@@ -14,10 +14,10 @@ namespace {
 constexpr std::string_view keyword = "startxref";
 constexpr std::string_view whitespace("\0\t\n\f\r ", 6);
 
-// What may follow the word: line ends, the number, line ends, the end-of-file marker.
+// Bytes read behind the word: room for line ends, the number, line ends and the end-of-file marker.
 constexpr std::size_t reach = 128;
 
-// As far back as libqpdf looks.
+// Bytes before the end in which libqpdf looks for the word.
 constexpr std::uint64_t searchedByReaders = 1054;
 
 std::size_t skipped(std::string_view text, std::size_t position)

@@ -14,18 +14,13 @@ namespace engine {
 namespace {
 
 constexpr std::size_t step = 1 << 20;
-// What is looked at around a word. An object's number further before it is one more oddity.
+// Bytes looked at before and behind a word. An object's number that stands further before it counts as odd.
 constexpr std::size_t margin = 128;
 
 constexpr std::string_view objectWord = "obj";
 constexpr std::string_view trailerWord = "trailer";
 constexpr std::string_view endWord = "startxref";
 constexpr std::string_view names[] = {"/Encrypt", "/XRef", "/XRefStm", "/ObjStm", "/ByteRange"};
-
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
 
 bool isSpaceAt(std::string_view text, std::size_t position)
 {

@@ -60,14 +60,15 @@ std::vector<std::pair<int, int>> stretches(const Entries& entries)
 
 IncrementalUpdate::IncrementalUpdate(QPDF& pdf, const CrossReference& crossReference,
                                      const ByteSource& source, const std::set<QPDFObjGen>& changed,
-                                     const TrailerEntries& trailer)
+                                     const TrailerEntries& trailer, std::optional<std::uint64_t> begin)
     : m_crossReference(crossReference), m_changedTrailer(trailer), m_cipher(pdf, Cipher::Use::Strings),
-      m_serializer(&m_cipher), m_sourceSize(source.size())
+      m_serializer(&m_cipher), m_begin(begin.value_or(source.size()))
 {
     if (changed.empty() && trailer.empty())
         throw EngineError(ErrorCode::NothingChanged);
-    if (const char last = source.lastByte(); last != '\n' && last != '\r')
-        m_bytes = "\n";
+    if (const char last = source.lastByte(); !begin && last != '\n' && last != '\r')
+        m_lineEnd = "\n";
+    m_begin += m_lineEnd.size();
     writeObjects(pdf, changed);
     addUnlistedObjects();
     if (m_crossReference.kind() == CrossReference::Kind::Table)
@@ -207,13 +208,13 @@ QPDFObjectHandle IncrementalUpdate::nextIdentifier() const
     QPDFObjectHandle second = old.getArrayItem(1);
     if (!first.isString() || !second.isString())
         return QPDFObjectHandle::newNull();
-    const std::string state = second.getStringValue() + std::to_string(m_sourceSize) + m_bytes;
+    const std::string state = second.getStringValue() + std::to_string(m_begin) + m_bytes;
     return QPDFObjectHandle::newArray({first, QPDFObjectHandle::newString(digest(state))});
 }
 
 std::uint64_t IncrementalUpdate::nextOffset() const
 {
-    return m_sourceSize + m_bytes.size() - m_crossReference.headerOffset();
+    return m_begin + m_bytes.size() - m_crossReference.headerOffset();
 }
 
 int IncrementalUpdate::sizeWith(int objectNumber) const

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -21,14 +22,16 @@ class IncrementalUpdate
 public:
     using TrailerEntries = std::map<std::string, QPDFObjectHandle>;
 
+    /// \param begin where the update will lie, behind white space; nothing for the end of `source`.
     /// \param changed the indirect objects that differ from `source`. Objects that are new and referred to by
     ///     these need not be named when their numbers lie above the document's.
     /// \param trailer the entries of the trailer that differ; null for those that are gone.
     /// \throws EngineError with CannotAppend when the document is such that an update would not be right.
     IncrementalUpdate(QPDF& pdf, const CrossReference& crossReference, const ByteSource& source,
-                      const std::set<QPDFObjGen>& changed, const TrailerEntries& trailer = {});
+                      const std::set<QPDFObjGen>& changed, const TrailerEntries& trailer = {},
+                      std::optional<std::uint64_t> begin = std::nullopt);
 
-    const std::string& bytes() const { return m_bytes; }
+    std::string bytes() const { return m_lineEnd + m_bytes; }
 
 private:
     using ObjectOffset = CrossReference::ObjectOffset;
@@ -49,7 +52,8 @@ private:
     const TrailerEntries& m_changedTrailer;
     Cipher m_cipher;
     ObjectSerializer m_serializer;
-    std::uint64_t m_sourceSize;
+    std::string m_lineEnd;                 // where the document lacks one
+    std::uint64_t m_begin;                 // of what follows
     std::map<int, ObjectOffset> m_written; // by object number
     std::string m_bytes;
 };

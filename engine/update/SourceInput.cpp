@@ -122,8 +122,8 @@ qpdf_offset_t SourceInput::findAndSkipNextEOL()
         if (found != end)
             break;
     }
-    if (!windowHolds(
-            m_position)) // the end, even if the file became shorter: libqpdf looks for lines up to it
+    // The end, even if the file became shorter: libqpdf looks for lines up to it.
+    if (!windowHolds(m_position))
         m_position = m_end;
     const qpdf_offset_t lineEnd = m_position;
     while (peek(character) && isLineEnd(character))

@@ -16,7 +16,7 @@ namespace {
 
 using KeyNames = std::set<std::string>;
 
-// Of a trailer, what belongs to the document.
+// Entries that describe how a file is stored; all others of a trailer belong to the document.
 const KeyNames storageKeys{"/DecodeParms", "/DL", "/Encrypt", "/FDecodeParms", "/FFilter", "/F",
                            "/Filter",      "/ID", "/Index",   "/Length",       "/Prev",    "/Size",
                            "/Type",        "/W",  "/XRefStm"};

@@ -22,8 +22,8 @@ namespace engine {
 
 namespace {
 
-// QPDFWriter writes a few bytes at a time, and finishes its pipelines in destructors, which nothing thrown
-// may leave: the first failure is kept, and what comes after it is dropped.
+// QPDFWriter writes a few bytes at a time, so they are collected. It finishes its pipelines in destructors,
+// which nothing thrown may leave: the first failure is kept, and what is written after it is dropped.
 class FilePipeline : public Pipeline
 {
 public:
@@ -140,14 +140,14 @@ void requireSameContent(Document& document, std::shared_ptr<ByteSource> written)
 
 } // namespace
 
-std::string updateOf(Document& document)
+std::string updateOf(Document& document, std::optional<std::uint64_t> begin)
 {
     if (!document.isChanged())
         throw EngineError(ErrorCode::NothingChanged);
     const CrossReference crossReference = crossReferenceFor(document);
     requireChangesWhole(document);
     const IncrementalUpdate update(document.pdf(), crossReference, *document.source(),
-                                   document.changedObjects(), document.changedTrailer());
+                                   document.changedObjects(), document.changedTrailer(), begin);
     document.requireAllRead();
     if (document.crossReferenceRebuilt() && crossReference.unlistedObjects().empty())
         throw EngineError(ErrorCode::CannotAppend, "the cross-reference was rebuilt");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace engine {
@@ -8,8 +10,9 @@ class Document;
 
 /// The document's changes as an incremental update. Where the cross-reference is damaged, but it is beyond
 /// doubt what the document holds, the update lists all objects, and handles from before are stale.
+/// \param begin where it will lie; nothing for the end of the document's bytes.
 /// \throws EngineError with NothingChanged, or a code for which cannotAppend() is true.
-std::string updateOf(Document& document);
+std::string updateOf(Document& document, std::optional<std::uint64_t> begin = std::nullopt);
 
 /// Writes a complete new file: the document's original bytes, untouched, and behind them its update. What was
 /// at `path` is replaced in one step, or left alone when anything fails; it may be the document's own file.

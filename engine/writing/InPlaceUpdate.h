@@ -11,6 +11,9 @@ class Document;
 /// to the second step readers pass over what is there, for they look for "startxref" in the last kilobyte and
 /// find the document's own. The last lines lie within one sector of the disk, which is written whole or not
 /// at all.
+///
+/// Where the document ends with the begin of this very update, which somebody was about to write when power
+/// failed, what is missing of it is the update.
 /// \throws EngineError with NotInPlace when readers could take notice of half an update: it is too long, the
 /// document's end lies too far back, or the document is one that readers search for its objects; else what
 /// updateOf() throws, and SourceChanged.

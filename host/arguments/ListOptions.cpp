@@ -14,7 +14,7 @@ namespace host {
 
 namespace {
 
-const std::size_t largestList = 512 << 20; // millions of names, and an end for a device that has none
+const std::size_t largestList = 512 << 20; // millions of names; /dev/zero has no end of its own
 
 } // namespace
 

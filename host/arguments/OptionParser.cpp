@@ -119,7 +119,7 @@ void OptionParser::refuse(char** argv, int count) const
     const std::string word = optind > 0 && optind <= count ? argv[optind - 1] : "";
     if (word.starts_with("--"))
         refuseName(word.substr(2, word.find('=') - 2));
-    // A letter in the middle of others leaves the word's place where it was.
+    // Among several letters in one word, getopt has not stepped past that word yet.
     const std::string letter = std::string("-") + static_cast<char>(optopt);
     const std::string whole = optind < count ? argv[optind] : "";
     const std::string name = (word.starts_with('-') ? word : whole).substr(1);

@@ -30,7 +30,8 @@ const char fromFileName[] = "titleFromFileName";
 const char ifMissing[] = "titleIfMissing";
 
 /// What stands in the object of a document besides its view.
-const Names facts{"file", "fileBytes", "pages", "encrypted", "signatures"};
+const Names facts{"file",      "fileBytes", "pages",   "encrypted",  "signatures",
+                  "certified", "bookmarks", "outline", "outlineNote"};
 
 bool isPreference(const Description& entry)
 {

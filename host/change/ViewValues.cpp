@@ -20,7 +20,7 @@ using viewentries::Description;
 using viewentries::Kind;
 using viewentries::Name;
 
-/// The forms of an answer in which it is sure to be meant.
+/// The word without case and hyphens, which do not count.
 std::string plain(const std::string& word)
 {
     std::string text;
@@ -85,7 +85,7 @@ Magnification magnification(const Description& entry, const std::string& word)
         return {name->number, 0};
     const std::size_t digits = word.size() - (word.ends_with('%') ? 1 : 0);
     const std::optional<double> percent = numberFrom<double>(word.substr(0, digits));
-    // Written so that no number at all is refused as well.
+    // Not the other way round: a NaN fails every comparison.
     if (!percent || !(*percent >= viewentries::lowestPercent && *percent <= viewentries::highestPercent))
         refuse(entry, word);
     return {viewentries::magnifications().front().number, storedPercent(*percent)};

@@ -35,7 +35,7 @@ using namespace storedkeys;
 const int mostEntries = 1 << 20;
 const int iconSide = 42;
 
-/// The window's save buttons fail without a word.
+/// Said before the window opens: its save buttons say nothing when they fail.
 void noteMissingFolders()
 {
     for (const SettingsFolder& folder : {SettingsFolder::actionLists(), SettingsFolder::favorites()})
@@ -43,7 +43,7 @@ void noteMissingFolders()
             note(std::string("no ") + folder.kind() + " can be stored: " + problem);
 }
 
-/// The one of the action's images that stands out, as its dialog gives it to favourites.
+/// The action's image for the selected state, as its dialog stores it with favourites.
 QImage iconOf(CActionInterface& action)
 {
     const QImage image(":/Quintar/Resources/Tools/" + action.GetDefaultIcon().section('#', 1, 1));
@@ -160,7 +160,7 @@ bool ConfigureCommand::showDialog()
 
     DialogLoadStruct load{};
     load.pSettings = &m_settings;
-    load.bSkipDocumentRead = true; // done above, with what the action passes over
+    load.bSkipDocumentRead = true; // readDocument() has, and tells what the action passes over in silence
     m_icon = iconOf(plugin.action());
     storereport::begin();
     const bool isAccepted = plugin.action().ShowDialogProc(nullptr, &load) == 1;

@@ -31,7 +31,7 @@ std::string actionInWords(const ActionEntry& entry)
     return isOurs(entry) ? name : name + " (cannot be run here)";
 }
 
-/// The settings' lines, further in.
+/// The lines, moved in by four more columns.
 std::string indented(const std::string& lines)
 {
     std::string text;

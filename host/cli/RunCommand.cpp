@@ -2,6 +2,7 @@
 
 #include "host/arguments/LimitOptions.h"
 #include "host/arguments/OptionParser.h"
+#include "host/change/ViewJson.h"
 #include "host/plan/RunPlan.h"
 #include "host/report/EarlierReport.h"
 #include "host/report/Report.h"
@@ -33,6 +34,17 @@ SignedDocuments signedDocuments(const std::string& value)
     return SignedDocuments::Refuse;
 }
 
+/// Null for workers that are not locked in.
+QJsonValue sandboxInJson(const CellState& state)
+{
+    if (!state.wanted)
+        return {};
+    const std::string missing = state.missing();
+    return QJsonObject{{"files", state.limitsFiles()},
+                       {"calls", state.limitsCalls()},
+                       {"missing", missing.empty() ? QJsonValue() : QString::fromStdString(missing)}};
+}
+
 } // namespace
 
 int RunCommand::work(const std::vector<std::string>& words)
@@ -58,8 +70,8 @@ int RunCommand::work(const std::vector<std::string>& words)
             throw UsageError(problem.text);
     m_options.tellStates = m_reportFile.has_value();
     m_options.tellChanges = m_reportFile.has_value() || !m_quiet || m_live.events() != nullptr;
-    if (report) // may lie in the output folder
-        begin(*report);
+    if (report) // only now, for it may lie in the output folder
+        begin(*report, plan, cell);
     const int status = BatchRun(plan, m_options, cell,
                                 {m_live.control(), m_live.events(), report ? &*report : nullptr, tells(),
                                  m_streams ? &*m_streams : nullptr, std::move(done)})
@@ -69,9 +81,15 @@ int RunCommand::work(const std::vector<std::string>& words)
     return status;
 }
 
-void RunCommand::begin(Report& report) const
+void RunCommand::begin(Report& report, const RunPlan& plan, const Cell& cell) const
 {
-    report.begin();
+    const bool changesView = !m_options.change.isEmpty();
+    report.begin({{"command", name()},
+                  {"documents", static_cast<qint64>(plan.documents().size())},
+                  {"inPlace", m_options.inPlace},
+                  {"dryRun", m_options.dryRun},
+                  {"sandbox", sandboxInJson(cell.state())},
+                  {"change", changesView ? QJsonValue(viewjson::write(m_options.change)) : QJsonValue()}});
     if (!report.doubt().empty())
         note(report.doubt());
 }
@@ -207,7 +225,7 @@ BatchRun::Done RunCommand::doneBefore(const RunPlan& plan) const
     if (!m_resumedReport || firstRun)
         return {};
     BatchRun::Done done = EarlierReport(*m_resumedReport, plan).done();
-    if (continuesReport()) // which has the lines
+    if (continuesReport()) // the file has these lines already
         for (auto& [place, line] : done)
             line.clear();
     return done;

@@ -35,7 +35,7 @@ private:
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
     RunPlan plan(const RunDestination& destination);
-    void begin(Report& report) const;
+    void begin(Report& report, const RunPlan& plan, const Cell& cell) const;
     /// What --resume leaves out.
     BatchRun::Done doneBefore(const RunPlan& plan) const;
     /// Whether --report and --resume name the same file.

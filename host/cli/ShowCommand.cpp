@@ -8,6 +8,7 @@
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/TextWidth.h"
 #include "host/terminal/UsageError.h"
+#include "host/view/Bookmarks.h"
 
 #include <unistd.h>
 
@@ -17,6 +18,9 @@ void ShowCommand::takeOptions(OptionParser& parser)
 {
     parser.takeFlag("json", m_json);
     parser.takeFlag("table", m_table);
+    parser.takeValue("outline", [this](const std::string& value) {
+        m_bookmarks = value == "all" ? Bookmarks::most : numberOption("--outline", value, 1, Bookmarks::most);
+    });
     m_documents.take(parser);
     takeLimits(parser, m_limits);
     takeSandbox(parser, m_sandbox);
@@ -27,6 +31,8 @@ int ShowCommand::work(const std::vector<std::string>& words)
 {
     if (m_json && m_table)
         throw UsageError("--json and --table exclude each other");
+    if (m_table && m_bookmarks > 0)
+        throw UsageError("--outline and --table exclude each other: a row has no place for bookmarks");
     m_documents.check(words);
     m_live.check(m_json ? "--json" : m_table ? "--table" : "", m_documents.readsStandardInput());
     m_documents.read(words);
@@ -43,7 +49,8 @@ int ShowCommand::work(const std::vector<std::string>& words)
         form = table;
     }
     ReadingRun run(plan, cell, {m_documents.password(), m_limits, m_live.control(), m_live.events()});
-    const int status = run.run([&](auto& library) { return std::make_unique<ShowTeller>(library, form); });
+    const int status =
+        run.run([&](auto& library) { return std::make_unique<ShowTeller>(library, form, m_bookmarks); });
     if (m_live.events() != nullptr)
         m_live.events()->end({{"read", static_cast<qint64>(run.count(Reading::Good))},
                               {"failed", static_cast<qint64>(run.count(Reading::Failed))}},

@@ -22,6 +22,7 @@ protected:
 private:
     bool m_json = false;
     bool m_table = false;
+    int m_bookmarks = 0; ///< How many are told at most.
     DocumentOptions m_documents;
     LiveOptions m_live{EventStream::Unheard::Ends};
     WorkerPool::Limits m_limits;

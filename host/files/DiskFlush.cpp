@@ -54,7 +54,7 @@ bool flushFolder(const std::string& folder, int fileInIt)
 {
     const FileDescriptor directory(
         retried([&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
-    if (!directory.isOpen()) // it may be for passing through only
+    if (!directory.isOpen()) // its rights may allow to enter it, not to read it
         return flushFileSystem(fileInIt, errno);
     // After a device's error a second attempt may succeed without having written anything.
     return retried([&] { return fsync(directory.get()); }) == 0 ||

@@ -38,7 +38,7 @@ std::string quoted(const std::string& text)
     return result + "\"";
 }
 
-/// Sentences, each on a line of its own, as the field's checkers want them.
+/// Sentences, each on a line of its own, as mandoc -T lint wants them.
 std::string sentences(const std::string& text)
 {
     std::string result;

@@ -132,6 +132,9 @@ const std::vector<Option> optionRows{
      Nothing, {}, {Run, Check}, Group::Output, common},
     {"quiet", 'q', "", "prints only what is left alone", "no notes either",
      Nothing, {}, {Undo}, Group::Output, common},
+    {"outline", 0, "N|all", "tells the bookmarks as well, with their pages",
+     "no more than N of each document; all of them end at 5000",
+     Nothing, {}, {Show}, Group::Output, rare},
     {"table", 0, "", "prints a row a document, cut to the terminal's width", "",
      Nothing, {}, {Show}, Group::Output, common},
     {"json", 0, "", "prints a JSON object a line", "",
@@ -241,7 +244,7 @@ std::string Option::form() const
 std::string Option::rest() const
 {
     std::string text = more;
-    if (completes != Completes::Words || value.find('|') != std::string::npos) // where the value says them
+    if (completes != Completes::Words || value.find('|') != std::string::npos) // which lists the words itself
         return text;
     text += (text.empty() ? "" : "; ") + value + " is ";
     for (const std::string& word : words)

@@ -1,7 +1,8 @@
 #include "FolderWalk.h"
 
+#include "host/files/Paths.h"
+
 #include <dirent.h>
-#include <strings.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -15,11 +16,6 @@ namespace host {
 namespace {
 
 const int deepest = 512;
-
-bool isPdfName(const std::string& name)
-{
-    return name.size() > 4 && strcasecmp(name.c_str() + name.size() - 4, ".pdf") == 0;
-}
 
 /// Whether an entry may be a document or a folder; some file systems do not tell.
 bool mayMatter(const dirent& entry)

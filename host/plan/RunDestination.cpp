@@ -1,9 +1,8 @@
 #include "RunDestination.h"
 
+#include "host/files/Paths.h"
 #include "host/saving/SafeOutput.h"
 #include "host/terminal/UsageError.h"
-
-#include <strings.h>
 
 #include <filesystem>
 
@@ -11,30 +10,10 @@ namespace host {
 
 namespace {
 
-const std::size_t lengthOfPdf = 4;
-
-bool endsInPdf(const std::string& path)
-{
-    return path.size() > lengthOfPdf && strcasecmp(path.c_str() + path.size() - lengthOfPdf, ".pdf") == 0;
-}
-
-/// Where the name's ".pdf" begins, or its end.
-std::size_t endOfStem(const std::string& path)
-{
-    return path.size() - (endsInPdf(path) ? lengthOfPdf : 0);
-}
-
 /// The path without "." and "..", links not followed: a linked document keeps the place it is named by.
 std::filesystem::path absolutePath(const std::string& path)
 {
     return std::filesystem::absolute(path).lexically_normal();
-}
-
-std::string withoutTrailingSlashes(std::string path)
-{
-    while (path.size() > 1 && path.back() == '/')
-        path.pop_back();
-    return path;
 }
 
 } // namespace
@@ -70,7 +49,7 @@ RunDestination RunDestination::named(const std::string& path, const std::string&
     struct stat status;
     const bool exists = stat(path.c_str(), &status) == 0;
     const bool isFolder = exists && S_ISDIR(status.st_mode);
-    const bool isFile = path == standardStream || (!isFolder && endsInPdf(path));
+    const bool isFile = path == standardStream || (!isFolder && isPdfName(path));
     if (isFile && !base.empty())
         throw UsageError("--base goes with a folder for the results, not with -o " + path);
     if (exists && !isFolder && !(isFile && S_ISREG(status.st_mode)) && path != standardStream)

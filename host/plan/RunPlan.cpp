@@ -3,6 +3,7 @@
 #include "FolderWalk.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/Links.h"
+#include "host/files/Paths.h"
 #include "host/terminal/UsageError.h"
 
 #include <sys/stat.h>
@@ -13,17 +14,6 @@
 #include <utility>
 
 namespace host {
-
-namespace {
-
-std::string withoutTrailingSlashes(std::string path)
-{
-    while (path.size() > 1 && path.back() == '/')
-        path.pop_back();
-    return path;
-}
-
-} // namespace
 
 void RunPlan::add(const std::string& path)
 {

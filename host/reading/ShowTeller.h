@@ -17,9 +17,10 @@ public:
     {};
     using Form = std::variant<Words, Json, ViewTable>;
 
-    /// The library must outlive the object.
-    ShowTeller(TelvarPDFLibraryCPDylibCPP1311& library, Form form)
-        : m_library(library), m_form(std::move(form))
+    /// The library must outlive the object. \param bookmarks how many it tells at most, besides their number;
+    /// rows of a table have no place for them.
+    ShowTeller(TelvarPDFLibraryCPDylibCPP1311& library, Form form, int bookmarks)
+        : m_library(library), m_form(std::move(form)), m_bookmarks(bookmarks)
     {}
 
     Reading tell(const std::string& file) override;
@@ -27,6 +28,7 @@ public:
 private:
     TelvarPDFLibraryCPDylibCPP1311& m_library;
     Form m_form;
+    int m_bookmarks;
 };
 
 } // namespace host

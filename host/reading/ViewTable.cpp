@@ -18,7 +18,7 @@ struct Column
     std::size_t width;
 };
 
-// The words that stand in the columns fit into them, except for page numbers and percentages of some length.
+// Wide enough for every word that an entry has; long page numbers and percentages may be cut.
 const std::array<Column, 5> columns{{{"PANEL", 11}, {"LAYOUT", 16}, {"PAGE", 5}, {"ZOOM", 11}, {"TITLE", 5}}};
 
 const std::size_t leastForName = 8;

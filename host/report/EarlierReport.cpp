@@ -56,6 +56,8 @@ void EarlierReport::takeLine(std::string_view line)
 {
     const QJsonDocument json =
         QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), static_cast<int>(line.size())));
+    if (Report::isAboutRun(json.object()))
+        return;
     if (!json.isObject() || !json.object().contains("file") || !json.object().contains("status"))
         throw std::invalid_argument("tells nothing of a document");
     const auto place = m_places.find(nameIn(json.object(), "file"));

@@ -1,8 +1,10 @@
 #include "Report.h"
 
+#include "host/files/DiskFlush.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/UsageError.h"
 
+#include <QDateTime>
 #include <QJsonDocument>
 
 #include <fcntl.h>
@@ -19,6 +21,15 @@ namespace host {
 namespace {
 
 const char begun[] = "begun";
+const char startEvent[] = "start";
+const char endEvent[] = "end";
+const int formVersion = 1;
+
+/// In UTC, as ISO 8601 writes it.
+QString now()
+{
+    return QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
+}
 
 QJsonValue textOrNull(const std::string& text)
 {
@@ -92,7 +103,7 @@ void Report::lock()
                   "); no other run may write it meanwhile";
 }
 
-void Report::begin()
+void Report::begin(QJsonObject about)
 {
     if (!m_file.isOpen()) {
         open(O_CREAT);
@@ -105,6 +116,10 @@ void Report::begin()
         dropCutOffLine();
     else if (isRegular() && ftruncate(m_file.get(), 0) != 0)
         throw UsageError("the report " + m_path + " cannot be written: " + systemError(errno));
+    about.insert("event", startEvent);
+    about.insert("version", formVersion);
+    about.insert("time", now());
+    write(jsonLine(about));
 }
 
 /// An earlier run may have been killed in the middle of a line.
@@ -131,13 +146,16 @@ void Report::add(std::size_t index, std::string line)
     }
 }
 
-void Report::flush()
+void Report::end(QJsonObject counts)
 {
     for (const auto& [index, line] : std::exchange(m_waiting, {}))
         write(line);
+    counts.insert("event", endEvent);
+    counts.insert("time", now());
+    write(jsonLine(counts));
 }
 
-/// The lock belongs to what was opened before the fork, so the file is opened once more.
+/// A forked process shares the descriptor, and with it the lock: so it opens the file once more for itself.
 int Report::leave()
 {
     const FileDescriptor locked = std::move(m_file);
@@ -154,7 +172,7 @@ int Report::leave()
 void Report::announce(const Line& line)
 {
     const std::string text = toJson(line, begun);
-    if (m_file.isOpen() && !writeAll(m_file.get(), text.data(), text.size()))
+    if (m_file.isOpen() && (!writeAll(m_file.get(), text.data(), text.size()) || !flushFile(m_file.get())))
         throw std::runtime_error("the report " + m_path + " cannot be written: " + systemError(errno));
 }
 
@@ -162,6 +180,12 @@ void Report::write(const std::string& line)
 {
     if (m_problem.empty() && !writeAll(m_file.get(), line.data(), line.size()))
         m_problem = "the report " + m_path + " is incomplete: " + systemError(errno);
+}
+
+bool Report::isAboutRun(const QJsonObject& line)
+{
+    const QString event = line.value("event").toString();
+    return event == startEvent || event == endEvent;
 }
 
 std::string Report::toJson(const Line& line, const char* status)

@@ -95,7 +95,7 @@ int BatchRun::run(const WorkerPool::Limits& limits)
         removeLeftovers();
     try {
         runJobs(plugin.action(), libraryFile, limits);
-    } catch (const std::bad_alloc&) { // not for main: to it, nothing has been begun
+    } catch (const std::bad_alloc&) { // main would tell that nothing was begun
         m_progress.reset();
         complainInLines("the run ended early, for it is out of memory; some documents may have been changed");
         return exitstatus::someFailed;
@@ -173,7 +173,7 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
         m_setup.control);
 }
 
-/// In place, where what was there before is gone then, or half a change may be left.
+/// Only in place: there what was before is gone then, or half a change may be left.
 void BatchRun::announce(std::size_t job, const DocumentResult& expected)
 {
     const RunPlan::Document& planned = m_plan.documents()[m_documentOfJob[job]];
@@ -271,7 +271,9 @@ void BatchRun::sumUp() const
     else if (m_setup.tells == Tells::Counts)
         printError(summary.counts(m_options.dryRun));
     if (m_setup.report != nullptr) {
-        m_setup.report->flush();
+        QJsonObject counts = summary.toJson();
+        counts.insert("stopped", m_setup.control.isStopped());
+        m_setup.report->end(counts);
         if (!m_setup.report->problem().empty())
             complain(m_setup.report->problem());
     }

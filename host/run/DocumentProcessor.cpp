@@ -114,7 +114,10 @@ Failure DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int sourc
         return {};
     result.stateBefore = stateOf(m_original);
     result.checksumBefore = checksumOf(source, m_original.st_size);
-    return result.checksumBefore.empty() ? Failure::ofSystem(errno, ReasonCode::ReadFailed) : Failure();
+    if (!result.checksumBefore.empty())
+        return {};
+    return errno != 0 ? Failure::ofSystem(errno, ReasonCode::ReadFailed)
+                      : Failure::ofLibrary(int(engine::ErrorCode::SourceChanged));
 }
 
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)

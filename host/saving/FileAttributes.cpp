@@ -19,7 +19,7 @@ namespace {
 
 const char accessList[] = "system.posix_acl_access";
 
-/// These vouch for the old content, or grant it rights as a program.
+/// Never copied: these vouch for the old content, or let it run with more rights.
 constexpr std::array<std::string_view, 3> boundToContent{"security.capability", "security.evm",
                                                          "security.ima"};
 
@@ -88,7 +88,7 @@ bool FileAttributes::giveTo(int target, std::vector<std::string>& notKept) const
         return false;
     const std::optional<std::string> list = attribute(m_file, accessList);
     AccessRights rights(status.st_mode & 07777, list.value_or("?"));
-    giveExtended(target, notKept); // while the mode still allows it
+    giveExtended(target, notKept); // first: as another owner's, or in its mode, it may not be allowed
     giveOwner(target, status, rights, notKept);
     return giveRights(target, rights, notKept);
 }

@@ -5,10 +5,8 @@
 
 #include "pdflibrary/ErrorCodes.h"
 
-#include <fcntl.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 
 namespace host {
@@ -45,18 +43,18 @@ InPlaceAppend::Outcome InPlaceAppend::perform()
 {
     if (!isAsLeft())
         return {changedMeanwhile()};
-    if (!write(m_before.st_size, m_begin))
+    if (!write(m_begin))
         return failed(cannotWrite());
     if (m_left.st_size != endOf(m_begin) || !isAsLeft())
         return {changedMeanwhile()};
-    if (!write(endOf(m_begin), m_update.substr(m_begin.size())))
+    if (!write(m_update.substr(m_begin.size())))
         return failed(cannotWrite());
     return {};
 }
 
-bool InPlaceAppend::write(std::int64_t offset, std::string_view bytes)
+bool InPlaceAppend::write(std::string_view bytes)
 {
-    const bool written = m_file.writeAt(offset, bytes);
+    const bool written = m_file.append(bytes);
     const int problem = errno;
     fstat(m_file.get(), &m_left);
     errno = problem;
@@ -88,11 +86,11 @@ InPlaceAppend::Outcome InPlaceAppend::failed(const Failure& why) const
 /// The last lines go first, and are gone on the disk too before the rest goes.
 InPlaceAppend::Outcome InPlaceAppend::cutBack(const Found& found, const Failure& why) const
 {
-    if (found.size > m_begin.size())
-        m_file.cut(endOf(m_begin));
-    if (m_file.cut(m_before.st_size) || isNothing(this->found())) {
-        const std::array<struct timespec, 2> times{timespec{0, UTIME_OMIT}, m_before.st_mtim};
-        futimens(m_file.get(), times.data()); // of somebody else's file the new time stays
+    if (found.size > m_begin.size() && m_file.cut(endOf(m_begin)))
+        m_file.flush();
+    if (m_file.cut(m_before.st_size)) {
+        m_file.setTime(m_before.st_mtim);
+        m_file.flush();
         return {why};
     }
     const std::string problem = "it cannot be cut back: " + systemError(errno);

@@ -58,7 +58,7 @@ private:
     };
 
     /// \returns false, with errno set, on failure.
-    bool write(std::int64_t offset, std::string_view bytes);
+    bool write(std::string_view bytes);
     bool isAsLeft() const;
     Found found() const;
     static bool isNothing(const Found& found) { return found.isOfUpdate && found.size == 0; }

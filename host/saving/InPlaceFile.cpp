@@ -38,24 +38,11 @@ bool liesSuitably(int file)
 
 // O_NONBLOCK: opening a FIFO, or a file that another program has leased, would wait.
 InPlaceFile::InPlaceFile(const std::string& path)
-    : m_path(path), m_file(::open(path.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY)),
+    : m_path(path),
+      m_file(::open(path.c_str(), O_RDWR | O_APPEND | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY)),
       m_suited(m_file.isOpen() && fstat(m_file.get(), &m_status) == 0 && S_ISREG(m_status.st_mode) &&
                m_status.st_nlink == 1 && liesSuitably(m_file.get()))
 {}
-
-bool InPlaceFile::writeAt(std::int64_t offset, std::string_view bytes) const
-{
-    while (!bytes.empty()) {
-        const ssize_t count = ::pwrite(m_file.get(), bytes.data(), bytes.size(), offset);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-        offset += count;
-    }
-    return true;
-}
 
 bool InPlaceFile::flush() const
 {
@@ -68,7 +55,13 @@ bool InPlaceFile::cut(std::int64_t size) const
     do
         result = ftruncate(m_file.get(), size);
     while (result != 0 && errno == EINTR);
-    return result == 0 && flush();
+    return result == 0;
+}
+
+bool InPlaceFile::setTime(const struct timespec& time) const
+{
+    const std::array<struct timespec, 2> times{timespec{0, UTIME_OMIT}, time};
+    return futimens(m_file.get(), times.data()) == 0;
 }
 
 } // namespace host

@@ -29,15 +29,18 @@ public:
     const struct stat& status() const { return m_status; }
     const std::string& path() const { return m_path; }
 
-    /// Writes all bytes. \returns false, with errno set, on failure.
-    bool writeAt(std::int64_t offset, std::string_view bytes) const;
+    /// Writes all bytes behind whatever is in the file by then, so that nobody's bytes are overwritten and no
+    /// hole comes up. \returns false, with errno set, on failure.
+    bool append(std::string_view bytes) const { return writeAll(m_file.get(), bytes.data(), bytes.size()); }
 
     /// Waits until what was written is on the disk. \returns false, with errno set, on failure.
     bool flush() const;
 
-    /// Cuts the file off behind `size` bytes and waits until that is on the disk. \returns false, with errno
-    /// set, on failure.
+    /// Cuts the file off behind `size` bytes. \returns false, with errno set, on failure.
     bool cut(std::int64_t size) const;
+
+    /// Gives it a time of change. \returns false, with errno set, on failure: only its owner may do that.
+    bool setTime(const struct timespec& time) const;
 
 private:
     std::string m_path;

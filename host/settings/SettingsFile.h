@@ -28,8 +28,7 @@ struct StoredSettings
 
 /// Reads the files in which settings are stored. What cannot be read whole and understood is refused with a
 /// UsageError that names the file and the reason: a file that is not a regular one or above 16 MiB, a missing
-/// key, a value that is not a settings map, an empty map, settings of another
-/// action.
+/// key, a value that is not a settings map, an empty map, settings of another action.
 namespace settingsfile {
 
 /// The entries of an action list (.xqq) in the order of their numbers.

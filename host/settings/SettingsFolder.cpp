@@ -86,7 +86,7 @@ bool SettingsFolder::collect(const std::string& below, std::set<FolderId>& seen,
         const std::size_t before = names.size();
         const bool isRead = isFolder && collect(name + "/", seen, names);
         if (isFolder ? !isRead || (hasSuffix(name) && names.size() == before) : hasSuffix(name))
-            names.push_back(name); // a folder only so that its reader says what is wrong with it
+            names.push_back(name); // also a folder, for describe() to say what is wrong with it
     }
     return true;
 }

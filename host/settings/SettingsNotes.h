@@ -8,7 +8,8 @@
 /// What a user should know of settings that the action takes as they are.
 namespace host::settingsnotes {
 
-/// What holds for every document: numbers that no dialog offers, groups
+/// What holds for every document, a sentence each: numbers that no dialog offers, groups that are all off, a
+/// page that is not set.
 std::vector<std::string> about(const SettingsMap& settings);
 
 /// The rows that are left out and that the action takes for the first ones; empty when there are none.

@@ -4,6 +4,8 @@
 
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -32,13 +34,20 @@ QString escape(const QString& units)
     return escaped;
 }
 
+bool isPlain(char byte)
+{
+    return byte >= ' ' && byte <= '~';
+}
+
 } // namespace
 
 std::string jsonLine(const QJsonObject& object)
 {
-    const QString text = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    if (std::all_of(json.begin(), json.end(), isPlain)) // as nearly all of it is
+        return json.toStdString() + "\n";
     QString line;
-    for (const uint character : text.toUcs4())
+    for (const uint character : QString::fromUtf8(json).toUcs4())
         line += misleads(character) ? escape(unitsOf(character)) : unitsOf(character);
     return line.toStdString() + "\n";
 }

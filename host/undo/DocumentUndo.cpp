@@ -55,11 +55,12 @@ bool endsAsUpdate(int file, std::int64_t begin, std::int64_t end)
 /// without.
 bool isUnfinished(const std::string& bytes, const std::string& checksum)
 {
-    const std::size_t longestEnd = 64;
-    const std::size_t lastLines = std::min(bytes.rfind("startxref"), bytes.size());
-    const bool isEnd =
-        lastLines == bytes.size() || (bytes.size() - lastLines < longestEnd && bytes.ends_with("\n%%EOF\n"));
-    return isEnd && checksumOf(std::string_view(bytes).substr(0, lastLines)) == checksum;
+    const std::string_view keyword = "startxref\n";
+    const std::size_t lastLines = std::min(bytes.rfind(keyword), bytes.size());
+    std::string_view end = std::string_view(bytes).substr(lastLines);
+    end.remove_prefix(std::min(end.find_first_not_of("0123456789", keyword.size()), end.size()));
+    const bool isWhole = lastLines == bytes.size() || end == "\n%%EOF\n";
+    return isWhole && checksumOf(std::string_view(bytes).substr(0, lastLines)) == checksum;
 }
 
 std::int64_t sizeOf(const std::string& state)
@@ -67,9 +68,9 @@ std::int64_t sizeOf(const std::string& state)
     return FileState::fromText(state)->size;
 }
 
-std::array<struct timespec, 2> changeTime(const struct timespec& time)
+std::array<struct timespec, 2> changeTime(const FileState& state)
 {
-    return {timespec{0, UTIME_OMIT}, time};
+    return {timespec{0, UTIME_OMIT}, state.time};
 }
 
 } // namespace
@@ -78,16 +79,20 @@ UndoResult DocumentUndo::perform(bool dryRun)
 {
     if (const Failure problem = open(); problem)
         return {UndoResult::LeftAlone, problem};
-    follow();
-    if (m_cuts.empty() && !m_isBefore)
-        return {UndoResult::LeftAlone,
-                {ReasonCode::ChangedSince,
-                 "it is no longer as the report says, " + expected() + ", but " + stateOf(m_present)}};
+    if (!follow(stateOf(m_present))) {
+        m_cutOff = cutOff();
+        if (m_cutOff == nullptr || !follow(m_cutOff->before))
+            return {UndoResult::LeftAlone,
+                    {ReasonCode::ChangedSince,
+                     "it is no longer as the report says, " + expected() + ", but " + stateOf(m_present)}};
+    }
     UndoResult result{m_undoneAlready ? UndoResult::UndoneAlready : UndoResult::NothingDone};
     if (!m_cuts.empty()) {
         if (const Failure problem = whyNotCut(); problem)
             return {UndoResult::LeftAlone, problem};
         result = dryRun ? UndoResult{UndoResult::Undone} : cut();
+    } else if (m_cutOff != nullptr && !dryRun) {
+        result.note = restoreTime();
     }
     if (result.kind != UndoResult::LeftAlone && m_olderStays)
         result.reason = olderStays;
@@ -116,9 +121,9 @@ Failure DocumentUndo::open()
 }
 
 /// Goes back from state to state. What is newer than the state that the document is in has been undone.
-void DocumentUndo::follow()
+/// \returns false when that is none of them.
+bool DocumentUndo::follow(std::string state)
 {
-    std::string state = stateOf(m_present);
     for (const AppendedUpdate& update : m_document.updates) {
         m_olderStays = !m_cuts.empty() || m_isBefore;
         if (isAfter(update, state)) {
@@ -131,6 +136,18 @@ void DocumentUndo::follow()
             m_olderStays = false;
         }
     }
+    return !m_cuts.empty() || m_isBefore;
+}
+
+/// The update that somebody has cut off who was killed before the time was restored; null for none.
+const AppendedUpdate* DocumentUndo::cutOff() const
+{
+    const auto found =
+        std::find_if(m_document.updates.begin(), m_document.updates.end(), [this](const auto& update) {
+            return m_present.st_size == sizeOf(update.before) &&
+                   checksumOf(m_file.get(), m_present.st_size) == update.checksum;
+        });
+    return found == m_document.updates.end() ? nullptr : &*found;
 }
 
 bool DocumentUndo::isAfter(const AppendedUpdate& update, const std::string& state) const
@@ -170,13 +187,23 @@ UndoResult DocumentUndo::cut() const
                                                                    : replace(before);
 }
 
+/// \returns a note, empty when all is well.
+std::string DocumentUndo::restoreTime() const
+{
+    const bool restored =
+        lockDocument(m_file.get()) != DocumentLock::Held &&
+        isAsRead(m_file.get(), m_document.path, m_present) &&
+        futimens(m_file.get(), changeTime(*FileState::fromText(m_cutOff->before)).data()) == 0;
+    return restored ? "" : timeLost;
+}
+
 /// A file's size changes in one step, also when power fails.
 UndoResult DocumentUndo::cutInPlace(const InPlaceFile& file, const FileState& before) const
 {
-    if (ftruncate(file.get(), before.size) != 0)
+    if (!file.cut(before.size))
         return {UndoResult::LeftAlone, Failure::ofSystem(errno, ReasonCode::WriteFailed)};
     UndoResult result{UndoResult::Undone};
-    if (futimens(file.get(), changeTime(before.time).data()) != 0)
+    if (!file.setTime(before.time))
         result.note = timeLost;
     if (!flushFile(file.get()))
         result.note +=
@@ -192,7 +219,7 @@ UndoResult DocumentUndo::replace(const FileState& before) const
     if (const Failure problem = copyBegin(m_file.get(), size, temporary); problem)
         return {UndoResult::LeftAlone, problem};
     const bool timeKept =
-        utimensat(AT_FDCWD, temporary.c_str(), changeTime(before.time).data(), AT_SYMLINK_NOFOLLOW) == 0;
+        utimensat(AT_FDCWD, temporary.c_str(), changeTime(before).data(), AT_SYMLINK_NOFOLLOW) == 0;
     const auto beforeRename = [this](const struct stat&, const std::string&) {
         if (!isAsRead(m_file.get(), m_document.path, m_present))
             throw DocumentError(changedMeanwhile);

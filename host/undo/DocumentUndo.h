@@ -47,8 +47,10 @@ public:
 private:
     Failure open();
     std::string expected() const;
-    void follow();
+    bool follow(std::string state);
+    const AppendedUpdate* cutOff() const;
     bool isAfter(const AppendedUpdate& update, const std::string& state) const;
+    std::string restoreTime() const;
     Failure whyNotCut() const;
     UndoResult cut() const;
     UndoResult cutInPlace(const InPlaceFile& file, const FileState& before) const;
@@ -60,6 +62,7 @@ private:
     std::vector<const AppendedUpdate*> m_cuts; ///< The newest first.
     bool m_isBefore = false;                   ///< The document is as it was before some update,
     bool m_undoneAlready = false;              ///< and one that the run has made.
+    const AppendedUpdate* m_cutOff = nullptr;  ///< It is so, but for its time.
     bool m_olderStays = false;
 };
 

@@ -96,6 +96,8 @@ void UndoPlan::takeLine(std::string_view line, std::size_t number)
     if (json.isObject() && json.object().contains("file") && json.object().contains("status")) {
         ++m_lines;
         takeResult(json.object(), number);
+    } else if (Report::isAboutRun(json.object())) {
+        ++m_lines;
     } else if (m_unreadable++ == 0) {
         m_firstUnreadable = number;
     }

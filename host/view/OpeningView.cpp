@@ -48,7 +48,7 @@ ViewEntry entryOf(const PreferenceRow& preference)
     throw std::invalid_argument("a viewer preference that is no entry of the view");
 }
 
-/// One that the dialog has, or that means the same when it is missing.
+/// Of a preference that reads as a value where it is missing, too.
 std::string preferenceInWords(const PreferenceRow& preference, int value)
 {
     return preference.valueLabels.empty() ? yesOrNo(value == 1)
@@ -79,6 +79,8 @@ OpeningView OpeningView::read(TelvarPDFLibraryCPDylibCPP1311& library)
     OpeningView view;
     view.m_pageCount = library.PageCount();
     view.m_signatures = library.SecurityInfo(engine::SignatureCount);
+    view.m_certified = library.SecurityInfo(engine::Certification) != 0;
+    view.m_bookmarks = library.OutlineCount();
     view.m_encrypted = library.EncryptionStatus() != engine::NotEncrypted;
     const PresentView present(library);
     for (const viewentries::Description& each : viewentries::all())
@@ -116,6 +118,10 @@ std::string OpeningView::factsInWords() const
         text += line("Encrypted", "yes");
     if (m_signatures > 0)
         text += line("Signatures", std::to_string(m_signatures));
+    if (m_certified)
+        text += line("Certified", "yes");
+    if (m_bookmarks > 0)
+        text += line("Bookmarks", std::to_string(m_bookmarks));
     return text;
 }
 
@@ -149,6 +155,8 @@ QJsonObject OpeningView::toJson() const
     object.insert("pages", m_pageCount);
     object.insert("encrypted", m_encrypted);
     object.insert("signatures", m_signatures);
+    object.insert("certified", m_certified);
+    object.insert("bookmarks", m_bookmarks);
     object.insert("openAction", openActionInJson(object.value("openAction")));
     return object;
 }

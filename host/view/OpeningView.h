@@ -36,6 +36,8 @@ private:
 
     int m_pageCount = 0;
     int m_signatures = 0;
+    int m_bookmarks = 0;
+    bool m_certified = false;
     bool m_encrypted = false;
     ViewChange m_entries; ///< The magnification only where there is a destination.
     std::string m_action;

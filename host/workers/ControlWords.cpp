@@ -14,7 +14,7 @@ std::optional<std::string> ControlWords::next()
 {
     while (!m_bytes.empty() || fill()) {
         const std::size_t end = std::min(m_bytes.find('\n'), m_bytes.size());
-        m_word.append(m_bytes, 0, std::min(end, longestWord + 1 - std::min(m_word.size(), longestWord)));
+        m_word.append(m_bytes, 0, std::min(end, longestWord - m_word.size()));
         const bool isWhole = end < m_bytes.size();
         m_bytes.erase(0, end + (isWhole ? 1 : 0));
         if (isWhole)

@@ -39,7 +39,7 @@ const std::size_t worthNapping = 16; // pieces for each worker
 // may the worker have been.
 const std::chrono::seconds heldUp(1);
 
-// When so many workers in a row have ended at no piece, the rest is done one at a time.
+// When so many workers in a row have ended before they took a piece, the rest is done one at a time.
 const int mostFruitless = 3;
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -74,13 +74,13 @@ Failure describeEnd(int status, std::optional<int> outsideCall)
             "the worker process ended on it with status " + std::to_string(WEXITSTATUS(status))};
 }
 
-// A worker's own ends, for the handler that takes no arguments.
+// Of this process, when it is a worker: a terminate handler takes no arguments.
 WorkerSlot* ownSlot = nullptr;
 int ownWakeUps = -1;
 
 void tell(WorkerSlot::Kind kind, std::string_view text)
 {
-    if (ownSlot->answer(kind, text)) // a wake-up that fails is made up for by the end of this process
+    if (ownSlot->answer(kind, text)) // if the wake-up fails, the program notices the end of this process
         while (write(ownWakeUps, "", 1) < 0 && errno == EINTR) {
         }
 }
@@ -280,7 +280,7 @@ void WorkerPool::serve(Process& process, int wakeUps, pid_t parent)
                 worker = lockedInWorker(wakeUps);
             const Worker::Answer answer = worker->answer(m_round[place], slot);
             if (answer.text.size() > WorkerSlot::largestAnswer)
-                throw std::length_error("what there is to tell of it is longer than 128 KiB");
+                throw std::length_error("what there is to tell of it is longer than 512 KiB");
             const bool again = answer.again && m_round.size() > 1;
             tell(again ? WorkerSlot::Again : WorkerSlot::Answered, answer.text);
             if (again)

@@ -17,7 +17,7 @@ namespace host {
 class WorkerSlot
 {
 public:
-    static constexpr std::size_t largestAnswer = 128 << 10;
+    static constexpr std::size_t largestAnswer = 512 << 10;
     static constexpr std::size_t largestNote = 8 << 10;
 
     static constexpr std::uint64_t none = UINT64_MAX;

@@ -2,6 +2,7 @@
 
 #include "SaturatedInt.h"
 #include "TelvarPDFLibraryCPDylibCPP1311.h"
+#include "ViewNumbers.h"
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -249,13 +250,12 @@ void CActionUtils::SetupStandardFontsComboBox(QComboBox* box)
 
 void CActionUtils::SetupSystemFontsComboBox(QComboBox* box)
 {
-    const int characterSet = 2;
-    const int options = 1;
     box->clear();
     TelvarPDFLibraryCPDylibCPP1311 library(L"TelvarPDFLibraryCPDylib1311.dylib");
     if (!library.LibraryLoaded())
         return;
-    const std::wstring fonts = library.GetInstalledFontsByCharset(characterSet, options);
+    const std::wstring fonts =
+        library.GetInstalledFontsByCharset(pdflibrary::AllCharacterSets, pdflibrary::FontFamilyNames);
     append(box, namesIn(QString::fromUcs4(reinterpret_cast<const char32_t*>(fonts.data()),
                                           static_cast<int>(fonts.size()))));
 }

@@ -3,7 +3,8 @@
 #include <climits>
 #include <cmath>
 
-/// The integer part of a number; the nearest int beyond its range, 0 for what is not a number.
+/// The integer part of a number; the nearest int beyond its range, 0 for what is not a number. A cast of such
+/// numbers is undefined.
 inline int saturatedInt(double value)
 {
     if (std::isnan(value))

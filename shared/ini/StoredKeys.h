@@ -8,14 +8,17 @@
 
 /// The keys of the files that keep an action's settings, and those that the save dialogs add to a settings
 /// map. All files are INI files in QSettings' format with their keys at the top level; a settings map is one
-/// value, a QVariantMap.
+/// value, a QVariantMap. The keys are part of the files' format: none is ever renamed.
 namespace storedkeys {
 
 /// Action lists, "*.xqq": a named series of actions.
 namespace actionlist {
 inline constexpr char suffix[] = ".xqq";
+/// What people call the list, a text.
 inline constexpr char sequenceName[] = "SequenceName";
+/// The group that the host shows it in, a text.
 inline constexpr char sequenceCategory[] = "SequenceCategory";
+/// The host's own; 0 in a new list.
 inline constexpr char ioSettings[] = "IOSettings";
 
 /// The key of entry `number`, from 0, that holds the action's name. An entry is present when this key is.
@@ -30,7 +33,8 @@ inline QString actionPrefsKey(int number)
     return QStringLiteral("ActionPrefs") + QString::number(number);
 }
 
-/// The numbers of the entries that are present, ascending.
+/// \param keys all keys of a file, in any order.
+/// \returns the numbers of the entries that are present, ascending; there may be gaps between them.
 inline std::vector<int> entryNumbers(const QStringList& keys)
 {
     std::vector<int> numbers;
@@ -48,7 +52,9 @@ inline std::vector<int> entryNumbers(const QStringList& keys)
 /// Favourites, "*.ini": a settings map with an icon, a QImage.
 namespace favorite {
 inline constexpr char suffix[] = ".ini";
+/// The settings map; its "CollectionName" is what people call the favourite.
 inline constexpr char actionPrefs[] = "ActionPrefs";
+/// At most 42 by 42 pixels.
 inline constexpr char actionIcon[] = "ActionIcon";
 } // namespace favorite
 
@@ -59,10 +65,14 @@ inline constexpr char toolSettings[] = "ToolSettings";
 
 /// What the save dialogs put into a settings map beside the action's own keys.
 namespace request {
+/// The action's name, which an action list keeps in a key of its own.
 inline constexpr char actionName[] = "ActionName";
+/// Of a list to be stored: its name, its category, and whether a list of that name gives way (else the action
+/// becomes one more entry of it).
 inline constexpr char actionListName[] = "ActionListName";
 inline constexpr char actionListCategory[] = "ActionListCategory";
 inline constexpr char actionListOverwrite[] = "ActionListOverwrite";
+/// The name of a favourite.
 inline constexpr char collectionName[] = "CollectionName";
 } // namespace request
 

@@ -12,10 +12,13 @@
 /// QDataStream follows whatever nesting, counts and sizes the bytes claim until stack, memory or patience is
 /// gone. So the bytes are gone through first, by what each type may hold: containers at most 64 deep, no
 /// count beyond the bytes that are there, no picture above 256 MiB, no time zone that is a path elsewhere.
-/// Decoding then costs memory and time in proportion to the bytes, apart from such a picture.
+/// Decoding then costs memory and time in proportion to the bytes, apart from such a picture. One thread an
+/// object; nothing is thrown but for want of memory.
 class VariantBytes
 {
 public:
+    /// Looks at nothing yet.
+    /// \param bytes any; a copy is kept.
     /// \param version QDataStream::Qt_4_0, or Qt_5_6 for a variant that holds a QDateTime and nothing else.
     VariantBytes(const QByteArray& bytes, QDataStream::Version version);
 
@@ -29,6 +32,7 @@ public:
 private:
     static constexpr quint32 nullLength = 0xffffffff;
 
+    // Each steps over what its name says, and returns false, with the problem set, where it is not there.
     bool variant(int depth);
     bool payload(quint32 type, int depth);
     bool container(quint32 type, int depth);
@@ -52,6 +56,7 @@ private:
     bool picture();
     bool pictureHead(qint64 length);
 
+    /// \returns false, for its callers to return.
     bool refuse(const QString& problem);
     bool skip(qint64 count);
     bool text(QString* value = nullptr);
@@ -60,8 +65,10 @@ private:
     bool number(quint32& value);
     bool byte(quint8& value);
     qint64 left() const { return m_bytes.size() - m_at; }
+    /// Puts other bytes in the place of some that were gone over.
     void patch(qint64 at, const QByteArray& bytes);
 
+    /// As many steps as a count says that stands here; each of them takes four bytes at least.
     template <class Step>
     bool each(Step step);
 

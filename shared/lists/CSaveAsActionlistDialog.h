@@ -8,11 +8,17 @@
 
 /// Asks for a name and a category and stores an action's settings as a new action list, or adds them to the
 /// list of that name. It saves once for each call of LoadPrefsData(). GUI thread.
+///
+///     CSaveAsActionlistDialog dialog(this);
+///     dialog.LoadPrefsData(&prefs);
+///     dialog.exec();
 class CSaveAsActionlistDialog : public CQuintarDialog
 {
     Q_OBJECT
 
 public:
+    /// Offers the categories of the stored lists, as they are now.
+    /// \param parent decides the colours, see CQuintarDialog; it does not own a dialog on the stack.
     /// \param flags not used.
     explicit CSaveAsActionlistDialog(QWidget* parent, Qt::WindowFlags flags = Qt::WindowFlags());
 
@@ -35,9 +41,11 @@ public slots:
     void on_UpdateUI();
 
 protected:
+    /// Return and Enter save, whatever has the focus.
     void keyPressEvent(QKeyEvent* event) override;
 
 public:
+    /// The form, for callers that fill in a name.
     Ui_saveAsActionlistDialog ui;
 
 private:

@@ -35,6 +35,7 @@ public slots:
     void on_SaveToFile();
 
 public:
+    /// The form, for callers that set the icon that is offered.
     Ui_saveAsCollectionDialog ui;
 
 private:

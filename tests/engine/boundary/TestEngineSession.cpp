@@ -317,7 +317,8 @@ private slots:
     {
         LoadedLibrary library;
         const std::string turned = "<< /Type /Page /Parent 2 0 R /Rotate 90 >>";
-        library.LoadFromString(PdfBuilder().catalog("").pages(3).object(4, turned).bytes(), L"");
+        const std::string original = PdfBuilder().catalog("").pages(3).object(4, turned).bytes();
+        library.LoadFromString(original, L"");
         library.SetPageMode(5);
         library.SetPageLayout(3);
         library.SetViewerPreferences(1, 1);
@@ -328,6 +329,11 @@ private slots:
         const QString appended = m_folder.filePath("appended.pdf");
         QCOMPARE(library.SaveToFile(wide(whole)), 1);
         QCOMPARE(library.AppendToFile(wide(appended)), 1);
+        QCOMPARE(QByteArray::fromStdString(original + library.AppendToString(engine::ForCopy)),
+                 bytesOf(appended));
+        QVERIFY(library.AppendToString(engine::ForInPlace).ends_with("%%EOF\n"));
+        QCOMPARE(library.AppendToString(2), std::string());
+        QCOMPARE(library.LastErrorCode(), int(ErrorCode::BadArgument));
         for (const QString& path : {whole, appended}) {
             QCOMPARE(shown(path, "PageMode"), QByteArray("/UseAttachments"));
             QCOMPARE(shown(path, "PageLayout"), QByteArray("/TwoColumnRight"));

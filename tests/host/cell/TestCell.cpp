@@ -2,7 +2,7 @@
 #include "host/cell/Cell.h"
 #include "support/PdfBuilder.h"
 #include "support/Rows.h"
-#include "support/TroubledProgram.h"
+#include "support/SpecialDocuments.h"
 #include "support/WorkFolder.h"
 
 #include <QProcess>
@@ -89,7 +89,7 @@ private slots:
         m_folder.emplace();
         qputenv("HOME", m_folder->path().toUtf8());
         m_folder->put(".ssh/id");
-        m_program = troubledProgramIn(m_folder->path());
+        m_program = programBesideTrouble(m_folder->path("installed"));
     }
 
     /// A document does it in the cell, and outside.

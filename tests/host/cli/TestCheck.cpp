@@ -78,6 +78,31 @@ private slots:
         QVERIFY(quintar({"check", "--display-doc-title", "yes", "d/plain.pdf"}).err.contains(note));
     }
 
+    void showsBookmarks()
+    {
+        const auto bookmark = [](const std::string& entries) { return "<< /Title " + entries + " >>"; };
+        PdfBuilder builder;
+        builder.catalog("/Outlines 10 0 R").pages(2).object(10, "<< /First 11 0 R >>");
+        builder.object(11, bookmark("(Safety) /First 12 0 R /Next 13 0 R /Count 1 /Dest [ 4 0 R /Fit ]"));
+        builder.object(12, bookmark("<feff0047001b> /Next 12 0 R"));
+        builder.object(13, bookmark("(Setup)"));
+        WorkFolder::put("d/marked.pdf", builder.bytes());
+        QCOMPARE(shown("d/marked.pdf").value("bookmarks"), QJsonValue(3));
+        const ProgramRun words = quintar({"show", "--outline", "all", "d/marked.pdf"});
+        QVERIFY2(words.out.endsWith("\n    Safety (page 2)\n      G\\x1b\n    Setup\n"), words.out);
+        QVERIFY2(words.err.contains("lead in a circle"), words.err);
+        const ProgramRun two = quintar({"show", "--json", "--outline", "2", "d/marked.pdf"});
+        const QJsonObject object = ProgramRun::jsonLines(two.out).value(0);
+        QCOMPARE(
+            object.value("outline").toArray(),
+            (QJsonArray{
+                QJsonObject{{"level", 1}, {"title", "Safety"}, {"page", 2}, {"open", true}},
+                QJsonObject{{"level", 2}, {"title", "G\x1b"}, {"page", QJsonValue()}, {"open", false}}}));
+        QVERIFY(object.value("outlineNote").toString().startsWith("only the first 2 bookmarks"));
+        WorkFolder::put("view.json", two.out.toStdString());
+        QCOMPARE(quintar({"check", "--view", "view.json", "d/marked.pdf"}).status, 0);
+    }
+
     void shownJsonIsAView()
     {
         WorkFolder::put("view.json", quintar({"show", "--json", "d/all.pdf"}).out.toStdString());
@@ -137,7 +162,7 @@ private slots:
 
     void aCostlyDocumentCostsItself()
     {
-        WorkFolder::put("d/long.pdf", titled("", std::string(300000, 'x')));
+        WorkFolder::put("d/long.pdf", titled("", std::string(600000, 'x')));
         const ProgramRun run = quintar({"show", "-j", "1", "d"});
         QCOMPARE(run.status, 1);
         QVERIFY2(run.err.startsWith("quintar: d/long.pdf: what there is to tell") && run.err.count('\n') == 1,

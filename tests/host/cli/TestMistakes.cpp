@@ -27,7 +27,7 @@ private slots:
         row("run -report x a.pdf", "unknown option -r; did you mean \"--report\"?");
         row("run -x a.pdf", "unknown option -x\n");
         row("run --wombat a.pdf", "unknown option --wombat; \"quintar run --help-all\" lists the options");
-        row("run --re x a.pdf", "--re may be one of --rewrite, --report, --resume");
+        row("run --re x a.pdf", "--re may be one of --replace, --rewrite, --report, --resume");
         row("run --in-place=yes a.pdf", "the option --in-place takes no value");
         row("run a.pdf --jobs", "the option --jobs needs a value");
         row("run a.pdf -nj", "the option -j needs a value");

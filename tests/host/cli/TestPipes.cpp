@@ -44,7 +44,7 @@ private slots:
         QCOMPARE(stat(qPrintable(m_folder.path() + "/new/out.pdf"), &status), 0);
         QCOMPARE(int(status.st_mode & 07777), 0640);
         const auto lines = ProgramRun::jsonLines(QByteArray::fromStdString(WorkFolder::contentOf("report")));
-        QCOMPARE(lines.value(0).value("file"), QJsonValue("-"));
+        QCOMPARE(lines.value(1).value("file"), QJsonValue("-"));
 
         const ProgramRun unchanged = quintar({"-o", "-", "-"}, piped.out);
         QCOMPARE(unchanged.out, piped.out);
@@ -87,9 +87,11 @@ private slots:
         const ProgramRun run = quintar({"-o", "out", "--report", "-", "in.pdf", "no.pdf"});
         QCOMPARE(run.status, 1);
         const auto lines = ProgramRun::jsonLines(run.out);
-        QCOMPARE(run.out.count('\n'), 2);
-        QCOMPARE(lines[0].value("status"), QJsonValue("changed"));
-        QCOMPARE(lines[1].value("status"), QJsonValue("failed"));
+        QCOMPARE(run.out.count('\n'), 4);
+        QCOMPARE(lines[0].value("event"), QJsonValue("start"));
+        QCOMPARE(lines[1].value("status"), QJsonValue("changed"));
+        QCOMPARE(lines[2].value("status"), QJsonValue("failed"));
+        QCOMPARE(lines[3].value("event"), QJsonValue("end"));
         QCOMPARE(run.err, QByteArray("failed: no.pdf: no such file or directory\n"
                                      "1 changed, 0 unchanged, 1 failed\n"));
         // What is in the file that standard output goes to stays.
@@ -121,7 +123,7 @@ private slots:
         QCOMPARE(run.err.count(page.toUtf8()), 1);
         QCOMPARE(run.err.count(rows.toUtf8()), 1);
         const auto lines = ProgramRun::jsonLines(QByteArray::fromStdString(WorkFolder::contentOf("report")));
-        const QString note = lines.value(0).value("note").toString();
+        const QString note = lines.value(1).value("note").toString();
         QVERIFY2(note.contains(page) && note.contains(rows), qPrintable(note));
     }
 

@@ -1,8 +1,9 @@
 // Runs the program as a user does, and has its documents confirmed by another reader.
+#include "support/FileStatus.h"
 #include "support/PdfBuilder.h"
 #include "support/ProgramRun.h"
 #include "support/Rows.h"
-#include "support/TroubledProgram.h"
+#include "support/SpecialDocuments.h"
 #include "support/WorkFolder.h"
 
 #include <QSettings>
@@ -28,24 +29,6 @@ const QStringList panelAndPage{"--set", "LayoutAndMagnCheckBox=true",
                                "--set", "PageLayoutComboBox=One Column",
                                "--set", "MagnificationComboBox=1",
                                "--set", "OpenToPageSpinBox=2"};
-
-std::string encrypted(const std::string& plain, const QStringList& options)
-{
-    const QTemporaryDir folder;
-    const QString in = folder.filePath("in.pdf");
-    std::ofstream(in.toStdString(), std::ios::binary) << plain;
-    const ProgramRun run("qpdf", QStringList{in} + options + QStringList{"--", folder.filePath("out.pdf")});
-    return run.status == 0 ? WorkFolder::contentOf(folder.filePath("out.pdf").toStdString()) : std::string();
-}
-
-std::string signedDocument(const std::string& catalogEntries = {})
-{
-    PdfBuilder builder;
-    builder.catalog("/AcroForm << /SigFlags 3 /Fields [ 8 0 R ] >> " + catalogEntries).pages(2);
-    builder.object(8, "<< /FT /Sig /T (Signature) /V 9 0 R >>");
-    builder.object(9, "<< /Type /Sig /Filter /Adobe.PPKLite /ByteRange [ 0 10 20 30 ] /Contents <00> >>");
-    return builder.bytes();
-}
 
 std::string withLast(std::string bytes, const std::string& old, const std::string& with)
 {
@@ -122,15 +105,28 @@ private slots:
                                     {"reason", QJsonValue()}}));
     }
 
+    void changesInPlace_data()
+    {
+        const Rows<QString, bool, QByteArray>
+            row; // whether the document has another name, and how it is saved
+        row("where it lies", "--in-place", false, "appended in place");
+        row("with another name", "--in-place", true, "appended");
+        row("as asked for", "--in-place --replace", false, "appended");
+    }
+
     void changesInPlace()
     {
+        const auto [words, isLinked, saved] = Rows<QString, bool, QByteArray>::current();
         const std::string original = put("real/a.pdf");
         QCOMPARE(chmod("real/a.pdf", 0640), 0);
         fs::create_symlink("real/a.pdf", "link.pdf");
-        fs::create_hard_link("real/a.pdf", "kept.pdf");
-        const ProgramRun run = apply({"--in-place", "link.pdf"});
+        isLinked ? fs::create_hard_link("real/a.pdf", "kept.pdf") : fs::copy("real/a.pdf", "kept.pdf");
+        const ino_t file = statusOf("real/a.pdf").st_ino;
+        const ProgramRun run = apply(words.split(' ') + QStringList{"link.pdf"});
         QCOMPARE(run.err, QByteArray());
         QCOMPARE(run.status, 0);
+        QVERIFY2(run.out.startsWith("changed (" + saved + ")  link.pdf"), run.out);
+        QCOMPARE(statusOf("real/a.pdf").st_ino == file, saved == "appended in place");
         QVERIFY(fs::is_symlink("link.pdf"));
         QCOMPARE(fs::read_symlink("link.pdf").string(), std::string("real/a.pdf"));
         QCOMPARE(int(fs::status("real/a.pdf").permissions()), 0640);
@@ -220,6 +216,7 @@ private slots:
         row("number of jobs", "run -o out --jobs 0 a.pdf" + set, "1 to 1024");
         row("signed", "run -o out --signed maybe a.pdf" + set, "refuse, append or append-certified");
         row("rewriting in place", "run --in-place --rewrite a.pdf" + set, "--rewrite goes with -o");
+        row("replacing elsewhere", "run -o out --replace a.pdf" + set, "--replace goes with --in-place");
         row("null without list", "run -o out --null a.pdf" + set, "--files-from");
         row("endless list", "run -o out --files-from /dev/zero" + set, "too large");
         row("empty name", "run -o out ''" + set, "empty");
@@ -493,7 +490,7 @@ private slots:
 
         put("1-hang.pdf");
         put("2-good.pdf");
-        const QString program = troubledProgramIn(m_folder->path());
+        const QString program = programBesideTrouble(path("installed"));
         QProcess process;
         process.start("sh", QStringList{"-c", "trap '' HUP; exec \"$0\" \"$@\"", program, "run", "--jobs",
                                         "1", "--timeout", "2", "--report", "report", "--in-place",
@@ -512,7 +509,7 @@ private slots:
         for (const char* name : {"in/1-good.pdf", "in/2-slow.pdf", "in/3-good.pdf"})
             put(name);
         QProcess process;
-        process.start(troubledProgramIn(m_folder->path()),
+        process.start(programBesideTrouble(path("installed")),
                       QStringList{"run", "--jobs", "1", "-o", "out", "in"} + panelAndPage);
         QVERIFY(waitFor([] { return fs::exists("out/1-good.pdf"); }));
         fs::remove_all("out");
@@ -527,8 +524,9 @@ private slots:
         for (const QStringList& target : {QStringList{"--in-place"}, QStringList{"-o", "out"}}) {
             put("replaced.pdf");
             const std::string newer = put("newer", PdfBuilder::simple("/PageMode /UseThumbs"));
-            const ProgramRun run(troubledProgramIn(m_folder->path()),
-                                 QStringList{"run", "--sandbox", "off", "replaced.pdf"} + target + panelAndPage,
+            const ProgramRun run(programBesideTrouble(path("installed")),
+                                 QStringList{"run", "--sandbox", "off", "replaced.pdf"} + target +
+                                     panelAndPage,
                                  m_folder->path());
             QVERIFY2(reasonFor(run.err, "replaced.pdf").contains("changed by another program"), run.err);
             QVERIFY(WorkFolder::contentOf("replaced.pdf") == newer);
@@ -563,7 +561,7 @@ private slots:
             const QString name = trouble < 0 ? "good" : troubles[trouble];
             put(QString("in/%1-%2.pdf").arg(number, 3, 10, QChar('0')).arg(name).toStdString());
         }
-        const ProgramRun run(troubledProgramIn(m_folder->path()),
+        const ProgramRun run(programBesideTrouble(path("installed")),
                              QStringList{"run", "--jobs", "3", "--timeout", "8", "--memory", "300", "-o",
                                          "out", "--report", "report", "in"} +
                                  panelAndPage,
@@ -589,7 +587,7 @@ private slots:
         for (const char* name : {"in/1-good.pdf", "in/2-hang.pdf", "in/3-late-hang.pdf", "in/4-good.pdf"})
             put(name);
         QProcess process;
-        process.start(troubledProgramIn(m_folder->path()),
+        process.start(programBesideTrouble(path("installed")),
                       QStringList{"run", "--jobs", "2", "--in-place", "--report", "report", "in"} +
                           panelAndPage);
         QVERIFY(waitFor([] { return WorkFolder::contentOf("in/3-late-hang.pdf") != PdfBuilder::simple(); }));
@@ -620,7 +618,7 @@ private slots:
         const auto [words, folder] = Rows<QString, QString>::current();
         for (const char* name : {"in/1-late-crash.pdf", "in/2-good.pdf"})
             put(name);
-        const ProgramRun run(troubledProgramIn(m_folder->path()),
+        const ProgramRun run(programBesideTrouble(path("installed")),
                              QStringList{"run", "--report", "report"} + words.split(' ') + panelAndPage,
                              m_folder->path());
         QVERIFY2(run.out.endsWith("2 changed, 0 unchanged, 0 failed\n"), run.err);
@@ -642,8 +640,8 @@ private slots:
     // After a stop signal no document is begun, and one that takes long keeps no other waiting.
     void beginsNoDocumentTooLateOrTooEarly()
     {
-        const auto start = [program = troubledProgramIn(m_folder->path())](QProcess& process,
-                                                                    const QStringList& options) {
+        const auto start = [program = programBesideTrouble(path("installed"))](QProcess& process,
+                                                                               const QStringList& options) {
             process.start(program, QStringList{"run"} + options + panelAndPage);
         };
         for (int number = 0; number < 60; ++number)
@@ -723,8 +721,8 @@ private slots:
         QVERIFY2(!second.out.contains("in/c.pdf"), second.out);
         const QList<QJsonObject> other =
             ProgramRun::jsonLines(QByteArray::fromStdString(WorkFolder::contentOf("other")));
-        QCOMPARE(other.size(), 5);
-        QCOMPARE(other[3].value("file"), QJsonValue("in/c.pdf"));
+        QCOMPARE(other.size(), 7);
+        QCOMPARE(other[4].value("file"), QJsonValue("in/c.pdf"));
 
         fs::remove("out/a.pdf");
         QCOMPARE(counts(resumed(toOut, "report")),
@@ -848,8 +846,10 @@ private:
     {
         QList<QJsonObject> lines =
             ProgramRun::jsonLines(QByteArray::fromStdString(WorkFolder::contentOf("report")));
-        const auto isBegun = [](const QJsonObject& line) { return line.value("status") == "begun"; };
-        lines.erase(std::remove_if(lines.begin(), lines.end(), isBegun), lines.end());
+        const auto isOfNoResult = [](const QJsonObject& line) {
+            return line.value("status") == "begun" || line.contains("event");
+        };
+        lines.erase(std::remove_if(lines.begin(), lines.end(), isOfNoResult), lines.end());
         return lines;
     }
 

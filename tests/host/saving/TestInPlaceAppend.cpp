@@ -63,11 +63,11 @@ struct stat oldState()
 } // namespace
 
 extern "C" {
-ssize_t __real_pwrite(int file, const void* bytes, std::size_t size, off_t offset);
-ssize_t __wrap_pwrite(int file, const void* bytes, std::size_t size, off_t offset)
+ssize_t __real_write(int file, const void* bytes, std::size_t size);
+ssize_t __wrap_write(int file, const void* bytes, std::size_t size)
 {
     const int problem = nextProblem("write");
-    return problem > 0 ? -1 : __real_pwrite(file, bytes, problem == half ? (size + 1) / 2 : size, offset);
+    return problem > 0 ? -1 : __real_write(file, bytes, problem == half ? (size + 1) / 2 : size);
 }
 
 int __wrap_fdatasync(int)
@@ -191,8 +191,7 @@ private slots:
         };
         problems = {{"flush", {problem}}};
         const InPlaceAppend::Outcome outcome = append();
-        QVERIFY((outcome.problem.text + outcome.aftermath).find("changed by another program") !=
-                std::string::npos);
+        QVERIFY(outcome.whole().text.find("changed by another program") != std::string::npos);
         QCOMPARE(WorkFolder::contentOf(name), left);
         QCOMPARE(cuts.size(), 0u);
     }
@@ -213,7 +212,7 @@ private slots:
         const auto settled = [&](const std::string& behind) {
             std::ofstream(name, std::ios::app) << behind;
             const std::optional<Placement> placement = Placement::fromRecord(noted.toRecord());
-            return placement.value().settle(name, {host::ReasonCode::Crashed, "it crashed"}, true);
+            return placement.value().settle(name, {ReasonCode::Crashed, "it crashed"}, true);
         };
         for (std::size_t size = 0; size < update.size(); ++size) {
             QVERIFY(!settled(update.substr(0, size)));

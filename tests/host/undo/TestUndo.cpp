@@ -192,6 +192,57 @@ private slots:
         QVERIFY(snapshotOf("in/b.pdf") == before);
     }
 
+    void leavesTheDocumentTheSameFile()
+    {
+        const ino_t file = statusOf("in/a.pdf").st_ino;
+        QCOMPARE(change("thumbs", "report").status, 0);
+        QCOMPARE(statusOf("in/a.pdf").st_ino, file);
+        QCOMPARE(undo({"report"}).status, 0);
+        QCOMPARE(statusOf("in/a.pdf").st_ino, file);
+        fs::create_hard_link("in/a.pdf", "other.pdf");
+        QCOMPARE(change("thumbs", "report").status, 0);
+        fs::rename("in/a.pdf", "changed.pdf");
+        fs::create_hard_link("changed.pdf", "in/a.pdf");
+        QCOMPARE(undo({"report"}).status, 0);
+        QVERIFY(WorkFolder::contentOf("changed.pdf") != WorkFolder::contentOf("in/a.pdf"));
+    }
+
+    // What a run leaves that is killed with all its workers while it appends where the document lies.
+    void takesHalfAnUpdateBack()
+    {
+        const Snapshots before = snapshots();
+        QCOMPARE(change("thumbs", "report").status, 0);
+        const std::string after = WorkFolder::contentOf("in/a.pdf");
+        const std::string report = WorkFolder::contentOf("report");
+        WorkFolder::put("report", report.substr(0, report.find('\n') + 1)); // the line "begun"
+        const std::size_t lastLines = after.rfind("startxref");
+        for (const std::size_t size : {after.size(), lastLines}) {
+            WorkFolder::put("in/a.pdf", after.substr(0, size));
+            QCOMPARE(undo({"report"}).out, "undone  " + m_folder->path("in/a.pdf").toUtf8() +
+                                               "\n1 undone, 0 undone already, 0 left alone\n");
+            QVERIFY(snapshots() == before);
+        }
+        for (const std::string& other : {after.substr(0, lastLines - 1),
+                                         after.substr(0, lastLines) + "startxref\n1\n", after + "%%EOF\n"}) {
+            WorkFolder::put("in/a.pdf", other);
+            QCOMPARE(undo({"report"}).status, 1);
+            QCOMPARE(WorkFolder::contentOf("in/a.pdf"), other);
+        }
+    }
+
+    // Killed itself, it may have cut a document off and not restored the time.
+    void restoresTheTimeOfWhatIsCutOffAlready()
+    {
+        const Snapshots before = snapshots();
+        QCOMPARE(change("thumbs", "report").status, 0);
+        fs::resize_file("in/a.pdf", before.at("in/a.pdf").bytes.size());
+        QVERIFY(
+            undo({"--dry-run", "report"}).out.contains("0 would be undone, 1 undone already, 0 left alone"));
+        QVERIFY(snapshots() != before);
+        QVERIFY(undo({"report"}).out.contains("0 undone, 1 undone already, 0 left alone"));
+        QVERIFY(snapshots() == before);
+    }
+
     // What another program did between two runs stays, and all that is older.
     void stopsAtAChangeBetweenTwoRuns()
     {
@@ -238,7 +289,7 @@ private slots:
     void mistrustsReports_data()
     {
         const Rows<QByteArray, QByteArray, QByteArray> row; // what is replaced in a report, and the reason
-        const QByteArray impossible = "line 2 of the report says what no run can have done";
+        const QByteArray impossible = "line 3 of the report says what no run can have done";
         row("a relative path", "\"output\":\"/", "\"output\":\"../", impossible);
         row("a path that ends early",
             "\"output\":", "\"outputBytes\":\"/etc/passwd%00.pdf\",\"output\":", impossible);
@@ -256,7 +307,7 @@ private slots:
         row("nothing about undoing", "\"undo\":", "\"x\":", "does not tell what stood there before");
         row("no line of a report", "{\"", "[\"", "it is no report of a run");
         row("a line that is too long",
-            "\"file\":", "\"x\":\"" + QByteArray(2 << 20, ' ') + "\",\"file\":", "line 1 is too long");
+            "\"file\":", "\"x\":\"" + QByteArray(2 << 20, ' ') + "\",\"file\":", "line 2 is too long");
     }
 
     void mistrustsReports()
