@@ -4,7 +4,7 @@
 #include "host/arguments/OptionParser.h"
 #include "host/change/ViewValues.h"
 #include "host/document/PresentView.h"
-#include "host/model/ModelDocument.h"
+#include "host/model/ModelView.h"
 #include "host/program/HostApplication.h"
 #include "host/program/InstallLayout.h"
 #include "host/program/PluginHost.h"
@@ -135,13 +135,11 @@ void ConfigureCommand::readDocument()
     m_password.read();
     Cell cell(m_sandbox);
     noteMissing(cell, m_sandbox);
-    const ModelDocument model =
-        ModelDocument::read(file, m_password.password(), cell, [](const PresentView& present) {
-            return ModelDocument{present.entries(), present.openAction()};
-        });
+    const ViewChange present = modelview::read(file, m_password.password(), cell,
+                                               [](const PresentView& view) { return view.entries(); });
     if (!m_source.file.empty())
         return;
-    m_document.emplace(model.view, model.openAction);
+    m_document.emplace(present);
     for (const std::string& each : m_document->notes())
         note(std::string(file).append(": ").append(each));
     m_settings = m_document->map();

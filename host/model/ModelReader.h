@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ModelDocument.h"
+#include "ModelView.h"
 #include "host/workers/WorkerPool.h"
 
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
@@ -15,17 +15,15 @@ class ModelReader : public Worker
 {
 public:
     /// All must outlive the object. Throws std::runtime_error when the library cannot be used.
-    ModelReader(const std::string& file, std::string_view password, const ModelDocument::Ask& ask);
+    ModelReader(const std::string& file, std::string_view password, const modelview::Ask& ask);
 
-    /// "" and the model's record, or the reason why there is none.
+    /// The record of what was asked for (ViewRecord.h). Throws what keeps it from being told.
     Answer answer(std::size_t piece, WorkerSlot& slot) override;
 
 private:
-    ModelDocument ask();
-
     const std::string& m_file;
     std::string_view m_password;
-    const ModelDocument::Ask& m_ask;
+    const modelview::Ask& m_ask;
     TelvarPDFLibraryCPDylibCPP1311 m_library;
 };
 

@@ -1,5 +1,6 @@
 #include "StreamFiles.h"
 
+#include "RunDestination.h"
 #include "host/files/FileDescriptor.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"
@@ -28,6 +29,11 @@ const std::size_t readAtOnce = 64 << 10;
 }
 
 } // namespace
+
+std::string shownName(const std::string& name)
+{
+    return name == RunDestination::standardStream ? "standard input" : name;
+}
 
 StreamFiles::StreamFiles()
 {

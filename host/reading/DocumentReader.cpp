@@ -39,9 +39,9 @@ std::optional<Reading> Reading::fromRecord(const std::string& record)
                    {static_cast<ReasonCode>(code), std::move(reason)}};
 }
 
-DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, std::string_view password,
-                               const MakeTeller& makeTeller)
-    : m_documents(documents), m_password(password),
+DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, std::string input,
+                               std::string_view password, const MakeTeller& makeTeller)
+    : m_documents(documents), m_input(std::move(input)), m_password(password),
       m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
 {
     if (!m_library.LibraryLoaded())
@@ -54,10 +54,11 @@ Worker::Answer DocumentReader::answer(std::size_t piece, WorkerSlot&)
     const RunPlan::Document& document = m_documents[piece];
     if (document.problem)
         return {Reading::failed(document.problem).toRecord()};
-    if (!loadDocument(m_library, document.name, m_password)) {
+    const std::string& file = document.name == RunDestination::standardStream ? m_input : document.name;
+    if (!loadDocument(m_library, file, m_password)) {
         const int code = m_library.LastErrorCode();
         return {Reading::failed(Failure::ofLibrary(code)).toRecord(),
-                code == static_cast<int>(engine::ErrorCode::OutOfMemory), isOutOfReach(document.name)};
+                code == static_cast<int>(engine::ErrorCode::OutOfMemory), isOutOfReach(file)};
     }
     const int id = m_library.SelectedDocument();
     Reading reading;

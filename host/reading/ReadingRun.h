@@ -14,6 +14,7 @@
 namespace host {
 
 class Cell;
+class StreamFiles;
 
 /// Has documents read by worker processes, many at a time, and prints in the documents' order what there is
 /// to tell of them: the texts, and on standard error failures and notes. Or it tells that as events, as it
@@ -35,6 +36,8 @@ public:
         bool quiet = false;
         /// Null for failures on standard error alone.
         FailureLine failureLine = nullptr;
+        /// Has the document "-"; null where there is none.
+        const StreamFiles* streams = nullptr;
     };
 
     /// Plan and cell must outlive the object.

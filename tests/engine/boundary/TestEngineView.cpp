@@ -58,6 +58,8 @@ QByteArray openAction(Session& session)
         return "none";
     QByteArray text = QByteArray::number(GetDestPage(session, id)) + " type " +
                       QByteArray::number(GetDestType(session, id));
+    if (GetDestValue(session, id, pdflibrary::DestinationForm) != GetDestType(session, id))
+        text += " form " + QByteArray::number(GetDestValue(session, id, pdflibrary::DestinationForm));
     for (int key = 1; key <= 5; ++key)
         text += ' ' + QByteArray::number(GetDestValue(session, id, key));
     const std::wstring name = GetDestName(session, id);
@@ -225,6 +227,8 @@ private slots:
         row("same zoom", "/OpenAction [3 0 R /XYZ 1 2 0.0833]", destinationZoom(8.33), "/OpenAction");
         row("zoom of a rectangle", "/OpenAction [3 0 R /FitR 1 2 3 4]", destinationZoom(50), "/OpenAction",
             "[ 3 0 R /XYZ 1 4 0.5 ]");
+        row("no zoom of a rectangle", "/OpenAction [3 0 R /FitR 1 2 3 4]", destinationZoom(0), "/OpenAction",
+            "[ 3 0 R /XYZ 1 4 null ]");
         row("zoom of a short array", "/OpenAction [0]", destinationZoom(50), "/OpenAction",
             "[ 0 /XYZ null null 0.5 ]");
         row("zoom of an action",
@@ -258,15 +262,15 @@ private slots:
         row("[4 0 R /XYZ 10 20.5 1.5]", "2 type 1 10 20.5 0 0 150");
         row("[4 0 R /XYZ null null null]", "2 type 1 0 0 0 0 0");
         row("[4 0 R /XYZ]", "2 type 1 0 0 0 0 0");
-        row("[4 0 R]", "2 type 1 0 0 0 0 0");
-        row("[4 0 R /Odd 1 2 3]", "2 type 1 1 2 0 0 300");
+        row("[4 0 R]", "2 type 1 form 0 0 0 0 0 0");
+        row("[4 0 R /Odd 1 2 3]", "2 type 1 form 0 1 2 0 0 300");
         row("[5 0 R /Fit]", "3 type 2 0 0 0 0 0");
         row("[5 0 R /FitH 700]", "3 type 3 0 700 0 0 0");
         row("[5 0 R /FitV 30]", "3 type 4 30 0 0 0 0");
-        row("[5 0 R /FitB]", "3 type 5 0 0 0 0 0");
+        row("[5 0 R /FitB]", "3 type 5 form 6 0 0 0 0 0");
         row("[5 0 R /FitBH 600]", "3 type 5 0 600 0 0 0");
-        row("[5 0 R /FitBV 40]", "3 type 5 40 0 0 0 0");
-        row("[5 0 R /FitR 1 2 3 4]", "3 type 1 1 4 3 2 0");
+        row("[5 0 R /FitBV 40]", "3 type 5 form 7 40 0 0 0 0");
+        row("[5 0 R /FitR 1 2 3 4]", "3 type 1 form 8 1 4 3 2 0");
         row("[0 /Fit]", "1 type 2 0 0 0 0 0");
         row("[2 /Fit]", "3 type 2 0 0 0 0 0");
         row("[3 /Fit]", "none");
@@ -330,6 +334,11 @@ private slots:
         row("height", destination(1, 0, 4, 7.25), "[ 3 0 R /FitV 7.25 ]", "1 type 4 7.25 0 0 0 0");
         row("visible", destination(1, 0, 5, 0, 741.889763779528), "[ 3 0 R /FitBH 741.889764 ]",
             "1 type 5 0 741.89 0 0 0");
+        row("box", destination(1, 0, 6), "[ 3 0 R /FitB ]", "1 type 5 form 6 0 0 0 0 0");
+        row("height of the box", destination(1, 0, 7, 7.25), "[ 3 0 R /FitBV 7.25 ]",
+            "1 type 5 form 7 7.25 0 0 0 0");
+        row("rectangle", destination(1, 0, 8, 7.25, 1000), "[ 3 0 R /FitR 7.25 0 612 1000 ]",
+            "1 type 1 form 8 7.25 1000 612 0 0");
         row("minus zero", destination(1, 33, 1, -0.0, 1e-9), "[ 3 0 R /XYZ 0 0 0.33 ]",
             "1 type 1 0 0 0 0 33");
     }
@@ -437,6 +446,7 @@ private slots:
         row("preference 0", preference(0, 1), bad);
         row("preference 13", preference(13, 1), bad);
         row("preference 101", preference(101, 1), bad);
+        row("preference 113", preference(113, 1), bad);
         row("no copies", preference(12, 0), bad);
         row("preference value 2", preference(1, 2), bad);
         row("preference value -2", preference(6, -2), bad);
@@ -445,11 +455,11 @@ private slots:
         row("page 0", destination(0, 0, 2), ErrorCode::UnknownPage);
         row("page 4", destination(4, 0, 2), ErrorCode::UnknownPage);
         row("type 0", destination(1, 0, 0), bad);
-        row("type 6", destination(1, 0, 6), bad);
+        row("type 9", destination(1, 0, 9), bad);
         row("negative zoom", destination(1, -5, 1), bad);
         row("left no number", destination(1, 0, 1, nan), bad);
         row("top infinite", destination(1, 0, 1, 0, HUGE_VAL), bad);
-        for (const int option : {13, 100, 113, -1})
+        for (const int option : {13, 100, 117, -1})
             row(QString("read preference %1").arg(option),
                 Setter([=](Session& s) { return GetViewerPreferences(s, option); }), bad);
         row("another action", Setter([](Session& s) { return int(GetActionType(s, 1).size()); }), bad);
@@ -466,7 +476,7 @@ private slots:
         row("destination -1", Setter([](Session& s) { return int(GetDestType(s, -1)); }),
             ErrorCode::UnknownDestination);
         row("value 0", Setter([](Session& s) { return int(GetDestValue(s, 1, 0)); }), bad);
-        row("value 6", Setter([](Session& s) { return int(GetDestValue(s, 1, 6)); }), bad);
+        row("value 7", Setter([](Session& s) { return int(GetDestValue(s, 1, 7)); }), bad);
         row("select page 4", Setter([](Session& s) { return int(SelectPage(s, 4)); }),
             ErrorCode::UnknownPage);
         row("box 0", Setter([](Session& s) { return int(GetPageBox(s, 0, 0)); }), bad);
@@ -520,14 +530,39 @@ private slots:
         QCOMPARE(GetActionType(opened.session, 0), type);
     }
 
-    void tellsWhatIsMissingFromWhatSaysNo()
+    void tellsWhatIsMissingOrInvalidFromWhatSaysNo_data()
     {
-        Opened opened(document("/PageMode /UseNone /Lang (de) /ViewerPreferences << /FitWindow false "
-                               "/CenterWindow 1 /Direction /R2L /NumCopies 0 >>"));
+        const Rows<std::string, QByteArray> row;
+        row("some", "/PageMode /UseNone /Lang (de) /ViewerPreferences << /FitWindow false /Direction /R2L >>",
+            "-1 -1 -1 0 -1 -1 -1 1 -1 -1 -1 -1 0 -1 0 -1");
+        row("wrong types",
+            "/PageMode (UseNone) /PageLayout 3 /Lang /de /ViewerPreferences << /HideToolbar (yes) "
+            "/CenterWindow "
+            "1 /NonFullScreenPageMode /FullScreen /Direction (R2L) /PickTrayByPDFSize /true /NumCopies 2.0 "
+            ">>",
+            "-2 -1 -1 -1 -2 -1 -2 -2 -1 -1 -2 -2 -2 -2 -2 -1");
+        row("unknown values",
+            "/PageMode /Odd /PageLayout /Odd /ViewerPreferences << /PrintScaling /Odd /Duplex /None "
+            "/NumCopies "
+            "0 >>",
+            "-1 -1 -1 -1 -1 -1 -1 -1 -2 -2 -1 -2 -2 -2 -1 -1");
+        row("no dictionary, and nothing", "/PageMode 90 0 R /Lang () /ViewerPreferences [ /HideToolbar ]",
+            "-1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 0 -1");
+    }
+
+    void tellsWhatIsMissingOrInvalidFromWhatSaysNo()
+    {
+        const auto [entries, expected] = Rows<std::string, QByteArray>::current();
+        Opened opened(document(entries));
         QByteArrayList found;
-        for (int option = 1; option <= 12; ++option)
+        for (int option = 1; option <= 16; ++option)
             found << QByteArray::number(GetViewerPreferences(opened.session, 100 + option));
-        QCOMPARE(found.join(' '), QByteArray("-1 -1 -1 0 -1 -1 -1 1 -1 -1 -1 -1"));
+        QCOMPARE(found.join(' '), expected);
+    }
+
+    void tellsCatalogEntriesAsTheyStand()
+    {
+        Opened opened(document("/PageMode /UseNone /Lang (de)"));
         QCOMPARE(GetCatalogInformation(opened.session, L"PageMode"), std::wstring(L"UseNone"));
         QCOMPARE(GetCatalogInformation(opened.session, L"Lang"), std::wstring(L"de"));
         QCOMPARE(GetCatalogInformation(opened.session, L"PageLayout"), std::wstring());
