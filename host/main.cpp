@@ -8,6 +8,7 @@
 #include "host/arguments/UnknownWords.h"
 #include "host/options/HelpText.h"
 #include "host/program/HostApplication.h"
+#include "host/program/Surroundings.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
@@ -105,6 +106,8 @@ int main(int argc, char** argv)
     std::signal(SIGCHLD, SIG_DFL); // ignored, it would hide how workers end
     occupyStandardDescriptors();
     try {
+        host::surroundings::refuseForeignRights();
+        host::surroundings::forgetPlacesOfCode();
         return runCommand(argc, argv);
     } catch (const host::OutputError& error) {
         return error.readerHasGone() ? host::exitstatus::someFailed

@@ -75,12 +75,12 @@ const std::vector<Option> optionRows{
      Nothing, {}, {Configure}, Group::Target, common},
 
     {"password", 0, "P", "opens encrypted documents",
-     "other users of the machine can see it in its list of processes",
+     "other users of the machine can see it in its list of processes for a moment",
      Nothing, {}, {Run, Show, Check}, Group::Documents, rare},
     {"password", 0, "P", "opens encrypted documents", "",
      Nothing, {}, {Configure}, Group::Documents, common},
-    {"password-file", 0, "FILE", "the same, from the first line of a file", "",
-     Files, {}, {Run, Show, Check}, Group::Documents, rare},
+    {"password-file", 0, "FILE|-", "the same, from the first line of a file", "- is standard input",
+     Files, {}, {Run, Show, Check, Configure}, Group::Documents, rare},
     {"files-from", 0, "FILE|-", "takes further documents from a list, one a line",
      "- is standard input",
      Files, {}, {Run, Show, Check}, Group::Documents, rare},
@@ -108,6 +108,11 @@ const std::vector<Option> optionRows{
      Nothing, {}, {Run, Show, Check}, Group::Work, rare},
     {"memory", 0, "MIB", "gives a document up that needs more memory (default: 1024)", "",
      Nothing, {}, {Run, Show, Check}, Group::Work, rare},
+    {"sandbox", 0, "HOW", "how far the processes that read documents are locked in",
+     "even taken over by a document, they reach no files but this run's, no network and no other program; what they "
+     "write into results is not judged; try (the default) takes what the kernel offers, require begins nothing "
+     "without all of it",
+     Words, {"try", "require", "off"}, {Run, Show, Check, Configure}, Group::Work, rare},
     {"sync", 0, "", "with -o, flushes each document to the disk before the next",
      "in place that is always so",
      Nothing, {}, {Run}, Group::Work, rare},

@@ -7,6 +7,7 @@
 /// in the build tree and after installation.
 namespace host::installlayout {
 
+// Both throw std::runtime_error when the system does not tell that place.
 std::string pluginFile();
 std::string libraryFile();
 /// The program that draws pages; it may not be installed.

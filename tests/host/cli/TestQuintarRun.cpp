@@ -525,7 +525,8 @@ private slots:
             put("replaced.pdf");
             const std::string newer = put("newer", PdfBuilder::simple("/PageMode /UseThumbs"));
             const ProgramRun run(programBesideTrouble(path("installed")),
-                                 QStringList{"run", "replaced.pdf"} + target + panelAndPage,
+                                 QStringList{"run", "--sandbox", "off", "replaced.pdf"} + target +
+                                     panelAndPage,
                                  m_folder->path());
             QVERIFY2(reasonFor(run.err, "replaced.pdf").contains("changed by another program"), run.err);
             QVERIFY(WorkFolder::contentOf("replaced.pdf") == newer);
