@@ -57,9 +57,8 @@ struct BadLine
     QString reason;
 };
 
-using Event =
-    std::variant<StartEvent, FoundEvent, DocumentEvent, ResultEvent, ProgressEvent, EndEvent, OtherEvent,
-                           BadLine>;
+using Event = std::variant<StartEvent, FoundEvent, DocumentEvent, ResultEvent, ProgressEvent, EndEvent,
+                           OtherEvent, BadLine>;
 using Events = QVector<Event>;
 
 } // namespace host::desktop

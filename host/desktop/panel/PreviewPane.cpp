@@ -42,7 +42,8 @@ QString followersOf(const PreviewScene& scene)
 
 } // namespace
 
-PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent) : QWidget(parent), m_workbench(workbench), m_outline(workbench.program())
+PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent)
+    : QWidget(parent), m_workbench(workbench), m_outline(workbench.program())
 {
     setAccessibleName(tr("Preview"));
     setMinimumHeight(170);

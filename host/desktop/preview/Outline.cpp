@@ -35,7 +35,9 @@ QVector<PreviewScene::Bookmark> Outline::of(const QByteArray& path, const QByteA
 void Outline::ask()
 {
     m_names = NameList::of({m_wanted});
-    QStringList words{"show", "--outline", QString::number(mostBookmarks), "--events", "--control", "--files-from", m_names.path(), "--null"};
+    QStringList words{"show",         "--outline", QString::number(mostBookmarks),
+                      "--events",     "--control", "--files-from",
+                      m_names.path(), "--null"};
     if (!m_password.isEmpty()) {
         m_passwordFile = NameList::ofPassword(m_password);
         words += {"--password-file", m_passwordFile.path()};
@@ -54,7 +56,8 @@ void Outline::take(const Events& events)
         QVector<PreviewScene::Bookmark> bookmarks;
         for (const QJsonValue& each : document->facts.value("outline").toArray())
             if (const QJsonObject entry = each.toObject(); bookmarks.size() < mostBookmarks)
-                bookmarks.append({entry.value("level").toInt(1) - 1, entry.value("title").toString().simplified()});
+                bookmarks.append(
+                    {entry.value("level").toInt(1) - 1, entry.value("title").toString().simplified()});
         if (m_known.size() >= mostKnown)
             m_known.clear();
         m_known.insert(m_wanted, bookmarks);
