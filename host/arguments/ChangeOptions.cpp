@@ -1,6 +1,7 @@
 #include "ChangeOptions.h"
 
 #include "OptionParser.h"
+#include "host/change/LanguageTag.h"
 #include "host/change/ViewJson.h"
 #include "host/change/ViewValues.h"
 #include "host/document/PresentView.h"
@@ -15,6 +16,8 @@
 namespace host {
 
 namespace {
+
+const std::size_t longestLanguage = 3;
 
 /// The change that makes other documents open as this one does.
 ViewChange viewOf(const std::string& file, const std::string& password)
@@ -50,7 +53,7 @@ void ChangeOptions::takeViewOptions(OptionParser& parser)
     parser.takeFlag("title-if-missing", m_titleIfMissing);
 }
 
-void ChangeOptions::check() const
+void ChangeOptions::check(bool haveStandardInput) const
 {
     const std::size_t sources = m_lists.size() + m_favorites.size() + m_toolSettings.size() +
                                 (m_settingWords.empty() ? 0 : 1) + (changesView() ? 1 : 0);
@@ -62,6 +65,8 @@ void ChangeOptions::check() const
                                "--tool-settings or --set");
     if (m_titleFromFileName && m_named[ViewEntry::Title])
         throw UsageError("--title and --title-from-file-name exclude each other");
+    if (m_titleFromFileName && haveStandardInput)
+        throw UsageError("--title-from-file-name: a document from standard input has no name");
 }
 
 bool ChangeOptions::changesView() const
@@ -79,6 +84,8 @@ void ChangeOptions::read(const std::string& password)
 
 void ChangeOptions::readChange(const std::string& password)
 {
+    if (const std::string problem = m_named.contradiction(); !problem.empty())
+        throw UsageError(problem);
     if (m_model)
         m_change.add(viewOf(*m_model, password));
     if (m_viewFile)
@@ -88,11 +95,11 @@ void ChangeOptions::readChange(const std::string& password)
         m_change.set(ViewEntry::Title, FileNameAsTitle());
     if (m_titleIfMissing)
         m_change.keepTitles();
+    if (const std::string problem = m_change.contradiction(); !problem.empty())
+        throw UsageError(problem);
     for (const auto& file : {m_model, m_viewFile})
         if (file)
             m_filesRead.push_back(*file);
-    if (const std::string problem = m_change.contradiction(); !problem.empty())
-        throw UsageError(problem);
 }
 
 void ChangeOptions::readSettings()
@@ -122,7 +129,25 @@ std::vector<std::string> ChangeOptions::notes() const
             notes.push_back(std::move(note));
     if (std::string note = noteOnAll(); !note.empty())
         notes.push_back(std::move(note));
+    if (changesView() && m_change.isEmpty())
+        notes.emplace_back("the view names nothing, so nothing is asked of the documents");
+    if (std::string note = noteOnLanguage(); !note.empty())
+        notes.push_back(std::move(note));
     return notes;
+}
+
+std::string ChangeOptions::noteOnLanguage() const
+{
+    const auto& language = m_change[ViewEntry::Lang];
+    const auto* tag = language ? std::get_if<std::string>(&*language) : nullptr;
+    if (tag == nullptr)
+        return {};
+    if (!isLanguageTag(*tag))
+        return "the view's lang, \"" + *tag + "\", has not the form of a language tag";
+    if (std::min(tag->find('-'), tag->size()) > longestLanguage)
+        return "no language has the code \"" + tag->substr(0, tag->find('-')) +
+               "\" so far: codes have two or three letters, as \"en\" for English";
+    return {};
 }
 
 std::string ChangeOptions::noteOnAll() const

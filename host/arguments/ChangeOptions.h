@@ -17,8 +17,9 @@ class ChangeOptions
 public:
     /// The object must outlive the parser.
     void take(OptionParser& parser);
-    /// Throws UsageError unless there is exactly one source.
-    void check() const;
+    /// Throws UsageError unless there is exactly one source, and one that suits the documents.
+    /// \param haveStandardInput whether one of them has no name.
+    void check(bool haveStandardInput) const;
     /// Reads the source. \param password opens the document that others are to open like. Throws UsageError.
     void read(const std::string& password);
 
@@ -31,7 +32,6 @@ public:
     /// Of that what is to be in the report on each document; may be empty.
     std::string noteOnAll() const;
     bool readsStandardInput() const { return m_viewFile == "-"; }
-    bool takesTitleFromFileName() const { return m_titleFromFileName; }
 
 private:
     void takeViewOptions(OptionParser& parser);
@@ -39,6 +39,7 @@ private:
     /// What the view options ask for, in the order in which they count.
     void readChange(const std::string& password);
     void readSettings();
+    std::string noteOnLanguage() const;
 
     std::vector<std::string> m_lists;
     std::vector<std::string> m_favorites;

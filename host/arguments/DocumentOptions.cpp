@@ -19,12 +19,20 @@ void DocumentOptions::take(OptionParser& parser)
     m_list.take(parser);
 }
 
-void DocumentOptions::check(const std::vector<std::string>& words) const
+bool DocumentOptions::haveStandardInput(const std::vector<std::string>& words)
+{
+    return std::find(words.begin(), words.end(), RunDestination::standardStream) != words.end();
+}
+
+void DocumentOptions::check(const std::vector<std::string>& words, bool isInputTaken) const
 {
     if (m_givenPassword && m_passwordFile)
         throw UsageError("--password and --password-file exclude each other");
-    if (m_passwordFile == "-" && m_list.isStandardInput())
-        throw UsageError("--password-file and --files-from cannot both read standard input");
+    const auto readers = std::count(words.begin(), words.end(), RunDestination::standardStream) +
+                         (m_passwordFile == "-" ? 1 : 0) + (m_list.isStandardInput() ? 1 : 0) +
+                         (isInputTaken ? 1 : 0);
+    if (readers > 1)
+        throw UsageError("standard input is named more than once, and can be read once only");
     m_list.check();
     if (words.empty() && !m_list.isGiven())
         throw UsageError("which documents? Name documents or folders, or give --files-from");
@@ -43,9 +51,9 @@ void DocumentOptions::read(const std::vector<std::string>& words)
 
 RunPlan DocumentOptions::planForReading(RunPlan::Found found) const
 {
-    RunPlan plan(RunDestination::inPlace(), std::move(found));
+    RunPlan plan(RunDestination::none(), std::move(found));
     for (const std::string& input : m_inputs)
-        plan.add(input);
+        input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input);
     for (const std::string& folder : plan.emptyFolders())
         note("no PDF documents in " + folder);
     if (plan.documents().empty() && plan.emptyFolders().empty())

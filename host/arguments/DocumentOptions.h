@@ -17,8 +17,11 @@ class DocumentOptions
 public:
     /// The object must outlive the parser.
     void take(OptionParser& parser);
-    /// \param words the documents and folders that are named by themselves. Throws UsageError.
-    void check(const std::vector<std::string>& words) const;
+    /// \param words the documents and folders that are named by themselves.
+    /// \param isInputTaken whether something else is read from standard input. Throws UsageError.
+    void check(const std::vector<std::string>& words, bool isInputTaken = false) const;
+    /// Whether one of the documents comes from standard input.
+    static bool haveStandardInput(const std::vector<std::string>& words);
     /// Reads password and list. Throws UsageError.
     void read(const std::vector<std::string>& words);
 

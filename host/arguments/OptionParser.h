@@ -34,7 +34,8 @@ public:
 private:
     void take(const std::string& name, bool isFlag, Take take);
     [[noreturn]] void refuse(char** argv, int count) const;
-    [[noreturn]] void refuseName(const std::string& name) const;
+    bool isOption(const std::string& word) const;
+    void requireValue(const options::Option& option, const std::string& value) const;
 
     const options::Command& m_command;
     std::vector<options::Option> m_options;

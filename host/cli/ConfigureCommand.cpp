@@ -133,8 +133,7 @@ void ConfigureCommand::readDocument()
     if (!m_source.file.empty())
         return;
     try {
-        const PresentView present(document.library());
-        m_document.emplace(present.entries(), present.openAction());
+        m_document.emplace(PresentView(document.library()).entries());
     } catch (const std::runtime_error& error) {
         throw UsageError(file + ": " + error.what());
     }

@@ -15,7 +15,6 @@
 
 #include <sys/stat.h>
 
-#include <algorithm>
 #include <cerrno>
 
 namespace host {
@@ -42,7 +41,7 @@ int RunCommand::work(const std::vector<std::string>& words)
     m_options.flush = m_options.flush || m_options.inPlace;
     check();
     const RunDestination destination = this->destination();
-    checkStandardStreams();
+    checkStandardOutput();
     readOptions();
 
     const RunPlan plan = this->plan(destination);
@@ -90,7 +89,7 @@ void RunCommand::openStreams()
 
 bool RunCommand::hasStandardInput() const
 {
-    return std::find(m_words.begin(), m_words.end(), RunDestination::standardStream) != m_words.end();
+    return DocumentOptions::haveStandardInput(m_words);
 }
 
 /// Standard output takes one thing only.
@@ -128,14 +127,14 @@ void RunCommand::takeOptions(OptionParser& parser)
 
 void RunCommand::check() const
 {
-    m_changeOptions.check();
+    m_changeOptions.check(hasStandardInput());
     if (m_options.rewrite && m_options.inPlace)
         throw UsageError("--rewrite goes with -o: in place, the document's own bytes would be gone");
     if (m_options.replace && !m_options.inPlace)
         throw UsageError("--replace goes with --in-place: other results are always files of their own");
     if (m_base && (m_base->empty() || !m_output))
         throw UsageError(m_base->empty() ? "the name of the base folder is empty" : "--base goes with -o");
-    m_documentOptions.check(m_words);
+    m_documentOptions.check(m_words, m_changeOptions.readsStandardInput());
 }
 
 RunDestination RunCommand::destination() const
@@ -154,18 +153,13 @@ bool RunCommand::printsResult() const
     return m_output == RunDestination::standardStream;
 }
 
-/// It can be read once, and standard output takes one thing only.
-void RunCommand::checkStandardStreams() const
+/// It takes one thing only.
+void RunCommand::checkStandardOutput() const
 {
-    const auto documents = std::count(m_words.begin(), m_words.end(), RunDestination::standardStream);
-    const auto readers = documents + (m_documentOptions.readsStandardInput() ? 1 : 0) +
-                         (m_changeOptions.readsStandardInput() ? 1 : 0);
     const bool printsReport = m_reportFile == Report::standardOutput;
-    m_live.check(printsResult() ? "-o -" : printsReport ? "--report -" : "", readers > 0);
-    if (readers > 1)
-        throw UsageError("standard input is named more than once, and can be read once only");
-    if (hasStandardInput() && m_changeOptions.takesTitleFromFileName())
-        throw UsageError("--title-from-file-name: a document from standard input has no name");
+    const bool readsInput =
+        hasStandardInput() || m_documentOptions.readsStandardInput() || m_changeOptions.readsStandardInput();
+    m_live.check(printsResult() ? "-o -" : printsReport ? "--report -" : "", readsInput);
     if (printsResult() && printsReport)
         throw UsageError("-o - and --report - exclude each other: standard output takes one of them");
     if (printsResult() && !m_options.dryRun)

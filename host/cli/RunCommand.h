@@ -42,7 +42,7 @@ private:
 
     /// Where the results go. Throws UsageError unless exactly one place is named.
     RunDestination destination() const;
-    void checkStandardStreams() const;
+    void checkStandardOutput() const;
     bool hasStandardInput() const;
     bool printsResult() const;
     /// Standard input and output as files, where they are among documents and results.

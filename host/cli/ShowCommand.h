@@ -8,6 +8,8 @@
 
 namespace host {
 
+class ViewTable;
+
 /// "quintar show": tells how documents open.
 class ShowCommand : public Command
 {
@@ -19,6 +21,8 @@ protected:
     int work(const std::vector<std::string>& words) override;
 
 private:
+    static void noteLeftOut(const ViewTable& table);
+
     bool m_json = false;
     bool m_table = false;
     int m_bookmarks = 0; ///< How many are told at most.

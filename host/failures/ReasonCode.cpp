@@ -36,6 +36,7 @@ constexpr std::array<Name, reasonCodeCount> names{{
     {TooComplex, "tooComplex"},
     {Metadata, "metadata"},
     {PageBeyondEnd, "pageBeyondEnd"},
+    {OpenAction, "openAction"},
     {RefusedCall, "refusedCall"},
     {NotFound, "notFound"},
     {AccessDenied, "accessDenied"},

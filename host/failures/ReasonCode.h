@@ -23,6 +23,7 @@ enum class ReasonCode : std::uint8_t {
     TooComplex,
     Metadata,
     PageBeyondEnd,
+    OpenAction,
     RefusedCall,
     NotFound,
     AccessDenied,

@@ -1,5 +1,6 @@
 #include "StreamFiles.h"
 
+#include "RunDestination.h"
 #include "host/files/FileDescriptor.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/UsageError.h"
@@ -35,6 +36,11 @@ sigset_t blockedSignals()
 }
 
 } // namespace
+
+std::string shownName(const std::string& name)
+{
+    return name == RunDestination::standardStream ? "standard input" : name;
+}
 
 StreamFiles::StreamFiles() : m_signalsBefore(blockedSignals())
 {

@@ -7,6 +7,9 @@
 
 namespace host {
 
+/// How a document's name is told: standard input is called that.
+std::string shownName(const std::string& name);
+
 /// Standard input and output as files, for what works on files only. A folder that only its owner can enter
 /// holds the document that was read and the result that is going to be printed. From construction on a stop
 /// signal waits until the folder is gone again, or a run takes it.

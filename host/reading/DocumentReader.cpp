@@ -37,9 +37,9 @@ std::optional<Reading> Reading::fromRecord(const std::string& record)
                    {static_cast<ReasonCode>(code), std::move(reason)}};
 }
 
-DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, std::string password,
-                               const MakeTeller& makeTeller)
-    : m_documents(documents), m_password(std::move(password)),
+DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, std::string input,
+                               std::string password, const MakeTeller& makeTeller)
+    : m_documents(documents), m_input(std::move(input)), m_password(std::move(password)),
       m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
 {
     if (!m_library.LibraryLoaded())
@@ -52,7 +52,8 @@ Worker::Answer DocumentReader::answer(std::size_t piece, WorkerSlot&)
     const RunPlan::Document& document = m_documents[piece];
     if (document.problem)
         return {Reading::failed(document.problem).toRecord()};
-    if (m_library.LoadFromFile(engine::wideFromFileName(document.name),
+    const bool isInput = document.name == RunDestination::standardStream;
+    if (m_library.LoadFromFile(engine::wideFromFileName(isInput ? m_input : document.name),
                                engine::wideFromFileName(m_password)) == 0) {
         const int code = m_library.LastErrorCode();
         return {Reading::failed(Failure::ofLibrary(code)).toRecord(),

@@ -13,6 +13,8 @@
 
 namespace host {
 
+class StreamFiles;
+
 /// Has documents read by worker processes, many at a time, and prints in the documents' order what there is
 /// to tell of them: the texts, and on standard error failures and notes. Or it tells that as events, as it
 /// comes.
@@ -33,6 +35,8 @@ public:
         bool quiet = false;
         /// Null for failures on standard error alone.
         FailureLine failureLine = nullptr;
+        /// Has the document "-"; null where there is none.
+        const StreamFiles* streams = nullptr;
     };
 
     /// The plan must outlive the object.

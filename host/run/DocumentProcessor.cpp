@@ -120,7 +120,7 @@ Failure DocumentProcessor::tellWhatStoodBefore(DocumentResult& result, int sourc
 DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
     if (m_options.tellChanges)
-        m_viewBefore.emplace(m_library);
+        m_viewBefore.emplace(m_library, m_options.change[ViewEntry::Title].has_value());
     if (const Failure reason = apply(job.source); reason)
         return DocumentResult::failed(reason);
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
@@ -128,7 +128,7 @@ DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
     if (const Failure reason = refusal(); reason)
         return DocumentResult::failed(reason);
     if (m_options.tellChanges)
-        m_viewAfter.emplace(m_library);
+        m_viewAfter.emplace(m_library, m_options.change[ViewEntry::Title].has_value());
     return m_options.dryRun ? tryOut() : save(job);
 }
 
@@ -148,6 +148,8 @@ Failure DocumentProcessor::apply(const std::string& file)
         ViewChanger changer(m_library, m_options.change);
         Failure reason = changer.apply(file);
         m_notes = changer.notes();
+        if (changer.leftOut())
+            m_notes.push_back(changer.leftOut().text);
         return reason;
     }
     if (std::string note = settingsnotes::aboutPage(m_options.entries, m_library.PageCount()); !note.empty())

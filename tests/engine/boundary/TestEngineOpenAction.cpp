@@ -9,7 +9,7 @@ using namespace engine::operations;
 
 namespace {
 
-/// Page, type and name of the open action's destination, and its left, top, right, bottom and zoom.
+/// Page, type, form if it is another, left, top, right, bottom, zoom and name of the open action's destination.
 QByteArray openAction(Session& session)
 {
     const int id = GetOpenActionDestination(session);
@@ -17,6 +17,8 @@ QByteArray openAction(Session& session)
         return "none";
     QByteArray text = QByteArray::number(GetDestPage(session, id)) + " type " +
                       QByteArray::number(GetDestType(session, id));
+    if (GetDestValue(session, id, pdflibrary::DestinationForm) != GetDestType(session, id))
+        text += " form " + QByteArray::number(GetDestValue(session, id, pdflibrary::DestinationForm));
     for (int key = 1; key <= 5; ++key)
         text += ' ' + QByteArray::number(GetDestValue(session, id, key));
     const std::wstring name = GetDestName(session, id);
@@ -43,15 +45,15 @@ private slots:
         };
         row("[4 0 R /XYZ 10 20.5 1.5]", "2 type 1 10 20.5 0 0 150");
         row("[4 0 R /XYZ]", "2 type 1 0 0 0 0 0");
-        row("[4 0 R]", "2 type 1 0 0 0 0 0");
-        row("[4 0 R /Odd 1 2 3]", "2 type 1 1 2 0 0 300");
+        row("[4 0 R]", "2 type 1 form 0 0 0 0 0 0");
+        row("[4 0 R /Odd 1 2 3]", "2 type 1 form 0 1 2 0 0 300");
         row("[5 0 R /Fit]", "3 type 2 0 0 0 0 0");
         row("[5 0 R /FitH 700]", "3 type 3 0 700 0 0 0");
         row("[5 0 R /FitV 30]", "3 type 4 30 0 0 0 0");
-        row("[5 0 R /FitB]", "3 type 5 0 0 0 0 0");
+        row("[5 0 R /FitB]", "3 type 5 form 6 0 0 0 0 0");
         row("[5 0 R /FitBH 600]", "3 type 5 0 600 0 0 0");
-        row("[5 0 R /FitBV 40]", "3 type 5 40 0 0 0 0");
-        row("[5 0 R /FitR 1 2 3 4]", "3 type 1 1 4 3 2 0");
+        row("[5 0 R /FitBV 40]", "3 type 5 form 7 40 0 0 0 0");
+        row("[5 0 R /FitR 1 2 3 4]", "3 type 1 form 8 1 4 3 2 0");
         row("[2 /Fit]", "3 type 2 0 0 0 0 0");
         row("[3 /Fit]", "none");
         row("[-1 /Fit]", "none");
@@ -128,6 +130,11 @@ private slots:
         row("height", openAt(1, 0, 4, 7.25), "[ 3 0 R /FitV 7.25 ]", "1 type 4 7.25 0 0 0 0");
         row("visible", openAt(1, 0, 5, 0, 741.889763779528), "[ 3 0 R /FitBH 741.889764 ]",
             "1 type 5 0 741.89 0 0 0");
+        row("box", openAt(1, 0, 6), "[ 3 0 R /FitB ]", "1 type 5 form 6 0 0 0 0 0");
+        row("height of the box", openAt(1, 0, 7, 7.25), "[ 3 0 R /FitBV 7.25 ]",
+            "1 type 5 form 7 7.25 0 0 0 0");
+        row("rectangle", openAt(1, 0, 8, 7.25, 1000), "[ 3 0 R /FitR 7.25 0 612 1000 ]",
+            "1 type 1 form 8 7.25 1000 612 0 0");
         row("minus zero", openAt(1, 33, 1, -0.0, 1e-9), "[ 3 0 R /XYZ 0 0 0.33 ]", "1 type 1 0 0 0 0 33");
     }
 

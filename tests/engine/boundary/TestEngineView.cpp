@@ -90,6 +90,8 @@ private slots:
         row("same zoom", "/OpenAction [3 0 R /XYZ 1 2 0.0833]", magnified(8.33), "/OpenAction");
         row("zoom of a rectangle", "/OpenAction [3 0 R /FitR 1 2 3 4]", magnified(50), "/OpenAction",
             "[ 3 0 R /XYZ 1 4 0.5 ]");
+        row("no zoom of a rectangle", "/OpenAction [3 0 R /FitR 1 2 3 4]", magnified(0), "/OpenAction",
+            "[ 3 0 R /XYZ 1 4 null ]");
         row("zoom of a short array", "/OpenAction [0]", magnified(50), "/OpenAction",
             "[ 0 /XYZ null null 0.5 ]");
         row("zoom of an action",
@@ -124,28 +126,29 @@ private slots:
             refused(bad, SetPageMode, number);
             refused(bad, SetPageLayout, number);
         }
-        for (const int option : {0, 13, 101})
+        for (const int option : {0, 13, 101, 113})
             refused(bad, SetViewerPreferences, option, 1);
         const std::pair<int, int> preferences[] = {{12, 0}, {1, 2}, {6, -2}, {7, 3}, {7, 6}};
         for (const auto& [option, value] : preferences)
             refused(bad, SetViewerPreferences, option, value);
-        for (const int option : {13, 100, 113, -1})
+        for (const int option : {13, 100, 117, -1})
             refused(bad, GetViewerPreferences, option);
         for (const int page : {0, 4})
             row("", openAt(page, 0, 2), ErrorCode::UnknownPage);
-        for (const int type : {0, 6})
+        for (const int type : {0, 9})
             row("", openAt(1, 0, type), bad);
         row("", openAt(1, -5, 1), bad);
         row("", openAt(1, 0, 1, std::nan("")), bad);
         row("", openAt(1, 0, 1, 0, HUGE_VAL), bad);
         row("", magnified(50), bad); // its type has none
-        refused(bad, GetActionType, 1);
+        row(
+            "", [](Session& s) { return int(GetActionType(s, 1).size()); }, bad);
         refused(bad, SetDestValue, 1, 1, 5);
         refused(bad, SetCatalogInformation, L"Pages", L"x");
         refused(bad, SetCatalogInformation, L"PageMode", L"x");
         for (const int id : {0, 7, -1})
             refused(ErrorCode::UnknownDestination, GetDestType, id);
-        for (const int value : {0, 6})
+        for (const int value : {0, 7})
             refused(bad, GetDestValue, 1, value);
         refused(ErrorCode::UnknownPage, SelectPage, 4);
         for (const int box : {0, 6})
@@ -166,14 +169,37 @@ private slots:
         QCOMPARE(errorOf([&, &setter = call] { setter(empty); }), ErrorCode::NoDocument);
     }
 
-    void tellsWhatIsMissingFromWhatSaysNo()
+    void tellsWhatIsMissingOrInvalidFromWhatSaysNo_data()
     {
-        OpenedDocument opened(bytesOf("/PageMode /UseNone /Lang (de) /ViewerPreferences << /FitWindow false "
-                                      "/CenterWindow 1 /Direction /R2L /NumCopies 0 >>"));
+        const Rows<std::string, QByteArray> row;
+        row("some", "/PageMode /UseNone /Lang (de) /ViewerPreferences << /FitWindow false /Direction /R2L >>",
+            "-1 -1 -1 0 -1 -1 -1 1 -1 -1 -1 -1 0 -1 0 -1");
+        row("wrong types",
+            "/PageMode (UseNone) /PageLayout 3 /Lang /de /ViewerPreferences << /HideToolbar (yes) "
+            "/CenterWindow 1 /NonFullScreenPageMode /FullScreen /Direction (R2L) /PickTrayByPDFSize /true "
+            "/NumCopies 2.0 >>",
+            "-2 -1 -1 -1 -2 -1 -2 -2 -1 -1 -2 -2 -2 -2 -2 -1");
+        row("unknown values",
+            "/PageMode /Odd /PageLayout /Odd /ViewerPreferences << /PrintScaling /Odd /Duplex /None "
+            "/NumCopies 0 >>",
+            "-1 -1 -1 -1 -1 -1 -1 -1 -2 -2 -1 -2 -2 -2 -1 -1");
+        row("no dictionary, and nothing", "/PageMode 90 0 R /Lang () /ViewerPreferences [ /HideToolbar ]",
+            "-1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 0 -1");
+    }
+
+    void tellsWhatIsMissingOrInvalidFromWhatSaysNo()
+    {
+        const auto [entries, expected] = Rows<std::string, QByteArray>::current();
+        OpenedDocument opened(bytesOf(entries));
         QByteArrayList found;
-        for (int option = 1; option <= 12; ++option)
+        for (int option = 1; option <= 16; ++option)
             found << QByteArray::number(GetViewerPreferences(opened.session, 100 + option));
-        QCOMPARE(found.join(' '), QByteArray("-1 -1 -1 0 -1 -1 -1 1 -1 -1 -1 -1"));
+        QCOMPARE(found.join(' '), expected);
+    }
+
+    void tellsCatalogEntriesAsTheyStand()
+    {
+        OpenedDocument opened(bytesOf("/PageMode /UseNone /Lang (de)"));
         QCOMPARE(GetCatalogInformation(opened.session, L"PageMode"), std::wstring(L"UseNone"));
         QCOMPARE(GetCatalogInformation(opened.session, L"Lang"), std::wstring(L"de"));
         QCOMPARE(GetCatalogInformation(opened.session, L"PageLayout"), std::wstring());

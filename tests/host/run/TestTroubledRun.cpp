@@ -165,6 +165,23 @@ private slots:
         }
     }
 
+    void limitsHoldForReadingToo()
+    {
+#if defined(__SANITIZE_ADDRESS__)
+        QSKIP("workers have no memory limit under the sanitizer");
+#endif
+        for (const char* name :
+             {"in/1-good.pdf", "in/2-crash.pdf", "in/3-hungry.pdf", "in/4-hang.pdf", "in/5-good.pdf"})
+            put(name);
+        const ProgramRun run(program(), {"show", "-j1", "--timeout", "1", "--memory", "300", "in"}, path());
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.out.startsWith("in/1-good.pdf\n") && run.out.contains("in/5-good.pdf\n"), run.out);
+        QCOMPARE(run.err,
+                 QByteArray("quintar: in/2-crash.pdf: the worker process crashed on it: Aborted\n"
+                            "quintar: in/3-hungry.pdf: the document needs more memory than there is\n"
+                            "quintar: in/4-hang.pdf: it took longer than 1 s\n"));
+    }
+
     void stopsWhenAsked()
     {
         for (const char* name : {"in/1-good.pdf", "in/2-hang.pdf", "in/3-late-hang.pdf", "in/4-good.pdf"})
@@ -225,7 +242,7 @@ private slots:
         hanging.start(program(), words("--jobs 2 -o out in"));
         const auto results = [] {
             const fs::directory_iterator entries("out");
-            return std::count_if(begin(entries), end(entries), [](const fs::directory_entry& entry) {
+            return std::count_if(fs::begin(entries), fs::end(entries), [](const fs::directory_entry& entry) {
                 return entry.path().extension() == ".pdf";
             });
         };
