@@ -48,7 +48,14 @@ private slots:
     {
         const ProgramRun words = quintar({"show", "d/all.pdf", "d/sub/script.pdf"});
         for (const char* line :
-             {"  Reading direction              r2l\n", "  Print scaling                  none\n",
+             {"d/all.pdf\n  Pages                          3\n",
+              "  Navigation tab                 Conten Group Panel and Page\n",
+              "  Page layout                    Two pages, odd-numbered pages on the right\n",
+              "  Magnification                  150%\n  Open to page                   2\n",
+              "  Hide tool bars                 yes\n  Hide menu bar                  no\n",
+              "  After full screen              Pages Panel and Page\n",
+              "  Page layout                    No preference set in document\n",
+              "  Reading direction              r2l\n", "  Print scaling                  none\n",
               "  Two-sided printing             duplex-flip-long-edge\n",
               "  Paper tray by page size        yes\n", "  Copies                         3\n",
               "  Title                          Everything\n", "  Language                       de-CH\n",
