@@ -8,9 +8,9 @@
 namespace engine {
 
 Document::Document(std::shared_ptr<ByteSource> source, std::string fileName, std::string_view password)
-    : m_source(std::move(source)), m_fileName(std::move(fileName)), m_password(password),
+    : m_source(std::move(source)), m_fileName(std::move(fileName)), m_password(std::string(password)),
       m_fetcher(ObjectFetcher::open(m_source, m_fileName)),
-      m_pdf(m_fetcher ? m_fetcher->pdf() : openWhole(m_source, m_fileName, m_password)),
+      m_pdf(m_fetcher ? m_fetcher->pdf() : openWhole(m_source, m_fileName, m_password.text)),
       m_catalog(m_pdf->getRoot())
 {}
 
@@ -20,7 +20,7 @@ void Document::readWhole()
 {
     if (m_fetcher == nullptr)
         return;
-    const std::shared_ptr<QPDF> whole = openWhole(m_source, m_fileName, m_password);
+    const std::shared_ptr<QPDF> whole = openWhole(m_source, m_fileName, m_password.text);
     // An object that is not where it should be makes libqpdf search the file for all objects. It keeps those
     // that it has read before, so they must be the same ones as if it had read the document from the start.
     for (const QPDFObjGen& id : m_fetcher->lookedAt())

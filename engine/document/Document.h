@@ -5,6 +5,7 @@
 #include "engine/reading/ObjectFetcher.h"
 #include "engine/reading/ReadingTrouble.h"
 #include "engine/update/CrossReference.h"
+#include "pdflibrary/Wipe.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjGen.hh>
@@ -115,14 +116,14 @@ public:
     /// What the next revision builds upon. \throws EngineError with CannotAppend.
     CrossReference crossReference();
 
-    const std::string& password() const { return m_password; }
+    const std::string& password() const { return m_password.text; }
 
 private:
     const ReadingTrouble& trouble();
 
     std::shared_ptr<ByteSource> m_source;
     std::string m_fileName;
-    std::string m_password;
+    Wiped<char> m_password;
     std::unique_ptr<ObjectFetcher> m_fetcher; // null when m_pdf has the whole document
     std::shared_ptr<QPDF> m_pdf;
     QPDFObjectHandle m_catalog; // looking it up anew each time is not cheap

@@ -1,5 +1,7 @@
 #include "DocumentProcessor.h"
 
+#include "host/cell/Reach.h"
+#include "host/document/DocumentLoading.h"
 #include "host/document/ViewChanger.h"
 #include "host/files/Checksum.h"
 #include "host/files/FileDescriptor.h"
@@ -71,6 +73,9 @@ DocumentResult DocumentProcessor::process(const DocumentJob& job, const BeforePl
         m_wornOut = m_wornOut || result.reason.code == ReasonCode::Memory;
     }
     result.milliseconds = millisecondsTaken();
+    m_keptOut =
+        result.status == Status::Failed &&
+        (isOutOfReach(job.source) || (!m_options.dryRun && isOutOfReach(SafeOutput::folderOf(job.target))));
     return result;
 }
 
@@ -83,11 +88,9 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
 {
     if (stat(job.source.c_str(), &m_original) != 0)
         return DocumentResult::failed(Failure::ofSystem(errno, ReasonCode::ReadFailed));
-    if (m_library.LoadFromFile(engine::wideFromFileName(job.source),
-                               engine::wideFromFileName(m_options.password)) == 0)
+    if (!loadDocument(m_library, job.source, m_options.password))
         return libraryFailure();
     const int document = m_library.SelectedDocument();
-    m_library.SelectDocument(document);
     DocumentResult result = applyAndSave(job);
     result.certified = m_library.SecurityInfo(engine::Certification) != 0;
     m_library.RemoveDocument(document);
