@@ -1,7 +1,7 @@
 #include "KidCounts.h"
 
-#include "PageNodes.h"
 #include "engine/document/Document.h"
+#include "engine/document/PageNodes.h"
 
 #include <algorithm>
 #include <iterator>

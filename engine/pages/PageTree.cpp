@@ -1,8 +1,8 @@
 #include "PageTree.h"
 
 #include "KidCounts.h"
-#include "PageNodes.h"
 #include "engine/document/Document.h"
+#include "engine/document/PageNodes.h"
 #include "engine/files/EngineError.h"
 
 #include <algorithm>

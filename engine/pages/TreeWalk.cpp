@@ -1,7 +1,7 @@
 #include "TreeWalk.h"
 
-#include "PageNodes.h"
 #include "engine/document/Document.h"
+#include "engine/document/PageNodes.h"
 #include "engine/files/ByteSource.h"
 #include "engine/files/EngineError.h"
 

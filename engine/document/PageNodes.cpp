@@ -1,6 +1,6 @@
 #include "PageNodes.h"
 
-#include "engine/document/Document.h"
+#include "Document.h"
 
 #include <climits>
 
