@@ -1,11 +1,11 @@
 #include "MainWindow.h"
 
 #include "EmptyPage.h"
+#include "ToolBar.h"
 #include "host/desktop/actions/PresetMenu.h"
 #include "host/desktop/dialogs/HelpWindow.h"
 #include "host/desktop/dialogs/HistoryDialog.h"
 #include "host/desktop/list/DetailLine.h"
-#include "host/desktop/look/Drawings.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
@@ -27,7 +27,6 @@ using State = RunMachine::State;
 namespace {
 
 const QSize firstSize(1280, 880);
-const int toolMargin = 8;
 
 QWidget* line(QFrame::Shape shape)
 {
@@ -84,7 +83,8 @@ void MainWindow::place()
     m_pages->addWidget(empty);
     m_pages->addWidget(m_splitter);
     m_runBar = new RunBar(m_workbench, this);
-    m_bar = makeToolBar();
+    m_bar = new ToolBar(m_workbench, m_actions, this);
+    m_filter = m_bar->filter();
     auto* all = new QWidget(this);
     auto* column = new QVBoxLayout(all);
     column->setContentsMargins(0, 0, 0, 0);
@@ -95,46 +95,6 @@ void MainWindow::place()
     column->addWidget(line(QFrame::HLine));
     column->addWidget(m_runBar);
     setCentralWidget(all);
-}
-
-QWidget* MainWindow::makeToolBar()
-{
-    auto* bar = new QWidget(this);
-    auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(12, toolMargin, 12, toolMargin);
-    row->setSpacing(8);
-    auto* add = new QToolButton(bar);
-    auto* menu = new QMenu(add);
-    for (const Id id : {Id::AddFiles, Id::AddFolder, Id::Paste})
-        menu->addAction(m_actions[id]);
-    add->setText(tr("&Add"));
-    add->setAccessibleName(tr("Add"));
-    add->setIcon(drawings::icon(drawings::Sign::Add, palette()));
-    add->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    add->setPopupMode(QToolButton::InstantPopup);
-    add->setMenu(menu);
-    auto* remove = new QPushButton(drawings::icon(drawings::Sign::Remove, palette()), tr("Re&move"), bar);
-    auto* start = new QPushButton(drawings::icon(drawings::Sign::Start, palette()), tr("S&tart…"), bar);
-    start->setDefault(true);
-    add->setMinimumHeight(start->sizeHint().height());
-    m_filter = new FilterBar(m_workbench, bar);
-    row->addWidget(add);
-    row->addWidget(remove);
-    row->addSpacing(12);
-    row->addWidget(m_filter, 1);
-    row->addSpacing(12);
-    row->addWidget(start);
-    connect(remove, &QPushButton::clicked, m_actions[Id::Remove], &QAction::trigger);
-    connect(start, &QPushButton::clicked, m_actions[Id::Start], &QAction::trigger);
-    const auto follow = [this, remove, start] {
-        remove->setEnabled(m_actions[Id::Remove]->isEnabled() && !m_workbench.order().selected().isEmpty());
-        start->setEnabled(m_actions[Id::Start]->isEnabled());
-        start->setToolTip(m_actions[Id::Start]->toolTip());
-    };
-    connect(m_actions[Id::Start], &QAction::changed, bar, follow);
-    connect(&m_workbench, &Workbench::targetsChanged, bar, follow);
-    follow();
-    return bar;
 }
 
 QWidget* MainWindow::makeList()

@@ -16,6 +16,7 @@
 namespace host::desktop {
 
 class HelpWindow;
+class ToolBar;
 
 /// Places the parts of the window and connects them; it decides nothing.
 class MainWindow : public QMainWindow
@@ -52,7 +53,6 @@ protected:
 
 private:
     void place();
-    QWidget* makeToolBar();
     QWidget* makeList();
     QWidget* makeSide();
     void connectParts();
@@ -68,7 +68,7 @@ private:
     ActionTable m_actions;
     Commands m_commands;
     QStackedWidget* m_pages = nullptr;
-    QWidget* m_bar = nullptr;
+    ToolBar* m_bar = nullptr;
     FilterBar* m_filter = nullptr;
     DocumentView* m_view = nullptr;
     ChangePanel* m_change = nullptr;

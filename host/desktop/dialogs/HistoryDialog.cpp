@@ -16,20 +16,7 @@ HistoryDialog::HistoryDialog(RunHistory& history, QWidget* parent)
            "has changed since are left alone."),
         this);
     text->setWordWrap(true);
-    m_table->setModel(&history);
-    m_table->setAccessibleName(tr("Earlier runs"));
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setShowGrid(false);
-    m_table->setAlternatingRowColors(true);
-    m_table->setTabKeyNavigation(false);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->hide();
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->resizeColumnsToContents();
-    m_table->setColumnWidth(RunHistory::What, 300);
-    m_table->horizontalHeader()->setStretchLastSection(true);
+    fillTable();
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     m_undo = buttons->addButton(tr("&Undo This Run…"), QDialogButtonBox::ActionRole);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -49,6 +36,24 @@ HistoryDialog::HistoryDialog(RunHistory& history, QWidget* parent)
     column->addWidget(m_table, 1);
     column->addWidget(buttons);
     resize(860, 420);
+}
+
+void HistoryDialog::fillTable()
+{
+    m_table->setModel(&m_history);
+    m_table->setAccessibleName(tr("Earlier runs"));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setShowGrid(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->setTabKeyNavigation(false);
+    m_table->setWordWrap(false);
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_table->resizeColumnsToContents();
+    m_table->setColumnWidth(RunHistory::What, 300);
+    m_table->horizontalHeader()->setStretchLastSection(true);
 }
 
 } // namespace host::desktop

@@ -20,6 +20,8 @@ signals:
     void undoWanted(int row);
 
 private:
+    void fillTable();
+
     RunHistory& m_history;
     QTableView* m_table;
     QPushButton* m_undo;

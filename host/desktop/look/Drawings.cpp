@@ -17,6 +17,32 @@ QColor mix(const QColor& one, const QColor& other, double share)
     return {part(one.red(), other.red()), part(one.green(), other.green()), part(one.blue(), other.blue())};
 }
 
+QPainterPath furtherShapeOf(Sign sign)
+{
+    QPainterPath path;
+    switch (sign) {
+    case Sign::Warning:
+        path.moveTo(8, 2.5), path.lineTo(14, 13.5), path.lineTo(2, 13.5), path.closeSubpath();
+        path.moveTo(8, 6.5), path.lineTo(8, 9.5), path.moveTo(8, 11.3), path.lineTo(8, 11.6);
+        break;
+    case Sign::Search:
+        path.addEllipse(QPointF(7, 7), 4, 4), path.moveTo(10, 10), path.lineTo(13.5, 13.5);
+        break;
+    case Sign::Retry:
+        path.arcMoveTo(3, 3, 10, 10, 40), path.arcTo(3, 3, 10, 10, 40, 290);
+        path.moveTo(12.5, 2), path.lineTo(12, 5.2), path.lineTo(8.8, 4.8);
+        break;
+    case Sign::Save:
+        path.moveTo(8, 2.5), path.lineTo(8, 10), path.moveTo(4.5, 6.8), path.lineTo(8, 10.2),
+            path.lineTo(11.5, 6.8);
+        path.moveTo(3, 13.5), path.lineTo(13, 13.5);
+        break;
+    default:
+        break;
+    }
+    return path;
+}
+
 QPainterPath shapeOf(Sign sign)
 {
     QPainterPath path;
@@ -40,22 +66,8 @@ QPainterPath shapeOf(Sign sign)
         path.moveTo(6.5, 2.5), path.lineTo(3, 6), path.lineTo(6.5, 9.5);
         path.moveTo(3, 6), path.lineTo(10, 6), path.arcTo(6.5, 6, 7, 7, 90, -180), path.lineTo(6, 13);
         break;
-    case Sign::Warning:
-        path.moveTo(8, 2.5), path.lineTo(14, 13.5), path.lineTo(2, 13.5), path.closeSubpath();
-        path.moveTo(8, 6.5), path.lineTo(8, 9.5), path.moveTo(8, 11.3), path.lineTo(8, 11.6);
-        break;
-    case Sign::Search:
-        path.addEllipse(QPointF(7, 7), 4, 4), path.moveTo(10, 10), path.lineTo(13.5, 13.5);
-        break;
-    case Sign::Retry:
-        path.arcMoveTo(3, 3, 10, 10, 40), path.arcTo(3, 3, 10, 10, 40, 290);
-        path.moveTo(12.5, 2), path.lineTo(12, 5.2), path.lineTo(8.8, 4.8);
-        break;
-    case Sign::Save:
-        path.moveTo(8, 2.5), path.lineTo(8, 10), path.moveTo(4.5, 6.8), path.lineTo(8, 10.2),
-            path.lineTo(11.5, 6.8);
-        path.moveTo(3, 13.5), path.lineTo(13, 13.5);
-        break;
+    default:
+        return furtherShapeOf(sign);
     }
     return path;
 }

@@ -44,24 +44,7 @@ SettingRow::SettingRow(ViewEntry entry, QGridLayout* layout, QWidget* parent)
     m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_present->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* editors = new QHBoxLayout;
-    editors->setSpacing(6);
-    editors->addWidget(m_box, 2);
-    if (isNumber(entry)) {
-        m_number = new QSpinBox(parent);
-        m_number->setRange(1, INT_MAX);
-        m_number->setAccessibleName(tr("%1, number").arg(viewtexts::nameOf(entry)));
-        connect(m_number, QOverload<int>::of(&QSpinBox::valueChanged), this, &SettingRow::tell);
-        editors->addWidget(m_number, 1);
-    }
-    if (isText(entry)) {
-        m_text = new QLineEdit(parent);
-        m_text->setAccessibleName(tr("%1, text").arg(viewtexts::nameOf(entry)));
-        m_text->setPlaceholderText(kindOf(entry) == viewentries::Kind::Language ? QStringLiteral("en-GB")
-                                                                                : QString());
-        connect(m_text, &QLineEdit::textEdited, this, &SettingRow::tell);
-        editors->addWidget(m_text, 2);
-    }
+    QLayout* editors = makeEditors(parent);
     for (QWidget* each : {static_cast<QWidget*>(m_label), static_cast<QWidget*>(m_box)}) {
         each->setToolTip(viewtexts::helpOf(entry));
         each->setWhatsThis(viewtexts::helpOf(entry));
@@ -77,6 +60,29 @@ SettingRow::SettingRow(ViewEntry entry, QGridLayout* layout, QWidget* parent)
         choose();
         tell();
     });
+}
+
+QLayout* SettingRow::makeEditors(QWidget* parent)
+{
+    auto* editors = new QHBoxLayout;
+    editors->setSpacing(6);
+    editors->addWidget(m_box, 2);
+    if (isNumber(m_entry)) {
+        m_number = new QSpinBox(parent);
+        m_number->setRange(1, INT_MAX);
+        m_number->setAccessibleName(tr("%1, number").arg(viewtexts::nameOf(m_entry)));
+        connect(m_number, QOverload<int>::of(&QSpinBox::valueChanged), this, &SettingRow::tell);
+        editors->addWidget(m_number, 1);
+    }
+    if (isText(m_entry)) {
+        m_text = new QLineEdit(parent);
+        m_text->setAccessibleName(tr("%1, text").arg(viewtexts::nameOf(m_entry)));
+        m_text->setPlaceholderText(kindOf(m_entry) == viewentries::Kind::Language ? QStringLiteral("en-GB")
+                                                                                  : QString());
+        connect(m_text, &QLineEdit::textEdited, this, &SettingRow::tell);
+        editors->addWidget(m_text, 2);
+    }
+    return editors;
 }
 
 void SettingRow::offer()

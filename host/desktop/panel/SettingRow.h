@@ -47,6 +47,7 @@ private:
         ViewValue value;
     };
 
+    QLayout* makeEditors(QWidget* parent);
     void offer();
     void offer(const QString& text, Kind kind, const ViewValue& value = Unset());
     int placeOf(const Value& value, bool keepsTitles) const;

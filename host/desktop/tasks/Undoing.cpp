@@ -19,9 +19,8 @@ QStringList Undoing::arguments(const Part&)
 
 void Undoing::takeFound(const FoundEvent& event)
 {
-    while (underWay().size() <= event.number && event.number < (1 << 20))
-        underWay().append(0);
-    underWay()[event.number] = table().idOf(event.path);
+    if (event.number == underWay().size())
+        underWay().append(table().idOf(event.path));
 }
 
 void Undoing::takeResult(DocumentId id, const ResultEvent& event)
