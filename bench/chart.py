@@ -2,8 +2,9 @@
 
 from xml.sax.saxutils import escape
 
-ROW, LEFT, SCALE_WIDTH, WIDTH = 20, 260, 420, 760
-COLOURS = {"quintar --jobs 1": "#2f6db5", "quintar --jobs 2": "#6aa0dc", "cp": "#9a9a9a"}
+ROW, LEFT, SCALE_WIDTH, WIDTH = 20, 310, 420, 810
+COLOURS = {"quintar --jobs 1": "#2f6db5", "quintar --jobs 1, view options": "#2f6db5", "quintar --jobs 2": "#6aa0dc",
+           "quintar --jobs 2, view options": "#6aa0dc", "cp": "#9a9a9a"}
 
 
 def rows_of(bars):

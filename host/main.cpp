@@ -5,17 +5,19 @@
 #include "cli/ShowCommand.h"
 #include "cli/UndoCommand.h"
 #include "cli/WindowCommand.h"
+#include "host/arguments/UnknownWords.h"
 #include "host/options/HelpText.h"
 #include "host/program/HostApplication.h"
+#include "host/program/Surroundings.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
-#include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <memory>
 #include <string>
@@ -60,17 +62,18 @@ host::Command& commandNamed(const Commands& commands, const std::string& word)
             return *command;
     if (word.empty())
         throw host::UsageError("which command?\n\n" + host::helptext::program());
-    std::vector<std::string> known = host::options::commandNames();
-    known.insert(known.end(), {"help", "--help", "--help-all", "--version"});
-    throw host::UsageError("unknown command \"" + word + "\"" + host::suggestion::didYouMean(word, known) +
-                           "\n\"quintar --help\" lists the commands");
+    throw host::UsageError(host::unknownwords::command(word));
 }
 
 /// What is asked for in the place of a command; false when it is none of it.
-bool answered(const Commands& commands, const std::string& word, const std::string& next)
+bool answered(const Commands& commands, const std::vector<std::string>& words)
 {
-    if (word == "help" && !next.empty())
-        host::printResult(host::helptext::brief(host::options::command(commandNamed(commands, next).id())));
+    const std::string word = words.empty() ? "" : words.front();
+    if (word == "help" && words.size() > 2)
+        throw host::UsageError("help tells about one command at a time");
+    if (word == "help" && words.size() > 1)
+        host::printResult(
+            host::helptext::brief(host::options::command(commandNamed(commands, words[1]).id())));
     else if (word == "--help" || word == "--help-all" || word == "-h" || word == "help")
         host::printResult(host::helptext::program());
     else if (word == "--version")
@@ -83,10 +86,10 @@ bool answered(const Commands& commands, const std::string& word, const std::stri
 int runCommand(int argc, char** argv)
 {
     const Commands commands = allCommands();
-    const std::string word = argc > 1 ? argv[1] : "";
-    if (answered(commands, word, argc > 2 ? argv[2] : ""))
+    const std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
+    if (answered(commands, words))
         return host::exitstatus::done;
-    host::Command& command = commandNamed(commands, word);
+    host::Command& command = commandNamed(commands, words.empty() ? "" : words.front());
     int qtArguments = 1;
     std::unique_ptr<QCoreApplication> application;
     if (!command.showsWindows())
@@ -103,6 +106,8 @@ int main(int argc, char** argv)
     std::signal(SIGCHLD, SIG_DFL); // ignored, it would hide how workers end
     occupyStandardDescriptors();
     try {
+        host::surroundings::refuseForeignRights();
+        host::surroundings::forgetPlacesOfCode();
         return runCommand(argc, argv);
     } catch (const host::OutputError& error) {
         return error.readerHasGone() ? host::exitstatus::someFailed

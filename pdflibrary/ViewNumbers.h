@@ -42,22 +42,34 @@ enum PageLayout {
 inline constexpr std::array pageLayoutNames{"/SinglePage",     "/OneColumn",   "/TwoColumnLeft",
                                             "/TwoColumnRight", "/TwoPageLeft", "/TwoPageRight"};
 
-/// Destination type of GetDestType and SetOpenActionDestinationFull. Only Zoomed has a zoom (percent, 0 for
-/// none).
-enum DestinationType { Zoomed = 1, FitPage = 2, FitWidth = 3, FitHeight = 4, FitVisible = 5 };
+/// Destination type of SetOpenActionDestinationFull. Only Zoomed has a zoom (percent, 0 for none).
+/// GetDestType tells the last three as FitVisible, FitVisible and Zoomed; GetDestValue(DestinationForm) tells
+/// them as they are.
+enum DestinationType {
+    Zoomed = 1,
+    FitPage = 2,
+    FitWidth = 3,
+    FitHeight = 4,
+    FitVisible = 5,
+    FitBox = 6,
+    FitBoxHeight = 7,
+    FitRectangle = 8,
+};
 
-/// Types of explicit destinations, as they are written. Documents may hold others, which read as the nearest
-/// of these.
-inline constexpr std::array destinationNames{"", "/XYZ", "/Fit", "/FitH", "/FitV", "/FitBH"};
+/// Types of explicit destinations, as they are written.
+inline constexpr std::array destinationNames{"",       "/XYZ",  "/Fit",   "/FitH", "/FitV",
+                                             "/FitBH", "/FitB", "/FitBV", "/FitR"};
 
-/// Value of GetDestValue: coordinates in points of default user space, the zoom in percent. SetDestValue
-/// takes DestinationZoom alone.
+/// Value of GetDestValue: coordinates in points of default user space, the zoom in percent, and the
+/// DestinationType that is written in the document, 0 for none that is known. SetDestValue takes
+/// DestinationZoom alone.
 enum DestinationValue {
     DestinationLeft = 1,
     DestinationTop = 2,
     DestinationRight = 3,
     DestinationBottom = 4,
     DestinationZoom = 5,
+    DestinationForm = 6,
 };
 
 /// Action of GetActionType: what the document opens with. There is no other.
@@ -79,9 +91,16 @@ enum ViewerPreference {
     NumCopies = 12,
 };
 
-/// Added to an option of GetViewerPreferences: an entry that the document does not have, or that is of a
-/// wrong type, reads as NoPreference whatever the option.
+/// Added to an option of GetViewerPreferences: whatever the option, an entry that the document does not have
+/// reads as NoPreference, and one that holds nothing of what it may hold as InvalidPreference.
 inline constexpr int AsWritten = 100;
+
+/// Further entries of GetViewerPreferences, all with AsWritten only. The first two read as a PageMode and a
+/// PageLayout, the texts as 0 where there is one.
+enum WrittenEntry { PageModeEntry = 13, PageLayoutEntry = 14, LanguageEntry = 15, TitleEntry = 16 };
+
+/// What GetViewerPreferences tells, with AsWritten, of an entry that is there and means nothing.
+inline constexpr int InvalidPreference = -2;
 
 /// What SetViewerPreferences takes to remove an entry.
 inline constexpr int NoPreference = -1;

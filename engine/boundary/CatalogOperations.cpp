@@ -51,13 +51,8 @@ int SetCatalogInformation(Session& session, std::wstring_view key, std::wstring_
     const CatalogEntry& entry = entryOf(key);
     require(entry.isText, ErrorCode::BadArgument);
     const std::string text = utf8FromWide(value);
-    QPDFObjectHandle present = stored(document, entry);
-    const bool isThere =
-        present.isNull() ? text.empty() : present.isString() && present.getUTF8Value() == text;
-    if (!isThere)
-        document.setCatalogKey(std::string(entry.key), text.empty()
-                                                           ? QPDFObjectHandle::newNull()
-                                                           : QPDFObjectHandle::newUnicodeString(text));
+    if (!saysText(stored(document, entry), text))
+        document.setCatalogKey(std::string(entry.key), entryForText(text));
     return 1;
 }
 

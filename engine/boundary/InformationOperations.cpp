@@ -52,12 +52,8 @@ int SetInformation(Session& session, int key, std::wstring_view value)
     requireWithin(key, InformationTitle, lastOf(informationNames));
     const char* const name = rowOf(informationNames, key);
     const std::string text = utf8FromWide(value);
-    QPDFObjectHandle present = document.key(document.trailerKey("/Info"), name);
-    const bool isThere =
-        present.isNull() ? text.empty() : present.isString() && present.getUTF8Value() == text;
-    if (!isThere)
-        changedInformation(document).replaceKey(
-            name, text.empty() ? QPDFObjectHandle::newNull() : QPDFObjectHandle::newUnicodeString(text));
+    if (!saysText(document.key(document.trailerKey("/Info"), name), text))
+        changedInformation(document).replaceKey(name, entryForText(text));
     return 1;
 }
 

@@ -39,10 +39,11 @@ int SetDestValue(Session& session, int destId, int valueKey, double value)
     require(target && readDestination(open.document, *target, open.pages) == before,
             ErrorCode::UnknownDestination);
     const QPDFObjectHandle array = magnified(open.document, target->array, value);
-    const auto after = readDestination(open.document, {array, {}}, open.pages);
-    if (!after || after->zoom == before.zoom)
+    auto after = readDestination(open.document, {array, before.name}, open.pages);
+    if (!after || *after == before)
         return 1;
     redirectOpenAction(open.document, array);
+    after->name.clear();
     session.changeDestination(destId, *after);
     return 1;
 }

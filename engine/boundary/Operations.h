@@ -96,7 +96,8 @@ int SetPageLayout(Session& session, int layout);
 /// The number of a preference's value; when the document has none 0, for options from Direction on
 /// NoPreference.
 /// \param option one of pdflibrary/ViewerPreferences.h. With AsWritten added a preference that the document
-///     has not is NoPreference for every option.
+///     has not is NoPreference for every option, and one that means nothing InvalidPreference; a WrittenEntry
+///     is an option then, too.
 int GetViewerPreferences(Session& session, int option);
 /// \param value what the option takes, or NoPreference to remove the entry; the other preferences stay as they
 ///     are, and so does a dictionary that becomes empty.
@@ -108,7 +109,7 @@ int GetOpenActionDestination(Session& session);
 /// \param page from 1.
 /// \param zoom percent, 0 for none; used by Zoomed alone.
 /// \param destType a DestinationType.
-/// \param left, top, right, bottom finite; points of default user space.
+/// \param left, top, right, bottom finite; points of default user space. FitRectangle shows them as they are.
 int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destType, double left, double top,
                                  double right, double bottom);
 /// Whatever kind of action it is.
@@ -117,7 +118,8 @@ int RemoveOpenAction(Session& session);
 int GetDestType(Session& session, int destId);
 /// The page, from 1.
 int GetDestPage(Session& session, int destId);
-/// \param valueKey a DestinationValue. 0 for what the destination leaves open.
+/// \param valueKey a DestinationValue. 0 for what the destination leaves open. DestinationForm is a
+///     DestinationType, or 0 for a type that is not known.
 double GetDestValue(Session& session, int destId, int valueKey);
 /// The name of a named destination, else empty.
 std::wstring GetDestName(Session& session, int destId);

@@ -2,6 +2,8 @@
 
 #include "pdflibrary/FileNameCodec.h"
 
+#include <qpdf/QPDFObjectHandle.hh>
+
 #include <algorithm>
 #include <string>
 #include <string_view>
@@ -37,6 +39,18 @@ inline std::string utf8FromWide(std::wstring_view text)
     std::wstring wide(text);
     std::replace_if(wide.begin(), wide.end(), isSurrogate, wchar_t(0xfffd));
     return fileNameFromWide(wide);
+}
+
+/// Whether an entry says this text already; an empty one is said by no entry at all.
+inline bool saysText(QPDFObjectHandle entry, const std::string& text)
+{
+    return text.empty() ? entry.isNull() : entry.isString() && entry.getUTF8Value() == text;
+}
+
+/// What an entry becomes that is to say this text; null, which removes it, for an empty one.
+inline QPDFObjectHandle entryForText(const std::string& text)
+{
+    return text.empty() ? QPDFObjectHandle::newNull() : QPDFObjectHandle::newUnicodeString(text);
 }
 
 } // namespace engine

@@ -69,11 +69,46 @@ Stored storedPreference(Document& document, const PreferenceRow& preference, int
     return entry.isBool() ? Stored{entry.getBoolValue(), false} : Stored{absent, !entry.isNull()};
 }
 
+/// Of a text only whether there is one: 0.
+Stored storedText(QPDFObjectHandle entry)
+{
+    if (entry.isString())
+        return {0, false};
+    return {pdflibrary::NoPreference, !entry.isNull()};
+}
+
 PreferenceRow preferenceOf(int option)
 {
     const std::optional<PreferenceRow> preference = pdflibrary::findPreference(option);
     require(preference.has_value(), ErrorCode::BadArgument);
     return *preference;
+}
+
+/// An entry whose value is NoPreference where it has none.
+Stored storedEntry(Document& document, int option)
+{
+    const auto entry = [&](const char* key) { return document.key(document.catalog(), key); };
+    switch (option) {
+    case pdflibrary::PageModeEntry:
+        return storedName(entry("/PageMode"), pdflibrary::pageModeNames, pdflibrary::NoPreference);
+    case pdflibrary::PageLayoutEntry:
+        return storedName(entry("/PageLayout"), pdflibrary::pageLayoutNames, pdflibrary::NoPreference);
+    case pdflibrary::LanguageEntry:
+        return storedText(entry("/Lang"));
+    case pdflibrary::TitleEntry:
+        return storedText(document.key(document.trailerKey("/Info"), "/Title"));
+    default:
+        break;
+    }
+    const PreferenceRow preference = preferenceOf(option);
+    if (!preferencesOf(document).isDictionary()) // which has no entries, valid or not
+        return {pdflibrary::NoPreference, false};
+    return storedPreference(document, preference, pdflibrary::NoPreference);
+}
+
+int asWritten(const Stored& entry)
+{
+    return entry.replaceable ? pdflibrary::InvalidPreference : entry.value;
 }
 
 QPDFObjectHandle preferenceValue(const PreferenceRow& preference, int value)
@@ -147,10 +182,10 @@ int SetPageLayout(Session& session, int layout)
 int GetViewerPreferences(Session& session, int option)
 {
     Document& document = session.document().document;
-    const bool asWritten = option > pdflibrary::AsWritten;
-    const PreferenceRow preference = preferenceOf(asWritten ? option - pdflibrary::AsWritten : option);
-    return storedPreference(document, preference, asWritten ? pdflibrary::NoPreference : preference.absent)
-        .value;
+    if (option > pdflibrary::AsWritten)
+        return asWritten(storedEntry(document, option - pdflibrary::AsWritten));
+    const PreferenceRow preference = preferenceOf(option);
+    return storedPreference(document, preference, preference.absent).value;
 }
 
 int SetViewerPreferences(Session& session, int option, int value)
@@ -179,7 +214,7 @@ int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destT
                                  double right, double bottom)
 {
     OpenDocument& open = session.document();
-    requireWithin(destType, pdflibrary::Zoomed, pdflibrary::FitVisible);
+    requireWithin(destType, pdflibrary::Zoomed, pdflibrary::FitRectangle);
     require(zoom >= 0, ErrorCode::BadArgument);
     for (const double coordinate : {left, top, right, bottom})
         require(std::isfinite(coordinate), ErrorCode::BadArgument);
@@ -187,7 +222,9 @@ int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destT
     const QPDFObjectHandle target = path.page;
     const Point corner = upperLeftAsShown(open.document, path, {left, bottom, right, top});
     const bool onItsSide = pageRotation(open.document, path) % 180 != 0;
-    QPDFObjectHandle operands = destinationOperands(destType, zoom, corner, onItsSide);
+    QPDFObjectHandle operands = destType == pdflibrary::FitRectangle
+                                    ? rectangleOperands({left, bottom, right, top})
+                                    : destinationOperands(destType, zoom, corner, onItsSide);
     const auto present = openActionTarget(open.document);
     if (present && isWrittenAs(open.document, present->array, target, operands))
         return 1;
@@ -219,7 +256,9 @@ double GetDestValue(Session& session, int destId, int valueKey)
     const Destination& destination = session.destination(destId);
     const std::array values{&Destination::left, &Destination::top, &Destination::right, &Destination::bottom,
                             &Destination::zoom};
-    requireWithin(valueKey, pdflibrary::DestinationLeft, pdflibrary::DestinationZoom);
+    requireWithin(valueKey, pdflibrary::DestinationLeft, pdflibrary::DestinationForm);
+    if (valueKey == pdflibrary::DestinationForm)
+        return destination.form;
     return destination.*values[static_cast<std::size_t>(valueKey - pdflibrary::DestinationLeft)];
 }
 

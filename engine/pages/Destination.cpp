@@ -32,33 +32,32 @@ struct DestinationForm
 };
 
 // clang-format off
+// At the number of the form, less one.
 const DestinationForm forms[] = {
-    {destinationNames[Zoomed],     Zoomed,     {&Destination::left, &Destination::top, &Destination::zoom}},
-    {destinationNames[FitPage],    FitPage,    {}},
-    {destinationNames[FitWidth],   FitWidth,   {&Destination::top}},
-    {destinationNames[FitHeight],  FitHeight,  {&Destination::left}},
-    {destinationNames[FitVisible], FitVisible, {&Destination::top}},
-    // What follows is read, never written.
-    {"/FitB",                      FitVisible, {}},
-    {"/FitBV",                     FitVisible, {&Destination::left}},
-    {"/FitR",                      Zoomed,     {&Destination::left, &Destination::bottom, &Destination::right, &Destination::top}},
+    {destinationNames[Zoomed],       Zoomed,     {&Destination::left, &Destination::top, &Destination::zoom}},
+    {destinationNames[FitPage],      FitPage,    {}},
+    {destinationNames[FitWidth],     FitWidth,   {&Destination::top}},
+    {destinationNames[FitHeight],    FitHeight,  {&Destination::left}},
+    {destinationNames[FitVisible],   FitVisible, {&Destination::top}},
+    {destinationNames[FitBox],       FitVisible, {}},
+    {destinationNames[FitBoxHeight], FitVisible, {&Destination::left}},
+    {destinationNames[FitRectangle], Zoomed,     {&Destination::left, &Destination::bottom, &Destination::right, &Destination::top}},
 };
 // clang-format on
 
-/// A destination without a type that is known shows the page as /XYZ without operands does.
-const DestinationForm& formOf(QPDFObjectHandle name)
+/// 0 for a name that is none of them.
+int formOf(QPDFObjectHandle name)
 {
-    for (const DestinationForm& form : forms)
-        if (name.isNameAndEquals(form.name))
-            return form;
-    return forms[0];
+    const auto* const found =
+        std::find_if(std::begin(forms), std::end(forms),
+                     [&](const DestinationForm& form) { return name.isNameAndEquals(form.name); });
+    return found == std::end(forms) ? 0 : static_cast<int>(found - forms) + 1;
 }
 
-/// The form in which a type is written.
-const DestinationForm& formOf(int type)
+/// A destination without a type that is known shows the page as /XYZ without operands does.
+const DestinationForm& rowOfForm(int form)
 {
-    return *std::find_if(std::begin(forms), std::end(forms),
-                         [type](const DestinationForm& form) { return form.type == type; });
+    return forms[std::max(form, 1) - 1];
 }
 
 /// An operand as it stands in a destination; null where that has none.
@@ -85,6 +84,17 @@ int pageOf(QPDFObjectHandle target, PageTree& pages)
 QPDFObjectHandle numberOrNull(double value, bool isNull)
 {
     return isNull ? QPDFObjectHandle::newNull() : QPDFObjectHandle::newReal(value + 0.0, written); // no "-0"
+}
+
+QPDFObjectHandle operandsOf(const DestinationForm& form, const Destination& values)
+{
+    QPDFObjectHandle operands = QPDFObjectHandle::newArray();
+    operands.appendItem(QPDFObjectHandle::newName(form.name));
+    for (const Operand operand : form.operands)
+        if (operand != nullptr)
+            operands.appendItem(
+                numberOrNull(values.*operand, operand == &Destination::zoom && values.zoom == 0));
+    return operands;
 }
 
 bool isNone(QPDFObjectHandle zoom)
@@ -129,7 +139,8 @@ std::optional<Destination> readDestination(Document& document, ActionTarget targ
     destination.page = pageOf(document.item(target.array, 0), pages);
     if (destination.page == 0)
         return std::nullopt;
-    const DestinationForm& form = formOf(document.item(target.array, 1));
+    destination.form = formOf(document.item(target.array, 1));
+    const DestinationForm& form = rowOfForm(destination.form);
     destination.type = form.type;
     int index = firstOperand;
     for (const Operand member : form.operands) {
@@ -143,29 +154,33 @@ std::optional<Destination> readDestination(Document& document, ActionTarget targ
     return destination;
 }
 
-QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bool onItsSide)
+QPDFObjectHandle destinationOperands(int form, int zoom, const Point& corner, bool onItsSide)
 {
-    const bool isPoint = type == Zoomed; // the others name an edge of the page as it is shown
+    const bool isPoint = form == Zoomed; // the others name an edge of the page as it is shown
     Destination values;
     values.left = onItsSide && !isPoint ? corner.y : corner.x;
     values.top = onItsSide && !isPoint ? corner.x : corner.y;
     values.zoom = zoom / 100.0;
-    const DestinationForm& form = formOf(type);
-    QPDFObjectHandle operands = QPDFObjectHandle::newArray();
-    operands.appendItem(QPDFObjectHandle::newName(form.name));
-    for (const Operand operand : form.operands)
-        if (operand != nullptr)
-            operands.appendItem(numberOrNull(values.*operand, operand == &Destination::zoom && zoom == 0));
-    return operands;
+    return operandsOf(rowOfForm(form), values);
+}
+
+QPDFObjectHandle rectangleOperands(const QPDFObjectHandle::Rectangle& rectangle)
+{
+    Destination values;
+    values.left = rectangle.llx;
+    values.bottom = rectangle.lly;
+    values.right = rectangle.urx;
+    values.top = rectangle.ury;
+    return operandsOf(rowOfForm(FitRectangle), values);
 }
 
 QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent)
 {
-    const DestinationForm& form = formOf(document.item(array, 1));
-    return QPDFObjectHandle::newArray({array.getArrayItem(0), QPDFObjectHandle::newName(formOf(Zoomed).name),
-                                       operandOf(array, form, &Destination::left),
-                                       operandOf(array, form, &Destination::top),
-                                       numberOrNull(percent / 100, percent == 0)});
+    const DestinationForm& form = rowOfForm(formOf(document.item(array, 1)));
+    return QPDFObjectHandle::newArray(
+        {array.getArrayItem(0), QPDFObjectHandle::newName(destinationNames[Zoomed]),
+         operandOf(array, form, &Destination::left), operandOf(array, form, &Destination::top),
+         numberOrNull(percent / 100, percent == 0)});
 }
 
 void redirectOpenAction(Document& document, QPDFObjectHandle array)
@@ -188,7 +203,7 @@ bool isWrittenAs(Document& document, QPDFObjectHandle array, const QPDFObjectHan
     if (!page.isIndirect() || target.getObjGen() != page.getObjGen() || array.getArrayNItems() != size + 1 ||
         !document.item(array, 1).isNameAndEquals(operands.getArrayItem(0).getName()))
         return false;
-    const DestinationForm& form = formOf(operands.getArrayItem(0));
+    const DestinationForm& form = rowOfForm(formOf(operands.getArrayItem(0)));
     for (int index = 1; index < size; ++index) {
         QPDFObjectHandle stored = document.item(array, index + 1);
         QPDFObjectHandle wanted = operands.getArrayItem(index);

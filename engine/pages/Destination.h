@@ -16,7 +16,8 @@ class PageTree;
 struct Destination
 {
     int page = 0; ///< From 1.
-    int type = 0; ///< A pdflibrary::DestinationType.
+    int type = 0; ///< A pdflibrary::DestinationType of the first five.
+    int form = 0; ///< The pdflibrary::DestinationType that is written; 0 for none that is known.
     double left = 0;
     double top = 0;
     double right = 0;
@@ -44,11 +45,14 @@ std::optional<ActionTarget> openActionTarget(Document& document);
 std::optional<Destination> readDestination(Document& document, ActionTarget target, PageTree& pages);
 
 /// What follows the page in an explicit destination: its type and all operands.
-/// \param type a pdflibrary::DestinationType.
+/// \param form a pdflibrary::DestinationType but FitRectangle.
 /// \param zoom in percent, 0 for none.
 /// \param corner the upper left one of what is to be seen, as the page is shown.
 /// \param onItsSide the page is shown rotated by 90 or 270 degrees: what is at the top is one of its sides.
-QPDFObjectHandle destinationOperands(int type, int zoom, const Point& corner, bool onItsSide);
+QPDFObjectHandle destinationOperands(int form, int zoom, const Point& corner, bool onItsSide);
+
+/// The same for /FitR, which shows this part of the page.
+QPDFObjectHandle rectangleOperands(const QPDFObjectHandle::Rectangle& rectangle);
 
 /// A destination of type /XYZ that shows what `array`, which reads as that type, shows at another
 /// magnification.

@@ -1,10 +1,11 @@
 #include "ChangeOptions.h"
 
 #include "OptionParser.h"
+#include "host/change/LanguageTag.h"
 #include "host/change/ViewJson.h"
 #include "host/change/ViewValues.h"
 #include "host/document/PresentView.h"
-#include "host/program/LoadedDocument.h"
+#include "host/model/ModelView.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/settings/SettingsNotes.h"
@@ -16,15 +17,12 @@ namespace host {
 
 namespace {
 
+const std::size_t longestLanguage = 3;
+
 /// The change that makes other documents open as this one does.
-ViewChange viewOf(const std::string& file, const std::string& password)
+ViewChange asChange(const PresentView& present)
 {
-    LoadedDocument document(file, password);
-    try {
-        return PresentView(document.library()).asChange();
-    } catch (const std::runtime_error& error) {
-        throw UsageError(file + ": " + error.what());
-    }
+    return present.asChange();
 }
 
 } // namespace
@@ -50,7 +48,7 @@ void ChangeOptions::takeViewOptions(OptionParser& parser)
     parser.takeFlag("title-if-missing", m_titleIfMissing);
 }
 
-void ChangeOptions::check() const
+void ChangeOptions::check(bool haveStandardInput) const
 {
     const std::size_t sources = m_lists.size() + m_favorites.size() + m_toolSettings.size() +
                                 (m_settingWords.empty() ? 0 : 1) + (changesView() ? 1 : 0);
@@ -62,6 +60,8 @@ void ChangeOptions::check() const
                                "--tool-settings or --set");
     if (m_titleFromFileName && m_named[ViewEntry::Title])
         throw UsageError("--title and --title-from-file-name exclude each other");
+    if (m_titleFromFileName && haveStandardInput)
+        throw UsageError("--title-from-file-name: a document from standard input has no name");
 }
 
 bool ChangeOptions::changesView() const
@@ -69,18 +69,20 @@ bool ChangeOptions::changesView() const
     return !m_named.isEmpty() || m_viewFile || m_model || m_titleFromFileName || m_titleIfMissing;
 }
 
-void ChangeOptions::read(const std::string& password)
+void ChangeOptions::read(std::string_view password, Cell& cell)
 {
     if (changesView())
-        readChange(password);
+        readChange(password, cell);
     else
         readSettings();
 }
 
-void ChangeOptions::readChange(const std::string& password)
+void ChangeOptions::readChange(std::string_view password, Cell& cell)
 {
+    if (const std::string problem = m_named.contradiction(); !problem.empty())
+        throw UsageError(problem);
     if (m_model)
-        m_change.add(viewOf(*m_model, password));
+        m_change.add(modelview::read(*m_model, password, cell, asChange));
     if (m_viewFile)
         m_change.add(viewjson::readFile(*m_viewFile));
     m_change.add(m_named);
@@ -88,11 +90,11 @@ void ChangeOptions::readChange(const std::string& password)
         m_change.set(ViewEntry::Title, FileNameAsTitle());
     if (m_titleIfMissing)
         m_change.keepTitles();
+    if (const std::string problem = m_change.contradiction(); !problem.empty())
+        throw UsageError(problem);
     for (const auto& file : {m_model, m_viewFile})
         if (file)
             m_filesRead.push_back(*file);
-    if (const std::string problem = m_change.contradiction(); !problem.empty())
-        throw UsageError(problem);
 }
 
 void ChangeOptions::readSettings()
@@ -122,7 +124,25 @@ std::vector<std::string> ChangeOptions::notes() const
             notes.push_back(std::move(note));
     if (std::string note = noteOnAll(); !note.empty())
         notes.push_back(std::move(note));
+    if (changesView() && m_change.isEmpty())
+        notes.emplace_back("the view names nothing, so nothing is asked of the documents");
+    if (std::string note = noteOnLanguage(); !note.empty())
+        notes.push_back(std::move(note));
     return notes;
+}
+
+std::string ChangeOptions::noteOnLanguage() const
+{
+    const auto& language = m_change[ViewEntry::Lang];
+    const auto* tag = language ? std::get_if<std::string>(&*language) : nullptr;
+    if (tag == nullptr)
+        return {};
+    if (!isLanguageTag(*tag))
+        return "the view's lang, \"" + *tag + "\", has not the form of a language tag";
+    if (std::min(tag->find('-'), tag->size()) > longestLanguage)
+        return "no language has the code \"" + tag->substr(0, tag->find('-')) +
+               "\" so far: codes have two or three letters, as \"en\" for English";
+    return {};
 }
 
 std::string ChangeOptions::noteOnAll() const

@@ -6,25 +6,25 @@
 
 namespace host {
 
-namespace {
-
-const std::size_t largestPasswordFile = 64 << 10;
-
-} // namespace
-
 void DocumentOptions::take(OptionParser& parser)
 {
-    parser.takeValue("password", setOnce(m_givenPassword, "--password"));
-    parser.takeValue("password-file", setOnce(m_passwordFile, "--password-file"));
+    m_password.take(parser);
     m_list.take(parser);
 }
 
-void DocumentOptions::check(const std::vector<std::string>& words) const
+bool DocumentOptions::haveStandardInput(const std::vector<std::string>& words)
 {
-    if (m_givenPassword && m_passwordFile)
-        throw UsageError("--password and --password-file exclude each other");
-    if (m_passwordFile == "-" && m_list.isStandardInput())
-        throw UsageError("--password-file and --files-from cannot both read standard input");
+    return std::find(words.begin(), words.end(), RunDestination::standardStream) != words.end();
+}
+
+void DocumentOptions::check(const std::vector<std::string>& words, bool isInputTaken) const
+{
+    m_password.check();
+    const auto readers = std::count(words.begin(), words.end(), RunDestination::standardStream) +
+                         (m_password.file() == "-" ? 1 : 0) + (m_list.isStandardInput() ? 1 : 0) +
+                         (isInputTaken ? 1 : 0);
+    if (readers > 1)
+        throw UsageError("standard input is named more than once, and can be read once only");
     m_list.check();
     if (words.empty() && !m_list.isGiven())
         throw UsageError("which documents? Name documents or folders, or give --files-from");
@@ -33,7 +33,9 @@ void DocumentOptions::check(const std::vector<std::string>& words) const
 void DocumentOptions::read(const std::vector<std::string>& words)
 {
     m_inputs = words;
-    readPassword();
+    m_password.read();
+    if (m_password.file())
+        m_filesRead.push_back(*m_password.file());
     if (!m_list.isGiven())
         return;
     const std::vector<std::string> names = m_list.read();
@@ -43,24 +45,14 @@ void DocumentOptions::read(const std::vector<std::string>& words)
 
 RunPlan DocumentOptions::planForReading(RunPlan::Found found) const
 {
-    RunPlan plan(RunDestination::inPlace(), std::move(found));
+    RunPlan plan(RunDestination::none(), std::move(found));
     for (const std::string& input : m_inputs)
-        plan.add(input);
+        input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input);
     for (const std::string& folder : plan.emptyFolders())
         note("no PDF documents in " + folder);
     if (plan.documents().empty() && plan.emptyFolders().empty())
         note("the list of documents is empty");
     return plan;
-}
-
-void DocumentOptions::readPassword()
-{
-    m_password = m_givenPassword.value_or("");
-    if (!m_passwordFile)
-        return;
-    m_filesRead.push_back(*m_passwordFile);
-    const std::string lines = readNamedFile(*m_passwordFile, largestPasswordFile, "the password file");
-    m_password = lines.substr(0, lines.find_first_of("\r\n"));
 }
 
 } // namespace host

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "ListOptions.h"
+#include "PasswordOptions.h"
 #include "host/plan/RunPlan.h"
 
-#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace host {
@@ -17,8 +18,11 @@ class DocumentOptions
 public:
     /// The object must outlive the parser.
     void take(OptionParser& parser);
-    /// \param words the documents and folders that are named by themselves. Throws UsageError.
-    void check(const std::vector<std::string>& words) const;
+    /// \param words the documents and folders that are named by themselves.
+    /// \param isInputTaken whether something else is read from standard input. Throws UsageError.
+    void check(const std::vector<std::string>& words, bool isInputTaken = false) const;
+    /// Whether one of the documents comes from standard input.
+    static bool haveStandardInput(const std::vector<std::string>& words);
     /// Reads password and list. Throws UsageError.
     void read(const std::vector<std::string>& words);
 
@@ -27,18 +31,15 @@ public:
     /// The documents for a command that only reads them. Folders without any are noted. Throws UsageError.
     RunPlan planForReading(RunPlan::Found found) const;
     /// Whether an option names it; documents may come from it as well.
-    bool readsStandardInput() const { return m_passwordFile == "-" || m_list.isStandardInput(); }
-    const std::string& password() const { return m_password; }
+    bool readsStandardInput() const { return m_password.file() == "-" || m_list.isStandardInput(); }
+    /// The object keeps it.
+    std::string_view password() const { return m_password.password(); }
     const std::vector<std::string>& filesRead() const { return m_filesRead; }
 
 private:
-    void readPassword();
-
-    std::optional<std::string> m_givenPassword;
-    std::optional<std::string> m_passwordFile;
+    PasswordOptions m_password;
     ListOptions m_list;
     std::vector<std::string> m_inputs;
-    std::string m_password;
     std::vector<std::string> m_filesRead;
 };
 

@@ -1,10 +1,11 @@
 #include "OptionParser.h"
 
+#include "UnknownWords.h"
 #include "host/options/HelpText.h"
-#include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
 #include <getopt.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <charconv>
@@ -72,6 +73,12 @@ void OptionParser::takeFlag(const std::string& name, bool& flag)
     take(name, true, [&flag](const std::string&) { flag = true; });
 }
 
+void OptionParser::takeSecret(const std::string& name, TakeSecret take)
+{
+    takeValue(name, {});
+    m_secretTakers[name] = std::move(take);
+}
+
 void OptionParser::take(const std::string& name, bool isFlag, Take take)
 {
     const bool known = std::any_of(m_options.begin(), m_options.end(), [&](const Option& each) {
@@ -98,9 +105,19 @@ std::vector<std::string> OptionParser::parse(int argc, char** argv)
                              " needs a value");
         if (option == nullptr)
             refuse(argv, argc);
-        m_takers.at(option->name)(optarg != nullptr ? optarg : "");
+        if (optarg != nullptr && optarg == argv[optind - 1])
+            requireValue(*option, optarg);
+        if (const auto secret = m_secretTakers.find(option->name); secret != m_secretTakers.end())
+            secret->second(optarg);
+        else
+            m_takers.at(option->name)(optarg != nullptr ? optarg : "");
     }
-    return std::vector<std::string>(argv + optind, argv + argc);
+    std::vector<std::string> words(argv + optind, argv + argc);
+    for (const std::string& word : words)
+        if (unknownwords::beginsWithOtherDash(word) && access(word.c_str(), F_OK) != 0)
+            throw UsageError("\"" + word +
+                             "\" begins with a dash that is no hyphen; options begin with \"--\"");
+    return words;
 }
 
 void OptionParser::refuse(char** argv, int count) const
@@ -109,38 +126,38 @@ void OptionParser::refuse(char** argv, int count) const
         throw UsageError("the option " + spelled(*flag, optopt) + " takes no value");
     const std::string word = optind > 0 && optind <= count ? argv[optind - 1] : "";
     if (word.starts_with("--"))
-        refuseName(word.substr(2, word.find('=') - 2));
+        throw UsageError(unknownwords::option(m_command, m_options, word.substr(2, word.find('=') - 2)));
     // Among several letters in one word, getopt has not stepped past that word yet.
-    const std::string letter = std::string("-") + static_cast<char>(optopt);
     const std::string whole = optind < count ? argv[optind] : "";
-    const std::string name = (word.starts_with('-') ? word : whole).substr(1);
-    std::vector<std::string> names;
-    for (const Option& each : m_options)
-        names.push_back(each.name);
-    throw UsageError("unknown option " + letter +
-                     (name.size() > 1 ? suggestion::didYouMean(name, names, "--") : ""));
+    throw UsageError(unknownwords::letter(m_command, m_options, static_cast<char>(optopt),
+                                          (word.starts_with('-') ? word : whole).substr(1)));
 }
 
-void OptionParser::refuseName(const std::string& name) const
+/// Long names may be cut short, letters stand together.
+bool OptionParser::isOption(const std::string& word) const
 {
-    std::vector<std::string> names;
-    std::string beginnings;
-    for (const Option& each : m_options) {
-        names.push_back(each.name);
-        if (each.name.starts_with(name))
-            beginnings += (beginnings.empty() ? "--" : ", --") + each.name;
+    if (word.size() < 2 || word[0] != '-')
+        return false;
+    const auto any = [this](const auto& isIt) {
+        return std::any_of(m_options.begin(), m_options.end(), isIt);
+    };
+    if (word[1] == '-') {
+        const std::string name = word.substr(2, word.find('=') - 2);
+        return !name.empty() && any([&](const Option& each) { return each.name.starts_with(name); });
     }
-    if (!beginnings.empty())
-        throw UsageError("--" + name + " may be one of " + beginnings);
-    for (const Option& each : m_options)
-        if (each.completes == options::Completes::Words &&
-            std::find(each.words.begin(), each.words.end(), name) != each.words.end())
-            throw UsageError("unknown option --" + name + "; did you mean \"--" + each.name + " " + name +
-                             "\"?");
-    const std::string meant = suggestion::didYouMean(name, names, "--");
-    throw UsageError(
-        "unknown option --" + name +
-        (meant.empty() ? "; \"quintar " + m_command.name + " --help-all\" lists the options" : meant));
+    return std::all_of(word.begin() + 1, word.end(), [&](char letter) {
+        return any([=](const Option& each) { return each.letter == letter; });
+    });
+}
+
+/// A value that was forgotten would take the next option with it: "--title -n" is no dry run.
+void OptionParser::requireValue(const Option& option, const std::string& value) const
+{
+    const std::string name = "--" + option.name;
+    if (isOption(value))
+        throw UsageError(
+            "the option " + name + " needs a value, and \"" + value + "\" is an option" +
+            (option.words.empty() ? "; \"" + name + "=" + value + "\" would make it the value" : ""));
 }
 
 OptionParser::Take appendTo(std::vector<std::string>& values)

@@ -4,6 +4,15 @@
 
 namespace host {
 
+namespace {
+
+bool isPage(const ViewValue& openPage)
+{
+    return std::holds_alternative<int>(openPage) || std::holds_alternative<LastPage>(openPage);
+}
+
+} // namespace
+
 bool ViewChange::isEmpty() const
 {
     return std::none_of(m_values.begin(), m_values.end(),
@@ -27,6 +36,11 @@ void ViewChange::remove(ViewEntry entry)
 
 void ViewChange::add(const ViewChange& other)
 {
+    const auto& page = other[ViewEntry::OpenPage];
+    if (page && !isPage(*page))
+        remove(ViewEntry::Zoom);
+    if (const auto& own = (*this)[ViewEntry::OpenPage]; other[ViewEntry::Zoom] && own && !isPage(*own))
+        remove(ViewEntry::OpenPage);
     for (std::size_t index = 0; index < viewEntryCount; ++index)
         if (other.m_values.at(index))
             m_values.at(index) = other.m_values.at(index);

@@ -15,6 +15,21 @@ struct Unset
     bool operator==(const Unset&) const = default;
 };
 
+/// Something stands there that the entry cannot hold, so it says nothing. Only documents have it.
+struct Invalid
+{
+    bool operator==(const Invalid&) const = default;
+};
+
+/// The document opens with an action that shows no page. It stays where it is: none can be given to another
+/// document.
+struct OtherAction
+{
+    std::string type; ///< As ISO 32000 names it.
+
+    bool operator==(const OtherAction&) const = default;
+};
+
 /// The last page, whichever that is.
 struct LastPage
 {
@@ -29,17 +44,20 @@ struct FileNameAsTitle
 
 struct Magnification
 {
-    /// The library's destination type.
+    /// The library's destination type; 0 for one that no reader knows.
     int type = 1;
     /// 0 for none; only of type 1.
     double percent = 0;
+    /// Left, bottom, right and top of what a FitRectangle shows; else 0.
+    std::array<double, 4> rectangle{};
 
     bool operator==(const Magnification&) const = default;
 };
 
-/// What an entry is set to. A number is a name's (ViewEntries), a flag's (0 or 1), a page's or a count; a
+/// What an entry is, or is set to. A number is a name's (ViewEntries), a flag's (0 or 1), a page's or a count; a
 /// text is UTF-8.
-using ViewValue = std::variant<Unset, int, Magnification, LastPage, FileNameAsTitle, std::string>;
+using ViewValue =
+    std::variant<Unset, int, Magnification, LastPage, FileNameAsTitle, std::string, Invalid, OtherAction>;
 
 /// A change of how a document opens: which entries, and what they are set to. What it does not name stays as
 /// it is.
@@ -57,7 +75,7 @@ public:
     bool keepsTitles() const { return m_keepsTitles; }
     void keepTitles() { m_keepsTitles = true; }
 
-    /// Takes over what the other one names.
+    /// Takes over what the other one names; what that rules out about the open action goes.
     void add(const ViewChange& other);
 
     /// What cannot be meant, in words that the user can act on; empty when nothing is wrong.

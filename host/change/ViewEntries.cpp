@@ -35,6 +35,9 @@ constexpr Name zooms[] = {
     {pdflibrary::FitWidth,   "FitH",  "fit-width",   nullptr},
     {pdflibrary::FitHeight,  "FitV",  "fit-height",  nullptr},
     {pdflibrary::FitVisible, "FitBH", "fit-visible", nullptr},
+    {pdflibrary::FitBox, "FitB", "fit-box", nullptr},
+    {pdflibrary::FitBoxHeight, "FitBV", "fit-box-height", nullptr},
+    {pdflibrary::FitRectangle, "FitR", "fit-rectangle", nullptr},
 };
 
 constexpr Name directions[] = {
@@ -106,6 +109,11 @@ const Description& describe(ViewEntry entry)
 }
 
 std::span<const Name> magnifications()
+{
+    return std::span(zooms).first<5>();
+}
+
+std::span<const Name> allMagnifications()
 {
     return zooms;
 }

@@ -73,8 +73,11 @@ struct Description
 const std::array<Description, viewEntryCount>& all();
 const Description& describe(ViewEntry entry);
 
-/// Where the open action's destination says how the page is shown; in Name::number the destination type.
+/// Where the open action's destination says how the page is shown; in Name::number the destination type. The
+/// command line takes them all.
 std::span<const Name> magnifications();
+/// Those and what only documents and JSON have, as it needs more than a word.
+std::span<const Name> allMagnifications();
 
 /// The percentages that a magnification may have.
 inline constexpr double lowestPercent = 1;

@@ -5,12 +5,16 @@
 #include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
+#include "pdflibrary/ViewNumbers.h"
+
+#include <QJsonArray>
 #include <QJsonDocument>
 
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <climits>
 #include <cmath>
@@ -25,13 +29,15 @@ using Names = std::vector<std::string>;
 
 const std::size_t largestFile = 1 << 20;
 const char openAction[] = "openAction";
+const char rectangle[] = "rectangle";
 const char preferences[] = "viewerPreferences";
 const char fromFileName[] = "titleFromFileName";
 const char ifMissing[] = "titleIfMissing";
+const char invalid[] = "invalid";
 
 /// What stands in the object of a document besides its view.
-const Names facts{"file",      "fileBytes", "pages",   "encrypted",  "signatures",
-                  "certified", "bookmarks", "outline", "outlineNote"};
+const Names facts{"file",      "fileBytes", "pages",   "encrypted",   "signatures",
+                  "certified", "bookmarks", "outline", "outlineNote", invalid};
 
 bool isPreference(const Description& entry)
 {
@@ -43,11 +49,12 @@ bool isOfOpenAction(ViewEntry entry)
     return entry == ViewEntry::OpenPage || entry == ViewEntry::Zoom;
 }
 
-/// In the object of the document: keys of the catalog begin with a small letter there.
+/// Keys of the catalog begin with a small letter.
 QString nameOf(const Description& entry)
 {
     QString name = entry.key;
-    name[0] = name[0].toLower();
+    if (!isPreference(entry))
+        name[0] = name[0].toLower();
     return name;
 }
 
@@ -86,17 +93,20 @@ int numberOfName(const QString& name, const QJsonValue& value, std::span<const v
             return each.number;
         known.emplace_back(each.name);
     }
-    std::string choices = "one of";
+    std::string choices;
     for (const std::string& each : known)
-        choices += " " + each;
-    refuse(name, value, choices + suggestion::didYouMean(value.toString().toStdString(), known));
+        choices += (choices.empty() ? "" : ", ") + each;
+    throw UsageError(name.toStdString() + " cannot be " + textOf(value).toStdString() +
+                     suggestion::didYouMean(value.toString().toStdString(), known) + "\nit is one of " +
+                     choices);
 }
 
-ViewValue textValue(const Description& entry, const QString& name, const QJsonValue& value)
+/// Any text: documents have them of all kinds.
+ViewValue textValue(const QString& name, const QJsonValue& value)
 {
     if (!value.isString())
         refuse(name, value, "a text or null");
-    return viewvalues::parse(entry.entry, value.toString().toStdString());
+    return value.toString().toStdString();
 }
 
 ViewValue valueOf(const Description& entry, const QString& name, const QJsonValue& value)
@@ -113,7 +123,7 @@ ViewValue valueOf(const Description& entry, const QString& name, const QJsonValu
     case Kind::Count:
         return wholeNumber(name, value);
     default:
-        return textValue(entry, name, value);
+        return textValue(name, value);
     }
 }
 
@@ -124,20 +134,57 @@ ViewValue pageOf(const QJsonValue& value)
     return wholeNumber("page", value);
 }
 
+/// Left, bottom, right and top.
+std::array<double, 4> rectangleOf(const QJsonValue& value)
+{
+    const QJsonArray array = value.toArray();
+    std::array<double, 4> sides{};
+    bool areNumbers = array.size() == static_cast<int>(sides.size());
+    for (std::size_t side = 0; areNumbers && side < sides.size(); ++side) {
+        const QJsonValue number = array.at(static_cast<int>(side));
+        areNumbers = number.isDouble();
+        sides.at(side) = number.toDouble();
+    }
+    if (!areNumbers)
+        throw UsageError("openAction of the type FitR needs a rectangle: [left, bottom, right, top]");
+    return sides;
+}
+
+/// Any percentage: documents have those beyond what viewers show.
+double percentOf(const QJsonValue& value)
+{
+    const double percent = viewvalues::storedPercent(value.toDouble());
+    if (!(percent > 0))
+        refuse("zoom", value, "a percentage above 0, or null");
+    return percent;
+}
+
 Magnification magnificationOf(const QJsonObject& object)
 {
     Magnification zoom;
-    if (object.contains("type"))
-        zoom.type = numberOfName("type", object.value("type"), viewentries::magnifications());
+    if (const QJsonValue type = object.value("type"); !type.isUndefined() && !type.isNull())
+        zoom.type = numberOfName("type", type, viewentries::allMagnifications());
+    if (zoom.type == pdflibrary::FitRectangle)
+        zoom.rectangle = rectangleOf(object.value(rectangle));
     const QJsonValue percent = object.value("zoom");
     if (percent.isUndefined() || percent.isNull())
         return zoom;
-    zoom.percent = viewvalues::storedPercent(percent.toDouble());
-    if (!(zoom.percent >= viewentries::lowestPercent && zoom.percent <= viewentries::highestPercent))
-        refuse("zoom", percent, "a percentage from 1 to 6400, or null");
     if (zoom.type != Magnification().type)
         refuse("zoom", percent, "null, for only the type XYZ has a percentage");
+    zoom.percent = percentOf(percent);
     return zoom;
+}
+
+/// An action that shows no page.
+OtherAction otherActionOf(const QJsonObject& object)
+{
+    const QJsonValue type = object.value("action");
+    if (!type.isString() || type.toString().isEmpty())
+        refuse("the action of openAction", type, "the type of an action, as \"JavaScript\"");
+    for (const char* name : {"page", "type", "zoom"})
+        if (object.contains(name))
+            throw UsageError("openAction has an action, so it has no " + std::string(name));
+    return {type.toString().toStdString()};
 }
 
 void parseOpenAction(const QJsonValue& value, ViewChange& change)
@@ -148,13 +195,12 @@ void parseOpenAction(const QJsonValue& value, ViewChange& change)
         refuse(openAction, value, "an object or null");
     const QJsonObject object = value.toObject();
     for (const QString& name : object.keys())
-        requireKnown(name, {"page", "type", "zoom", "name", "action"});
-    if (const QJsonValue action = object.value("action");
-        !action.isUndefined() && action != QJsonValue("GoTo"))
-        refuse("the action of openAction", action, "GoTo; no other can be given to documents");
+        requireKnown(name, {"page", "type", "zoom", rectangle, "name", "action"});
+    if (object.contains("action"))
+        return change.set(ViewEntry::OpenPage, otherActionOf(object));
     if (object.contains("page"))
         change.set(ViewEntry::OpenPage, pageOf(object.value("page")));
-    else if (object.contains("name") || object.contains("action"))
+    else if (object.contains("name"))
         throw UsageError("openAction has no page; a named destination is given by its page");
     if (object.contains("type") || object.contains("zoom"))
         change.set(ViewEntry::Zoom, magnificationOf(object));
@@ -209,13 +255,20 @@ std::string contentOf(const std::string& path)
     const FileDescriptor file(path == "-" ? dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     std::string bytes;
     if (!file.isOpen() || !readAll(file.get(), bytes, largestFile))
-        throw UsageError("the view " + path + " cannot be read: " + systemError(errno));
+        throw UsageError(
+            "the view " + path + " cannot be read: " + systemError(errno) +
+            (path.starts_with('{') ? "; --view takes the name of a file, or - for standard input" : ""));
     return bytes;
+}
+
+bool saysNothing(const ViewValue& value)
+{
+    return std::holds_alternative<Unset>(value) || std::holds_alternative<Invalid>(value);
 }
 
 QJsonValue jsonOf(const Description& entry, const ViewValue& value)
 {
-    if (std::holds_alternative<Unset>(value))
+    if (saysNothing(value))
         return {};
     const int* number = std::get_if<int>(&value);
     if (number == nullptr)
@@ -226,21 +279,42 @@ QJsonValue jsonOf(const Description& entry, const ViewValue& value)
     return name != nullptr ? QJsonValue(name->name) : QJsonValue(*number);
 }
 
+void insertMagnification(QJsonObject& object, const Magnification& zoom)
+{
+    const viewentries::Name* type = viewvalues::nameOf(viewentries::allMagnifications(), zoom.type);
+    object.insert("type", type != nullptr ? QJsonValue(type->name) : QJsonValue());
+    object.insert("zoom", zoom.percent > 0 ? QJsonValue(zoom.percent) : QJsonValue());
+    if (zoom.type != pdflibrary::FitRectangle)
+        return;
+    QJsonArray sides;
+    for (const double side : zoom.rectangle)
+        sides.append(side);
+    object.insert(rectangle, sides);
+}
+
 QJsonValue openActionOf(const ViewChange& change)
 {
     QJsonObject object;
     if (const auto& page = change[ViewEntry::OpenPage]; page) {
-        if (std::holds_alternative<Unset>(*page))
+        if (saysNothing(*page))
             return {};
+        if (const auto* action = std::get_if<OtherAction>(&*page))
+            return QJsonObject{{"action", QString::fromStdString(action->type)}};
         object.insert("page", jsonOf(viewentries::describe(ViewEntry::OpenPage), *page));
     }
     if (const auto& zoom = change[ViewEntry::Zoom]; zoom) {
-        const auto& value = std::get<Magnification>(*zoom);
-        const viewentries::Name* type = viewvalues::nameOf(viewentries::magnifications(), value.type);
-        object.insert("type", type != nullptr ? QJsonValue(type->name) : QJsonValue());
-        object.insert("zoom", value.percent > 0 ? QJsonValue(value.percent) : QJsonValue());
+        insertMagnification(object, std::get<Magnification>(*zoom));
     }
     return object;
+}
+
+QJsonArray invalidEntriesOf(const ViewChange& view)
+{
+    QJsonArray names;
+    for (const Description& each : viewentries::all())
+        if (view[each.entry] == ViewValue(Invalid()))
+            names.append(nameOf(each));
+    return names;
 }
 
 } // namespace
@@ -263,11 +337,13 @@ ViewChange parse(const QJsonObject& object)
 ViewChange readFile(const std::string& path)
 {
     QJsonParseError problem;
-    const QJsonDocument document =
-        QJsonDocument::fromJson(QByteArray::fromStdString(contentOf(path)), &problem);
+    const std::string bytes = contentOf(path);
+    const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(bytes), &problem);
     if (!document.isObject())
         throw UsageError("the view " + path + " is not a JSON object" +
-                         (document.isNull() ? ": " + problem.errorString().toStdString() : ""));
+                         (bytes.starts_with("%PDF-") ? "; \"--like " + path + "\" takes a document"
+                          : document.isNull()        ? ": " + problem.errorString().toStdString()
+                                                     : ""));
     try {
         return parse(document.object());
     } catch (const UsageError& error) {
@@ -286,7 +362,7 @@ QJsonObject write(const ViewChange& change)
         if (std::holds_alternative<FileNameAsTitle>(*value))
             object.insert(fromFileName, true);
         else if (isPreference(each))
-            preferenceObject.insert(each.key, jsonOf(each, *value));
+            preferenceObject.insert(nameOf(each), jsonOf(each, *value));
         else
             object.insert(nameOf(each), jsonOf(each, *value));
     }
@@ -294,6 +370,8 @@ QJsonObject write(const ViewChange& change)
         object.insert(openAction, openActionOf(change));
     if (!preferenceObject.isEmpty())
         object.insert(preferences, preferenceObject);
+    if (const QJsonArray names = invalidEntriesOf(change); !names.isEmpty())
+        object.insert(invalid, names);
     if (change.keepsTitles())
         object.insert(ifMissing, true);
     return object;

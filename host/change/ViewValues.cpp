@@ -4,6 +4,8 @@
 #include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
+#include "pdflibrary/ViewNumbers.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -19,6 +21,8 @@ namespace {
 using viewentries::Description;
 using viewentries::Kind;
 using viewentries::Name;
+
+const std::string unset = "unset";
 
 /// The word without case and hyphens, which do not count.
 std::string plain(const std::string& word)
@@ -55,11 +59,54 @@ std::string choicesOf(const Description& entry)
     return text;
 }
 
+/// What people write who know it from elsewhere.
+struct Habit
+{
+    Kind kind;
+    const char* word;
+    const char* meant;
+};
+
+const std::array<Habit, 18> habits{{{Kind::Flag, "true", "yes"},
+                                    {Kind::Flag, "on", "yes"},
+                                    {Kind::Flag, "1", "yes"},
+                                    {Kind::Flag, "false", "no"},
+                                    {Kind::Flag, "off", "no"},
+                                    {Kind::Flag, "0", "no"},
+                                    {Kind::Page, "first", "1"},
+                                    {Kind::Page, "0", "1"},
+                                    {Kind::Page, "end", "last"},
+                                    {Kind::Page, "none", "unset"},
+                                    {Kind::Magnification, "inherit", "default"},
+                                    {Kind::Magnification, "actualsize", "100%"},
+                                    {Kind::Name, "continuous", "one-column"},
+                                    {Kind::Name, "facing", "two-page-left"},
+                                    {Kind::Name, "lefttoright", "l2r"},
+                                    {Kind::Name, "righttoleft", "r2l"},
+                                    {Kind::Name, "off", "none"},
+                                    {Kind::Name, "default", "unset"}}};
+
+/// What may be meant, as far as the option takes it.
+std::string meantBy(const Description& entry, const std::string& word)
+{
+    const std::string plainWord = plain(word);
+    for (const Habit& habit : habits)
+        if (entry.kind == habit.kind && plainWord == habit.word &&
+            (entry.kind != Kind::Name || nameOf(entry.names, habit.meant) != nullptr || habit.meant == unset))
+            return habit.meant;
+    std::string tag = word;
+    std::replace(tag.begin(), tag.end(), '_', '-');
+    if (entry.kind == Kind::Language && isLanguageTag(tag))
+        return tag;
+    return suggestion::nearest(word, viewentries::words(entry));
+}
+
 [[noreturn]] void refuse(const Description& entry, const std::string& word)
 {
+    const std::string meant = meantBy(entry, word);
     throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word + "\"" +
-                     suggestion::didYouMean(word, viewentries::words(entry)) +
-                     (entry.kind == Kind::Text ? "" : "\nit takes " + choicesOf(entry)));
+                     (meant.empty() ? "" : "; did you mean \"" + meant + "\"?") + "\nit takes " +
+                     choicesOf(entry));
 }
 
 template <class Number>
@@ -118,9 +165,15 @@ ViewValue title(const Description& entry, const std::string& word)
 {
     if (word.empty())
         return Unset();
+    const QString text = QString::fromStdString(word);
     // What is no UTF-8 comes back as another character.
-    if (QString::fromStdString(word).toStdString() != word)
-        refuse(entry, word);
+    if (text.toStdString() != word)
+        throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word +
+                         "\": it is not in UTF-8");
+    if (std::any_of(text.begin(), text.end(),
+                    [](QChar each) { return each.category() == QChar::Other_Control; }))
+        throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word +
+                         "\": it holds control characters, such as line feeds");
     return word;
 }
 
@@ -132,17 +185,24 @@ std::string language(const Description& entry, const std::string& word)
 }
 
 /// The shortest text that reads as the same number.
-std::string percentOf(double percent)
+std::string shortest(double number)
 {
     std::array<char, 32> text{};
-    const auto [end, problem] = std::to_chars(text.data(), text.data() + text.size(), percent);
-    return std::string(text.data(), end) + "%";
+    const auto [end, problem] = std::to_chars(text.data(), text.data() + text.size(), number);
+    return std::string(text.data(), end);
 }
 
 std::string wordOf(const Magnification& value)
 {
-    const Name* name = nameOf(viewentries::magnifications(), value.type);
-    return value.percent > 0 ? percentOf(value.percent) : name != nullptr ? name->word : "unknown";
+    if (value.percent != 0)
+        return shortest(value.percent) + "%";
+    const Name* name = nameOf(viewentries::allMagnifications(), value.type);
+    std::string word = name != nullptr ? name->word : "unknown";
+    if (value.type != pdflibrary::FitRectangle)
+        return word;
+    for (const double side : value.rectangle)
+        word += " " + shortest(side);
+    return word;
 }
 
 std::string wordOf(const Description& entry, int number)
@@ -159,7 +219,8 @@ std::string wordOf(const Description& entry, int number)
 
 double storedPercent(double percent)
 {
-    return std::round(percent * 1e4) / 1e4;
+    const double mostWithPlaces = 1e9; // larger ones may become infinite
+    return percent < mostWithPlaces ? std::round(percent * 1e4) / 1e4 : percent;
 }
 
 const Name* nameOf(std::span<const Name> names, int number)
@@ -182,7 +243,7 @@ const Name* nameOf(std::span<const Name> names, const std::string& word)
 ViewValue parse(ViewEntry entry, const std::string& word)
 {
     const Description& description = viewentries::describe(entry);
-    if (description.unsettable && plain(word) == "unset")
+    if (description.unsettable && plain(word) == unset)
         return Unset();
     switch (description.kind) {
     case Kind::Name:
@@ -216,7 +277,19 @@ std::string wordOf(ViewEntry entry, const ViewValue& value)
         return "last";
     if (std::holds_alternative<FileNameAsTitle>(value))
         return "the file's name";
+    if (std::holds_alternative<Invalid>(value))
+        return "invalid";
+    if (const auto* action = std::get_if<OtherAction>(&value))
+        return action->type;
     return description.unsettable ? "unset" : "";
+}
+
+std::string told(ViewEntry entry, const ViewValue& value)
+{
+    if (std::holds_alternative<Unset>(value))
+        return "unset";
+    std::string word = wordOf(entry, value);
+    return word.empty() ? "empty" : word;
 }
 
 std::vector<std::string> optionsOf(const ViewChange& change)

@@ -15,8 +15,11 @@ double storedPercent(double percent);
 /// in any case, and with or without hyphens.
 ViewValue parse(ViewEntry entry, const std::string& word);
 
-/// The word that `parse` takes for the value, and for a title that comes from the file's name what it is.
+/// The word that `parse` takes for the value; for one that it does not take what it is.
 std::string wordOf(ViewEntry entry, const ViewValue& value);
+
+/// What a document has, in a word that leaves nothing open: "unset", "invalid", and "empty" for a text.
+std::string told(ViewEntry entry, const ViewValue& value);
 
 /// The options of "quintar run" that make the change, a word each: "--page-mode", "use-outlines".
 std::vector<std::string> optionsOf(const ViewChange& change);

@@ -15,7 +15,6 @@
 
 #include <sys/stat.h>
 
-#include <algorithm>
 #include <cerrno>
 
 namespace host {
@@ -34,6 +33,17 @@ SignedDocuments signedDocuments(const std::string& value)
     return SignedDocuments::Refuse;
 }
 
+/// Null for workers that are not locked in.
+QJsonValue sandboxInJson(const CellState& state)
+{
+    if (!state.wanted)
+        return {};
+    const std::string missing = state.missing();
+    return QJsonObject{{"files", state.limitsFiles()},
+                       {"calls", state.limitsCalls()},
+                       {"missing", missing.empty() ? QJsonValue() : QString::fromStdString(missing)}};
+}
+
 } // namespace
 
 int RunCommand::work(const std::vector<std::string>& words)
@@ -42,8 +52,11 @@ int RunCommand::work(const std::vector<std::string>& words)
     m_options.flush = m_options.flush || m_options.inPlace;
     check();
     const RunDestination destination = this->destination();
-    checkStandardStreams();
-    readOptions();
+    checkStandardOutput();
+    Cell cell(m_sandbox);
+    if (!m_quiet)
+        noteMissing(cell, m_sandbox);
+    readOptions(cell);
 
     const RunPlan plan = this->plan(destination);
     std::optional<Report> report;
@@ -57,8 +70,8 @@ int RunCommand::work(const std::vector<std::string>& words)
     m_options.tellStates = m_reportFile.has_value();
     m_options.tellChanges = m_reportFile.has_value() || !m_quiet || m_live.events() != nullptr;
     if (report) // only now, for it may lie in the output folder
-        begin(*report, plan);
-    const int status = BatchRun(plan, m_options,
+        begin(*report, plan, cell);
+    const int status = BatchRun(plan, m_options, cell,
                                 {m_live.control(), m_live.events(), report ? &*report : nullptr, tells(),
                                  m_streams ? &*m_streams : nullptr, std::move(done)})
                            .run(m_limits);
@@ -67,13 +80,14 @@ int RunCommand::work(const std::vector<std::string>& words)
     return status;
 }
 
-void RunCommand::begin(Report& report, const RunPlan& plan) const
+void RunCommand::begin(Report& report, const RunPlan& plan, const Cell& cell) const
 {
     const bool changesView = !m_options.change.isEmpty();
     report.begin({{"command", name()},
                   {"documents", static_cast<qint64>(plan.documents().size())},
                   {"inPlace", m_options.inPlace},
                   {"dryRun", m_options.dryRun},
+                  {"sandbox", sandboxInJson(cell.state())},
                   {"change", changesView ? QJsonValue(viewjson::write(m_options.change)) : QJsonValue()}});
     if (!report.doubt().empty())
         note(report.doubt());
@@ -90,7 +104,7 @@ void RunCommand::openStreams()
 
 bool RunCommand::hasStandardInput() const
 {
-    return std::find(m_words.begin(), m_words.end(), RunDestination::standardStream) != m_words.end();
+    return DocumentOptions::haveStandardInput(m_words);
 }
 
 /// Standard output takes one thing only.
@@ -110,6 +124,7 @@ void RunCommand::takeOptions(OptionParser& parser)
     m_changeOptions.take(parser);
     m_documentOptions.take(parser);
     takeLimits(parser, m_limits);
+    takeSandbox(parser, m_sandbox);
     m_live.take(parser);
     parser.takeValue("output", setOnce(m_output, "-o"));
     parser.takeValue("base", setOnce(m_base, "--base"));
@@ -128,14 +143,14 @@ void RunCommand::takeOptions(OptionParser& parser)
 
 void RunCommand::check() const
 {
-    m_changeOptions.check();
+    m_changeOptions.check(hasStandardInput());
     if (m_options.rewrite && m_options.inPlace)
         throw UsageError("--rewrite goes with -o: in place, the document's own bytes would be gone");
     if (m_options.replace && !m_options.inPlace)
         throw UsageError("--replace goes with --in-place: other results are always files of their own");
     if (m_base && (m_base->empty() || !m_output))
         throw UsageError(m_base->empty() ? "the name of the base folder is empty" : "--base goes with -o");
-    m_documentOptions.check(m_words);
+    m_documentOptions.check(m_words, m_changeOptions.readsStandardInput());
 }
 
 RunDestination RunCommand::destination() const
@@ -154,29 +169,24 @@ bool RunCommand::printsResult() const
     return m_output == RunDestination::standardStream;
 }
 
-/// It can be read once, and standard output takes one thing only.
-void RunCommand::checkStandardStreams() const
+/// It takes one thing only.
+void RunCommand::checkStandardOutput() const
 {
-    const auto documents = std::count(m_words.begin(), m_words.end(), RunDestination::standardStream);
-    const auto readers = documents + (m_documentOptions.readsStandardInput() ? 1 : 0) +
-                         (m_changeOptions.readsStandardInput() ? 1 : 0);
     const bool printsReport = m_reportFile == Report::standardOutput;
-    m_live.check(printsResult() ? "-o -" : printsReport ? "--report -" : "", readers > 0);
-    if (readers > 1)
-        throw UsageError("standard input is named more than once, and can be read once only");
-    if (hasStandardInput() && m_changeOptions.takesTitleFromFileName())
-        throw UsageError("--title-from-file-name: a document from standard input has no name");
+    const bool readsInput =
+        hasStandardInput() || m_documentOptions.readsStandardInput() || m_changeOptions.readsStandardInput();
+    m_live.check(printsResult() ? "-o -" : printsReport ? "--report -" : "", readsInput);
     if (printsResult() && printsReport)
         throw UsageError("-o - and --report - exclude each other: standard output takes one of them");
     if (printsResult() && !m_options.dryRun)
         StreamFiles::checkOutput();
 }
 
-void RunCommand::readOptions()
+void RunCommand::readOptions(Cell& cell)
 {
     m_documentOptions.read(m_words);
     m_options.password = m_documentOptions.password();
-    m_changeOptions.read(m_options.password);
+    m_changeOptions.read(m_options.password, cell);
     m_options.entries = m_changeOptions.entries();
     m_options.change = m_changeOptions.change();
     for (const std::string& odd : m_changeOptions.notes())

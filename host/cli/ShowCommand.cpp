@@ -2,8 +2,10 @@
 
 #include "host/arguments/LimitOptions.h"
 #include "host/arguments/OptionParser.h"
+#include "host/plan/StreamFiles.h"
 #include "host/reading/ReadingRun.h"
 #include "host/reading/ShowTeller.h"
+#include "host/reading/ViewTable.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
 #include "host/terminal/TextWidth.h"
@@ -11,6 +13,8 @@
 #include "host/view/Bookmarks.h"
 
 #include <unistd.h>
+
+#include <optional>
 
 namespace host {
 
@@ -23,6 +27,7 @@ void ShowCommand::takeOptions(OptionParser& parser)
     });
     m_documents.take(parser);
     takeLimits(parser, m_limits);
+    takeSandbox(parser, m_sandbox);
     m_live.take(parser);
 }
 
@@ -32,9 +37,15 @@ int ShowCommand::work(const std::vector<std::string>& words)
         throw UsageError("--json and --table exclude each other");
     if (m_table && m_bookmarks > 0)
         throw UsageError("--outline and --table exclude each other: a row has no place for bookmarks");
+    const bool hasInput = DocumentOptions::haveStandardInput(words);
     m_documents.check(words);
-    m_live.check(m_json ? "--json" : m_table ? "--table" : "", m_documents.readsStandardInput());
+    m_live.check(m_json ? "--json" : m_table ? "--table" : "", hasInput || m_documents.readsStandardInput());
     m_documents.read(words);
+    Cell cell(m_sandbox);
+    noteMissing(cell, m_sandbox);
+    std::optional<StreamFiles> streams;
+    if (hasInput)
+        streams.emplace().readInput();
     m_live.begin(name(), m_documents.inputs());
     const RunPlan plan = m_documents.planForReading(m_live.found());
     ShowTeller::Form form = ShowTeller::Words();
@@ -42,10 +53,13 @@ int ShowCommand::work(const std::vector<std::string>& words)
         form = ShowTeller::Json();
     if (m_table) {
         const ViewTable table(textwidth::ofTerminal(STDOUT_FILENO));
+        noteLeftOut(table);
         printResult(table.header());
         form = table;
     }
-    ReadingRun run(plan, {m_documents.password(), m_limits, m_live.control(), m_live.events()});
+    ReadingRun::Options options{m_documents.password(), m_limits, m_live.control(), m_live.events()};
+    options.streams = streams ? &*streams : nullptr;
+    ReadingRun run(plan, cell, options);
     const int status =
         run.run([&](auto& library) { return std::make_unique<ShowTeller>(library, form, m_bookmarks); });
     if (m_live.events() != nullptr)
@@ -53,6 +67,15 @@ int ShowCommand::work(const std::vector<std::string>& words)
                               {"failed", static_cast<qint64>(run.count(Reading::Failed))}},
                              m_live.control().isStopped());
     return status;
+}
+
+void ShowCommand::noteLeftOut(const ViewTable& table)
+{
+    std::string titles;
+    for (const std::string& title : table.leftOut())
+        titles += (titles.empty() ? "" : ", ") + title;
+    if (!titles.empty())
+        note("the terminal is too narrow for all columns; left out: " + titles);
 }
 
 } // namespace host

@@ -15,15 +15,13 @@ namespace host {
 
 namespace {
 
-const int zoomValue = 5;   // of GetDestValue
-const int titleKey = 1;    // of GetInformation
-const int openAction0 = 0; // of GetActionType: the document's own
+const int titleKey = 1;   // of GetInformation
+const int openAction = 0; // of GetActionType: the document's own
 
-ViewValue textValue(const std::wstring& text)
+bool isSaid(const ViewValue& title)
 {
-    if (text.empty())
-        return Unset();
-    return engine::fileNameFromWide(text);
+    const auto* text = std::get_if<std::string>(&title);
+    return text != nullptr && !text->empty();
 }
 
 } // namespace
@@ -31,13 +29,14 @@ ViewValue textValue(const std::wstring& text)
 ViewValue PresentView::operator[](ViewEntry entry) const
 {
     const int option = viewentries::describe(entry).preference;
-    const ViewValue value = option != 0                      ? preference(option)
-                            : entry == ViewEntry::PageMode   ? pageMode()
-                            : entry == ViewEntry::PageLayout ? pageLayout()
+    const ViewValue value = option != 0                      ? numbered(option)
+                            : entry == ViewEntry::PageMode   ? numbered(pdflibrary::PageModeEntry)
+                            : entry == ViewEntry::PageLayout ? numbered(pdflibrary::PageLayoutEntry)
                             : entry == ViewEntry::OpenPage   ? openPage()
                             : entry == ViewEntry::Zoom       ? zoom()
-                            : entry == ViewEntry::Title      ? title()
-                                                             : language();
+                            : entry == ViewEntry::Title
+                                ? text(m_library.GetInformation(titleKey), pdflibrary::TitleEntry)
+                                : text(m_library.GetCatalogInformation(L"Lang"), pdflibrary::LanguageEntry);
     requireRead(entry);
     return value;
 }
@@ -45,18 +44,22 @@ ViewValue PresentView::operator[](ViewEntry entry) const
 ViewValue PresentView::shownTitle() const
 {
     const ViewValue title = (*this)[ViewEntry::Title];
-    if (title != ViewValue(Unset()))
+    if (isSaid(title))
         return title;
-    // Metadata that cannot be read shows no title.
-    const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
-    return textValue(xmptitle::read(packet).value_or(QString()).toStdWString());
+    const ViewValue inMetadata = titleInMetadata();
+    return isSaid(inMetadata) ? inMetadata : title;
 }
 
-std::string PresentView::openAction() const
+ViewValue PresentView::titleInMetadata() const
 {
-    const std::string type = engine::fileNameFromWide(m_library.GetActionType(openAction0));
-    requireRead(ViewEntry::OpenPage);
-    return type;
+    const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
+    const QString title = xmptitle::read(packet).value_or(QString());
+    return title.isEmpty() ? ViewValue(Unset()) : title.toStdString();
+}
+
+bool PresentView::hasTitle() const
+{
+    return isSaid(shownTitle());
 }
 
 ViewChange PresentView::entries() const
@@ -70,63 +73,54 @@ ViewChange PresentView::entries() const
 
 ViewChange PresentView::asChange() const
 {
-    if (const std::string action = openAction(); !action.empty() && m_library.GetOpenActionDestination() == 0)
-        throw std::runtime_error("it opens with an action (" + action + ") that cannot be given to others");
     ViewChange change = entries();
-    if (change[ViewEntry::OpenPage] == ViewValue(Unset()))
+    for (const viewentries::Description& each : viewentries::all())
+        if (change[each.entry] == ViewValue(Invalid()))
+            change.set(each.entry, Unset());
+    if (change[ViewEntry::Zoom] == ViewValue(Unset()))
         change.remove(ViewEntry::Zoom);
     return change;
-}
-
-ViewValue PresentView::pageMode() const
-{
-    const int mode = m_library.GetPageMode();
-    if (mode == pdflibrary::PageOnly && m_library.LastErrorCode() == 0 &&
-        m_library.GetCatalogInformation(L"PageMode").empty())
-        return Unset();
-    return mode;
-}
-
-ViewValue PresentView::pageLayout() const
-{
-    const int layout = m_library.GetPageLayout();
-    if (layout == pdflibrary::NoPageLayout)
-        return Unset();
-    return layout;
 }
 
 ViewValue PresentView::openPage() const
 {
     const int destination = m_library.GetOpenActionDestination();
-    if (destination == 0)
-        return Unset();
-    return m_library.GetDestPage(destination);
+    if (destination != 0)
+        return m_library.GetDestPage(destination);
+    const std::string type = engine::fileNameFromWide(m_library.GetActionType(openAction));
+    return type.empty() ? ViewValue(Unset()) : ViewValue(OtherAction{type});
 }
 
 ViewValue PresentView::zoom() const
 {
+    using namespace pdflibrary;
     const int destination = m_library.GetOpenActionDestination();
     if (destination == 0)
         return Unset();
-    return Magnification{m_library.GetDestType(destination), m_library.GetDestValue(destination, zoomValue)};
+    const auto value = [&](int key) { return m_library.GetDestValue(destination, key); };
+    Magnification zoom{static_cast<int>(value(DestinationForm)), value(DestinationZoom)};
+    if (zoom.type == FitRectangle)
+        zoom.rectangle = {value(DestinationLeft), value(DestinationBottom), value(DestinationRight),
+                          value(DestinationTop)};
+    return zoom;
 }
 
-ViewValue PresentView::preference(int option) const
+ViewValue PresentView::numbered(int option) const
 {
     const int value = m_library.GetViewerPreferences(pdflibrary::AsWritten + option);
     if (value == pdflibrary::NoPreference)
         return Unset();
+    if (value == pdflibrary::InvalidPreference)
+        return Invalid();
     return value;
 }
 
-ViewValue PresentView::title() const
+ViewValue PresentView::text(const std::wstring& found, int option) const
 {
-    return textValue(m_library.GetInformation(titleKey));
-}
-
-ViewValue PresentView::language() const
-{
-    return textValue(m_library.GetCatalogInformation(L"Lang"));
+    if (!found.empty() || m_library.LastErrorCode() != 0)
+        return engine::fileNameFromWide(found);
+    const ViewValue value = numbered(option);
+    return value == ViewValue(0) ? ViewValue(std::string()) : value;
 }
 
 void PresentView::requireRead(ViewEntry entry) const

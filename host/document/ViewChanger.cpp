@@ -12,6 +12,8 @@
 
 #include <strings.h>
 
+#include <array>
+#include <climits>
 #include <cmath>
 #include <stdexcept>
 
@@ -22,9 +24,11 @@ namespace {
 const int zoomValue = 5; // of SetDestValue
 const int titleKey = 1;  // of SetInformation
 
-/// A missing entry does the same as an explicit default, so it needs no change.
+/// A missing entry does the same as an explicit default, and says what an empty text says, so it needs no change.
 bool isDefault(ViewEntry entry, const ViewValue& value)
 {
+    if (value == ViewValue(std::string()))
+        return true;
     const bool isFlag = viewentries::describe(entry).kind == viewentries::Kind::Flag;
     const bool isMode = entry == ViewEntry::PageMode || entry == ViewEntry::NonFullScreenPageMode;
     return (isFlag && value == ViewValue(0)) || (isMode && value == ViewValue(pdflibrary::PageOnly));
@@ -37,15 +41,34 @@ int numberOf(const ViewValue& value, int absent)
     return number != nullptr ? *number : absent;
 }
 
-std::wstring wideText(const ViewValue& value)
+/// Empty for what is none.
+std::string textOf(const ViewValue& value)
 {
     const std::string* text = std::get_if<std::string>(&value);
-    return text != nullptr ? engine::wideFromFileName(*text) : std::wstring();
+    return text != nullptr ? *text : std::string();
 }
 
+/// Whether a number of percent can be given where the library takes a whole one.
 bool isWhole(double percent)
 {
-    return percent == std::floor(percent);
+    return percent == std::floor(percent) && percent <= INT_MAX;
+}
+
+Magnification magnificationFrom(const ViewValue& zoom)
+{
+    const auto* value = std::get_if<Magnification>(&zoom);
+    return value != nullptr ? *value : Magnification();
+}
+
+/// Whether the place that a destination shows can stay when its magnification changes.
+bool canBeMagnified(const Magnification& zoom)
+{
+    return zoom.type == 0 || zoom.type == pdflibrary::Zoomed || zoom.type == pdflibrary::FitRectangle;
+}
+
+std::string typeOfAction(const OtherAction& action)
+{
+    return "an action (" + action.type + ")" + (action.type == "GoTo" ? " that leads to no page" : "");
 }
 
 } // namespace
@@ -54,6 +77,7 @@ Failure ViewChanger::apply(const std::string& file)
 {
     m_differences.clear();
     m_notes.clear();
+    m_leftOut = {};
     try {
         for (const viewentries::Description& each : viewentries::all()) {
             const std::optional<ViewValue>& wanted = m_change[each.entry];
@@ -63,9 +87,7 @@ Failure ViewChanger::apply(const std::string& file)
         }
         changeOpenAction();
         if (const auto& title = m_change[ViewEntry::Title]; title)
-            changeTitle(std::holds_alternative<FileNameAsTitle>(*title) ? titleFromFileName(file)
-                        : std::holds_alternative<Unset>(*title)         ? std::string()
-                                                                        : std::get<std::string>(*title));
+            changeTitle(std::holds_alternative<FileNameAsTitle>(*title) ? titleFromFileName(file) : *title);
         noteMissingTitle();
         return {};
     } catch (const std::runtime_error&) {
@@ -89,7 +111,9 @@ int ViewChanger::write(ViewEntry entry, const ViewValue& wanted)
     if (entry == ViewEntry::PageLayout)
         return m_library.SetPageLayout(numberOf(wanted, pdflibrary::NoPageLayout));
     if (entry == ViewEntry::Lang)
-        return m_library.SetCatalogInformation(L"Lang", wideText(wanted));
+        return m_library.SetCatalogInformation(L"Lang", engine::wideFromFileName(textOf(wanted)));
+    if (entry == ViewEntry::Title)
+        return m_library.SetInformation(titleKey, engine::wideFromFileName(textOf(wanted)));
     return m_library.SetViewerPreferences(viewentries::describe(entry).preference,
                                           numberOf(wanted, pdflibrary::NoPreference));
 }
@@ -97,15 +121,43 @@ int ViewChanger::write(ViewEntry entry, const ViewValue& wanted)
 void ViewChanger::changeOpenAction()
 {
     const std::optional<ViewValue>& page = m_change[ViewEntry::OpenPage];
-    const std::optional<ViewValue>& zoom = m_change[ViewEntry::Zoom];
-    if (!page && !zoom)
+    if (!page && !m_change[ViewEntry::Zoom])
         return;
-    m_action = m_present.openAction();
     if (page == ViewValue(Unset()))
         return removeOpenAction();
-    const ViewValue present = m_present[ViewEntry::Zoom];
-    const auto* kept = std::get_if<Magnification>(&present);
-    openAt(wantedPage(), zoom ? std::get<Magnification>(*zoom) : kept != nullptr ? *kept : Magnification());
+    if (page && std::holds_alternative<OtherAction>(*page))
+        return leaveOpenAction(std::get<OtherAction>(*page));
+    const int wanted = wantedPage();
+    try {
+        openAt(wanted);
+    } catch (const DocumentError&) {
+        if (wanted <= m_library.PageCount())
+            throw;
+        openAt(wantedPage()); // looking for the page has shown how many there are
+    }
+}
+
+void ViewChanger::openAt(int page)
+{
+    if (const std::optional<ViewValue>& zoom = m_change[ViewEntry::Zoom])
+        openAt(page, std::get<Magnification>(*zoom));
+    else if (m_present[ViewEntry::OpenPage] != ViewValue(page))
+        openAt(page, presentZoom());
+}
+
+/// An action of the same type is taken for the same.
+void ViewChanger::leaveOpenAction(const OtherAction& wanted)
+{
+    if (m_present[ViewEntry::OpenPage] != ViewValue(wanted))
+        m_leftOut = {ReasonCode::OpenAction,
+                     "it does not open with " + typeOfAction(wanted) + ", which cannot be given to it"};
+}
+
+/// What documents have that can be given to no page becomes what viewers make of it.
+Magnification ViewChanger::presentZoom() const
+{
+    const Magnification zoom = magnificationFrom(m_present[ViewEntry::Zoom]);
+    return zoom.type == 0 || zoom.percent < 0 ? Magnification() : zoom;
 }
 
 int ViewChanger::wantedPage() const
@@ -124,9 +176,9 @@ int ViewChanger::wantedPage() const
 
 void ViewChanger::removeOpenAction()
 {
-    if (m_action.empty())
-        return;
     const ViewValue before = m_present[ViewEntry::OpenPage];
+    if (before == ViewValue(Unset()))
+        return;
     require(m_library.RemoveOpenAction(), ViewEntry::OpenPage);
     altered(ViewEntry::OpenPage, before, Unset());
 }
@@ -137,9 +189,8 @@ void ViewChanger::openAt(int page, const Magnification& zoom)
     const ViewValue zoomBefore = m_present[ViewEntry::Zoom];
     if (pageBefore == ViewValue(page) && zoomBefore == ViewValue(zoom))
         return;
-    const auto* before = std::get_if<Magnification>(&zoomBefore);
-    const bool zoomAlone = pageBefore == ViewValue(page) && before != nullptr &&
-                           before->type == pdflibrary::Zoomed && zoom.type == pdflibrary::Zoomed;
+    const bool zoomAlone = pageBefore == ViewValue(page) && zoom.type == pdflibrary::Zoomed &&
+                           canBeMagnified(magnificationFrom(zoomBefore));
     if (!zoomAlone) // else the place on the page stays
         setDestination(page, zoom);
     if (zoomAlone || !isWhole(zoom.percent))
@@ -151,49 +202,57 @@ void ViewChanger::openAt(int page, const Magnification& zoom)
         altered(ViewEntry::Zoom, zoomBefore, zoom);
 }
 
-/// At the corner of the page where reading begins.
+/// At the corner of the page where reading begins, or at the rectangle that is to be shown.
 void ViewChanger::setDestination(int page, const Magnification& zoom)
 {
     const int selected = m_library.SelectedPage();
     require(m_library.SelectPage(page), ViewEntry::OpenPage);
     const auto side = [this](int dimension) { return m_library.GetPageBox(pdflibrary::MediaBox, dimension); };
-    const int result = m_library.SetOpenActionDestinationFull(
-        page, static_cast<int>(zoom.percent), zoom.type, side(pdflibrary::BoxLeft), side(pdflibrary::BoxTop),
-        side(pdflibrary::BoxRight), side(pdflibrary::BoxBottom));
-    require(result, ViewEntry::OpenPage);
+    const auto [left, bottom, right, top] =
+        zoom.type == pdflibrary::FitRectangle
+            ? zoom.rectangle
+            : std::array{side(pdflibrary::BoxLeft), side(pdflibrary::BoxBottom), side(pdflibrary::BoxRight),
+                         side(pdflibrary::BoxTop)};
+    const int percent = isWhole(zoom.percent) ? static_cast<int>(zoom.percent) : 0;
+    require(m_library.SetOpenActionDestinationFull(page, percent, zoom.type, left, top, right, bottom),
+            ViewEntry::OpenPage);
     m_library.SelectPage(selected);
 }
 
-void ViewChanger::changeTitle(const std::string& title)
+void ViewChanger::changeTitle(const ViewValue& wanted)
 {
-    const ViewValue before = m_present[ViewEntry::Title];
     const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
     require(m_library.LastErrorCode() == 0 ? 1 : 0, ViewEntry::Title);
-    const QString inMetadata = xmptitle::read(packet).value_or(QString());
-    if (m_change.keepsTitles() && (before != ViewValue(Unset()) || !inMetadata.isEmpty()))
+    if (m_change.keepsTitles() && m_present.hasTitle())
         return;
-    const ViewValue wanted = title.empty() ? ViewValue(Unset()) : ViewValue(title);
-    if (before != wanted) {
-        require(m_library.SetInformation(titleKey, wideText(wanted)), ViewEntry::Title);
-        altered(ViewEntry::Title, before, wanted);
-    }
-    const QString text = QString::fromStdString(title);
-    if (packet.isEmpty() || inMetadata == text)
+    changeEntry(ViewEntry::Title, wanted);
+    if (!packet.isEmpty())
+        changeMetadata(packet, wanted);
+}
+
+void ViewChanger::changeMetadata(const QString& packet, const ViewValue& title)
+{
+    const QString text = QString::fromStdString(textOf(title));
+    const QString before = xmptitle::read(packet).value_or(QString());
+    if (before == text)
         return;
     const std::optional<QString> changed = xmptitle::write(packet, text);
     if (!changed)
-        throw DocumentError({ReasonCode::Metadata, "the title in its XMP metadata cannot be changed"});
+        throw DocumentError(
+            {ReasonCode::Metadata, xmptitle::canBeWritten(text)
+                                       ? "the title in its XMP metadata cannot be changed"
+                                       : "its XMP metadata cannot hold the title's control characters"});
     if (*changed == packet)
         return;
     require(m_library.SetDocumentMetadata(changed->toStdWString()), ViewEntry::Title);
-    if (before == wanted)
-        altered(ViewEntry::Title, inMetadata.toStdString(), wanted);
+    if (m_differences.empty() || m_differences.back().entry != ViewEntry::Title)
+        altered(ViewEntry::Title, before.isEmpty() ? ViewValue() : before.toStdString(), title);
 }
 
 /// A viewer that is to show a title shows the file's name where there is none.
 void ViewChanger::noteMissingTitle()
 {
-    if (m_change[ViewEntry::DisplayDocTitle] == ViewValue(1) && m_present.shownTitle() == ViewValue(Unset()))
+    if (m_change[ViewEntry::DisplayDocTitle] == ViewValue(1) && !m_present.hasTitle())
         m_notes.emplace_back("its title is to be shown, and it has none");
 }
 
@@ -206,11 +265,7 @@ void ViewChanger::require(int result, ViewEntry entry) const
 
 void ViewChanger::altered(ViewEntry entry, const ViewValue& before, const ViewValue& after)
 {
-    const auto word = [entry](const ViewValue& value) {
-        return std::holds_alternative<Unset>(value) ? "unset" : viewvalues::wordOf(entry, value);
-    };
-    const bool isOther = entry == ViewEntry::OpenPage && before == ViewValue(Unset());
-    m_differences.push_back({entry, isOther && !m_action.empty() ? m_action : word(before), word(after)});
+    m_differences.push_back({entry, viewvalues::told(entry, before), viewvalues::told(entry, after)});
 }
 
 std::string titleFromFileName(const std::string& file)

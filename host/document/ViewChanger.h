@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+class QString;
 class TelvarPDFLibraryCPDylibCPP1311;
 
 namespace host {
@@ -39,16 +40,22 @@ public:
     const std::vector<ViewDifference>& differences() const { return m_differences; }
     /// What may be a mistake about the document of the last call.
     const std::vector<std::string>& notes() const { return m_notes; }
+    /// What was asked for and can be given to no document, if anything. Everything else is as asked.
+    const Failure& leftOut() const { return m_leftOut; }
 
 private:
     void changeEntry(ViewEntry entry, const ViewValue& wanted);
     int write(ViewEntry entry, const ViewValue& wanted);
     void changeOpenAction();
     void removeOpenAction();
+    void leaveOpenAction(const OtherAction& wanted);
+    void openAt(int page);
     void openAt(int page, const Magnification& zoom);
     void setDestination(int page, const Magnification& zoom);
+    Magnification presentZoom() const;
     int wantedPage() const;
-    void changeTitle(const std::string& title);
+    void changeTitle(const ViewValue& wanted);
+    void changeMetadata(const QString& packet, const ViewValue& title);
     void noteMissingTitle();
     void require(int result, ViewEntry entry) const;
     void altered(ViewEntry entry, const ViewValue& before, const ViewValue& after);
@@ -56,9 +63,9 @@ private:
     TelvarPDFLibraryCPDylibCPP1311& m_library;
     const ViewChange& m_change;
     PresentView m_present;
-    std::string m_action; ///< What the document opened with, where the change is about it.
     std::vector<ViewDifference> m_differences;
     std::vector<std::string> m_notes;
+    Failure m_leftOut;
 };
 
 /// The title that a file's name makes: without folder and suffix, what is no UTF-8 as U+FFFD.

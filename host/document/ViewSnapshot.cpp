@@ -14,15 +14,7 @@ namespace {
 
 const int longestText = 200;
 
-/// Documents may hold texts of any length and magnifications of any kind.
-std::optional<ViewValue> presentable(ViewValue value)
-{
-    if (const auto* zoom = std::get_if<Magnification>(&value);
-        zoom != nullptr && viewvalues::nameOf(viewentries::magnifications(), zoom->type) == nullptr)
-        return std::nullopt;
-    return value;
-}
-
+/// Documents may hold texts of any length.
 ViewValue cutOff(const ViewValue& value)
 {
     const auto* text = std::get_if<std::string>(&value);
@@ -34,28 +26,31 @@ ViewValue cutOff(const ViewValue& value)
 
 } // namespace
 
-ViewSnapshot::ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library)
+ViewSnapshot::ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library, bool withMetadata)
 {
     const PresentView view(library);
     for (const viewentries::Description& each : viewentries::all())
         try {
-            value(each.entry) = presentable(view[each.entry]);
+            value(each.entry) = view[each.entry];
         } catch (const std::runtime_error&) { // left out
         }
+    if (withMetadata)
+        m_titleInMetadata = view.titleInMetadata();
     if (!value(ViewEntry::OpenPage) || !value(ViewEntry::Zoom))
         value(ViewEntry::OpenPage) = value(ViewEntry::Zoom) = std::nullopt;
-    if (value(ViewEntry::OpenPage) == ViewValue(Unset()))
-        try {
-            m_action = view.openAction();
-        } catch (const std::runtime_error&) { // left out
-        }
 }
 
 bool ViewSnapshot::differs(ViewEntry entry, const ViewSnapshot& other) const
 {
-    if (!value(entry) || !other.value(entry))
-        return false;
-    return value(entry) != other.value(entry) || (entry == ViewEntry::OpenPage && m_action != other.m_action);
+    const Value& own = told(entry, other);
+    const Value& others = other.told(entry, *this);
+    return own && others && own != others;
+}
+
+/// Of the two titles the one in which they differ, as far as they do.
+const ViewSnapshot::Value& ViewSnapshot::told(ViewEntry entry, const ViewSnapshot& other) const
+{
+    return entry == ViewEntry::Title && value(entry) == other.value(entry) ? m_titleInMetadata : value(entry);
 }
 
 QJsonObject ViewSnapshot::unlike(const ViewSnapshot& other) const
@@ -63,14 +58,10 @@ QJsonObject ViewSnapshot::unlike(const ViewSnapshot& other) const
     ViewChange own;
     for (const viewentries::Description& each : viewentries::all())
         if (differs(each.entry, other))
-            own.set(each.entry, cutOff(*value(each.entry)));
-    const bool opensWithOther = !m_action.empty() && own[ViewEntry::OpenPage];
+            own.set(each.entry, cutOff(*told(each.entry, other)));
     if (own[ViewEntry::Zoom] == ViewValue(Unset())) // no destination: the page says so
         own.remove(ViewEntry::Zoom);
-    QJsonObject object = viewjson::write(own);
-    if (opensWithOther)
-        object.insert("openAction", QJsonObject{{"action", QString::fromStdString(m_action)}});
-    return object;
+    return viewjson::write(own);
 }
 
 std::string ViewSnapshot::changeTo(const ViewSnapshot& after) const
@@ -78,17 +69,14 @@ std::string ViewSnapshot::changeTo(const ViewSnapshot& after) const
     std::string text;
     for (const viewentries::Description& each : viewentries::all())
         if (differs(each.entry, after))
-            text += (text.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " + wordFor(each.entry) +
-                    " -> " + after.wordFor(each.entry);
+            text += (text.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " +
+                    wordFor(each.entry, after) + " -> " + after.wordFor(each.entry, *this);
     return text;
 }
 
-std::string ViewSnapshot::wordFor(ViewEntry entry) const
+std::string ViewSnapshot::wordFor(ViewEntry entry, const ViewSnapshot& other) const
 {
-    if (entry == ViewEntry::OpenPage && !m_action.empty())
-        return m_action;
-    const ViewValue& present = *value(entry);
-    return std::holds_alternative<Unset>(present) ? "unset" : viewvalues::wordOf(entry, cutOff(present));
+    return viewvalues::told(entry, cutOff(*told(entry, other)));
 }
 
 } // namespace host

@@ -17,12 +17,11 @@ namespace host {
 class ViewSnapshot
 {
 public:
-    /// Reads the selected document.
-    explicit ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library);
+    /// Reads the selected document. \param withMetadata where the title may differ in the XMP metadata alone.
+    explicit ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library, bool withMetadata = false);
 
-    /// This one's values of the entries in which the two differ, with the names of ViewJson.h; null for one
-    /// that the document does not have. An open action that is no destination is an object with its `action`,
-    /// as ISO 32000 names it. Texts are cut off at 200 characters.
+    /// This one's values of the entries in which the two differ, as ViewJson.h writes a document's view. Texts
+    /// are cut off at 200 characters.
     QJsonObject unlike(const ViewSnapshot& other) const;
 
     /// "page mode: unset -> use-outlines; open page: 2 -> 1"; empty when nothing differs.
@@ -34,10 +33,13 @@ private:
     const Value& value(ViewEntry entry) const { return m_values[static_cast<std::size_t>(entry)]; }
     Value& value(ViewEntry entry) { return m_values[static_cast<std::size_t>(entry)]; }
     bool differs(ViewEntry entry, const ViewSnapshot& other) const;
-    std::string wordFor(ViewEntry entry) const;
+    std::string wordFor(ViewEntry entry, const ViewSnapshot& other) const;
+
+    /// The value to be told of an entry in which the two differ.
+    const Value& told(ViewEntry entry, const ViewSnapshot& other) const;
 
     std::array<Value, viewEntryCount> m_values;
-    std::string m_action; ///< Of another kind than a destination, else empty.
+    Value m_titleInMetadata;
 };
 
 } // namespace host

@@ -180,15 +180,14 @@ QString replaced(const QString& packet, const Span& span, const QString& text)
     return packet.left(span.begin) + text + packet.mid(span.end);
 }
 
-/// XML has no way to write other control characters.
+} // namespace
+
 bool canBeWritten(const QString& title)
 {
     return std::all_of(title.begin(), title.end(), [](QChar each) {
         return each.unicode() >= 0x20 || each == '\t' || each == '\n' || each == '\r';
     });
 }
-
-} // namespace
 
 std::optional<QString> read(const QString& packet)
 {

@@ -15,4 +15,7 @@ std::optional<QString> read(const QString& packet);
 /// dc:title away. Nothing where the text is no XMP that can be changed.
 std::optional<QString> write(const QString& packet, const QString& title);
 
+/// Whether XML has a way to write the title: it has none for most control characters.
+bool canBeWritten(const QString& title);
+
 } // namespace host::xmptitle

@@ -4,11 +4,30 @@
 #include "host/saving/SafeOutput.h"
 #include "host/terminal/UsageError.h"
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 
 namespace host {
 
 namespace {
+
+const std::size_t shortestSuffix = 2; // "out.d" is a folder's name
+const std::size_t longestSuffix = 4;
+
+/// Whether the name ends in a suffix as files have it: a few letters. "v1.0" is none, nor is "out.d/".
+bool looksLikeFile(const std::string& path)
+{
+    const std::size_t dot = path.rfind('.');
+    const std::size_t slash = path.rfind('/');
+    const std::size_t begin = slash == std::string::npos ? 0 : slash + 1;
+    if (dot == std::string::npos || dot <= begin)
+        return false;
+    const std::string suffix = path.substr(dot + 1);
+    return suffix.size() >= shortestSuffix && suffix.size() <= longestSuffix &&
+           std::all_of(suffix.begin(), suffix.end(),
+                       [](unsigned char each) { return std::isalpha(each) != 0; });
+}
 
 /// The path without "." and "..", links not followed: a linked document keeps the place it is named by.
 std::filesystem::path absolutePath(const std::string& path)
@@ -21,6 +40,11 @@ std::filesystem::path absolutePath(const std::string& path)
 RunDestination RunDestination::inPlace()
 {
     return {Kind::InPlace, {}};
+}
+
+RunDestination RunDestination::none()
+{
+    return {Kind::None, {}};
 }
 
 RunDestination RunDestination::folder(const std::string& path, const std::string& base)
@@ -39,6 +63,9 @@ RunDestination RunDestination::beside(const std::string& suffix)
 {
     if (suffix.empty() || suffix.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
         throw UsageError("--suffix takes a text for file names, without slashes, not \"" + suffix + "\"");
+    if (isPdfName("x" + suffix) || suffix.starts_with('-'))
+        throw UsageError("--suffix takes what stands between \"manual-\" and \".pdf\", not \"" + suffix +
+                         "\"");
     return {Kind::Beside, "-" + suffix};
 }
 
@@ -55,6 +82,10 @@ RunDestination RunDestination::named(const std::string& path, const std::string&
     if (exists && !isFolder && !(isFile && S_ISREG(status.st_mode)) && path != standardStream)
         throw UsageError(path + (isFile ? " is not a regular file"
                                         : " is not a folder; a result's own name ends in .pdf"));
+    if (!exists && !isFile && looksLikeFile(path))
+        throw UsageError("-o " + path +
+                         " is neither a folder nor the name of a PDF document; a result's own name " +
+                         "ends in .pdf, and \"" + path + "/\" names a folder to be made");
     return isFile ? file(path) : folder(path, base);
 }
 
@@ -73,6 +104,7 @@ std::string RunDestination::pathFor(const std::string& document, const std::stri
         return m_path;
     case Kind::Beside:
         return std::string(document).insert(endOfStem(document), m_path);
+    case Kind::None:
     case Kind::InPlace:
         break;
     }

@@ -17,6 +17,8 @@ public:
     static constexpr char standardStream[] = "-";
 
     static RunDestination inPlace();
+    /// Of documents that are only read.
+    static RunDestination none();
     /// \param base the folder that results keep their documents' paths below; empty to keep the paths of
     /// documents from folders only.
     static RunDestination folder(const std::string& path, const std::string& base = {});
@@ -29,6 +31,7 @@ public:
     static RunDestination named(const std::string& path, const std::string& base);
 
     bool isInPlace() const { return m_kind == Kind::InPlace; }
+    bool isNone() const { return m_kind == Kind::None; }
     bool isStandardOutput() const { return m_kind == Kind::File && m_path == standardStream; }
     /// The one result's file, or "-"; empty when there may be several.
     const std::string& onlyFile() const;
@@ -47,7 +50,7 @@ public:
     Failure makeFolder() const;
 
 private:
-    enum class Kind { InPlace, Folder, File, Beside };
+    enum class Kind { None, InPlace, Folder, File, Beside };
 
     RunDestination(Kind kind, std::string path) : m_kind(kind), m_path(std::move(path)) {}
     std::string belowBase(const std::string& document) const;

@@ -4,6 +4,7 @@
 #include "host/files/FileDescriptor.h"
 #include "host/files/Links.h"
 #include "host/files/Paths.h"
+#include "host/terminal/NearbyFile.h"
 #include "host/terminal/UsageError.h"
 
 #include <sys/stat.h>
@@ -15,13 +16,19 @@
 
 namespace host {
 
+namespace {
+
+const int mostSuggestions = 10;
+
+} // namespace
+
 void RunPlan::add(const std::string& path)
 {
     if (path.empty())
         throw UsageError("a document's name is empty");
     struct stat status;
     if (stat(path.c_str(), &status) != 0)
-        append({path, {}, Failure::ofSystem(errno, ReasonCode::ReadFailed)});
+        append({path, {}, whyMissing(path, errno)});
     else if (S_ISDIR(status.st_mode))
         addFolder(withoutTrailingSlashes(path));
     else if (!S_ISREG(status.st_mode))
@@ -30,9 +37,20 @@ void RunPlan::add(const std::string& path)
         addDocument(path, path.substr(path.rfind('/') + 1), status);
 }
 
+/// Of many names that are wrong, the first few show what is.
+Failure RunPlan::whyMissing(const std::string& path, int problem)
+{
+    Failure failure = Failure::ofSystem(problem, ReasonCode::ReadFailed);
+    if (problem == ENOENT && m_suggestions++ < mostSuggestions)
+        failure.text += suggestion::nearbyFile(path);
+    return failure;
+}
+
 void RunPlan::addStandardInput()
 {
     const std::string& file = m_destination.onlyFile();
+    if (m_destination.isNone())
+        return append({RunDestination::standardStream, {}});
     if (file.empty())
         throw UsageError("a document from standard input goes to -o FILE.pdf or -o -");
     m_documents.push_back(
@@ -110,6 +128,8 @@ void RunPlan::checkTargets() const
         if (document.problem)
             continue;
         const auto [other, added] = targets.try_emplace(document.target, &document);
+        if (!added && other->second->name == document.name)
+            throw UsageError(document.name + " is named twice");
         if (!added)
             throw UsageError(other->second->name + " and " + document.name + " would have the same output, " +
                              document.target);

@@ -21,7 +21,8 @@ public:
     {
         /// As the user knows it; "-" is standard input.
         std::string name;
-        /// Where the output lies; in place, what a symbolic link leads to. "-" is standard output.
+        /// Where the output lies; in place, what a symbolic link leads to. "-" is standard output. Of documents
+        /// that are only read it does not matter.
         std::string target;
         /// Why it cannot be worked on, found out already.
         Failure problem = {};
@@ -58,6 +59,7 @@ private:
 
     void addDocument(const std::string& path, const std::string& pathBelowOutput, const struct stat& status);
     void addFolder(const std::string& folder);
+    Failure whyMissing(const std::string& path, int problem);
     void append(Document document);
     std::string targetOf(const std::string& path);
     static FileId idOf(const struct stat& status) { return {status.st_dev, status.st_ino}; }
@@ -69,6 +71,7 @@ private:
     std::vector<std::pair<FileId, std::size_t>> m_existingOutputs; ///< With their documents.
     std::map<std::string, std::string> m_resolvedFolders;
     std::vector<std::string> m_emptyFolders;
+    int m_suggestions = 0;
 };
 
 } // namespace host

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "host/workers/SignalMask.h"
 #include "host/workers/StopSignal.h"
 
-#include <csignal>
 #include <string>
 
 namespace host {
+
+/// How a document's name is told: standard input is called that.
+std::string shownName(const std::string& name);
 
 /// Standard input and output as files, for what works on files only. A folder that only its owner can enter
 /// holds the document that was read and the result that is going to be printed. From construction on a stop
@@ -35,7 +38,7 @@ private:
     void remove();
 
     std::string m_folder;
-    sigset_t m_signalsBefore{};
+    SignalMask m_signalsBefore;
     StopSignal m_stop;
 };
 

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <climits>
+#include <stdexcept>
 
 namespace host::installlayout {
 
@@ -14,6 +15,8 @@ std::string folder()
     char path[PATH_MAX];
     const ssize_t length = readlink("/proc/self/exe", path, sizeof path);
     const std::string program(path, length > 0 ? static_cast<std::size_t>(length) : 0);
+    if (!program.starts_with('/')) // in the current folder there may be anything
+        throw std::runtime_error("the program cannot find its own place (/proc/self/exe)");
     return program.substr(0, program.rfind('/') + 1);
 }
 
@@ -32,6 +35,11 @@ std::string pluginFile()
 std::string libraryFile()
 {
     return moduleFile("TelvarPDFLibraryCPDylib1311.dylib");
+}
+
+std::string renderProgram()
+{
+    return moduleFile("quintar-render");
 }
 
 std::string windowProgram()

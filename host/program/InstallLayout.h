@@ -7,8 +7,11 @@
 /// in the build tree and after installation.
 namespace host::installlayout {
 
+// Both throw std::runtime_error when the system does not tell that place.
 std::string pluginFile();
 std::string libraryFile();
+/// The program that draws pages; it may not be installed.
+std::string renderProgram();
 /// Beside the program.
 std::string windowProgram();
 

@@ -2,6 +2,7 @@
 
 #include "host/document/ViewChanger.h"
 #include "host/document/ViewSnapshot.h"
+#include "host/plan/StreamFiles.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/TerminalText.h"
 
@@ -36,9 +37,10 @@ CheckTeller::CheckTeller(TelvarPDFLibraryCPDylibCPP1311& library, const Question
 
 Reading CheckTeller::tell(const std::string& file)
 {
-    const ViewSnapshot before(m_library);
+    const bool asksForTitle = m_question.change[ViewEntry::Title].has_value();
+    const ViewSnapshot before(m_library, asksForTitle);
     const Trial trial = tryOut(file);
-    const ViewSnapshot after(m_library);
+    const ViewSnapshot after(m_library, asksForTitle);
     const bool good = !trial.reason && m_library.SecurityInfo(engine::UnsavedChanges) == 0;
     if (m_question.json) {
         QJsonObject object{{"before", before.unlike(after)}, {"after", after.unlike(before)}};
@@ -52,7 +54,8 @@ Reading CheckTeller::tell(const std::string& file)
     std::string text = trial.reason ? trial.reason.text : before.changeTo(after);
     if (text.empty())
         text = trial.details.empty() ? otherPlace : trial.details;
-    return {Reading::Differs, forTerminal(file) + ": " + forTerminal(text) + "\n", trial.note, trial.reason};
+    return {Reading::Differs, forTerminal(shownName(file)) + ": " + forTerminal(text) + "\n", trial.note,
+            trial.reason};
 }
 
 CheckTeller::Trial CheckTeller::tryOut(const std::string& file)
@@ -68,6 +71,8 @@ CheckTeller::Trial CheckTeller::tryChange(const std::string& file)
     for (const ViewDifference& each : changer.differences())
         trial.details += (trial.details.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " +
                          each.before + " -> " + each.after;
+    if (!trial.reason)
+        trial.reason = changer.leftOut();
     for (const std::string& note : changer.notes())
         trial.note += (trial.note.empty() ? "" : "; ") + note;
     return trial;

@@ -1,5 +1,8 @@
 #include "ReadingRun.h"
 
+#include "host/cell/Cell.h"
+#include "host/cell/Reach.h"
+#include "host/plan/StreamFiles.h"
 #include "host/program/InstallLayout.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/TerminalText.h"
@@ -36,9 +39,16 @@ int ReadingRun::run(const MakeTeller& makeTeller)
     WorkerPool::Limits limits = m_options.limits;
     limits.workers = static_cast<int>(
         std::clamp<std::size_t>(documents.size(), 1, static_cast<std::size_t>(limits.workers)));
+    const std::string input = m_options.streams != nullptr ? m_options.streams->document() : std::string();
+    Reach reach;
+    for (const RunPlan::Document& document : documents)
+        reach.addFileToRead(document.name == RunDestination::standardStream ? input : document.name);
+    m_cell.allow(reach);
     m_options.control.takeSignals();
-    WorkerPool pool(
-        limits, [&] { return std::make_unique<DocumentReader>(documents, m_options.password, makeTeller); });
+    const auto makeWorker = [&] {
+        return std::make_unique<DocumentReader>(documents, input, m_options.password, makeTeller);
+    };
+    WorkerPool pool(limits, makeWorker, m_cell);
     pool.run(
         documents.size(), [this](std::size_t place, const WorkOutcome& outcome) { ended(place, outcome); },
         m_options.control);
@@ -78,7 +88,7 @@ void ReadingRun::tell(std::size_t place, const Reading& reading) const
 void ReadingRun::print(std::size_t place, Reading reading)
 {
     const std::string& file = m_plan.documents()[place].name;
-    const std::string about = forTerminal(file) + ": ";
+    const std::string about = forTerminal(shownName(file)) + ": ";
     std::string errors;
     if (reading.kind == Reading::Failed) {
         errors = "quintar: " + about + forTerminal(reading.reason.text) + "\n";

@@ -1,5 +1,6 @@
 #include "ShowTeller.h"
 
+#include "host/plan/StreamFiles.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/TerminalText.h"
 #include "host/view/Bookmarks.h"
@@ -11,10 +12,10 @@ Reading ShowTeller::tell(const std::string& file)
 {
     const OpeningView view = OpeningView::read(m_library);
     if (const auto* table = std::get_if<ViewTable>(&m_form))
-        return {Reading::Good, table->row(file, view)};
+        return {Reading::Good, table->row(shownName(file), view)};
     const Bookmarks bookmarks = m_bookmarks > 0 ? Bookmarks::read(m_library, m_bookmarks) : Bookmarks();
     if (std::holds_alternative<Words>(m_form))
-        return {Reading::Good, forTerminal(file) + "\n" + view.inWords() + bookmarks.inWords(),
+        return {Reading::Good, forTerminal(shownName(file)) + "\n" + view.inWords() + bookmarks.inWords(),
                 bookmarks.note()};
     QJsonObject object = view.toJson();
     if (m_bookmarks > 0)

@@ -31,6 +31,35 @@ QString now()
     return QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
 }
 
+/// Takes back what was written last, unless another process has written behind it.
+void takeBack(int file, std::size_t written)
+{
+    struct stat status;
+    const off_t end = lseek(file, 0, SEEK_CUR);
+    if (written > 0 && fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size == end)
+        static_cast<void>(ftruncate(file, end - static_cast<off_t>(written)) ==
+                          0); // nobody is left to be told
+}
+
+/// Appends the line, or nothing of it: behind the half that fits on a full disk the next line would be lost, too.
+/// \returns false, with errno set, on failure.
+bool appendLine(int file, const std::string& line)
+{
+    for (std::size_t written = 0; written < line.size();) {
+        const ssize_t count = ::write(file, line.data() + written, line.size() - written);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0) {
+            const int problem = errno;
+            takeBack(file, written);
+            errno = problem;
+            return false;
+        }
+        written += static_cast<std::size_t>(count);
+    }
+    return true;
+}
+
 QJsonValue textOrNull(const std::string& text)
 {
     return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
@@ -156,28 +185,29 @@ void Report::end(QJsonObject counts)
 }
 
 /// A forked process shares the descriptor, and with it the lock: so it opens the file once more for itself.
-void Report::leave()
+int Report::leave()
 {
     const FileDescriptor locked = std::move(m_file);
     struct stat old;
     struct stat now;
     if (fstat(locked.get(), &old) != 0 || !S_ISREG(old.st_mode))
-        return;
+        return -1;
     FileDescriptor file(::open(m_path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC | O_NONBLOCK));
     if (file.isOpen() && fstat(file.get(), &now) == 0 && now.st_dev == old.st_dev && now.st_ino == old.st_ino)
         m_file = std::move(file);
+    return m_file.get();
 }
 
 void Report::announce(const Line& line)
 {
     const std::string text = toJson(line, begun);
-    if (m_file.isOpen() && (!writeAll(m_file.get(), text.data(), text.size()) || !flushFile(m_file.get())))
+    if (m_file.isOpen() && (!appendLine(m_file.get(), text) || !flushFile(m_file.get())))
         throw std::runtime_error("the report " + m_path + " cannot be written: " + systemError(errno));
 }
 
 void Report::write(const std::string& line)
 {
-    if (m_problem.empty() && !writeAll(m_file.get(), line.data(), line.size()))
+    if (m_problem.empty() && !appendLine(m_file.get(), line))
         m_problem = "the report " + m_path + " is incomplete: " + systemError(errno);
 }
 

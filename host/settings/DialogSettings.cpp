@@ -84,12 +84,12 @@ void addPreferences(const SettingsMap& settings, ViewChange& view)
 
 } // namespace
 
-DialogSettings::DialogSettings(const ViewChange& present, const std::string& openAction) : m_present(present)
+DialogSettings::DialogSettings(const ViewChange& present) : m_present(present)
 {
     m_map = {{key::LayoutAndMagn, true}, {key::ViewerPrefs, true}};
     showPageMode();
     m_map.insert(key::PageLayout, number(ViewEntry::PageLayout, pdflibrary::NoPageLayout));
-    showOpenAction(openAction);
+    showOpenAction();
     showPreferences();
     noteHidden();
 }
@@ -110,18 +110,20 @@ void DialogSettings::showPageMode()
     m_map.insert(key::OpenInFullScreen, isFullScreen);
 }
 
-void DialogSettings::showOpenAction(const std::string& kind)
+void DialogSettings::showOpenAction()
 {
     const int page = number(ViewEntry::OpenPage, firstPage);
     const std::optional<ViewValue>& zoom = m_present[ViewEntry::Zoom];
     const auto* magnification = zoom ? std::get_if<Magnification>(&*zoom) : nullptr;
-    const bool isOther = magnification == nullptr && !kind.empty();
-    const int row = isOther ? noRow : rowOf(magnification != nullptr ? *magnification : Magnification());
+    const auto& opening = m_present[ViewEntry::OpenPage];
+    const auto* other = opening ? std::get_if<OtherAction>(&*opening) : nullptr;
+    const int row =
+        other != nullptr ? noRow : rowOf(magnification != nullptr ? *magnification : Magnification());
     m_map.insert(key::Magnification, row);
     m_map.insert(key::OpenToPage, std::clamp(page, firstPage, lastPage));
-    if (isOther)
+    if (other != nullptr)
         m_notes.push_back(
-            "it opens with an action (" + kind +
+            "it opens with an action (" + other->type +
             ") that the window cannot show; it stays unless a magnification or another page is chosen");
     else if (row == noRow)
         m_notes.push_back("the window has no row for its magnification, " +
@@ -146,7 +148,7 @@ void DialogSettings::noteHidden()
     for (const ViewEntry each : hiddenEntries)
         if (const auto& value = m_present[each]; value && *value != ViewValue(Unset()))
             list += (list.empty() ? "" : ", ") + viewentries::label(each) + " (" +
-                    viewvalues::wordOf(each, *value) + ")";
+                    viewvalues::told(each, *value) + ")";
     if (!list.empty())
         m_notes.push_back("the window does not show everything that it has, and leaves it: " + list);
 }

@@ -14,8 +14,7 @@ class DialogSettings
 {
 public:
     /// \param present every entry that the dialog shows, Unset where the document has none.
-    /// \param openAction what kind of action the document opens with, as ISO 32000 names it; empty for none.
-    DialogSettings(const ViewChange& present, const std::string& openAction);
+    explicit DialogSettings(const ViewChange& present);
 
     /// What the dialog is to start with. A list is at -1 where no row is right.
     const SettingsMap& map() const { return m_map; }
@@ -32,7 +31,7 @@ public:
 
 private:
     void showPageMode();
-    void showOpenAction(const std::string& kind);
+    void showOpenAction();
     void showPreferences();
     void noteHidden();
 

@@ -46,8 +46,11 @@ std::string choicesOf(const Key& key, const std::string& separator)
 [[noreturn]] void refuseValue(const Key& key, const std::string& value)
 {
     const std::string choices = choicesOf(key, "\n  ");
+    std::vector<std::string> known(key.rows.begin(), key.rows.end());
+    if (key.type == ValueType::Flag)
+        known = {"true", "false", "yes", "no"};
     throw UsageError(std::string(key.name) + " cannot be \"" + value + "\"" +
-                     suggestion::didYouMean(value, {key.rows.begin(), key.rows.end()}) + "\nit takes" +
+                     suggestion::didYouMean(value, known) + "\nit takes" +
                      (choices.starts_with('\n') ? "" : " ") + choices);
 }
 

@@ -13,13 +13,13 @@
 #include "pdflibrary/ViewerPreferences.h"
 
 #include <QJsonValue>
-#include <QLocale>
+
+#include <array>
 
 namespace host {
 
 using viewwords::labelAt;
 using viewwords::line;
-using viewwords::yesOrNo;
 
 namespace {
 
@@ -48,28 +48,25 @@ ViewEntry entryOf(const PreferenceRow& preference)
     throw std::invalid_argument("a viewer preference that is no entry of the view");
 }
 
-/// Of a preference that reads as a value where it is missing, too.
-std::string preferenceInWords(const PreferenceRow& preference, int value)
-{
-    return preference.valueLabels.empty() ? yesOrNo(value == 1)
-                                          : labelAt(preference.valueLabels, value, "unknown");
-}
-
 std::string inWordsOrUnset(ViewEntry entry, const ViewValue& value)
 {
-    return std::holds_alternative<Unset>(value) ? unset : forTerminal(viewvalues::wordOf(entry, value));
+    return std::holds_alternative<Unset>(value) ? unset : forTerminal(viewvalues::told(entry, value));
 }
 
-std::string percent(double zoom)
+/// Of a number in the dialog's words.
+template <class Table>
+std::string labelOrInvalid(const Table& labels, const ViewValue& value, int absent)
 {
-    return QLocale::c().toString(zoom, 'g', 6).toStdString() + "%";
+    return std::holds_alternative<Invalid>(value) ? "invalid"
+                                                  : labelAt(labels, numberOf(value, absent), "unknown");
 }
 
+/// In the dialog's words where it has a row.
 std::string magnificationInWords(const Magnification& zoom)
 {
-    if (zoom.type == pdflibrary::Zoomed && zoom.percent > 0)
-        return percent(zoom.percent);
-    return labelAt(initialview::magnificationLabels, zoom.type - 1, "unknown");
+    const bool hasRow = zoom.type >= pdflibrary::Zoomed && zoom.type <= pdflibrary::FitVisible;
+    return zoom.percent != 0 || !hasRow ? viewvalues::told(ViewEntry::Zoom, zoom)
+                                        : initialview::magnificationLabels.at(std::size_t(zoom.type) - 1);
 }
 
 } // namespace
@@ -86,7 +83,6 @@ OpeningView OpeningView::read(TelvarPDFLibraryCPDylibCPP1311& library)
     for (const viewentries::Description& each : viewentries::all())
         view.m_entries.set(each.entry, present[each.entry]);
     view.m_entries.set(ViewEntry::Title, present.shownTitle());
-    view.m_action = present.openAction();
     if (const int destination = library.GetOpenActionDestination(); destination != 0)
         view.m_destinationName = engine::fileNameFromWide(library.GetDestName(destination));
     else
@@ -96,16 +92,20 @@ OpeningView OpeningView::read(TelvarPDFLibraryCPDylibCPP1311& library)
 
 std::string OpeningView::otherAction() const
 {
-    return (*this)[ViewEntry::OpenPage] == ViewValue(Unset()) ? m_action : std::string();
+    const ViewValue page = (*this)[ViewEntry::OpenPage];
+    const auto* action = std::get_if<OtherAction>(&page);
+    return action != nullptr ? action->type : std::string();
 }
 
 std::string OpeningView::inWords() const
 {
-    const int mode = numberOf((*this)[ViewEntry::PageMode], pdflibrary::PageOnly);
-    const int layout = numberOf((*this)[ViewEntry::PageLayout], pdflibrary::NoPageLayout);
     return factsInWords() +
-           line(labelOf(key::NavigationTab), labelAt(pdflibrary::pageModeLabels, mode, "unknown")) +
-           line(labelOf(key::PageLayout), labelAt(initialview::pageLayoutLabels, layout, "unknown")) +
+           line(labelOf(key::NavigationTab),
+                labelOrInvalid(pdflibrary::pageModeLabels, (*this)[ViewEntry::PageMode],
+                               pdflibrary::PageOnly)) +
+           line(labelOf(key::PageLayout),
+                labelOrInvalid(initialview::pageLayoutLabels, (*this)[ViewEntry::PageLayout],
+                               pdflibrary::NoPageLayout)) +
            openActionInWords() + preferencesInWords() +
            line("Title", inWordsOrUnset(ViewEntry::Title, (*this)[ViewEntry::Title])) +
            line("Language", inWordsOrUnset(ViewEntry::Lang, (*this)[ViewEntry::Lang]));
@@ -139,11 +139,20 @@ std::string OpeningView::openActionInWords() const
            line(labelOf(key::OpenToPage), std::to_string(numberOf(page, 0)) + name);
 }
 
+/// One that the dialog has, or that means the same when it is missing.
+std::string OpeningView::preferenceInWords(const PreferenceRow& preference) const
+{
+    const ViewValue value = (*this)[entryOf(preference)];
+    const std::array answers{"no", "yes"};
+    return preference.valueLabels.empty() ? labelOrInvalid(answers, value, 0)
+                                          : labelOrInvalid(preference.valueLabels, value, 0);
+}
+
 std::string OpeningView::preferencesInWords() const
 {
     std::string text;
     for (const PreferenceRow& row : pdflibrary::viewerPreferences)
-        text += line(row.label, preferenceInWords(row, numberOf((*this)[entryOf(row)], 0)));
+        text += line(row.label, preferenceInWords(row));
     for (const PreferenceRow& row : pdflibrary::furtherPreferences)
         text += line(row.label, inWordsOrUnset(entryOf(row), (*this)[entryOf(row)]));
     return text;
@@ -157,19 +166,12 @@ QJsonObject OpeningView::toJson() const
     object.insert("signatures", m_signatures);
     object.insert("certified", m_certified);
     object.insert("bookmarks", m_bookmarks);
-    object.insert("openAction", openActionInJson(object.value("openAction")));
-    return object;
-}
-
-QJsonValue OpeningView::openActionInJson(const QJsonValue& destination) const
-{
-    if (const std::string action = otherAction(); !action.empty())
-        return QJsonObject{{"action", QString::fromStdString(action)}};
-    if (!destination.isObject())
-        return {};
-    QJsonObject object = destination.toObject();
-    object.insert("name", m_destinationName.empty() ? QJsonValue()
-                                                    : QJsonValue(QString::fromStdString(m_destinationName)));
+    if (QJsonObject action = object.value("openAction").toObject(); action.contains("page")) {
+        action.insert("name", m_destinationName.empty()
+                                  ? QJsonValue()
+                                  : QJsonValue(QString::fromStdString(m_destinationName)));
+        object.insert("openAction", action);
+    }
     return object;
 }
 

@@ -7,6 +7,9 @@
 #include <string>
 
 class TelvarPDFLibraryCPDylibCPP1311;
+namespace pdflibrary {
+struct PreferenceRow;
+}
 
 namespace host {
 
@@ -32,15 +35,14 @@ private:
     std::string factsInWords() const;
     std::string openActionInWords() const;
     std::string preferencesInWords() const;
-    QJsonValue openActionInJson(const QJsonValue& destination) const;
+    std::string preferenceInWords(const pdflibrary::PreferenceRow& preference) const;
 
     int m_pageCount = 0;
     int m_signatures = 0;
     int m_bookmarks = 0;
     bool m_certified = false;
     bool m_encrypted = false;
-    ViewChange m_entries; ///< The magnification only where there is a destination.
-    std::string m_action;
+    ViewChange m_entries;          ///< The magnification only where there is a destination.
     std::string m_destinationName; ///< UTF-8; empty unless the destination is a named one.
 };
 

@@ -61,7 +61,9 @@ SettingsMap ActionDialog::startingFrom(const std::optional<StoredChoice>& start,
     ViewChange present;
     for (const viewentries::Description& each : viewentries::all())
         present.set(each.entry, (*facts)[each.entry]);
-    return DialogSettings(present, facts->view.action.toStdString()).map();
+    if (!facts->view.action.isEmpty())
+        present.set(ViewEntry::OpenPage, OtherAction{facts->view.action.toStdString()});
+    return DialogSettings(present).map();
 }
 
 std::optional<StoredChoice> ActionDialog::show(QWidget* parent, const std::optional<StoredChoice>& start,

@@ -18,6 +18,7 @@ namespace {
 
 const int title = 1;
 const int author = 2;
+const int subject = 3;
 const int modified = 8;
 
 enum class Writing { Append, Anew };
@@ -169,13 +170,15 @@ private slots:
     void changesNothingThatIsThere()
     {
         Session session;
-        QCOMPARE(LoadFromString(session, document("/Info << /Title (old) >>"), {}), 1);
+        QCOMPARE(LoadFromString(session, document("/Info << /Title (old) /Subject () >>"), {}), 1);
         QCOMPARE(SetInformation(session, title, L"old"), 1);
         QCOMPARE(SetInformation(session, author, L""), 1);
         QCOMPARE(SecurityInfo(session, UnsavedChanges), 0);
         for (const int key : {0, 9, -1})
             QVERIFY_EXCEPTION_THROWN(SetInformation(session, key, L"x"), EngineError);
         QCOMPARE(SecurityInfo(session, UnsavedChanges), 0);
+        QCOMPARE(SetInformation(session, subject, L""), 1);
+        QVERIFY(session.document().document.trailerKey("/Info").getKey("/Subject").isNull());
     }
 
     void keepsATrailerEntryThatIsAllThatChanged()

@@ -156,9 +156,14 @@ private slots:
         row("zoom", "nan", "1% to 6400%");
         row("zoom", "150%%", "1% to 6400%");
         row("zoom", "unset", "--zoom cannot be");
-        row("hide-toolbar", "true", "it takes yes, no, unset");
+        row("hide-toolbar", "true", "did you mean \"yes\"?");
+        row("hide-toolbar", "yess", "did you mean \"yes\"?");
+        row("hide-toolbar", "maybe", "it takes yes, no, unset");
         row("num-copies", "0", "a number from 1");
-        row("title", "\xff", "--title cannot be");
+        row("title", "\xff", "not in UTF-8");
+        row("title", "a\nb", "control characters");
+        row("title", "\x7f", "control characters");
+        row("zoom", "fit-box", "--zoom cannot be");
         row("lang", "english language", "a language tag");
     }
 
@@ -184,27 +189,74 @@ private slots:
         QVERIFY(!none[PageMode] && !none[Title]);
     }
 
+    /// What documents have and the command line does not take.
+    void takesEveryDocumentsView_data()
+    {
+        const Rows<QByteArray> add;
+        const auto row = [&add](const char* json) { add(json, json); };
+        row(R"({"openAction":{"page":1,"type":"XYZ","zoom":0.5}})");
+        row(R"({"openAction":{"page":1,"type":"XYZ","zoom":1e300}})");
+        row(R"({"openAction":{"page":1,"type":"FitB","zoom":null}})");
+        row(R"({"openAction":{"page":1,"type":"FitBV","zoom":null}})");
+        row(R"({"openAction":{"page":1,"type":"FitR","zoom":null,"rectangle":[1,2.5,-3,4]}})");
+        row(R"({"openAction":{"action":"JavaScript"}})");
+        row(R"({"openAction":{"action":"GoTo"}})");
+        row(R"({"lang":"english language"})");
+        row(R"({"title":"line\u000afeed"})");
+    }
+
+    void takesEveryDocumentsView()
+    {
+        const auto [json] = Rows<QByteArray>::current();
+        QCOMPARE(viewjson::write(viewjson::parse(object(json))), object(json));
+    }
+
+    void tellsWhatSaysNothing()
+    {
+        ViewChange view;
+        view.set(PageLayout, Invalid());
+        view.set(NumCopies, Invalid());
+        view.set(Lang, std::string());
+        view.set(OpenPage, 1);
+        view.set(Zoom, Magnification{0});
+        const QJsonObject json = viewjson::write(view);
+        QCOMPARE(json, object(R"({"pageLayout":null,"viewerPreferences":{"NumCopies":null},"lang":"",
+            "openAction":{"page":1,"type":null,"zoom":null},"invalid":["pageLayout","NumCopies"]})"));
+        QCOMPARE(viewvalues::inWords(viewjson::parse(json)),
+                 std::string("page layout: unset\nopen page: 1\nzoom: default\nnum copies: unset\nlang: \n"));
+        QCOMPARE(viewvalues::told(Lang, view[Lang].value()), std::string("empty"));
+        QCOMPARE(viewvalues::told(PageLayout, view[PageLayout].value()), std::string("invalid"));
+        QCOMPARE(viewvalues::told(Zoom, view[Zoom].value()), std::string("unknown"));
+    }
+
     void refusesOtherJson_data()
     {
         const Rows<QByteArray, QByteArray> add;
         const auto row = [&add](const char* json, const char* answer) { add(json, json, answer); };
         row(R"({"pagemode":"UseNone"})", "unknown name \"pagemode\"; did you mean \"pageMode\"?");
-        row(R"({"pageMode":"use-none"})", "pageMode cannot be \"use-none\": it is one of UseNone");
+        row(R"({"pageMode":"use-none"})",
+            "pageMode cannot be \"use-none\"; did you mean \"UseNone\"?\nit is one of UseNone, UseOutlines");
         row(R"({"pageMode":7})", "pageMode cannot be 7");
         row(R"({"openAction":5})", "an object or null");
         row(R"({"openAction":{"page":0}})", "page cannot be 0");
         row(R"({"openAction":{"page":1.5}})", "page cannot be 1.5");
         row(R"({"openAction":{"page":null}})", "page cannot be null");
-        row(R"({"openAction":{"type":"JavaScript"}})", "type cannot be \"JavaScript\": it is one of XYZ");
+        row(R"({"openAction":{"type":"JavaScript"}})", "type cannot be \"JavaScript\"\nit is one of XYZ");
         row(R"({"openAction":{"type":"Fit","zoom":50}})", "only the type XYZ");
-        row(R"({"openAction":{"zoom":7000}})", "zoom cannot be 7000");
+        row(R"({"openAction":{"zoom":0}})", "zoom cannot be 0: it is a percentage above 0, or null");
+        row(R"({"openAction":{"zoom":"50%"}})", "zoom cannot be \"50%\"");
+        row(R"({"openAction":{"type":"FitR"}})", "FitR needs a rectangle: [left, bottom, right, top]");
+        row(R"({"openAction":{"type":"FitR","rectangle":[1,2,3]}})", "FitR needs a rectangle");
+        row(R"({"openAction":{"type":"FitR","rectangle":[1,2,3,"4"]}})", "FitR needs a rectangle");
+        row(R"({"openAction":{"action":"JavaScript","page":1}})", "has an action, so it has no page");
+        row(R"({"openAction":{"action":5}})", "action of openAction cannot be 5");
         row(R"({"openAction":{"name":"chapter"}})", "no page");
         row(R"({"openAction":{"left":1}})", "unknown name \"left\"");
         row(R"({"viewerPreferences":{"HideToolBar":true}})", "did you mean \"HideToolbar\"?");
         row(R"({"viewerPreferences":{"HideToolbar":1}})", "true, false or null");
         row(R"({"viewerPreferences":[]})", "an object or null");
         row(R"({"title":5})", "a text or null");
-        row(R"({"lang":"?"})", "a language tag");
+        row(R"({"lang":["en"]})", "lang cannot be [\"en\"]: it is a text or null");
         row(R"({"titleIfMissing":"yes"})", "true or false");
     }
 
@@ -251,10 +303,15 @@ private slots:
         change.add(with(PageMode, "unset"));
         const std::vector<std::string> options{"--page-mode", "unset", "--zoom", "50%"};
         QCOMPARE(viewvalues::optionsOf(change), options);
-        QVERIFY(change.contradiction().empty());
-        change.add(with(OpenPage, "unset"));
-        QVERIFY(!change.contradiction().empty());
         QVERIFY(ViewChange().isEmpty() && !change.isEmpty());
+        // No open action has no magnification, and what has one is no other action.
+        change.add(with(OpenPage, "unset"));
+        QVERIFY(!change[Zoom] && change[OpenPage] == ViewValue(Unset()));
+        change.set(OpenPage, OtherAction{"JavaScript"});
+        change.add(with(Zoom, "60%"));
+        QVERIFY(change[Zoom] && !change[OpenPage]);
+        change.set(OpenPage, Unset());
+        QVERIFY(!change.contradiction().empty());
     }
 
     void knowsLanguageTags()

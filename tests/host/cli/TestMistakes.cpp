@@ -20,12 +20,24 @@ private slots:
         row("list", "unknown command \"list\"; did you mean \"lists\"?");
         row("config a.pdf", "did you mean \"configure\"?");
         row("help shwo", "did you mean \"show\"?");
-        row("a.pdf", "\"quintar --help\" lists the commands");
+        row("a.pdf", "\"a.pdf\" is no command; \"quintar show a.pdf\" tells how it opens");
+        row("--page-mode none a.pdf", "options stand behind a command");
+        row("-V", "did you mean \"--version\"?");
+        row("revert report", "did you mean \"undo\"?");
+        row("help run show", "help tells about one command");
         row("run --ouput x a.pdf", "unknown option --ouput; did you mean \"--output\"?");
         row("run --inplace a.pdf", "did you mean \"--in-place\"?");
         row("run --favourite x a.pdf", "did you mean \"--favorite\"?");
         row("run -report x a.pdf", "unknown option -r; did you mean \"--report\"?");
-        row("run -x a.pdf", "unknown option -x\n");
+        row("run -x a.pdf", "unknown option -x; \"quintar run --help-all\" lists the options");
+        // Without this answer the document would be changed, in place, to a title of "-n".
+        row("run --title -n --in-place a.pdf", "the option --title needs a value, and \"-n\" is an option");
+        row("run --title -nq --in-place a.pdf", "\"--title=-nq\" would make it the value");
+        row("run --title --in a.pdf -n", "\"--in\" is an option");
+        row("run --hide-toolbar --in-place a.pdf", "needs a value, and \"--in-place\" is an option\n");
+        row("run \u2013-page-mode none --in-place a.pdf", "begins with a dash that is no hyphen");
+        row("run --title-from-file-name --title-if-empty --in-place a.pdf",
+            "did you mean \"--title-if-missing\"?");
         row("run --wombat a.pdf", "unknown option --wombat; \"quintar run --help-all\" lists the options");
         row("run --re x a.pdf", "--re may be one of --replace, --rewrite, --report, --resume");
         row("run --in-place=yes a.pdf", "the option --in-place takes no value");
@@ -44,16 +56,30 @@ private slots:
         row("run --in-place -n --page-mode bookmrks a.pdf",
             "--page-mode cannot be \"bookmrks\"; did you mean \"bookmarks\"?");
         row("run --in-place -n --page-mod bookmarks --zoom fitwidht a.pdf", "did you mean \"fit-width\"?");
-        row("run --in-place -n --open-page first a.pdf", "a page's number from 1, last, unset");
+        row("run --in-place -n --open-page first a.pdf",
+            "did you mean \"1\"?\nit takes a page's number from 1");
+        row("run --in-place -n --page-layout continuous a.pdf", "did you mean \"one-column\"?");
+        row("run --in-place -n --direction right-to-left a.pdf", "did you mean \"r2l\"?");
+        row("run --in-place -n --hide-toolbar true a.pdf", "did you mean \"yes\"?");
+        row("run --in-place -n --set HideToobarsCheckBox=yess a.pdf", "did you mean \"yes\"?");
+        row("run --in-place -n --set ShowComboBox=Titel a.pdf", "did you mean \"Document Title\"?");
+        row("run --in-place -n --lang en_GB a.pdf", "did you mean \"en-GB\"?");
         row("run --in-place -n --zoom 1,5% a.pdf", "a percentage from 1% to 6400%");
         row("run --in-place -n --page-mode none --list manuals a.pdf", "settings come from one source");
         row("run --in-place -n --open-page unset --zoom 100% a.pdf", "excludes --zoom");
         row("run --in-place -n --title-if-missing a.pdf", "goes with --title");
         row("run --in-place -n --title x --title-from-file-name a.pdf", "exclude each other");
-        row("run --in-place -n --view a.pdf a.pdf", "the view a.pdf is not a JSON object");
+        row("run --in-place -n --view a.pdf a.pdf",
+            "is not a JSON object; \"--like a.pdf\" takes a document");
+        row("run --in-place -n --view {\"pageMode\":null} a.pdf", "--view takes the name of a file");
         row("run --in-place -n --like no.pdf a.pdf", "no.pdf: no such file");
+        row("run --in-place -n --like manul.pdf a.pdf", "did you mean \"manual.pdf\"?");
+        row("run --in-place -n --page-mode none a.pdf a.pdf", "a.pdf is named twice");
         row("run --bookmarks -o x a.pdf", "did you mean \"--page-mode bookmarks\"?");
         row("run --page-mode none --suffix a/b a.pdf", "--suffix takes a text for file names");
+        row("run --page-mode none --suffix new.pdf a.pdf", "between \"manual-\" and \".pdf\"");
+        row("run --page-mode none --suffix -new a.pdf", "between \"manual-\" and \".pdf\"");
+        row("run --page-mode none -o b.txt a.pdf", "\"b.txt/\" names a folder to be made");
         row("run --page-mode none -o x.pdf a.pdf b.pdf", "-o x.pdf takes one document, not 2");
         row("run --page-mode none --in-place -", "from standard input goes to -o FILE.pdf or -o -");
         row("run --page-mode none -o - --report - -", "standard output takes one of them");
@@ -64,7 +90,8 @@ private slots:
         row("show --jsn a.pdf", "did you mean \"--json\"?");
         row("show", "which documents?");
         row("show --in-place a.pdf",
-            "unknown option --in-place; \"quintar show --help-all\" lists the options");
+            "unknown option --in-place; \"quintar run\" has it, \"quintar show\" does not");
+        row("check --page-mode none -n a.pdf", "\"quintar run\" has it, \"quintar check\" does not");
         row("configure --output-file x", "did you mean \"--output\"?");
         row("lists manuals", "lists takes no names: manuals");
     }
@@ -80,6 +107,7 @@ private slots:
     void initTestCase()
     {
         WorkFolder::put("a.pdf", PdfBuilder::simple());
+        WorkFolder::put("manual.pdf", PdfBuilder::simple());
         QVERIFY(QFile::copy(TEST_DATA_DIR "/manuals.xqq", TemporaryHome::actionList("manuals.xqq")));
     }
 

@@ -325,6 +325,81 @@ private slots:
         }
     }
 
+    // Entries that are there and say nothing, or what the command line has no word for.
+    void changesOddEntries_data()
+    {
+        const Rows<std::string, QByteArray, QByteArray, QByteArray> add;
+        const auto row = [&add](const char* entries, const char* json, const char* place, const char* value) {
+            add(QString("%1 %2").arg(entries, json), std::string(entries), json, place, value);
+        };
+        row("/PageMode /Weird", R"({"pageMode":"UseNone"})", "catalog/PageMode", "/UseNone");
+        row("/PageMode /Weird", R"({"pageMode":null})", "catalog/PageMode", "null");
+        row("/PageMode 3", R"({"pageMode":null})", "catalog/PageMode", "null");
+        row("/PageLayout 3", R"({"pageLayout":null})", "catalog/PageLayout", "null");
+        row("/PageLayout [ /OneColumn ]", R"({"pageLayout":"OneColumn"})", "catalog/PageLayout",
+            "/OneColumn");
+        row("/Lang /de", R"({"lang":null})", "catalog/Lang", "null");
+        row("/Lang ()", R"({"lang":null})", "catalog/Lang", "null");
+        row("/OpenAction 5", R"({"openAction":null})", "catalog/OpenAction", "null");
+        row("/OpenAction << /S /GoTo /D (nowhere) >>", R"({"openAction":{"zoom":50}})", "catalog/OpenAction",
+            "[ PAGE1 /XYZ 0 792 0.5 ]");
+        row("/OpenAction [3 0 R /FitB]", R"({"openAction":{"zoom":null}})", "catalog/OpenAction",
+            "[ PAGE1 /XYZ 0 792 null ]");
+        row("/OpenAction [3 0 R /FitBV 5]", R"({"openAction":{"type":"FitBH"}})", "catalog/OpenAction",
+            "[ PAGE1 /FitBH 792 ]");
+        row("/OpenAction [3 0 R /FitR 1 2 3 4]", R"({"openAction":{"page":2}})", "catalog/OpenAction",
+            "[ PAGE2 /FitR 1 2 3 4 ]");
+        row("/OpenAction [3 0 R /FitR 1 2 3 4]", R"({"openAction":{"type":"XYZ"}})", "catalog/OpenAction",
+            "[ PAGE1 /XYZ 1 4 null ]");
+        row("/OpenAction [3 0 R /Odd]", R"({"openAction":{"type":"XYZ"}})", "catalog/OpenAction",
+            "[ PAGE1 /XYZ null null null ]");
+        const auto preference = [&](const QByteArray& entry, const QByteArray& json, const char* value) {
+            const QByteArray key = entry.left(entry.indexOf(' '));
+            row("/ViewerPreferences << /Foo (bar) " + entry + " >>",
+                "{\"viewerPreferences\":{\"" + key.mid(1) + "\":" + json + "}}",
+                "catalog/ViewerPreferences" + key, value);
+        };
+        for (const char* key : {"/HideToolbar", "/HideMenubar", "/HideWindowUI", "/FitWindow",
+                                "/CenterWindow", "/DisplayDocTitle", "/PickTrayByPDFSize"}) {
+            preference(QByteArray(key) + " (yes)", "null", "null");
+            preference(QByteArray(key) + " 1", "false", "false");
+        }
+        preference("/NonFullScreenPageMode /FullScreen", "\"UseNone\"", "/UseNone");
+        for (const char* entry : {"/NonFullScreenPageMode true", "/Direction (R2L)", "/PrintScaling /Odd",
+                                  "/Duplex false", "/NumCopies 0", "/NumCopies 99999999999"})
+            preference(entry, "null", "null");
+        row("/Title /Name", R"({"title":null})", "info/Title", "null");
+        row("/Title ()", R"({"title":null})", "info/Title", "null");
+        row("/Title [ 1 ]", R"({"title":"T","titleIfMissing":true})", "info/Title", "(T)");
+    }
+
+    void changesOddEntries()
+    {
+        const auto [entries, json, place, value] =
+            Rows<std::string, QByteArray, QByteArray, QByteArray>::current();
+        const bool isInformation = place.startsWith("info");
+        const std::string plain = PdfBuilder()
+                                      .catalog(isInformation ? "" : entries)
+                                      .pages(3)
+                                      .object(9, "<< /Author (A) " + (isInformation ? entries : "") + " >>")
+                                      .trailer("/Info 9 0 R")
+                                      .bytes();
+        for (const std::string& bytes : {plain, inObjectStreams(plain)}) {
+            const std::string after = changed(bytes, json, m_folder);
+            QVERIFY2(after.starts_with(bytes), after.substr(0, 60).c_str());
+            QPDF source;
+            QPDF result;
+            open(source, bytes);
+            open(result, after);
+            QCOMPARE(differences(source, result), QByteArrayList{place});
+            QPDFObjectHandle found = isInformation ? result.getTrailer().getKey("/Info") : result.getRoot();
+            for (const QByteArray& key : place.mid(place.indexOf('/') + 1).split('/'))
+                found = found.getKey("/" + key.toStdString());
+            QCOMPARE(QByteArray::fromStdString(found.unparse()), inDocument(value, result));
+            QCOMPARE(changed(after, json, m_folder), after);
+        }
+    }
+
     void writesTheTitleOnceMore_data()
     {
         const Rows<std::string> row;

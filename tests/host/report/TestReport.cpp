@@ -6,7 +6,10 @@
 #include <QJsonObject>
 #include <QtTest>
 
+#include <csignal>
 #include <optional>
+
+#include <sys/resource.h>
 
 using namespace host;
 namespace fs = std::filesystem;
@@ -74,6 +77,38 @@ private slots:
         later.begin({});
         QVERIFY(fs::exists("made/meanwhile"));
         QVERIFY(!taking("made/meanwhile", Report::Start::New).empty());
+    }
+
+    // Lines that a full disk has cut off would be the end of what --resume can read.
+    void writesWholeLines()
+    {
+        const Report::Line line{"a.pdf", "a.pdf", {Status::Changed, Saved::Appended, {}, 7}};
+        const std::string text = Report::toJson(line);
+        struct rlimit before;
+        getrlimit(RLIMIT_FSIZE, &before);
+        const auto handler = signal(SIGXFSZ, SIG_IGN);
+        for (const std::size_t room : {text.size() / 2, text.size() + 5, text.size() * 2 - 4}) {
+            Report report("report", Report::Start::New);
+            report.begin({});
+            const std::string head = WorkFolder::contentOf("report");
+            const struct rlimit limit
+            {
+                head.size() + room, before.rlim_max
+            };
+            setrlimit(RLIMIT_FSIZE, &limit);
+            for (std::size_t place = 0; place < 3; ++place)
+                report.add(place, line);
+            bool isAnnounced = true;
+            try {
+                report.announce(line);
+            } catch (const std::runtime_error&) {
+                isAnnounced = false;
+            }
+            setrlimit(RLIMIT_FSIZE, &before);
+            QVERIFY(!isAnnounced && !report.problem().empty());
+            QCOMPARE(WorkFolder::contentOf("report"), head + (room < text.size() ? std::string() : text));
+        }
+        signal(SIGXFSZ, handler);
     }
 
     void tellsNotes()

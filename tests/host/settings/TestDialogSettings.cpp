@@ -33,9 +33,9 @@ ViewChange changed(ViewChange present, const ViewChange& change)
     present.add(change);
     if (!change[ViewEntry::OpenPage] && !change[ViewEntry::Zoom])
         return present;
-    if (present[ViewEntry::OpenPage] == ViewValue(Unset()))
+    if (present[ViewEntry::OpenPage].value_or(Unset()) == ViewValue(Unset()))
         present.set(ViewEntry::OpenPage, 1);
-    if (present[ViewEntry::Zoom] == ViewValue(Unset()))
+    if (present[ViewEntry::Zoom].value_or(Unset()) == ViewValue(Unset()))
         present.set(ViewEntry::Zoom, Magnification());
     return present;
 }
@@ -67,6 +67,7 @@ SettingsMap chosenIn(const DialogSettings& settings, const SettingsMap& choices)
 const char bookmarks[] = R"({"pageMode":"UseOutlines"})";
 const char fullScreen[] =
     R"({"pageMode":"FullScreen","viewerPreferences":{"NonFullScreenPageMode":"UseThumbs"}})";
+const char script[] = R"({"openAction":{"action":"JavaScript"}})";
 const char zoomed[] = R"({"openAction":{"page":2,"type":"XYZ","zoom":150}})";
 
 } // namespace
@@ -112,10 +113,10 @@ private slots:
     void everyChoiceIsOneOption()
     {
         const auto [name, before, after, words] = Rows<QString, QVariant, QVariant, QByteArray>::current();
-        const DialogSettings plain(document("{}"), {});
+        const DialogSettings plain(document("{}"));
         // A document that opens as the first choice says.
         const ViewChange present = changed(document("{}"), plain.changeTo(chosenIn(plain, {{name, before}})));
-        const DialogSettings settings(present, {});
+        const DialogSettings settings(present);
         QCOMPARE(settings.map(), chosenIn(plain, {{name, before}}));
         QCOMPARE(settings.notes().size(), std::size_t(0));
         QVERIFY(settings.changeTo(settings.map()).isEmpty());
@@ -123,79 +124,77 @@ private slots:
         const SettingsMap chosen = chosenIn(settings, {{name, after}});
         const ViewChange change = settings.changeTo(chosen);
         QCOMPARE(wordsOf(change), words);
-        QCOMPARE(DialogSettings(changed(present, change), {}).map(), chosen);
+        QCOMPARE(DialogSettings(changed(present, change)).map(), chosen);
     }
 
     void changesWhatWasChanged_data()
     {
-        const Rows<QByteArray, QByteArray, SettingsMap, QByteArray> row;
+        const Rows<QByteArray, SettingsMap, QByteArray> row;
         const char title[] = R"({"viewerPreferences":{"DisplayDocTitle":true,"HideToolbar":true}})";
-        row("the title stays", title, "", {{key::HideMenuBar, true}}, "--hide-menubar yes");
-        row("magnification without a row stays", zoomed, "", {{key::OpenToPage, 3}}, "--open-page 3");
-        row("magnification without a row is changed", zoomed, "", {{key::Magnification, 0}},
-            "--zoom default");
-        row("no open action, page alone", "{}", "", {{key::OpenToPage, 3}}, "--open-page 3");
-        row("another action stays", "{}", "JavaScript", {{key::PageLayout, 1}}, "--page-layout one-column");
-        row("another action is replaced", "{}", "JavaScript", {{key::Magnification, 0}}, "--zoom default");
-        row("a list left without a row", bookmarks, "",
+        row("the title stays", title, {{key::HideMenuBar, true}}, "--hide-menubar yes");
+        row("magnification without a row stays", zoomed, {{key::OpenToPage, 3}}, "--open-page 3");
+        row("magnification without a row is changed", zoomed, {{key::Magnification, 0}}, "--zoom default");
+        row("no open action, page alone", "{}", {{key::OpenToPage, 3}}, "--open-page 3");
+        row("another action stays", script, {{key::PageLayout, 1}}, "--page-layout one-column");
+        row("another action is replaced", script, {{key::Magnification, 0}}, "--zoom default");
+        row("a list left without a row", bookmarks,
             {{key::NavigationTab, -1}, {key::PageLayout, -1}, {key::Show, -1}}, "");
-        row("a page beyond the last", R"({"openAction":{"page":12000,"type":"Fit"}})", "",
+        row("a page beyond the last", R"({"openAction":{"page":12000,"type":"Fit"}})",
             {{key::HideToolBars, true}}, "--hide-toolbar yes");
-        row("both groups off", bookmarks, "",
+        row("both groups off", bookmarks,
             {{key::LayoutAndMagn, false},
              {key::ViewerPrefs, false},
              {key::NavigationTab, 0},
              {key::HideToolBars, true}},
             "");
-        row("layout off", bookmarks, "",
+        row("layout off", bookmarks,
             {{key::LayoutAndMagn, false}, {key::NavigationTab, 0}, {key::HideToolBars, true}},
             "--hide-toolbar yes");
-        row("preferences off", bookmarks, "",
+        row("preferences off", bookmarks,
             {{key::ViewerPrefs, false}, {key::NavigationTab, 0}, {key::OpenInFullScreen, true}},
             "--page-mode use-none");
-        row("full screen keeps the panel", bookmarks, "", {{key::OpenInFullScreen, true}},
+        row("full screen keeps the panel", bookmarks, {{key::OpenInFullScreen, true}},
             "--page-mode full-screen --non-full-screen-page-mode use-outlines");
-        row("panel of full screen", fullScreen, "", {{key::NavigationTab, 3}},
+        row("panel of full screen", fullScreen, {{key::NavigationTab, 3}},
             "--non-full-screen-page-mode use-oc");
-        row("full screen is left", fullScreen, "", {{key::OpenInFullScreen, false}},
-            "--page-mode use-thumbs");
-        row("full screen is left, layout off", fullScreen, "",
+        row("full screen is left", fullScreen, {{key::OpenInFullScreen, false}}, "--page-mode use-thumbs");
+        row("full screen is left, layout off", fullScreen,
             {{key::OpenInFullScreen, false}, {key::LayoutAndMagn, false}, {key::NavigationTab, 4}},
             "--page-mode use-thumbs");
-        row("panel of full screen, preferences off", fullScreen, "",
+        row("panel of full screen, preferences off", fullScreen,
             {{key::ViewerPrefs, false}, {key::OpenInFullScreen, false}, {key::NavigationTab, 1}},
             "--non-full-screen-page-mode use-outlines");
     }
 
     void changesWhatWasChanged()
     {
-        const auto [json, action, choices, words] =
-            Rows<QByteArray, QByteArray, SettingsMap, QByteArray>::current();
-        const DialogSettings settings(document(json), action.toStdString());
+        const auto [json, choices, words] = Rows<QByteArray, SettingsMap, QByteArray>::current();
+        const DialogSettings settings(document(json));
         QCOMPARE(wordsOf(settings.changeTo(settings.map())), QByteArray());
         QCOMPARE(wordsOf(settings.changeTo(chosenIn(settings, choices))), words);
     }
 
     void notesWhatNoRowSays_data()
     {
-        const Rows<QByteArray, QByteArray, QByteArray, QByteArray, QVariant> row;
-        row("magnification", zoomed, "GoTo", "no row for its magnification, 150%;", key::Magnification, -1);
-        row("fraction", R"({"openAction":{"page":1,"type":"XYZ","zoom":8.33}})", "GoTo", "8.33%",
+        const Rows<QByteArray, QByteArray, QByteArray, QVariant> row;
+        row("magnification", zoomed, "no row for its magnification, 150%;", key::Magnification, -1);
+        row("fraction", R"({"openAction":{"page":1,"type":"XYZ","zoom":8.33}})", "8.33%", key::Magnification,
+            -1);
+        row("box", R"({"openAction":{"page":1,"type":"FitB"}})", "no row for its magnification, fit-box;",
             key::Magnification, -1);
-        row("another action", "{}", "JavaScript", "an action (JavaScript)", key::Magnification, -1);
-        row("page", R"({"openAction":{"page":12000,"type":"Fit"}})", "GoTo", "opening page, 12000",
-            key::OpenToPage, 9999);
-        row("other preferences", R"({"viewerPreferences":{"Direction":"R2L","NumCopies":2}})", "",
+        row("another action", script, "an action (JavaScript)", key::Magnification, -1);
+        row("page", R"({"openAction":{"page":12000,"type":"Fit"}})", "opening page, 12000", key::OpenToPage,
+            9999);
+        row("other preferences", R"({"viewerPreferences":{"Direction":"R2L","NumCopies":2}})",
             "leaves it: direction (r2l), num copies (2)", key::Magnification, 0);
-        row("page mode of full screen", fullScreen, "", "", key::NavigationTab, 2);
-        row("nothing", "{}", "", "", key::OpenToPage, 1);
+        row("page mode of full screen", fullScreen, "", key::NavigationTab, 2);
+        row("nothing", "{}", "", key::OpenToPage, 1);
     }
 
     void notesWhatNoRowSays()
     {
-        const auto [json, action, note, name, value] =
-            Rows<QByteArray, QByteArray, QByteArray, QByteArray, QVariant>::current();
-        const DialogSettings settings(document(json), action.toStdString());
+        const auto [json, note, name, value] = Rows<QByteArray, QByteArray, QByteArray, QVariant>::current();
+        const DialogSettings settings(document(json));
         QCOMPARE(settings.notes().size(), std::size_t(note.isEmpty() ? 0 : 1));
         QVERIFY2(notesOf(settings).contains(note), notesOf(settings));
         QCOMPARE(settings.map().value(name), value);
@@ -225,7 +224,7 @@ private slots:
     void saysEverythingOfGroupsThatAreOn()
     {
         const auto [choices, json] = Rows<SettingsMap, QByteArray>::current();
-        const DialogSettings settings(document(bookmarks), {});
+        const DialogSettings settings(document(bookmarks));
         QCOMPARE(DialogSettings::viewOf(chosenIn(settings, choices)), view(json));
     }
 };

@@ -1,0 +1,47 @@
+#include "NearbyFile.h"
+
+#include "Suggestion.h"
+#include "host/files/Paths.h"
+
+#include <filesystem>
+
+namespace host::suggestion {
+
+namespace {
+
+const int mostNames = 10000; // a folder may hold any number
+
+/// The suffix makes all names alike.
+std::string stemOf(const std::string& name)
+{
+    return name.substr(0, endOfStem(name));
+}
+
+} // namespace
+
+std::string nearbyFile(const std::string& path)
+{
+    const std::size_t end = path.find_last_not_of('/') + 1; // a folder's name may end in slashes
+    const std::size_t slash = path.find_last_of('/', end);
+    const std::size_t begin = slash == std::string::npos || slash >= end ? 0 : slash + 1;
+    std::vector<std::string> names;
+    std::vector<std::string> stems;
+    std::error_code problem;
+    int left = mostNames;
+    for (std::filesystem::directory_iterator entry(begin > 0 ? path.substr(0, begin) : ".", problem), none;
+         !problem && entry != none && left > 0; entry.increment(problem), --left) {
+        const std::string name = entry->path().filename().string();
+        if (!isPdfName(name) && !entry->is_directory(problem))
+            continue;
+        names.push_back(name);
+        stems.push_back(stemOf(name));
+    }
+    const std::string own = path.substr(begin, end - begin); // may be there, as a link that leads nowhere
+    const std::string found = nearest(stemOf(own), stems);
+    for (std::size_t place = 0; !found.empty() && place < names.size(); ++place)
+        if (stems[place] == found && names[place] != own)
+            return "; did you mean \"" + path.substr(0, begin) + names[place] + "\"?";
+    return {};
+}
+
+} // namespace host::suggestion
