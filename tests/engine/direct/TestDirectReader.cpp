@@ -3,6 +3,7 @@
 #include "engine/direct/DirectReader.h"
 #include "engine/files/EngineError.h"
 #include "support/PdfBuilder.h"
+#include "support/Rows.h"
 
 #include <qpdf/Pl_String.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -147,6 +148,26 @@ std::string withObjectStreams(const std::string& bytes, Packing packing = Packin
     return out;
 }
 
+/// A document of 20,000 pages with a cross-reference stream that is not compressed, and where its entries of
+/// seven bytes begin.
+std::pair<std::string, std::size_t> withLongStream()
+{
+    const std::string plain = PdfBuilder::simple({}, 20000);
+    const std::size_t table = plain.rfind("xref\n0 20003\n");
+    std::string bytes =
+        plain.substr(0, table) +
+        "20003 0 obj\n<< /Type /XRef /W [1 4 2] /Size 20003 /Root 1 0 R /Length 140021 >>\nstream\n";
+    const std::size_t entries = bytes.size();
+    for (std::size_t entry = 0; entry < 20003; ++entry) {
+        const unsigned long offset = std::stoul(plain.substr(table + 13 + entry * 20, 10));
+        bytes += entry == 0 ? '\0' : '\1';
+        for (const int shift : {24, 16, 8, 0})
+            bytes += static_cast<char>(offset >> shift & 0xff);
+        bytes += std::string(2, '\0');
+    }
+    return {bytes + "\nendstream\nendobj\nstartxref\n" + std::to_string(table) + "\n%%EOF\n", entries};
+}
+
 /// A document that touches every kind of thing that is read: a deep tree, names, preferences, a form.
 std::string manifold()
 {
@@ -274,6 +295,17 @@ private slots:
         const QByteArray page = "<< /Type /Page >>";
         QTest::newRow("kids twice") << QByteArray("<< /Kids [3 0 R] /Count 3 /Kids [3 0 R 4 0 R 5 0 R] >>")
                                     << page;
+        const QByteArray kids = "/Kids [3 0 R 4 0 R 5 0 R]";
+        QTest::newRow("kids without spaces") << QByteArray("<</Kids[3 0 R 4 0 R 5 0 R]/Count 3>>") << page;
+        QTest::newRow("kids spread out")
+            << QByteArray("<< /Kids\n[ 03 00\tR\r4 0 R  5 0 R\n]/Count 3 >>") << page;
+        QTest::newRow("kids in another entry first")
+            << "<< /X << /Kids [5 0 R] >> " + kids + " /Count 3 >>" << page;
+        QTest::newRow("kids in another entry") << QByteArray("<< /X << /Kids [5 0 R] >> /Count 3 >>") << page;
+        QTest::newRow("kids in a string") << "<< /X (/Kids [5 0 R]) " + kids + " /Count 3 >>" << page;
+        QTest::newRow("kids of a longer name") << "<< /KidsX [5 0 R] " + kids + " /Count 3 >>" << page;
+        QTest::newRow("number among kids") << QByteArray("<< /Count 3 /Kids [3 0 R 4 5 0 R] >>") << page;
+        QTest::newRow("R among kids") << QByteArray("<< /Count 3 /Kids [3 0 R R 4 0 R] >>") << page;
         QTest::newRow("type twice") << pages << QByteArray("<< /Type /Pages /Type /Page >>");
         QTest::newRow("two values") << pages << QByteArray("<< /Type /Pages 5 >>");
         QTest::newRow("type elsewhere") << pages << QByteArray("<< /Type 6 0 R /X << /Type /Page >> >>");
@@ -296,6 +328,28 @@ private slots:
                                       .bytes();
         QVERIFY(accepted(bytes));
         compare(bytes);
+    }
+
+    void looksAtWhatIsAskedForInLongSections_data()
+    {
+        const Rows<std::string, std::size_t, std::size_t, char> row; // where entries begin, and a bad byte
+        const std::string plain = PdfBuilder::simple({}, 20000);
+        row("table", plain, plain.rfind("xref\n0 20003\n") + 13 + 17, 20, '?');
+        const auto [stream, entries] = withLongStream();
+        row("stream", stream, entries, 7, '\3');
+    }
+
+    void looksAtWhatIsAskedForInLongSections()
+    {
+        auto [bytes, entries, size, bad] = Rows<std::string, std::size_t, std::size_t, char>::current();
+        compare(bytes);
+        bytes[entries + 10000 * size] = bad;
+        QVERIFY(accepted(bytes));
+        auto reader = DirectReader::open(ByteSource::fromBytes(bytes));
+        QVERIFY(reader->object(9999, 0) && reader->object(10001, 0));
+        QVERIFY(!reader->object(10000, 0));
+        bytes[entries + size] = bad; // of the catalog
+        QVERIFY(!accepted(bytes));
     }
 
     void agreesOnDamagedDocuments()

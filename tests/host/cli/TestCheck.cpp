@@ -48,7 +48,14 @@ private slots:
     {
         const ProgramRun words = quintar({"show", "d/all.pdf", "d/sub/script.pdf"});
         for (const char* line :
-             {"  Reading direction              r2l\n", "  Print scaling                  none\n",
+             {"d/all.pdf\n  Pages                          3\n",
+              "  Navigation tab                 Conten Group Panel and Page\n",
+              "  Page layout                    Two pages, odd-numbered pages on the right\n",
+              "  Magnification                  150%\n  Open to page                   2\n",
+              "  Hide tool bars                 yes\n  Hide menu bar                  no\n",
+              "  After full screen              Pages Panel and Page\n",
+              "  Page layout                    No preference set in document\n",
+              "  Reading direction              r2l\n", "  Print scaling                  none\n",
               "  Two-sided printing             duplex-flip-long-edge\n",
               "  Paper tray by page size        yes\n", "  Copies                         3\n",
               "  Title                          Everything\n", "  Language                       de-CH\n",
@@ -290,6 +297,21 @@ private slots:
         QCOMPARE(lines[2].value("status"), QJsonValue("differs"));
         QCOMPARE(lines[2].value("before").toObject(), (QJsonObject{{"pageMode", QJsonValue()}}));
         QCOMPARE(lines[2].value("after").toObject(), (QJsonObject{{"pageMode", "UseOC"}}));
+    }
+
+    void notesAreToldOnce()
+    {
+        const ProgramRun json = quintar({"check", "--json", "--display-doc-title", "yes", "d/plain.pdf"});
+        QVERIFY(ProgramRun::jsonLines(json.out).value(0).value("note").toString().contains("it has none"));
+        QCOMPARE(json.err, QByteArray());
+        const ProgramRun nothing = quintar({"check", "--view", "-", "d/plain.pdf"}, "{}");
+        QCOMPARE(nothing.status, 0);
+        QCOMPARE(nothing.err, QByteArray("quintar: note: the view names nothing, so nothing is asked of the "
+                                         "documents\n"));
+        for (const char* tag : {"english", "english language"}) {
+            const QByteArray view = QByteArray(R"({"lang":")") + tag + "\"}";
+            QCOMPARE(quintar({"check", "--view", "-", "d/plain.pdf"}, view).err.count("note: "), 1);
+        }
     }
 
     void whatWaitsIsPrintedWhole()

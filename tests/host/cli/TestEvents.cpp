@@ -169,8 +169,10 @@ private slots:
         QVERIFY(run.process().waitForFinished());
         QCOMPARE(run.process().exitCode(), 130);
         QCOMPARE(end.value("stopped"), QJsonValue(true));
-        QCOMPARE(end.value("changed").toInt(), done);
-        QCOMPARE(end.value("notDone").toInt(), 4 - done);
+        // A worker that is slow to take the next document does not take it any more.
+        const int changed = end.value("changed").toInt();
+        QVERIFY(changed >= 1 && changed <= done);
+        QCOMPARE(end.value("notDone").toInt(), 4 - changed);
         const QJsonObject last = ProgramRun::jsonLines(bytesOf("report")).last();
         QCOMPARE(last.value("event").toString() + last.value("stopped").toVariant().toString(),
                  QString("endtrue"));
