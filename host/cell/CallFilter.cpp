@@ -1,7 +1,5 @@
 #include "CallFilter.h"
 
-#include "AllowedCalls.h"
-
 #include <unistd.h>
 
 #include <cerrno>
@@ -35,7 +33,7 @@ bool handleOutside(Outside outside)
 }
 
 /// \returns 0, or minus an errno value.
-int fill(scmp_filter_ctx filter)
+int fill(scmp_filter_ctx filter, const std::vector<allowedcalls::Group>& groups)
 {
     // There is no secret in the process that its own code has to be kept from, and without this older kernels
     // slow all of it down.
@@ -43,7 +41,7 @@ int fill(scmp_filter_ctx filter)
     seccomp_attr_set(filter, SCMP_FLTATR_CTL_OPTIMIZE, asTree);
     seccomp_attr_set(filter, SCMP_FLTATR_API_SYSRAWRC, 1); // the kernel's own reasons
     seccomp_attr_set(filter, SCMP_FLTATR_ACT_BADARCH, SCMP_ACT_KILL_PROCESS);
-    for (const allowedcalls::Group& group : allowedcalls::table(getpid()))
+    for (const allowedcalls::Group& group : groups)
         for (const allowedcalls::Call& call : group.calls) {
             const int problem =
                 seccomp_rule_add_array(filter, SCMP_ACT_ALLOW, call.number,
@@ -56,12 +54,14 @@ int fill(scmp_filter_ctx filter)
 
 } // namespace
 
-bool enter(Outside outside)
+bool enter(Outside outside, const std::vector<allowedcalls::Group>& further)
 {
     if (!handleOutside(outside))
         return false;
     const Filter filter(seccomp_init(SCMP_ACT_TRAP), seccomp_release);
-    int problem = filter == nullptr ? -ENOMEM : fill(filter.get());
+    std::vector<allowedcalls::Group> groups = allowedcalls::table(getpid());
+    groups.insert(groups.end(), further.begin(), further.end());
+    int problem = filter == nullptr ? -ENOMEM : fill(filter.get(), groups);
     if (problem == 0)
         problem = seccomp_load(filter.get());
     errno = -problem;

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "AllowedCalls.h"
+
 #include <csignal>
 #include <string>
+#include <vector>
 
 /// Which system calls a process may make, and Linux holds it to: the kernel's seccomp.
 namespace host::callfilter {
@@ -14,8 +17,8 @@ inline constexpr int endedStatus = 128 + SIGSYS;
 using Outside = void (*)(int call);
 
 /// From now on this process, which must have given up new privileges and has one thread, makes the calls of
-/// AllowedCalls.h or ends. \returns false with errno set.
-bool enter(Outside outside);
+/// AllowedCalls.h and the further ones, or ends. \returns false with errno set.
+bool enter(Outside outside, const std::vector<allowedcalls::Group>& further = {});
 
 /// "socket", or the number of a call that has no name here.
 std::string nameOf(int call);

@@ -56,6 +56,8 @@ Rights rightsOf(Landlock::Access access)
 {
     if (access == Landlock::Access::Read)
         return LANDLOCK_ACCESS_FS_READ_FILE;
+    if (access == Landlock::Access::Browse)
+        return LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
     return LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_WRITE_FILE | truncateFile |
            LANDLOCK_ACCESS_FS_READ_DIR | LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_MAKE_DIR |
            LANDLOCK_ACCESS_FS_REMOVE_FILE;

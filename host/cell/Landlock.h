@@ -13,8 +13,9 @@ class Landlock
 {
 public:
     enum class Access {
-        Read,  ///< Files.
-        Write, ///< Files are also made, changed and removed, and folders made and listed.
+        Read,   ///< Files.
+        Browse, ///< Files, and folders are listed.
+        Write,  ///< Files are also made, changed and removed, and folders made and listed.
     };
 
     /// The newest version of the interface that this program knows.

@@ -8,8 +8,9 @@ inline constexpr int memoryMiB = 2048;
 /// How long it may work once it has started.
 inline constexpr unsigned workSeconds = 10;
 
-/// Limits this process, which has opened what it reads, for good: its memory, no new privileges, no processes,
-/// no core file, nothing written to files, and it ends with the process that started it. Throws
+/// Limits this process, which has opened what it reads and has one thread, for good: its memory, no new
+/// privileges, no processes, no core file, nothing written to files, and it ends with the process that started
+/// it. Where the kernel can do that, it opens nothing but fonts, and makes the system calls that it needs. Throws
 /// std::runtime_error when that cannot be had.
 void enter();
 

@@ -1,6 +1,5 @@
 #include "PdfPages.h"
 
-#include <QPainter>
 #include <QPdfDocument>
 #include <QPdfDocumentRenderOptions>
 
@@ -21,6 +20,23 @@ Failure whyNotLoaded(const QPdfDocument& document)
         return {ReasonCode::Damaged, "it is no PDF document, or damaged"};
     default:
         return {ReasonCode::Damaged, "it cannot be drawn"};
+    }
+}
+
+/// What is drawn has no paper of its own. A painter might start threads for this.
+void putOnPaper(const QImage& drawn, QImage& picture)
+{
+    const auto onWhite = [](int colour, int opacity) {
+        return (colour * opacity + 255 * (255 - opacity) + 127) / 255;
+    };
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(drawn.constScanLine(y));
+        auto* to = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            const int opacity = qAlpha(from[x]);
+            to[x] = qRgb(onWhite(qRed(from[x]), opacity), onWhite(qGreen(from[x]), opacity),
+                         onWhite(qBlue(from[x]), opacity));
+        }
     }
 }
 
@@ -57,10 +73,9 @@ QImage PdfPages::picture(int page, const QSize& room) const
     options.setRenderFlags(QPdf::RenderAnnotations);
     const QImage drawn = m_document->render(page - 1, pixels, options);
     QImage picture(pixels, QImage::Format_RGB32);
-    if (drawn.isNull() || picture.isNull())
+    if (drawn.format() != QImage::Format_ARGB32 || drawn.size() != pixels || picture.isNull())
         throw DocumentError({ReasonCode::Memory, "there is no picture of the page"});
-    picture.fill(Qt::white);
-    QPainter(&picture).drawImage(0, 0, drawn); // what is drawn has no paper of its own
+    putOnPaper(drawn, picture);
     return picture;
 }
 
