@@ -16,18 +16,24 @@ BLOCK = 4096
 ENDS = (0, 1, 300, 3300, 3600, 3840, 3900, 4000, 4060, 4095)
 
 
+def make(path, number, size):
+    """A document with a table, or with object streams. Returns the path."""
+    inputs.document(path, 2, size, number)
+    if number % 2:
+        inputs.in_object_streams(path, path + ".new", "--static-id", "--compress-streams=n")
+        os.replace(path + ".new", path)
+    return path
+
+
 def build(folder):
-    """Documents with tables and with object streams, which end where they should: their content is padded."""
+    """Documents that end where they should. Returns their names."""
     os.makedirs(folder)
     for number, end in enumerate(ENDS):
         path = os.path.join(folder, f"document{number}.pdf")
         size = 6000 + 5000 * (number % 3)
-        for _ in range(3):  # the length's digits may change
-            inputs.document(path, 2, size, number)
-            if number % 2:
-                inputs.in_object_streams(path, path + ".new", "--static-id", "--compress-streams=n")
-                os.replace(path + ".new", path)
-            size += (end - os.path.getsize(path)) % BLOCK
+        while os.path.getsize(make(path, number, size)) % BLOCK != end:
+            missing = (end - os.path.getsize(path)) % BLOCK
+            size += missing if missing < BLOCK // 2 or size < BLOCK else missing - BLOCK
     return sorted(os.listdir(folder))
 
 

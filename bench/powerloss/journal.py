@@ -27,9 +27,11 @@ class Epoch:
         self.begin, self.writes, self.marks = begin, [], []
 
 
-def read(path):
-    """The epochs of a log."""
-    log, at, place = open(path, "rb").read(), 0, 0
+def read(path, heeded):
+    """The epochs of a log, of a disk that heeds every so many-th flush."""
+    with open(path, "rb") as file:
+        log = file.read()
+    at, place, flushes = 0, 0, 0
     epochs = [Epoch(0)]
     while at < len(log):
         kind = log[at:at + 1]
@@ -38,7 +40,9 @@ def read(path):
         at += 17 + length
         place += 1
         if kind == b"F":
-            epochs.append(Epoch(place))
+            flushes += 1
+            if flushes % heeded == 0:
+                epochs.append(Epoch(place))
         elif kind == b"M":
             epochs[-1].marks.append((place, data.decode().strip()))
         else:
@@ -108,13 +112,13 @@ class Image:
         return state.blocks
 
 
-def crashes(log, base, is_torn, most, seed):
+def crashes(log, base, is_torn, arguments):
     """For each state that the disk can be in: its blocks that differ from the base, a name, and the marks that were set
     by then. Ends with how many epochs there were, and in how many of them not every subset was tried."""
-    chance = random.Random(seed)
+    chance, most = random.Random(arguments.seed), arguments.most
     image = Image(base)
     marks, sampled = [], 0
-    for number, epoch in enumerate(read(log)):
+    for number, epoch in enumerate(read(log, arguments.heed)):
         chosen, is_all = subsets(epoch.writes, most, chance)
         sampled += 0 if is_all else 1
         chosen += torn(epoch.writes, is_torn, most // 2, chance)

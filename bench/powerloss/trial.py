@@ -3,7 +3,7 @@ every prefix of what was written and every reordering that the flushes allow, an
 to be what it was or what it should become; what it was, with a begin of the update behind it, has to open as before with
 no more warnings; one of which the program said "changed" has to be what it should become. Nothing else may differ. Blocks
 of 4,096 bytes come and go as a whole, those with parts of documents also by sectors of 512 bytes. Between two flushes
-with up to seven blocks every subset is tried, with more of them as many as --most, by --seed.
+with up to seven blocks every subset is tried, of more of them --most, by --seed, and half as many torn by sectors.
 
 Status 1 when a state is wrong."""
 
@@ -144,7 +144,7 @@ class Trial:
         with open(self.path("base"), "rb") as base:
             for blocks, what, marks in journal.crashes(self.path("log"), base,
                                                        lambda write: any(each.data in data for each in write.sectors()),
-                                                       self.arguments.most, self.arguments.seed):
+                                                       self.arguments):
                 if blocks is None:
                     break
                 states += 1
@@ -168,9 +168,10 @@ class Trial:
             with Mounted(self.path("state"), self.mount_point, options) as folder:
                 found, left = contents(folder)
         except (Failed, OSError) as problem:
-            count["file system cannot be read"] += 1
+            count["states that cannot be mounted or read"] += 1
             return str(problem)
-        count["unfinished copies are left"] += 1 if left else 0
+        if left:
+            count["states with an unfinished copy left"] += 1
         if found.keys() != before.keys():
             return f"files are {sorted(found)}"
         for name, content in found.items():
@@ -189,6 +190,8 @@ def main():
     parser.add_argument("--disk", required=True, help="the recording disk's program")
     parser.add_argument("--most", type=int, default=60, help="states between two flushes where there are many")
     parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--heed", type=int, default=1, metavar="N",
+                        help="the disk heeds every N-th flush only: shows that the trial finds what goes wrong then")
     parser.add_argument("--file-systems", nargs="*", choices=list(FILE_SYSTEMS), default=list(FILE_SYSTEMS))
     parser.add_argument("--ways", nargs="*", choices=list(WAYS), default=list(WAYS))
     parser.add_argument("--work", required=True, help="an empty folder, in memory")
