@@ -90,6 +90,7 @@ void ReadingRun::print(std::size_t place, Reading reading)
     const std::string& file = m_plan.documents()[place].name;
     const std::string about = forTerminal(shownName(file)) + ": ";
     std::string errors;
+    reading.text = surelyForTerminal(std::move(reading.text));
     if (reading.kind == Reading::Failed) {
         errors = "quintar: " + about + forTerminal(reading.reason.text) + "\n";
         reading.text = m_options.failureLine ? m_options.failureLine(file, reading.reason) : std::string();
