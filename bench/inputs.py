@@ -2,6 +2,7 @@
 
 import os
 import random
+import shutil
 import subprocess
 
 
@@ -29,26 +30,52 @@ class Writer:
         self.file.close()
 
 
-def document(path, pages, payload, seed):
-    """`pages` pages in nodes of 100, each with its contents; `payload` bytes of incompressible images."""
+def page_tree(writer, pages, sizes, stride):
+    """Writes the catalog and all nodes, from the root down: as object 1, 2 and so on. `sizes` are those of the nodes,
+    from the lowest ones up; none gives a flat list. Returns the number of the first page, where every `stride`th
+    number is a page, and the parents of the pages."""
+    counts = []  # of the nodes in each level below the root, from the lowest up
+    for size in sizes:
+        counts.append(((counts or [pages])[-1] + size - 1) // size)
+    starts, number = [], 3
+    for count in reversed(counts):
+        starts.insert(0, number)
+        number += count
+    first_page = number
+
+    def node(number, level, own, parent):
+        """A node above the kids `own` of the level below."""
+        kids = [first_page + stride * kid if level == 0 else starts[level - 1] + kid for kid in own]
+        span = 1
+        for size in sizes[:level]:
+            span *= size
+        count = min(pages, own.stop * span) - own.start * span
+        writer.add(number, b"<< /Type /Pages " + parent + b"/Kids [ " + b" ".join(b"%d 0 R" % kid for kid in kids) +
+                   b" ] /Count %d " % count + (b"" if parent else b"/MediaBox [ 0 0 595 842 ] ") + b">>")
+
+    writer.add(1, b"<< /Type /Catalog /Pages 2 0 R >>")
+    node(2, len(sizes), range(counts[-1] if counts else pages), b"")
+    for level in reversed(range(len(sizes))):
+        below = counts[level - 1] if level else pages
+        for n in range(counts[level]):
+            above = starts[level + 1] + n // sizes[level + 1] if level + 1 < len(sizes) else 2
+            own = range(n * sizes[level], min(below, (n + 1) * sizes[level]))
+            node(starts[level] + n, level, own, b"/Parent %d 0 R " % above)
+    return first_page, [starts[0] + p // sizes[0] if sizes else 2 for p in range(pages)]
+
+
+def document(path, pages, payload, seed, sizes=(100,)):
+    """`pages` pages, each with its contents, below nodes of these sizes; `payload` bytes of incompressible images."""
     noise = random.Random(seed)
     writer = Writer(path)
-    nodes = (pages + 99) // 100
-    first_node, first_page = 3, 3 + nodes
+    first_page, parents = page_tree(writer, pages, sizes, 2)
     image = first_page + 2 * pages
-    writer.add(1, b"<< /Type /Catalog /Pages 2 0 R >>")
-    kids = b" ".join(b"%d 0 R" % (first_node + n) for n in range(nodes))
-    writer.add(2, b"<< /Type /Pages /Kids [ " + kids + b" ] /Count %d /MediaBox [ 0 0 595 842 ] >>" % pages)
-    for n in range(nodes):
-        own = range(n * 100, min(pages, n * 100 + 100))
-        kids = b" ".join(b"%d 0 R" % (first_page + 2 * p) for p in own)
-        writer.add(first_node + n, b"<< /Type /Pages /Parent 2 0 R /Kids [ " + kids + b" ] /Count %d >>" % len(own))
     images = max(1, payload // 4_000_000) if payload else 0
-    for p in range(pages):
+    for p, parent in enumerate(parents):
         number = first_page + 2 * p
         shown = b"/XObject << /I %d 0 R >> " % (image + p % images) if images else b""
         writer.add(number, b"<< /Type /Page /Parent %d 0 R /Contents %d 0 R /Resources << /ProcSet [ /PDF /Text ] "
-                   % (first_node + p // 100, number + 1) + shown +
+                   % (parent, number + 1) + shown +
                    b"/Font << /F1 << /Type /Font /Subtype /Type1 /BaseFont /Helvetica >> >> >> >>")
         lines = b" ".join(b"(line %d of page %d) Tj T*" % (line, p + 1) for line in range(6))
         writer.stream(number + 1, b"BT /F1 12 Tf 14 TL 50 800 Td " + lines + b" ET")
@@ -59,11 +86,24 @@ def document(path, pages, payload, seed):
     writer.close()
 
 
+def in_object_streams(source, target, *options):
+    subprocess.run(["qpdf", "--object-streams=generate", *options, source, target], check=True)
+
+
+def copies(path, count):
+    """Copies of `name00.pdf`, up to `count` with it. Returns all of them."""
+    paths = [path.replace("00.pdf", f"{n:02}.pdf") for n in range(count)]
+    for copy in paths[1:]:
+        shutil.copyfile(path, copy)
+    return paths
+
+
 def build(folder):
     """Builds what is missing in `folder` and returns the workloads' files by name."""
-    sets = {name: os.path.join(folder, name) for name in ("small", "images", "table", "objstm", "one")}
+    sets = {name: os.path.join(folder, name)
+            for name in ("small", "images", "table", "objstm", "flat-table", "flat-objstm", "one")}
     done = os.path.join(folder, "complete")
-    if not os.path.exists(done):
+    if not os.path.exists(done) or os.path.getmtime(done) < os.path.getmtime(__file__):
         for path in sets.values():
             os.makedirs(path, exist_ok=True)
         sizes = random.Random(1)
@@ -71,14 +111,36 @@ def build(folder):
             document(f"{sets['small']}/manual{n:03}.pdf", sizes.randint(2, 60), sizes.randint(2_000, 175_000), n)
         for n in range(3):
             document(f"{sets['images']}/plates{n}.pdf", 40, 133_000_000, 1000 + n)
-        document(f"{sets['table']}/book00.pdf", 20_000, 0, 2000)
-        subprocess.run(["qpdf", "--object-streams=generate", "--compress-streams=n", f"{sets['table']}/book00.pdf",
-                        f"{sets['objstm']}/book00.pdf"], check=True)
-        for name in ("table", "objstm"):
-            for n in range(1, 20):
-                with open(f"{sets[name]}/book00.pdf", "rb") as source:
-                    with open(f"{sets[name]}/book{n:02}.pdf", "wb") as copy:
-                        copy.write(source.read())
+        for flat, nodes in (("", (100,)), ("flat-", ())):
+            table, objstm = (f"{sets[flat + kind]}/book00.pdf" for kind in ("table", "objstm"))
+            document(table, 20_000, 0, 2000, nodes)
+            in_object_streams(table, objstm, "--compress-streams=n")
+            copies(table, 20)
+            copies(objstm, 20)
         document(f"{sets['one']}/manual.pdf", 12, 80_000, 3000)
         open(done, "w").close()
     return {name: sorted(os.path.join(path, f) for f in os.listdir(path)) for name, path in sets.items()}
+
+
+# How many pages, in nodes of which sizes, and how many copies.
+BOOKS = {
+    "2 pages": (2, (), 9),
+    "20,000 pages": (20_000, (100,), 9),
+    "20,000 pages in one list": (20_000, (), 9),
+    "200,000 pages": (200_000, (100, 100), 5),
+    "200,000 pages in one list": (200_000, (), 5),
+}
+
+
+def build_books(folder):
+    """Builds what is missing of documents that differ in their number of pages. Returns their files by name, with a
+    table and with object streams."""
+    os.makedirs(folder, exist_ok=True)
+    books = {}
+    for name, (pages, sizes, count) in BOOKS.items():
+        table, objstm = (f"{folder}/{pages}-{'-'.join(map(str, sizes))}{kind}00.pdf" for kind in ("table", "objstm"))
+        if not os.path.exists(objstm):
+            document(table, pages, 0, 0, sizes)
+            in_object_streams(table, objstm)
+        books[name, "table"], books[name, "object streams"] = copies(table, count), copies(objstm, count)
+    return books

@@ -11,8 +11,23 @@ set(QUINTAR_BUILD_MODULE_DIR "${PROJECT_BINARY_DIR}/${QUINTAR_MODULE_DIR}")
 set(QUINTAR_WARNINGS -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor
     -Woverloaded-virtual)
 
+# What makes mistakes in memory end a program rather than be of use to somebody, in what users run.
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+set(QUINTAR_IS_RELEASE $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
+set(QUINTAR_HARDENING -fstack-protector-strong -fstack-clash-protection)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64|i.86")
+    list(APPEND QUINTAR_HARDENING -fcf-protection=full)
+elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "aarch64|arm64")
+    list(APPEND QUINTAR_HARDENING -mbranch-protection=standard)
+endif()
+if(NOT QUINTAR_SANITIZE)
+    list(APPEND QUINTAR_HARDENING -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+endif()
+set(QUINTAR_LINK_HARDENING LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack)
+
 # quintar_target(name)
-# Applies language level, warnings, visibility and sanitizers to a target.
+# Applies language level, warnings, hardening, visibility and sanitizers to a target.
 function(quintar_target name)
     target_compile_features(${name} PUBLIC cxx_std_20)
     set_target_properties(${name} PROPERTIES
@@ -21,6 +36,8 @@ function(quintar_target name)
         VISIBILITY_INLINES_HIDDEN ON
         POSITION_INDEPENDENT_CODE ON)
     target_compile_options(${name} PRIVATE ${QUINTAR_WARNINGS} $<$<BOOL:${QUINTAR_WERROR}>:-Werror>)
+    target_compile_options(${name} PRIVATE "$<${QUINTAR_IS_RELEASE}:${QUINTAR_HARDENING}>")
+    target_link_options(${name} PRIVATE "$<${QUINTAR_IS_RELEASE}:${QUINTAR_LINK_HARDENING}>")
     # GCC 12 sees overlaps in inlined string additions that cannot be (its bug 105651).
     if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
         target_compile_options(${name} PRIVATE -Wno-restrict)
@@ -34,6 +51,23 @@ function(quintar_target name)
         target_compile_options(${name} PRIVATE --coverage)
         target_link_options(${name} PRIVATE --coverage)
     endif()
+endfunction()
+
+# Has a program find the libraries that it needs where they are now, whatever LD_LIBRARY_PATH says: the older kind of run
+# path comes first, and holds for modules and the libraries of libraries as well.
+function(quintar_installed_libraries name)
+    set(folders "")
+    foreach(library IN ITEMS Qt5::Core Qt5::Widgets)
+        get_target_property(location ${library} LOCATION)
+        cmake_path(GET location PARENT_PATH folder)
+        list(APPEND folders "${folder}")
+    endforeach()
+    foreach(package IN ITEMS QPDF SECCOMP FONTCONFIG)
+        list(APPEND folders "${${package}_LIBDIR}")
+    endforeach()
+    list(REMOVE_DUPLICATES folders)
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "${folders}" BUILD_WITH_INSTALL_RPATH ON)
+    target_link_options(${name} PRIVATE LINKER:--disable-new-dtags)
 endfunction()
 
 # Lets a module export the symbols of a version script and nothing else.

@@ -4,9 +4,11 @@
 #include "cli/RunCommand.h"
 #include "cli/ShowCommand.h"
 #include "cli/UndoCommand.h"
+#include "cli/WindowCommand.h"
 #include "host/arguments/UnknownWords.h"
 #include "host/options/HelpText.h"
 #include "host/program/HostApplication.h"
+#include "host/program/Surroundings.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
@@ -34,6 +36,7 @@ Commands allCommands()
     commands.push_back(std::make_unique<host::CheckCommand>());
     commands.push_back(std::make_unique<host::ConfigureCommand>());
     commands.push_back(std::make_unique<host::ListsCommand>());
+    commands.push_back(std::make_unique<host::WindowCommand>());
     return commands;
 }
 
@@ -103,6 +106,8 @@ int main(int argc, char** argv)
     std::signal(SIGCHLD, SIG_DFL); // ignored, it would hide how workers end
     occupyStandardDescriptors();
     try {
+        host::surroundings::refuseForeignRights();
+        host::surroundings::forgetPlacesOfCode();
         return runCommand(argc, argv);
     } catch (const host::OutputError& error) {
         return error.readerHasGone() ? host::exitstatus::someFailed

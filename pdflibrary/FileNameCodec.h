@@ -94,7 +94,7 @@ inline std::string fileNameFromWide(std::wstring_view wide)
 {
     using namespace filename_detail;
     std::string bytes;
-    bytes.reserve(wide.size());
+    bytes.reserve(wide.size() * 4); // as much as UTF-8 takes, for passwords must not be moved about
     for (const wchar_t each : wide) {
         const auto code = static_cast<char32_t>(each);
         if (code >= escapeOfByte0 + 0x80 && code <= escapeOfByte0 + 0xff)

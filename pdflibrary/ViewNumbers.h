@@ -56,13 +56,13 @@ enum DestinationType {
     FitRectangle = 8,
 };
 
-/// Types of explicit destinations.
+/// Types of explicit destinations, as they are written.
 inline constexpr std::array destinationNames{"",       "/XYZ",  "/Fit",   "/FitH", "/FitV",
                                              "/FitBH", "/FitB", "/FitBV", "/FitR"};
 
 /// Value of GetDestValue: coordinates in points of default user space, the zoom in percent, and the
-/// DestinationType that is written in the document, 0 for none that is known.
-/// SetDestValue takes DestinationZoom alone.
+/// DestinationType that is written in the document, 0 for none that is known. SetDestValue takes
+/// DestinationZoom alone.
 enum DestinationValue {
     DestinationLeft = 1,
     DestinationTop = 2,

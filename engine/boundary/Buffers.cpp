@@ -57,8 +57,11 @@ std::string_view Buffers::bytes(const char* text) const
 
 void Buffers::releaseTaken()
 {
-    for (char* const buffer : m_taken)
+    for (char* const buffer : m_taken) {
+        if (const auto found = m_buffers.find(buffer); found != m_buffers.end())
+            explicit_bzero(buffer, found->second.used); // it may be a password
         release(buffer);
+    }
     m_taken.clear();
 }
 

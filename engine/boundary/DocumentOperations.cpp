@@ -36,8 +36,8 @@ bool hasPages(OpenDocument& document)
 int open(Session& session, std::shared_ptr<ByteSource> source, std::string fileName,
          std::wstring_view password)
 {
-    auto document =
-        std::make_unique<OpenDocument>(std::move(source), std::move(fileName), fileNameFromWide(password));
+    const Wiped<char> plain(fileNameFromWide(password));
+    auto document = std::make_unique<OpenDocument>(std::move(source), std::move(fileName), plain.text);
     if (!hasPages(*document)) {
         document->document.requireAllRead();
         document->document.requireUnchanged();

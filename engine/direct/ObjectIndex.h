@@ -1,29 +1,20 @@
 #pragma once
 
+#include "ObjectPlace.h"
+#include "StreamEntries.h"
 #include "WorkBudget.h"
 #include "engine/syntax/SectionReader.h"
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <set>
-#include <string>
 #include <vector>
 
 namespace engine {
 
-/// Where an object of a document lies.
-struct ObjectPlace
-{
-    enum class Kind { Free, Plain, Compressed };
-
-    Kind kind = Kind::Free;
-    std::int64_t position = 0; ///< Offset in the file, or number of the object stream.
-    int detail = 0;            ///< Generation, or index in the object stream.
-};
-
-/// Looks up where objects lie in all sections of a well-formed cross-reference. Tables stay in the file.
+/// Looks up where objects lie in all sections of a well-formed cross-reference. Tables stay in the file. Of a
+/// long section only what is looked at has to be well-formed.
 /// Encrypted and hybrid documents are not accepted.
 class ObjectIndex
 {
@@ -44,32 +35,24 @@ public:
     int size() const { return m_size; }
 
 private:
-    /// A section with what its dictionary says, and the content of its stream.
+    /// A section with what its dictionary says.
     struct IndexSection
     {
         Section section;
-        std::int64_t previous = -1; // offset of the section before it
-        std::string entries;        // decoded, of a stream: the runs' offsets lead into it
-        std::array<int, 3> widths = {};
-
-        int entryWidth() const { return widths[0] + widths[1] + widths[2]; }
+        std::int64_t previous = -1;             // offset of the section before it
+        std::unique_ptr<StreamEntries> entries; // of a stream
     };
 
     std::optional<IndexSection> readSection(std::int64_t offset);
+    bool readEntries(IndexSection& section);
     bool readDictionary(IndexSection& section);
-    bool decode(IndexSection& section);
-    static bool readWidths(IndexSection& section, std::string_view widths);
-    static bool readRuns(IndexSection& section, const DictionaryEntries& entries);
-    static bool hasGoodEntries(const IndexSection& section);
-    bool streamsHaveTheirNumbers(const std::set<std::int64_t>& offsets);
-
+    bool isPossible(int number, const ObjectPlace& place) const;
     std::optional<ObjectPlace> tableEntry(const Section::Run& run, int number);
-    static std::optional<ObjectPlace> streamEntry(const IndexSection& section, const Section::Run& run,
-                                                  int number);
 
     FileWindows& m_file;
     WorkBudget& m_budget;
     std::vector<IndexSection> m_sections; // newest first
+    std::set<std::int64_t> m_offsets;     // where they begin
     int m_size = 0;
 };
 

@@ -1,17 +1,11 @@
 #include "StreamDecoder.h"
 
-#include <zlib.h>
-
 #include <algorithm>
-#include <array>
 #include <cstdint>
-#include <utility>
 
 namespace engine {
 
 namespace {
-
-const std::size_t widestRow = 64; // of a predictor
 
 /// Bytes before and behind the data in zlib's format. Both are read here: zlib itself would compute the
 /// checksum of data that is decoded in part as well, which costs a quarter of the decoding.
@@ -28,72 +22,34 @@ bool isZlibHeader(std::string_view data)
            (byte(0) << 8 | byte(1)) % 31 == 0 && (byte(1) & 0x20) == 0;
 }
 
-bool isChecksumOf(std::string_view decoded, std::string_view checksum)
+} // namespace
+
+std::unique_ptr<StreamDecoder> StreamDecoder::create(const DictionaryEntries& dictionary,
+                                                     std::string_view data)
 {
-    const uLong sum = adler32(adler32(0, nullptr, 0), reinterpret_cast<const Bytef*>(decoded.data()),
-                              static_cast<uInt>(decoded.size()));
-    if (checksum.size() < zlibChecksum)
-        return false;
-    uLong stated = 0;
-    for (const char byte : checksum.substr(0, zlibChecksum))
-        stated = stated << 8 | static_cast<unsigned char>(byte);
-    return stated == sum;
+    const auto filter = dictionary.find("Filter");
+    const auto parameters = dictionary.find("DecodeParms");
+    std::unique_ptr<StreamDecoder> decoder(new StreamDecoder(data));
+    if (filter == dictionary.end())
+        return parameters == dictionary.end() ? std::move(decoder) : nullptr;
+    if (filter->second != "/FlateDecode")
+        return nullptr;
+    const bool known = parameters == dictionary.end() || decoder->readParameters(parameters->second);
+    return known && decoder->beginInflating() ? std::move(decoder) : nullptr;
 }
 
-/// Decodes up to `most` bytes; what follows them is not looked at.
-std::optional<std::string> inflated(std::string_view data, std::size_t most)
+StreamDecoder::~StreamDecoder()
 {
-    z_stream stream{};
-    if (!isZlibHeader(data) || inflateInit2(&stream, -MAX_WBITS) != Z_OK)
-        return std::nullopt;
-    data.remove_prefix(zlibHeader);
-    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(data.data()));
-    stream.avail_in = static_cast<uInt>(data.size());
-    std::string decoded;
-    int result = Z_OK;
-    while (result == Z_OK && decoded.size() < most) {
-        const std::size_t done = decoded.size();
-        decoded.resize(std::min(most, std::max(2 * done, 4 * data.size() + 64)));
-        stream.next_out = reinterpret_cast<Bytef*>(decoded.data() + done);
-        stream.avail_out = static_cast<uInt>(decoded.size() - done);
-        result = inflate(&stream, Z_NO_FLUSH);
-        decoded.resize(decoded.size() - stream.avail_out);
-    }
-    inflateEnd(&stream);
-    const bool full = result == Z_OK && decoded.size() == most;
-    const bool whole =
-        result == Z_STREAM_END && isChecksumOf(decoded, data.substr(data.size() - stream.avail_in));
-    return full || whole ? std::optional(std::move(decoded)) : std::nullopt;
+    if (m_inflates)
+        inflateEnd(&m_stream);
 }
 
-/// Undoes the "Up" predictor of PNG, the only one that writers of cross-reference streams use besides none.
-std::optional<std::string> withoutPredictor(const std::string& data, std::size_t columns)
-{
-    const std::size_t row = columns + 1;
-    if (columns == 0 || columns > widestRow || data.size() % row != 0)
-        return std::nullopt;
-    std::string plain(data.size() / row * columns, '\0');
-    std::array<unsigned char, widestRow> values{};
-    const char* from = data.data();
-    for (char* to = plain.data(); to < plain.data() + plain.size(); to += columns) {
-        const char kind = *from++;
-        if (kind != 0 && kind != 2)
-            return std::nullopt;
-        const unsigned char keep = kind == 2 ? 0xff : 0; // of the row above
-        for (std::size_t column = 0; column < columns; ++column) {
-            values[column] =
-                static_cast<unsigned char>((values[column] & keep) + static_cast<unsigned char>(*from++));
-            to[column] = static_cast<char>(values[column]);
-        }
-    }
-    return plain;
-}
-
-std::optional<std::string> unpredicted(std::string data, std::string_view parameters)
+/// Takes the predictor "Up" of PNG, the only one that writers of cross-reference streams use besides none.
+bool StreamDecoder::readParameters(std::string_view parameters)
 {
     const auto entries = dictionaryEntries(parameters);
     if (!entries)
-        return std::nullopt;
+        return false;
     const auto value = [&](std::string_view key, std::int64_t otherwise) {
         const auto found = entries->find(key);
         return found == entries->end() ? std::optional(otherwise) : wholeInteger(found->second);
@@ -101,29 +57,101 @@ std::optional<std::string> unpredicted(std::string data, std::string_view parame
     const auto predictor = value("Predictor", 1);
     const auto columns = value("Columns", 1);
     if (value("Colors", 1) != 1 || value("BitsPerComponent", 8) != 8 || !predictor || !columns)
-        return std::nullopt;
+        return false;
     if (*predictor == 1)
-        return data;
-    return *predictor >= 10 && *predictor <= 15 ? withoutPredictor(data, static_cast<std::size_t>(*columns))
-                                                : std::nullopt;
+        return true;
+    m_columns = static_cast<std::size_t>(*columns);
+    return *predictor >= 10 && *predictor <= 15 && m_columns >= 1 && m_columns <= widestRow;
 }
 
-} // namespace
+bool StreamDecoder::beginInflating()
+{
+    m_inflates = isZlibHeader(m_data) && inflateInit2(&m_stream, -MAX_WBITS) == Z_OK;
+    if (!m_inflates)
+        return false;
+    const std::string_view deflated = m_data.substr(zlibHeader);
+    m_stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(deflated.data()));
+    m_stream.avail_in = static_cast<uInt>(deflated.size());
+    return true;
+}
+
+bool StreamDecoder::reach(std::size_t size)
+{
+    size = std::min(size, largestDecoded);
+    if (text().size() >= size)
+        return true;
+    if (!m_inflates) {
+        m_stored.append(m_data.substr(m_stored.size(), size - m_stored.size()));
+        m_atEnd = m_stored.size() < size;
+        return true;
+    }
+    if (m_columns == 0)
+        return inflateTo(size);
+    const std::size_t rows = (size + m_columns - 1) / m_columns;
+    return inflateTo(rows * (m_columns + 1)) && undoPredictor();
+}
+
+bool StreamDecoder::inflateTo(std::size_t size)
+{
+    int result = Z_OK;
+    while (result == Z_OK && !m_atEnd && m_stored.size() < size) {
+        const std::size_t done = m_stored.size();
+        m_stored.resize(std::min(size, std::max(2 * done, 4 * m_data.size() + 64)));
+        m_stream.next_out = reinterpret_cast<Bytef*>(m_stored.data() + done);
+        m_stream.avail_out = static_cast<uInt>(m_stored.size() - done);
+        result = inflate(&m_stream, Z_NO_FLUSH);
+        m_stored.resize(m_stored.size() - m_stream.avail_out);
+        m_atEnd = result == Z_STREAM_END;
+    }
+    return result == Z_OK || m_atEnd;
+}
+
+/// Of the rows that are there whole.
+bool StreamDecoder::undoPredictor()
+{
+    const std::size_t row = m_columns + 1;
+    const std::size_t done = m_plain.size() / m_columns;
+    const std::size_t rows = m_stored.size() / row;
+    if (m_atEnd && m_stored.size() % row != 0)
+        return false;
+    m_plain.resize(rows * m_columns);
+    const char* from = m_stored.data() + done * row;
+    for (char* to = m_plain.data() + done * m_columns; to < m_plain.data() + m_plain.size();
+         to += m_columns) {
+        const char kind = *from++;
+        if (kind != 0 && kind != 2)
+            return false;
+        const unsigned char keep = kind == 2 ? 0xff : 0; // of the row above
+        for (std::size_t column = 0; column < m_columns; ++column) {
+            m_above[column] =
+                static_cast<unsigned char>((m_above[column] & keep) + static_cast<unsigned char>(*from++));
+            to[column] = static_cast<char>(m_above[column]);
+        }
+    }
+    return true;
+}
+
+bool StreamDecoder::hasRightChecksum() const
+{
+    if (!m_inflates)
+        return true;
+    const std::string_view checksum = m_data.substr(m_data.size() - m_stream.avail_in);
+    if (checksum.size() < zlibChecksum)
+        return false;
+    uLong stated = 0;
+    for (const char byte : checksum.substr(0, zlibChecksum))
+        stated = stated << 8 | static_cast<unsigned char>(byte);
+    return stated == adler32(adler32(0, nullptr, 0), reinterpret_cast<const Bytef*>(m_stored.data()),
+                             static_cast<uInt>(m_stored.size()));
+}
 
 std::optional<std::string> decodedStream(const DictionaryEntries& dictionary, std::string_view data,
                                          std::size_t most)
 {
-    const auto filter = dictionary.find("Filter");
-    const auto parameters = dictionary.find("DecodeParms");
-    if (filter == dictionary.end())
-        return parameters == dictionary.end() ? std::optional(std::string(data.substr(0, most)))
-                                              : std::nullopt;
-    if (filter->second != "/FlateDecode")
+    const auto decoder = StreamDecoder::create(dictionary, data);
+    if (!decoder || !decoder->reach(most) || (decoder->atEnd() && !decoder->hasRightChecksum()))
         return std::nullopt;
-    if (parameters == dictionary.end())
-        return inflated(data, most);
-    auto plain = inflated(data, largestDecoded);
-    return plain ? unpredicted(std::move(*plain), parameters->second) : plain;
+    return decoder->takeText();
 }
 
 } // namespace engine

@@ -8,9 +8,9 @@
 namespace engine {
 
 Document::Document(std::shared_ptr<ByteSource> source, std::string fileName, std::string_view password)
-    : m_source(std::move(source)), m_fileName(std::move(fileName)), m_password(password),
+    : m_source(std::move(source)), m_fileName(std::move(fileName)), m_password(std::string(password)),
       m_fetcher(ObjectFetcher::open(m_source, m_fileName)),
-      m_pdf(m_fetcher ? m_fetcher->pdf() : openWhole(m_source, m_fileName, m_password)),
+      m_pdf(m_fetcher ? m_fetcher->pdf() : openWhole(m_source, m_fileName, m_password.text)),
       m_catalog(m_pdf->getRoot())
 {}
 
@@ -20,7 +20,7 @@ void Document::readWhole()
 {
     if (m_fetcher == nullptr)
         return;
-    const std::shared_ptr<QPDF> whole = openWhole(m_source, m_fileName, m_password);
+    const std::shared_ptr<QPDF> whole = openWhole(m_source, m_fileName, m_password.text);
     // An object that is not where it should be makes libqpdf search the file for all objects. It keeps those
     // that it has read before, so they must be the same ones as if it had read the document from the start.
     for (const QPDFObjGen& id : m_fetcher->lookedAt())
@@ -73,6 +73,15 @@ QPDFObjectHandle Document::kid(const Kids& kids, int index)
 std::optional<std::string_view> Document::unreadKid(const Kids& kids, int index)
 {
     return m_fetcher ? m_fetcher->unread(kids.id(index)) : std::nullopt;
+}
+
+int Document::objectCount()
+{
+    if (m_fetcher)
+        return m_fetcher->reader().size() - 1;
+    if (!m_objectCount)
+        m_objectCount = static_cast<int>(m_pdf->getXRefTable().size());
+    return *m_objectCount;
 }
 
 QPDFObjectHandle Document::makeIndirect(const QPDFObjectHandle& object)

@@ -5,6 +5,7 @@
 #include "engine/reading/ObjectFetcher.h"
 #include "engine/reading/ReadingTrouble.h"
 #include "engine/update/CrossReference.h"
+#include "pdflibrary/Wipe.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjGen.hh>
@@ -68,6 +69,9 @@ public:
     /// call of any function.
     std::optional<std::string_view> unreadKid(const Kids& kids, int index);
 
+    /// How many objects the cross-reference can list, the head of the free ones left out.
+    int objectCount();
+
     /// Makes a direct object an indirect one with a new number.
     QPDFObjectHandle makeIndirect(const QPDFObjectHandle& object);
 
@@ -112,19 +116,20 @@ public:
     /// What the next revision builds upon. \throws EngineError with CannotAppend.
     CrossReference crossReference();
 
-    const std::string& password() const { return m_password; }
+    const std::string& password() const { return m_password.text; }
 
 private:
     const ReadingTrouble& trouble();
 
     std::shared_ptr<ByteSource> m_source;
     std::string m_fileName;
-    std::string m_password;
+    Wiped<char> m_password;
     std::unique_ptr<ObjectFetcher> m_fetcher; // null when m_pdf has the whole document
     std::shared_ptr<QPDF> m_pdf;
     QPDFObjectHandle m_catalog; // looking it up anew each time is not cheap
     DocumentChanges m_changes;
     ReadingTrouble m_trouble;
+    std::optional<int> m_objectCount; // of the whole document: counting is not cheap
 };
 
 } // namespace engine

@@ -90,7 +90,7 @@ QPDFObjectHandle operandsOf(const DestinationForm& form, const Destination& valu
 {
     QPDFObjectHandle operands = QPDFObjectHandle::newArray();
     operands.appendItem(QPDFObjectHandle::newName(form.name));
-    for (double Destination::*operand : form.operands)
+    for (const Operand operand : form.operands)
         if (operand != nullptr)
             operands.appendItem(
                 numberOrNull(values.*operand, operand == &Destination::zoom && values.zoom == 0));
@@ -171,7 +171,7 @@ QPDFObjectHandle rectangleOperands(const QPDFObjectHandle::Rectangle& rectangle)
     values.bottom = rectangle.lly;
     values.right = rectangle.urx;
     values.top = rectangle.ury;
-    return operandsOf(rowOfForm(pdflibrary::FitRectangle), values);
+    return operandsOf(rowOfForm(FitRectangle), values);
 }
 
 QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent)

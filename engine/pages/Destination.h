@@ -16,8 +16,8 @@ class PageTree;
 struct Destination
 {
     int page = 0; ///< From 1.
-    int type = 0; ///< A pdflibrary::DestinationType, up to FitVisible: the nearest of these.
-    int form = 0; ///< The DestinationType that is written; 0 for none that is known.
+    int type = 0; ///< A pdflibrary::DestinationType of the first five.
+    int form = 0; ///< The pdflibrary::DestinationType that is written; 0 for none that is known.
     double left = 0;
     double top = 0;
     double right = 0;
@@ -45,7 +45,7 @@ std::optional<ActionTarget> openActionTarget(Document& document);
 std::optional<Destination> readDestination(Document& document, ActionTarget target, PageTree& pages);
 
 /// What follows the page in an explicit destination: its type and all operands.
-/// \param form a pdflibrary::DestinationType.
+/// \param form a pdflibrary::DestinationType but FitRectangle.
 /// \param zoom in percent, 0 for none.
 /// \param corner the upper left one of what is to be seen, as the page is shown.
 /// \param onItsSide the page is shown rotated by 90 or 270 degrees: what is at the top is one of its sides.

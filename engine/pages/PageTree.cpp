@@ -1,9 +1,9 @@
 #include "PageTree.h"
 
+#include "KidCounts.h"
 #include "engine/document/Document.h"
-#include "engine/files/ByteSource.h"
+#include "engine/document/PageNodes.h"
 #include "engine/files/EngineError.h"
-#include "engine/reading/KidGlimpse.h"
 
 #include <algorithm>
 #include <climits>
@@ -17,114 +17,8 @@ namespace {
 // Trees of up to this many pages are walked whole, so that counts that lie do no harm.
 const int smallTree = 256;
 
-// Nodes can share one array of kids, and so list more pages than the document has bytes.
-const std::size_t mostListed = 250'000;
-
-using Kind = KidKind;
-
-Kind kindOf(Document& document, QPDFObjectHandle object)
-{
-    if (!object.isDictionary())
-        return Kind::Neither;
-    if (document.kids(object))
-        return Kind::Node;
-    return document.key(object, "/Type").isNameAndEquals("/Pages") ? Kind::Neither : Kind::Page;
-}
-
-/// /Count where it can be right.
-std::optional<int> statedCount(Document& document, const QPDFObjectHandle& node)
-{
-    QPDFObjectHandle count = document.key(node, "/Count");
-    if (!count.isInteger() || count.getIntValue() < 0 || count.getIntValue() > INT_MAX)
-        return std::nullopt;
-    return static_cast<int>(count.getIntValue());
-}
-
-std::optional<KidGlimpse> glimpse(Document& document, const Kids& kids, int kid)
-{
-    const std::optional<std::string_view> text = document.unreadKid(kids, kid);
-    return text ? glimpseOf(*text) : std::nullopt;
-}
-
-std::optional<int> pagesUnder(Document& document, const QPDFObjectHandle& kid)
-{
-    switch (kindOf(document, kid)) {
-    case Kind::Page:
-        return 1;
-    case Kind::Node:
-        return statedCount(document, kid);
-    case Kind::Neither:
-        break;
-    }
-    return std::nullopt;
-}
-
-} // namespace
-
-/// How many pages come before each kid of a node, and in all of it. A node with as many kids as pages has
-/// only pages: these are not looked at.
-class KidCounts
-{
-public:
-    /// \returns nothing when the node's count is not the sum of its kids'.
-    static std::optional<KidCounts> of(Document& document, QPDFObjectHandle node)
-    {
-        KidCounts counts;
-        const Kids kids = document.kids(node);
-        const std::optional<int> total = statedCount(document, node);
-        counts.m_kids = kids.size();
-        if (total == counts.m_kids)
-            return counts;
-        if (!total || !counts.addUp(document, kids, *total))
-            return std::nullopt;
-        return counts;
-    }
-
-    int pagesBefore(int kid) const
-    {
-        return m_before.empty() ? kid : m_before[static_cast<std::size_t>(kid)];
-    }
-
-    /// The last kid with fewer than `page` pages before it.
-    int kidWith(int page) const
-    {
-        if (m_before.empty())
-            return page - 1;
-        return static_cast<int>(std::lower_bound(m_before.begin(), m_before.end(), page) - m_before.begin()) -
-               1;
-    }
-
-private:
-    bool addUp(Document& document, const Kids& kids, int total)
-    {
-        int sum = 0;
-        for (int kid = 0; kid < m_kids; ++kid) {
-            const std::optional<KidGlimpse> seen = glimpse(document, kids, kid);
-            const bool isNode = seen && seen->kind == Kind::Node && seen->count;
-            const std::optional<int> pages =
-                isNode ? seen->count : pagesUnder(document, document.kid(kids, kid));
-            if (!pages || *pages > total - sum)
-                return false;
-            m_before.push_back(sum);
-            sum += *pages;
-        }
-        m_before.push_back(sum);
-        return sum == total;
-    }
-
-    int m_kids = 0;
-    std::vector<int> m_before;
-};
-
-namespace {
-
-int placeIn(const Kids& kids, QPDFObjGen object)
-{
-    for (int kid = 0; kid < kids.size(); ++kid)
-        if (kids.id(kid) == object)
-            return kid;
-    return -1;
-}
+// Above this many pages what a kid more costs is to be felt where object streams are used.
+const int largeTree = 10'000;
 
 } // namespace
 
@@ -150,10 +44,8 @@ QPDFObjectHandle PageTree::root()
 void PageTree::forget()
 {
     // Counts that were found to lie are not trusted again: the number of pages would change.
-    m_mustWalk = m_mustWalk || m_walked;
-    m_walked = false;
-    m_nodes.clear();
-    m_leaves.clear();
+    m_mustWalk = m_mustWalk || m_walk;
+    m_walk.reset();
     m_counts.reset();
     m_lastNumber = 0;
 }
@@ -168,41 +60,39 @@ bool PageTree::hasPages()
 
 int PageTree::pageCount()
 {
-    if (const std::optional<int> count = trustedCount())
+    if (const std::optional<int> count = believedCount())
         return *count;
-    walk();
-    return static_cast<int>(m_leaves.size());
+    return countAll();
 }
 
-std::shared_ptr<const KidCounts> PageTree::countsOf(const QPDFObjectHandle& node)
+/// The counts of a node, null when they are not to be believed.
+std::shared_ptr<KidCounts> PageTree::countsOf(const QPDFObjectHandle& node)
 {
     // The root's are asked for again and again.
-    if (node.getObjGen() != m_countedNode || m_counts == nullptr) {
-        const std::optional<KidCounts> counts = KidCounts::of(m_document, node);
-        if (!counts)
-            return nullptr;
-        if (node.getObjGen() != root().getObjGen())
-            return std::make_shared<KidCounts>(*counts);
-        m_countedNode = node.getObjGen();
-        m_counts = std::make_shared<KidCounts>(*counts);
-    }
-    return m_counts;
+    const bool isRoot = node.getObjGen() == root().getObjGen();
+    auto counts = isRoot && m_counts ? m_counts : std::make_shared<KidCounts>(m_document, node);
+    if (isRoot)
+        m_counts = counts;
+    const bool isLarge = statedCount(m_document, root()) > largeTree;
+    return (isLarge ? counts->isLikely() : counts->isBorneOut()) ? counts : nullptr;
 }
 
-std::optional<int> PageTree::trustedCount()
+/// The root's count where it is believed. A document cannot have more pages than objects, but for pages that
+/// stand directly in their /Kids, which hardly anybody writes.
+std::optional<int> PageTree::believedCount()
 {
-    if (m_walked || m_mustWalk || kindOf(m_document, root()) != Kind::Node)
+    if (m_walk || m_mustWalk || kindOf(m_document, root()) != KidKind::Node)
         return std::nullopt;
     const std::optional<int> count = statedCount(m_document, root());
-    const bool fits = count && *count > smallTree && countsOf(root());
-    return fits ? count : std::nullopt;
+    const bool isPossible = count && *count > smallTree && *count < m_document.objectCount();
+    return isPossible && countsOf(root()) ? count : std::nullopt;
 }
 
 void PageTree::requirePage(int number)
 {
     if (number < 1 || number > pageCount())
         throw EngineError(ErrorCode::UnknownPage);
-    if (!m_walked)
+    if (!m_walk)
         page(number); // counts can promise pages that are not there
 }
 
@@ -212,12 +102,12 @@ const PagePath& PageTree::page(int number)
         return m_lastPath;
     if (number < 1 || number > pageCount())
         throw EngineError(ErrorCode::UnknownPage);
-    std::optional<PagePath> path = m_walked || m_mustWalk ? std::nullopt : descend(number);
+    std::optional<PagePath> path = believedCount() ? descend(number) : std::nullopt;
     if (!path) {
-        walk();
-        if (static_cast<std::size_t>(number) > m_leaves.size())
+        const std::vector<TreeWalk::Leaf>& pages = walk().leaves;
+        if (static_cast<std::size_t>(number) > pages.size())
             throw EngineError(ErrorCode::UnknownPage);
-        path = walkedPath(m_leaves[static_cast<std::size_t>(number) - 1]);
+        path = walkedPath(pages[static_cast<std::size_t>(number) - 1]);
     }
     m_lastPath = std::move(*path);
     m_lastNumber = number;
@@ -230,120 +120,52 @@ std::optional<PagePath> PageTree::descend(int number)
     std::set<QPDFObjGen> seen;
     QPDFObjectHandle node = root();
     while (true) {
-        const std::shared_ptr<const KidCounts> counts = countsOf(node);
-        if (!counts || !seen.insert(node.getObjGen()).second)
+        const std::shared_ptr<KidCounts> counts = countsOf(node);
+        const auto place = counts ? counts->placeOf(number) : std::nullopt;
+        if (!place || !seen.insert(node.getObjGen()).second)
             return std::nullopt;
         path.nodes.push_back(node);
-        path.kid = counts->kidWith(number);
-        number -= counts->pagesBefore(path.kid);
+        path.kid = place->kid;
+        number -= place->pagesBefore;
         node = m_document.kid(m_document.kids(node), path.kid);
-        const Kind kind = kindOf(m_document, node);
-        if (kind == Kind::Page && number == 1) {
+        const KidKind kind = kindOf(m_document, node);
+        if (kind == KidKind::Page && number == 1) {
             path.page = node;
             return path;
         }
-        if (kind != Kind::Node || number > statedCount(m_document, node))
+        if (kind != KidKind::Node || number > statedCount(m_document, node))
             return std::nullopt;
     }
 }
 
-/// Goes through a whole tree, node by node, without recursion.
-class PageTree::Walker
+const TreeWalk& PageTree::walk()
 {
-public:
-    explicit Walker(Document& document)
-        : m_document(document), m_mostKids(mostListed + document.source()->size())
-    {}
-
-    void walk(const QPDFObjectHandle& root)
-    {
-        const Kind kind = kindOf(m_document, root);
-        if (kind == Kind::Page && m_document.key(root, "/Type").isNameAndEquals("/Page"))
-            leaves.push_back({-1, 0});
-        else if (kind == Kind::Node)
-            enter(root, -1);
-        while (!m_steps.empty()) {
-            if (m_steps.back().next == m_steps.back().kids.size())
-                m_steps.pop_back();
-            else
-                meetNextKid();
-        }
+    if (!m_walk) {
+        m_walk.emplace(m_document, root());
+        m_lastNumber = 0;
     }
-
-    std::vector<Node> nodes;
-    std::vector<Leaf> leaves;
-
-private:
-    struct Step
-    {
-        int node;
-        Kids kids;
-        int next = 0;
-    };
-
-    void enter(const QPDFObjectHandle& node, int parent)
-    {
-        if (node.isIndirect() && !m_seen.insert(node.getObjGen()).second)
-            return;
-        nodes.push_back({node, parent});
-        m_steps.push_back({static_cast<int>(nodes.size()) - 1, m_document.kids(node)});
-    }
-
-    void meetNextKid()
-    {
-        if (++m_kids > m_mostKids)
-            throw EngineError(ErrorCode::TooMuchWork);
-        Step& step = m_steps.back();
-        const int kid = step.next++;
-        const int node = step.node;
-        const std::optional<KidGlimpse> seen = glimpse(m_document, step.kids, kid);
-        if (seen && seen->kind == Kind::Neither)
-            return;
-        if (seen && seen->kind == Kind::Page) {
-            leaves.push_back({node, kid});
-            return;
-        }
-        const QPDFObjectHandle object = m_document.kid(step.kids, kid);
-        const Kind kind = kindOf(m_document, object);
-        if (kind == Kind::Page)
-            leaves.push_back({node, kid});
-        else if (kind == Kind::Node)
-            enter(object, node);
-    }
-
-    Document& m_document;
-    std::size_t m_mostKids;
-    std::size_t m_kids = 0;
-    std::vector<Step> m_steps;
-    std::set<QPDFObjGen> m_seen;
-};
-
-void PageTree::walk()
-{
-    if (m_walked)
-        return;
-    Walker walker(m_document);
-    walker.walk(root());
-    m_nodes = std::move(walker.nodes);
-    m_leaves = std::move(walker.leaves);
-    m_walked = true;
-    m_lastNumber = 0;
+    return *m_walk;
 }
 
-QPDFObjectHandle PageTree::walkedPage(const Leaf& leaf) const
+PagePath PageTree::walkedPath(const TreeWalk::Leaf& leaf)
 {
+    const std::vector<TreeWalk::Node>& nodes = walk().nodes;
+    const auto at = [&](int node) { return nodes[static_cast<std::size_t>(node)]; };
     if (leaf.node < 0)
-        return m_document.node(m_document.catalog().getKey("/Pages"));
-    return m_document.kid(m_document.kids(nodeAt(leaf.node).dictionary), leaf.kid);
-}
-
-PagePath PageTree::walkedPath(const Leaf& leaf) const
-{
-    PagePath path{walkedPage(leaf), {}, leaf.kid};
-    for (int node = leaf.node; node >= 0; node = nodeAt(node).parent)
-        path.nodes.push_back(nodeAt(node).dictionary);
+        return {root(), {}, 0};
+    PagePath path{m_document.kid(m_document.kids(at(leaf.node).dictionary), leaf.kid), {}, leaf.kid};
+    for (int node = leaf.node; node >= 0; node = at(node).parent)
+        path.nodes.push_back(at(node).dictionary);
     std::reverse(path.nodes.begin(), path.nodes.end());
     return path;
+}
+
+/// The object that a leaf is; the null object's number for a page that stands directly in its /Kids.
+QPDFObjGen PageTree::idOf(const TreeWalk::Leaf& leaf)
+{
+    if (leaf.node < 0)
+        return root().getObjGen();
+    return m_document.kids(walk().nodes[static_cast<std::size_t>(leaf.node)].dictionary).id(leaf.kid);
 }
 
 int PageTree::numberOf(const QPDFObjectHandle& page)
@@ -351,15 +173,15 @@ int PageTree::numberOf(const QPDFObjectHandle& page)
     if (!page.isIndirect())
         return 0;
     const QPDFObjGen wanted = page.getObjGen();
-    if (trustedCount()) {
+    if (believedCount()) {
         const std::optional<int> number = climb(page);
         if (number && this->page(*number).page.getObjGen() == wanted)
             return *number;
     }
-    walk();
-    const auto found = std::find_if(m_leaves.begin(), m_leaves.end(),
-                                    [&](const Leaf& leaf) { return walkedPage(leaf).getObjGen() == wanted; });
-    return found == m_leaves.end() ? 0 : static_cast<int>(found - m_leaves.begin()) + 1;
+    const std::vector<TreeWalk::Leaf>& pages = walk().leaves;
+    const auto found = std::find_if(pages.begin(), pages.end(),
+                                    [&](const TreeWalk::Leaf& leaf) { return idOf(leaf) == wanted; });
+    return found == pages.end() ? 0 : static_cast<int>(found - pages.begin()) + 1;
 }
 
 std::optional<int> PageTree::climb(QPDFObjectHandle page)
@@ -371,13 +193,14 @@ std::optional<int> PageTree::climb(QPDFObjectHandle page)
         if (!node.isDictionary() || !seen.insert(node.getObjGen()).second)
             return std::nullopt;
         QPDFObjectHandle parent = m_document.node(node.getKey("/Parent"));
-        if (kindOf(m_document, parent) != Kind::Node)
+        if (kindOf(m_document, parent) != KidKind::Node)
             return std::nullopt;
-        const int kid = placeIn(m_document.kids(parent), node.getObjGen());
-        const std::shared_ptr<const KidCounts> counts = countsOf(parent);
-        if (kid < 0 || !counts || counts->pagesBefore(kid) > INT_MAX - number)
+        const int kid = m_document.kids(parent).placeOf(node.getObjGen());
+        const std::shared_ptr<KidCounts> counts = countsOf(parent);
+        const auto before = kid >= 0 && counts ? counts->pagesBefore(kid) : std::nullopt;
+        if (!before || *before > INT_MAX - number)
             return std::nullopt;
-        number += counts->pagesBefore(kid);
+        number += *before;
         node = parent;
     }
     return number;

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "TreeWalk.h"
+
 #include <qpdf/QPDFObjGen.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
-#include <cstddef>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -28,10 +29,9 @@ struct PagePath
 
 /// The pages of a document, numbered from 1, without reading those that nobody asks for.
 ///
-/// A large tree whose counts fit together is descended by them. A small one, or one in which something does
-/// not fit, is walked whole, once: every dictionary without /Kids is a page (unless it says that it is a
-/// node), a node counts where it is met first, and what is no dictionary does not count. Neither way uses
-/// recursion.
+/// The counts of a large tree are believed as long as nothing that is read contradicts them, and a page is
+/// found by them. A small tree, or one in which something does not fit, is walked whole, once. Neither way
+/// uses recursion.
 class PageTree
 {
 public:
@@ -44,6 +44,9 @@ public:
     bool hasPages();
 
     int pageCount();
+
+    /// The pages that there are, whatever counts say.
+    int countAll() { return static_cast<int>(walk().leaves.size()); }
 
     /// Throws UnknownPage.
     const PagePath& page(int number);
@@ -60,38 +63,21 @@ public:
     QPDFObjectHandle reference(int number);
 
 private:
-    struct Node
-    {
-        QPDFObjectHandle dictionary;
-        int parent; ///< Index of the node above, -1 for the root.
-    };
-    struct Leaf
-    {
-        int node; ///< Index of the node above, -1 for a root that is a page itself.
-        int kid;
-    };
-
-    class Walker;
-
     QPDFObjectHandle root();
-    const Node& nodeAt(int index) const { return m_nodes[static_cast<std::size_t>(index)]; }
-    void walk();
-    PagePath walkedPath(const Leaf& leaf) const;
-    QPDFObjectHandle walkedPage(const Leaf& leaf) const;
-    std::shared_ptr<const KidCounts> countsOf(const QPDFObjectHandle& node);
-    std::optional<int> trustedCount();
+    const TreeWalk& walk();
+    PagePath walkedPath(const TreeWalk::Leaf& leaf);
+    QPDFObjGen idOf(const TreeWalk::Leaf& leaf);
+    std::shared_ptr<KidCounts> countsOf(const QPDFObjectHandle& node);
+    std::optional<int> believedCount();
     std::optional<PagePath> descend(int number);
     QPDFObjectHandle holderOfKids(const PagePath& path);
     std::optional<int> climb(QPDFObjectHandle page);
 
     Document& m_document;
-    bool m_walked = false;
+    std::optional<TreeWalk> m_walk; ///< Once the tree was walked.
     bool m_mustWalk = false;
-    std::vector<Node> m_nodes;
-    std::vector<Leaf> m_leaves;
-    std::shared_ptr<const KidCounts> m_counts; ///< Of the root.
-    QPDFObjGen m_countedNode;
-    int m_lastNumber = 0; ///< Number of the page in m_lastPath, 0 for none.
+    std::shared_ptr<KidCounts> m_counts; ///< Of the root.
+    int m_lastNumber = 0;                ///< Number of the page in m_lastPath, 0 for none.
     PagePath m_lastPath;
 };
 

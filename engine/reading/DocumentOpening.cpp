@@ -4,10 +4,13 @@
 #include "engine/files/EngineError.h"
 #include "engine/update/SourceInput.h"
 
+#include "pdflibrary/Wipe.h"
+
 #include <qpdf/QUtil.hh>
 
+#include <cstring>
+#include <list>
 #include <new>
-#include <vector>
 
 namespace engine {
 
@@ -15,12 +18,15 @@ namespace {
 
 const std::size_t headerSearchSize = 1024; // readers look for the header this far
 
-std::vector<std::string> passwordsToTry(std::string_view password)
+std::list<Wiped<char>> passwordsToTry(std::string_view password)
 {
-    std::vector<std::string> passwords;
+    std::list<Wiped<char>> passwords;
     const bool passable = password.find('\0') == std::string_view::npos; // libqpdf takes C strings
     if (!password.empty() && passable)
-        passwords = QUtil::possible_repaired_encodings(std::string(password));
+        for (std::string& each : QUtil::possible_repaired_encodings(std::string(password))) {
+            passwords.emplace_back(each);
+            explicit_bzero(each.data(), each.size());
+        }
     passwords.emplace_back();
     return passwords;
 }
@@ -89,8 +95,8 @@ bool tellsOfShortMemory(const QPDFExc& warning)
 std::shared_ptr<QPDF> openWhole(const std::shared_ptr<ByteSource>& source, const std::string& fileName,
                                 std::string_view password)
 {
-    for (const std::string& attempt : passwordsToTry(password))
-        if (auto pdf = tryToOpen(source, fileName, attempt))
+    for (const Wiped<char>& attempt : passwordsToTry(password))
+        if (auto pdf = tryToOpen(source, fileName, attempt.text))
             return pdf;
     throw EngineError(ErrorCode::WrongPassword);
 }

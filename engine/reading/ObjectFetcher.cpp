@@ -13,45 +13,39 @@ namespace engine {
 
 namespace {
 
-/// The references that an array consists of. \returns nothing when it holds anything else.
-std::shared_ptr<KidReferences> referencesIn(std::string_view array)
-{
-    if (!array.starts_with('[') || !array.ends_with(']'))
-        return nullptr;
-    auto references = std::make_shared<KidReferences>();
-    references->reserve(array.size() / 8);
-    SyntaxScanner scanner(array, 1);
-    for (scanner.skipSpace(); scanner.position() + 1 < array.size(); scanner.skipSpace()) {
-        const auto id = scanner.reference();
-        if (!id)
-            return nullptr;
-        references->emplace_back(id->number, id->generation);
-    }
-    return references;
-}
+const std::string_view kidsKey = "/Kids";
 
 struct NodeText
 {
     std::string withoutKids;
-    std::shared_ptr<KidReferences> kids;
+    std::shared_ptr<const KidList> kids;
 };
 
-/// Splits a node's text. \returns nothing for what is no node, or has kids that are no references.
+/// Splits a node's text. \returns nothing for what is no node, or has kids that are no references, and for
+/// some that are unusual.
 std::optional<NodeText> splitNode(std::string_view text)
 {
-    DictionaryScanner scanner(text);
-    std::optional<NodeText> split;
+    const std::size_t key = text.find(kidsKey);
+    const std::size_t array = key == text.npos ? key : text.find('[', key);
+    auto kids = array == text.npos ? nullptr : KidList::read(text.substr(array));
+    if (!kids)
+        return std::nullopt;
+    // What is left shows whether that was an entry of the dictionary, and the only one of its key.
+    const std::string_view placeholder = " 0 ";
+    std::string rest = std::string(text.substr(0, array)).append(placeholder);
+    rest += text.substr(array + kids->length());
+    DictionaryScanner scanner(rest);
+    const char* value = nullptr;
     while (const auto entry = scanner.next()) {
-        if (entry->key != "Kids")
+        if (entry->key != kidsKey.substr(1))
             continue;
-        auto kids = split ? nullptr : referencesIn(entry->value);
-        if (!kids)
+        if (value != nullptr || entry->value.size() != 1)
             return std::nullopt;
-        const auto start = static_cast<std::size_t>(entry->key.data() - 1 - text.data());
-        const auto end = static_cast<std::size_t>(entry->value.data() - text.data()) + entry->value.size();
-        split = NodeText{std::string(text.substr(0, start)).append(text.substr(end)), std::move(kids)};
+        value = entry->value.data();
     }
-    return scanner.odd() ? std::nullopt : split;
+    if (scanner.odd() || value != rest.data() + array + 1)
+        return std::nullopt;
+    return NodeText{rest.erase(key, array + placeholder.size() - key), std::move(kids)};
 }
 
 } // namespace
@@ -124,7 +118,7 @@ void ObjectFetcher::fetchNode(QPDFObjectHandle object)
         m_fetched.insert(id);
 }
 
-std::shared_ptr<const KidReferences> ObjectFetcher::kidsOf(QPDFObjGen id) const
+std::shared_ptr<const KidList> ObjectFetcher::kidsOf(QPDFObjGen id) const
 {
     const auto known = m_kids.find(id);
     return known == m_kids.end() ? nullptr : known->second;

@@ -43,7 +43,7 @@ public:
     /// The same for what may be a node of the page tree: its /Kids stay out of libqpdf and are what kidsOf()
     /// returns, null for other objects.
     void fetchNode(QPDFObjectHandle object);
-    std::shared_ptr<const KidReferences> kidsOf(QPDFObjGen id) const;
+    std::shared_ptr<const KidList> kidsOf(QPDFObjGen id) const;
 
     /// The text of an object that nobody has read yet, good until the next call of any function.
     std::optional<std::string_view> unread(QPDFObjGen id);
@@ -66,7 +66,7 @@ private:
     std::shared_ptr<QPDF> m_pdf;
     std::set<QPDFObjGen> m_fetched;
     std::vector<QPDFObjGen> m_lookedAt;
-    std::map<QPDFObjGen, std::shared_ptr<const KidReferences>> m_kids; // of nodes fetched without
+    std::map<QPDFObjGen, std::shared_ptr<const KidList>> m_kids; // of nodes fetched without
 };
 
 } // namespace engine

@@ -5,7 +5,7 @@ namespace engine {
 namespace {
 
 const std::size_t firstWindow = 4096;
-const std::size_t largestWindow = 4 << 20;
+const std::size_t largestWindow = 16 << 20;
 const std::size_t behindValue = 40;          // the longest that is looked at behind a value
 const std::int64_t largestStream = 64 << 20; // as it is stored
 

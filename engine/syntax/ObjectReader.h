@@ -27,7 +27,7 @@ public:
         bool isFollowedBy(std::string_view keyword) const { return SyntaxScanner(behind).keyword(keyword); }
     };
 
-    /// The value at an offset, however long; nothing from 4 MB on.
+    /// The value at an offset, however long; nothing from 16 MB on.
     /// \param skipped how many bytes stand before the value at that offset.
     std::optional<Value> boundedValue(std::int64_t offset, std::size_t skipped = 0);
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <string>
 
 namespace engine {
@@ -56,25 +55,24 @@ bool SyntaxScanner::skipReferences()
     for (;;) {
         while (next < end && isSpace(*next))
             ++next;
-        m_at = static_cast<std::size_t>(next - begin);
         const char* const start = next;
-        while (next < end && isDigit(*next))
-            ++next;
-        if (next - start > static_cast<std::ptrdiff_t>(mostDigits))
-            return m_at > before;
-        // Nearly every reference is written so.
-        if (next > start && end - next > 4 && std::memcmp(next, " 0 R", 4) == 0 && !isRegular(next[4])) {
-            next += 4;
+        if (const char* const behind = behindUsualReference(next, end)) {
+            next = behind;
             numbers = 0;
             continue;
         }
+        while (next < end && isDigit(*next))
+            ++next;
         ++numbers;
+        const bool isTooLong = next - start > static_cast<std::ptrdiff_t>(mostDigits);
         if (next == start && next < end && *next == 'R' && numbers > 2) {
             ++next;
             numbers = 0;
         }
-        if (next == start || next == end || isRegular(*next))
+        if (isTooLong || next == start || next == end || isRegular(*next)) {
+            m_at = static_cast<std::size_t>(start - begin);
             return m_at > before;
+        }
     }
 }
 

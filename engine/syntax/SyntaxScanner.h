@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -45,6 +46,10 @@ public:
         int number;
         int generation;
     };
+
+    /// Where a reference ends that is written as nearly all are: a number from 1 of up to nine digits, " 0 R".
+    /// \returns null at anything else.
+    static const char* behindUsualReference(const char* at, const char* end);
 
     /// Reads a reference to an object. After a failure the position is anywhere inside it.
     std::optional<Reference> reference();
@@ -107,6 +112,16 @@ std::optional<DictionaryEntries> dictionaryEntries(std::string_view text);
 
 /// The number that a text consists of.
 std::optional<std::int64_t> wholeInteger(std::string_view text);
+
+inline const char* SyntaxScanner::behindUsualReference(const char* at, const char* end)
+{
+    const char* next = at;
+    while (next < end && isDigit(*next))
+        ++next;
+    const bool isNumber = next - at > 0 && next - at < 10 && *at != '0';
+    const bool isUsual = isNumber && end - next > 4 && std::memcmp(next, " 0 R", 4) == 0;
+    return isUsual && !isRegular(next[4]) ? next + 4 : nullptr;
+}
 
 inline std::optional<std::int64_t> SyntaxScanner::integer()
 {

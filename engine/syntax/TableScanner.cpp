@@ -11,6 +11,8 @@ namespace engine {
 namespace {
 
 const std::int64_t entriesAtOnce = 4096;
+const long long longSubsection = 4096; // entries
+const long long lookedAt = 512;        // at either end of a long one
 const std::size_t longestWord = 20;
 const std::size_t spaceAtOnce = 64;
 
@@ -55,7 +57,7 @@ std::optional<TableScanner::Subsection> TableScanner::nextSubsection()
         return fail();
     skipSpace();
     Subsection subsection{*first, *count, m_position, true};
-    const long long usual = skipUsualEntries(*count);
+    const long long usual = m_usualOnly ? skipLikelyEntries(*count) : skipUsualEntries(*count);
     subsection.usual = usual == *count;
     if (m_usualOnly && !subsection.usual)
         return fail();
@@ -63,6 +65,20 @@ std::optional<TableScanner::Subsection> TableScanner::nextSubsection()
         if (!skipEntry())
             return fail();
     return subsection;
+}
+
+/// Steps over the entries of the usual 20 bytes, in the middle of a long subsection without a look. \returns
+/// how many there are as far as it looked.
+long long TableScanner::skipLikelyEntries(long long count)
+{
+    if (count <= longSubsection || count > m_file.size() / tableEntrySize)
+        return skipUsualEntries(count);
+    const long long first = skipUsualEntries(lookedAt);
+    if (first < lookedAt)
+        return first;
+    const long long passedOver = count - 2 * lookedAt;
+    m_position += passedOver * tableEntrySize;
+    return first + passedOver + skipUsualEntries(lookedAt);
 }
 
 /// Steps over as many entries of the usual 20 bytes as there are.

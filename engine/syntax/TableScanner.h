@@ -25,11 +25,12 @@ public:
         long long first;      ///< Number of its first object.
         long long count;      ///< Of entries.
         std::int64_t entries; ///< Offset of the first one.
-        bool usual;           ///< Every entry has the usual 20 bytes.
+        bool usual;           ///< Every entry that was looked at has the usual 20 bytes.
     };
 
     /// \param position offset behind the word that begins the table.
-    /// \param usualOnly ends the walk at the first subsection with other entries.
+    /// \param usualOnly ends the walk at the first subsection with other entries. Of a long one only those at
+    ///     both its ends are looked at.
     TableScanner(FileWindows& file, std::int64_t position, bool usualOnly = false);
 
     /// Goes over the next subsection and all of its entries; nothing when the trailer's word was reached, or
@@ -43,6 +44,7 @@ public:
     std::int64_t behindTrailerKeyword() const { return m_position; }
 
 private:
+    long long skipLikelyEntries(long long count);
     long long skipUsualEntries(long long count);
     bool skipEntry();
     void skipSpace();

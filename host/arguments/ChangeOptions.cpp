@@ -5,7 +5,7 @@
 #include "host/change/ViewJson.h"
 #include "host/change/ViewValues.h"
 #include "host/document/PresentView.h"
-#include "host/program/LoadedDocument.h"
+#include "host/model/ModelView.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/settings/SettingsNotes.h"
@@ -20,14 +20,9 @@ namespace {
 const std::size_t longestLanguage = 3;
 
 /// The change that makes other documents open as this one does.
-ViewChange viewOf(const std::string& file, const std::string& password)
+ViewChange asChange(const PresentView& present)
 {
-    LoadedDocument document(file, password);
-    try {
-        return PresentView(document.library()).asChange();
-    } catch (const std::runtime_error& error) {
-        throw UsageError(file + ": " + error.what());
-    }
+    return present.asChange();
 }
 
 } // namespace
@@ -74,20 +69,20 @@ bool ChangeOptions::changesView() const
     return !m_named.isEmpty() || m_viewFile || m_model || m_titleFromFileName || m_titleIfMissing;
 }
 
-void ChangeOptions::read(const std::string& password)
+void ChangeOptions::read(std::string_view password, Cell& cell)
 {
     if (changesView())
-        readChange(password);
+        readChange(password, cell);
     else
         readSettings();
 }
 
-void ChangeOptions::readChange(const std::string& password)
+void ChangeOptions::readChange(std::string_view password, Cell& cell)
 {
     if (const std::string problem = m_named.contradiction(); !problem.empty())
         throw UsageError(problem);
     if (m_model)
-        m_change.add(viewOf(*m_model, password));
+        m_change.add(modelview::read(*m_model, password, cell, asChange));
     if (m_viewFile)
         m_change.add(viewjson::readFile(*m_viewFile));
     m_change.add(m_named);

@@ -5,10 +5,12 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace host {
 
+class Cell;
 class OptionParser;
 
 /// The options that say how documents are to open: view options, or settings of the action from one source.
@@ -20,8 +22,10 @@ public:
     /// Throws UsageError unless there is exactly one source, and one that suits the documents.
     /// \param haveStandardInput whether one of them has no name.
     void check(bool haveStandardInput) const;
-    /// Reads the source. \param password opens the document that others are to open like. Throws UsageError.
-    void read(const std::string& password);
+    /// Reads the source. Throws UsageError.
+    /// \param password opens the document that others are to open like.
+    /// \param cell locks in who reads that one.
+    void read(std::string_view password, Cell& cell);
 
     /// What has been read: the entries, unless there is a change.
     const std::vector<ActionEntry>& entries() const { return m_entries; }
@@ -37,7 +41,7 @@ private:
     void takeViewOptions(OptionParser& parser);
     bool changesView() const;
     /// What the view options ask for, in the order in which they count.
-    void readChange(const std::string& password);
+    void readChange(std::string_view password, Cell& cell);
     void readSettings();
     std::string noteOnLanguage() const;
 

@@ -6,16 +6,9 @@
 
 namespace host {
 
-namespace {
-
-const std::size_t largestPasswordFile = 64 << 10;
-
-} // namespace
-
 void DocumentOptions::take(OptionParser& parser)
 {
-    parser.takeValue("password", setOnce(m_givenPassword, "--password"));
-    parser.takeValue("password-file", setOnce(m_passwordFile, "--password-file"));
+    m_password.take(parser);
     m_list.take(parser);
 }
 
@@ -26,10 +19,9 @@ bool DocumentOptions::haveStandardInput(const std::vector<std::string>& words)
 
 void DocumentOptions::check(const std::vector<std::string>& words, bool isInputTaken) const
 {
-    if (m_givenPassword && m_passwordFile)
-        throw UsageError("--password and --password-file exclude each other");
+    m_password.check();
     const auto readers = std::count(words.begin(), words.end(), RunDestination::standardStream) +
-                         (m_passwordFile == "-" ? 1 : 0) + (m_list.isStandardInput() ? 1 : 0) +
+                         (m_password.file() == "-" ? 1 : 0) + (m_list.isStandardInput() ? 1 : 0) +
                          (isInputTaken ? 1 : 0);
     if (readers > 1)
         throw UsageError("standard input is named more than once, and can be read once only");
@@ -41,7 +33,9 @@ void DocumentOptions::check(const std::vector<std::string>& words, bool isInputT
 void DocumentOptions::read(const std::vector<std::string>& words)
 {
     m_inputs = words;
-    readPassword();
+    m_password.read();
+    if (m_password.file())
+        m_filesRead.push_back(*m_password.file());
     if (!m_list.isGiven())
         return;
     const std::vector<std::string> names = m_list.read();
@@ -59,16 +53,6 @@ RunPlan DocumentOptions::planForReading(RunPlan::Found found) const
     if (plan.documents().empty() && plan.emptyFolders().empty())
         note("the list of documents is empty");
     return plan;
-}
-
-void DocumentOptions::readPassword()
-{
-    m_password = m_givenPassword.value_or("");
-    if (!m_passwordFile)
-        return;
-    m_filesRead.push_back(*m_passwordFile);
-    const std::string lines = readNamedFile(*m_passwordFile, largestPasswordFile, "the password file");
-    m_password = lines.substr(0, lines.find_first_of("\r\n"));
 }
 
 } // namespace host

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "ListOptions.h"
+#include "PasswordOptions.h"
 #include "host/plan/RunPlan.h"
 
-#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace host {
@@ -30,18 +31,15 @@ public:
     /// The documents for a command that only reads them. Folders without any are noted. Throws UsageError.
     RunPlan planForReading(RunPlan::Found found) const;
     /// Whether an option names it; documents may come from it as well.
-    bool readsStandardInput() const { return m_passwordFile == "-" || m_list.isStandardInput(); }
-    const std::string& password() const { return m_password; }
+    bool readsStandardInput() const { return m_password.file() == "-" || m_list.isStandardInput(); }
+    /// The object keeps it.
+    std::string_view password() const { return m_password.password(); }
     const std::vector<std::string>& filesRead() const { return m_filesRead; }
 
 private:
-    void readPassword();
-
-    std::optional<std::string> m_givenPassword;
-    std::optional<std::string> m_passwordFile;
+    PasswordOptions m_password;
     ListOptions m_list;
     std::vector<std::string> m_inputs;
-    std::string m_password;
     std::vector<std::string> m_filesRead;
 };
 

@@ -73,6 +73,12 @@ void OptionParser::takeFlag(const std::string& name, bool& flag)
     take(name, true, [&flag](const std::string&) { flag = true; });
 }
 
+void OptionParser::takeSecret(const std::string& name, TakeSecret take)
+{
+    takeValue(name, {});
+    m_secretTakers[name] = std::move(take);
+}
+
 void OptionParser::take(const std::string& name, bool isFlag, Take take)
 {
     const bool known = std::any_of(m_options.begin(), m_options.end(), [&](const Option& each) {
@@ -101,7 +107,10 @@ std::vector<std::string> OptionParser::parse(int argc, char** argv)
             refuse(argv, argc);
         if (optarg != nullptr && optarg == argv[optind - 1])
             requireValue(*option, optarg);
-        m_takers.at(option->name)(optarg != nullptr ? optarg : "");
+        if (const auto secret = m_secretTakers.find(option->name); secret != m_secretTakers.end())
+            secret->second(optarg);
+        else
+            m_takers.at(option->name)(optarg != nullptr ? optarg : "");
     }
     std::vector<std::string> words(argv + optind, argv + argc);
     for (const std::string& word : words)

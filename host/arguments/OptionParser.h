@@ -16,6 +16,7 @@ class OptionParser
 {
 public:
     using Take = std::function<void(const std::string& value)>;
+    using TakeSecret = std::function<void(char* argument)>;
 
     explicit OptionParser(const options::Command& command);
 
@@ -23,6 +24,8 @@ public:
     /// the table does not have.
     void takeValue(const std::string& name, Take take);
     void takeFlag(const std::string& name, bool& flag);
+    /// The same for a value that is to be overwritten where it stands; nobody else copies it.
+    void takeSecret(const std::string& name, TakeSecret take);
 
     /// \returns the arguments that are no options. Throws UsageError; std::logic_error when nobody takes one
     /// of the options.
@@ -40,6 +43,7 @@ private:
     const options::Command& m_command;
     std::vector<options::Option> m_options;
     std::map<std::string, Take> m_takers;
+    std::map<std::string, TakeSecret> m_secretTakers;
     std::string m_help;
 };
 

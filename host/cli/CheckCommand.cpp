@@ -19,6 +19,7 @@ void CheckCommand::takeOptions(OptionParser& parser)
     m_asked.take(parser);
     m_documents.take(parser);
     takeLimits(parser, m_limits);
+    takeSandbox(parser, m_sandbox);
     m_live.take(parser);
     parser.takeFlag("json", m_json);
     parser.takeFlag("quiet", m_quiet);
@@ -32,7 +33,10 @@ int CheckCommand::work(const std::vector<std::string>& words)
     m_live.check(m_json ? "--json" : "",
                  hasInput || m_documents.readsStandardInput() || m_asked.readsStandardInput());
     m_documents.read(words);
-    m_asked.read(m_documents.password());
+    Cell cell(m_sandbox);
+    m_asked.read(m_documents.password(), cell);
+    if (!m_quiet)
+        noteMissing(cell, m_sandbox);
     if (!m_quiet)
         for (const std::string& text : m_asked.notes())
             note(text);
@@ -45,9 +49,10 @@ int CheckCommand::work(const std::vector<std::string>& words)
     const CheckTeller::Question question{m_asked.change(), m_asked.entries(), plugin.action(),
                                          m_json || m_live.events() != nullptr};
     // In JSON, notes stand in the lines.
-    ReadingRun run(plan, {m_documents.password(), m_limits, m_live.control(), m_live.events(),
-                          m_quiet || m_json, m_json ? CheckTeller::failureInJson : ReadingRun::FailureLine(),
-                          streams ? &*streams : nullptr});
+    ReadingRun run(plan, cell,
+                   {m_documents.password(), m_limits, m_live.control(), m_live.events(), m_quiet || m_json,
+                    m_json ? CheckTeller::failureInJson : ReadingRun::FailureLine(),
+                    streams ? &*streams : nullptr});
     const int status =
         run.run([&](auto& library) { return std::make_unique<CheckTeller>(library, question); });
     if (m_live.events() != nullptr)

@@ -1,11 +1,12 @@
 #include "ConfigureCommand.h"
 
+#include "host/arguments/LimitOptions.h"
 #include "host/arguments/OptionParser.h"
 #include "host/change/ViewValues.h"
 #include "host/document/PresentView.h"
+#include "host/model/ModelView.h"
 #include "host/program/HostApplication.h"
 #include "host/program/InstallLayout.h"
-#include "host/program/LoadedDocument.h"
 #include "host/program/PluginHost.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFolder.h"
@@ -78,7 +79,8 @@ void ConfigureCommand::takeOptions(OptionParser& parser)
         m_output.emplace(value);
     });
     parser.takeFlag("all", m_all);
-    parser.takeValue("password", [this](const std::string& value) { m_password = value; });
+    takeSandbox(parser, m_sandbox);
+    m_password.take(parser);
 }
 
 void ConfigureCommand::check() const
@@ -89,6 +91,7 @@ void ConfigureCommand::check() const
         throw UsageError("settings come from one file: --list, --favorite or --tool-settings");
     if (m_entry != 0 && m_lists.empty())
         throw UsageError("--entry goes with --list");
+    m_password.check();
 }
 
 void ConfigureCommand::readSettings()
@@ -129,14 +132,14 @@ void ConfigureCommand::readDocument()
     if (m_documents.empty())
         return;
     const std::string& file = m_documents.front();
-    LoadedDocument document(file, m_password);
+    m_password.read();
+    Cell cell(m_sandbox);
+    noteMissing(cell, m_sandbox);
+    const ViewChange present = modelview::read(file, m_password.password(), cell,
+                                               [](const PresentView& view) { return view.entries(); });
     if (!m_source.file.empty())
         return;
-    try {
-        m_document.emplace(PresentView(document.library()).entries());
-    } catch (const std::runtime_error& error) {
-        throw UsageError(file + ": " + error.what());
-    }
+    m_document.emplace(present);
     for (const std::string& each : m_document->notes())
         note(std::string(file).append(": ").append(each));
     m_settings = m_document->map();

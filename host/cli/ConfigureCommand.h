@@ -2,6 +2,8 @@
 
 #include "Command.h"
 
+#include "host/arguments/PasswordOptions.h"
+#include "host/cell/Cell.h"
 #include "host/settings/DialogSettings.h"
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsOutput.h"
@@ -41,9 +43,10 @@ private:
     std::vector<std::string> m_lists;
     std::vector<std::string> m_favorites;
     std::vector<std::string> m_toolSettings;
-    std::string m_password;
+    PasswordOptions m_password;
     int m_entry = 0; // 0 is none in particular
     bool m_all = false;
+    Sandbox m_sandbox = Sandbox::Default;
     std::optional<SettingsOutput> m_output;
     SettingsOutput::Edit m_source;
     std::optional<DialogSettings> m_document;

@@ -33,6 +33,17 @@ SignedDocuments signedDocuments(const std::string& value)
     return SignedDocuments::Refuse;
 }
 
+/// Null for workers that are not locked in.
+QJsonValue sandboxInJson(const CellState& state)
+{
+    if (!state.wanted)
+        return {};
+    const std::string missing = state.missing();
+    return QJsonObject{{"files", state.limitsFiles()},
+                       {"calls", state.limitsCalls()},
+                       {"missing", missing.empty() ? QJsonValue() : QString::fromStdString(missing)}};
+}
+
 } // namespace
 
 int RunCommand::work(const std::vector<std::string>& words)
@@ -42,7 +53,10 @@ int RunCommand::work(const std::vector<std::string>& words)
     check();
     const RunDestination destination = this->destination();
     checkStandardOutput();
-    readOptions();
+    Cell cell(m_sandbox);
+    if (!m_quiet)
+        noteMissing(cell, m_sandbox);
+    readOptions(cell);
 
     const RunPlan plan = this->plan(destination);
     std::optional<Report> report;
@@ -56,8 +70,8 @@ int RunCommand::work(const std::vector<std::string>& words)
     m_options.tellStates = m_reportFile.has_value();
     m_options.tellChanges = m_reportFile.has_value() || !m_quiet || m_live.events() != nullptr;
     if (report) // only now, for it may lie in the output folder
-        begin(*report, plan);
-    const int status = BatchRun(plan, m_options,
+        begin(*report, plan, cell);
+    const int status = BatchRun(plan, m_options, cell,
                                 {m_live.control(), m_live.events(), report ? &*report : nullptr, tells(),
                                  m_streams ? &*m_streams : nullptr, std::move(done)})
                            .run(m_limits);
@@ -66,13 +80,14 @@ int RunCommand::work(const std::vector<std::string>& words)
     return status;
 }
 
-void RunCommand::begin(Report& report, const RunPlan& plan) const
+void RunCommand::begin(Report& report, const RunPlan& plan, const Cell& cell) const
 {
     const bool changesView = !m_options.change.isEmpty();
     report.begin({{"command", name()},
                   {"documents", static_cast<qint64>(plan.documents().size())},
                   {"inPlace", m_options.inPlace},
                   {"dryRun", m_options.dryRun},
+                  {"sandbox", sandboxInJson(cell.state())},
                   {"change", changesView ? QJsonValue(viewjson::write(m_options.change)) : QJsonValue()}});
     if (!report.doubt().empty())
         note(report.doubt());
@@ -109,6 +124,7 @@ void RunCommand::takeOptions(OptionParser& parser)
     m_changeOptions.take(parser);
     m_documentOptions.take(parser);
     takeLimits(parser, m_limits);
+    takeSandbox(parser, m_sandbox);
     m_live.take(parser);
     parser.takeValue("output", setOnce(m_output, "-o"));
     parser.takeValue("base", setOnce(m_base, "--base"));
@@ -166,11 +182,11 @@ void RunCommand::checkStandardOutput() const
         StreamFiles::checkOutput();
 }
 
-void RunCommand::readOptions()
+void RunCommand::readOptions(Cell& cell)
 {
     m_documentOptions.read(m_words);
     m_options.password = m_documentOptions.password();
-    m_changeOptions.read(m_options.password);
+    m_changeOptions.read(m_options.password, cell);
     m_options.entries = m_changeOptions.entries();
     m_options.change = m_changeOptions.change();
     for (const std::string& odd : m_changeOptions.notes())

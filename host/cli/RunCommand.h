@@ -5,6 +5,7 @@
 #include "host/arguments/ChangeOptions.h"
 #include "host/arguments/DocumentOptions.h"
 #include "host/arguments/LiveOptions.h"
+#include "host/cell/Cell.h"
 #include "host/plan/StreamFiles.h"
 #include "host/run/BatchRun.h"
 #include "host/run/DocumentProcessor.h"
@@ -29,12 +30,12 @@ protected:
     int work(const std::vector<std::string>& words) override;
 
 private:
-    void readOptions();
+    void readOptions(Cell& cell);
     void check() const;
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
     RunPlan plan(const RunDestination& destination);
-    void begin(Report& report, const RunPlan& plan) const;
+    void begin(Report& report, const RunPlan& plan, const Cell& cell) const;
     /// What --resume leaves out.
     BatchRun::Done doneBefore(const RunPlan& plan) const;
     /// Whether --report and --resume name the same file.
@@ -62,6 +63,7 @@ private:
     ProcessingOptions m_options;
     std::optional<StreamFiles> m_streams;
     WorkerPool::Limits m_limits;
+    Sandbox m_sandbox = Sandbox::Default;
 };
 
 } // namespace host

@@ -27,6 +27,7 @@ void ShowCommand::takeOptions(OptionParser& parser)
     });
     m_documents.take(parser);
     takeLimits(parser, m_limits);
+    takeSandbox(parser, m_sandbox);
     m_live.take(parser);
 }
 
@@ -40,6 +41,8 @@ int ShowCommand::work(const std::vector<std::string>& words)
     m_documents.check(words);
     m_live.check(m_json ? "--json" : m_table ? "--table" : "", hasInput || m_documents.readsStandardInput());
     m_documents.read(words);
+    Cell cell(m_sandbox);
+    noteMissing(cell, m_sandbox);
     std::optional<StreamFiles> streams;
     if (hasInput)
         streams.emplace().readInput();
@@ -56,7 +59,7 @@ int ShowCommand::work(const std::vector<std::string>& words)
     }
     ReadingRun::Options options{m_documents.password(), m_limits, m_live.control(), m_live.events()};
     options.streams = streams ? &*streams : nullptr;
-    ReadingRun run(plan, options);
+    ReadingRun run(plan, cell, options);
     const int status =
         run.run([&](auto& library) { return std::make_unique<ShowTeller>(library, form, m_bookmarks); });
     if (m_live.events() != nullptr)

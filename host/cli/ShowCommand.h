@@ -4,6 +4,7 @@
 
 #include "host/arguments/DocumentOptions.h"
 #include "host/arguments/LiveOptions.h"
+#include "host/cell/Cell.h"
 #include "host/workers/WorkerPool.h"
 
 namespace host {
@@ -29,6 +30,7 @@ private:
     DocumentOptions m_documents;
     LiveOptions m_live{EventStream::Unheard::Ends};
     WorkerPool::Limits m_limits;
+    Sandbox m_sandbox = Sandbox::Default;
 };
 
 } // namespace host

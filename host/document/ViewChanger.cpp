@@ -121,18 +121,28 @@ int ViewChanger::write(ViewEntry entry, const ViewValue& wanted)
 void ViewChanger::changeOpenAction()
 {
     const std::optional<ViewValue>& page = m_change[ViewEntry::OpenPage];
-    const std::optional<ViewValue>& zoom = m_change[ViewEntry::Zoom];
-    if (!page && !zoom)
+    if (!page && !m_change[ViewEntry::Zoom])
         return;
     if (page == ViewValue(Unset()))
         return removeOpenAction();
     if (page && std::holds_alternative<OtherAction>(*page))
         return leaveOpenAction(std::get<OtherAction>(*page));
     const int wanted = wantedPage();
-    if (zoom)
-        openAt(wanted, std::get<Magnification>(*zoom));
-    else if (m_present[ViewEntry::OpenPage] != ViewValue(wanted))
-        openAt(wanted, presentZoom());
+    try {
+        openAt(wanted);
+    } catch (const DocumentError&) {
+        if (wanted <= m_library.PageCount())
+            throw;
+        openAt(wantedPage()); // looking for the page has shown how many there are
+    }
+}
+
+void ViewChanger::openAt(int page)
+{
+    if (const std::optional<ViewValue>& zoom = m_change[ViewEntry::Zoom])
+        openAt(page, std::get<Magnification>(*zoom));
+    else if (m_present[ViewEntry::OpenPage] != ViewValue(page))
+        openAt(page, presentZoom());
 }
 
 /// An action of the same type is taken for the same.

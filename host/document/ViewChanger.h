@@ -49,6 +49,7 @@ private:
     void changeOpenAction();
     void removeOpenAction();
     void leaveOpenAction(const OtherAction& wanted);
+    void openAt(int page);
     void openAt(int page, const Magnification& zoom);
     void setDestination(int page, const Magnification& zoom);
     Magnification presentZoom() const;

@@ -51,6 +51,7 @@ constexpr std::array<Name, reasonCodeCount> names{{
     {Timeout, "timeout"},
     {Memory, "memory"},
     {Crashed, "crashed"},
+    {Hostile, "hostile"},
     {NoProcess, "noProcess"},
     {ChangedSince, "changedSince"},
     {NotInPlace, "notInPlace"},

@@ -38,6 +38,7 @@ enum class ReasonCode : std::uint8_t {
     Timeout,
     Memory,
     Crashed,
+    Hostile,
     NoProcess,
     ChangedSince,
     NotInPlace,

@@ -75,12 +75,12 @@ const std::vector<Option> optionRows{
      Nothing, {}, {Configure}, Group::Target, common},
 
     {"password", 0, "P", "opens encrypted documents",
-     "other users of the machine can see it in its list of processes",
+     "other users of the machine can see it in its list of processes for a moment",
      Nothing, {}, {Run, Show, Check}, Group::Documents, rare},
     {"password", 0, "P", "opens encrypted documents", "",
      Nothing, {}, {Configure}, Group::Documents, common},
-    {"password-file", 0, "FILE", "the same, from the first line of a file", "",
-     Files, {}, {Run, Show, Check}, Group::Documents, rare},
+    {"password-file", 0, "FILE|-", "the same, from the first line of a file", "- is standard input",
+     Files, {}, {Run, Show, Check, Configure}, Group::Documents, rare},
     {"files-from", 0, "FILE|-", "takes further documents from a list, one a line",
      "- is standard input",
      Files, {}, {Run, Show, Check}, Group::Documents, rare},
@@ -108,6 +108,11 @@ const std::vector<Option> optionRows{
      Nothing, {}, {Run, Show, Check}, Group::Work, rare},
     {"memory", 0, "MIB", "gives a document up that needs more memory (default: 1024)", "",
      Nothing, {}, {Run, Show, Check}, Group::Work, rare},
+    {"sandbox", 0, "HOW", "how far the processes that read documents are locked in",
+     "even taken over by a document, they reach no files but this run's, no network and no other program; what they "
+     "write into results is not judged; try (the default) takes what the kernel offers, require begins nothing "
+     "without all of it",
+     Words, {"try", "require", "off"}, {Run, Show, Check, Configure}, Group::Work, rare},
     {"sync", 0, "", "with -o, flushes each document to the disk before the next",
      "in place that is always so",
      Nothing, {}, {Run}, Group::Work, rare},
@@ -194,6 +199,15 @@ const std::vector<Command> commandRows{
       {"quintar run --list \"Monthly reports\" -o changed/ manuals/", "use one by its name"}},
      {{0, "all well"}, {1, "some cannot be read"}, {2, "nothing was begun"}},
      false},
+    {Window, "window", "show documents and change them in a window", "[DOCUMENT|FOLDER ...]",
+     "Starts the window with these documents in its list, beside those that it had when it was closed. The list shows "
+     "how each document opens and, once a change is chosen, how it will; nothing is changed before a run is started. "
+     "Runs in place can be undone.",
+     {{"quintar window", "start with the list of the last time"},
+      {"quintar window manuals/", "with the documents of a folder"},
+      {"quintar window a.pdf b.pdf", "with two documents"}},
+     {{0, "the window was closed"}, {2, "no window was shown"}},
+     true},
 };
 // clang-format on
 

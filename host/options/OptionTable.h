@@ -8,7 +8,7 @@
 /// docs/usage.md are all made from this table.
 namespace host::options {
 
-enum class CommandId { Run, Undo, Show, Check, Configure, Lists };
+enum class CommandId { Run, Undo, Show, Check, Configure, Lists, Window };
 
 /// What a shell offers for an option's value.
 enum class Completes {

@@ -23,13 +23,6 @@ namespace {
 const std::uint64_t largestDocument = std::uint64_t(4) << 30;
 const std::size_t readAtOnce = 64 << 10;
 
-sigset_t blockedSignals()
-{
-    sigset_t now;
-    sigprocmask(SIG_SETMASK, nullptr, &now);
-    return now;
-}
-
 [[noreturn]] void refuseInput(const std::string& why)
 {
     throw UsageError("the document from standard input cannot be taken: " + why);
@@ -42,7 +35,7 @@ std::string shownName(const std::string& name)
     return name == RunDestination::standardStream ? "standard input" : name;
 }
 
-StreamFiles::StreamFiles() : m_signalsBefore(blockedSignals())
+StreamFiles::StreamFiles()
 {
     const char* chosen = std::getenv("TMPDIR");
     const std::filesystem::path place = chosen != nullptr && *chosen != 0 ? chosen : "/tmp";
@@ -62,7 +55,7 @@ void StreamFiles::remove()
 {
     std::error_code nobodyIsTold;
     std::filesystem::remove_all(m_folder, nobodyIsTold);
-    sigprocmask(SIG_SETMASK, &m_signalsBefore, nullptr); // a signal that waits ends the program here
+    m_signalsBefore.restore(); // a signal that waits ends the program here
 }
 
 void StreamFiles::readInput()

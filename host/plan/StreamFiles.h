@@ -1,8 +1,8 @@
 #pragma once
 
+#include "host/workers/SignalMask.h"
 #include "host/workers/StopSignal.h"
 
-#include <csignal>
 #include <string>
 
 namespace host {
@@ -38,7 +38,7 @@ private:
     void remove();
 
     std::string m_folder;
-    sigset_t m_signalsBefore{};
+    SignalMask m_signalsBefore;
     StopSignal m_stop;
 };
 

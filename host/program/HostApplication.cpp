@@ -1,5 +1,6 @@
 #include "HostApplication.h"
 
+#include "host/files/HomeFolder.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 
@@ -52,7 +53,8 @@ void settleIn()
     QCoreApplication::setApplicationName("quintar");
     QCoreApplication::setApplicationVersion(QUINTAR_VERSION);
     std::setlocale(LC_NUMERIC, "C");
-    CUtils::SetupFolders();
+    if (homefolder::problem().empty())
+        CUtils::SetupFolders();
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "DocumentReader.h"
 
+#include "host/cell/Reach.h"
+#include "host/document/DocumentLoading.h"
 #include "host/program/InstallLayout.h"
 #include "host/workers/Record.h"
 
@@ -38,8 +40,8 @@ std::optional<Reading> Reading::fromRecord(const std::string& record)
 }
 
 DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, std::string input,
-                               std::string password, const MakeTeller& makeTeller)
-    : m_documents(documents), m_input(std::move(input)), m_password(std::move(password)),
+                               std::string_view password, const MakeTeller& makeTeller)
+    : m_documents(documents), m_input(std::move(input)), m_password(password),
       m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
 {
     if (!m_library.LibraryLoaded())
@@ -52,15 +54,13 @@ Worker::Answer DocumentReader::answer(std::size_t piece, WorkerSlot&)
     const RunPlan::Document& document = m_documents[piece];
     if (document.problem)
         return {Reading::failed(document.problem).toRecord()};
-    const bool isInput = document.name == RunDestination::standardStream;
-    if (m_library.LoadFromFile(engine::wideFromFileName(isInput ? m_input : document.name),
-                               engine::wideFromFileName(m_password)) == 0) {
+    const std::string& file = document.name == RunDestination::standardStream ? m_input : document.name;
+    if (!loadDocument(m_library, file, m_password)) {
         const int code = m_library.LastErrorCode();
         return {Reading::failed(Failure::ofLibrary(code)).toRecord(),
-                code == static_cast<int>(engine::ErrorCode::OutOfMemory)};
+                code == static_cast<int>(engine::ErrorCode::OutOfMemory), isOutOfReach(file)};
     }
     const int id = m_library.SelectedDocument();
-    m_library.SelectDocument(id);
     Reading reading;
     try {
         reading = m_teller->tell(document.name);

@@ -47,17 +47,17 @@ using MakeTeller = std::function<std::unique_ptr<DocumentTeller>(TelvarPDFLibrar
 class DocumentReader : public Worker
 {
 public:
-    /// Documents and makeTeller must outlive the object. Throws std::runtime_error when the library cannot be
-    /// used. \param input the file that holds standard input, the document "-".
-    DocumentReader(const std::vector<RunPlan::Document>& documents, std::string input, std::string password,
-                   const MakeTeller& makeTeller);
+    /// Documents, password and makeTeller must outlive the object. Throws std::runtime_error when the library
+    /// cannot be used. \param input the file that holds standard input, the document "-".
+    DocumentReader(const std::vector<RunPlan::Document>& documents, std::string input,
+                   std::string_view password, const MakeTeller& makeTeller);
 
     Answer answer(std::size_t piece, WorkerSlot& slot) override;
 
 private:
     const std::vector<RunPlan::Document>& m_documents;
     std::string m_input;
-    std::string m_password;
+    std::string_view m_password;
     TelvarPDFLibraryCPDylibCPP1311 m_library;
     std::unique_ptr<DocumentTeller> m_teller;
 };

@@ -1,5 +1,7 @@
 #include "ReadingRun.h"
 
+#include "host/cell/Cell.h"
+#include "host/cell/Reach.h"
 #include "host/plan/StreamFiles.h"
 #include "host/program/InstallLayout.h"
 #include "host/terminal/ExitStatus.h"
@@ -38,10 +40,15 @@ int ReadingRun::run(const MakeTeller& makeTeller)
     limits.workers = static_cast<int>(
         std::clamp<std::size_t>(documents.size(), 1, static_cast<std::size_t>(limits.workers)));
     const std::string input = m_options.streams != nullptr ? m_options.streams->document() : std::string();
+    Reach reach;
+    for (const RunPlan::Document& document : documents)
+        reach.addFileToRead(document.name == RunDestination::standardStream ? input : document.name);
+    m_cell.allow(reach);
     m_options.control.takeSignals();
-    WorkerPool pool(limits, [&] {
+    const auto makeWorker = [&] {
         return std::make_unique<DocumentReader>(documents, input, m_options.password, makeTeller);
-    });
+    };
+    WorkerPool pool(limits, makeWorker, m_cell);
     pool.run(
         documents.size(), [this](std::size_t place, const WorkOutcome& outcome) { ended(place, outcome); },
         m_options.control);
@@ -83,6 +90,7 @@ void ReadingRun::print(std::size_t place, Reading reading)
     const std::string& file = m_plan.documents()[place].name;
     const std::string about = forTerminal(shownName(file)) + ": ";
     std::string errors;
+    reading.text = surelyForTerminal(std::move(reading.text));
     if (reading.kind == Reading::Failed) {
         errors = "quintar: " + about + forTerminal(reading.reason.text) + "\n";
         reading.text = m_options.failureLine ? m_options.failureLine(file, reading.reason) : std::string();

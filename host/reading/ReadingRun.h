@@ -13,6 +13,7 @@
 
 namespace host {
 
+class Cell;
 class StreamFiles;
 
 /// Has documents read by worker processes, many at a time, and prints in the documents' order what there is
@@ -26,7 +27,7 @@ public:
 
     struct Options
     {
-        std::string password;
+        std::string_view password;
         WorkerPool::Limits limits;
         RunControl& control;
         /// Is told what there would be to print; null for none. The tellers' texts are JSON lines then.
@@ -39,8 +40,10 @@ public:
         const StreamFiles* streams = nullptr;
     };
 
-    /// The plan must outlive the object.
-    ReadingRun(const RunPlan& plan, Options options) : m_plan(plan), m_options(std::move(options)) {}
+    /// Plan and cell must outlive the object.
+    ReadingRun(const RunPlan& plan, Cell& cell, Options options)
+        : m_plan(plan), m_cell(cell), m_options(std::move(options))
+    {}
 
     /// \returns the exit status. Throws std::runtime_error when the library cannot be used; OutputError.
     int run(const MakeTeller& makeTeller);
@@ -54,6 +57,7 @@ private:
     void print(std::size_t place, Reading reading);
 
     const RunPlan& m_plan;
+    Cell& m_cell;
     Options m_options;
     OrderedOutput m_output;
     std::array<std::size_t, 3> m_counts{};

@@ -55,7 +55,7 @@ std::string padded(const std::string& text, std::size_t width)
 
 } // namespace
 
-// The words that stand in the columns fit into them, except for page numbers and percentages of some length.
+// Wide enough for every word that an entry has; long page numbers and percentages may be cut.
 ViewTable::ViewTable(std::size_t width)
     : m_width(width), m_columns{{"PANEL", 11, cellOf<ViewEntry::PageMode>},
                                 {"LAYOUT", 16, cellOf<ViewEntry::PageLayout>},

@@ -185,16 +185,17 @@ void Report::end(QJsonObject counts)
 }
 
 /// A forked process shares the descriptor, and with it the lock: so it opens the file once more for itself.
-void Report::leave()
+int Report::leave()
 {
     const FileDescriptor locked = std::move(m_file);
     struct stat old;
     struct stat now;
     if (fstat(locked.get(), &old) != 0 || !S_ISREG(old.st_mode))
-        return;
+        return -1;
     FileDescriptor file(::open(m_path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC | O_NONBLOCK));
     if (file.isOpen() && fstat(file.get(), &now) == 0 && now.st_dev == old.st_dev && now.st_ino == old.st_ino)
         m_file = std::move(file);
+    return m_file.get();
 }
 
 void Report::announce(const Line& line)

@@ -45,8 +45,9 @@ public:
     /// \param about what there is to tell of the run, for the first line.
     void begin(QJsonObject about);
     /// In a process that was forked off: the file is left to others when this run ends, though this process
-    /// may live a little longer. Of what it holds, only `announce` may be used from then on.
-    void leave();
+    /// may live a little longer. Of what it holds, only `announce` may be used from then on. \returns the
+    /// file's descriptor, -1 when there is nothing to announce in.
+    int leave();
     /// Writes at once that a document is about to be replaced, with the line that will follow, and waits until
     /// that is on the disk: should both this process and the run be killed, or the power fail, the report still
     /// has what undoing takes. Only in a regular file.

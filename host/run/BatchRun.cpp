@@ -1,5 +1,7 @@
 #include "BatchRun.h"
 
+#include "host/cell/Cell.h"
+#include "host/cell/Reach.h"
 #include "host/files/FileDescriptor.h"
 #include "host/plan/Placement.h"
 #include "host/plan/StreamFiles.h"
@@ -33,8 +35,10 @@ public:
     using Announce = std::function<void(std::size_t job, const DocumentResult& expected)>;
 
     DocumentWorker(const std::vector<DocumentJob>& jobs, CActionInterface& action,
-                   const std::string& libraryFile, const ProcessingOptions& options, Announce announce)
-        : m_jobs(jobs), m_processor(action, libraryFile, options), m_announce(std::move(announce))
+                   const std::string& libraryFile, const ProcessingOptions& options, Announce announce,
+                   int report)
+        : m_jobs(jobs), m_processor(action, libraryFile, options), m_announce(std::move(announce)),
+          m_report(report)
     {}
 
     Answer answer(std::size_t job, WorkerSlot& slot) override
@@ -44,13 +48,16 @@ public:
             m_announce(job, placement.result());
         };
         const DocumentResult result = m_processor.process(m_jobs[job], note);
-        return {result.toRecord(), m_processor.isWornOut()};
+        return {result.toRecord(), m_processor.isWornOut(), m_processor.isKeptOut()};
     }
+
+    std::vector<int> descriptors() const override { return {m_report}; }
 
 private:
     const std::vector<DocumentJob>& m_jobs;
     DocumentProcessor m_processor;
     Announce m_announce;
+    int m_report; ///< -1 for none.
 };
 
 void print(const std::string& text)
@@ -60,8 +67,9 @@ void print(const std::string& text)
 
 } // namespace
 
-BatchRun::BatchRun(const RunPlan& plan, const ProcessingOptions& options, Setup setup)
-    : m_plan(plan), m_options(options), m_setup(std::move(setup)), m_ended(plan.documents().size(), false)
+BatchRun::BatchRun(const RunPlan& plan, const ProcessingOptions& options, Cell& cell, Setup setup)
+    : m_plan(plan), m_options(options), m_cell(cell), m_setup(std::move(setup)),
+      m_ended(plan.documents().size(), false)
 {}
 
 BatchRun::~BatchRun() = default;
@@ -128,20 +136,33 @@ void BatchRun::removeLeftovers() const
             SafeOutput::removeLeftovers(SafeOutput::folderOf(job.target));
 }
 
+/// Workers read the documents, and write beside the results.
+void BatchRun::allowJobs()
+{
+    Reach reach;
+    for (const DocumentJob& job : m_jobs) {
+        reach.addFileToRead(job.source);
+        if (!m_options.dryRun)
+            reach.addFolderToWrite(SafeOutput::folderOf(job.target));
+    }
+    m_cell.allow(reach);
+}
+
 void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
                        const WorkerPool::Limits& limits)
 {
     WorkerPool::Limits fitting = limits;
     fitting.workers =
         static_cast<int>(std::clamp<std::size_t>(m_jobs.size(), 1, static_cast<std::size_t>(limits.workers)));
+    allowJobs();
     m_setup.control.takeSignals();
-    WorkerPool pool(fitting, [&] {
-        if (m_setup.report != nullptr)
-            m_setup.report->leave();
+    const auto makeWorker = [&] {
         return std::make_unique<DocumentWorker>(
             m_jobs, action, libraryFile, m_options,
-            [this](std::size_t job, const DocumentResult& expected) { announce(job, expected); });
-    });
+            [this](std::size_t job, const DocumentResult& expected) { announce(job, expected); },
+            m_setup.report != nullptr ? m_setup.report->leave() : -1);
+    };
+    WorkerPool pool(fitting, makeWorker, m_cell);
     pool.run(
         m_jobs.size(), [this](std::size_t job, const WorkOutcome& outcome) { jobEnded(job, outcome); },
         m_setup.control);

@@ -18,6 +18,7 @@ class CActionInterface;
 
 namespace host {
 
+class Cell;
 class Progress;
 class StreamFiles;
 
@@ -49,7 +50,7 @@ public:
     };
 
     /// Everything lent must outlive the object.
-    BatchRun(const RunPlan& plan, const ProcessingOptions& options, Setup setup);
+    BatchRun(const RunPlan& plan, const ProcessingOptions& options, Cell& cell, Setup setup);
     ~BatchRun();
 
     /// \returns the exit status. Throws std::runtime_error when plug-in or library cannot be used.
@@ -59,6 +60,7 @@ private:
     void planJobs();
     DocumentJob jobFor(const RunPlan::Document& document) const;
     void removeLeftovers() const;
+    void allowJobs();
     void runJobs(CActionInterface& action, const std::string& libraryFile, const WorkerPool::Limits& limits);
     void announce(std::size_t job, const DocumentResult& expected);
     void jobEnded(std::size_t job, const WorkOutcome& outcome);
@@ -72,6 +74,7 @@ private:
 
     const RunPlan& m_plan;
     const ProcessingOptions& m_options;
+    Cell& m_cell;
     Setup m_setup;
     std::vector<DocumentJob> m_jobs;
     /// The document that each job is about.

@@ -1,5 +1,7 @@
 #include "DocumentProcessor.h"
 
+#include "host/cell/Reach.h"
+#include "host/document/DocumentLoading.h"
 #include "host/document/ViewChanger.h"
 #include "host/files/Checksum.h"
 #include "host/files/FileDescriptor.h"
@@ -71,6 +73,9 @@ DocumentResult DocumentProcessor::process(const DocumentJob& job, const BeforePl
         m_wornOut = m_wornOut || result.reason.code == ReasonCode::Memory;
     }
     result.milliseconds = millisecondsTaken();
+    m_keptOut =
+        result.status == Status::Failed &&
+        (isOutOfReach(job.source) || (!m_options.dryRun && isOutOfReach(SafeOutput::folderOf(job.target))));
     return result;
 }
 
@@ -83,11 +88,9 @@ DocumentResult DocumentProcessor::work(const DocumentJob& job)
 {
     if (stat(job.source.c_str(), &m_original) != 0)
         return DocumentResult::failed(Failure::ofSystem(errno, ReasonCode::ReadFailed));
-    if (m_library.LoadFromFile(engine::wideFromFileName(job.source),
-                               engine::wideFromFileName(m_options.password)) == 0)
+    if (!loadDocument(m_library, job.source, m_options.password))
         return libraryFailure();
     const int document = m_library.SelectedDocument();
-    m_library.SelectDocument(document);
     DocumentResult result = applyAndSave(job);
     result.certified = m_library.SecurityInfo(engine::Certification) != 0;
     m_library.RemoveDocument(document);
@@ -152,9 +155,19 @@ Failure DocumentProcessor::apply(const std::string& file)
             m_notes.push_back(changer.leftOut().text);
         return reason;
     }
+    lookForPage(settingsnotes::openingPage(m_options.entries));
     if (std::string note = settingsnotes::aboutPage(m_options.entries, m_library.PageCount()); !note.empty())
         m_notes.push_back(std::move(note));
     return m_sequence->apply();
+}
+
+/// So that the library knows how many pages there are: what a large document says of that is believed until a
+/// page is missing, and the action asks before it selects one.
+void DocumentProcessor::lookForPage(int page)
+{
+    const int selected = m_library.SelectedPage();
+    if (page > selected && m_library.SelectPage(page) != 0)
+        m_library.SelectPage(selected);
 }
 
 DocumentResult DocumentProcessor::changed(Saved saved) const

@@ -34,7 +34,8 @@ struct ProcessingOptions
     std::vector<ActionEntry> entries;
     /// Applied in the place of entries, unless it is empty.
     ViewChange change;
-    std::string password;
+    /// Somebody else's, who keeps it during the run.
+    std::string_view password;
     SignedDocuments signedDocuments = SignedDocuments::Refuse;
     /// A document to which nothing can be appended may be written anew.
     bool rewrite = false;
@@ -77,6 +78,8 @@ public:
 
     /// True once a document needed more memory than there is: what is left may be in pieces.
     bool isWornOut() const { return m_wornOut; }
+    /// True when the last document failed, and what it needs is out of this process's reach (Reach.h).
+    bool isKeptOut() const { return m_keptOut; }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -87,6 +90,7 @@ private:
     Failure tellWhatStoodBefore(DocumentResult& result, int source) const;
     DocumentResult applyAndSave(const DocumentJob& job);
     Failure apply(const std::string& file);
+    void lookForPage(int page);
     DocumentResult changed(Saved saved) const;
     DocumentResult leave() const;
     std::string notesWith(const std::string& further) const;
@@ -113,6 +117,7 @@ private:
     std::vector<std::string> m_notes; ///< On the document that is worked on.
     const BeforePlacement* m_beforePlacement = nullptr;
     bool m_wornOut = false;
+    bool m_keptOut = false;
 };
 
 } // namespace host

@@ -1,6 +1,7 @@
 #include "SettingsFolder.h"
 
 #include "host/files/FileDescriptor.h"
+#include "host/files/HomeFolder.h"
 #include "host/saving/SafeOutput.h"
 #include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
@@ -51,7 +52,11 @@ SettingsFolder::SettingsFolder(const QString& path, const char* suffix, const ch
 
 std::string SettingsFolder::make() const
 {
-    return SafeOutput::makeFolder(m_path).text;
+    struct stat status;
+    if (stat(m_path.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
+        return {};
+    const std::string problem = homefolder::problem();
+    return problem.empty() ? SafeOutput::makeFolder(m_path).text : problem;
 }
 
 std::vector<std::string> SettingsFolder::files() const

@@ -77,12 +77,18 @@ std::string aboutRowsLeftOut(const std::vector<ActionEntry>& entries)
     return text.empty() ? text : "left out, and so set to the first row: " + text;
 }
 
-std::string aboutPage(const std::vector<ActionEntry>& entries, int pageCount)
+int openingPage(const std::vector<ActionEntry>& entries)
 {
     int page = 0;
     for (const ActionEntry& entry : entries)
         if (opensAtPage(entry.settings))
             page = entry.settings.value(key::OpenToPage).toInt();
+    return page;
+}
+
+std::string aboutPage(const std::vector<ActionEntry>& entries, int pageCount)
+{
+    const int page = openingPage(entries);
     if (page <= pageCount)
         return {};
     return "it has " + std::to_string(pageCount) + (pageCount == 1 ? " page" : " pages") +

@@ -1,8 +1,7 @@
 #include "NearbyFile.h"
 
 #include "Suggestion.h"
-
-#include <strings.h>
+#include "host/files/Paths.h"
 
 #include <filesystem>
 
@@ -11,18 +10,11 @@ namespace host::suggestion {
 namespace {
 
 const int mostNames = 10000; // a folder may hold any number
-const std::string suffix = ".pdf";
-
-bool isDocument(const std::string& name)
-{
-    return name.size() > suffix.size() &&
-           strcasecmp(name.c_str() + name.size() - suffix.size(), suffix.c_str()) == 0;
-}
 
 /// The suffix makes all names alike.
 std::string stemOf(const std::string& name)
 {
-    return isDocument(name) ? name.substr(0, name.size() - suffix.size()) : name;
+    return name.substr(0, endOfStem(name));
 }
 
 } // namespace
@@ -39,7 +31,7 @@ std::string nearbyFile(const std::string& path)
     for (std::filesystem::directory_iterator entry(begin > 0 ? path.substr(0, begin) : ".", problem), none;
          !problem && entry != none && left > 0; entry.increment(problem), --left) {
         const std::string name = entry->path().filename().string();
-        if (!isDocument(name) && !entry->is_directory(problem))
+        if (!isPdfName(name) && !entry->is_directory(problem))
             continue;
         names.push_back(name);
         stems.push_back(stemOf(name));

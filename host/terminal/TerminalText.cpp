@@ -4,6 +4,7 @@
 
 #include <QChar>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace host {
@@ -31,14 +32,16 @@ std::string escape(wchar_t character)
     return text;
 }
 
-std::string printable(std::string_view bytes, bool keepLines)
+enum Keeps { Nothing, Lines, LinesAndBackslashes };
+
+std::string printable(std::string_view bytes, Keeps keeps)
 {
     std::string text;
     text.reserve(bytes.size());
     for (const wchar_t character : engine::wideFromFileName(bytes)) {
-        if (character == '\\')
+        if (character == '\\' && keeps != LinesAndBackslashes)
             text += "\\\\";
-        else if (misleads(static_cast<char32_t>(character)) && !(keepLines && character == '\n'))
+        else if (misleads(static_cast<char32_t>(character)) && (keeps == Nothing || character != '\n'))
             text += escape(character);
         else
             text += engine::fileNameFromWide(std::wstring_view(&character, 1));
@@ -66,12 +69,19 @@ bool misleads(char32_t character)
 
 std::string forTerminal(std::string_view bytes)
 {
-    return printable(bytes, false);
+    return printable(bytes, Nothing);
 }
 
 std::string forTerminalLines(std::string_view bytes)
 {
-    return printable(bytes, true);
+    return printable(bytes, Lines);
+}
+
+std::string surelyForTerminal(std::string lines)
+{
+    const auto isPlain = [](char byte) { return byte == '\n' || (byte >= ' ' && byte <= '~'); };
+    const bool allPlain = std::all_of(lines.begin(), lines.end(), isPlain);
+    return allPlain ? lines : printable(lines, LinesAndBackslashes);
 }
 
 } // namespace host

@@ -12,6 +12,7 @@ namespace host {
 namespace {
 
 const long beatNanoseconds = 100'000'000;
+const std::size_t longestWord = 64;
 
 } // namespace
 
@@ -19,6 +20,11 @@ void RunControl::takeSignals()
 {
     if (!m_signals)
         m_signals.emplace();
+}
+
+void RunControl::hearWords()
+{
+    m_words.emplace(STDIN_FILENO, longestWord);
 }
 
 void RunControl::setBeat(std::function<void()> beat)

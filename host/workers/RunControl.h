@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ControlWords.h"
 #include "StopSignal.h"
 #include "host/files/FileDescriptor.h"
+#include "host/files/PipeLines.h"
 
 #include <poll.h>
 
@@ -25,7 +25,7 @@ public:
     /// From now on; before, signals end the program.
     void takeSignals();
     /// From now on. Standard input belongs to the object.
-    void hearWords() { m_words.emplace(0); }
+    void hearWords();
     /// Is called by `take` about ten times a second, as long as whoever waits waits for this object as well.
     void setBeat(std::function<void()> beat);
 
@@ -45,7 +45,7 @@ private:
     void heed(const std::string& word);
 
     std::optional<StopSignal> m_signals;
-    std::optional<ControlWords> m_words;
+    std::optional<PipeLines> m_words;
     FileDescriptor m_timer;
     std::function<void()> m_beat;
     int m_signalCount = 0;

@@ -1,8 +1,8 @@
 #include "WorkerPool.h"
 
 #include "RunControl.h"
-#include "WorkerSlot.h"
 
+#include "host/cell/Cell.h"
 #include "host/files/FileDescriptor.h"
 
 #include <fcntl.h>
@@ -63,8 +63,10 @@ void limitWorker(int memoryMiB)
     dup2(null.get(), STDERR_FILENO);
 }
 
-Failure describeEnd(int status)
+Failure describeEnd(int status, std::optional<int> outsideCall)
 {
+    if (outsideCall && WIFEXITED(status) && WEXITSTATUS(status) == callfilter::endedStatus)
+        return {ReasonCode::Hostile, "did what no document needs (" + callfilter::nameOf(*outsideCall) + ")"};
     if (WIFSIGNALED(status))
         return {ReasonCode::Crashed,
                 "the worker process crashed on it: " + std::string(strsignal(WTERMSIG(status)))};
@@ -104,6 +106,11 @@ WorkOutcome outcomeOf(WorkerSlot::Answer& answer, const WorkerSlot& slot)
     return {WorkOutcome::Lost, {}, failureIn(answer.text), slot.noted()};
 }
 
+void tellOfOutsideCall(int call)
+{
+    ownSlot->outside(call);
+}
+
 /// An exception that leaves a library's destructor ends the process; its reason is told all the same.
 [[noreturn]] void tellAndAbort()
 {
@@ -132,8 +139,8 @@ struct WorkerPool::Process
     }
 };
 
-WorkerPool::WorkerPool(Limits limits, MakeWorker makeWorker)
-    : m_limits(limits), m_makeWorker(std::move(makeWorker)),
+WorkerPool::WorkerPool(Limits limits, MakeWorker makeWorker, Cell& cell)
+    : m_limits(limits), m_makeWorker(std::move(makeWorker)), m_cell(cell),
       m_processes(static_cast<std::size_t>(limits.workers))
 {}
 
@@ -186,12 +193,15 @@ void WorkerPool::endRound()
 }
 
 /// The next piece that a worker took without living to name it, or whose answer it corrupted; alone, so that
-/// there is no doubt about which one it was if the next worker does not live either.
+/// there is no doubt about which one it was if the next worker does not live either. Or one that a cell kept a
+/// worker from, which is then right about what it allows.
 void WorkerPool::planNextRound()
 {
     const auto left =
         std::find(m_ended.begin() + static_cast<std::ptrdiff_t>(m_round.front()), m_ended.end(), false);
     m_round.clear();
+    if (left != m_ended.end())
+        m_cell.renew();
     if (left != m_ended.end())
         m_round.push_back(static_cast<std::size_t>(left - m_ended.begin()));
     m_held.reset();
@@ -267,17 +277,29 @@ void WorkerPool::serve(Process& process, int wakeUps, pid_t parent)
                 break;
             slot.begin(place);
             if (!worker)
-                worker = m_makeWorker();
+                worker = lockedInWorker(wakeUps);
             const Worker::Answer answer = worker->answer(m_round[place], slot);
             if (answer.text.size() > WorkerSlot::largestAnswer)
                 throw std::length_error("what there is to tell of it is longer than 512 KiB");
-            tell(WorkerSlot::Answered, answer.text);
+            const bool again = answer.again && m_round.size() > 1;
+            tell(again ? WorkerSlot::Again : WorkerSlot::Answered, answer.text);
+            if (again)
+                slot.begin(WorkerSlot::none);
             last = answer.last;
         }
     } catch (const std::exception&) {
         tellOfException();
     }
     _exit(0);
+}
+
+std::unique_ptr<Worker> WorkerPool::lockedInWorker(int wakeUps) const
+{
+    std::unique_ptr<Worker> worker = m_makeWorker();
+    std::vector<int> descriptors = worker->descriptors();
+    descriptors.push_back(wakeUps);
+    m_cell.enter(descriptors, tellOfOutsideCall);
+    return worker;
 }
 
 void WorkerPool::waitForNews(const Done& done, RunControl& control)
@@ -330,7 +352,8 @@ int WorkerPool::takeAnswers(Process& process, const Done& done)
 {
     int count = 0;
     for (; std::optional<WorkerSlot::Answer> answer = (*process.slot)->takeAnswer(); ++count)
-        pieceEnded(answer->piece, done, outcomeOf(*answer, **process.slot));
+        if (answer->kind != WorkerSlot::Again)
+            pieceEnded(answer->piece, done, outcomeOf(*answer, **process.slot));
     if (count > 0) {
         process.news = Clock::now();
         setDeadline(process); // what took this program long is not the worker's
@@ -359,12 +382,13 @@ void WorkerPool::end(Process& process, const Done& done, WorkOutcome::Kind kind,
     process.id = 0;
     process.wakeUps.close();
     takeAnswers(process, done);
+    // The only piece that there is, is what it was at, unless it was to find none.
     const std::uint64_t told = (*process.slot)->piece();
     const std::uint64_t place = m_round.size() == 1 && untaken() == 0 ? 0 : told;
     pieceEnded(place, done,
                {kind,
                 {},
-                why ? why : describeEnd(status),
+                why ? why : describeEnd(status, (*process.slot)->outsideCall()),
                 told == place ? (*process.slot)->noted() : std::string()});
     process.slot.reset();
     if (told >= m_round.size() && status != 0 && ++m_fruitless >= mostFruitless)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "SharedMemory.h"
+#include "WorkerSlot.h"
 #include "host/failures/Failure.h"
 
 #include <sys/types.h>
@@ -17,8 +18,8 @@
 
 namespace host {
 
+class Cell;
 class RunControl;
-class WorkerSlot;
 
 /// What a worker process does.
 class Worker
@@ -29,11 +30,15 @@ public:
         std::string text;
         /// The worker is not fit for further work, and a fresh one takes its place.
         bool last = false;
+        /// The cell keeps the worker from what the user may reach: once more, in a new one.
+        bool again = false;
     };
 
     virtual ~Worker() = default;
     /// \param slot takes a note about the piece, which reaches the program even if the answer does not.
     virtual Answer answer(std::size_t piece, WorkerSlot& slot) = 0;
+    /// The files that it has open when it begins, and needs.
+    virtual std::vector<int> descriptors() const { return {}; }
 };
 
 /// How a piece of work ended.
@@ -66,7 +71,8 @@ public:
     using MakeWorker = std::function<std::unique_ptr<Worker>()>;
     using Done = std::function<void(std::size_t, const WorkOutcome&)>;
 
-    WorkerPool(Limits limits, MakeWorker makeWorker);
+    /// \param cell the workers are locked in there as soon as they are made; it must outlive the object.
+    WorkerPool(Limits limits, MakeWorker makeWorker, Cell& cell);
     ~WorkerPool();
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
@@ -88,6 +94,7 @@ private:
     void startWorkers(const Done& done);
     bool start(Process& process);
     [[noreturn]] void serve(Process& process, int wakeUps, pid_t parent);
+    std::unique_ptr<Worker> lockedInWorker(int wakeUps) const;
     void waitForNews(const Done& done, RunControl& control);
     void nap() const;
     void receive(Process& process, const Done& done);
@@ -102,6 +109,7 @@ private:
 
     Limits m_limits;
     MakeWorker m_makeWorker;
+    Cell& m_cell;
     std::vector<Process> m_processes;
     std::vector<bool> m_ended;
     /// The pieces of this round; workers take places in this list.

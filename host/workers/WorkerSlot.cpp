@@ -48,6 +48,12 @@ std::string WorkerSlot::noted() const
     return {m_note.data(), std::min<std::size_t>(m_noteSize, largestNote)};
 }
 
+std::optional<int> WorkerSlot::outsideCall() const
+{
+    const std::uint64_t call = m_outside;
+    return call == none ? std::nullopt : std::optional(static_cast<int>(call));
+}
+
 std::optional<WorkerSlot::Answer> WorkerSlot::takeAnswer()
 {
     const std::uint64_t begin = m_taken;
@@ -60,7 +66,8 @@ std::optional<WorkerSlot::Answer> WorkerSlot::takeAnswer()
         m_taken = end; // corrupted
         return std::nullopt;
     }
-    Answer answer{header.piece, header.kind == Answered ? Answered : Lost, std::string(header.size, '\0')};
+    const Kind kind = header.kind == Answered ? Answered : header.kind == Again ? Again : Lost;
+    Answer answer{header.piece, kind, std::string(header.size, '\0')};
     copyOut(begin + sizeof header, answer.text.data(), answer.text.size());
     m_taken = begin + sizeof header + answer.text.size();
     return answer;

@@ -22,7 +22,7 @@ public:
 
     static constexpr std::uint64_t none = UINT64_MAX;
 
-    enum Kind : std::uint64_t { Answered, Lost };
+    enum Kind : std::uint64_t { Answered, Lost, Again };
     struct Answer
     {
         std::uint64_t piece;
@@ -37,9 +37,11 @@ public:
     /// What the program is to know about the piece if the worker ends before it answers. Throws
     /// std::length_error when it is longer than `largestNote`.
     void note(std::string_view bytes);
-    /// Ends the piece. Waits while the program has not taken earlier answers and there is no room; what is
+    /// Ends the piece, or with Again leaves it for later. Waits while the program has not taken earlier answers and there is no room; what is
     /// longer than `largestAnswer` is cut off. \returns whether the program may be waiting for it.
     bool answer(Kind kind, std::string_view text);
+    /// The process ends because it made a system call that it must not make.
+    void outside(int call) { m_outside = static_cast<std::uint64_t>(call); }
 
     // For the program:
 
@@ -47,6 +49,8 @@ public:
     std::uint64_t piece() const { return m_begun; }
     /// What it noted about that one; empty for nothing.
     std::string noted() const;
+    /// The system call that ended it, if one did.
+    std::optional<int> outsideCall() const;
     /// Takes the next answer, in the order in which they were given.
     std::optional<Answer> takeAnswer();
 
@@ -66,6 +70,7 @@ private:
 
     Number m_begun{none};
     Number m_noteSize{0};
+    Number m_outside{none};
     // A ring of answers; both numbers count all bytes since the beginning.
     Number m_written{0};
     Number m_taken{0};

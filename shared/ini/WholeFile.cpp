@@ -171,7 +171,7 @@ std::optional<QByteArray> read(const QByteArray& path, qint64 limit, QString& pr
         problem = systemError(errno);
     else if (!S_ISREG(status.st_mode))
         problem = S_ISDIR(status.st_mode) ? systemError(errno = EISDIR) : QString("not a regular file");
-    else if (readAll(file.get(), bytes, limit))
+    else if (status.st_size <= limit ? readAll(file.get(), bytes, limit) : (errno = EFBIG, false))
         return bytes;
     else
         problem = errno == EFBIG ? QString("too large for a settings file") : systemError(errno);

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QIcon>
+#include <QImageReader>
 #include <QPixmap>
 
 using namespace storedkeys;
@@ -16,6 +17,7 @@ namespace {
 
 const int leastHeight = 236;
 const int iconSide = 128;
+const qint64 mostPictureBytes = qint64(256) << 20; // in memory, where each pixel takes four
 
 void writeToolSettings(const QString& path, const QMap<QString, QVariant>& prefs)
 {
@@ -69,7 +71,16 @@ void CSaveAsCollectionDialog::on_CollectionIcon()
         this, "Kelvane Advanced Tools", QString(), "Image files (*.bmp;*.jpg;*.gif;*.png;*.tif;*.wmf;*.emf)");
     if (path.isNull())
         return;
-    const QPixmap image(path);
+    QImageReader reader(path);
+    const QSize size = reader.size();
+    if (4 * qint64(size.width()) * size.height() > mostPictureBytes) {
+        storereport::add(QString("no icon: the picture %1 is too large, with %2 x %3 pixels")
+                             .arg(path)
+                             .arg(size.width())
+                             .arg(size.height()));
+        return;
+    }
+    const QPixmap image = QPixmap::fromImageReader(&reader);
     ui.icon_toolButton->setIcon(
         QIcon(image.scaled(iconSide, iconSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
 }

@@ -1,6 +1,10 @@
 // Loads documents as the real library does, except those whose names ask for trouble: "crash", "hang",
-// "hungry", "replaced", "slow"; and closes them so, after their new files were put in place: "late-crash",
-// "late-hang".
+// "hungry", "replaced", "slow", or for a misdeed (Misdeeds.h), which has to succeed; and closes them so, after
+// their new files were put in place: "late-crash", "late-hang".
+#include "Misdeeds.h"
+
+#include "pdflibrary/ErrorCodes.h"
+
 #include <dlfcn.h>
 #include <unistd.h>
 
@@ -18,6 +22,7 @@ namespace {
 
 std::wstring lastTexts;
 std::wstring names; ///< Of the document loaded last, and its password.
+bool prevented = false;
 
 bool asksFor(const wchar_t* trouble)
 {
@@ -40,6 +45,12 @@ Function real(Function, const char* name)
 
 } // namespace
 
+EXPORTED int TPLCreateLibrary()
+{
+    misdeeds::prepare();
+    return real(TPLCreateLibrary, "TPLCreateLibrary")();
+}
+
 EXPORTED void TPLAddToBuffer(int instance, char* buffer, const char* source, int size)
 {
     const std::size_t characters = static_cast<std::size_t>(size) / sizeof(wchar_t);
@@ -56,14 +67,23 @@ EXPORTED int TPLLoadFromFile(int instance, char* fileName, char* password)
         std::abort();
     if (asksFor(L"hungry"))
         eat();
+    while (asksFor(L"hang"))
+        sleep(1);
+    prevented = !misdeeds::allDone(names);
+    if (prevented)
+        return 0;
+    const int loaded = real(TPLLoadFromFile, "TPLLoadFromFile")(instance, fileName, password);
     if (asksFor(L"slow"))
         usleep(700'000);
-    while (asksFor(L"hang"))
-        pause();
-    const int loaded = real(TPLLoadFromFile, "TPLLoadFromFile")(instance, fileName, password);
     if (asksFor(L"replaced"))
         std::rename("newer", "replaced.pdf");
     return loaded;
+}
+
+EXPORTED int TPLLastErrorCode(int instance)
+{
+    return prevented ? static_cast<int>(engine::ErrorCode::AccessDenied)
+                     : real(TPLLastErrorCode, "TPLLastErrorCode")(instance);
 }
 
 EXPORTED int TPLRemoveDocument(int instance, int document)
@@ -71,6 +91,6 @@ EXPORTED int TPLRemoveDocument(int instance, int document)
     if (asksFor(L"late-crash"))
         std::abort();
     while (asksFor(L"late-hang"))
-        pause();
+        sleep(1);
     return real(TPLRemoveDocument, "TPLRemoveDocument")(instance, document);
 }

@@ -2,6 +2,7 @@
 #include "engine/boundary/Session.h"
 #include "engine/direct/DirectReader.h"
 #include "engine/files/EngineError.h"
+#include "support/PdfBuilder.h"
 #include "support/Rewritten.h"
 #include "support/Rows.h"
 
@@ -124,6 +125,26 @@ bool accepted(const std::string& bytes)
 {
     auto reader = DirectReader::open(ByteSource::fromBytes(bytes));
     return reader != nullptr && reader->skeleton();
+}
+
+/// A document of 20,000 pages with a cross-reference stream that is not compressed, and where its entries of
+/// seven bytes begin.
+std::pair<std::string, std::size_t> withLongStream()
+{
+    const std::string plain = PdfBuilder::simple({}, 20000);
+    const std::size_t table = plain.rfind("xref\n0 20003\n");
+    std::string bytes =
+        plain.substr(0, table) +
+        "20003 0 obj\n<< /Type /XRef /W [1 4 2] /Size 20003 /Root 1 0 R /Length 140021 >>\nstream\n";
+    const std::size_t entries = bytes.size();
+    for (std::size_t entry = 0; entry < 20003; ++entry) {
+        const unsigned long offset = std::stoul(plain.substr(table + 13 + entry * 20, 10));
+        bytes += entry == 0 ? '\0' : '\1';
+        for (const int shift : {24, 16, 8, 0})
+            bytes += static_cast<char>(offset >> shift & 0xff);
+        bytes += std::string(2, '\0');
+    }
+    return {bytes + "\nendstream\nendobj\nstartxref\n" + std::to_string(table) + "\n%%EOF\n", entries};
 }
 
 /// A document that touches every kind of thing that is read: a deep tree, names, preferences, a form.
@@ -252,7 +273,16 @@ private slots:
         const Rows<std::string, std::string> row;
         const std::string pages = "<< /Type /Pages /Count 3 /Kids [3 0 R 4 0 R 5 0 R] >>";
         const std::string page = "<< /Type /Page >>";
+        const std::string kids = "/Kids [3 0 R 4 0 R 5 0 R]";
         row("kids twice", "<< /Kids [3 0 R] /Count 3 /Kids [3 0 R 4 0 R 5 0 R] >>", page);
+        row("kids without spaces", "<</Kids[3 0 R 4 0 R 5 0 R]/Count 3>>", page);
+        row("kids spread out", "<< /Kids\n[ 03 00\tR\r4 0 R  5 0 R\n]/Count 3 >>", page);
+        row("kids in another entry first", "<< /X << /Kids [5 0 R] >> " + kids + " /Count 3 >>", page);
+        row("kids in another entry", "<< /X << /Kids [5 0 R] >> /Count 3 >>", page);
+        row("kids in a string", "<< /X (/Kids [5 0 R]) " + kids + " /Count 3 >>", page);
+        row("kids of a longer name", "<< /KidsX [5 0 R] " + kids + " /Count 3 >>", page);
+        row("number among kids", "<< /Count 3 /Kids [3 0 R 4 5 0 R] >>", page);
+        row("R among kids", "<< /Count 3 /Kids [3 0 R R 4 0 R] >>", page);
         row("type twice", pages, "<< /Type /Pages /Type /Page >>");
         row("two values", pages, "<< /Type /Pages 5 >>");
         row("type elsewhere", pages, "<< /Type 6 0 R /X << /Type /Page >> >>");
@@ -274,6 +304,28 @@ private slots:
                                       .bytes();
         QVERIFY(accepted(bytes));
         compare(bytes);
+    }
+
+    void looksAtWhatIsAskedForInLongSections_data()
+    {
+        const Rows<std::string, std::size_t, std::size_t, char> row; // where entries begin, and a bad byte
+        const std::string plain = PdfBuilder::simple({}, 20000);
+        row("table", plain, plain.rfind("xref\n0 20003\n") + 13 + 17, 20, '?');
+        const auto [stream, entries] = withLongStream();
+        row("stream", stream, entries, 7, '\3');
+    }
+
+    void looksAtWhatIsAskedForInLongSections()
+    {
+        auto [bytes, entries, size, bad] = Rows<std::string, std::size_t, std::size_t, char>::current();
+        compare(bytes);
+        bytes[entries + 10000 * size] = bad;
+        QVERIFY(accepted(bytes));
+        auto reader = DirectReader::open(ByteSource::fromBytes(bytes));
+        QVERIFY(reader->object(9999, 0) && reader->object(10001, 0));
+        QVERIFY(!reader->object(10000, 0));
+        bytes[entries + size] = bad; // of the catalog
+        QVERIFY(!accepted(bytes));
     }
 
     void agreesOnDamagedDocuments()

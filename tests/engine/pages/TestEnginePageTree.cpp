@@ -3,12 +3,11 @@
 #include "engine/files/EngineError.h"
 #include "engine/pages/PageTree.h"
 #include "support/PdfBuilder.h"
+#include "support/Rows.h"
 
 #include <QtTest>
 
 using namespace engine;
-
-Q_DECLARE_METATYPE(std::string)
 
 namespace {
 
@@ -19,6 +18,11 @@ struct Opened
     {}
 
     QByteArray objectOfPage(int number) { return QByteArray::number(pages.page(number).page.getObjectID()); }
+
+    int numberOf(int object)
+    {
+        return pages.numberOf(document.fetched(document.pdf().getObjectByID(object, 0)));
+    }
 
     Document document;
     PageTree pages;
@@ -45,28 +49,51 @@ std::string node(int count, const std::string& kids, const std::string& entries 
 
 const char* const page = "<< /Type /Page >>";
 
-/// 20,000 pages below 200 nodes of 100; page n is object 300 + n. Pages that are not in `readable` cannot be
-/// read.
-PdfBuilder largeTree(std::initializer_list<int> readable)
+const int firstPage = 1000; // page n is object 1000 + n
+const char* const unreadable = "<< /Type (";
+
+struct Pages
+{
+    int real;
+    int stated; ///< By their node's count.
+};
+
+/// A root that states `total` pages, above nodes 3, 4, ...; a node of one page is that page.
+PdfBuilder nested(int total, const std::vector<Pages>& nodes)
 {
     PdfBuilder builder;
     builder.catalog("");
-    std::string nodes;
-    for (int each = 0; each < 200; ++each) {
+    std::string list;
+    int last = firstPage;
+    for (std::size_t each = 0; each < nodes.size(); ++each) {
+        const int number = 3 + static_cast<int>(each);
         std::string kids;
-        for (int number = 301 + each * 100; number <= 400 + each * 100; ++number) {
-            const bool sound = std::find(readable.begin(), readable.end(), number - 300) != readable.end();
-            builder.object(number,
-                           sound ? "<< /Type /Page /Parent " + reference(3 + each) + " >>" : "<< /Type (");
-            kids += reference(number) + " ";
+        for (const int end = last + nodes[each].real; last < end;) {
+            kids += reference(++last) + " ";
+            const int parent = nodes[each].stated == 1 ? 2 : number;
+            builder.object(last, "<< /Type /Page /Parent " + reference(parent) + " >>");
         }
-        builder.object(3 + each, node(100, kids, "/Parent 2 0 R /Rotate " + std::to_string(each % 4 * 90)));
-        nodes += reference(3 + each) + " ";
+        if (nodes[each].stated != 1)
+            builder.object(number, node(nodes[each].stated, kids, "/Parent 2 0 R"));
+        list += nodes[each].stated == 1 ? kids : reference(number) + " ";
     }
-    return builder.object(2, node(20000, nodes));
+    return builder.object(2, node(total, list));
+}
+
+std::vector<Pages> nodesOf(int size, int count)
+{
+    return std::vector<Pages>(static_cast<std::size_t>(count), {size, size});
+}
+
+std::vector<Pages> joined(std::vector<Pages> nodes, const std::vector<Pages>& further)
+{
+    nodes.insert(nodes.end(), further.begin(), further.end());
+    return nodes;
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(std::string)
 
 class TestEnginePageTree : public QObject
 {
@@ -138,20 +165,79 @@ private slots:
 
     void readsOnlyTheWayToAPage_data()
     {
-        QTest::addColumn<int>("number");
-        for (const int number : {1, 100, 101, 12345, 20000})
-            QTest::newRow(qPrintable(QString::number(number))) << number;
+        const Rows<int, int, int> row; // and the first and the last node that are read
+        row("first", 1, 0, 0);
+        row("last of a node", 100, 0, 0);
+        row("first of a node", 101, 0, 1);
+        row("late", 19801, 198, 199);
+        row("last", 20000, 199, 199);
     }
 
     void readsOnlyTheWayToAPage()
     {
-        QFETCH(int, number);
-        Opened opened(largeTree({number}));
+        const auto [number, firstNode, lastNode] = Rows<int, int, int>::current();
+        PdfBuilder builder = nested(20000, nodesOf(100, 200));
+        for (int page = 1; page <= 20000; ++page)
+            if (page != number)
+                builder.object(firstPage + page, unreadable);
+        for (int each = 1; each < 200; ++each) // the first is always looked at
+            if (each < firstNode || each > lastNode)
+                builder.object(3 + each, unreadable);
+        Opened opened(builder);
         QCOMPARE(opened.pages.pageCount(), 20000);
-        QCOMPARE(opened.objectOfPage(number), QByteArray::number(300 + number));
-        QCOMPARE(opened.pages.numberOf(opened.document.pdf().getObjectByID(300 + number, 0)), number);
-        // To read any other page would be a warning.
-        QVERIFY(!opened.document.anyWarnings());
+        QCOMPARE(opened.objectOfPage(number), QByteArray::number(firstPage + number));
+        QCOMPARE(opened.pages.numberOf(opened.pages.page(number).page), number);
+    }
+
+    void countsWithoutOverlooking_data()
+    {
+        const Rows<std::vector<Pages>, int> row; // and what the root says
+        const std::vector<Pages> regular = nodesOf(10, 30);
+        std::vector<Pages> any;
+        for (const int size : {3, 80, 7, 0, 60, 1, 49, 1, 1, 98})
+            any.push_back({size, size});
+        row("one size", regular, 300);
+        row("the last is smaller", joined(nodesOf(13, 23), nodesOf(1, 1)), 300);
+        row("two sizes", joined(nodesOf(8, 20), nodesOf(7, 20)), 300);
+        row("pages moved",
+            joined(joined(nodesOf(10, 5), nodesOf(7, 1)), joined(nodesOf(10, 23), nodesOf(13, 1))), 300);
+        row("any sizes", any, 300);
+        row("pages beside nodes", joined(nodesOf(1, 50), nodesOf(25, 10)), 300);
+        for (const int total : {310, 290}) {
+            row(QString("one size, %1").arg(total), regular, total);
+            row(QString("any sizes, %1").arg(total), any, total);
+            row(QString("flat, %1").arg(total), nodesOf(1, 300), total);
+        }
+        row("a node too high", joined(joined(nodesOf(10, 5), {{10, 14}}), nodesOf(10, 24)), 300);
+        row("the first too high", joined({{10, 14}}, nodesOf(10, 29)), 304);
+    }
+
+    void countsWithoutOverlooking()
+    {
+        const auto [nodes, total] = Rows<std::vector<Pages>, int>::current();
+        const PdfBuilder builder = nested(total, nodes);
+        for (const int number :
+             {1, 2, 7, 50, 83, 84, 120, 149, 150, 151, 200, 201, 202, 254, 290, 291, 300}) {
+            Opened opened(builder);
+            QVERIFY(opened.pages.hasPages());
+            QCOMPARE(opened.pages.pageCount(), 300);
+            QCOMPARE(opened.objectOfPage(number), QByteArray::number(firstPage + number));
+            Opened again(builder);
+            QVERIFY(again.pages.hasPages());
+            QCOMPARE(again.numberOf(firstPage + number), number);
+        }
+    }
+
+    void believesAVeryLargeTreeUntilAPageIsMissing()
+    {
+        Opened opened(nested(10600, nodesOf(100, 105)));
+        QCOMPARE(opened.pages.pageCount(), 10600);
+        QCOMPARE(opened.objectOfPage(5000), QByteArray::number(firstPage + 5000));
+        QCOMPARE(opened.pages.pageCount(), 10600);
+        QVERIFY_EXCEPTION_THROWN(opened.pages.requirePage(10550), EngineError);
+        QCOMPARE(opened.pages.pageCount(), 10500);
+        QCOMPARE(opened.objectOfPage(10500), QByteArray::number(firstPage + 10500));
+        QCOMPARE(Opened(nested(90000, nodesOf(100, 105))).pages.pageCount(), 10500); // more than objects
     }
 
     void walksALargeTreeThatLies()

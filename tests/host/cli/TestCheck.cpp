@@ -299,6 +299,21 @@ private slots:
         QCOMPARE(lines[2].value("after").toObject(), (QJsonObject{{"pageMode", "UseOC"}}));
     }
 
+    void notesAreToldOnce()
+    {
+        const ProgramRun json = quintar({"check", "--json", "--display-doc-title", "yes", "d/plain.pdf"});
+        QVERIFY(ProgramRun::jsonLines(json.out).value(0).value("note").toString().contains("it has none"));
+        QCOMPARE(json.err, QByteArray());
+        const ProgramRun nothing = quintar({"check", "--view", "-", "d/plain.pdf"}, "{}");
+        QCOMPARE(nothing.status, 0);
+        QCOMPARE(nothing.err, QByteArray("quintar: note: the view names nothing, so nothing is asked of the "
+                                         "documents\n"));
+        for (const char* tag : {"english", "english language"}) {
+            const QByteArray view = QByteArray(R"({"lang":")") + tag + "\"}";
+            QCOMPARE(quintar({"check", "--view", "-", "d/plain.pdf"}, view).err.count("note: "), 1);
+        }
+    }
+
     void whatWaitsIsPrintedWhole()
     {
         // More than waits in memory, so that part of it comes back from a file.

@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -41,6 +43,20 @@ ProgramRun configureWithoutDisplay(const QStringList& words, const QString& fold
 class TestConfigure : public QObject, ConfigureFixture
 {
     Q_OBJECT
+
+private:
+    /// The settings of the window, stored in it as an action list.
+    static CommandRun storedAs(const QString& name)
+    {
+        return configure({}, [name](QDialog& dialog) {
+            person::whenOpens("CSaveAsActionlistDialog", [name](QDialog& save) {
+                person::widget<QLineEdit>(save, "actionListNameLineEdit")->setText(name);
+                person::widget<QPushButton>(save, "saveButton")->click();
+            });
+            QMetaObject::invokeMethod(&dialog, "on_QDShowSaveDialog");
+            pressOk(dialog);
+        });
+    }
 
 private slots:
     void init() { begin(); }
@@ -165,7 +181,9 @@ private slots:
         red.fill(Qt::red);
         {
             QSettings favourite(path("f.ini"), QSettings::IniFormat);
-            favourite.setValue("ActionPrefs", Map{{"CollectionName", "Its name"}});
+            Map prefs = manualsSettings();
+            prefs.insert("CollectionName", "Its name");
+            favourite.setValue("ActionPrefs", prefs);
             favourite.setValue("ActionIcon", red);
         }
         QCOMPARE(configure({"--favorite", path("f.ini"), "-o", path("f.ini")}).status, 0);
@@ -222,17 +240,42 @@ private slots:
     {
         const auto [name, told] = Rows<QString, QString>::current();
         QVERIFY(QFile::copy(data + "/manuals.xqq", TemporaryHome::actionList("old.xqq")));
-        const CommandRun run = configure({}, [name = name](QDialog& dialog) {
-            person::whenOpens("CSaveAsActionlistDialog", [name](QDialog& save) {
-                person::widget<QLineEdit>(save, "actionListNameLineEdit")->setText(name);
-                person::widget<QPushButton>(save, "saveButton")->click();
-            });
-            QMetaObject::invokeMethod(&dialog, "on_QDShowSaveDialog");
-            pressOk(dialog);
-        });
+        const CommandRun run = storedAs(name);
         QCOMPARE(run.status, 0);
         const QString words = told.contains("%1") ? told.arg(TemporaryHome::actionList("")) : told;
         QVERIFY2(run.err.contains(words.toUtf8()), run.err);
+    }
+
+    void losesNothingWhereItCannotStore_data()
+    {
+        const Rows<const char*, const char*, QByteArray> row; // kind and options of what is mounted there
+        row("full", "tmpfs", "size=16k,nr_inodes=4", "no space left on device");
+        row("read-only", "tmpfs", "size=16k,ro", "read-only file system");
+    }
+
+    void losesNothingWhereItCannotStore()
+    {
+        const auto [kind, options, reason] = Rows<const char*, const char*, QByteArray>::current();
+        // Nobody else sees what is mounted, and it goes with this process.
+        if (unshare(CLONE_NEWNS) != 0 || mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+            QSKIP("only root may mount");
+        const QByteArray folder = CUtils::GetSequenceFolder().toLocal8Bit();
+        const QByteArray plain = QByteArray(options).replace(",ro", "");
+        QCOMPARE(mount(kind, folder, kind, 0, plain.constData()), 0);
+        QVERIFY(QFile::copy(data + "/manuals.xqq", TemporaryHome::actionList("old.xqq")));
+        QFile filler(TemporaryHome::actionList("filler"));
+        QVERIFY(filler.open(QIODevice::WriteOnly));
+        filler.write(QByteArray(1 << 14, 'x'));
+        filler.close();
+        if (plain != options)
+            QCOMPARE(mount(kind, folder, kind, MS_REMOUNT | MS_RDONLY, nullptr), 0);
+        const CommandRun run = storedAs("old");
+        const QByteArray old = bytesOf(TemporaryHome::actionList("old.xqq"));
+        const int files = QDir(CUtils::GetSequenceFolder()).entryList(QDir::AllEntries | QDir::Hidden).size();
+        QCOMPARE(umount(folder), 0);
+        QVERIFY2(run.err.contains("not stored: the action list " + folder + "/old.xqq: " + reason), run.err);
+        QCOMPARE(old, bytesOf(data + "/manuals.xqq"));
+        QCOMPARE(files, 4); // with the folder itself and the one above
     }
 
     void refusesWithoutADisplay_data()

@@ -125,34 +125,15 @@ private slots:
 
     void failuresHaveCodes()
     {
-        const std::string simple = PdfBuilder::simple();
-        const std::string broken = "trailer\n<< /Root 1 0 R >>\nstartxref\n9\n%%EOF\n";
-        const QStringList locked{"--encrypt", "user", "owner", "256"};
-        const QStringList guarded{"--encrypt", "", "owner", "256", "--modify=none"};
-        const std::map<QString, std::pair<std::string, QString>> documents{
-            {"signed.pdf", {signedDocument(), "signed"}},
-            {"certified.pdf", {signedDocument("/Perms << /DocMDP 9 0 R >>"), "certified"}},
-            {"locked.pdf", {encrypted(simple, locked), "password"}},
-            {"guarded.pdf", {encrypted(simple, guarded), "permission"}},
-            {"text.pdf", {"no document", "notPdf"}},
-            {"empty.pdf", {"", "emptyFile"}},
-            {"cut.pdf", {simple.substr(0, 40), "damaged"}},
-            {"unclear.pdf", {simple + broken, "uncertain"}},
-            {"short.pdf", {PdfBuilder::simple("", 1), "pageBeyondEnd"}},
-            {"crash.pdf", {simple, "crashed"}},
-            {"hang.pdf", {simple, "timeout"}},
-            {"hungry.pdf", {simple, "memory"}},
-            {"replaced.pdf", {simple, "changedMeanwhile"}}};
-        for (const auto& [name, document] : documents)
-            WorkFolder::put(name.toStdString(), document.first);
-        WorkFolder::put("newer", simple + " ");
         QStringList words{"run",       "--events", "--in-place", "--report", "report",    "--open-page", "2",
                           "--timeout", "1",        "--memory",   "200",      "/dev/null", "gone.pdf"};
         std::map<QString, QString> codes{{"/dev/null", "notAFile"}, {"gone.pdf", "notFound"}};
-        for (const auto& [name, document] : documents) {
-            words += name;
-            codes[name] = document.second;
+        for (const auto& [name, bytes, code] : failures()) {
+            WorkFolder::put(name, bytes);
+            words += QString::fromStdString(name);
+            codes[words.last()] = code;
         }
+        WorkFolder::put("newer", PdfBuilder::simple("", 4)); // for what is replaced
         const ProgramRun run(programBesideTrouble(m_folder->path("installed")), words);
         std::vector<QString> found;
         for (const QJsonObject& event : ProgramRun::jsonLines(run.out)) {
@@ -188,8 +169,10 @@ private slots:
         QVERIFY(run.process().waitForFinished());
         QCOMPARE(run.process().exitCode(), 130);
         QCOMPARE(end.value("stopped"), QJsonValue(true));
-        QCOMPARE(end.value("changed").toInt(), done);
-        QCOMPARE(end.value("notDone").toInt(), 4 - done);
+        // A worker that is slow to take the next document does not take it any more.
+        const int changed = end.value("changed").toInt();
+        QVERIFY(changed >= 1 && changed <= done);
+        QCOMPARE(end.value("notDone").toInt(), 4 - changed);
         const QJsonObject last = ProgramRun::jsonLines(bytesOf("report")).last();
         QCOMPARE(last.value("event").toString() + last.value("stopped").toVariant().toString(),
                  QString("endtrue"));
@@ -277,6 +260,35 @@ private slots:
     }
 
 private:
+    struct Failing
+    {
+        std::string name;
+        std::string bytes;
+        QString code;
+    };
+
+    /// Documents that a run fails on, with the codes of the reasons.
+    static std::vector<Failing> failures()
+    {
+        const std::string simple = PdfBuilder::simple();
+        const std::string broken = "trailer\n<< /Root 1 0 R >>\nstartxref\n9\n%%EOF\n";
+        const QStringList locked{"--encrypt", "user", "owner", "256"};
+        const QStringList guarded{"--encrypt", "", "owner", "256", "--modify=none"};
+        return {{"signed.pdf", signedDocument(), "signed"},
+                {"certified.pdf", signedDocument("/Perms << /DocMDP 9 0 R >>"), "certified"},
+                {"locked.pdf", encrypted(simple, locked), "password"},
+                {"guarded.pdf", encrypted(simple, guarded), "permission"},
+                {"text.pdf", "no document", "notPdf"},
+                {"empty.pdf", "", "emptyFile"},
+                {"cut.pdf", simple.substr(0, 40), "damaged"},
+                {"unclear.pdf", simple + broken, "uncertain"},
+                {"short.pdf", PdfBuilder::simple("", 1), "pageBeyondEnd"},
+                {"crash.pdf", simple, "crashed"},
+                {"hang.pdf", simple, "timeout"},
+                {"hungry.pdf", simple, "memory"},
+                {"replaced.pdf", simple, "changedMeanwhile"}};
+    }
+
     QString slowly() const { return programBesideTrouble(m_folder->path("installed")); }
 
     /// A document at a time, each of which takes 0.7 s.

@@ -8,6 +8,8 @@
 #include <QSettings>
 #include <QtTest>
 
+#include <unistd.h>
+
 namespace {
 
 using Map = QMap<QString, QVariant>;
@@ -120,11 +122,14 @@ private slots:
         storeList("good.xqq", "Good");
         QVERIFY(writeFile(TemporaryHome::actionList("bad.xqq"), "no settings"));
         QVERIFY(QDir().mkpath(TemporaryHome::favorite("folder.ini")));
+        QVERIFY(writeFile(TemporaryHome::favorite("large.ini"), "[General]\n") &&
+                QFile::resize(TemporaryHome::favorite("large.ini"), 100 << 20));
         const ProgramRun run = quintar({"lists"});
         QCOMPARE(run.status, 1);
         QVERIFY2(run.out.contains("Good"), run.out);
         QVERIFY2(run.err.contains("/bad.xqq: not an action list") &&
-                     run.err.contains("/folder.ini: is a directory"),
+                     run.err.contains("/folder.ini: is a directory") &&
+                     run.err.contains("/large.ini: too large for a settings file"),
                  run.err);
 
         QVERIFY(QDir(m_home.filePath("share")).removeRecursively() &&
@@ -216,6 +221,38 @@ private slots:
         const ProgramRun byName = quintar(run + QStringList{"--list", "manuals"});
         QCOMPARE(byName.status, 2);
         QVERIFY2(byName.err.contains("share is not a folder"), byName.err);
+    }
+
+    void makesNothingWithoutAPlace_data()
+    {
+        const Rows<QStringList, QByteArray> row; // what env makes of the home, and why it is none
+        row("not set", {"-u", "HOME"}, "there is no home folder: HOME is not set");
+        row("empty", {"HOME="}, "there is no home folder: HOME is not set");
+        row("everybody's", {"HOME=//"}, "the home folder is /");
+        row("missing", {"HOME=" + m_home.filePath("gone")}, "gone does not exist");
+        if (geteuid() == 0)
+            row("another user's", {"HOME=" + m_home.filePath("theirs")}, "theirs is another user's");
+    }
+
+    void makesNothingWithoutAPlace()
+    {
+        const auto [variables, reason] = Rows<QStringList, QByteArray>::current();
+        QVERIFY(QDir().mkpath(m_home.filePath("theirs")));
+        QCOMPARE(chown(qPrintable(m_home.filePath("theirs")), geteuid() == 0 ? 65534 : geteuid(), getegid()),
+                 0);
+        const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        const QStringList before = QDir("/").entryList(all);
+        const QStringList env = QStringList{"-u", "XDG_DATA_HOME", "-u", "XDG_CONFIG_HOME"} + variables +
+                                QStringList{PROGRAM_FILE};
+        const ProgramRun lists("env", env + QStringList{"lists"});
+        QCOMPARE(lists.status, 1);
+        QVERIFY2(lists.err.count(reason) == 2, lists.err);
+        const ProgramRun run("env",
+                             env + QStringList{"run", "--page-mode", "bookmarks", "--in-place", "a.pdf"},
+                             m_home.filePath(""));
+        QVERIFY2(run.status == 0 && run.err.isEmpty(), run.err);
+        QCOMPARE(QDir("/").entryList(all), before);
+        QVERIFY(!QFile::exists(m_home.filePath("gone")) && QDir(m_home.filePath("theirs")).isEmpty(all));
     }
 
 private:

@@ -127,6 +127,33 @@ private slots:
         QVERIFY2(note.contains(page) && note.contains(rows), qPrintable(note));
     }
 
+    // Of so many pages the count is believed at first.
+    void findsThatPagesAreMissing()
+    {
+        PdfBuilder builder;
+        std::string nodes;
+        for (int node = 3; node < 102; ++node) {
+            std::string kids;
+            for (int page = node * 100; page < node * 100 + 100; ++page) {
+                builder.object(page, "<< /Type /Page >>");
+                kids += std::to_string(page) + " 0 R ";
+            }
+            builder.object(node, "<< /Type /Pages /Count 100 /Kids [" + kids + "] >>");
+            nodes += std::to_string(node) + " 0 R ";
+        }
+        builder.catalog("").object(2, "<< /Type /Pages /Count 10100 /Kids [" + nodes + "] >>");
+        WorkFolder::put("in.pdf", builder.object(10300, "null").bytes());
+        const ProgramRun last(PROGRAM_FILE, {"run", "--open-page", "last", "-o", "out", "in.pdf"},
+                              m_folder.path());
+        QVERIFY2(last.out.contains("open page: unset -> 9900;"), last.out + last.err);
+        const ProgramRun action(PROGRAM_FILE,
+                                {"run", "--set", "LayoutAndMagnCheckBox=1", "--set", "OpenToPageSpinBox=9950",
+                                 "-o", "out", "in.pdf"},
+                                m_folder.path());
+        QVERIFY2(action.err.contains("it has 9900 pages, so it opens at page 1 instead of 9950"), action.err);
+        QVERIFY2(action.out.contains("open page: unset -> 1;"), action.out);
+    }
+
 private:
     ProgramRun quintar(const QStringList& words, const QByteArray& input = {}) const
     {

@@ -89,10 +89,11 @@ private slots:
         const auto handler = signal(SIGXFSZ, SIG_IGN);
         for (const std::size_t room : {text.size() / 2, text.size() + 5, text.size() * 2 - 4}) {
             Report report("report", Report::Start::New);
-            report.begin();
+            report.begin({});
+            const std::string head = WorkFolder::contentOf("report");
             const struct rlimit limit
             {
-                room, before.rlim_max
+                head.size() + room, before.rlim_max
             };
             setrlimit(RLIMIT_FSIZE, &limit);
             for (std::size_t place = 0; place < 3; ++place)
@@ -105,7 +106,7 @@ private slots:
             }
             setrlimit(RLIMIT_FSIZE, &before);
             QVERIFY(!isAnnounced && !report.problem().empty());
-            QCOMPARE(WorkFolder::contentOf("report"), room < text.size() ? std::string() : text);
+            QCOMPARE(WorkFolder::contentOf("report"), head + (room < text.size() ? std::string() : text));
         }
         signal(SIGXFSZ, handler);
     }

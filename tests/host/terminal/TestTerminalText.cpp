@@ -37,6 +37,10 @@ private slots:
     {
         const auto [bytes, printed] = Rows<QByteArray, QByteArray>::current();
         QCOMPARE(QByteArray::fromStdString(forTerminal(bytes.toStdString())), printed);
+        // What is safe stays as it is, and what somebody has let through is escaped after all.
+        QCOMPARE(QByteArray::fromStdString(surelyForTerminal("\n" + printed.toStdString())), "\n" + printed);
+        if (!bytes.contains('\\') && !bytes.contains('\n'))
+            QCOMPARE(QByteArray::fromStdString(surelyForTerminal(bytes.toStdString())), printed);
     }
 
     // Names come back from JSON as the bytes that they are, and nothing in a line misleads a terminal.

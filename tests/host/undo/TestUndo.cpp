@@ -214,7 +214,8 @@ private slots:
         QCOMPARE(change("thumbs", "report").status, 0);
         const std::string after = WorkFolder::contentOf("in/a.pdf");
         const std::string report = WorkFolder::contentOf("report");
-        WorkFolder::put("report", report.substr(0, report.find('\n') + 1)); // the line "begun"
+        // The lines "start" and "begun".
+        WorkFolder::put("report", report.substr(0, report.find('\n', report.find('\n') + 1) + 1));
         const std::size_t lastLines = after.rfind("startxref");
         for (const std::size_t size : {after.size(), lastLines}) {
             WorkFolder::put("in/a.pdf", after.substr(0, size));

@@ -1,3 +1,4 @@
+#include "host/cell/Cell.h"
 #include "host/workers/RunControl.h"
 #include "host/workers/WorkerPool.h"
 #include "host/workers/WorkerSlot.h"
@@ -87,7 +88,8 @@ private slots:
                 usleep(each == 1 && piece == 100 ? 1'300'000 : 0);
             };
             RunControl control;
-            WorkerPool({workers, 1, 1024}, make).run(ends.size(), done, control);
+            Cell cell(Sandbox::Default);
+            WorkerPool({workers, 1, 1024}, make, cell).run(ends.size(), done, control);
             for (std::size_t piece = 0; piece < ends.size(); ++piece)
                 QCOMPARE(ends[piece], (piece + 1) % each == 0 ? end : "did it");
         }

@@ -1,4 +1,5 @@
 #include "shared/actionutils/CActionUtils.h"
+#include "shared/ini/StoreReport.h"
 #include "shared/lists/CSaveAsActionlistDialog.h"
 #include "shared/lists/CSaveAsCollectionDialog.h"
 #include "support/ManualsSettings.h"
@@ -360,6 +361,22 @@ private slots:
         QTest::ignoreMessage(QtWarningMsg, "QPixmap::scaled: Pixmap is a null pixmap");
         dialog.ui.icon_toolButton->click();
         QVERIFY(dialog.ui.icon_toolButton->icon().isNull());
+    }
+
+    void refusesAPictureThatIsABomb()
+    {
+        // The beginning of a PNG file of 60,000 by 60,000 pixels.
+        const auto bomb =
+            QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAA6mAAAOpgCAIAAAAPsOIVAAAAAElEQVQ1rwYe");
+        QVERIFY(writeFile(m_home.filePath("bomb.png"), bomb));
+        Collection dialog(m_parent, m_prefs);
+        const qint64 before = dialog.ui.icon_toolButton->icon().cacheKey();
+        storereport::begin();
+        person::namesFile(m_home.filePath("bomb.png"));
+        click(dialog.ui.icon_toolButton);
+        QCOMPARE(storereport::take(), QStringList{"no icon: the picture " + m_home.filePath("bomb.png") +
+                                                  " is too large, with 60000 x 60000 pixels"});
+        QCOMPARE(dialog.ui.icon_toolButton->icon().cacheKey(), before);
     }
 
     void savesSettingsToAFile()

@@ -1,4 +1,4 @@
-#include "ControlWords.h"
+#include "PipeLines.h"
 
 #include <poll.h>
 #include <unistd.h>
@@ -10,21 +10,21 @@
 
 namespace host {
 
-std::optional<std::string> ControlWords::next()
+std::optional<std::string> PipeLines::next()
 {
     while (!m_bytes.empty() || fill()) {
         const std::size_t end = std::min(m_bytes.find('\n'), m_bytes.size());
-        m_word.append(m_bytes, 0, std::min(end, longestWord - m_word.size()));
+        m_line.append(m_bytes, 0, std::min(end, m_longest - m_line.size()));
         const bool isWhole = end < m_bytes.size();
         m_bytes.erase(0, end + (isWhole ? 1 : 0));
         if (isWhole)
-            return std::exchange(m_word, {});
+            return std::exchange(m_line, {});
     }
     return std::nullopt;
 }
 
 /// Asks before it reads: whoever made the pipe may not expect it to become one that does not wait.
-bool ControlWords::fill()
+bool PipeLines::fill()
 {
     pollfd waiting{m_descriptor, POLLIN, 0};
     if (m_isAtEnd || poll(&waiting, 1, 0) <= 0)

@@ -1,0 +1,197 @@
+#include "RunBar.h"
+
+#include "host/desktop/look/Drawings.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLocale>
+
+namespace host::desktop {
+
+using Command = RunMachine::Command;
+using State = RunMachine::State;
+
+namespace {
+
+const int announceMilliseconds = 5000;
+const int estimateMilliseconds = 3000;
+
+} // namespace
+
+RunBar::RunBar(Workbench& workbench, QWidget* parent)
+    : QWidget(parent), m_workbench(workbench), m_sign(new QLabel(this)), m_text(new ElidedLabel(this)),
+      m_progress(new QProgressBar(this)),
+      m_why(button(tr("Show &Why"), tr("Shows the documents that failed or cannot be changed"))),
+      m_undo(button(tr("&Undo This Run…"), tr("Gives each document back as it was before the run"))),
+      m_again(button(tr("Try Failed &Again"), tr("Runs once more over what failed or was not done"))),
+      m_save(button(tr("&Save Report…"), tr("Keeps what became of each document in a file"))),
+      m_pause(button(tr("&Pause"), tr("Begins no further document until it goes on"))),
+      m_stop(button(tr("S&top"), tr("Finishes the documents that are being worked on, and begins no more")))
+{
+    m_text->setAccessibleName(tr("Status"));
+    m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_progress->setAccessibleName(tr("Progress"));
+    m_progress->setTextVisible(false);
+    m_progress->setFixedWidth(180);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(12, 6, 12, 6);
+    row->setSpacing(8);
+    row->addWidget(m_sign);
+    row->addWidget(m_text, 1);
+    for (QWidget* each :
+         {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_why), static_cast<QWidget*>(m_again),
+          static_cast<QWidget*>(m_save), static_cast<QWidget*>(m_undo), static_cast<QWidget*>(m_pause),
+          static_cast<QWidget*>(m_stop)})
+        row->addWidget(each);
+    setMinimumHeight(m_stop->sizeHint().height() + 14);
+    connect(m_why, &QPushButton::clicked, this, &RunBar::whyWanted);
+    connect(m_undo, &QPushButton::clicked, this, &RunBar::undoWanted);
+    connect(m_save, &QPushButton::clicked, this, &RunBar::saveWanted);
+    connect(m_again, &QPushButton::clicked, &workbench, &Workbench::tryAgain);
+    connect(m_stop, &QPushButton::clicked, &workbench, &Workbench::stop);
+    connect(m_pause, &QPushButton::clicked, this, [this] {
+        m_workbench.machine().state() == State::Paused ? m_workbench.resume() : m_workbench.pause();
+    });
+    connect(&workbench, &Workbench::countsChanged, this, &RunBar::show);
+    connect(&workbench, &Workbench::progressed, this, &RunBar::showProgress);
+    connect(&workbench.machine(), &RunMachine::changed, this, [this] {
+        m_said.clear();
+        m_running.start();
+        show();
+        showProgress();
+    });
+    show();
+    showProgress();
+}
+
+QPushButton* RunBar::button(const QString& text, const QString& help)
+{
+    auto* made = new QPushButton(text, this);
+    made->setToolTip(help);
+    made->setWhatsThis(help);
+    made->setAutoDefault(false);
+    return made;
+}
+
+void RunBar::say(const QString& text, bool isTrouble)
+{
+    m_said = text.simplified();
+    m_isTrouble = isTrouble;
+    show();
+    announce(m_said);
+}
+
+void RunBar::show()
+{
+    const State state = m_workbench.machine().state();
+    const Workbench::Counts counts = m_workbench.counts();
+    const bool areResults = state == State::Results;
+    m_text->setText(m_said.isEmpty() ? countsInWords() : m_said);
+    m_text->setToolTip(m_text->text());
+    m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
+    m_sign->setVisible(!m_said.isEmpty() && m_isTrouble);
+    m_why->setVisible(areResults ? counts.failed > 0 : state == State::Ready && counts.cannot > 0);
+    m_why->setText(areResults ? tr("Sho&w %n Failed", "", counts.failed) : tr("Show &Why"));
+    m_undo->setVisible(areResults && counts.changed > 0 && m_workbench.undoableRun() == 0);
+    m_again->setVisible(areResults && counts.failed + counts.notDone > 0);
+    m_save->setVisible(areResults);
+    m_pause->setVisible(state == State::Running || state == State::Paused);
+    m_pause->setText(state == State::Paused ? tr("Go &On") : tr("&Pause"));
+    m_stop->setVisible(m_workbench.machine().isEnabled(Command::Stop));
+    if (areResults)
+        announce(m_text->text());
+}
+
+void RunBar::showProgress()
+{
+    const DocumentTask* task = m_workbench.task();
+    m_progress->setVisible(task != nullptr);
+    if (task == nullptr)
+        return;
+    m_progress->setMaximum(task->total());
+    m_progress->setValue(task->done());
+    if (m_said.isEmpty())
+        m_text->setText(countsInWords());
+    if (m_workbench.machine().isWriting() && m_announced.hasExpired(announceMilliseconds))
+        announce(m_text->text());
+}
+
+QString RunBar::countsInWords() const
+{
+    const Workbench::Counts counts = m_workbench.counts();
+    const DocumentTask* task = m_workbench.task();
+    const QString done =
+        task == nullptr
+            ? QString()
+            : tr("%1 of %2").arg(QLocale().toString(task->done()), QLocale().toString(task->total()));
+    switch (m_workbench.machine().state()) {
+    case State::Empty:
+        return tr("The list is empty.");
+    case State::Reading:
+        return tr("Reading… %n document(s) so far", "", m_workbench.table().count());
+    case State::Checking: {
+        const QString problem = m_workbench.destination().problem();
+        return !problem.isEmpty() ? problem : tr("Finding out what would change… %1").arg(done);
+    }
+    case State::Ready:
+        return plannedInWords(counts);
+    case State::Running:
+        return tr("Changing… %1").arg(done) + timeLeft();
+    case State::Paused:
+        return tr("Paused at %1").arg(done);
+    case State::Stopping:
+        return tr("Stopping… documents that are being worked on are finished");
+    case State::Undoing:
+        return tr("Undoing…");
+    case State::Results:
+        return doneInWords(counts);
+    case State::Listed:
+        break;
+    }
+    return tr("Say on the right what is to change.");
+}
+
+QString RunBar::plannedInWords(const Workbench::Counts& counts)
+{
+    QString text =
+        counts.willChange == 0 ? tr("Nothing would change") : tr("%n will change", "", counts.willChange);
+    if (counts.asAsked > 0)
+        text += "  ·  " + tr("%n open so already", "", counts.asAsked);
+    if (counts.cannot > 0)
+        text += "  ·  " + tr("%n cannot be changed", "", counts.cannot);
+    return text;
+}
+
+QString RunBar::doneInWords(const Workbench::Counts& counts)
+{
+    QString text = tr("%n changed", "", counts.changed);
+    if (counts.unchanged > 0)
+        text += "  ·  " + tr("%n as they were", "", counts.unchanged);
+    if (counts.failed > 0)
+        text += "  ·  " + tr("%n failed", "", counts.failed);
+    if (counts.notDone > 0)
+        text += "  ·  " + tr("%n not done", "", counts.notDone);
+    return text;
+}
+
+QString RunBar::timeLeft() const
+{
+    const DocumentTask* task = m_workbench.task();
+    if (task == nullptr || task->done() == 0 || m_running.elapsed() < estimateMilliseconds)
+        return {};
+    const double each = double(m_running.elapsed()) / task->done();
+    const int seconds = static_cast<int>(each * (task->total() - task->done()) / 1000) + 1;
+    return "  ·  " + (seconds < 90 ? tr("about %n second(s) left", "", seconds)
+                                   : tr("about %n minute(s) left", "", (seconds + 30) / 60));
+}
+
+/// Screen readers hear of it without the focus being there.
+void RunBar::announce(const QString& text)
+{
+    m_announced.start();
+    m_text->setAccessibleDescription(text);
+    QAccessibleEvent event(m_text, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace host::desktop

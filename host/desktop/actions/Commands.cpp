@@ -1,0 +1,327 @@
+#include "Commands.h"
+
+#include "host/desktop/dialogs/HistoryDialog.h"
+#include "host/desktop/dialogs/StartQuestion.h"
+
+#include "host/desktop/platform/Dialogs.h"
+#include "host/desktop/platform/DroppedNames.h"
+#include "host/desktop/platform/OpenWith.h"
+#include "host/desktop/rows/RowTexts.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSaveFile>
+
+namespace host::desktop {
+
+using Command = RunMachine::Command;
+using Id = ActionTable::Id;
+
+namespace {
+
+struct Gate
+{
+    Id id;
+    Command command;
+};
+
+const Gate gates[] = {
+    {Id::AddFiles, Command::Add},        {Id::AddFolder, Command::Add},
+    {Id::Paste, Command::Add},           {Id::Remove, Command::Remove},
+    {Id::ReadAgain, Command::Remove},    {Id::Password, Command::Remove},
+    {Id::LikeThis, Command::Edit},       {Id::KeepAll, Command::Edit},
+    {Id::Configure, Command::Configure}, {Id::Start, Command::Start},
+    {Id::Stop, Command::Stop},           {Id::TryAgain, Command::TryAgain},
+    {Id::UndoLast, Command::UndoRun},    {Id::SaveReport, Command::TryAgain},
+};
+
+/// In a field of a table with tabs between.
+QString field(QString text)
+{
+    return text.replace('\t', ' ').replace('\n', ' ');
+}
+
+} // namespace
+
+Commands::Commands(Workbench& workbench, ActionTable& actions, QWidget* window)
+    : QObject(window), m_workbench(workbench), m_actions(actions), m_window(window)
+{
+    connectAll();
+    connect(&workbench.machine(), &RunMachine::changed, this, &Commands::enable);
+    connect(&workbench.list(), &ListHistory::changed, this, &Commands::enable);
+    connect(&workbench.history(), &RunHistory::modelReset, this, &Commands::enable);
+    connect(&workbench, &Workbench::targetsChanged, this, &Commands::enable);
+    connect(&workbench.order(), &DocumentOrder::selectionMoved, this, &Commands::enable);
+    enable();
+}
+
+void Commands::connectAll()
+{
+    const auto on = [this](Id id, auto what) { connect(m_actions[id], &QAction::triggered, this, what); };
+    on(Id::AddFiles, &Commands::addFiles);
+    on(Id::AddFolder, &Commands::addFolder);
+    on(Id::Paste, &Commands::paste);
+    on(Id::Remove, [this] { m_workbench.remove(m_workbench.order().selected()); });
+    on(Id::UndoList, [this] { m_workbench.undoList(); });
+    on(Id::RedoList, [this] { m_workbench.redoList(); });
+    on(Id::SelectAll,
+       [this] { m_workbench.order().select(m_workbench.order().shown(), m_workbench.order().current()); });
+    on(Id::ReadAgain, [this] { m_workbench.readAgain(m_workbench.order().shown()); });
+    on(Id::OpenInViewer, &Commands::openInViewer);
+    on(Id::ShowInFolder, &Commands::showInFolder);
+    on(Id::CopyPaths, &Commands::copyPaths);
+    on(Id::CopyCommand, &Commands::copyCommand);
+    on(Id::LikeThis, &Commands::likeThis);
+    on(Id::KeepAll, [this] { m_workbench.setDraft(ChangeDraft()); });
+    on(Id::Start, &Commands::start);
+    on(Id::Pause, [this] {
+        m_workbench.machine().isEnabled(Command::Resume) ? m_workbench.resume() : m_workbench.pause();
+    });
+    on(Id::Stop, [this] { m_workbench.stop(); });
+    on(Id::TryAgain, [this] { m_workbench.tryAgain(); });
+    on(Id::UndoLast, &Commands::undoLast);
+    on(Id::SaveReport, &Commands::saveReport);
+    on(Id::Password, &Commands::askPassword);
+    on(Id::Configure, &Commands::configure);
+    on(Id::History, &Commands::showHistory);
+    on(Id::About, &Commands::about);
+}
+
+void Commands::enable()
+{
+    for (const Gate& gate : gates) {
+        const QString reason = m_workbench.machine().reasonAgainst(gate.command);
+        m_actions[gate.id]->setEnabled(reason.isEmpty());
+        m_actions[gate.id]->setToolTip(reason.isEmpty() ? m_actions[gate.id]->statusTip() : reason);
+    }
+    const RunMachine& machine = m_workbench.machine();
+    const ListHistory& list = m_workbench.list();
+    m_actions[Id::Pause]->setEnabled(machine.isEnabled(Command::Pause) || machine.isEnabled(Command::Resume));
+    m_actions[Id::UndoList]->setEnabled(machine.isEnabled(Command::UndoList) && list.canUndo());
+    m_actions[Id::RedoList]->setEnabled(machine.isEnabled(Command::UndoList) && list.canRedo());
+    m_actions[Id::UndoList]->setText(list.undoText());
+    m_actions[Id::RedoList]->setText(list.redoText());
+    if (m_workbench.undoableRun() < 0)
+        m_actions[Id::UndoLast]->setEnabled(false);
+    const bool hasCurrent = current() != nullptr;
+    for (const Id id : {Id::OpenInViewer, Id::ShowInFolder, Id::CopyPaths})
+        m_actions[id]->setEnabled(hasCurrent);
+    if (!hasCurrent || !current()->facts)
+        m_actions[Id::LikeThis]->setEnabled(false);
+    m_actions[Id::CopyCommand]->setEnabled(!m_workbench.draft().isEmpty());
+}
+
+const DocumentRecord* Commands::current() const
+{
+    return m_workbench.table().find(m_workbench.order().current());
+}
+
+QVector<DocumentId> Commands::chosen() const
+{
+    const QVector<DocumentId> selected = m_workbench.order().selected();
+    return selected.isEmpty() && current() != nullptr ? QVector<DocumentId>{current()->id} : selected;
+}
+
+void Commands::addFiles()
+{
+    dialogs::askFiles(m_window, tr("Add Files"), [this](const QStringList& names) {
+        QVector<QByteArray> paths;
+        for (const QString& name : names)
+            paths.append(droppednames::absolute(QFile::encodeName(name)));
+        m_workbench.add(paths);
+    });
+}
+
+void Commands::addFolder()
+{
+    dialogs::askFolder(m_window, tr("Add Folder"), {}, [this](const QString& name) {
+        if (!name.isEmpty())
+            m_workbench.add({droppednames::absolute(QFile::encodeName(name))});
+    });
+}
+
+void Commands::paste()
+{
+    const QMimeData* data = QApplication::clipboard()->mimeData();
+    const QVector<QByteArray> names = data != nullptr ? droppednames::of(*data) : QVector<QByteArray>();
+    if (names.isEmpty())
+        return emit said(tr("The clipboard holds no files, folders or paths."));
+    m_workbench.add(names);
+}
+
+void Commands::chooseFolder()
+{
+    dialogs::askFolder(m_window, tr("Folder for the Results"), m_workbench.destination().folder,
+                       [this](const QString& name) {
+                           if (name.isEmpty())
+                               return;
+                           Destination destination = m_workbench.destination();
+                           destination.kind = Destination::Kind::Folder;
+                           destination.folder = name;
+                           m_workbench.setDestination(destination);
+                       });
+}
+
+void Commands::start()
+{
+    if (!m_workbench.machine().isEnabled(Command::Start))
+        return;
+    auto* question = new StartQuestion(m_workbench, m_window);
+    question->setAttribute(Qt::WA_DeleteOnClose);
+    connect(question, &QDialog::accepted, &m_workbench, &Workbench::start);
+    question->open();
+}
+
+void Commands::undoLast()
+{
+    undoRun(m_workbench.undoableRun());
+}
+
+void Commands::undoRun(int row)
+{
+    if (!m_workbench.history().canUndo(row))
+        return;
+    const RunHistory::Run& run = m_workbench.history().runs().at(static_cast<std::size_t>(row));
+    const QString question = run.changed < 0 ? tr("Undo this run?")
+                                             : tr("Give %n document(s) back as they were?", "", run.changed);
+    dialogs::confirm(m_window, question,
+                     tr("Documents that have been changed since by something else are left alone."),
+                     tr("&Undo"), [this, row] { m_workbench.undoRun(row); });
+}
+
+void Commands::saveReport()
+{
+    dialogs::askSaveName(m_window, tr("Save Report"), tr("report.tsv"), [this](const QString& name) {
+        QSaveFile file(name);
+        QByteArray bytes =
+            (tr("Document") + "\t" + tr("State") + "\t" + tr("Change") + "\t" + tr("Reason") + "\n").toUtf8();
+        for (const DocumentRecord& record : m_workbench.table().records())
+            if (record.result)
+                bytes += (field(QFile::decodeName(record.path)) + "\t" + rowtexts::stateOf(record) + "\t" +
+                          field(rowtexts::differences(*record.result)) + "\t" +
+                          field(rowtexts::reasonOf(record)) + "\n")
+                             .toUtf8();
+        if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+            emit said(tr("The report is in %1.").arg(name));
+        else
+            emit failed(tr("The report could not be written to %1: %2").arg(name, file.errorString()));
+    });
+}
+
+void Commands::configure()
+{
+    RunMachine& machine = m_workbench.machine();
+    if (!machine.isEnabled(Command::Configure))
+        return;
+    emit dialogOpens();
+    machine.setBusy(true);
+    std::optional<StoredChoice> choice;
+    try {
+        const std::shared_ptr<const DocumentFacts> facts = current() != nullptr ? current()->facts : nullptr;
+        choice = m_dialog.show(m_window, m_workbench.draft().stored(), facts.get());
+    } catch (const std::runtime_error& error) {
+        emit failed(QString::fromStdString(error.what()));
+    }
+    machine.setBusy(false);
+    for (const QString& complaint : m_dialog.complaints())
+        emit failed(complaint);
+    if (!choice)
+        return;
+    ChangeDraft draft;
+    draft.setStored(*choice);
+    m_workbench.setDraft(draft);
+}
+
+void Commands::showHistory()
+{
+    m_workbench.history().reload();
+    auto* dialog = new HistoryDialog(m_workbench.history(), m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &HistoryDialog::undoWanted, this, &Commands::undoRun);
+    dialog->open();
+}
+
+void Commands::about()
+{
+    auto* box = new QMessageBox(QMessageBox::NoIcon, tr("About Quintar"),
+                                tr("Quintar %1").arg(QCoreApplication::applicationVersion()),
+                                QMessageBox::Close, m_window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setIconPixmap(m_window->windowIcon().pixmap(64, 64));
+    box->setInformativeText(
+        tr("Says how PDF documents open. It adds to a document and never takes away: every run in place "
+           "can be undone."));
+    box->open();
+}
+
+void Commands::openInViewer()
+{
+    if (current() != nullptr && !openwith::viewer(current()->path))
+        emit failed(tr("No viewer took %1.").arg(current()->name));
+}
+
+void Commands::showInFolder()
+{
+    if (current() != nullptr && !openwith::folder(current()->path))
+        emit failed(tr("No file manager took %1.").arg(current()->folder));
+}
+
+void Commands::copyPaths()
+{
+    QStringList paths;
+    for (const DocumentId id : chosen())
+        if (const DocumentRecord* record = m_workbench.table().find(id))
+            paths += QFile::decodeName(record->path);
+    QApplication::clipboard()->setText(paths.join('\n'));
+}
+
+void Commands::copyCommand()
+{
+    QApplication::clipboard()->setText(
+        m_workbench.runOrder().commandLine(m_workbench.table(), m_workbench.targets()));
+    emit said(tr("The command is in the clipboard."));
+}
+
+void Commands::likeThis()
+{
+    if (current() == nullptr || !current()->facts)
+        return;
+    const QString name = current()->name;
+    ChangeDraft draft;
+    draft.setView(ChangeDraft::like(*current()->facts));
+    m_workbench.setDraft(draft);
+    emit said(tr("The change makes documents open as %1 does.").arg(name));
+}
+
+void Commands::askPassword()
+{
+    dialogs::askPassword(
+        m_window,
+        tr("The password is tried on all documents that want one. It is kept until this window is closed."),
+        [this](const QString& text) {
+            if (!text.isEmpty())
+                m_workbench.givePassword(text.toUtf8());
+        });
+}
+
+void Commands::help(reasontexts::Remedy remedy)
+{
+    switch (remedy) {
+    case reasontexts::Remedy::Password:
+        return askPassword();
+    case reasontexts::Remedy::AppendSigned:
+    case reasontexts::Remedy::AppendCertified:
+        return m_workbench.appendAllTheSame(chosen());
+    case reasontexts::Remedy::ReadAgain:
+        return m_workbench.readAgain(chosen());
+    case reasontexts::Remedy::ShowFolder:
+        return showInFolder();
+    case reasontexts::Remedy::None:
+        break;
+    }
+}
+
+} // namespace host::desktop

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "ActionTable.h"
+
+#include "host/desktop/presets/ActionDialog.h"
+#include "host/desktop/texts/ReasonTexts.h"
+#include "host/desktop/workbench/Workbench.h"
+
+namespace host::desktop {
+
+/// What the actions do: asks what has to be asked and passes it on to the workbench.
+class Commands : public QObject
+{
+    Q_OBJECT
+
+public:
+    Commands(Workbench& workbench, ActionTable& actions, QWidget* window);
+
+    void addFiles();
+    void addFolder();
+    void paste();
+    void chooseFolder();
+    void start();
+    void undoLast();
+    void undoRun(int row);
+    void saveReport();
+    /// The action's own dialog; what is accepted there is the change.
+    void configure();
+    void showHistory();
+    void help(reasontexts::Remedy remedy);
+
+signals:
+    void said(const QString& text);
+    void failed(const QString& text);
+    /// A dialog of a plug-in opens: a fault in it would end the window.
+    void dialogOpens();
+
+private:
+    void connectAll();
+    void openInViewer();
+    void showInFolder();
+    void copyPaths();
+    void copyCommand();
+    void likeThis();
+    void askPassword();
+    void about();
+    void enable();
+    const DocumentRecord* current() const;
+    QVector<DocumentId> chosen() const;
+
+    Workbench& m_workbench;
+    ActionTable& m_actions;
+    QWidget* m_window;
+    ActionDialog m_dialog;
+};
+
+} // namespace host::desktop

@@ -1,0 +1,45 @@
+#include "Destination.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace host::desktop {
+
+QString Destination::problem() const
+{
+    if (kind == Kind::Folder && folder.trimmed().isEmpty())
+        return QCoreApplication::translate("Destination", "Choose the folder for the results.");
+    if (kind == Kind::Suffix && suffix.trimmed().isEmpty())
+        return QCoreApplication::translate("Destination", "Say what is added to the names.");
+    if (kind == Kind::Suffix && suffix.contains('/'))
+        return QCoreApplication::translate("Destination", "What is added to the names cannot hold a slash.");
+    return {};
+}
+
+QStringList Destination::arguments(const QString& base) const
+{
+    switch (kind) {
+    case Kind::InPlace:
+        return {"--in-place"};
+    case Kind::Folder:
+        return {"--output", folder, "--base", base};
+    case Kind::Suffix:
+        return {"--suffix", suffix};
+    }
+    return {};
+}
+
+QString Destination::inWords() const
+{
+    switch (kind) {
+    case Kind::InPlace:
+        return QCoreApplication::translate("Destination", "in place");
+    case Kind::Folder:
+        return QCoreApplication::translate("Destination", "to %1").arg(QDir::toNativeSeparators(folder));
+    case Kind::Suffix:
+        return QCoreApplication::translate("Destination", "beside them, as name-%1.pdf").arg(suffix);
+    }
+    return {};
+}
+
+} // namespace host::desktop

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace host::desktop {
+
+/// Where a run puts its results.
+struct Destination
+{
+    enum class Kind { InPlace, Folder, Suffix };
+
+    Kind kind = Kind::InPlace;
+    QString folder;
+    QString suffix = QStringLiteral("new");
+
+    /// Empty, or what is missing before a run can begin; for people.
+    QString problem() const;
+    /// The program's options.
+    /// \param base the folder below which results in a folder keep their paths.
+    QStringList arguments(const QString& base) const;
+    /// In a sentence: "in place".
+    QString inWords() const;
+
+    bool operator==(const Destination&) const = default;
+};
+
+} // namespace host::desktop

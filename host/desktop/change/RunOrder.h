@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ChangeDraft.h"
+#include "Destination.h"
+#include "host/desktop/documents/DocumentTable.h"
+
+namespace host::desktop {
+
+/// All that a run is told besides its documents.
+struct RunOrder
+{
+    ChangeDraft draft;
+    Destination destination;
+
+    /// The program's options, without those about documents, reports and output.
+    QStringList arguments(const QString& base) const;
+    /// The deepest folder in which all of the documents lie.
+    static QString commonFolder(const DocumentTable& table, const DocumentTable::Ids& ids);
+    /// Where the result of a document goes. \param base as for arguments().
+    QByteArray resultOf(const QByteArray& path, const QString& base) const;
+    /// The command that does the same, for a shell.
+    QString commandLine(const DocumentTable& table, const DocumentTable::Ids& ids) const;
+
+    bool operator==(const RunOrder&) const = default;
+};
+
+} // namespace host::desktop

@@ -1,0 +1,132 @@
+#include "ChildRun.h"
+
+#include "EventReader.h"
+
+#include <QElapsedTimer>
+
+namespace host::desktop {
+
+namespace {
+
+const int tickMilliseconds = 50;
+/// Of each tick, so that the window answers.
+const int readingMilliseconds = 8;
+const int killMilliseconds = 10000;
+const int mostWaiting = 64 << 20;
+const int mostErrors = 4096;
+
+/// Kept until it has ended by itself or is killed; nobody hears it any more.
+void abandon(QProcess* process)
+{
+    process->disconnect();
+    process->setParent(nullptr);
+    if (process->state() == QProcess::NotRunning)
+        return process->deleteLater();
+    QObject::connect(process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), process,
+                     &QObject::deleteLater);
+    process->write("stop\n");
+    process->closeWriteChannel();
+    QTimer::singleShot(killMilliseconds, process, &QProcess::kill);
+}
+
+} // namespace
+
+ChildRun::ChildRun(QObject* parent) : QObject(parent), m_process(new QProcess(this))
+{
+    m_tick.setInterval(tickMilliseconds);
+    connect(&m_tick, &QTimer::timeout, this, &ChildRun::tick);
+    connect(m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, &ChildRun::end);
+    connect(m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error != QProcess::FailedToStart)
+            return;
+        m_isBroken = true;
+        m_ending.words =
+            tr("%1 could not be started: %2").arg(m_process->program(), m_process->errorString());
+        end();
+    });
+}
+
+ChildRun::~ChildRun()
+{
+    abandon(m_process);
+}
+
+void ChildRun::start(const QString& program, const QStringList& arguments)
+{
+    m_process->start(program, arguments);
+    m_tick.start();
+}
+
+void ChildRun::stop()
+{
+    m_ending.wasStopped = true;
+    order("stop");
+    QTimer::singleShot(killMilliseconds, m_process, &QProcess::kill);
+}
+
+void ChildRun::order(const char* word)
+{
+    m_process->write(QByteArray(word) + "\n");
+}
+
+void ChildRun::tick()
+{
+    m_lines.add(m_process->readAllStandardOutput());
+    keepErrors();
+    take(false);
+    if (!m_isBroken && (m_lines.isTooLong() || m_lines.waiting() > mostWaiting))
+        breakOff(tr("the program said more than can be understood"));
+}
+
+/// \param all reads what has come to its end; else no longer than the window can wait.
+void ChildRun::take(bool all)
+{
+    QElapsedTimer clock;
+    clock.start();
+    Events events;
+    while (!m_isBroken && (all || clock.elapsed() < readingMilliseconds)) {
+        const std::optional<QByteArray> line = m_lines.next();
+        if (!line)
+            break;
+        Event event = eventreader::read(*line);
+        if (const auto* bad = std::get_if<BadLine>(&event))
+            breakOff(bad->reason);
+        else if (const auto* last = std::get_if<EndEvent>(&event)) {
+            m_ending.isComplete = true;
+            m_ending.counts = last->counts;
+            m_ending.wasStopped = m_ending.wasStopped || last->wasStopped;
+        }
+        events.append(std::move(event));
+    }
+    if (!events.isEmpty())
+        emit came(events);
+}
+
+void ChildRun::keepErrors()
+{
+    m_errors = (m_errors + m_process->readAllStandardError()).right(mostErrors);
+}
+
+void ChildRun::breakOff(const QString& reason)
+{
+    m_isBroken = true;
+    m_ending.words = reason;
+    m_process->kill();
+}
+
+void ChildRun::end()
+{
+    if (m_hasEnded)
+        return;
+    m_hasEnded = true;
+    m_tick.stop();
+    m_lines.add(m_process->readAllStandardOutput());
+    keepErrors();
+    take(true);
+    m_ending.isComplete = m_ending.isComplete && !m_isBroken;
+    if (m_ending.words.isEmpty())
+        m_ending.words = QString::fromLocal8Bit(m_errors).trimmed();
+    emit ended(m_ending);
+}
+
+} // namespace host::desktop

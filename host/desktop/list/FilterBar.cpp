@@ -1,0 +1,85 @@
+#include "FilterBar.h"
+
+#include "host/desktop/look/Drawings.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLocale>
+
+namespace host::desktop {
+
+namespace {
+
+const int typingMilliseconds = 120;
+
+} // namespace
+
+FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
+    : QWidget(parent), m_workbench(workbench), m_kind(new QComboBox(this)), m_search(new QLineEdit(this)),
+      m_count(new QLabel(this))
+{
+    auto* label = new QLabel(tr("S&how:"), this);
+    label->setBuddy(m_kind);
+    for (const DocumentFilter::Kind kind : DocumentFilter::kinds())
+        m_kind->addItem(DocumentFilter::nameOf(kind), static_cast<int>(kind));
+    m_kind->setAccessibleName(tr("Show"));
+    m_search->setAccessibleName(tr("Search"));
+    m_search->setPlaceholderText(tr("Search name, folder, title"));
+    m_search->setClearButtonEnabled(true);
+    m_search->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
+    m_sign =
+        m_search->addAction(drawings::icon(drawings::Sign::Search, palette()), QLineEdit::LeadingPosition);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    row->addWidget(label);
+    row->addWidget(m_kind);
+    row->addWidget(m_search, 1);
+    row->addWidget(m_count);
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(typingMilliseconds);
+    connect(&m_soon, &QTimer::timeout, this, &FilterBar::apply);
+    connect(m_kind, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &FilterBar::apply);
+    connect(m_search, &QLineEdit::textChanged, &m_soon, QOverload<>::of(&QTimer::start));
+    connect(&workbench.order(), &DocumentOrder::shownChanged, this, &FilterBar::tell);
+    tell();
+}
+
+void FilterBar::show(DocumentFilter::Kind kind)
+{
+    m_search->clear();
+    m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(kind)));
+}
+
+void FilterBar::clear()
+{
+    m_search->clear();
+    m_kind->setCurrentIndex(0);
+}
+
+void FilterBar::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && m_sign != nullptr)
+        m_sign->setIcon(drawings::icon(drawings::Sign::Search, palette()));
+    QWidget::changeEvent(event);
+}
+
+void FilterBar::apply()
+{
+    DocumentFilter filter;
+    filter.setKind(static_cast<DocumentFilter::Kind>(m_kind->currentData().toInt()));
+    filter.setSearch(m_search->text());
+    m_workbench.order().setFilter(filter);
+}
+
+void FilterBar::tell()
+{
+    const int all = m_workbench.table().count();
+    const int shown = m_workbench.order().shown().size();
+    m_count->setText(shown == all
+                         ? tr("%n document(s)", "", all)
+                         : tr("%1 of %2 shown").arg(QLocale().toString(shown), QLocale().toString(all)));
+}
+
+} // namespace host::desktop

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLabel>
+
+namespace host::desktop {
+
+/// A line of text that is cut off with dots where it does not fit; the whole text is its tool tip then.
+class ElidedLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace host::desktop

@@ -1,0 +1,28 @@
+#include "MainWindow.h"
+
+#include "host/desktop/platform/DroppedNames.h"
+#include "host/desktop/platform/Language.h"
+#include "host/program/HostApplication.h"
+
+#include <QGuiApplication>
+
+#include <clocale>
+#include <csignal>
+
+int main(int argc, char** argv)
+{
+    using namespace host;
+    std::signal(SIGPIPE, SIG_IGN); // a child that ends while it is told something
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    const std::unique_ptr<QCoreApplication> application = hostapplication::forWindows(argc, argv);
+    desktop::language::choose();
+    QGuiApplication::setDesktopFileName("quintar-window");
+    desktop::MainWindow window(desktop::MainWindow::Places::ofUser());
+    QVector<QByteArray> paths;
+    for (int place = 1; place < argc; ++place)
+        if (const QByteArray name = argv[place]; !name.startsWith('-'))
+            paths.append(desktop::droppednames::absolute(name));
+    window.show();
+    window.begin(paths);
+    return QCoreApplication::exec();
+}

@@ -1,0 +1,128 @@
+#include "PreviewPane.h"
+
+#include "host/desktop/look/Drawings.h"
+
+#include <QPainter>
+
+namespace host::desktop {
+
+namespace {
+
+const double margin = 12;
+const double titleHeight = 20;
+
+QString inWords(const PreviewScene& scene)
+{
+    const QString panel = scene.isFullScreen                              ? PreviewPane::tr("full screen")
+                          : scene.panel == PreviewScene::Panel::Bookmarks ? PreviewPane::tr("bookmarks panel")
+                          : scene.panel == PreviewScene::Panel::Pages     ? PreviewPane::tr("pages panel")
+                          : scene.panel == PreviewScene::Panel::Layers    ? PreviewPane::tr("layers panel")
+                          : scene.panel == PreviewScene::Panel::Attachments
+                              ? PreviewPane::tr("attachments panel")
+                              : PreviewPane::tr("no panel");
+    return PreviewPane::tr("title bar “%1”, %2, page %3 of %4")
+        .arg(scene.titleBar, panel)
+        .arg(scene.page)
+        .arg(scene.pages);
+}
+
+/// Of what is asked for, what only some viewers do.
+QString followersOf(const PreviewScene& scene)
+{
+    if (scene.isFullScreen)
+        return PreviewPane::tr("Many viewers ask before full screen; browsers ignore it.");
+    if (!scene.hasToolBar || !scene.hasMenuBar || !scene.hasControls || scene.fitsWindow)
+        return PreviewPane::tr("Full-featured viewers do this; browsers ignore bars and windows.");
+    if (scene.panel == PreviewScene::Panel::Layers || scene.panel == PreviewScene::Panel::Attachments)
+        return PreviewPane::tr("Viewers that have this panel show it.");
+    if (scene.layout == PreviewScene::Layout::TwoColumns || scene.layout == PreviewScene::Layout::TwoPages)
+        return PreviewPane::tr("Full-featured viewers and Firefox follow the layout; others keep their own.");
+    return PreviewPane::tr("Most desktop viewers do this; browsers follow page and zoom.");
+}
+
+} // namespace
+
+PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent)
+    : QWidget(parent), m_workbench(workbench), m_outline(workbench.program())
+{
+    setAccessibleName(tr("Preview"));
+    setMinimumHeight(170);
+    setWhatsThis(tr(
+        "A drawing of the first moment of the current document, as it opens now and as it will. Each viewer "
+        "decides for itself what of this it does."));
+    connect(&workbench.order(), &DocumentOrder::selectionMoved, this, &PreviewPane::show);
+    connect(&workbench.table(), &DocumentTable::changed, this, &PreviewPane::show);
+    connect(&workbench.order(), &DocumentOrder::shownChanged, this, &PreviewPane::show);
+    connect(&m_outline, &Outline::came, this, &PreviewPane::show);
+    show();
+}
+
+void PreviewPane::show()
+{
+    const DocumentRecord* record = m_workbench.table().find(m_workbench.order().current());
+    const bool wasKnown = m_isKnown;
+    m_isKnown = record != nullptr && record->facts;
+    if (!m_isKnown) {
+        setAccessibleDescription({});
+        if (wasKnown)
+            update();
+        return;
+    }
+    QVector<PreviewScene::Bookmark> bookmarks;
+    if (record->facts->bookmarks != 0 && isVisible())
+        bookmarks = m_outline.of(record->path, m_workbench.passwordOf(*record));
+    const PreviewScene before = PreviewScene::before(*record, bookmarks);
+    const PreviewScene after = PreviewScene::after(*record, bookmarks);
+    if (wasKnown && before == m_before && after == m_after)
+        return;
+    m_before = before;
+    m_after = after;
+    m_followers = followersOf(after);
+    setAccessibleDescription(
+        before == after ? tr("Opens with %1.").arg(inWords(before))
+                        : tr("Before: %1. After: %2. %3").arg(inWords(before), inWords(after), m_followers));
+    update();
+}
+
+void PreviewPane::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QRectF area = QRectF(rect()).adjusted(margin, margin / 2, -margin, -margin / 2);
+    if (!m_isKnown) {
+        painter.setPen(drawings::quietText(palette()));
+        painter.drawText(area, int(Qt::AlignCenter) | int(Qt::TextWordWrap),
+                         tr("Select a document to see how it opens."));
+        return;
+    }
+    QRectF scenes = area.adjusted(0, 0, 0, -titleHeight);
+    const double half = (scenes.width() - margin) / 2;
+    const bool isSame = m_before == m_after;
+    const bool isRightToLeft = layoutDirection() == Qt::RightToLeft;
+    QRectF first(scenes.topLeft(), QSizeF(half, scenes.height()));
+    QRectF second = first.translated(half + margin, 0);
+    if (isRightToLeft)
+        std::swap(first, second);
+    if (isSame)
+        paintScene(painter, QRectF(scenes.center().x() - half / 2, scenes.top(), half, scenes.height()),
+                   tr("Opens like this"), m_before);
+    else {
+        paintScene(painter, first, tr("Before"), m_before);
+        paintScene(painter, second, tr("After"), m_after);
+    }
+    painter.setPen(drawings::quietText(palette()));
+    const QRectF line(area.left(), area.bottom() - titleHeight + 4, area.width(), titleHeight - 4);
+    painter.drawText(line, int(Qt::AlignCenter),
+                     painter.fontMetrics().elidedText(m_followers, Qt::ElideRight, int(line.width())));
+}
+
+void PreviewPane::paintScene(QPainter& painter, const QRectF& area, const QString& title,
+                             const PreviewScene& scene)
+{
+    const QRectF head(area.topLeft(), QSizeF(area.width(), titleHeight));
+    painter.setPen(drawings::quietText(palette()));
+    painter.drawText(head, int(Qt::AlignLeft | Qt::AlignVCenter), title);
+    const SceneDrawing::Picture none = [](int) { return QImage(); };
+    SceneDrawing(scene, palette(), none).paint(painter, area.adjusted(0.5, titleHeight, -0.5, -0.5));
+}
+
+} // namespace host::desktop

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/desktop/preview/Outline.h"
+#include "host/desktop/preview/SceneDrawing.h"
+#include "host/desktop/workbench/Workbench.h"
+
+#include <QWidget>
+
+namespace host::desktop {
+
+/// How the current document opens, in a viewer that does all that is asked: before and after, side by side.
+class PreviewPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PreviewPane(Workbench& workbench, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override { return {400, 240}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void show();
+    void paintScene(QPainter& painter, const QRectF& area, const QString& title, const PreviewScene& scene);
+
+    Workbench& m_workbench;
+    Outline m_outline;
+    bool m_isKnown = false;
+    PreviewScene m_before;
+    PreviewScene m_after;
+    QString m_followers;
+};
+
+} // namespace host::desktop

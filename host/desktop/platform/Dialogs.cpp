@@ -1,0 +1,112 @@
+#include "Dialogs.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <optional>
+
+namespace host::desktop::dialogs {
+
+namespace {
+
+std::optional<QStringList> nextAnswer;
+
+std::optional<QStringList> takeAnswer()
+{
+    return std::exchange(nextAnswer, std::nullopt);
+}
+
+QFileDialog* fileDialog(QWidget* parent, const QString& title, QFileDialog::FileMode mode,
+                        const WithNames& then)
+{
+    auto* dialog = new QFileDialog(parent, title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(mode);
+    QObject::connect(dialog, &QFileDialog::filesSelected, parent, then);
+    return dialog;
+}
+
+void showInput(QWidget* parent, const QString& title, const QString& label, QLineEdit::EchoMode echo,
+               const WithText& then)
+{
+    if (const auto answer = takeAnswer())
+        return then(answer->value(0));
+    auto* dialog = new QInputDialog(parent);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(title);
+    dialog->setLabelText(label);
+    dialog->setTextEchoMode(echo);
+    dialog->resize(420, dialog->sizeHint().height());
+    QObject::connect(dialog, &QInputDialog::textValueSelected, parent, then);
+    dialog->open();
+}
+
+} // namespace
+
+void askFiles(QWidget* parent, const QString& title, const WithNames& then)
+{
+    if (const auto answer = takeAnswer())
+        return then(*answer);
+    QFileDialog* dialog = fileDialog(parent, title, QFileDialog::ExistingFiles, then);
+    dialog->setNameFilters({QCoreApplication::translate("Dialogs", "PDF documents (*.pdf *.PDF)"),
+                            QCoreApplication::translate("Dialogs", "All files (*)")});
+    dialog->open();
+}
+
+void askFolder(QWidget* parent, const QString& title, const QString& start, const WithText& then)
+{
+    if (const auto answer = takeAnswer())
+        return then(answer->value(0));
+    QFileDialog* dialog = fileDialog(parent, title, QFileDialog::Directory,
+                                     [then](const QStringList& names) { then(names.value(0)); });
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    if (!start.isEmpty())
+        dialog->setDirectory(start);
+    dialog->open();
+}
+
+void askSaveName(QWidget* parent, const QString& title, const QString& start, const WithText& then)
+{
+    if (const auto answer = takeAnswer())
+        return then(answer->value(0));
+    QFileDialog* dialog = fileDialog(parent, title, QFileDialog::AnyFile,
+                                     [then](const QStringList& names) { then(names.value(0)); });
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->selectFile(start);
+    dialog->open();
+}
+
+void askText(QWidget* parent, const QString& title, const QString& label, const WithText& then)
+{
+    showInput(parent, title, label, QLineEdit::Normal, then);
+}
+
+void askPassword(QWidget* parent, const QString& label, const WithText& then)
+{
+    showInput(parent, QCoreApplication::translate("Dialogs", "Password"), label, QLineEdit::Password, then);
+}
+
+void confirm(QWidget* parent, const QString& question, const QString& more, const QString& verb,
+             const std::function<void()>& then)
+{
+    if (takeAnswer())
+        return then();
+    auto* box = new QMessageBox(QMessageBox::Question, parent->window()->windowTitle(), question,
+                                QMessageBox::Cancel, parent);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(more);
+    QPushButton* yes = box->addButton(verb, QMessageBox::AcceptRole);
+    box->setDefaultButton(yes);
+    QObject::connect(yes, &QPushButton::clicked, parent, then);
+    box->open();
+}
+
+void setNextAnswer(const QStringList& answer)
+{
+    nextAnswer = answer;
+}
+
+} // namespace host::desktop::dialogs

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+
+/// Questions to the person. They are shown without a loop of their own, so that work goes on behind them, and a test can
+/// give the answers beforehand.
+namespace host::desktop::dialogs {
+
+using WithNames = std::function<void(const QStringList& names)>;
+using WithText = std::function<void(const QString& text)>;
+
+void askFiles(QWidget* parent, const QString& title, const WithNames& then);
+void askFolder(QWidget* parent, const QString& title, const QString& start, const WithText& then);
+void askSaveName(QWidget* parent, const QString& title, const QString& start, const WithText& then);
+void askText(QWidget* parent, const QString& title, const QString& label, const WithText& then);
+void askPassword(QWidget* parent, const QString& label, const WithText& then);
+/// Calls `then` only for yes. \param verb what the button for it says.
+void confirm(QWidget* parent, const QString& question, const QString& more, const QString& verb,
+             const std::function<void()>& then);
+
+/// What the next question is answered with instead of being shown. For tests.
+void setNextAnswer(const QStringList& answer);
+
+} // namespace host::desktop::dialogs

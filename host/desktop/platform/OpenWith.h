@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+
+/// Hands a document to other programs.
+namespace host::desktop::openwith {
+
+/// Opens it in the desktop's viewer. \returns whether somebody took it.
+bool viewer(const QByteArray& path);
+
+/// Shows it in the desktop's file manager, selected where that is possible, else its folder.
+bool folder(const QByteArray& path);
+
+} // namespace host::desktop::openwith

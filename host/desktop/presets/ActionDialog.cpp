@@ -1,0 +1,94 @@
+#include "ActionDialog.h"
+
+#include "host/program/InstallLayout.h"
+#include "host/settings/DialogSettings.h"
+#include "host/settings/SetOption.h"
+#include "host/settings/SettingsFile.h"
+#include "host/settings/SettingsFolder.h"
+#include "host/settings/SettingsWords.h"
+#include "host/terminal/UsageError.h"
+
+#include "shared/CActionInterface.h"
+#include "shared/ini/StoreReport.h"
+#include "shared/ini/StoredKeys.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+namespace host::desktop {
+
+namespace {
+
+SettingsMap settingsOf(const QStringList& options)
+{
+    SettingsMap map;
+    try {
+        for (int place = 0; place + 1 < options.size(); place += 2) {
+            const std::string word = QFile::encodeName(options.at(place + 1)).toStdString();
+            if (options.at(place) == "--set")
+                setoption::apply(word, map);
+            else
+                map = (options.at(place) == "--list" ? settingsfile::readActionList(word)
+                                                     : settingsfile::readFavorite(word))
+                          .at(0)
+                          .settings;
+        }
+    } catch (const UsageError&) { // gone or changed meanwhile: the dialog starts empty
+    }
+    return map;
+}
+
+StoredChoice choiceOf(const SettingsMap& map)
+{
+    StoredChoice choice;
+    choice.name = QCoreApplication::translate("ActionDialog", "Settings of the action");
+    std::vector<std::string> leftOut;
+    for (const std::string& word : setoption::wordsOf(map, leftOut))
+        choice.options += {"--set", QString::fromStdString(word)};
+    for (const QString& line : QString::fromStdString(settingsInWords(map)).split('\n', Qt::SkipEmptyParts))
+        choice.lines += line.simplified();
+    return choice;
+}
+
+} // namespace
+
+SettingsMap ActionDialog::startingFrom(const std::optional<StoredChoice>& start, const DocumentFacts* facts)
+{
+    if (start)
+        return settingsOf(start->options);
+    if (facts == nullptr)
+        return {};
+    ViewChange present;
+    for (const viewentries::Description& each : viewentries::all())
+        present.set(each.entry, (*facts)[each.entry]);
+    if (!facts->view.action.isEmpty())
+        present.set(ViewEntry::OpenPage, OtherAction{facts->view.action.toStdString()});
+    return DialogSettings(present).map();
+}
+
+std::optional<StoredChoice> ActionDialog::show(QWidget* parent, const std::optional<StoredChoice>& start,
+                                               const DocumentFacts* facts)
+{
+    if (m_plugin == nullptr)
+        m_plugin = std::make_unique<PluginHost>(installlayout::pluginFile());
+    for (const SettingsFolder& folder : {SettingsFolder::actionLists(), SettingsFolder::favorites()})
+        folder.make();
+    SettingsMap map = startingFrom(start, facts);
+    DialogLoadStruct load{};
+    load.pSettings = &map;
+    load.bSkipDocumentRead = true;
+    storereport::begin();
+    const bool isAccepted = m_plugin->action().ShowDialogProc(parent, &load) == 1;
+    m_complaints.clear();
+    for (const QString& report : storereport::take())
+        m_complaints += report;
+    if (!isAccepted)
+        return std::nullopt;
+    using namespace storedkeys;
+    for (const char* key :
+         {request::actionListName, request::actionListCategory, request::actionListOverwrite})
+        map.remove(key);
+    return choiceOf(map);
+}
+
+} // namespace host::desktop

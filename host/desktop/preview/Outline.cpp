@@ -1,0 +1,68 @@
+#include "Outline.h"
+
+#include <QJsonArray>
+
+namespace host::desktop {
+
+namespace {
+
+const int soonMilliseconds = 150;
+/// As many as a panel has room for.
+const int mostBookmarks = 60;
+const int mostKnown = 200;
+
+} // namespace
+
+Outline::Outline(const QString& program, QObject* parent) : QObject(parent), m_program(program)
+{
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(soonMilliseconds);
+    connect(&m_soon, &QTimer::timeout, this, &Outline::ask);
+}
+
+QVector<PreviewScene::Bookmark> Outline::of(const QByteArray& path, const QByteArray& password)
+{
+    if (const auto known = m_known.constFind(path); known != m_known.constEnd())
+        return *known;
+    if (path != m_wanted) {
+        m_wanted = path;
+        m_password = password;
+        m_soon.start();
+    }
+    return {};
+}
+
+void Outline::ask()
+{
+    m_names = NameList::of({m_wanted});
+    QStringList words{"show",         "--outline", QString::number(mostBookmarks),
+                      "--events",     "--control", "--files-from",
+                      m_names.path(), "--null"};
+    if (!m_password.isEmpty()) {
+        m_passwordFile = NameList::ofPassword(m_password);
+        words += {"--password-file", m_passwordFile.path()};
+    }
+    m_child = std::make_unique<ChildRun>();
+    connect(m_child.get(), &ChildRun::came, this, &Outline::take);
+    m_child->start(m_program, words);
+}
+
+void Outline::take(const Events& events)
+{
+    for (const Event& event : events) {
+        const auto* document = std::get_if<DocumentEvent>(&event);
+        if (document == nullptr)
+            continue;
+        QVector<PreviewScene::Bookmark> bookmarks;
+        for (const QJsonValue& each : document->facts.value("outline").toArray())
+            if (const QJsonObject entry = each.toObject(); bookmarks.size() < mostBookmarks)
+                bookmarks.append(
+                    {entry.value("level").toInt(1) - 1, entry.value("title").toString().simplified()});
+        if (m_known.size() >= mostKnown)
+            m_known.clear();
+        m_known.insert(m_wanted, bookmarks);
+        emit came();
+    }
+}
+
+} // namespace host::desktop

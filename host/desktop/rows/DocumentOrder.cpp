@@ -1,0 +1,261 @@
+#include "DocumentOrder.h"
+
+#include "RowTexts.h"
+#include "SortKeys.h"
+
+#include <algorithm>
+
+namespace host::desktop {
+
+namespace {
+
+/// Rows that change while others are still read keep their places until nothing has changed for this long.
+const int quietMilliseconds = 1000;
+
+QItemSelection rangesOf(const QAbstractItemModel& model, std::vector<int> rows)
+{
+    QItemSelection ranges;
+    std::sort(rows.begin(), rows.end());
+    const int lastColumn = model.columnCount() - 1;
+    for (std::size_t begin = 0; begin < rows.size();) {
+        std::size_t end = begin + 1;
+        while (end < rows.size() && rows[end] == rows[end - 1] + 1)
+            ++end;
+        ranges.append(
+            QItemSelectionRange(model.index(rows[begin], 0), model.index(rows[end - 1], lastColumn)));
+        begin = end;
+    }
+    return ranges;
+}
+
+} // namespace
+
+DocumentOrder::DocumentOrder(DocumentTable& table, QObject* parent)
+    : QAbstractTableModel(parent), m_table(table), m_selection(this)
+{
+    m_quiet.setSingleShot(true);
+    m_quiet.setInterval(quietMilliseconds);
+    connect(&m_quiet, &QTimer::timeout, this, &DocumentOrder::settle);
+    connect(&table, &DocumentTable::appended, this, &DocumentOrder::takeAppended);
+    connect(&table, &DocumentTable::changed, this, &DocumentOrder::takeChanged);
+    connect(&table, &DocumentTable::rearranged, this, &DocumentOrder::refresh);
+    connect(&m_selection, &QItemSelectionModel::selectionChanged, this, &DocumentOrder::selectionMoved);
+    connect(&m_selection, &QItemSelectionModel::currentRowChanged, this, &DocumentOrder::selectionMoved);
+}
+
+void DocumentOrder::setFilter(const DocumentFilter& filter)
+{
+    m_filter = filter;
+    refresh();
+}
+
+void DocumentOrder::sort(int column, Qt::SortOrder order)
+{
+    m_sortColumn = column;
+    m_sortOrder = order;
+    Ids ids = m_shown;
+    arrange(ids);
+    moveTo(std::move(ids));
+}
+
+DocumentOrder::Ids DocumentOrder::selected() const
+{
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : m_selection.selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    Ids ids;
+    for (const int row : rows)
+        ids.append(m_shown.value(row));
+    return ids;
+}
+
+DocumentId DocumentOrder::current() const
+{
+    return m_selection.currentIndex().isValid() ? idAt(m_selection.currentIndex().row()) : 0;
+}
+
+/// Selecting many ranges over others takes long: the old ones go first.
+void DocumentOrder::select(const Ids& ids, DocumentId current)
+{
+    std::vector<int> rows;
+    for (const DocumentId id : ids)
+        if (const int row = rowOf(id); row >= 0)
+            rows.push_back(row);
+    m_selection.clearSelection();
+    m_selection.select(rangesOf(*this, std::move(rows)), QItemSelectionModel::Select);
+    if (const int row = rowOf(current); row >= 0)
+        m_selection.setCurrentIndex(index(row, 0), QItemSelectionModel::NoUpdate);
+}
+
+int DocumentOrder::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_shown.size();
+}
+
+int DocumentOrder::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : desktop::columnCount;
+}
+
+QVariant DocumentOrder::data(const QModelIndex& index, int role) const
+{
+    const DocumentRecord* record = m_table.find(idAt(index.row()));
+    if (record == nullptr)
+        return {};
+    const auto column = static_cast<Column>(index.column());
+    switch (role) {
+    case Qt::DisplayRole:
+        return rowtexts::cell(*record, column).now;
+    case Qt::AccessibleTextRole:
+        return rowtexts::spoken(*record, column);
+    case Qt::ToolTipRole:
+        return column == Column::Name ? QString::fromLocal8Bit(record->path)
+                                      : rowtexts::spoken(*record, column);
+    case Qt::TextAlignmentRole:
+        return int(columns::describe(column).isNumber ? Qt::AlignRight | Qt::AlignVCenter
+                                                      : Qt::AlignLeft | Qt::AlignVCenter);
+    case AfterRole:
+        return rowtexts::cell(*record, column).after;
+    case QuietRole:
+        return rowtexts::cell(*record, column).isQuiet;
+    case SignRole:
+        return rowtexts::signOf(record->state());
+    case StateRole:
+        return static_cast<int>(record->state());
+    default:
+        return {};
+    }
+}
+
+QVariant DocumentOrder::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    const auto column = static_cast<Column>(section);
+    switch (role) {
+    case Qt::DisplayRole:
+        return columns::titleOf(column);
+    case Qt::ToolTipRole:
+    case Qt::WhatsThisRole:
+        return columns::helpOf(column);
+    case Qt::TextAlignmentRole:
+        return int(columns::describe(column).isNumber ? Qt::AlignRight | Qt::AlignVCenter
+                                                      : Qt::AlignLeft | Qt::AlignVCenter);
+    default:
+        return {};
+    }
+}
+
+/// New rows go to the end until it is quiet: nothing moves away below a pointer.
+void DocumentOrder::takeAppended(const Ids& ids)
+{
+    Ids accepted;
+    for (const DocumentId id : ids)
+        if (const DocumentRecord* record = m_table.find(id); record != nullptr && m_filter.accepts(*record))
+            accepted.append(id);
+    m_quiet.start();
+    if (accepted.isEmpty())
+        return;
+    beginInsertRows({}, m_shown.size(), m_shown.size() + accepted.size() - 1);
+    for (const DocumentId id : accepted) {
+        m_rows.insert(id, m_shown.size());
+        m_shown.append(id);
+    }
+    endInsertRows();
+    emit shownChanged();
+}
+
+void DocumentOrder::takeChanged(const Ids& ids)
+{
+    m_quiet.start();
+    int first = m_shown.size();
+    int last = -1;
+    for (const DocumentId id : ids)
+        if (const int row = rowOf(id); row >= 0) {
+            first = std::min(first, row);
+            last = std::max(last, row);
+        }
+    if (last >= 0)
+        emit dataChanged(index(first, 0), index(last, desktop::columnCount - 1));
+}
+
+void DocumentOrder::settle()
+{
+    m_quiet.stop();
+    refresh();
+}
+
+void DocumentOrder::refresh()
+{
+    Ids ids;
+    for (const DocumentRecord& record : m_table.records())
+        if (m_filter.accepts(record))
+            ids.append(record.id);
+    arrange(ids);
+    if (ids == m_shown)
+        return;
+    const bool areSame =
+        ids.size() == m_shown.size() &&
+        std::all_of(ids.begin(), ids.end(), [this](DocumentId id) { return m_rows.contains(id); });
+    if (areSame)
+        moveTo(std::move(ids));
+    else
+        replace(std::move(ids));
+}
+
+void DocumentOrder::arrange(Ids& ids) const
+{
+    SortKeys::arrange(m_table, static_cast<Column>(m_sortColumn), m_sortOrder, ids);
+}
+
+/// The rows are the same in another order: views follow by themselves.
+void DocumentOrder::moveTo(Ids ids)
+{
+    if (ids == m_shown)
+        return;
+    emit layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+    const QModelIndexList old = persistentIndexList();
+    Ids owners;
+    for (const QModelIndex& each : old)
+        owners.append(m_shown.value(each.row()));
+    m_shown = std::move(ids);
+    number();
+    changePersistentIndexList(old, movedIndexes(old, owners));
+    emit layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+}
+
+QModelIndexList DocumentOrder::movedIndexes(const QModelIndexList& old, const Ids& ids) const
+{
+    QModelIndexList moved;
+    for (int place = 0; place < old.size(); ++place)
+        moved.append(index(rowOf(ids.at(place)), old.at(place).column()));
+    return moved;
+}
+
+void DocumentOrder::replace(Ids ids)
+{
+    const Ids chosen = selected();
+    const DocumentId focus = current();
+    emit aboutToRearrange();
+    beginResetModel();
+    m_shown = std::move(ids);
+    number();
+    endResetModel();
+    select(chosen, focus);
+    emit rearranged();
+    emit shownChanged();
+    emit selectionMoved();
+}
+
+void DocumentOrder::number()
+{
+    m_rows.clear();
+    m_rows.reserve(m_shown.size());
+    for (int row = 0; row < m_shown.size(); ++row)
+        m_rows.insert(m_shown.at(row), row);
+}
+
+} // namespace host::desktop

@@ -1,0 +1,137 @@
+#include "Session.h"
+
+#include "host/change/ViewJson.h"
+#include "host/terminal/UsageError.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSaveFile>
+#include <QUuid>
+
+namespace host::desktop {
+
+namespace {
+
+const int quietMilliseconds = 1000;
+const qint64 largestSession = 64 << 20;
+
+QJsonObject toJson(const Destination& destination)
+{
+    return {{"kind", static_cast<int>(destination.kind)},
+            {"folder", destination.folder},
+            {"suffix", destination.suffix}};
+}
+
+Destination destinationFrom(const QJsonObject& object)
+{
+    const int kind = object.value("kind").toInt();
+    return {kind >= 0 && kind <= 2 ? static_cast<Destination::Kind>(kind) : Destination::Kind::InPlace,
+            object.value("folder").toString(), object.value("suffix").toString("new")};
+}
+
+QJsonObject toJson(const ChangeDraft& draft)
+{
+    QJsonObject object{{"view", viewjson::write(draft.view())}};
+    if (const auto& stored = draft.stored())
+        object.insert("stored", QJsonObject{{"name", stored->name},
+                                            {"options", QJsonArray::fromStringList(stored->options)},
+                                            {"lines", QJsonArray::fromStringList(stored->lines)}});
+    return object;
+}
+
+QStringList textsIn(const QJsonValue& value)
+{
+    QStringList texts;
+    for (const QJsonValue& each : value.toArray())
+        texts += each.toString();
+    return texts;
+}
+
+ChangeDraft draftFrom(const QJsonObject& object)
+{
+    ChangeDraft draft;
+    try {
+        draft.setView(viewjson::parse(object.value("view").toObject()));
+    } catch (const UsageError&) { // of another version: nothing is prepared then
+    }
+    const QJsonObject stored = object.value("stored").toObject();
+    if (!stored.isEmpty())
+        draft.setStored({stored.value("name").toString(), textsIn(stored.value("options")),
+                         textsIn(stored.value("lines"))});
+    return draft;
+}
+
+} // namespace
+
+Session::Session(Workbench& workbench, const QString& folder, QObject* parent)
+    : QObject(parent), m_workbench(workbench), m_folder(folder)
+{
+    m_quiet.setSingleShot(true);
+    m_quiet.setInterval(quietMilliseconds);
+    connect(&m_quiet, &QTimer::timeout, this, &Session::save);
+    connect(&workbench, &Workbench::draftChanged, &m_quiet, QOverload<>::of(&QTimer::start));
+    connect(&workbench.table(), &DocumentTable::appended, &m_quiet, QOverload<>::of(&QTimer::start));
+    connect(&workbench.table(), &DocumentTable::rearranged, &m_quiet, QOverload<>::of(&QTimer::start));
+    QDir().mkpath(folder);
+}
+
+Session::~Session()
+{
+    if (m_quiet.isActive())
+        save();
+}
+
+QVector<QByteArray> Session::restore()
+{
+    const QDir folder(m_folder);
+    for (const QString& name : folder.entryList({"*.session"}, QDir::Files, QDir::Time)) {
+        auto lock = std::make_unique<QLockFile>(folder.filePath(name + ".lock"));
+        lock->setStaleLockTime(0);
+        if (!lock->tryLock())
+            continue;
+        m_lock = std::move(lock);
+        m_file = folder.filePath(name);
+        break;
+    }
+    if (m_file.isEmpty()) {
+        m_file = folder.filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + ".session");
+        m_lock = std::make_unique<QLockFile>(m_file + ".lock");
+        m_lock->tryLock();
+        return {};
+    }
+    QFile file(m_file);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QJsonObject object = QJsonDocument::fromJson(file.read(largestSession)).object();
+    m_workbench.setDestination(destinationFrom(object.value("destination").toObject()));
+    m_workbench.setDraft(draftFrom(object.value("draft").toObject()));
+    QVector<QByteArray> paths;
+    for (const QJsonValue& path : object.value("documents").toArray())
+        paths.append(QByteArray::fromPercentEncoding(path.toString().toLatin1()));
+    return paths;
+}
+
+void Session::save()
+{
+    m_quiet.stop();
+    if (m_file.isEmpty())
+        return;
+    QSaveFile file(m_file);
+    if (!file.open(QIODevice::WriteOnly) || file.write(toJson()) < 0 || !file.commit())
+        qWarning("%s: %s", qPrintable(m_file), qPrintable(file.errorString()));
+}
+
+/// Paths are bytes, so they are percent-encoded.
+QByteArray Session::toJson() const
+{
+    QJsonArray documents;
+    for (const DocumentRecord& record : m_workbench.table().records())
+        documents.append(QString::fromLatin1(record.path.toPercentEncoding("/")));
+    return QJsonDocument(QJsonObject{{"documents", documents},
+                                     {"draft", desktop::toJson(m_workbench.draft())},
+                                     {"destination", desktop::toJson(m_workbench.destination())}})
+        .toJson(QJsonDocument::Compact);
+}
+
+} // namespace host::desktop

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "host/desktop/workbench/Workbench.h"
+
+#include <QLockFile>
+#include <QTimer>
+
+#include <memory>
+
+namespace host::desktop {
+
+/// Keeps list and change on the disk, so that they survive a crash or a session that is closed. Passwords are no part
+/// of it.
+class Session : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \param folder where sessions are kept, one file a window.
+    Session(Workbench& workbench, const QString& folder, QObject* parent = nullptr);
+    ~Session() override;
+
+    /// Takes over the newest session that no window holds. \returns the documents that were in its list.
+    QVector<QByteArray> restore();
+    void save();
+
+private:
+    QByteArray toJson() const;
+
+    Workbench& m_workbench;
+    QString m_folder;
+    std::unique_ptr<QLockFile> m_lock;
+    QString m_file;
+    QTimer m_quiet;
+};
+
+} // namespace host::desktop

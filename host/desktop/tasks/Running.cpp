@@ -1,0 +1,68 @@
+#include "Running.h"
+
+#include <QDateTime>
+#include <QDir>
+
+namespace host::desktop {
+
+namespace {
+
+QString wordOf(DocumentRecord::Signed how)
+{
+    return how == DocumentRecord::Signed::Append ? QStringLiteral("append")
+                                                 : QStringLiteral("append-certified");
+}
+
+} // namespace
+
+Running::Running(Mode mode, const RunOrder& order, const QString& reports, DocumentTable& table,
+                 const Means& means, QObject* parent)
+    : DocumentTask(table, means, parent), m_mode(mode), m_order(order), m_folder(reports)
+{}
+
+void Running::start(const DocumentTable::Ids& ids)
+{
+    m_base = RunOrder::commonFolder(table(), ids);
+    for (const DocumentId id : ids)
+        table().change(id, [this](DocumentRecord& record) {
+            record.result.reset();
+            if (m_mode == Mode::Try)
+                record.check.reset();
+        });
+    table().flush();
+    DocumentTask::start(ids);
+}
+
+QStringList Running::arguments(const Part& part)
+{
+    QStringList words = QStringList{"run"} + m_order.arguments(m_base);
+    if (part.howSigned != DocumentRecord::Signed::Refuse)
+        words += {"--signed", wordOf(part.howSigned)};
+    if (m_mode == Mode::Try)
+        return words + QStringList{"--dry-run"};
+    const QString time = QDateTime::currentDateTimeUtc().toString("yyyy-MM-ddTHHmmss.zzzZ");
+    m_reports += m_folder + "/" + time + ".jsonl";
+    return words + QStringList{"--report", m_reports.back()};
+}
+
+void Running::takeResult(DocumentId id, const ResultEvent& event)
+{
+    table().change(id, [&event, this](DocumentRecord& record) {
+        (m_mode == Mode::Try ? record.check : record.result) =
+            std::make_shared<Outcome>(Outcome::fromJson(event.result, m_mode == Mode::Try));
+    });
+}
+
+void Running::leave(DocumentId id, const ChildRun::Ending& ending)
+{
+    if (m_mode == Mode::Try)
+        return;
+    table().change(id, [&ending](DocumentRecord& record) {
+        Outcome outcome;
+        outcome.kind = Outcome::Kind::NotDone;
+        outcome.reason = ending.wasStopped ? QString() : ending.words.section('\n', -1);
+        record.result = std::make_shared<Outcome>(outcome);
+    });
+}
+
+} // namespace host::desktop

@@ -1,0 +1,97 @@
+#include "ReasonTexts.h"
+
+#include <QCoreApplication>
+
+namespace host::desktop::reasontexts {
+
+namespace {
+
+struct Reason
+{
+    const char* code;
+    const char* text;
+    Remedy remedy;
+};
+
+// clang-format off
+const Reason reasons[] = {
+    {"signed", QT_TRANSLATE_NOOP("ReasonTexts", "Signed: viewers would report the change."), Remedy::AppendSigned},
+    {"certified", QT_TRANSLATE_NOOP("ReasonTexts", "Certified: any change breaks the certification."), Remedy::AppendCertified},
+    {"password", QT_TRANSLATE_NOOP("ReasonTexts", "A password is needed to open it."), Remedy::Password},
+    {"permission", QT_TRANSLATE_NOOP("ReasonTexts", "Its owner does not allow changes without the owner's password."), Remedy::Password},
+    {"encryption", QT_TRANSLATE_NOOP("ReasonTexts", "It is encrypted in a way that cannot be read here."), Remedy::None},
+    {"notPdf", QT_TRANSLATE_NOOP("ReasonTexts", "Not a PDF document."), Remedy::None},
+    {"emptyFile", QT_TRANSLATE_NOOP("ReasonTexts", "The file is empty."), Remedy::ShowFolder},
+    {"damaged", QT_TRANSLATE_NOOP("ReasonTexts", "Too damaged to be read."), Remedy::None},
+    {"uncertain", QT_TRANSLATE_NOOP("ReasonTexts", "Damaged, so it is in doubt what it holds; nothing is changed."), Remedy::None},
+    {"cannotAppend", QT_TRANSLATE_NOOP("ReasonTexts", "Damaged, so nothing can be added to it."), Remedy::None},
+    {"tooComplex", QT_TRANSLATE_NOOP("ReasonTexts", "Too complex to be read."), Remedy::None},
+    {"notFound", QT_TRANSLATE_NOOP("ReasonTexts", "The file is no longer there."), Remedy::ReadAgain},
+    {"accessDenied", QT_TRANSLATE_NOOP("ReasonTexts", "You may not read or change it here."), Remedy::ShowFolder},
+    {"notAFile", QT_TRANSLATE_NOOP("ReasonTexts", "Not a file that can be read."), Remedy::None},
+    {"readFailed", QT_TRANSLATE_NOOP("ReasonTexts", "The disk could not be read."), Remedy::ReadAgain},
+    {"writeFailed", QT_TRANSLATE_NOOP("ReasonTexts", "The result could not be written."), Remedy::ShowFolder},
+    {"changedMeanwhile", QT_TRANSLATE_NOOP("ReasonTexts", "Another program has changed it meanwhile."), Remedy::ReadAgain},
+    {"changedSince", QT_TRANSLATE_NOOP("ReasonTexts", "It has been changed since the run, so it stays."), Remedy::None},
+    {"noSpace", QT_TRANSLATE_NOOP("ReasonTexts", "The disk is full."), Remedy::ShowFolder},
+    {"readOnly", QT_TRANSLATE_NOOP("ReasonTexts", "It lies where nothing may be written."), Remedy::ShowFolder},
+    {"timeout", QT_TRANSLATE_NOOP("ReasonTexts", "It took too long and was given up."), Remedy::None},
+    {"memory", QT_TRANSLATE_NOOP("ReasonTexts", "It needs too much memory and was given up."), Remedy::None},
+    {"crashed", QT_TRANSLATE_NOOP("ReasonTexts", "Reading it crashed the reader; it is as it was."), Remedy::None},
+};
+
+struct Button
+{
+    Remedy remedy;
+    const char* text;
+};
+
+const Button buttons[] = {
+    {Remedy::Password, QT_TRANSLATE_NOOP("ReasonTexts", "Give &Password…")},
+    {Remedy::AppendSigned, QT_TRANSLATE_NOOP("ReasonTexts", "&Append All the Same")},
+    {Remedy::AppendCertified, QT_TRANSLATE_NOOP("ReasonTexts", "&Append All the Same")},
+    {Remedy::ReadAgain, QT_TRANSLATE_NOOP("ReasonTexts", "Read A&gain")},
+    {Remedy::ShowFolder, QT_TRANSLATE_NOOP("ReasonTexts", "Show in &Folder")},
+};
+// clang-format on
+
+const Reason* find(const QString& code)
+{
+    for (const Reason& each : reasons)
+        if (code == each.code)
+            return &each;
+    return nullptr;
+}
+
+QString translate(const char* text)
+{
+    return QCoreApplication::translate("ReasonTexts", text);
+}
+
+} // namespace
+
+QString textOf(const QString& code, const QString& words)
+{
+    if (const Reason* known = find(code))
+        return translate(known->text);
+    QString sentence = words.simplified();
+    if (!sentence.isEmpty())
+        sentence[0] = sentence[0].toUpper();
+    return sentence;
+}
+
+Remedy remedyFor(const QString& code)
+{
+    const Reason* known = find(code);
+    return known != nullptr ? known->remedy : Remedy::None;
+}
+
+QString buttonOf(Remedy remedy)
+{
+    for (const Button& each : buttons)
+        if (each.remedy == remedy)
+            return translate(each.text);
+    return {};
+}
+
+} // namespace host::desktop::reasontexts

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+/// Why a document could not be read, changed or undone, in words that a person can act on.
+namespace host::desktop::reasontexts {
+
+/// What helps against a reason.
+enum class Remedy { None, Password, AppendSigned, AppendCertified, ReadAgain, ShowFolder };
+
+/// The user's words for the program's code; for a code that is not known, the program's own words.
+QString textOf(const QString& code, const QString& words);
+
+Remedy remedyFor(const QString& code);
+
+/// What the remedy's button says; empty for None.
+QString buttonOf(Remedy remedy);
+
+} // namespace host::desktop::reasontexts

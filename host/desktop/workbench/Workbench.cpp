@@ -1,0 +1,306 @@
+#include "Workbench.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace host::desktop {
+
+using Command = RunMachine::Command;
+using Step = RunMachine::Step;
+using State = RunMachine::State;
+
+namespace {
+
+const int checkMilliseconds = 300;
+const int collectMilliseconds = 30;
+
+} // namespace
+
+Workbench::Workbench(const QString& program, const QString& reports, QObject* parent)
+    : QObject(parent), m_program(program), m_history(reports)
+{
+    m_checkSoon.setSingleShot(true);
+    m_checkSoon.setInterval(checkMilliseconds);
+    m_collectSoon.setSingleShot(true);
+    m_collectSoon.setInterval(collectMilliseconds);
+    connect(&m_checkSoon, &QTimer::timeout, this, &Workbench::check);
+    connect(&m_collectSoon, &QTimer::timeout, this, &Workbench::collectTargets);
+    for (auto signal : {&DocumentOrder::shownChanged, &DocumentOrder::selectionMoved})
+        connect(&m_order, signal, &m_collectSoon, QOverload<>::of(&QTimer::start));
+    connect(&m_table, &DocumentTable::changed, &m_collectSoon, QOverload<>::of(&QTimer::start));
+    connect(&m_table, &DocumentTable::rearranged, this, [this] {
+        if (m_table.count() == 0)
+            m_machine.handle(Step::Emptied);
+        m_collectSoon.start();
+    });
+}
+
+void Workbench::add(const QVector<QByteArray>& paths)
+{
+    if (paths.isEmpty())
+        return;
+    if (!m_machine.isEnabled(Command::Add) || m_machine.state() == State::Reading) {
+        m_waiting += paths;
+        emit said(tr("What you added waits until this is done."));
+        return;
+    }
+    dropTask();
+    m_list.beginAdding();
+    auto* reading = new Reading(m_table, means(), this);
+    connect(reading, &Reading::added, &m_list, &ListHistory::added);
+    startReading(reading);
+    reading->add(paths);
+}
+
+void Workbench::startReading(Reading* reading)
+{
+    leaveResults();
+    m_machine.handle(Step::Added);
+    begin(reading, &Workbench::endReading);
+}
+
+void Workbench::readAgain(const Ids& ids)
+{
+    if (!m_machine.isEnabled(Command::Remove) || ids.isEmpty())
+        return;
+    dropTask();
+    auto* reading = new Reading(m_table, means(), this);
+    startReading(reading);
+    for (const DocumentId id : ids)
+        m_table.change(id, [](DocumentRecord& record) { record.forget(); });
+    m_table.flush();
+    reading->start(ids);
+}
+
+void Workbench::remove(const Ids& ids)
+{
+    if (!m_machine.isEnabled(Command::Remove))
+        return;
+    dropTask();
+    m_list.remove(ids);
+    follow();
+}
+
+void Workbench::undoList()
+{
+    if (!m_machine.isEnabled(Command::UndoList))
+        return;
+    dropTask();
+    m_list.undo();
+    follow();
+}
+
+void Workbench::redoList()
+{
+    if (!m_machine.isEnabled(Command::UndoList))
+        return;
+    dropTask();
+    m_list.redo();
+    follow();
+}
+
+/// After the list has changed without reading: what has come back is read already.
+void Workbench::follow()
+{
+    if (m_table.count() > 0 && m_machine.state() == State::Empty) {
+        m_machine.handle(Step::Added);
+        m_machine.handle(Step::Read);
+    }
+    collectTargets();
+    edited();
+}
+
+void Workbench::setDraft(const ChangeDraft& draft)
+{
+    if (draft == m_runOrder.draft)
+        return;
+    m_runOrder.draft = draft;
+    leaveResults();
+    m_table.changeAll([](DocumentRecord& record) { record.check.reset(); });
+    edited();
+    emit draftChanged();
+}
+
+void Workbench::setDestination(const Destination& destination)
+{
+    if (destination == m_runOrder.destination)
+        return;
+    m_runOrder.destination = destination;
+    leaveResults();
+    m_table.changeAll([](DocumentRecord& record) { record.check.reset(); });
+    edited();
+    emit draftChanged();
+}
+
+void Workbench::setScope(Scope scope)
+{
+    m_scope = scope;
+    collectTargets();
+}
+
+bool Workbench::isForSelected() const
+{
+    const int selected = m_order.selected().size();
+    return m_scope == Scope::Automatic ? selected > 1 : m_scope == Scope::Selected && selected > 0;
+}
+
+/// What is said of documents that the change is not for would mislead.
+void Workbench::collectTargets()
+{
+    m_collectSoon.stop();
+    const Ids targets = isForSelected() ? m_order.selected() : m_order.shown();
+    const bool isOther = targets != m_targets;
+    m_targets = targets;
+    if (isOther && m_machine.state() != State::Results && !m_machine.isWriting()) {
+        const QSet<DocumentId> within(targets.begin(), targets.end());
+        for (const DocumentRecord& each : m_table.records())
+            if (each.isAside == within.contains(each.id))
+                m_table.change(each.id, [](DocumentRecord& record) { record.isAside = !record.isAside; });
+        m_table.flush();
+        m_collectSoon.stop();
+        edited();
+    }
+    emit targetsChanged();
+    emit countsChanged();
+}
+
+/// What would change has to be found out, once nothing has been edited for a moment.
+void Workbench::edited()
+{
+    const State state = m_machine.state();
+    if (state == State::Reading || state == State::Empty || m_machine.isWriting())
+        return;
+    if (state == State::Checking)
+        dropTask();
+    if (m_runOrder.draft.isEmpty() || m_targets.isEmpty()) {
+        m_checkSoon.stop();
+        m_machine.handle(Step::Cleared);
+    } else {
+        m_machine.handle(Step::Edited);
+        m_checkSoon.start();
+    }
+    emit countsChanged();
+}
+
+/// Results belong to the documents as they are now: what was changed in place is what is there.
+void Workbench::leaveResults()
+{
+    if (m_machine.state() != State::Results)
+        return;
+    const bool inPlace = m_lastOrder.destination.kind == Destination::Kind::InPlace;
+    m_table.changeAll([inPlace](DocumentRecord& record) {
+        if (inPlace && record.result && record.facts && record.result->kind == Outcome::Kind::Changed) {
+            auto facts = std::make_shared<DocumentFacts>(*record.facts);
+            facts->view.view.add(record.result->after.view);
+            if (record.result->after.view[ViewEntry::OpenPage])
+                facts->view.action = record.result->after.action;
+            record.facts = facts;
+        }
+        record.result.reset();
+        record.check.reset();
+    });
+}
+
+void Workbench::check()
+{
+    if (m_machine.state() != State::Checking)
+        return;
+    if (const QString problem = m_runOrder.destination.problem(); !problem.isEmpty()) {
+        emit countsChanged();
+        return;
+    }
+    const Ids chosen = m_order.selected();
+    const QSet<DocumentId> first(chosen.begin(), chosen.end());
+    Ids ids;
+    for (const DocumentId id : m_targets)
+        if (const DocumentRecord* record = m_table.find(id); record != nullptr && !record->check)
+            ids.append(id);
+    std::stable_partition(ids.begin(), ids.end(), [&first](DocumentId id) { return first.contains(id); });
+    auto* trial = new Running(Running::Mode::Try, m_runOrder, {}, m_table, means(), this);
+    begin(trial, &Workbench::endChecking);
+    trial->start(ids);
+}
+
+void Workbench::begin(DocumentTask* task, void (Workbench::*end)(const ChildRun::Ending&))
+{
+    dropTask();
+    m_task = task;
+    connect(task, &DocumentTask::progressed, this, &Workbench::progressed);
+    connect(task, &DocumentTask::finished, this, end);
+    emit progressed();
+}
+
+void Workbench::dropTask()
+{
+    if (m_task.isNull())
+        return;
+    m_task->disconnect(this);
+    delete m_task; // its child is told to stop
+}
+
+void Workbench::endReading(const ChildRun::Ending& ending)
+{
+    const int known = qobject_cast<const Reading*>(m_task.data())->known();
+    m_task->deleteLater();
+    m_task.clear();
+    if (!ending.isComplete && !ending.wasStopped)
+        emit failed(ending.words.isEmpty() ? tr("Reading broke off.") : ending.words);
+    else if (known > 0)
+        emit said(tr("%n document(s) were in the list already.", "", known));
+    m_machine.handle(m_table.count() > 0 ? Step::Read : Step::Emptied);
+    m_order.settle();
+    collectTargets();
+    emit progressed();
+    if (!m_waiting.isEmpty())
+        return add(std::exchange(m_waiting, {}));
+    edited();
+}
+
+void Workbench::endChecking(const ChildRun::Ending& ending)
+{
+    m_task->deleteLater();
+    m_task.clear();
+    if (ending.wasStopped || !ending.isComplete) {
+        m_machine.handle(Step::Cleared);
+        if (!ending.isComplete && !ending.wasStopped)
+            emit failed(ending.words.isEmpty() ? tr("Finding out what would change broke off.")
+                                               : ending.words);
+    } else {
+        m_machine.handle(Step::Checked);
+    }
+    emit progressed();
+    emit countsChanged();
+}
+
+Workbench::Counts Workbench::counts() const
+{
+    Counts counts;
+    const auto count = [&counts](const DocumentRecord& record) {
+        const DocumentRecord::State state = record.state();
+        ++counts.targets;
+        counts.waiting +=
+            state == DocumentRecord::State::Waiting || state == DocumentRecord::State::Known ? 1 : 0;
+        counts.willChange += state == DocumentRecord::State::WillChange ? 1 : 0;
+        counts.asAsked += state == DocumentRecord::State::AsAsked ? 1 : 0;
+        counts.cannot +=
+            state == DocumentRecord::State::Cannot || state == DocumentRecord::State::Unreadable ? 1 : 0;
+        counts.changed += state == DocumentRecord::State::Changed ? 1 : 0;
+        counts.unchanged += state == DocumentRecord::State::Unchanged ? 1 : 0;
+        counts.failed += state == DocumentRecord::State::Failed ? 1 : 0;
+        counts.notDone += state == DocumentRecord::State::NotDone ? 1 : 0;
+    };
+    const bool areResults = m_machine.state() == State::Results || m_machine.isWriting();
+    if (areResults) {
+        for (const DocumentRecord& record : m_table.records())
+            if (record.result)
+                count(record);
+    } else {
+        for (const DocumentId id : m_targets)
+            if (const DocumentRecord* record = m_table.find(id))
+                count(*record);
+    }
+    return counts;
+}
+
+} // namespace host::desktop

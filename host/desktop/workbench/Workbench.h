@@ -1,0 +1,145 @@
+#pragma once
+
+#include "RunHistory.h"
+#include "RunMachine.h"
+
+#include "host/desktop/change/RunOrder.h"
+#include "host/desktop/change/SelectionSummary.h"
+#include "host/desktop/documents/ListHistory.h"
+#include "host/desktop/rows/DocumentOrder.h"
+#include "host/desktop/tasks/Passwords.h"
+#include "host/desktop/tasks/Reading.h"
+#include "host/desktop/tasks/Running.h"
+#include "host/desktop/tasks/Undoing.h"
+
+#include <QPointer>
+
+namespace host::desktop {
+
+/// What a person works on: the documents, the change that is being prepared, and the work that is under way. It
+/// decides what begins and what follows from it; windows show it and pass on what is clicked.
+class Workbench : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Ids = DocumentTable::Ids;
+
+    /// Which documents the change is for.
+    enum class Scope {
+        Automatic, ///< The selected ones if there are several, else all that are shown.
+        Shown,
+        Selected,
+    };
+
+    struct Counts
+    {
+        int targets = 0;
+        int waiting = 0;
+        int willChange = 0;
+        int asAsked = 0;
+        int cannot = 0;
+        int changed = 0;
+        int unchanged = 0;
+        int failed = 0;
+        int notDone = 0;
+    };
+
+    /// \param program the program that does the work. \param reports the folder for the reports of runs.
+    Workbench(const QString& program, const QString& reports, QObject* parent = nullptr);
+
+    DocumentTable& table() { return m_table; }
+    DocumentOrder& order() { return m_order; }
+    ListHistory& list() { return m_list; }
+    RunMachine& machine() { return m_machine; }
+    RunHistory& history() { return m_history; }
+
+    /// Files and folders by their absolute paths. While a run goes on they wait for its end.
+    void add(const QVector<QByteArray>& paths);
+    void remove(const Ids& ids);
+    void readAgain(const Ids& ids);
+    void undoList();
+    void redoList();
+
+    const ChangeDraft& draft() const { return m_runOrder.draft; }
+    void setDraft(const ChangeDraft& draft);
+    const Destination& destination() const { return m_runOrder.destination; }
+    void setDestination(const Destination& destination);
+    const RunOrder& runOrder() const { return m_runOrder; }
+
+    Scope scope() const { return m_scope; }
+    void setScope(Scope scope);
+    /// Whether the change is for the selected documents, not for all that are shown.
+    bool isForSelected() const;
+    const Ids& targets() const { return m_targets; }
+    SelectionSummary summary() const { return SelectionSummary::of(m_table, m_targets); }
+    Counts counts() const;
+
+    void start();
+    void pause();
+    void resume();
+    void stop();
+    void tryAgain();
+    void undoRun(int row);
+    /// Changes of these documents are appended although viewers will report them.
+    void appendAllTheSame(const Ids& ids);
+    /// Tries the password on all documents that want one; kept in memory only.
+    void givePassword(const QByteArray& password);
+
+    const QString& program() const { return m_program; }
+    /// What opens the document; empty for none.
+    QByteArray passwordOf(const DocumentRecord& record) const { return m_passwords.at(record.password); }
+    /// The work under way; null when there is none.
+    const DocumentTask* task() const { return m_task; }
+    /// The order of the run whose results are shown.
+    const RunOrder& lastOrder() const { return m_lastOrder; }
+    /// A run's results are shown, and it can be undone.
+    int undoableRun() const { return m_history.newestUndoable(); }
+
+signals:
+    void draftChanged();
+    void targetsChanged();
+    void countsChanged();
+    void progressed();
+    /// Something that a person should know of, in a sentence.
+    void said(const QString& text);
+    /// The same, and it went wrong.
+    void failed(const QString& text);
+    void runEnded();
+
+private:
+    void begin(DocumentTask* task, void (Workbench::*end)(const ChildRun::Ending&));
+    void dropTask();
+    void edited();
+    void leaveResults();
+    void check();
+    void collectTargets();
+    void endReading(const ChildRun::Ending& ending);
+    void endChecking(const ChildRun::Ending& ending);
+    void endRunning(const ChildRun::Ending& ending);
+    void endUndoing(const ChildRun::Ending& ending);
+    void startReading(Reading* reading);
+    void run(const Ids& ids);
+    void writeDown(const Running& running);
+    void follow();
+    DocumentTask::Means means() const { return {m_program, m_passwords}; }
+
+    QString m_program;
+    DocumentTable m_table;
+    DocumentOrder m_order{m_table};
+    ListHistory m_list{m_table};
+    RunMachine m_machine;
+    RunHistory m_history;
+    Passwords m_passwords;
+    RunOrder m_runOrder;
+    RunOrder m_lastOrder;
+    Scope m_scope = Scope::Automatic;
+    Ids m_targets;
+    QPointer<DocumentTask> m_task;
+    QVector<QByteArray> m_waiting;
+    QTimer m_checkSoon;
+    QTimer m_collectSoon;
+    int m_undoing = -1;
+};
+
+} // namespace host::desktop

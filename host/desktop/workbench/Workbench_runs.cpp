@@ -1,0 +1,183 @@
+#include "Workbench.h"
+
+#include <QDir>
+
+namespace host::desktop {
+
+using Command = RunMachine::Command;
+using Step = RunMachine::Step;
+using State = RunMachine::State;
+
+namespace {
+
+bool wantsPassword(const DocumentRecord& record)
+{
+    const QString code = record.reasonCode();
+    return code == "password" || code == "permission";
+}
+
+} // namespace
+
+void Workbench::start()
+{
+    if (m_machine.isEnabled(Command::Start))
+        run(m_targets);
+}
+
+void Workbench::tryAgain()
+{
+    if (!m_machine.isEnabled(Command::TryAgain))
+        return;
+    Ids ids;
+    for (const DocumentRecord& record : m_table.records())
+        if (record.result && (record.result->isTrouble() || record.result->kind == Outcome::Kind::NotDone))
+            ids.append(record.id);
+    if (!ids.isEmpty())
+        run(ids);
+}
+
+void Workbench::run(const Ids& ids)
+{
+    auto* running = new Running(Running::Mode::Do, m_runOrder, m_history.folder(), m_table, means(), this);
+    if (!QDir().mkpath(m_history.folder())) {
+        delete running;
+        return emit failed(
+            tr("Nothing is begun: the folder for reports cannot be made: %1").arg(m_history.folder()));
+    }
+    m_lastOrder = m_runOrder;
+    begin(running, &Workbench::endRunning);
+    m_machine.handle(Step::Started);
+    running->start(ids);
+}
+
+void Workbench::pause()
+{
+    if (!m_machine.isEnabled(Command::Pause))
+        return;
+    m_task->pause();
+    m_machine.handle(Step::Paused);
+}
+
+void Workbench::resume()
+{
+    if (!m_machine.isEnabled(Command::Resume))
+        return;
+    m_task->resume();
+    m_machine.handle(Step::Resumed);
+}
+
+void Workbench::stop()
+{
+    if (!m_machine.isEnabled(Command::Stop) || m_task.isNull())
+        return;
+    m_machine.handle(Step::Stopped);
+    m_task->stop();
+}
+
+void Workbench::endRunning(const ChildRun::Ending& ending)
+{
+    if (!ending.isComplete)
+        emit failed(ending.words.isEmpty() ? tr("The run broke off.") : ending.words);
+    writeDown(*qobject_cast<const Running*>(m_task.data()));
+    m_task->deleteLater();
+    m_task.clear();
+    m_machine.handle(Step::Ended);
+    m_order.settle();
+    emit progressed();
+    emit countsChanged();
+    emit runEnded();
+    if (!m_waiting.isEmpty())
+        add(std::exchange(m_waiting, {}));
+}
+
+void Workbench::writeDown(const Running& running)
+{
+    RunHistory::Run done;
+    done.what = running.order().draft.inWords();
+    done.where = running.order().destination.inWords();
+    done.isInPlace = running.order().destination.kind == Destination::Kind::InPlace;
+    done.changed = counts().changed;
+    done.reports = running.reports();
+    if (const QString problem = m_history.add(done); !problem.isEmpty())
+        emit failed(problem);
+}
+
+void Workbench::undoRun(int row)
+{
+    if (!m_machine.isEnabled(Command::UndoRun) || !m_history.canUndo(row))
+        return;
+    dropTask();
+    leaveResults();
+    m_undoing = row;
+    auto* undoing = new Undoing(m_table, means(), this);
+    begin(undoing, &Workbench::endUndoing);
+    m_machine.handle(Step::Undo);
+    undoing->start(m_history.runs().at(static_cast<std::size_t>(row)).reports);
+}
+
+/// The documents of the run are read again; what was left alone says why until then.
+void Workbench::endUndoing(const ChildRun::Ending& ending)
+{
+    const auto* undoing = qobject_cast<const Undoing*>(m_task.data());
+    const int undone = undoing->undone();
+    const int leftAlone = undoing->leftAlone();
+    m_task->deleteLater();
+    m_task.clear();
+    if (!ending.isComplete && undone == 0)
+        emit failed(ending.words.isEmpty() ? tr("Undoing broke off.") : ending.words);
+    else if (leftAlone == 0)
+        emit said(tr("%n document(s) are as they were before the run.", "", undone));
+    else
+        emit failed(tr("%n document(s) were left alone, since they are no longer as the run left them.", "",
+                       leftAlone));
+    if (ending.isComplete && leftAlone == 0)
+        if (const QString problem = m_history.setUndone(m_undoing); !problem.isEmpty())
+            emit failed(problem);
+    Ids ids;
+    for (const DocumentRecord& record : m_table.records())
+        if (record.result && record.result->kind == Outcome::Kind::Undone)
+            ids.append(record.id);
+    m_machine.handle(m_table.count() > 0 ? Step::Undone : Step::Emptied);
+    emit progressed();
+    if (ids.isEmpty())
+        return edited();
+    readAgain(ids);
+}
+
+void Workbench::appendAllTheSame(const Ids& ids)
+{
+    Ids again;
+    for (const DocumentId id : ids) {
+        const DocumentRecord* record = m_table.find(id);
+        const QString code = record != nullptr ? record->reasonCode() : QString();
+        if (code != "signed" && code != "certified")
+            continue;
+        again.append(id);
+        m_table.change(id, [&code](DocumentRecord& each) {
+            each.check.reset();
+            each.howSigned =
+                code == "signed" ? DocumentRecord::Signed::Append : DocumentRecord::Signed::AppendCertified;
+        });
+    }
+    m_table.flush();
+    if (again.isEmpty())
+        return;
+    if (m_machine.state() == State::Results)
+        run(again);
+    else
+        edited();
+}
+
+void Workbench::givePassword(const QByteArray& password)
+{
+    const int place = m_passwords.add(password);
+    Ids ids;
+    for (const DocumentRecord& record : m_table.records())
+        if (wantsPassword(record))
+            ids.append(record.id);
+    for (const DocumentId id : ids)
+        m_table.change(id, [place](DocumentRecord& record) { record.password = place; });
+    readAgain(ids);
+}
+
+} // namespace host::desktop

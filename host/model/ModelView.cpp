@@ -1,0 +1,61 @@
+#include "ModelView.h"
+
+#include "ModelReader.h"
+#include "ViewRecord.h"
+#include "host/cell/Cell.h"
+#include "host/program/InstallLayout.h"
+#include "host/terminal/NearbyFile.h"
+#include "host/terminal/UsageError.h"
+#include "host/workers/RunControl.h"
+#include "host/workers/SignalMask.h"
+
+#include <memory>
+#include <optional>
+#include <stdexcept>
+
+namespace host::modelview {
+
+namespace {
+
+[[noreturn]] void refuse(const std::string& file, const Failure& why)
+{
+    throw UsageError(file + ": " + why.text +
+                     (why.code == ReasonCode::NotFound ? suggestion::nearbyFile(file) : ""));
+}
+
+ViewChange fromOutcome(const std::string& file, const WorkOutcome& outcome)
+{
+    if (outcome.kind == WorkOutcome::Stopped)
+        throw StoppedEarly();
+    if (outcome.kind == WorkOutcome::Lost)
+        refuse(file, outcome.failure);
+    const std::optional<ViewChange> view = viewrecord::parse(outcome.answer);
+    if (!view)
+        refuse(file, {ReasonCode::Internal, "the worker process gave no proper answer"});
+    return *view;
+}
+
+} // namespace
+
+ViewChange read(const std::string& file, std::string_view password, Cell& cell, const Ask& ask)
+{
+    // Kept open, so that the worker finds the library in memory.
+    const std::string libraryFile = installlayout::libraryFile();
+    const TelvarPDFLibraryCPDylibCPP1311 library(installlayout::toLibraryPath(libraryFile));
+    if (!library.LibraryLoaded())
+        throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
+    Reach reach;
+    reach.addFileToRead(file);
+    cell.allow(reach);
+    WorkOutcome outcome{WorkOutcome::Stopped};
+    const SignalMask mask;
+    RunControl control;
+    control.takeSignals();
+    WorkerPool pool(
+        {}, [&] { return std::make_unique<ModelReader>(file, password, ask); }, cell);
+    pool.run(
+        1, [&](std::size_t, const WorkOutcome& end) { outcome = end; }, control);
+    return fromOutcome(file, outcome);
+}
+
+} // namespace host::modelview

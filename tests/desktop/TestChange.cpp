@@ -1,0 +1,163 @@
+#include "host/desktop/change/ChangeWarnings.h"
+#include "host/desktop/change/RunOrder.h"
+#include "host/desktop/preview/PreviewScene.h"
+#include "host/desktop/workbench/RunMachine.h"
+
+#include "pdflibrary/ViewNumbers.h"
+
+#include <QJsonDocument>
+#include <QtTest>
+
+using namespace host;
+using namespace host::desktop;
+
+namespace {
+
+DocumentFacts facts(const char* json)
+{
+    return DocumentFacts::fromJson(QJsonDocument::fromJson(json).object());
+}
+
+/// A list of documents that are read, one of each.
+void fill(DocumentTable& table, const QVector<const char*>& documents)
+{
+    for (const char* json : documents) {
+        const DocumentTable::Ids ids = table.append({"/d/" + QByteArray::number(table.count()) + ".pdf"});
+        table.change(ids.front(), [json](DocumentRecord& record) {
+            record.facts = std::make_shared<DocumentFacts>(facts(json));
+        });
+    }
+    table.flush();
+}
+
+QStringList warnings(const DocumentTable& table, ViewEntry entry, const ViewValue& value)
+{
+    ChangeDraft draft;
+    draft.set(entry, value);
+    DocumentTable::Ids all;
+    for (const DocumentRecord& record : table.records())
+        all.append(record.id);
+    QStringList texts;
+    for (const ChangeWarning& each : changewarnings::of(draft, SelectionSummary::of(table, all)))
+        texts += each.text;
+    return texts;
+}
+
+} // namespace
+
+class TestChange : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tellsWhatDocumentsHaveInCommon()
+    {
+        DocumentTable table;
+        fill(table, {R"({"pages":8,"pageMode":"UseNone","title":"A"})", R"({"pages":3,"pageMode":"UseNone"})",
+                     R"({"pages":9,"pageMode":"UseOutlines","title":"B"})"});
+        table.append({"/d/unread.pdf"});
+        const SelectionSummary summary = SelectionSummary::of(table, {1, 2, 3, 4});
+        QCOMPARE(summary.documents, 4);
+        QCOMPARE(summary.known, 3);
+        QCOMPARE(summary.shortest, 3);
+        QCOMPARE(summary.withoutTitle, 1);
+        QCOMPARE(summary.textOf(ViewEntry::PageMode), QString("different: None (2), Bookmarks (1)"));
+        QCOMPARE(summary.textOf(ViewEntry::PageLayout), QString("now Not set"));
+        QCOMPARE(SelectionSummary::of(table, {4}).textOf(ViewEntry::PageMode), QString());
+    }
+
+    void warnsWhereItWillDisappoint()
+    {
+        DocumentTable table;
+        fill(table, {R"({"pages":8,"bookmarks":0,"title":"A"})", R"({"pages":3,"bookmarks":4})"});
+        QVERIFY(warnings(table, ViewEntry::PageMode, pdflibrary::BookmarksPanel)
+                    .join("")
+                    .contains("no bookmarks"));
+        QVERIFY(warnings(table, ViewEntry::DisplayDocTitle, 1).join("").contains("no title"));
+        QVERIFY(warnings(table, ViewEntry::OpenPage, 4).join("").contains("shortest"));
+        QVERIFY(warnings(table, ViewEntry::HideToolbar, 1).join("").contains("Browsers"));
+        QCOMPARE(warnings(table, ViewEntry::OpenPage, 3), QStringList());
+        QCOMPARE(warnings(table, ViewEntry::PageLayout, 1), QStringList());
+    }
+
+    void becomesTheProgramsOptions()
+    {
+        RunOrder order;
+        order.draft.set(ViewEntry::PageMode, pdflibrary::BookmarksPanel);
+        order.draft.set(ViewEntry::Title, FileNameAsTitle());
+        order.draft.setKeepsTitles(true);
+        QCOMPARE(order.arguments("/d"), QStringList({"--page-mode", "use-outlines", "--title-from-file-name",
+                                                     "--title-if-missing", "--in-place"}));
+        order.draft.set(ViewEntry::Title, std::nullopt);
+        order.destination = {Destination::Kind::Folder, "/out", {}};
+        QCOMPARE(order.arguments("/d"),
+                 QStringList({"--page-mode", "use-outlines", "--output", "/out", "--base", "/d"}));
+        QCOMPARE(order.resultOf("/d/e/b.pdf", "/d/"), QByteArray("/out/e/b.pdf"));
+        DocumentTable table;
+        table.append({"/d/it's.pdf", "/d/e/b.pdf"});
+        QCOMPARE(
+            order.commandLine(table, {1, 2}),
+            QString(
+                R"(quintar run --page-mode use-outlines --output /out --base /d/ '/d/it'\''s.pdf' /d/e/b.pdf)"));
+    }
+
+    void takesTheViewOfADocumentButNotItsTitle()
+    {
+        const ViewChange like =
+            ChangeDraft::like(facts(R"({"title":"A","lang":"en","pageMode":"UseThumbs","openAction":null})"));
+        QVERIFY(!like[ViewEntry::Title] && !like[ViewEntry::Lang] && !like[ViewEntry::Zoom]);
+        QCOMPARE(*like[ViewEntry::PageMode], ViewValue(pdflibrary::PagesPanel));
+        QCOMPARE(*like[ViewEntry::OpenPage], ViewValue(Unset()));
+        QVERIFY(like.contradiction().empty());
+    }
+
+    void drawsBeforeAndAfter()
+    {
+        DocumentRecord record = DocumentRecord::of(1, "/d/a.pdf");
+        record.facts = std::make_shared<DocumentFacts>(facts(
+            R"({"pages":8,"title":"Lathe","pageLayout":"TwoPageRight","openAction":{"page":4,"type":"FitH"}})"));
+        record.check = std::make_shared<Outcome>(Outcome::fromJson(
+            QJsonDocument::fromJson(
+                R"({"status":"changed","before":{"viewerPreferences":{"DisplayDocTitle":null},"pageMode":null},
+                "after":{"viewerPreferences":{"DisplayDocTitle":true},"pageMode":"UseOutlines"}})")
+                .object(),
+            true));
+        const PreviewScene before = PreviewScene::before(record, {});
+        const PreviewScene after = PreviewScene::after(record, {});
+        QCOMPARE(before.titleBar, QString("a.pdf"));
+        QCOMPARE(after.titleBar, QString("Lathe"));
+        QCOMPARE(after.panel, PreviewScene::Panel::Bookmarks);
+        QCOMPARE(after.fit, PreviewScene::Fit::Width);
+        QCOMPARE(after.firstRow(), std::pair(4, 5));
+    }
+
+    /// Nothing may write while another thing does, and each state must be left again.
+    void allowsWhatTheStateAllows()
+    {
+        using Step = RunMachine::Step;
+        using Command = RunMachine::Command;
+        using State = RunMachine::State;
+        RunMachine machine;
+        QVERIFY(!machine.isEnabled(Command::Start));
+        for (const Step step : {Step::Added, Step::Read, Step::Edited, Step::Checked})
+            QVERIFY(machine.handle(step));
+        QVERIFY(machine.isEnabled(Command::Start) && machine.isEnabled(Command::UndoRun));
+        machine.setBusy(true);
+        QVERIFY(!machine.isEnabled(Command::Start) && !machine.isEnabled(Command::Remove));
+        machine.setBusy(false);
+        QVERIFY(machine.handle(Step::Started));
+        for (const Command command : {Command::Add, Command::Remove, Command::Edit, Command::Start,
+                                      Command::UndoRun, Command::TryAgain})
+            QVERIFY(!machine.reasonAgainst(command).isEmpty());
+        QVERIFY(!machine.handle(Step::Undo) && !machine.handle(Step::Edited) &&
+                !machine.handle(Step::Emptied));
+        QVERIFY(machine.handle(Step::Paused) && machine.handle(Step::Stopped));
+        QVERIFY(machine.isWriting() && machine.handle(Step::Ended));
+        QCOMPARE(machine.state(), State::Results);
+        QVERIFY(machine.isEnabled(Command::TryAgain) && machine.handle(Step::Undo) && machine.isWriting());
+        QVERIFY(machine.handle(Step::Undone));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestChange)
+#include "TestChange.moc"

@@ -1,0 +1,274 @@
+#include "host/desktop/MainWindow.h"
+#include "host/desktop/dialogs/StartQuestion.h"
+#include "host/desktop/platform/Dialogs.h"
+#include "host/desktop/platform/DroppedNames.h"
+#include "host/desktop/presets/PresetFolder.h"
+#include "host/desktop/texts/ViewTexts.h"
+#include "support/FakeQuintar.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QMimeData>
+#include <QTextBrowser>
+#include <QtTest>
+
+using namespace host;
+using namespace host::desktop;
+using Fake = FakeQuintar;
+using State = RunMachine::State;
+
+/// Finds widgets as a person or a screen reader does: by their names.
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_fake = std::make_unique<FakeQuintar>();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::found(1, "/d/b.pdf") +
+                                  Fake::document(0) + Fake::document(1, ",\"pageLayout\":\"OneColumn\"") +
+                                  Fake::end());
+        m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
+        m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
+        open();
+    }
+    void cleanup() { m_window.reset(); }
+
+    void explainsItselfWhileItIsEmpty()
+    {
+        QVERIFY(button("Add Files…")->isVisible() && button("Add Folder…")->isVisible());
+        dialogs::setNextAnswer({"/d"});
+        click("Add Folder…");
+        QTRY_COMPARE(state(), State::Listed);
+        QVERIFY(!button("Add Folder…")->isVisible());
+    }
+
+    void takesWhatIsDroppedAndPasted()
+    {
+        QMimeData data;
+        data.setData("text/uri-list",
+                     "# from elsewhere\r\nfile:///d/b%FF%20c.pdf\r\nhttp://x/y.pdf\r\nfile://host/e\r\n");
+        QCOMPARE(droppednames::of(data), QVector<QByteArray>({"/d/b\xff c.pdf", "/e"}));
+        QDragEnterEvent enter(QPoint(5, 5), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton,
+                              Qt::NoModifier);
+        QApplication::sendEvent(m_window.get(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(5, 5), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton,
+                        Qt::NoModifier);
+        QApplication::sendEvent(m_window.get(), &drop);
+        QCOMPARE(drop.dropAction(), Qt::CopyAction);
+        QTRY_COMPARE(state(), State::Listed);
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b\xff c.pdf", "/e"}));
+
+        QApplication::clipboard()->setText("\"/p/one two.pdf\"\nnot a path\n");
+        m_fake->plays("show",
+                      Fake::start() + Fake::found(0, "/p/one two.pdf") + Fake::document(0) + Fake::end());
+        QTest::keyClick(m_window.get(), Qt::Key_V, Qt::ControlModifier);
+        QTRY_COMPARE(m_window->workbench().table().count(), 3);
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/p/one two.pdf"}));
+    }
+
+    void showsWhatWouldChangeAsksAndRuns()
+    {
+        read();
+        QCOMPARE(find<QComboBox>("Layout")->accessibleDescription(),
+                 QString("different: Not set (1), One column (1)"));
+        QVERIFY(!button("Start…")->isEnabled());
+        choose("Panel", "Bookmarks");
+        QTRY_VERIFY(button("Start…")->isEnabled());
+        QCOMPARE(cell(0, Column::Panel), QString("Not set, will be Bookmarks"));
+        QCOMPARE(status(), QString("1 will change  ·  1 cannot be changed"));
+        click("Start…");
+        auto* question = m_window->findChild<StartQuestion*>();
+        QVERIFY(question->isVisible());
+        QCOMPARE(StartQuestion::question(m_window->workbench()),
+                 QString("%n document(s) will be changed in place.").replace("%n", "1"));
+        QCOMPARE(m_fake->starts().filter("--report").size(), 0);
+        QTest::keyClick(question, Qt::Key_Return);
+        QTRY_COMPARE(state(), State::Results);
+        QCOMPARE(status(), QString("1 changed  ·  1 failed"));
+        click("Show 1 Failed");
+        QTRY_COMPARE(list()->model()->rowCount(), 1);
+        list()->setCurrentIndex(list()->model()->index(0, 0));
+        QVERIFY(button("Append All the Same")->isVisible());
+        m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::end());
+        click("Append All the Same");
+        QTRY_VERIFY(m_fake->starts().last().contains("--signed append"));
+        QTRY_COMPARE(state(), State::Results);
+        QVERIFY(button("Save Report…")->isVisible() && button("Undo This Run…")->isVisible());
+    }
+
+    void savesAReport()
+    {
+        run();
+        const QString file = m_folder->filePath("report.tsv");
+        dialogs::setNextAnswer({file});
+        click("Save Report…");
+        QFile report(file);
+        QVERIFY(report.open(QIODevice::ReadOnly));
+        QVERIFY(report.readAll().contains("/d/a.pdf\tchanged\tPanel: Not set → Bookmarks\t\n"));
+    }
+
+    void undoesARunAfterAsking()
+    {
+        run();
+        m_fake->plays("undo",
+                      Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::result(0, "undone") + Fake::end());
+        dialogs::setNextAnswer({"yes"});
+        click("Undo This Run…");
+        QTRY_COMPARE(m_fake->starts().filter(QRegularExpression("^undo ")).size(), 1);
+        QTRY_VERIFY(!m_window->workbench().machine().isWriting());
+    }
+
+    void keepsKeyboardAndNames()
+    {
+        read();
+        list()->setFocus();
+        list()->setCurrentIndex(list()->model()->index(0, 0));
+        QTest::keyClick(list(), Qt::Key_Delete);
+        QCOMPARE(m_window->workbench().table().count(), 1);
+        QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(m_window->workbench().table().count(), 2);
+        QTest::keyClick(m_window.get(), Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(QApplication::focusWidget(), find<QLineEdit>("Search"));
+        QTest::keyClicks(find<QLineEdit>("Search"), "b.pdf");
+        QTRY_COMPARE(list()->model()->rowCount(), 1);
+        QTest::keyClick(find<QLineEdit>("Search"), Qt::Key_Escape);
+        QTRY_COMPARE(list()->model()->rowCount(), 2);
+        QTest::keyClick(m_window.get(), Qt::Key_F6);
+        for (QWidget* each : m_window->findChildren<QWidget*>())
+            if (each->isVisible() && (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus &&
+                !each->inherits("QScrollArea") && !each->inherits("QMenuBar"))
+                QVERIFY2(!nameOf(each).isEmpty(), each->metaObject()->className());
+    }
+
+    void takesTheViewOfARowAndKeepsPresets()
+    {
+        read();
+        list()->setCurrentIndex(list()->model()->index(1, 0));
+        QTest::keyClick(m_window.get(), Qt::Key_L, Qt::ControlModifier);
+        QTRY_COMPARE(find<QComboBox>("Layout")->currentText(), QString("One column"));
+        const PresetFolder presets(m_folder->filePath("views"));
+        QCOMPARE(presets.save("a/b & c", m_window->workbench().draft().view()), QString());
+        QCOMPARE(presets.presets().at(0).name, QString("a/b & c"));
+        QCOMPARE(presets.presets().at(0).draft, m_window->workbench().draft());
+        QTest::keyClick(m_window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(QApplication::clipboard()->text().startsWith(
+            "quintar run --page-mode unset --page-layout one-column"));
+    }
+
+    void writesToAFolder()
+    {
+        read();
+        choose("Panel", "Bookmarks");
+        dialogs::setNextAnswer({"/out"});
+        choose("Write to", "A folder");
+        QTRY_VERIFY(m_fake->starts().last().contains("--output /out --base /d/"));
+        QTRY_COMPARE(state(), State::Ready);
+    }
+
+    void asksBeforeItClosesARunAndKeepsTheRest()
+    {
+        read();
+        choose("Panel", "Bookmarks");
+        QTRY_COMPARE(state(), State::Ready);
+        m_fake->plays("run", Fake::start() + "#hear stop\n" + "{\"event\":\"end\",\"stopped\":true}\n");
+        m_window->workbench().start();
+        dialogs::setNextAnswer({"yes"});
+        m_window->close();
+        QVERIFY(m_window->isVisible());
+        QTRY_VERIFY(!m_window->isVisible());
+        list()->horizontalHeader()->moveSection(0, 2);
+        m_window->close();
+
+        open();
+        QTRY_COMPARE(m_window->workbench().table().count(), 2);
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/a.pdf", "/d/b.pdf"}));
+        QTRY_COMPARE(state(), State::Ready);
+        QCOMPARE(find<QComboBox>("Panel")->currentText(), QString("Bookmarks"));
+        QCOMPARE(list()->horizontalHeader()->visualIndex(0), 2);
+    }
+
+    void explainsEverySetting()
+    {
+        for (const viewentries::Description& each : viewentries::all())
+            QVERIFY2(!viewtexts::helpOf(each.entry).isEmpty(), each.option);
+        QTest::keyClick(m_window.get(), Qt::Key_F1);
+        auto* text = m_window->findChild<QTextBrowser*>();
+        QVERIFY(text->isVisible() && text->toPlainText().contains("Which viewers follow"));
+    }
+
+private:
+    static QString nameOf(const QWidget* widget)
+    {
+        if (!widget->accessibleName().isEmpty())
+            return widget->accessibleName();
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+        return face != nullptr ? face->text(QAccessible::Name).remove('&') : QString();
+    }
+    template <class Widget>
+    Widget* find(const QString& name) const
+    {
+        for (Widget* each : m_window->findChildren<Widget*>())
+            if (nameOf(each) == name)
+                return each;
+        qFatal("no %s", qPrintable(name));
+    }
+    QAbstractButton* button(const QString& name) const { return find<QAbstractButton>(name); }
+    void click(const QString& name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+    QTableView* list() const { return find<QTableView>("Documents"); }
+    QString status() const { return find<QLabel>("Status")->text().replace("%n", "1"); }
+    QString cell(int row, Column column) const
+    {
+        return list()->model()->index(row, int(column)).data(Qt::AccessibleTextRole).toString();
+    }
+    void choose(const QString& box, const QString& value) const
+    {
+        auto* combo = find<QComboBox>(box);
+        combo->setCurrentIndex(combo->findText(value));
+        emit combo->activated(combo->currentIndex());
+    }
+    State state() const { return const_cast<MainWindow&>(*m_window).workbench().machine().state(); }
+
+    void open()
+    {
+        m_window.reset();
+        m_window = std::make_unique<MainWindow>(
+            MainWindow::Places{Fake::program(), m_folder->filePath("runs"), m_folder->filePath("sessions"),
+                               m_folder->filePath("window.ini"), m_folder->filePath("views")});
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        m_window->begin({});
+    }
+    void read()
+    {
+        m_window->workbench().add({"/d"});
+        QTRY_COMPARE(state(), State::Listed);
+    }
+    void run()
+    {
+        read();
+        choose("Panel", "Bookmarks");
+        QTRY_COMPARE(state(), State::Ready);
+        m_window->workbench().start();
+        QTRY_COMPARE(state(), State::Results);
+    }
+
+    std::unique_ptr<FakeQuintar> m_fake;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+int main(int argc, char** argv)
+{
+    Q_INIT_RESOURCE(quintar);
+    QApplication application(argc, argv);
+    TestMainWindow test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "TestMainWindow.moc"

@@ -1,0 +1,188 @@
+#include "host/desktop/workbench/Workbench.h"
+#include "support/FakeQuintar.h"
+
+#include "pdflibrary/ViewNumbers.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace host;
+using namespace host::desktop;
+using State = RunMachine::State;
+using Fake = FakeQuintar;
+
+namespace {
+
+ChangeDraft bookmarks()
+{
+    ChangeDraft draft;
+    draft.set(ViewEntry::PageMode, pdflibrary::BookmarksPanel);
+    return draft;
+}
+
+} // namespace
+
+class TestWorkbench : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_fake = std::make_unique<FakeQuintar>();
+        m_reports = std::make_unique<QTemporaryDir>();
+        m_bench = std::make_unique<Workbench>(Fake::program(), m_reports->path());
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::found(1, "/d/b.pdf") +
+                                  Fake::document(0) + Fake::document(1) + Fake::end());
+        m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
+        m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
+    }
+    void cleanup() { m_bench.reset(); }
+
+    void readsChecksRunsAndUndoes()
+    {
+        read();
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d"}));
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        QVERIFY(m_fake->starts().last().contains("--dry-run"));
+        QCOMPARE(m_bench->counts().willChange, 1);
+        QCOMPARE(m_bench->counts().cannot, 1);
+
+        m_bench->start();
+        QTRY_COMPARE(state(), State::Results);
+        QVERIFY(m_fake->starts().last().startsWith("run --page-mode use-outlines --in-place --report " +
+                                                   m_reports->path()));
+        QCOMPARE(m_bench->counts().changed, 1);
+        QCOMPARE(m_bench->counts().failed, 1);
+        QCOMPARE(m_bench->undoableRun(), 0);
+        QCOMPARE(m_bench->history().runs().front().what, QString("Panel: Bookmarks"));
+
+        m_fake->plays("undo",
+                      Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::result(0, "undone") + Fake::end());
+        QSignalSpy said(m_bench.get(), &Workbench::said);
+        m_bench->undoRun(0);
+        QTRY_COMPARE(said.size(), 1);
+        QTRY_COMPARE(state(), State::Ready); // read and checked once more
+        QVERIFY(!m_bench->history().canUndo(0));
+        QCOMPARE(RunHistory(m_reports->path()).newestUndoable(), -1);
+    }
+
+    void appendsToSignedOnesWhenTold()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        m_bench->appendAllTheSame({2});
+        m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::end());
+        QTRY_COMPARE(state(), State::Ready);
+        QTRY_VERIFY(m_fake->starts().last().contains("--signed append"));
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b.pdf"}));
+        QCOMPARE(m_bench->counts().willChange, 2);
+    }
+
+    void triesAPasswordOnAllThatWantOne()
+    {
+        m_fake->plays("show",
+                      Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::failed(0, "password") + Fake::end());
+        read();
+        QCOMPARE(m_bench->table().find(1)->reasonCode(), QString("password"));
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::document(0) + Fake::end());
+        m_bench->givePassword("secret");
+        QTRY_COMPARE(state(), State::Listed);
+        QCOMPARE(m_fake->password(), QByteArray("secret\n"));
+        QVERIFY(!m_fake->starts().join("").contains("secret"));
+        QVERIFY(m_bench->table().find(1)->facts);
+    }
+
+    /// What has no answer is not done, and the reason is told.
+    void reckonsWithBadPrograms_data()
+    {
+        QTest::addColumn<QByteArray>("stream");
+        QTest::newRow("refuses") << QByteArray("#say quintar: two documents have the same result\n#exit 2\n");
+        QTest::newRow("breaks off") << Fake::start() + Fake::changed(0) + "#say out of luck\n#exit 1\n";
+        QTest::newRow("other version") << QByteArray("{\"event\":\"start\",\"version\":2}\n") + Fake::end();
+        QTest::newRow("garbage") << Fake::start() + "Segmentation fault\n" + Fake::end();
+        QTest::newRow("endless line") << Fake::start() + QByteArray(3 << 20, 'x') + "\n#wait 60000\n";
+        QTest::newRow("number beyond") << Fake::start() + Fake::changed(7) + Fake::changed(-1) + "#exit 0\n";
+    }
+    void reckonsWithBadPrograms()
+    {
+        QFETCH(QByteArray, stream);
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        m_fake->plays("run", stream);
+        QSignalSpy failed(m_bench.get(), &Workbench::failed);
+        m_bench->start();
+        QTRY_COMPARE(state(), State::Results);
+        QCOMPARE(failed.size(), 1);
+        QVERIFY(!failed.front().front().toString().isEmpty());
+        QVERIFY(m_bench->counts().notDone >= 1);
+        QCOMPARE(m_bench->counts().changed + m_bench->counts().notDone, 2);
+    }
+
+    void pausesGoesOnAndStops()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        m_fake->plays("run", Fake::start() + "#hear pause\n#hear resume\n" + Fake::changed(0) +
+                                 "#hear stop\n" + "{\"event\":\"end\",\"stopped\":true}\n");
+        m_bench->start();
+        m_bench->pause();
+        QCOMPARE(state(), State::Paused);
+        m_bench->resume();
+        QTRY_COMPARE(m_bench->counts().changed, 1);
+        m_bench->add({"/e"}); // waits
+        m_bench->stop();
+        QCOMPARE(state(), State::Stopping);
+        QTRY_VERIFY(m_fake->starts().last().startsWith("show"));
+        QCOMPARE(m_bench->history().runs().front().changed, 1);
+    }
+
+    void forgetsAnEarlierCheckAtEachEdit()
+    {
+        read();
+        m_fake->plays("try",
+                      Fake::start() + "#wait 300\n" + Fake::changed(0) + Fake::changed(1) + Fake::end());
+        m_bench->setDraft(bookmarks());
+        QTRY_VERIFY(m_bench->task() != nullptr);
+        m_fake->plays("try", Fake::start() + Fake::result(0, "unchanged") + Fake::result(1, "unchanged") +
+                                 Fake::end());
+        ChangeDraft other = bookmarks();
+        other.set(ViewEntry::PageLayout, 1);
+        m_bench->setDraft(other);
+        QTRY_COMPARE(state(), State::Ready);
+        QTest::qWait(400);
+        QCOMPARE(m_bench->counts().asAsked, 2);
+    }
+
+    void isForTheSelectedOnesOnlyWhenThereAreSeveral()
+    {
+        read();
+        m_bench->order().select({1}, 1);
+        QTRY_COMPARE(m_bench->targets().size(), 2);
+        m_bench->setScope(Workbench::Scope::Selected);
+        QCOMPARE(m_bench->targets(), Workbench::Ids({1}));
+        m_bench->setDraft(bookmarks());
+        m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::end());
+        QTRY_COMPARE(state(), State::Ready);
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/a.pdf"}));
+    }
+
+private:
+    State state() const { return m_bench->machine().state(); }
+    void read()
+    {
+        m_bench->add({"/d"});
+        QTRY_COMPARE(state(), State::Listed);
+    }
+
+    std::unique_ptr<FakeQuintar> m_fake;
+    std::unique_ptr<QTemporaryDir> m_reports;
+    std::unique_ptr<Workbench> m_bench;
+};
+
+QTEST_GUILESS_MAIN(TestWorkbench)
+#include "TestWorkbench.moc"

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+/// What a program does that a document has taken over.
+namespace misdeeds {
+
+/// To be called in the worker before it is locked in.
+void prepare();
+
+/// Does what the name of a document asks for: "reads-key", "writes-outside", "connects", "forks", "executes",
+/// "traces", "signals", "spies". \returns whether it could; true for a name that asks for nothing.
+bool allDone(const std::wstring& name);
+
+} // namespace misdeeds
