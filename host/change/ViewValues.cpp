@@ -219,8 +219,7 @@ std::string wordOf(const Description& entry, int number)
 
 double storedPercent(double percent)
 {
-    const double mostWithPlaces = 1e9; // larger ones may become infinite
-    return percent < mostWithPlaces ? std::round(percent * 1e4) / 1e4 : percent;
+    return std::round(percent * 1e4) / 1e4;
 }
 
 const Name* nameOf(std::span<const Name> names, int number)
