@@ -142,7 +142,7 @@ void ViewChanger::openAt(int page)
     if (const std::optional<ViewValue>& zoom = m_change[ViewEntry::Zoom])
         openAt(page, std::get<Magnification>(*zoom));
     else if (m_present[ViewEntry::OpenPage] != ViewValue(page))
-        openAt(page, presentZoom());
+        openAt(page, m_present.magnification());
 }
 
 /// An action of the same type is taken for the same.
@@ -151,13 +151,6 @@ void ViewChanger::leaveOpenAction(const OtherAction& wanted)
     if (m_present[ViewEntry::OpenPage] != ViewValue(wanted))
         m_leftOut = {ReasonCode::OpenAction,
                      "it does not open with " + typeOfAction(wanted) + ", which cannot be given to it"};
-}
-
-/// What documents have that can be given to no page becomes what viewers make of it.
-Magnification ViewChanger::presentZoom() const
-{
-    const Magnification zoom = magnificationFrom(m_present[ViewEntry::Zoom]);
-    return zoom.type == 0 || zoom.percent < 0 ? Magnification() : zoom;
 }
 
 int ViewChanger::wantedPage() const
@@ -221,10 +214,10 @@ void ViewChanger::setDestination(int page, const Magnification& zoom)
 
 void ViewChanger::changeTitle(const ViewValue& wanted)
 {
-    const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
-    require(m_library.LastErrorCode() == 0 ? 1 : 0, ViewEntry::Title);
     if (m_change.keepsTitles() && m_present.hasTitle())
         return;
+    const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
+    require(m_library.LastErrorCode() == 0 ? 1 : 0, ViewEntry::Title);
     changeEntry(ViewEntry::Title, wanted);
     if (!packet.isEmpty())
         changeMetadata(packet, wanted);

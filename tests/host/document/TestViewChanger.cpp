@@ -293,6 +293,13 @@ private slots:
                 change[ViewEntry::OpenPage] == ViewValue(Unset()));
         QVERIFY(!change[ViewEntry::Zoom] && !change[ViewEntry::Title] && !change[ViewEntry::Lang]);
         QVERIFY(change.contradiction().empty());
+        // What can be given to no page becomes what viewers make of it.
+        recorder.returns("GetOpenActionDestination", 5);
+        recorder.returns("GetDestPage", 1);
+        QVERIFY(PresentView(library).asChange()[ViewEntry::Zoom] == ViewValue(Magnification()));
+        recorder.returns("GetDestValue(5, 6)", 1);
+        recorder.returns("GetDestValue(5, 5)", -200);
+        QVERIFY(PresentView(library).asChange()[ViewEntry::Zoom] == ViewValue(Magnification()));
     }
 
     void leavesOutActionsOfOtherDocuments()

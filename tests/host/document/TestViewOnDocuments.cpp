@@ -361,6 +361,13 @@ private slots:
         }
     }
 
+    void leavesATitleBesideMetadataThatCannotBeRead()
+    {
+        const std::string bytes = builder("null").stream(8, "/Filter /Odd", packet).bytes();
+        QCOMPARE(changed(bytes, R"({"title":"New","titleIfMissing":true})", m_folder), bytes);
+        QVERIFY(!changed(bytes, R"({"title":"New"})", m_folder).starts_with(bytes));
+    }
+
     void writesTheTitleOnceMore_data()
     {
         const Rows<std::string> row;
