@@ -106,6 +106,8 @@ ViewValue textValue(const QString& name, const QJsonValue& value)
 {
     if (!value.isString())
         refuse(name, value, "a text or null");
+    if (!value.toString().isValidUtf16())
+        refuse(name, value, "a text of whole characters; half a pair of \\u... is none");
     return value.toString().toStdString();
 }
 

@@ -174,6 +174,9 @@ ViewValue title(const Description& entry, const std::string& word)
                     [](QChar each) { return each.category() == QChar::Other_Control; }))
         throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word +
                          "\": it holds control characters, such as line feeds");
+    if (std::any_of(text.begin(), text.end(), [](QChar each) { return each.unicode() >= 0xfffe; }))
+        throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word +
+                         "\": it holds U+FFFE or U+FFFF, which are no characters");
     return word;
 }
 

@@ -218,6 +218,9 @@ void ViewChanger::changeTitle(const ViewValue& wanted)
         return;
     const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
     require(m_library.LastErrorCode() == 0 ? 1 : 0, ViewEntry::Title);
+    // In the metadata alone it is the one that viewers find, and that is told of the document.
+    if (m_present[ViewEntry::Title] == ViewValue(Unset()) && m_present.shownTitle() == wanted)
+        return;
     changeEntry(ViewEntry::Title, wanted);
     if (!packet.isEmpty())
         changeMetadata(packet, wanted);
@@ -234,7 +237,7 @@ void ViewChanger::changeMetadata(const QString& packet, const ViewValue& title)
         throw DocumentError(
             {ReasonCode::Metadata, xmptitle::canBeWritten(text)
                                        ? "the title in its XMP metadata cannot be changed"
-                                       : "its XMP metadata cannot hold the title's control characters"});
+                                       : "its XMP metadata cannot hold some of the title's characters"});
     if (*changed == packet)
         return;
     require(m_library.SetDocumentMetadata(changed->toStdWString()), ViewEntry::Title);

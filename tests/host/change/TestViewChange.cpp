@@ -163,6 +163,8 @@ private slots:
         row("title", "\xff", "not in UTF-8");
         row("title", "a\nb", "control characters");
         row("title", "\x7f", "control characters");
+        row("title", "\xef\xbf\xbe", "no characters");
+        row("title", "\xed\xa0\x80", "not in UTF-8");
         row("zoom", "fit-box", "--zoom cannot be");
         row("lang", "english language", "a language tag");
     }
@@ -258,6 +260,7 @@ private slots:
         row(R"({"viewerPreferences":{"HideToolbar":1}})", "true, false or null");
         row(R"({"viewerPreferences":[]})", "an object or null");
         row(R"({"title":5})", "a text or null");
+        row(R"({"title":"a\ud800b"})", "whole characters");
         row(R"({"lang":["en"]})", "lang cannot be [\"en\"]: it is a text or null");
         row(R"({"titleIfMissing":"yes"})", "true or false");
     }

@@ -84,7 +84,9 @@ private slots:
         QVERIFY(!quintar({"check", "--display-doc-title", "yes", "xmp.pdf"}).err.contains(note));
         QVERIFY(quintar({"check", "--display-doc-title", "yes", "d/plain.pdf"}).err.contains(note));
         QCOMPARE(quintar({"run", "--title", "New", "-n", "--in-place", "xmp.pdf"}).out.split('\n').first(),
-                 QByteArray("would change  xmp.pdf: title: unset -> New"));
+                 QByteArray("would change  xmp.pdf: title: In XMP -> New"));
+        QCOMPARE(quintar({"check", "--view", "-", "xmp.pdf"}, quintar({"show", "--json", "xmp.pdf"}).out).out,
+                 QByteArray("1 as asked, 0 not, 0 failed\n"));
         WorkFolder::put("both.pdf", PdfBuilder()
                                         .catalog("/Metadata 9 0 R")
                                         .pages(1)
