@@ -23,11 +23,19 @@ Failure cannotWrite()
     return Failure::ofSystem(errno, ReasonCode::WriteFailed);
 }
 
+const char overlooked[] = "bytes that viewers pass over are left behind its end";
+
+/// Texts of which each may be empty.
+std::string joined(const std::string& one, const std::string& other)
+{
+    return one + (one.empty() || other.empty() ? "" : "; ") + other;
+}
+
 } // namespace
 
 Failure InPlaceAppend::Outcome::whole() const
 {
-    return {problem.code, problem.text + (aftermath.empty() ? "" : "; ") + aftermath};
+    return {problem.code, joined(problem.text, aftermath)};
 }
 
 InPlaceAppend::InPlaceAppend(const InPlaceFile& file, const struct stat& before, std::string_view update)
@@ -45,8 +53,8 @@ InPlaceAppend::Outcome InPlaceAppend::perform()
         return {changedMeanwhile()};
     if (!write(m_begin))
         return failed(cannotWrite());
-    if (m_left.st_size != endOf(m_begin) || !isAsLeft())
-        return {changedMeanwhile()};
+    if (m_left.st_size != endOf(m_begin) || !isAsLeft() || !isUntouched())
+        return {changedMeanwhile(), leftOver()};
     if (!write(m_update.substr(m_begin.size())))
         return failed(cannotWrite());
     return {};
@@ -66,6 +74,24 @@ bool InPlaceAppend::isAsLeft() const
     return isAsRead(m_file.get(), m_file.path(), m_left);
 }
 
+/// Programs may set a document's time back to what it was; they cannot set the time of that.
+bool InPlaceAppend::isUntouched() const
+{
+    struct stat now;
+    return fstat(m_file.get(), &now) == 0 && now.st_ctim.tv_sec == m_left.st_ctim.tv_sec &&
+           now.st_ctim.tv_nsec == m_left.st_ctim.tv_nsec;
+}
+
+/// What another program has left of the update in the document, in words.
+std::string InPlaceAppend::leftOver() const
+{
+    struct stat now;
+    if (stat(m_file.path().c_str(), &now) != 0 || !isSameFile(now, m_before))
+        return {};
+    const auto bytes = behindDocument();
+    return bytes && bytes->starts_with(m_begin) ? overlooked : "";
+}
+
 InPlaceAppend::Outcome InPlaceAppend::settle(const Failure& why)
 {
     fstat(m_file.get(), &m_left); // nobody can tell how the other process left it
@@ -78,34 +104,39 @@ InPlaceAppend::Outcome InPlaceAppend::settle(const Failure& why)
 InPlaceAppend::Outcome InPlaceAppend::failed(const Failure& why) const
 {
     const Found found = this->found();
-    if (!found.isOfUpdate || !isAsLeft())
-        return {why, changedMeanwhile().text};
+    if (!found.problem.empty())
+        return {why, "what stands behind its end cannot be read: " + found.problem};
+    if (!found.isOfUpdate || !isAsLeft() || !isUntouched())
+        return {why, joined(changedMeanwhile().text, leftOver())};
     return isNothing(found) ? Outcome{why} : cutBack(found, why);
 }
 
 /// The last lines go first, and are gone on the disk too before the rest goes.
 InPlaceAppend::Outcome InPlaceAppend::cutBack(const Found& found, const Failure& why) const
 {
-    if (found.size > m_begin.size() && m_file.cut(endOf(m_begin)))
-        m_file.flush();
+    bool isFlushed = found.size <= m_begin.size() || (m_file.cut(endOf(m_begin)) && m_file.flush());
     if (m_file.cut(m_before.st_size)) {
-        m_file.setTime(m_before.st_mtim);
-        m_file.flush();
-        return {why};
+        const std::string lost = m_file.setTime(m_before.st_mtim) ? "" : "its time could not be restored";
+        isFlushed = m_file.flush() && isFlushed;
+        return {why, joined(lost, isFlushed ? "" : "after a power failure it may open as was asked")};
     }
     const std::string problem = "it cannot be cut back: " + systemError(errno);
     if (isAll(this->found()))
         return {{}, {}, "it may not survive a power failure: " + why.text + "; " + problem};
-    return {why, "bytes that viewers pass over are left behind its end, for " + problem};
+    return {why, overlooked + (", for " + problem)};
 }
 
 InPlaceAppend::Found InPlaceAppend::found() const
 {
+    errno = 0;
     const auto bytes = behindDocument();
-    return {bytes && m_update.starts_with(*bytes), bytes ? bytes->size() : 0};
+    if (!bytes)
+        return {false, 0, errno == 0 ? "" : systemError(errno)};
+    return {m_update.starts_with(*bytes), bytes->size(), {}};
 }
 
-/// No more than it takes to know that it is not the update. Nothing when the document is another one.
+/// No more than it takes to know that it is not the update. Nothing when the document is another one, and, with
+/// errno set, when it cannot be read.
 std::optional<std::string> InPlaceAppend::behindDocument() const
 {
     struct stat now;

@@ -55,11 +55,14 @@ private:
     {
         bool isOfUpdate = false;
         std::size_t size = 0;
+        std::string problem = {}; ///< Why it cannot be told.
     };
 
     /// \returns false, with errno set, on failure.
     bool write(std::string_view bytes);
     bool isAsLeft() const;
+    bool isUntouched() const;
+    std::string leftOver() const;
     Found found() const;
     static bool isNothing(const Found& found) { return found.isOfUpdate && found.size == 0; }
     bool isAll(const Found& found) const { return found.isOfUpdate && found.size == m_update.size(); }
