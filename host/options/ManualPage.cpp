@@ -64,8 +64,8 @@ std::string head(const std::string& name, const std::string& summary)
     for (char& each : title)
         if (each >= 'a' && each <= 'z')
             each = static_cast<char>(each - 'a' + 'A');
-    return std::string(".Dd ") + date + "\n.Dt " + title +
-           " 1\n.Os quintar " QUINTAR_VERSION "\n.Sh NAME\n.Nm " + name + "\n.Nd " + summary + "\n";
+    return std::string(".Dd ") + date + "\n.Dt " + title + " 1\n.Os\n.Sh NAME\n.Nm " + name + "\n.Nd " +
+           summary + "\n";
 }
 
 std::string formOf(const Option& option)

@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>&amp;Copy as Command</source>
-        <translation>Copiar como co&amp;mando</translation>
+        <translation>Copiar como coman&amp;do</translation>
     </message>
     <message>
         <source>Copies the command line that does the same</source>

@@ -921,7 +921,7 @@
     </message>
     <message>
         <source>Re&amp;move from List</source>
-        <translation>Re&amp;tirer de la liste</translation>
+        <translation>Ret&amp;irer de la liste</translation>
     </message>
     <message>
         <source>Takes the selected documents out of the list; the files stay</source>
