@@ -293,11 +293,11 @@
     </message>
     <message>
         <source>The preset cannot be kept: %1</source>
-        <translation>Die Voreinstellung kann nicht gespeichert werden: %1</translation>
+        <translation>Die Vorlage kann nicht gespeichert werden: %1</translation>
     </message>
     <message>
         <source>The preset cannot be removed: %1</source>
-        <translation>Die Voreinstellung kann nicht entfernt werden: %1</translation>
+        <translation>Die Vorlage kann nicht entfernt werden: %1</translation>
     </message>
 </context>
 <context>
@@ -1001,7 +1001,7 @@
     </message>
     <message>
         <source>&amp;Save as Preset…</source>
-        <translation>Als &amp;Voreinstellung speichern…</translation>
+        <translation>Als &amp;Vorlage speichern…</translation>
     </message>
     <message>
         <source>Keeps the change under a name</source>
@@ -1009,7 +1009,7 @@
     </message>
     <message>
         <source>&amp;Keep All</source>
-        <translation>&amp;Alles beibehalten</translation>
+        <translation>&amp;Nichts ändern</translation>
     </message>
     <message>
         <source>Sets nothing</source>
@@ -1144,7 +1144,7 @@
     </message>
     <message>
         <source>&amp;Keep All</source>
-        <translation>Alles beibehal&amp;ten</translation>
+        <translation>Nich&amp;ts ändern</translation>
     </message>
     <message>
         <source>&amp;Write to</source>
@@ -1152,11 +1152,11 @@
     </message>
     <message>
         <source>&amp;Change for</source>
-        <translation>Änderung &amp;für</translation>
+        <translation>&amp;Für</translation>
     </message>
     <message>
         <source>Change for</source>
-        <translation>Änderung für</translation>
+        <translation>Für</translation>
     </message>
     <message>
         <source>A change is for all documents that are shown, or for those that are selected. Documents that the search or the filter hides stay as they are.</source>
@@ -1164,7 +1164,7 @@
     </message>
     <message>
         <source>&amp;Presets</source>
-        <translation>&amp;Voreinstellungen</translation>
+        <translation>&amp;Vorlagen</translation>
     </message>
     <message>
         <source>Changes under a name: views that you keep, and the action lists and favourites of the action “Initial View”.</source>
@@ -1576,11 +1576,11 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     </message>
     <message>
         <source>&amp;Remove Preset</source>
-        <translation>Voreinstellung &amp;entfernen</translation>
+        <translation>Vorlage &amp;entfernen</translation>
     </message>
     <message>
         <source>Remove the preset “%1”?</source>
-        <translation>Die Voreinstellung „%1“ entfernen?</translation>
+        <translation>Die Vorlage „%1“ entfernen?</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -1588,7 +1588,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     </message>
     <message>
         <source>Save as Preset</source>
-        <translation>Als Voreinstellung speichern</translation>
+        <translation>Als Vorlage speichern</translation>
     </message>
     <message>
         <source>Name:</source>

@@ -1152,11 +1152,11 @@
     </message>
     <message>
         <source>&amp;Change for</source>
-        <translation>Cambio &amp;para</translation>
+        <translation>&amp;Para</translation>
     </message>
     <message>
         <source>Change for</source>
-        <translation>Cambio para</translation>
+        <translation>Para</translation>
     </message>
     <message>
         <source>A change is for all documents that are shown, or for those that are selected. Documents that the search or the filter hides stay as they are.</source>

@@ -1152,11 +1152,11 @@
     </message>
     <message>
         <source>&amp;Change for</source>
-        <translation>M&amp;odification pour</translation>
+        <translation>P&amp;our</translation>
     </message>
     <message>
         <source>Change for</source>
-        <translation>Modification pour</translation>
+        <translation>Pour</translation>
     </message>
     <message>
         <source>A change is for all documents that are shown, or for those that are selected. Documents that the search or the filter hides stay as they are.</source>

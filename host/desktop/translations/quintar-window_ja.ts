@@ -1148,11 +1148,11 @@
     </message>
     <message>
         <source>&amp;Change for</source>
-        <translation>変更の対象(&amp;B)</translation>
+        <translation>対象(&amp;B)</translation>
     </message>
     <message>
         <source>Change for</source>
-        <translation>変更の対象</translation>
+        <translation>対象</translation>
     </message>
     <message>
         <source>A change is for all documents that are shown, or for those that are selected. Documents that the search or the filter hides stay as they are.</source>
