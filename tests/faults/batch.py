@@ -1,0 +1,211 @@
+"""Six documents of different kinds, what commands make of them, and whether a run that met a fault told the truth."""
+
+import json
+import mmap
+import os
+import pathlib
+import shutil
+import struct
+import subprocess
+import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "bench"))
+sys.dont_write_bytecode = True
+import inputs  # noqa: E402
+
+# As shim.cpp has them.
+KINDS = ["any", "any of workers", "open", "read", "write", "copy", "clone", "sync", "rename", "close", "chmod", "truncate",
+         "mmap", "malloc", "fork", "pipe", "poll", "mkdir", "unlink", "flock", "stat"]
+SHORT, WAIT, ALL_THE_SAME = -1, -2, 1000
+ALWAYS = 0xffffffff
+
+CHANGE = ["--page-mode", "bookmarks", "--open-page", "2"]
+EARLIER = b"%PDF-1.4\n% an earlier result\n"
+SECONDS = 60  # after which a run hangs
+
+
+class Shim:
+    """What the program is to meet, and how many calls it has made."""
+
+    def __init__(self, library, folder):
+        self.file = os.path.join(folder, "orders")
+        with open(self.file, "wb") as file:
+            file.write(bytes(mmap.PAGESIZE))
+        with open(self.file, "r+b") as file:
+            self.memory = mmap.mmap(file.fileno(), mmap.PAGESIZE)
+        self.environment = {"LD_PRELOAD": os.path.abspath(library), "FAULTS_ORDERS": self.file}
+
+    def order(self, kind, first, last, manner):
+        self.memory[:] = struct.pack("=IIIi", KINDS.index(kind), first, last, manner).ljust(mmap.PAGESIZE, b"\0")
+
+    def word(self, number):
+        return struct.unpack_from("=I", self.memory, 4 * number)[0]
+
+    def waiting(self):
+        return self.word(4)
+
+    def release(self):
+        struct.pack_into("=I", self.memory, 20, 1)
+
+    def count(self, kind):
+        return self.word(7 + KINDS.index(kind))
+
+
+def signed(path):
+    writer = inputs.Writer(path)
+    writer.add(1, b"<< /Type /Catalog /Pages 2 0 R /AcroForm << /SigFlags 3 /Fields [ 5 0 R ] >> >>")
+    writer.add(2, b"<< /Type /Pages /Count 2 /Kids [ 3 0 R 4 0 R ] /MediaBox [ 0 0 612 792 ] >>")
+    for number in (3, 4):
+        writer.add(number, b"<< /Type /Page /Parent 2 0 R >>")
+    writer.add(5, b"<< /FT /Sig /T (Signature) /V 6 0 R >>")
+    writer.add(6, b"<< /Type /Sig /Filter /Adobe.PPKLite /ByteRange [ 0 10 20 30 ] /Contents <00> >>")
+    writer.close()
+
+
+def build(program, folder):
+    """The six documents."""
+    os.makedirs(folder)
+    path = {name: os.path.join(folder, name + ".pdf")
+            for name in ("asked", "damaged", "encrypted", "plain", "signed", "streams")}
+    inputs.document(path["plain"], 2, 3000, 1)
+    inputs.document(path["damaged"], 2, 200_000, 2)
+    inputs.in_object_streams(path["damaged"], path["streams"], "--static-id")
+    subprocess.run(["qpdf", "--encrypt", "", "owner", "256", "--", path["plain"], path["encrypted"]], check=True)
+    signed(path["signed"])
+    data = pathlib.Path(path["damaged"]).read_bytes()
+    pathlib.Path(path["damaged"]).write_bytes(data.replace(b"startxref\n", b"startxref\n7"))
+    subprocess.run([program, "run", *CHANGE, "-q", "-o", path["asked"], path["plain"]], check=True)
+    return {name + ".pdf": pathlib.Path(file).read_bytes() for name, file in path.items()}
+
+
+def contents(folder):
+    """The files below it by their paths, except report, settings and the like."""
+    found = {}
+    for place, _, names in os.walk(folder):
+        for name in names:
+            path = os.path.join(place, name)
+            found[os.path.relpath(path, folder)] = pathlib.Path(path).read_bytes()
+    return found
+
+
+def times(folder):
+    """When the files were changed, which reports go by."""
+    return {name: os.stat(os.path.join(folder, name)).st_mtime_ns for name in contents(folder)}
+
+
+def write(folder, files, changed=None):
+    shutil.rmtree(folder, ignore_errors=True)
+    for name, data in files.items():
+        path = os.path.join(folder, name)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "wb") as file:
+            file.write(data)
+        if changed:
+            os.utime(path, ns=(changed[name], changed[name]))
+
+
+def json_lines(data):
+    for line in data.splitlines():
+        try:
+            yield json.loads(line)
+        except ValueError:
+            pass  # cut off, by the fault
+
+
+class Scenario:
+    """A command over the documents. `start` are the files before, with `times` when they were changed; `results` those
+    that it changes, each with what it is before (None for nothing) and what it has to become. The `spared` are neither
+    documents nor results."""
+
+    def __init__(self, name, words, start, spared=("report",), changed=None):
+        self.name, self.words, self.start, self.spared, self.times = name, words, start, spared, changed
+        self.results = {}
+
+    def learn(self, end):
+        """What a run without faults has left."""
+        self.results = {name: (self.start.get(name), data) for name, data in end.items()
+                        if name not in self.spared and (data != self.start.get(name) or self.is_result(name))}
+
+    def is_result(self, name):
+        return name.startswith("out/") if "-o" in self.words else name.startswith("in/")
+
+    def told(self, run, folder):
+        """What the run said became of each result: its words, and why it failed."""
+        told = {}
+        if self.words[0] == "undo":
+            names = {}
+            for event in json_lines(run.stdout):
+                if event["event"] == "found":
+                    names[event["number"]] = event["file"]
+                elif event["event"] == "result":
+                    told[os.path.relpath(names.get(event["number"], "?"), folder)] = (event["status"], event["reason"])
+        elif "--report" in self.words and os.path.exists(os.path.join(folder, "report")):
+            for line in json_lines(pathlib.Path(folder, "report").read_bytes()):
+                if "file" in line and line["status"] != "begun":
+                    name = os.path.join("out", os.path.basename(line["file"])) if "-o" in self.words else line["file"]
+                    told[name] = (line["status"], line["reason"])
+        return told
+
+
+class Run:
+    """A run that has ended."""
+
+    def __init__(self, status, stdout, stderr):
+        self.status, self.stdout, self.stderr = status, stdout, stderr
+
+
+def call(command, folder, environment=None):
+    own = {"PATH": os.environ["PATH"], "HOME": folder, "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen"}
+    try:
+        done = subprocess.run(command, cwd=folder, env={**own, **(environment or {})}, stdin=subprocess.DEVNULL,
+                              capture_output=True, timeout=SECONDS, check=False)
+    except subprocess.TimeoutExpired as hanging:
+        return Run("hangs", hanging.stdout or b"", hanging.stderr or b"")
+    return Run(done.returncode, done.stdout, done.stderr)
+
+
+DONE = ("changed", "unchanged", "undone", "undone already")
+
+
+def about_result(now, old, new, told, killed):
+    """What is wrong with a result, by its bytes and what was told of it."""
+    status, reason = told or (None, None)
+    is_begin = old is not None and now is not None and now.startswith(old) and new.startswith(now)
+    if now not in (old, new) and not (is_begin and (killed or "left behind" in (reason or ""))):
+        return "is torn"
+    if status in DONE and now != new and not (status == "unchanged" and now == old):
+        return f"is called {status} and is not"
+    if status is not None and status not in DONE and now == new and old != new:
+        return f"is called {status} and is done"
+    return None
+
+
+def judge(scenario, run, folder, killed=False):
+    """What is wrong after a run, in words."""
+    wrong = []
+    found = contents(folder)
+    told = scenario.told(run, folder)
+    for name, (old, new) in scenario.results.items():
+        problem = about_result(found.get(name), old, new, told.get(name), killed)
+        wrong += [f"{name} {problem}"] if problem else []
+    wrong += [f"{name} was touched" for name, data in scenario.start.items()
+              if name not in scenario.results and name not in scenario.spared and found.get(name) != data]
+    if not killed:
+        problem = about_status(scenario, run, found, told)
+        wrong += [problem] if problem else []
+    return wrong
+
+
+def about_status(scenario, run, found, told):
+    """What is wrong with the exit status."""
+    done = [name for name, (_, new) in scenario.results.items() if found.get(name) == new]
+    if run.status == 0 and len(done) < len(scenario.results):
+        return "status 0, and not all is done"
+    if run.status == 1 and len(done) == len(scenario.results) and b"incomplete" not in run.stderr and \
+            all(status in DONE for status, _ in told.values()):
+        return "status 1, and all is done"
+    if run.status == 2 and any(found.get(name) != old for name, (old, _) in scenario.results.items()):
+        return "status 2, and something was begun"
+    if run.status not in (0, 1, 2):
+        return f"status {run.status}"
+    return None

@@ -1,0 +1,293 @@
+// Stands before the C library (LD_PRELOAD) and makes one call of a kind fail, or fall short, or wait until the driver
+// has killed somebody. Calls are counted over all processes of a run, in memory that they share with the driver. Makes
+// no system calls of its own that a locked-in worker may not make.
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
+#include <sys/mman.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+
+extern "C" void* __libc_malloc(std::size_t size);
+
+namespace {
+
+// The rows of KINDS in batch.py.
+enum Kind : std::uint32_t {
+    Any,
+    AnyOfWorkers,
+    Open,
+    Read,
+    Write,
+    Copy,
+    Clone,
+    Sync,
+    Rename,
+    Close,
+    Chmod,
+    Truncate,
+    Map,
+    Malloc,
+    Fork,
+    Pipe,
+    Poll,
+    Folder,
+    Unlink,
+    Lock,
+    Status,
+    kinds
+};
+
+// What happens at the call, unless it is an errno value. Beyond `allTheSame`, the call is made and told as failed.
+const std::int32_t fallShort = -1;
+const std::int32_t waitThere = -2;
+const std::int32_t allTheSame = 1000;
+
+/// What the driver packs, by words of 32 bits.
+struct Orders
+{
+    std::uint32_t kind;
+    std::uint32_t first; ///< The first call that is meant, from 1.
+    std::uint32_t last;
+    std::int32_t manner;
+    std::atomic<std::uint32_t> waiting; ///< The process that waits at the call.
+    std::atomic<std::uint32_t> released;
+    std::atomic<std::uint32_t> program; ///< The first process; others are its workers.
+    std::array<std::atomic<std::uint32_t>, kinds> counts;
+};
+
+Orders* orders = nullptr;
+
+__attribute__((constructor)) void takeOrders()
+{
+    const char* const path = std::getenv("FAULTS_ORDERS");
+    const long file = path != nullptr ? syscall(SYS_openat, AT_FDCWD, path, O_RDWR | O_CLOEXEC) : -1;
+    if (file < 0)
+        return;
+    const long memory = syscall(SYS_mmap, nullptr, sizeof(Orders), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
+    syscall(SYS_close, file);
+    if (memory == -1)
+        std::abort();
+    orders = reinterpret_cast<Orders*>(memory);
+    orders->program = static_cast<std::uint32_t>(getpid());
+}
+
+/// \returns what is to happen at this call, 0 for nothing.
+std::int32_t orderFor(Kind kind)
+{
+    if (orders == nullptr)
+        return 0;
+    std::uint32_t number = ++orders->counts[kind];
+    if (kind != Malloc) {
+        const std::uint32_t ofAll = ++orders->counts[Any];
+        const bool isWorker = orders->program != static_cast<std::uint32_t>(getpid());
+        const std::uint32_t ofWorkers = isWorker ? ++orders->counts[AnyOfWorkers] : 0;
+        if (orders->kind <= AnyOfWorkers)
+            number = orders->kind == Any ? ofAll : ofWorkers;
+    }
+    const bool isMeant = orders->kind == kind || (orders->kind <= AnyOfWorkers && kind != Malloc);
+    if (!isMeant || number < orders->first || number > orders->last)
+        return 0;
+    if (orders->manner != waitThere)
+        return orders->manner;
+    orders->waiting = static_cast<std::uint32_t>(getpid());
+    const timespec moment{0, 200000};
+    while (orders->released == 0)
+        nanosleep(&moment, nullptr);
+    return 0;
+}
+
+bool fails(std::int32_t order)
+{
+    if (order > 0)
+        errno = order % allTheSame;
+    return order > 0;
+}
+
+/// A call that fails as a whole.
+template <class Result, class... Parameters, class... Arguments>
+Result met(Kind kind, Result (*real)(Parameters...), Result failure, Arguments... arguments)
+{
+    const std::int32_t order = orderFor(kind);
+    if (order > allTheSame)
+        real(arguments...);
+    return fails(order) ? failure : real(arguments...);
+}
+
+/// How much of so many bytes is to be done; 0 when the call is to fail.
+std::size_t share(Kind kind, std::size_t size)
+{
+    const std::int32_t order = orderFor(kind);
+    return fails(order) ? 0 : order == fallShort ? (size + 1) / 2 : size;
+}
+
+} // namespace
+
+// The function that stands behind ours.
+#define REAL(name)                                                                                           \
+    ([] {                                                                                                    \
+        static const auto found = reinterpret_cast<decltype(&::name)>(dlsym(RTLD_NEXT, #name));              \
+        return found;                                                                                        \
+    }())
+#define SIZED(kind, name, size, ...)                                                                         \
+    if (size == 0)                                                                                           \
+        return REAL(name)(__VA_ARGS__);                                                                      \
+    size = share(kind, size);                                                                                \
+    return size == 0 ? -1 : REAL(name)(__VA_ARGS__)
+
+#pragma GCC visibility push(default)
+extern "C" {
+
+int open(const char* path, int flags, ...)
+{
+    __builtin_va_list list;
+    __builtin_va_start(list, flags);
+    const auto mode = (flags & (O_CREAT | __O_TMPFILE)) != 0 ? __builtin_va_arg(list, unsigned) : 0U;
+    __builtin_va_end(list);
+    return fails(orderFor(Open)) ? -1 : REAL(open)(path, flags, mode);
+}
+int open64(const char* path, int flags, ...)
+{
+    __builtin_va_list list;
+    __builtin_va_start(list, flags);
+    const auto mode = (flags & (O_CREAT | __O_TMPFILE)) != 0 ? __builtin_va_arg(list, unsigned) : 0U;
+    __builtin_va_end(list);
+    return fails(orderFor(Open)) ? -1 : REAL(open64)(path, flags, mode);
+}
+ssize_t read(int file, void* bytes, std::size_t size)
+{
+    SIZED(Read, read, size, file, bytes, size);
+}
+ssize_t pread(int file, void* bytes, std::size_t size, off_t at)
+{
+    SIZED(Read, pread, size, file, bytes, size, at);
+}
+ssize_t write(int file, const void* bytes, std::size_t size)
+{
+    SIZED(Write, write, size, file, bytes, size);
+}
+ssize_t pwrite(int file, const void* bytes, std::size_t size, off_t at)
+{
+    SIZED(Write, pwrite, size, file, bytes, size, at);
+}
+ssize_t copy_file_range(int from, off64_t* fromAt, int to, off64_t* toAt, std::size_t size, unsigned flags)
+{
+    SIZED(Copy, copy_file_range, size, from, fromAt, to, toAt, size, flags);
+}
+int ioctl(int file, unsigned long request, ...) noexcept
+{
+    __builtin_va_list list;
+    __builtin_va_start(list, request);
+    void* const argument = __builtin_va_arg(list, void*);
+    __builtin_va_end(list);
+    return request == FICLONE && fails(orderFor(Clone)) ? -1 : REAL(ioctl)(file, request, argument);
+}
+int fsync(int file)
+{
+    return met(Sync, REAL(fsync), -1, file);
+}
+int fdatasync(int file)
+{
+    return met(Sync, REAL(fdatasync), -1, file);
+}
+int syncfs(int file) noexcept
+{
+    return met(Sync, REAL(syncfs), -1, file);
+}
+int rename(const char* from, const char* to) noexcept
+{
+    return met(Rename, REAL(rename), -1, from, to);
+}
+int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept
+{
+    return met(Rename, REAL(renameat2), -1, fromFolder, from, toFolder, to, flags);
+}
+int close(int file)
+{
+    return met(Close, REAL(close), -1, file);
+}
+int chmod(const char* path, mode_t mode) noexcept
+{
+    return met(Chmod, REAL(chmod), -1, path, mode);
+}
+int fchmod(int file, mode_t mode) noexcept
+{
+    return met(Chmod, REAL(fchmod), -1, file, mode);
+}
+int ftruncate(int file, off_t size) noexcept
+{
+    return met(Truncate, REAL(ftruncate), -1, file, size);
+}
+int ftruncate64(int file, off64_t size) noexcept
+{
+    return met(Truncate, REAL(ftruncate64), -1, file, size);
+}
+void* mmap(void* place, std::size_t size, int protection, int flags, int file, off_t at) noexcept
+{
+    return met(Map, REAL(mmap), MAP_FAILED, place, size, protection, flags, file, at);
+}
+void* mmap64(void* place, std::size_t size, int protection, int flags, int file, off64_t at) noexcept
+{
+    return met(Map, REAL(mmap64), MAP_FAILED, place, size, protection, flags, file, at);
+}
+void* malloc(std::size_t size) noexcept
+{
+    return fails(orderFor(Malloc)) ? nullptr : __libc_malloc(size);
+}
+pid_t fork() noexcept
+{
+    return met(Fork, REAL(fork), -1);
+}
+int pipe2(int* ends, int flags) noexcept
+{
+    return met(Pipe, REAL(pipe2), -1, ends, flags);
+}
+int socketpair(int domain, int type, int protocol, int* ends) noexcept
+{
+    return met(Pipe, REAL(socketpair), -1, domain, type, protocol, ends);
+}
+int poll(pollfd* files, nfds_t count, int timeout)
+{
+    return met(Poll, REAL(poll), -1, files, count, timeout);
+}
+int mkdir(const char* path, mode_t mode) noexcept
+{
+    return met(Folder, REAL(mkdir), -1, path, mode);
+}
+int unlink(const char* path) noexcept
+{
+    return met(Unlink, REAL(unlink), -1, path);
+}
+int flock(int file, int operation) noexcept
+{
+    return met(Lock, REAL(flock), -1, file, operation);
+}
+int stat(const char* path, struct stat* status) noexcept
+{
+    return met(Status, REAL(stat), -1, path, status);
+}
+int lstat(const char* path, struct stat* status) noexcept
+{
+    return met(Status, REAL(lstat), -1, path, status);
+}
+int fstat(int file, struct stat* status) noexcept
+{
+    return met(Status, REAL(fstat), -1, file, status);
+}
+
+} // extern "C"
+#pragma GCC visibility pop
