@@ -3,7 +3,7 @@
 became of the documents: none may be torn, none called what it is not, the exit status has to fit, and the next run has
 to do all that is left and leave no stray file. Tells how much was tried, and what went wrong; status 1 then.
 
-    faults.py --program quintar --shim libfaults.so [--configure fakeperson] [--sample N] [--kills N] [KIND ...]"""
+    faults.py --program quintar --shim faultsshim.so --person faultsperson.so [--every N] [--kills N] [KIND ...]"""
 
 import argparse
 import collections
@@ -11,7 +11,7 @@ import ctypes
 import errno
 import itertools
 import os
-import shutil
+import pathlib
 import signal
 import subprocess
 import sys
@@ -54,6 +54,8 @@ class Trials:
         self.shim = batch.Shim(arguments.shim, work)
         self.documents = batch.build(arguments.program, os.path.join(work, "documents"))
         self.scenarios = self.make_scenarios()
+        self.calls = {}
+        self.count_calls()
         self.tried = collections.Counter()
         self.wrong = 0
         self.tickets = itertools.count()
@@ -67,6 +69,8 @@ class Trials:
                 self.learnt("--in-place", [*run, "--in-place", "in"], given),
                 self.learnt("--replace", [*run, "--in-place", "--replace", "in"], given),
                 self.learnt("undo", ["undo", "--events", "report"], given, [*run, "--in-place", "in"]),
+                self.learnt("configure", ["configure", "--list", "in/list.xqq", "-o", "in/list.xqq"],
+                            {"in/list.xqq": pathlib.Path(__file__).parents[1].joinpath("data/manuals.xqq").read_bytes()}),
                 self.learnt("--resume", [*resuming, "in"], given,
                             [*resuming, "in/asked.pdf", "in/plain.pdf", "in/signed.pdf"])]
 
@@ -76,15 +80,21 @@ class Trials:
         if before:
             self.call(before)
             start = batch.contents(self.work)
-        scenario = batch.Scenario(name, words, start, changed=batch.times(self.work))
+        scenario = batch.Scenario(name, words, start, batch.times(self.work))
         run = self.call(words)
         if run.status != 0:
             sys.exit(f"{name} fails without faults: {run.stdout.decode()}{run.stderr.decode()}")
         scenario.learn(batch.contents(self.work))
         return scenario
 
-    def call(self, words, environment=None):
-        return batch.call([self.arguments.program, *words], self.work, environment)
+    def call(self, words, faulty=False):
+        return batch.call([self.arguments.program, *words], self.work, self.environment(words, faulty))
+
+    def environment(self, words, faulty=True):
+        """Who is loaded into the program."""
+        in_window = words[0] == "configure"
+        loaded = [self.shim.library] * faulty + [self.arguments.person] * in_window
+        return {"LD_PRELOAD": " ".join(loaded), "FAULTS_ORDERS": self.shim.file} | ({"FAULTS_LATER": "1"} if in_window else {})
 
     def set_up(self, scenario):
         batch.write(self.work, scenario.start, scenario.times)
@@ -107,17 +117,21 @@ class Trials:
         problems += [f"stray {name}" for name in sorted(strays)]
         self.tell(scenario, what, problems, run)
 
-    def sweep(self, kinds):
-        """Every call of each kind."""
+    def count_calls(self):
+        """Of runs without faults, by scenario and kind."""
         for scenario in self.scenarios:
             self.set_up(scenario)
             self.shim.order("any", ALWAYS, ALWAYS, WAIT)
-            self.call(scenario.words, self.shim.environment)
-            counts = {kind: self.shim.count(kind) for kind in kinds}
-            for kind in kinds:
-                step = max(1, counts[kind] // MALLOCS) if kind == "malloc" else 1
-                for manner, ever in MANNERS[kind]:
-                    self.fail_each(scenario, kind, manner, ever, range(1, counts[kind] + 1, step))
+            self.call(scenario.words, faulty=True)
+            self.calls.update({(scenario.name, kind): self.shim.count(kind) for kind in batch.KINDS})
+
+    def sweep(self, kinds):
+        """Every call of each kind."""
+        for scenario, kind in itertools.product(self.scenarios, kinds):
+            calls = self.calls[scenario.name, kind]
+            step = max(1, calls // MALLOCS) if kind == "malloc" else 1
+            for manner, ever in MANNERS[kind]:
+                self.fail_each(scenario, kind, manner, ever, range(1, calls + 1, step))
 
     def fail_each(self, scenario, kind, manner, ever, numbers):
         for number in numbers:
@@ -131,7 +145,7 @@ class Trials:
         """One trial. Returns whether the run came so far."""
         self.set_up(scenario)
         self.shim.order(kind, number, ALWAYS if ever else number, manner)
-        run = self.call(scenario.words, self.shim.environment)
+        run = self.call(scenario.words, faulty=True)
         reached = self.shim.count(kind) >= number
         if reached:
             self.tried[scenario.name, kind] += 1
@@ -140,19 +154,83 @@ class Trials:
             self.look(scenario, what, run)
         return reached
 
+    def kill_all(self, number):
+        """So many kills, of the program, a worker, or both, spread over the calls of all scenarios."""
+        scenarios = [scenario for scenario in self.scenarios if scenario.words[0] == "run"]
+        ways = list(itertools.product(scenarios, ("program", "worker", "both")))
+        for turn in range(number):
+            scenario, victim = ways[turn % len(ways)]
+            kind = "any of workers" if victim == "worker" else "any"
+            of_all = self.calls[scenario.name, kind]
+            self.kill(scenario, victim, kind, 1 + turn * of_all // number)
+
+    def kill(self, scenario, victim, kind, number):
+        self.set_up(scenario)
+        self.shim.order(kind, number, number, WAIT)
+        with tempfile.TemporaryFile() as out, tempfile.TemporaryFile() as err:
+            command = [self.arguments.program, *scenario.words]
+            surroundings = batch.surroundings(self.work, self.environment(scenario.words))
+            child = subprocess.Popen(command, **surroundings, stdout=out, stderr=err)
+            while not self.shim.waiting() and child.poll() is None:
+                time.sleep(0.0005)
+            if self.shim.waiting():
+                self.tried[scenario.name, "kill of " + victim] += 1
+            self.end(child.pid, self.shim.waiting(), victim)
+            status = child.wait()
+            reap()
+            out.seek(0)
+            err.seek(0)
+            run = batch.Run(status, out.read(), err.read())
+        what = f"kill of {victim} at call {number} ({kind})"
+        if scenario.name == "--in-place" and number % 2:
+            self.take_back(scenario, what, run)
+        else:
+            self.look(scenario, what, run, killed=victim != "worker")
+
+    def end(self, program, waiting, victim):
+        if victim != "program" and waiting and waiting != program:
+            os.kill(waiting, signal.SIGKILL)
+        self.shim.release()
+        if victim != "worker":
+            os.kill(program, signal.SIGKILL)
+
+    def take_back(self, scenario, what, run):
+        """What a killed run has done in place is undone by its report, or nothing is there to be undone."""
+        problems = batch.judge(scenario, run, self.work, killed=True)
+        undo = self.call(["undo", "report"])
+        if undo.status not in (0, 2):
+            problems.append(f"undo: status {undo.status} {undo.stderr.decode(errors='replace')}")
+        found, times = batch.contents(self.work), batch.times(self.work)
+        problems += [f"undo: {name} is not as it was" for name, data in scenario.start.items()
+                     if found.get(name) != data or times[name] != scenario.times[name]]
+        self.tell(scenario, what, problems, run)
+
+
+def reap():
+    """Waits for the workers of a program that was killed."""
+    try:
+        while True:
+            os.waitpid(-1, 0)
+    except ChildProcessError:
+        pass
+
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--program", required=True, type=os.path.abspath)
     parser.add_argument("--shim", required=True, type=os.path.abspath)
+    parser.add_argument("--person", required=True, type=os.path.abspath)
     parser.add_argument("--every", type=int, default=1, metavar="N", help="tries every N-th fault only")
+    parser.add_argument("--kills", type=int, default=0, metavar="N", help="how often somebody is killed")
     parser.add_argument("kinds", nargs="*", metavar="KIND", help="kinds of calls, all by default")
     arguments = parser.parse_args()
     begin = time.monotonic()
+    ctypes.CDLL(None).prctl(PR_SET_CHILD_SUBREAPER, 1)
     memory = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
     with tempfile.TemporaryDirectory(dir=memory) as work:
         trials = Trials(arguments, work)
         trials.sweep(arguments.kinds or list(MANNERS))
+        trials.kill_all(arguments.kills)
     for (scenario, kind), count in sorted(trials.tried.items()):
         print(f"{scenario}: {kind}: {count} faults")
     print(f"{sum(trials.tried.values())} faults, {trials.wrong} of them with something wrong, "
