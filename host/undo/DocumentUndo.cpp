@@ -39,8 +39,15 @@ const std::int64_t longestInPlace = 2048;
 std::string bytesOf(int file, std::int64_t begin, std::int64_t end)
 {
     std::string bytes(static_cast<std::size_t>(end - begin), '\0');
-    const ssize_t count = pread(file, bytes.data(), bytes.size(), begin);
-    return count == end - begin ? bytes : std::string();
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const ssize_t count =
+            pread(file, bytes.data() + done, bytes.size() - done, begin + static_cast<std::int64_t>(done));
+        if (count == 0 || (count < 0 && errno != EINTR))
+            return {};
+        done += count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+    return bytes;
 }
 
 /// Whether the bytes from `begin` to the end are what ends a PDF document: a report that claims too much must

@@ -1,5 +1,6 @@
 """Six documents of different kinds, what commands make of them, and whether a run that met a fault told the truth."""
 
+import ctypes
 import json
 import mmap
 import os
@@ -8,6 +9,8 @@ import shutil
 import struct
 import subprocess
 import sys
+import tempfile
+import time
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "bench"))
 sys.dont_write_bytecode = True
@@ -18,6 +21,7 @@ KINDS = ["any", "any of workers", "open", "read", "write", "copy", "clone", "syn
          "mmap", "malloc", "fork", "pipe", "poll", "mkdir", "unlink", "flock", "stat"]
 SHORT, WAIT, ALL_THE_SAME = -1, -2, 1000
 ALWAYS = 0xffffffff
+PR_SET_CHILD_SUBREAPER = 36
 
 CHANGE = ["--page-mode", "bookmarks", "--open-page", "2"]
 EARLIER = b"%PDF-1.4\n% an earlier result\n"
@@ -49,6 +53,43 @@ class Shim:
 
     def count(self, kind):
         return self.word(7 + KINDS.index(kind))
+
+    def stop_at(self, command, surroundings, kind, number, then):
+        """Runs the command; at the call of that number `then` gets the ids of the program and of the process that makes
+        the call, which waits for it. Returns the run, and whether it came so far."""
+        self.order(kind, number, number, WAIT)
+        with tempfile.TemporaryFile() as out, tempfile.TemporaryFile() as err:
+            child = subprocess.Popen(command, **surroundings, stdout=out, stderr=err)
+            deadline = time.monotonic() + SECONDS
+            while not self.waiting() and child.poll() is None and time.monotonic() < deadline:
+                time.sleep(0.0005)
+            reached = self.waiting() != 0
+            if reached:
+                then(child.pid, self.waiting())
+            self.release()
+            status = waited(child, deadline)
+            out.seek(0)
+            err.seek(0)
+            return Run(status, out.read(), err.read()), reached
+
+
+def waited(child, deadline):
+    """The status of the program. Its workers, who are this process's then, are waited for as well."""
+    try:
+        status = child.wait(max(1, deadline - time.monotonic()))
+    except subprocess.TimeoutExpired:
+        child.kill()
+        status = "hangs"
+    try:
+        while True:
+            os.waitpid(-1, 0)
+    except ChildProcessError:
+        return status
+
+
+def adopt_workers():
+    """So that workers of programs that were killed are waited for here."""
+    ctypes.CDLL(None).prctl(PR_SET_CHILD_SUBREAPER, 1)
 
 
 def signed(path):

@@ -7,13 +7,11 @@ to do all that is left and leave no stray file. Tells how much was tried, and wh
 
 import argparse
 import collections
-import ctypes
 import errno
 import itertools
 import os
 import pathlib
 import signal
-import subprocess
 import sys
 import tempfile
 import time
@@ -45,7 +43,6 @@ MANNERS = {
     "stat": [(errno.EIO, ONCE)],
 }
 MALLOCS = 200  # of the thousands of allocations, so many are tried
-PR_SET_CHILD_SUBREAPER = 36
 
 
 class Trials:
@@ -165,34 +162,22 @@ class Trials:
             self.kill(scenario, victim, kind, 1 + turn * of_all // number)
 
     def kill(self, scenario, victim, kind, number):
+        def end(program, waiting):
+            if victim != "program" and waiting != program:
+                os.kill(waiting, signal.SIGKILL)
+            self.shim.release()
+            if victim != "worker":
+                os.kill(program, signal.SIGKILL)
+
         self.set_up(scenario)
-        self.shim.order(kind, number, number, WAIT)
-        with tempfile.TemporaryFile() as out, tempfile.TemporaryFile() as err:
-            command = [self.arguments.program, *scenario.words]
-            surroundings = batch.surroundings(self.work, self.environment(scenario.words))
-            child = subprocess.Popen(command, **surroundings, stdout=out, stderr=err)
-            while not self.shim.waiting() and child.poll() is None:
-                time.sleep(0.0005)
-            if self.shim.waiting():
-                self.tried[scenario.name, "kill of " + victim] += 1
-            self.end(child.pid, self.shim.waiting(), victim)
-            status = child.wait()
-            reap()
-            out.seek(0)
-            err.seek(0)
-            run = batch.Run(status, out.read(), err.read())
+        surroundings = batch.surroundings(self.work, self.environment(scenario.words))
+        run, reached = self.shim.stop_at([self.arguments.program, *scenario.words], surroundings, kind, number, end)
+        self.tried[scenario.name, "kill of " + victim] += reached
         what = f"kill of {victim} at call {number} ({kind})"
         if scenario.name == "--in-place" and number % 2:
             self.take_back(scenario, what, run)
         else:
             self.look(scenario, what, run, killed=victim != "worker")
-
-    def end(self, program, waiting, victim):
-        if victim != "program" and waiting and waiting != program:
-            os.kill(waiting, signal.SIGKILL)
-        self.shim.release()
-        if victim != "worker":
-            os.kill(program, signal.SIGKILL)
 
     def take_back(self, scenario, what, run):
         """What a killed run has done in place is undone by its report, or nothing is there to be undone."""
@@ -206,15 +191,6 @@ class Trials:
         self.tell(scenario, what, problems, run)
 
 
-def reap():
-    """Waits for the workers of a program that was killed."""
-    try:
-        while True:
-            os.waitpid(-1, 0)
-    except ChildProcessError:
-        pass
-
-
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--program", required=True, type=os.path.abspath)
@@ -225,7 +201,7 @@ def main():
     parser.add_argument("kinds", nargs="*", metavar="KIND", help="kinds of calls, all by default")
     arguments = parser.parse_args()
     begin = time.monotonic()
-    ctypes.CDLL(None).prctl(PR_SET_CHILD_SUBREAPER, 1)
+    batch.adopt_workers()
     memory = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
     with tempfile.TemporaryDirectory(dir=memory) as work:
         trials = Trials(arguments, work)

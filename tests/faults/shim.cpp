@@ -79,7 +79,8 @@ __attribute__((constructor)) void takeOrders()
     const long file = path != nullptr ? syscall(SYS_openat, AT_FDCWD, path, O_RDWR | O_CLOEXEC) : -1;
     if (file < 0)
         return;
-    const long memory = syscall(SYS_mmap, nullptr, sizeof(Orders), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
+    const long memory =
+        syscall(SYS_mmap, nullptr, sizeof(Orders), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
     syscall(SYS_close, file);
     if (memory == -1)
         std::abort();

@@ -1,0 +1,411 @@
+#!/usr/bin/python3
+"""What may happen around a run: file systems that are full, read-only or gone, folders and documents that others change
+meanwhile, limits, very many or very long names, runs at the same time. Documents have to be whole, what is told of them
+true, and the exit status has to fit. Tells how often each was tried, what went wrong, and what could not be tried here;
+status 1 when something went wrong.
+
+    troubles.py --program quintar --shim faultsshim.so [TROUBLE ...]"""
+
+import argparse
+import collections
+import ctypes
+import functools
+import os
+import pathlib
+import resource
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+import batch
+from batch import CHANGE
+
+CLONE_NEWNS, MS_REC, MS_PRIVATE = 0x20000, 0x4000, 1 << 18
+NOBODY = 65534
+MOMENTS = 24  # of a run, at which something else happens
+TROUBLES = {}
+
+
+class Untried(Exception):
+    """Why something cannot be tried here."""
+
+
+def trouble(function):
+    TROUBLES[function.__name__.replace("_", " ")] = function
+    return function
+
+
+def system(*command):
+    try:
+        subprocess.run(command, capture_output=True, text=True, check=True)
+    except OSError as problem:
+        raise Untried(str(problem)) from problem
+    except subprocess.CalledProcessError as problem:
+        raise Untried(f"{' '.join(command)}: {problem.stderr.strip()}") from problem
+
+
+class Setting:
+    """A folder with the six documents in "in", and what a run makes of each."""
+
+    def __init__(self, arguments, work):
+        self.program, self.work = arguments.program, os.path.join(work, "work")
+        self.shim = batch.Shim(arguments.shim, work)
+        self.documents = batch.build(self.program, os.path.join(work, "documents"))
+        self.set_up()
+        self.run("-o", "out", "in")
+        self.wanted = {name: pathlib.Path(self.work, "out", name).read_bytes() for name in self.documents}
+        self.tried, self.wrong, self.name = collections.Counter(), 0, ""
+
+    def set_up(self, folder="in"):
+        batch.write(self.work, {f"{folder}/{name}": data for name, data in self.documents.items()})
+
+    def put(self, folder):
+        """The documents, elsewhere as well."""
+        os.makedirs(folder, exist_ok=True)
+        for name, data in self.documents.items():
+            pathlib.Path(folder, name).write_bytes(data)
+
+    def words(self, *words, report="report"):
+        return ["run", *CHANGE, "--jobs", "2", "--signed", "append", "--report", report, *words]
+
+    def run(self, *words, before=()):
+        return batch.call([*before, self.program, *self.words(*words)], self.work)
+
+    def run_with(self, number, then, *words):
+        """A run at whose call of this number `then` happens."""
+        return self.shim.stop_at([self.program, *self.words(*words)],
+                                 batch.surroundings(self.work, {"LD_PRELOAD": self.shim.library, "FAULTS_ORDERS": self.shim.file}),
+                                 "any", number, lambda *_: then())
+
+    def moments(self, *words):
+        """Numbers of calls, spread over such a run."""
+        self.run_with(batch.ALWAYS, lambda: None, *words)
+        calls = self.shim.count("any")
+        return range(1, calls, max(1, calls // MOMENTS))
+
+    def judge(self, what, run, words, folder=None):
+        """Judges a run over all documents, by its report."""
+        scenario = batch.Scenario(what, self.words(*words), {}, None)
+        in_place = "--in-place" in words
+        scenario.results = {("in/" if in_place else "out/") + name: (self.documents[name] if in_place else None, data)
+                            for name, data in self.wanted.items()}
+        self.tell(what, run, batch.judge(scenario, run, folder or self.work))
+
+    def tell(self, what, run, problems):
+        self.tried[self.name] += 1
+        if problems:
+            self.wrong += 1
+            print(f"{self.name}: {what}: {'; '.join(problems)}\n    {run.status} {run.stderr.decode(errors='replace')[-1500:]!r}",
+                  flush=True)
+
+    def expect(self, what, run, status, words=""):
+        problems = [] if run.status == status else [f"status {run.status}, not {status}"]
+        problems += [] if words.encode() in run.stderr else [f"not told: {words}"]
+        self.tell(what, run, problems)
+
+
+class Disk:
+    """A file system in a folder, for a while."""
+
+    def __init__(self, folder, *words):
+        self.folder = folder
+        os.makedirs(folder, exist_ok=True)
+        system("mount", *words, folder)
+
+    def __enter__(self):
+        return self.folder
+
+    def __exit__(self, *_):
+        subprocess.run(["umount", "--lazy", self.folder], capture_output=True, check=False)
+
+
+def memory_disk(folder, options):
+    return Disk(folder, "-t", "tmpfs", "-o", options, "none")
+
+
+@trouble
+def full_disk(setting):
+    for size in range(64, 2048, 64):
+        setting.set_up()
+        with memory_disk(f"{setting.work}/out", f"size={size}k"):
+            setting.judge(f"{size} KiB for results", setting.run("-o", "out", "in"), ["-o"])
+    for words in (["--in-place"], ["--in-place", "--replace"]):
+        for pages in (0, 1, 2, 3, 5, 8, 60, 300):
+            setting.set_up()
+            with memory_disk(f"{setting.work}/in", "size=4m") as disk:
+                setting.put(disk)
+                free = os.statvfs(disk)
+                pathlib.Path(disk, "filler").write_bytes(bytes((free.f_bavail - pages) * free.f_bsize))
+                setting.judge(f"{pages} pages left, {words}", setting.run(*words, "in"), words)
+
+
+@trouble
+def read_only_disk(setting):
+    for words in (["--in-place"], ["-o", "in/out"], ["-o", "out"]):
+        setting.set_up()
+        with memory_disk(f"{setting.work}/in", "size=4m") as disk:
+            setting.put(disk)
+            system("mount", "-o", "remount,ro", disk)
+            setting.expect(words, setting.run(*words, "in"), {"--in-place": 1, "in/out": 2, "out": 0}[words[-1]])
+
+
+@trouble
+def disk_that_vanishes(setting):
+    for words, place in ((["--in-place", "in"], "in"), (["-o", "out", "in"], "out"), (["-o", "out", "in"], "in")):
+        setting.set_up()
+        for moment in setting.moments(*words):
+            setting.set_up()
+            with memory_disk(f"{setting.work}/{place}", "size=8m") as disk:
+                if place == "in":
+                    setting.put(disk)
+                held = os.open(disk, os.O_RDONLY)
+                run, _ = setting.run_with(moment, lambda: system("umount", "--lazy", disk), *words)
+                shutil.rmtree(disk, ignore_errors=True)
+                os.makedirs(disk, exist_ok=True)
+                shutil.copytree(f"/proc/self/fd/{held}", disk, dirs_exist_ok=True)
+                os.close(held)
+                setting.judge(f"{place} at call {moment}", run, words)
+
+
+@trouble
+def quota(setting):
+    for size in range(0, 2048, 128):
+        setting.set_up()
+        with memory_disk(f"{setting.work}/out", f"usrquota,usrquota_block_hardlimit={size}k") as disk:
+            for folder in (setting.work, disk):
+                os.chown(folder, NOBODY, NOBODY)
+            run = setting.run("-o", "out", "in", before=["setpriv", f"--reuid={NOBODY}", "--clear-groups"])
+            setting.judge(f"{size} KiB", run, ["-o"])
+
+
+@trouble
+def folder_renamed_or_removed(setting):
+    def rename(folder):
+        os.rename(folder, folder + ".moved")
+
+    for words, folder in ((["--in-place", "in"], "in"), (["-o", "out", "in"], "in"), (["-o", "out", "in"], "out")):
+        for act in (rename, functools.partial(shutil.rmtree, ignore_errors=True)):
+            setting.set_up()
+            path = os.path.join(setting.work, folder)
+            for moment in setting.moments(*words):
+                setting.set_up()
+                run, _ = setting.run_with(moment, lambda: os.path.exists(path) and act(path), *words)
+                what = f"{folder} {'renamed' if act is rename else 'removed'} at call {moment}, {words[0]}"
+                if act is rename and os.path.exists(path + ".moved"):
+                    shutil.copytree(path + ".moved", path, dirs_exist_ok=True)
+                    setting.judge(what, run, words)
+                else:
+                    setting.tell(what, run, [] if run.status in (0, 1, 2) else [f"status {run.status}"])
+
+
+def meddle(folder, act):
+    """Does something to all documents. Returns what they are then."""
+    for path in pathlib.Path(folder).glob("*.pdf"):
+        if act == "truncated":
+            os.truncate(path, path.stat().st_size // 2)
+        elif act == "grown":
+            with open(path, "ab") as file:
+                file.write(b"% somebody else's\n")
+        else:
+            new = path.with_suffix(".new")
+            new.write_bytes(b"%PDF-1.4\n% somebody else's\n")
+            os.replace(new, path)
+    return batch.contents(folder)
+
+
+@trouble
+def documents_changed_meanwhile(setting):
+    for words in (["--in-place", "in"], ["--in-place", "--replace", "in"], ["-o", "out", "in"]):
+        setting.set_up()
+        moments = setting.moments(*words)
+        for act in ("truncated", "grown", "replaced"):
+            for moment in moments:
+                setting.set_up()
+                theirs = {}
+                run, _ = setting.run_with(moment, lambda: theirs.update(meddle(f"{setting.work}/in", act)), *words)
+                setting.tell(f"{act} at call {moment}, {words}", run, about_meddled(setting, run, words, theirs))
+
+
+def about_meddled(setting, run, words, theirs):
+    """Nothing of what the other program left may be gone, and what is told has to be so."""
+    now = batch.contents(setting.work)
+    told = batch.Scenario("", setting.words(*words), {}, None).told(run, setting.work)
+    wrong = [] if run.status in (0, 1) else [f"status {run.status}"]
+    for name, left in theirs.items():
+        result = now.get(("out/" if "-o" in words else "in/") + name)
+        status, _ = told.get(("out/" if "-o" in words else "in/") + name, ("nothing", ""))
+        if "-o" not in words and not now["in/" + name].startswith(left):
+            wrong.append(f"{name} lost what another program wrote")
+        if "-o" in words and (result is not None) != (status in batch.DONE):
+            wrong.append(f"{name} is called {status}")
+        if "-o" in words and result is not None and not result.startswith((left, setting.documents[name])):
+            wrong.append(f"{name} is torn")
+        if "-o" not in words and status == "failed" and result != left:
+            wrong.append(f"{name} is called failed and was changed")
+    return wrong
+
+
+@trouble
+def many_files(setting):
+    batch.write(setting.work, {f"in/{number}.pdf": setting.documents["signed.pdf"] for number in range(20_000)})
+    for words, counts in ((["-o", "out"], "20000 changed, 0 un"), (["--in-place"], "20000 changed, 0 un"),
+                          (["--in-place"], "0 changed, 20000 un")):
+        run = setting.run(*words, "in")
+        results = [path.read_bytes() for path in pathlib.Path(setting.work, "out").glob("*.pdf")]
+        wrong = [] if results == [setting.wanted["signed.pdf"]] * 20_000 else ["not all are done"]
+        setting.tell(words, run, wrong + ([] if counts.encode() in run.stdout else [f"not {counts}"]))
+
+
+@trouble
+def paths_beyond_the_limit(setting):
+    setting.set_up()
+    folder = os.open(f"{setting.work}/in", os.O_RDONLY)
+    for _ in range(24):
+        os.mkdir("n" * 200, dir_fd=folder)
+        folder = os.open("n" * 200, os.O_RDONLY, dir_fd=folder)
+        with os.fdopen(os.open("deep.pdf", os.O_WRONLY | os.O_CREAT, dir_fd=folder), "wb") as file:
+            file.write(setting.documents["signed.pdf"])
+    for words in (["-o", "out"], ["--in-place"]):
+        run = setting.run(*words, "in")
+        setting.expect(words, run, 1, "name too long")
+        changed = sum(line.startswith(b"changed") for line in run.stdout.splitlines())
+        if changed < 20:
+            setting.tell(words, run, [f"only {changed} documents are changed"])
+
+
+@trouble
+def million_names(setting):
+    setting.set_up()
+    names = [f"in/{number:07}.pdf" for number in range(1_000_000)]
+    names[500_000] = "in/plain.pdf"
+    pathlib.Path(setting.work, "list").write_text("\n".join(names))
+    run = setting.run("-q", "-o", "out", "--files-from", "list")
+    setting.expect("names that are missing", run, 1, "in/0999999.pdf: no such file")
+    whole = pathlib.Path(setting.work, "out/plain.pdf").read_bytes() == setting.wanted["plain.pdf"]
+    setting.tell("the one that is there", run, [] if whole else ["it is not done"])
+
+
+@trouble
+def limits(setting):
+    others = ["setpriv", f"--reuid={NOBODY}", "--clear-groups"]
+    cases = [f"-n {count}" for count in range(3, 25)] + [f"-v {size}" for size in range(20_000, 400_000, 20_000)] + \
+            [f"-f {size}" for size in (0, 1, 2, 4, 8, 50, 200, 300, 1000, 3000)] + [f"-u {count}" for count in range(5)]
+    for limit in cases:
+        for words in (["-o", "out", "in"], ["--in-place", "in"]):
+            setting.set_up()
+            for place, _, names in os.walk(setting.work):
+                for name in ["", *names]:
+                    os.chown(os.path.join(place, name), NOBODY, NOBODY)
+            before = [*(others if "-u" in limit else []), "bash", "-c", f"ulimit {limit} && exec \"$@\"", "bash"]
+            setting.judge(f"{limit}, {words[0]}", setting.run(*words, before=before), words)
+
+
+@trouble
+def results_on_another_file_system(setting):
+    with tempfile.TemporaryDirectory(dir="/var/tmp") as other:
+        setting.set_up()
+        os.symlink(other, f"{setting.work}/out")
+        run = setting.run("-o", "out", "in")
+        os.unlink(f"{setting.work}/out")
+        shutil.copytree(other, f"{setting.work}/out")
+        setting.judge("a folder there", run, ["-o"])
+
+
+@trouble
+def names_that_differ_in_case(setting):
+    kinds = {"ext4": (["mkfs.ext4", "-q", "-O", "casefold"], "64M"), "xfs": (["mkfs.xfs", "-q", "-n", "version=ci"], "320M")}
+    problems = []
+    for kind, (make, size) in kinds.items():
+        batch.write(setting.work, {f"in/{name}": setting.documents["plain.pdf"] for name in ("A.PDF", "a.pdf", "b.pdf")})
+        disk = f"{setting.work}-disk"
+        try:
+            system("truncate", "-s", size, disk)
+            system(*make, disk)
+            with Disk(f"{setting.work}/mounted", "-o", "loop", disk) as folder:
+                os.mkdir(f"{folder}/folds")
+                if kind == "ext4":
+                    system("chattr", "+F", f"{folder}/folds")
+                for output in ("mounted/folds", "mounted/folds/new/er"):
+                    setting.expect(f"{kind}, {output}", setting.run("-o", output, "in"), 2, "would have the same output")
+                    if os.listdir(f"{folder}/folds"):
+                        setting.tell(kind, setting.run("-o", output, "in"), ["something was written"])
+                setting.expect(f"{kind}, one of them", setting.run("-o", "mounted/folds", "in/A.PDF", "in/b.pdf"), 0)
+        except Untried as why:
+            problems.append(str(why))
+        finally:
+            pathlib.Path(disk).unlink(missing_ok=True)
+    setting.set_up()
+    if not setting.tried[setting.name]:
+        raise Untried("; ".join(problems))
+
+
+@trouble
+def runs_at_the_same_time(setting):
+    plans = {"into a folder that another run changes": [["-o", "out", "in"], ["--in-place", "out"]],
+             "into a folder that another run reads": [["-o", "out", "in"], ["-o", "further", "out"]],
+             "sixteen in place": [["--in-place", "in"]] * 16,
+             "sixteen into one folder": [["-o", "out", "in"]] * 16}
+    for what, commands in list(plans.items()) * 10:
+        setting.set_up()
+        setting.put(f"{setting.work}/out")
+        runs = together(setting, commands)
+        reports = [json_lines(pathlib.Path(setting.work, f"report{number}")) for number in range(len(runs))]
+        changed = collections.Counter(line["file"] for lines in reports for line in lines if line.get("status") == "changed")
+        for number, (run, words) in enumerate(zip(runs, commands)):
+            folder = {"in": "in", "--in-place": words[-1]}.get(words[0], words[1])
+            found = {name: pathlib.Path(setting.work, folder, name).read_bytes() for name in setting.documents}
+            wrong = [f"{name} is not as asked" for name in found if found[name] != setting.wanted[name]]
+            wrong += [] if run.status in (0, 1) else [f"status {run.status}"]
+            wrong += [f"{name} is changed {count} times" for name, count in changed.items() if what == "sixteen in place" and count > 1]
+            setting.tell(f"{what}, {number}", run, wrong)
+
+
+def json_lines(path):
+    return list(batch.json_lines(path.read_bytes())) if path.exists() else []
+
+
+def together(setting, commands):
+    """Runs them at the same time."""
+    started = [subprocess.Popen([setting.program, *setting.words(*words, report=f"report{number}")],
+                                **batch.surroundings(setting.work, {}), stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+               for number, words in enumerate(commands)]
+    outputs = [each.communicate(timeout=batch.SECONDS) for each in started]
+    return [batch.Run(each.returncode, *output) for each, output in zip(started, outputs)]
+
+
+def own_mounts():
+    """What is mounted from here on is seen by nobody else, and goes with this process."""
+    system_calls = ctypes.CDLL(None, use_errno=True)
+    if system_calls.unshare(CLONE_NEWNS) != 0 or system_calls.mount(b"none", b"/", None, MS_REC | MS_PRIVATE, None) != 0:
+        print("nothing can be mounted here")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--program", required=True, type=os.path.abspath)
+    parser.add_argument("--shim", required=True, type=os.path.abspath)
+    parser.add_argument("troubles", nargs="*", metavar="TROUBLE", help="all by default")
+    arguments = parser.parse_args()
+    own_mounts()
+    batch.adopt_workers()
+    memory = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
+    with tempfile.TemporaryDirectory(dir=memory) as work:
+        os.chmod(work, 0o755)
+        setting = Setting(arguments, work)
+        for name in arguments.troubles or TROUBLES:
+            setting.name, begin = name, time.monotonic()
+            try:
+                TROUBLES[name](setting)
+                untried = ""
+            except Untried as why:
+                untried = f", not tried: {why}"
+            print(f"{name}: {setting.tried[name]} runs, {time.monotonic() - begin:.0f} s{untried}", flush=True)
+    print(f"{sum(setting.tried.values())} runs, {setting.wrong} with something wrong; at most "
+          f"{resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss // 1024} MiB")
+    return 1 if setting.wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
