@@ -106,13 +106,11 @@ class Setting:
         self.tell(what, run, problems)
 
 
-class Disk:
+class Mounted:
     """A file system in a folder, for a while."""
 
-    def __init__(self, folder, *words):
+    def __init__(self, folder):
         self.folder = folder
-        os.makedirs(folder, exist_ok=True)
-        system("mount", *words, folder)
 
     def __enter__(self):
         return self.folder
@@ -121,20 +119,26 @@ class Disk:
         subprocess.run(["umount", "--lazy", self.folder], capture_output=True, check=False)
 
 
-def memory_disk(folder, options):
-    return Disk(folder, "-t", "tmpfs", "-o", options, "none")
+def mounted(folder, *words):
+    os.makedirs(folder, exist_ok=True)
+    system("mount", *words, folder)
+    return Mounted(folder)
+
+
+def in_memory(folder, options):
+    return mounted(folder, "-t", "tmpfs", "-o", options, "none")
 
 
 @trouble
 def full_disk(setting):
     for size in range(64, 2048, 64):
         setting.set_up()
-        with memory_disk(f"{setting.work}/out", f"size={size}k"):
+        with in_memory(f"{setting.work}/out", f"size={size}k"):
             setting.judge(f"{size} KiB for results", setting.run("-o", "out", "in"), ["-o"])
     for words in (["--in-place"], ["--in-place", "--replace"]):
         for pages in (0, 1, 2, 3, 5, 8, 60, 300):
             setting.set_up()
-            with memory_disk(f"{setting.work}/in", "size=4m") as disk:
+            with in_memory(f"{setting.work}/in", "size=4m") as disk:
                 setting.put(disk)
                 free = os.statvfs(disk)
                 pathlib.Path(disk, "filler").write_bytes(bytes((free.f_bavail - pages) * free.f_bsize))
@@ -145,7 +149,7 @@ def full_disk(setting):
 def read_only_disk(setting):
     for words in (["--in-place"], ["-o", "in/out"], ["-o", "out"]):
         setting.set_up()
-        with memory_disk(f"{setting.work}/in", "size=4m") as disk:
+        with in_memory(f"{setting.work}/in", "size=4m") as disk:
             setting.put(disk)
             system("mount", "-o", "remount,ro", disk)
             setting.expect(words, setting.run(*words, "in"), {"--in-place": 1, "in/out": 2, "out": 0}[words[-1]])
@@ -157,7 +161,7 @@ def disk_that_vanishes(setting):
         setting.set_up()
         for moment in setting.moments(*words):
             setting.set_up()
-            with memory_disk(f"{setting.work}/{place}", "size=8m") as disk:
+            with in_memory(f"{setting.work}/{place}", "size=8m") as disk:
                 if place == "in":
                     setting.put(disk)
                 held = os.open(disk, os.O_RDONLY)
@@ -171,13 +175,27 @@ def disk_that_vanishes(setting):
 
 @trouble
 def quota(setting):
-    for size in range(0, 2048, 128):
-        setting.set_up()
-        with memory_disk(f"{setting.work}/out", f"usrquota,usrquota_block_hardlimit={size}k") as disk:
-            for folder in (setting.work, disk):
-                os.chown(folder, NOBODY, NOBODY)
-            run = setting.run("-o", "out", "in", before=["setpriv", f"--reuid={NOBODY}", "--clear-groups"])
-            setting.judge(f"{size} KiB", run, ["-o"])
+    image = f"{setting.work}-disk"
+    system("truncate", "-s", "128M", image)
+    system("mkfs.btrfs", "-q", image)
+    with mounted(f"{setting.work}-mounted", "-o", "loop", image) as disk:
+        system("btrfs", "quota", "enable", disk)
+        for words, folder in ((["-o", "out", "in"], "out"), (["--in-place", "--replace", "in"], "in"), (["--in-place", "in"], "in")):
+            for room in range(0, 1800, 200):
+                setting.set_up()
+                volume = f"{disk}/{words[0]}{len(words)}{room}"
+                system("btrfs", "subvolume", "create", volume)
+                shutil.rmtree(f"{setting.work}/{folder}", ignore_errors=True)
+                os.symlink(volume, f"{setting.work}/{folder}")
+                if folder == "in":
+                    setting.put(volume)
+                used = sum(path.stat().st_size for path in pathlib.Path(volume).iterdir())
+                system("btrfs", "qgroup", "limit", f"{(used >> 10) + room + 16}k", volume)
+                run = setting.run(*words)
+                os.unlink(f"{setting.work}/{folder}")
+                shutil.copytree(volume, f"{setting.work}/{folder}")
+                setting.judge(f"room for {room} KiB, {words}", run, words)
+    os.unlink(image)
 
 
 @trouble
@@ -315,30 +333,40 @@ def results_on_another_file_system(setting):
 
 @trouble
 def names_that_differ_in_case(setting):
-    kinds = {"ext4": (["mkfs.ext4", "-q", "-O", "casefold"], "64M"), "xfs": (["mkfs.xfs", "-q", "-n", "version=ci"], "320M")}
+    """The first of the file systems that can be had here."""
+    ways = [("ext4", ["mkfs.ext4", "-q", "-O", "casefold"]), ("xfs", ["mkfs.xfs", "-q", "-n", "version=ci"]), ("fuse", None)]
     problems = []
-    for kind, (make, size) in kinds.items():
-        batch.write(setting.work, {f"in/{name}": setting.documents["plain.pdf"] for name in ("A.PDF", "a.pdf", "b.pdf")})
-        disk = f"{setting.work}-disk"
+    for kind, make in ways:
+        names = ("A.PDF", "a.pdf", "b.pdf", "sub/c.pdf", "Sub/C.pdf")
+        batch.write(setting.work, {f"in/{name}": setting.documents["plain.pdf"] for name in names})
         try:
-            system("truncate", "-s", size, disk)
-            system(*make, disk)
-            with Disk(f"{setting.work}/mounted", "-o", "loop", disk) as folder:
-                os.mkdir(f"{folder}/folds")
-                if kind == "ext4":
-                    system("chattr", "+F", f"{folder}/folds")
-                for output in ("mounted/folds", "mounted/folds/new/er"):
-                    setting.expect(f"{kind}, {output}", setting.run("-o", output, "in"), 2, "would have the same output")
-                    if os.listdir(f"{folder}/folds"):
-                        setting.tell(kind, setting.run("-o", output, "in"), ["something was written"])
-                setting.expect(f"{kind}, one of them", setting.run("-o", "mounted/folds", "in/A.PDF", "in/b.pdf"), 0)
+            with folding_disk(kind, make, setting.work) as folder:
+                for output in ("out", "out/new/er"):
+                    for documents in (["in"], ["in/A.PDF", "in/a.pdf"], ["--base", "in", "in/sub/c.pdf", "in/Sub"]):
+                        run = setting.run("-o", output, *documents)
+                        setting.expect(f"{kind}, {output}, {documents}", run, 2, "would have the same output")
+                        setting.tell(kind, run, os.listdir(folder))
+                run = setting.run("-o", "out", "in/A.PDF", "in/b.pdf", "in/Sub")
+                setting.expect(f"{kind}, others", run, 0)
+                return
         except Untried as why:
             problems.append(str(why))
-        finally:
-            pathlib.Path(disk).unlink(missing_ok=True)
-    setting.set_up()
-    if not setting.tried[setting.name]:
-        raise Untried("; ".join(problems))
+    raise Untried("; ".join(problems))
+
+
+def folding_disk(kind, make, work):
+    if make is None:
+        os.mkdir(f"{work}-files")
+        os.mkdir(f"{work}/out")
+        system(os.path.join(os.path.dirname(__file__), "folding.py"), f"{work}-files", f"{work}/out")
+        return Mounted(f"{work}/out")
+    system("truncate", "-s", "320M", f"{work}-disk")
+    system(*make, f"{work}-disk")
+    disk = mounted(f"{work}/out", "-o", "loop", f"{work}-disk")
+    if kind == "ext4":
+        os.rmdir(f"{work}/out/lost+found")  # such a folder has to be empty
+        system("chattr", "+F", f"{work}/out")
+    return disk
 
 
 @trouble
