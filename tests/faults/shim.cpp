@@ -27,30 +27,12 @@ extern "C" void* __libc_malloc(std::size_t size);
 namespace {
 
 // The rows of KINDS in batch.py.
+// clang-format off
 enum Kind : std::uint32_t {
-    Any,
-    AnyOfWorkers,
-    Open,
-    Read,
-    Write,
-    Copy,
-    Clone,
-    Sync,
-    Rename,
-    Close,
-    Chmod,
-    Truncate,
-    Map,
-    Malloc,
-    Fork,
-    Pipe,
-    Poll,
-    Folder,
-    Unlink,
-    Lock,
-    Status,
-    kinds
+    Any, AnyOfWorkers, Open, Read, Write, Copy, Clone, Sync, Rename, Close, Chmod, Truncate, Map, Malloc, Fork, Pipe, Poll,
+    Folder, Unlink, Lock, Status, kinds
 };
+// clang-format on
 
 // What happens at the call, unless it is an errno value. Beyond `allTheSame`, the call is made and told as failed.
 const std::int32_t fallShort = -1;
@@ -147,11 +129,27 @@ std::size_t share(Kind kind, std::size_t size)
         static const auto found = reinterpret_cast<decltype(&::name)>(dlsym(RTLD_NEXT, #name));              \
         return found;                                                                                        \
     }())
-#define SIZED(kind, name, size, ...)                                                                         \
-    if (size == 0)                                                                                           \
-        return REAL(name)(__VA_ARGS__);                                                                      \
-    size = share(kind, size);                                                                                \
-    return size == 0 ? -1 : REAL(name)(__VA_ARGS__)
+#define FAILING(kind, result, failure, name, parameters, ...)                                                \
+    result name parameters                                                                                   \
+    {                                                                                                        \
+        return met(kind, REAL(name), static_cast<result>(failure), __VA_ARGS__);                             \
+    }
+#define SHORTENED(kind, name, parameters, ...)                                                               \
+    ssize_t name parameters                                                                                  \
+    {                                                                                                        \
+        const bool isNothing = size == 0;                                                                    \
+        size = isNothing ? 0 : share(kind, size);                                                            \
+        return size == 0 && !isNothing ? -1 : REAL(name)(__VA_ARGS__);                                       \
+    }
+#define OPENING(name)                                                                                        \
+    int name(const char* path, int flags, ...)                                                               \
+    {                                                                                                        \
+        __builtin_va_list list;                                                                              \
+        __builtin_va_start(list, flags);                                                                     \
+        const unsigned mode = (flags & (O_CREAT | __O_TMPFILE)) != 0 ? __builtin_va_arg(list, unsigned) : 0; \
+        __builtin_va_end(list);                                                                              \
+        return fails(orderFor(Open)) ? -1 : REAL(name)(path, flags, mode);                                   \
+    }
 
 #pragma GCC visibility push(default)
 extern "C" {
@@ -162,42 +160,6 @@ void beginFaults()
     orders = ordersForLater;
 }
 
-int open(const char* path, int flags, ...)
-{
-    __builtin_va_list list;
-    __builtin_va_start(list, flags);
-    const auto mode = (flags & (O_CREAT | __O_TMPFILE)) != 0 ? __builtin_va_arg(list, unsigned) : 0U;
-    __builtin_va_end(list);
-    return fails(orderFor(Open)) ? -1 : REAL(open)(path, flags, mode);
-}
-int open64(const char* path, int flags, ...)
-{
-    __builtin_va_list list;
-    __builtin_va_start(list, flags);
-    const auto mode = (flags & (O_CREAT | __O_TMPFILE)) != 0 ? __builtin_va_arg(list, unsigned) : 0U;
-    __builtin_va_end(list);
-    return fails(orderFor(Open)) ? -1 : REAL(open64)(path, flags, mode);
-}
-ssize_t read(int file, void* bytes, std::size_t size)
-{
-    SIZED(Read, read, size, file, bytes, size);
-}
-ssize_t pread(int file, void* bytes, std::size_t size, off_t at)
-{
-    SIZED(Read, pread, size, file, bytes, size, at);
-}
-ssize_t write(int file, const void* bytes, std::size_t size)
-{
-    SIZED(Write, write, size, file, bytes, size);
-}
-ssize_t pwrite(int file, const void* bytes, std::size_t size, off_t at)
-{
-    SIZED(Write, pwrite, size, file, bytes, size, at);
-}
-ssize_t copy_file_range(int from, off64_t* fromAt, int to, off64_t* toAt, std::size_t size, unsigned flags)
-{
-    SIZED(Copy, copy_file_range, size, from, fromAt, to, toAt, size, flags);
-}
 int ioctl(int file, unsigned long request, ...) noexcept
 {
     __builtin_va_list list;
@@ -206,97 +168,50 @@ int ioctl(int file, unsigned long request, ...) noexcept
     __builtin_va_end(list);
     return request == FICLONE && fails(orderFor(Clone)) ? -1 : REAL(ioctl)(file, request, argument);
 }
-int fsync(int file)
-{
-    return met(Sync, REAL(fsync), -1, file);
-}
-int fdatasync(int file)
-{
-    return met(Sync, REAL(fdatasync), -1, file);
-}
-int syncfs(int file) noexcept
-{
-    return met(Sync, REAL(syncfs), -1, file);
-}
-int rename(const char* from, const char* to) noexcept
-{
-    return met(Rename, REAL(rename), -1, from, to);
-}
-int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept
-{
-    return met(Rename, REAL(renameat2), -1, fromFolder, from, toFolder, to, flags);
-}
-int close(int file)
-{
-    return met(Close, REAL(close), -1, file);
-}
-int chmod(const char* path, mode_t mode) noexcept
-{
-    return met(Chmod, REAL(chmod), -1, path, mode);
-}
-int fchmod(int file, mode_t mode) noexcept
-{
-    return met(Chmod, REAL(fchmod), -1, file, mode);
-}
-int ftruncate(int file, off_t size) noexcept
-{
-    return met(Truncate, REAL(ftruncate), -1, file, size);
-}
-int ftruncate64(int file, off64_t size) noexcept
-{
-    return met(Truncate, REAL(ftruncate64), -1, file, size);
-}
-void* mmap(void* place, std::size_t size, int protection, int flags, int file, off_t at) noexcept
-{
-    return met(Map, REAL(mmap), MAP_FAILED, place, size, protection, flags, file, at);
-}
-void* mmap64(void* place, std::size_t size, int protection, int flags, int file, off64_t at) noexcept
-{
-    return met(Map, REAL(mmap64), MAP_FAILED, place, size, protection, flags, file, at);
-}
+
 void* malloc(std::size_t size) noexcept
 {
     return fails(orderFor(Malloc)) ? nullptr : __libc_malloc(size);
 }
+
+// clang-format off
+OPENING(open)
+OPENING(open64)
+SHORTENED(Read, read, (int file, void* bytes, std::size_t size), file, bytes, size)
+SHORTENED(Read, pread, (int file, void* bytes, std::size_t size, off_t at), file, bytes, size, at)
+SHORTENED(Write, write, (int file, const void* bytes, std::size_t size), file, bytes, size)
+SHORTENED(Write, pwrite, (int file, const void* bytes, std::size_t size, off_t at), file, bytes, size, at)
+SHORTENED(Copy, copy_file_range, (int from, off64_t* fromAt, int to, off64_t* toAt, std::size_t size, unsigned flags),
+          from, fromAt, to, toAt, size, flags)
+FAILING(Sync, int, -1, fsync, (int file), file)
+FAILING(Sync, int, -1, fdatasync, (int file), file)
+FAILING(Sync, int, -1, syncfs, (int file) noexcept, file)
+FAILING(Rename, int, -1, rename, (const char* from, const char* to) noexcept, from, to)
+FAILING(Rename, int, -1, renameat2, (int in, const char* from, int to, const char* name, unsigned flags) noexcept,
+        in, from, to, name, flags)
+FAILING(Close, int, -1, close, (int file), file)
+FAILING(Chmod, int, -1, chmod, (const char* path, mode_t mode) noexcept, path, mode)
+FAILING(Chmod, int, -1, fchmod, (int file, mode_t mode) noexcept, file, mode)
+FAILING(Truncate, int, -1, ftruncate, (int file, off_t size) noexcept, file, size)
+FAILING(Truncate, int, -1, ftruncate64, (int file, off64_t size) noexcept, file, size)
+FAILING(Map, void*, MAP_FAILED, mmap, (void* place, std::size_t size, int protection, int flags, int file, off_t at) noexcept,
+        place, size, protection, flags, file, at)
+FAILING(Map, void*, MAP_FAILED, mmap64, (void* place, std::size_t size, int protection, int flags, int file, off64_t at) noexcept,
+        place, size, protection, flags, file, at)
+FAILING(Pipe, int, -1, pipe2, (int* ends, int flags) noexcept, ends, flags)
+FAILING(Pipe, int, -1, socketpair, (int domain, int type, int protocol, int* ends) noexcept, domain, type, protocol, ends)
+FAILING(Poll, int, -1, poll, (pollfd* files, nfds_t count, int timeout), files, count, timeout)
+FAILING(Folder, int, -1, mkdir, (const char* path, mode_t mode) noexcept, path, mode)
+FAILING(Unlink, int, -1, unlink, (const char* path) noexcept, path)
+FAILING(Lock, int, -1, flock, (int file, int operation) noexcept, file, operation)
+FAILING(Status, int, -1, stat, (const char* path, struct stat* status) noexcept, path, status)
+FAILING(Status, int, -1, lstat, (const char* path, struct stat* status) noexcept, path, status)
+FAILING(Status, int, -1, fstat, (int file, struct stat* status) noexcept, file, status)
+// clang-format on
+
 pid_t fork() noexcept
 {
     return met(Fork, REAL(fork), -1);
-}
-int pipe2(int* ends, int flags) noexcept
-{
-    return met(Pipe, REAL(pipe2), -1, ends, flags);
-}
-int socketpair(int domain, int type, int protocol, int* ends) noexcept
-{
-    return met(Pipe, REAL(socketpair), -1, domain, type, protocol, ends);
-}
-int poll(pollfd* files, nfds_t count, int timeout)
-{
-    return met(Poll, REAL(poll), -1, files, count, timeout);
-}
-int mkdir(const char* path, mode_t mode) noexcept
-{
-    return met(Folder, REAL(mkdir), -1, path, mode);
-}
-int unlink(const char* path) noexcept
-{
-    return met(Unlink, REAL(unlink), -1, path);
-}
-int flock(int file, int operation) noexcept
-{
-    return met(Lock, REAL(flock), -1, file, operation);
-}
-int stat(const char* path, struct stat* status) noexcept
-{
-    return met(Status, REAL(stat), -1, path, status);
-}
-int lstat(const char* path, struct stat* status) noexcept
-{
-    return met(Status, REAL(lstat), -1, path, status);
-}
-int fstat(int file, struct stat* status) noexcept
-{
-    return met(Status, REAL(fstat), -1, file, status);
 }
 
 } // extern "C"

@@ -4,7 +4,7 @@ meanwhile, limits, very many or very long names, runs at the same time. Document
 true, and the exit status has to fit. Tells how often each was tried, what went wrong, and what could not be tried here;
 status 1 when something went wrong.
 
-    troubles.py --program quintar --shim faultsshim.so [TROUBLE ...]"""
+    troubles.py --program quintar --shim faultsshim.so --person faultsperson.so [TROUBLE ...]"""
 
 import argparse
 import collections
@@ -50,7 +50,7 @@ class Setting:
     """A folder with the six documents in "in", and what a run makes of each."""
 
     def __init__(self, arguments, work):
-        self.program, self.work = arguments.program, os.path.join(work, "work")
+        self.program, self.person, self.work = arguments.program, arguments.person, os.path.join(work, "work")
         self.shim = batch.Shim(arguments.shim, work)
         self.documents = batch.build(self.program, os.path.join(work, "documents"))
         self.set_up()
@@ -370,6 +370,42 @@ def folding_disk(kind, make, work):
 
 
 @trouble
+def settings_folders(setting):
+    """Homes in which no settings can be stored: the program says so and does its work all the same."""
+    home, lists = f"{setting.work}-home", ".local/share/kelvane software/Plexor/Actions"
+    setting.set_up()
+    shutil.copy(pathlib.Path(__file__).parents[1].joinpath("data/manuals.xqq"), f"{setting.work}/list.xqq")
+
+    def commands(what, words, status):
+        for command, wanted in ((["lists"], status), (["configure", "--list", "list.xqq", "-o", "list.xqq"], 0)):
+            loaded = setting.person if command[0] == "configure" else ""
+            run = batch.call([setting.program, *command], setting.work, {"LD_PRELOAD": loaded, "HOME": home})
+            setting.expect(f"{what}, {command[0]}", run, wanted, words)
+
+    def link(target):
+        def make():
+            os.makedirs(os.path.dirname(f"{home}/{lists}"))
+            os.symlink(target, f"{home}/{lists}")
+        return make
+
+    for what, make, words, status in (
+            ("a link to a folder", link("/var"), "", 0),
+            ("a link to nowhere", link("nowhere/at/all"), "cannot", 1),
+            ("a link to itself", link("Actions"), "", 1),
+            ("a link to a file", link("/etc/passwd"), "not a folder", 1),
+            ("foreign", lambda: os.chown(home, NOBODY, NOBODY), "another user's", 1)):
+        shutil.rmtree(home, ignore_errors=True)
+        os.mkdir(home)
+        make()
+        commands(what, words, status)
+    shutil.rmtree(home)
+    for options, words in (("size=4k,nr_inodes=2", "no space left"), ("ro", "read-only file system")):
+        with in_memory(home, options):
+            commands(options, words, 1)
+        shutil.rmtree(home)
+
+
+@trouble
 def runs_at_the_same_time(setting):
     plans = {"into a folder that another run changes": [["-o", "out", "in"], ["--in-place", "out"]],
              "into a folder that another run reads": [["-o", "out", "in"], ["-o", "further", "out"]],
@@ -414,6 +450,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--program", required=True, type=os.path.abspath)
     parser.add_argument("--shim", required=True, type=os.path.abspath)
+    parser.add_argument("--person", required=True, type=os.path.abspath)
     parser.add_argument("troubles", nargs="*", metavar="TROUBLE", help="all by default")
     arguments = parser.parse_args()
     own_mounts()
