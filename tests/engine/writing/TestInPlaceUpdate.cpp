@@ -99,9 +99,7 @@ private slots:
         row("no line end", withoutLineEnd(withBytes(1234)));
         row("padded", withBytes(1322));
         row("identified", PdfBuilder().catalog("").pages(1).trailer("/ID [<61> <62>]").bytes());
-        row("cross-reference stream", rewritten(withBytes(1234), [](QPDFWriter& writer) {
-                writer.setObjectStreamMode(qpdf_o_generate);
-            }));
+        row("cross-reference stream", inObjectStreams(withBytes(1234)));
     }
 
     void completesAnUpdateThatWasBegun()
