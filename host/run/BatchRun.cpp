@@ -90,14 +90,14 @@ int BatchRun::run(const WorkerPool::Limits& limits)
         removeLeftovers();
     try {
         runJobs(plugin.action(), libraryFile, limits);
-    } catch (const std::bad_alloc&) { // main would tell that nothing was begun
         m_progress.reset();
-        complainInLines("the run ended early, for it is out of memory; some documents may have been changed");
+        sumUp();
+        return exitStatus();
+    } catch (const std::bad_alloc&) {
+        m_progress.reset();
+        complainOfEarlyEnd();
         return exitstatus::someFailed;
     }
-    m_progress.reset();
-    sumUp();
-    return exitStatus();
 }
 
 void BatchRun::planJobs()

@@ -23,6 +23,12 @@ Failure cannotWrite()
     return Failure::ofSystem(errno, ReasonCode::WriteFailed);
 }
 
+/// Why the document does not count as this object left it.
+Failure notAsLeft()
+{
+    return errno == 0 ? changedMeanwhile() : Failure::ofSystem(errno, ReasonCode::ReadFailed);
+}
+
 } // namespace
 
 Failure InPlaceAppend::Outcome::whole() const
@@ -42,11 +48,13 @@ std::string_view InPlaceAppend::withoutLastLines(std::string_view update)
 InPlaceAppend::Outcome InPlaceAppend::perform()
 {
     if (!isAsLeft())
-        return {changedMeanwhile()};
+        return {notAsLeft()};
     if (!write(m_begin))
         return failed(cannotWrite());
-    if (m_left.st_size != endOf(m_begin) || !isAsLeft())
-        return {changedMeanwhile()};
+    if (!isAsLeft())
+        return failed(notAsLeft());
+    if (m_left->st_size != endOf(m_begin))
+        return failed(changedMeanwhile());
     if (!write(m_update.substr(m_begin.size())))
         return failed(cannotWrite());
     return {};
@@ -54,21 +62,38 @@ InPlaceAppend::Outcome InPlaceAppend::perform()
 
 bool InPlaceAppend::write(std::string_view bytes)
 {
-    const bool written = m_file.append(bytes);
-    const int problem = errno;
-    fstat(m_file.get(), &m_left);
-    errno = problem;
-    return written && m_file.flush();
+    if (!m_file.append(bytes)) {
+        const int problem = errno;
+        look();
+        errno = problem;
+        return false;
+    }
+    return look() && m_file.flush();
+}
+
+bool InPlaceAppend::look()
+{
+    struct stat now;
+    const bool seen = fstat(m_file.get(), &now) == 0;
+    m_left = seen ? std::optional(now) : std::nullopt;
+    return seen;
 }
 
 bool InPlaceAppend::isAsLeft() const
 {
-    return isAsRead(m_file.get(), m_file.path(), m_left);
+    return isAsRead(m_file.get(), m_file.path(), *m_left);
+}
+
+/// Wherever its path leads by now.
+bool InPlaceAppend::isFileAsLeft() const
+{
+    struct stat now;
+    return !m_left || (fstat(m_file.get(), &now) == 0 && isSameState(now, *m_left));
 }
 
 InPlaceAppend::Outcome InPlaceAppend::settle(const Failure& why)
 {
-    fstat(m_file.get(), &m_left); // nobody can tell how the other process left it
+    m_left.reset(); // nobody can tell how the other process left it
     if (!isAll(found()))
         return failed(why);
     const std::string problem = m_file.flush() ? "" : systemError(errno);
@@ -78,8 +103,11 @@ InPlaceAppend::Outcome InPlaceAppend::settle(const Failure& why)
 InPlaceAppend::Outcome InPlaceAppend::failed(const Failure& why) const
 {
     const Found found = this->found();
-    if (!found.isOfUpdate || !isAsLeft())
-        return {why, changedMeanwhile().text};
+    if (found.problem != 0)
+        return {why, "bytes that viewers pass over may be left behind its end, for it cannot be looked at: " +
+                         systemError(found.problem)};
+    if (!found.isOfUpdate || !isFileAsLeft())
+        return {why, why.code == ReasonCode::ChangedMeanwhile ? "" : changedMeanwhile().text};
     return isNothing(found) ? Outcome{why} : cutBack(found, why);
 }
 
@@ -101,11 +129,15 @@ InPlaceAppend::Outcome InPlaceAppend::cutBack(const Found& found, const Failure&
 
 InPlaceAppend::Found InPlaceAppend::found() const
 {
+    errno = 0;
     const auto bytes = behindDocument();
-    return {bytes && m_update.starts_with(*bytes), bytes ? bytes->size() : 0};
+    if (!bytes)
+        return {errno, false, 0};
+    return {0, m_update.starts_with(*bytes), bytes->size()};
 }
 
-/// No more than it takes to know that it is not the update. Nothing when the document is another one.
+/// No more than it takes to know that it is not the update. Nothing when the document is another one, and, with errno
+/// set, when it cannot be read.
 std::optional<std::string> InPlaceAppend::behindDocument() const
 {
     struct stat now;

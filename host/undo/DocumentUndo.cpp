@@ -32,6 +32,12 @@ Failure cannotRead(int error)
     return Failure::ofSystem(error, ReasonCode::ReadFailed);
 }
 
+/// Behind isAsRead().
+Failure notAsRead()
+{
+    return errno == 0 ? changedMeanwhile : cannotRead(errno);
+}
+
 /// Of an update that is appended where the document lies; there is no longer one.
 const std::int64_t longestInPlace = 2048;
 
@@ -187,7 +193,7 @@ UndoResult DocumentUndo::cut() const
     if (lockDocument(m_file.get()) == DocumentLock::Held)
         return {UndoResult::LeftAlone, documentLocked};
     if (!isAsRead(m_file.get(), m_document.path, m_present))
-        return {UndoResult::LeftAlone, changedMeanwhile};
+        return {UndoResult::LeftAlone, notAsRead()};
     const FileState before = *FileState::fromText(m_cuts.back()->before);
     const InPlaceFile file(m_document.path);
     return file.isSuited() && isSameFile(file.status(), m_present) ? cutInPlace(file, before)
@@ -229,7 +235,7 @@ UndoResult DocumentUndo::replace(const FileState& before) const
         utimensat(AT_FDCWD, temporary.c_str(), changeTime(before).data(), AT_SYMLINK_NOFOLLOW) == 0;
     const auto beforeRename = [this](const struct stat&, const std::string&) {
         if (!isAsRead(m_file.get(), m_document.path, m_present))
-            throw DocumentError(changedMeanwhile);
+            throw DocumentError(notAsRead());
     };
     try {
         const SafeOutput::Outcome outcome =

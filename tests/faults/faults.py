@@ -62,9 +62,10 @@ class Trials:
         earlier = {"out/plain.pdf": batch.EARLIER, "out/streams.pdf": batch.EARLIER}
         run = ["run", *CHANGE, "--jobs", "1", "--signed", "append", "--report", "report"]
         resuming = [*run, "--resume", "report", "-o", "out"]
-        return [self.learnt("-o", [*run, "-o", "out", "in"], {**given, **earlier}),
-                self.learnt("--in-place", [*run, "--in-place", "in"], given),
-                self.learnt("--replace", [*run, "--in-place", "--replace", "in"], given),
+        in_place = self.learnt("--in-place", [*run, "--in-place", "in"], given)
+        replaced = self.learnt("--replace", [*run, "--in-place", "--replace", "in"], given)
+        in_place.allow(replaced)
+        return [self.learnt("-o", [*run, "-o", "out", "in"], {**given, **earlier}), in_place, replaced,
                 self.learnt("undo", ["undo", "--events", "report"], given, [*run, "--in-place", "in"]),
                 self.learnt("configure", ["configure", "--list", "in/list.xqq", "-o", "in/list.xqq"],
                             {"in/list.xqq": pathlib.Path(__file__).parents[1].joinpath("data/manuals.xqq").read_bytes()}),
@@ -204,6 +205,7 @@ def main():
     batch.adopt_workers()
     memory = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
     with tempfile.TemporaryDirectory(dir=memory) as work:
+        os.mkdir(os.path.join(work, "work-home"))
         trials = Trials(arguments, work)
         trials.sweep(arguments.kinds or list(MANNERS))
         trials.kill_all(arguments.kills)

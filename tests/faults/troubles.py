@@ -55,7 +55,9 @@ class Setting:
         self.documents = batch.build(self.program, os.path.join(work, "documents"))
         self.set_up()
         self.run("-o", "out", "in")
-        self.wanted = {name: pathlib.Path(self.work, "out", name).read_bytes() for name in self.documents}
+        self.run("--in-place", "in")
+        self.wanted = {name: [pathlib.Path(self.work, folder, name).read_bytes() for folder in ("out", "in")]
+                       for name in self.documents}
         self.tried, self.wrong, self.name = collections.Counter(), 0, ""
 
     def set_up(self, folder="in"):
@@ -89,8 +91,8 @@ class Setting:
         """Judges a run over all documents, by its report."""
         scenario = batch.Scenario(what, self.words(*words), {}, None)
         in_place = "--in-place" in words
-        scenario.results = {("in/" if in_place else "out/") + name: (self.documents[name] if in_place else None, data)
-                            for name, data in self.wanted.items()}
+        scenario.results = {("in/" if in_place else "out/") + name: (self.documents[name] if in_place else None, wanted)
+                            for name, wanted in self.wanted.items()}
         self.tell(what, run, batch.judge(scenario, run, folder or self.work))
 
     def tell(self, what, run, problems):
@@ -272,7 +274,7 @@ def many_files(setting):
                           (["--in-place"], "0 changed, 20000 un")):
         run = setting.run(*words, "in")
         results = [path.read_bytes() for path in pathlib.Path(setting.work, "out").glob("*.pdf")]
-        wrong = [] if results == [setting.wanted["signed.pdf"]] * 20_000 else ["not all are done"]
+        wrong = [] if len(results) == 20_000 and all(each in setting.wanted["signed.pdf"] for each in results) else ["not all are done"]
         setting.tell(words, run, wrong + ([] if counts.encode() in run.stdout else [f"not {counts}"]))
 
 
@@ -301,7 +303,7 @@ def million_names(setting):
     pathlib.Path(setting.work, "list").write_text("\n".join(names))
     run = setting.run("-q", "-o", "out", "--files-from", "list")
     setting.expect("names that are missing", run, 1, "in/0999999.pdf: no such file")
-    whole = pathlib.Path(setting.work, "out/plain.pdf").read_bytes() == setting.wanted["plain.pdf"]
+    whole = pathlib.Path(setting.work, "out/plain.pdf").read_bytes() in setting.wanted["plain.pdf"]
     setting.tell("the one that is there", run, [] if whole else ["it is not done"])
 
 
@@ -390,7 +392,7 @@ def settings_folders(setting):
 
     for what, make, words, status in (
             ("a link to a folder", link("/var"), "", 0),
-            ("a link to nowhere", link("nowhere/at/all"), "cannot", 1),
+            ("a link to nowhere", link("nowhere/at/all"), "leads nowhere", 1),
             ("a link to itself", link("Actions"), "", 1),
             ("a link to a file", link("/etc/passwd"), "not a folder", 1),
             ("foreign", lambda: os.chown(home, NOBODY, NOBODY), "another user's", 1)):
@@ -420,7 +422,7 @@ def runs_at_the_same_time(setting):
         for number, (run, words) in enumerate(zip(runs, commands)):
             folder = {"in": "in", "--in-place": words[-1]}.get(words[0], words[1])
             found = {name: pathlib.Path(setting.work, folder, name).read_bytes() for name in setting.documents}
-            wrong = [f"{name} is not as asked" for name in found if found[name] != setting.wanted[name]]
+            wrong = [f"{name} is not as asked" for name in found if found[name] not in setting.wanted[name]]
             wrong += [] if run.status in (0, 1) else [f"status {run.status}"]
             wrong += [f"{name} is changed {count} times" for name, count in changed.items() if what == "sixteen in place" and count > 1]
             setting.tell(f"{what}, {number}", run, wrong)
