@@ -163,16 +163,19 @@ def disk_that_vanishes(setting):
         setting.set_up()
         for moment in setting.moments(*words):
             setting.set_up()
+            shutil.rmtree(f"{setting.work}/{place}", ignore_errors=True)
             with in_memory(f"{setting.work}/{place}", "size=8m") as disk:
                 if place == "in":
                     setting.put(disk)
                 held = os.open(disk, os.O_RDONLY)
                 run, _ = setting.run_with(moment, lambda: system("umount", "--lazy", disk), *words)
-                shutil.rmtree(disk, ignore_errors=True)
-                os.makedirs(disk, exist_ok=True)
-                shutil.copytree(f"/proc/self/fd/{held}", disk, dirs_exist_ok=True)
+                below = batch.contents(disk)  # where the rest of the results goes
+                batch.write(disk, batch.contents(f"/proc/self/fd/{held}") | below)
                 os.close(held)
-                setting.judge(f"{place} at call {moment}", run, words)
+                if b"no PDF documents in in" in run.stderr:
+                    setting.expect(f"{place} at call {moment}", run, 0)
+                else:
+                    setting.judge(f"{place} at call {moment}", run, words)
 
 
 @trouble
@@ -232,7 +235,7 @@ def meddle(folder, act):
             new = path.with_suffix(".new")
             new.write_bytes(b"%PDF-1.4\n% somebody else's\n")
             os.replace(new, path)
-    return batch.contents(folder)
+    return {path.name: path.read_bytes() for path in pathlib.Path(folder).glob("*.pdf")}
 
 
 @trouble
@@ -319,7 +322,11 @@ def limits(setting):
                 for name in ["", *names]:
                     os.chown(os.path.join(place, name), NOBODY, NOBODY)
             before = [*(others if "-u" in limit else []), "bash", "-c", f"ulimit {limit} && exec \"$@\"", "bash"]
-            setting.judge(f"{limit}, {words[0]}", setting.run(*words, before=before), words)
+            run = setting.run(*words, before=before)
+            if b"error while loading shared libraries" in run.stderr:
+                setting.expect(limit, run, 127)  # that was not yet the program
+            else:
+                setting.judge(f"{limit}, {words[0]}", run, words)
 
 
 @trouble
