@@ -318,6 +318,8 @@ DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& 
         tellStates(result, finished);
         (*m_beforePlacement)({result, finished});
     };
+    if (m_options.inPlace)
+        output.replaceOnly(m_original);
     const auto take = m_options.inPlace ? FileAttributes::Take::All : FileAttributes::Take::ForCopy;
     const FileAttributes attributes =
         m_options.keepsAttributes ? FileAttributes(source.get(), take) : FileAttributes::ofNewFile();

@@ -228,6 +228,7 @@ UndoResult DocumentUndo::replace(const FileState& before) const
 {
     const std::string temporary = SafeOutput::temporaryNameFor(m_document.path);
     SafeOutput output(m_document.path, temporary);
+    output.replaceOnly(m_present);
     const auto size = static_cast<std::uint64_t>(before.size);
     if (const Failure problem = copyBegin(m_file.get(), size, temporary); problem)
         return {UndoResult::LeftAlone, problem};
