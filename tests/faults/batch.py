@@ -17,8 +17,8 @@ sys.dont_write_bytecode = True
 import inputs  # noqa: E402
 
 # As shim.cpp has them.
-KINDS = ["any", "any of workers", "open", "read", "write", "copy", "clone", "sync", "rename", "close", "chmod", "truncate",
-         "mmap", "malloc", "fork", "pipe", "poll", "mkdir", "unlink", "flock", "stat"]
+KINDS = ["any", "any of workers", "open", "read", "write", "copy", "clone", "sync", "rename", "close", "chmod",
+         "truncate", "mmap", "malloc", "fork", "pipe", "poll", "mkdir", "unlink", "flock", "stat"]
 SHORT, WAIT, ALL_THE_SAME = -1, -2, 1000
 ALWAYS = 0xffffffff
 PR_SET_CHILD_SUBREAPER = 36
@@ -155,9 +155,9 @@ def json_lines(data):
 
 
 class Scenario:
-    """A command over the documents. `start` are the files before, with `times` when they were changed; `results` those
-    that it changes, each with what it is before (None for nothing) and what it may become. The `spared` are neither
-    documents nor results."""
+    """A command over the documents. `start` are the files before, with `times` when they were changed; `results`
+    those that it changes, each with what it is before (None for nothing) and what it may become. The `spared` are
+    neither documents nor results."""
 
     def __init__(self, name, words, start, times):
         self.name, self.words, self.start, self.times = name, words, start, times
@@ -178,10 +178,10 @@ class Scenario:
         return name.startswith("out/") if "-o" in self.words else name.startswith("in/")
 
     def told(self, run, folder):
-        """What the run said became of each result: its words, and why it failed. `told_all` is whether it said that that
-        is all."""
+        """What the run said became of each result: its words, and why it failed. `told_all` is whether it said that
+        that is all."""
         told = {}
-        self.told_all = True
+        self.told_all = self.words[0] == "configure"
         if self.words[0] == "undo":
             names = {}
             for event in json_lines(run.stdout):
@@ -226,7 +226,7 @@ DONE = ("changed", "unchanged", "undone", "undone already")
 def about_result(now, old, wanted, told, killed):
     """What is wrong with a result, by its bytes and what was told of it."""
     status, reason = told or (None, None)
-    is_begin = old is not None and now is not None and now.startswith(old) and any(new.startswith(now) for new in wanted)
+    is_begin = None not in (old, now) and now.startswith(old) and any(new.startswith(now) for new in wanted)
     if now != old and now not in wanted and not (is_begin and (killed or "left behind" in (reason or ""))):
         return "is torn"
     if status in DONE and now not in wanted and not (status == "unchanged" and now == old):
@@ -257,8 +257,8 @@ def about_status(scenario, run, found, told):
     done = [name for name, (_, wanted) in scenario.results.items() if found.get(name) in wanted]
     if run.status == 0 and len(done) < len(scenario.results):
         return "status 0, and not all is done"
-    if run.status == 1 and len(done) == len(scenario.results) and scenario.told_all and b"out of memory" not in run.stderr and \
-            all(status in DONE for status, _ in told.values()):
+    is_all_well = scenario.told_all and all(status in DONE for status, _ in told.values())
+    if run.status == 1 and is_all_well and len(done) == len(scenario.results) and b"out of memory" not in run.stderr:
         return "status 1, and all is done"
     if run.status == 2 and any(found.get(name) != old for name, (old, _) in scenario.results.items()):
         return "status 2, and something was begun"

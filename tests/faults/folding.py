@@ -1,5 +1,7 @@
 #!/usr/bin/python3
-"""A file system whose names do not depend on case, which keeps its files in another folder: folding.py FOLDER MOUNTPOINT"""
+"""A file system whose names do not depend on case, which keeps its files in another folder.
+
+    folding.py FOLDER MOUNTPOINT"""
 
 import os
 import sys
@@ -21,8 +23,8 @@ class Folding(fuse.Operations):
 
     def getattr(self, name, file=None):
         status = os.lstat(self.path(name))
-        return {key: getattr(status, key) for key in ("st_mode", "st_nlink", "st_uid", "st_gid", "st_size", "st_atime", "st_mtime",
-                                                      "st_ctime")}
+        return {"st_" + each: getattr(status, "st_" + each)
+                for each in ("mode", "nlink", "uid", "gid", "size", "atime", "mtime", "ctime")}
 
     def readdir(self, name, file):
         return [".", "..", *os.listdir(self.path(name))]

@@ -29,8 +29,8 @@ namespace {
 // The rows of KINDS in batch.py.
 // clang-format off
 enum Kind : std::uint32_t {
-    Any, AnyOfWorkers, Open, Read, Write, Copy, Clone, Sync, Rename, Close, Chmod, Truncate, Map, Malloc, Fork, Pipe, Poll,
-    Folder, Unlink, Lock, Status, kinds
+    Any, AnyOfWorkers, Open, Read, Write, Copy, Clone, Sync, Rename, Close, Chmod, Truncate, Map, Malloc, Fork, Pipe,
+    Poll, Folder, Unlink, Lock, Status, kinds
 };
 // clang-format on
 
@@ -194,12 +194,15 @@ FAILING(Chmod, int, -1, chmod, (const char* path, mode_t mode) noexcept, path, m
 FAILING(Chmod, int, -1, fchmod, (int file, mode_t mode) noexcept, file, mode)
 FAILING(Truncate, int, -1, ftruncate, (int file, off_t size) noexcept, file, size)
 FAILING(Truncate, int, -1, ftruncate64, (int file, off64_t size) noexcept, file, size)
-FAILING(Map, void*, MAP_FAILED, mmap, (void* place, std::size_t size, int protection, int flags, int file, off_t at) noexcept,
+FAILING(Map, void*, MAP_FAILED, mmap,
+        (void* place, std::size_t size, int protection, int flags, int file, off_t at) noexcept,
         place, size, protection, flags, file, at)
-FAILING(Map, void*, MAP_FAILED, mmap64, (void* place, std::size_t size, int protection, int flags, int file, off64_t at) noexcept,
+FAILING(Map, void*, MAP_FAILED, mmap64,
+        (void* place, std::size_t size, int protection, int flags, int file, off64_t at) noexcept,
         place, size, protection, flags, file, at)
 FAILING(Pipe, int, -1, pipe2, (int* ends, int flags) noexcept, ends, flags)
-FAILING(Pipe, int, -1, socketpair, (int domain, int type, int protocol, int* ends) noexcept, domain, type, protocol, ends)
+FAILING(Pipe, int, -1, socketpair, (int domain, int type, int protocol, int* ends) noexcept,
+        domain, type, protocol, ends)
 FAILING(Poll, int, -1, poll, (pollfd* files, nfds_t count, int timeout), files, count, timeout)
 FAILING(Folder, int, -1, mkdir, (const char* path, mode_t mode) noexcept, path, mode)
 FAILING(Unlink, int, -1, unlink, (const char* path) noexcept, path)

@@ -8,7 +8,6 @@ status 1 when something went wrong.
 
 import argparse
 import collections
-import ctypes
 import functools
 import os
 import pathlib
@@ -20,115 +19,15 @@ import tempfile
 import time
 
 import batch
-from batch import CHANGE
+from setting import Setting, Untried, folding_disk, in_memory, mounted, own_mounts, system
 
-CLONE_NEWNS, MS_REC, MS_PRIVATE = 0x20000, 0x4000, 1 << 18
 NOBODY = 65534
-MOMENTS = 24  # of a run, at which something else happens
 TROUBLES = {}
-
-
-class Untried(Exception):
-    """Why something cannot be tried here."""
 
 
 def trouble(function):
     TROUBLES[function.__name__.replace("_", " ")] = function
     return function
-
-
-def system(*command):
-    try:
-        subprocess.run(command, capture_output=True, text=True, check=True)
-    except OSError as problem:
-        raise Untried(str(problem)) from problem
-    except subprocess.CalledProcessError as problem:
-        raise Untried(f"{' '.join(command)}: {problem.stderr.strip()}") from problem
-
-
-class Setting:
-    """A folder with the six documents in "in", and what a run makes of each."""
-
-    def __init__(self, arguments, work):
-        self.program, self.person, self.work = arguments.program, arguments.person, os.path.join(work, "work")
-        self.shim = batch.Shim(arguments.shim, work)
-        self.documents = batch.build(self.program, os.path.join(work, "documents"))
-        self.set_up()
-        self.run("-o", "out", "in")
-        self.run("--in-place", "in")
-        self.wanted = {name: [pathlib.Path(self.work, folder, name).read_bytes() for folder in ("out", "in")]
-                       for name in self.documents}
-        self.tried, self.wrong, self.name = collections.Counter(), 0, ""
-
-    def set_up(self, folder="in"):
-        batch.write(self.work, {f"{folder}/{name}": data for name, data in self.documents.items()})
-
-    def put(self, folder):
-        """The documents, elsewhere as well."""
-        os.makedirs(folder, exist_ok=True)
-        for name, data in self.documents.items():
-            pathlib.Path(folder, name).write_bytes(data)
-
-    def words(self, *words, report="report"):
-        return ["run", *CHANGE, "--jobs", "2", "--signed", "append", "--report", report, *words]
-
-    def run(self, *words, before=()):
-        return batch.call([*before, self.program, *self.words(*words)], self.work)
-
-    def run_with(self, number, then, *words):
-        """A run at whose call of this number `then` happens."""
-        return self.shim.stop_at([self.program, *self.words(*words)],
-                                 batch.surroundings(self.work, {"LD_PRELOAD": self.shim.library, "FAULTS_ORDERS": self.shim.file}),
-                                 "any", number, lambda *_: then())
-
-    def moments(self, *words):
-        """Numbers of calls, spread over such a run."""
-        self.run_with(batch.ALWAYS, lambda: None, *words)
-        calls = self.shim.count("any")
-        return range(1, calls, max(1, calls // MOMENTS))
-
-    def judge(self, what, run, words, folder=None):
-        """Judges a run over all documents, by its report."""
-        scenario = batch.Scenario(what, self.words(*words), {}, None)
-        in_place = "--in-place" in words
-        scenario.results = {("in/" if in_place else "out/") + name: (self.documents[name] if in_place else None, wanted)
-                            for name, wanted in self.wanted.items()}
-        self.tell(what, run, batch.judge(scenario, run, folder or self.work))
-
-    def tell(self, what, run, problems):
-        self.tried[self.name] += 1
-        if problems:
-            self.wrong += 1
-            print(f"{self.name}: {what}: {'; '.join(problems)}\n    {run.status} {run.stderr.decode(errors='replace')[-1500:]!r}",
-                  flush=True)
-
-    def expect(self, what, run, status, words=""):
-        problems = [] if run.status == status else [f"status {run.status}, not {status}"]
-        problems += [] if words.encode() in run.stderr else [f"not told: {words}"]
-        self.tell(what, run, problems)
-
-
-class Mounted:
-    """A file system in a folder, for a while."""
-
-    def __init__(self, folder):
-        self.folder = folder
-
-    def __enter__(self):
-        return self.folder
-
-    def __exit__(self, *_):
-        subprocess.run(["umount", "--lazy", self.folder], capture_output=True, check=False)
-
-
-def mounted(folder, *words):
-    os.makedirs(folder, exist_ok=True)
-    system("mount", *words, folder)
-    return Mounted(folder)
-
-
-def in_memory(folder, options):
-    return mounted(folder, "-t", "tmpfs", "-o", options, "none")
 
 
 @trouble
@@ -185,7 +84,8 @@ def quota(setting):
     system("mkfs.btrfs", "-q", image)
     with mounted(f"{setting.work}-mounted", "-o", "loop", image) as disk:
         system("btrfs", "quota", "enable", disk)
-        for words, folder in ((["-o", "out", "in"], "out"), (["--in-place", "--replace", "in"], "in"), (["--in-place", "in"], "in")):
+        for words in (["-o", "out", "in"], ["--in-place", "--replace", "in"], ["--in-place", "in"]):
+            folder = "out" if words[0] == "-o" else "in"
             for room in range(0, 1800, 200):
                 setting.set_up()
                 volume = f"{disk}/{words[0]}{len(words)}{room}"
@@ -277,7 +177,8 @@ def many_files(setting):
                           (["--in-place"], "0 changed, 20000 un")):
         run = setting.run(*words, "in")
         results = [path.read_bytes() for path in pathlib.Path(setting.work, "out").glob("*.pdf")]
-        wrong = [] if len(results) == 20_000 and all(each in setting.wanted["signed.pdf"] for each in results) else ["not all are done"]
+        done = sum(each in setting.wanted["signed.pdf"] for each in results)
+        wrong = [] if done == len(results) == 20_000 else [f"{done} are done"]
         setting.tell(words, run, wrong + ([] if counts.encode() in run.stdout else [f"not {counts}"]))
 
 
@@ -343,7 +244,8 @@ def results_on_another_file_system(setting):
 @trouble
 def names_that_differ_in_case(setting):
     """The first of the file systems that can be had here."""
-    ways = [("ext4", ["mkfs.ext4", "-q", "-O", "casefold"]), ("xfs", ["mkfs.xfs", "-q", "-n", "version=ci"]), ("fuse", None)]
+    ways = [("ext4", ["mkfs.ext4", "-q", "-O", "casefold"]), ("xfs", ["mkfs.xfs", "-q", "-n", "version=ci"]),
+            ("fuse", None)]
     problems = []
     for kind, make in ways:
         names = ("A.PDF", "a.pdf", "b.pdf", "sub/c.pdf", "Sub/C.pdf")
@@ -361,21 +263,6 @@ def names_that_differ_in_case(setting):
         except Untried as why:
             problems.append(str(why))
     raise Untried("; ".join(problems))
-
-
-def folding_disk(kind, make, work):
-    if make is None:
-        os.mkdir(f"{work}-files")
-        os.mkdir(f"{work}/out")
-        system(os.path.join(os.path.dirname(__file__), "folding.py"), f"{work}-files", f"{work}/out")
-        return Mounted(f"{work}/out")
-    system("truncate", "-s", "320M", f"{work}-disk")
-    system(*make, f"{work}-disk")
-    disk = mounted(f"{work}/out", "-o", "loop", f"{work}-disk")
-    if kind == "ext4":
-        os.rmdir(f"{work}/out/lost+found")  # such a folder has to be empty
-        system("chattr", "+F", f"{work}/out")
-    return disk
 
 
 @trouble
@@ -425,13 +312,14 @@ def runs_at_the_same_time(setting):
         setting.put(f"{setting.work}/out")
         runs = together(setting, commands)
         reports = [json_lines(pathlib.Path(setting.work, f"report{number}")) for number in range(len(runs))]
-        changed = collections.Counter(line["file"] for lines in reports for line in lines if line.get("status") == "changed")
+        changed = collections.Counter(line["file"] for line in sum(reports, []) if line.get("status") == "changed")
         for number, (run, words) in enumerate(zip(runs, commands)):
             folder = {"in": "in", "--in-place": words[-1]}.get(words[0], words[1])
             found = {name: pathlib.Path(setting.work, folder, name).read_bytes() for name in setting.documents}
             wrong = [f"{name} is not as asked" for name in found if found[name] not in setting.wanted[name]]
             wrong += [] if run.status in (0, 1) else [f"status {run.status}"]
-            wrong += [f"{name} is changed {count} times" for name, count in changed.items() if what == "sixteen in place" and count > 1]
+            wrong += [f"{name} is changed {count} times" for name, count in changed.items()
+                      if what == "sixteen in place" and count > 1]
             setting.tell(f"{what}, {number}", run, wrong)
 
 
@@ -446,13 +334,6 @@ def together(setting, commands):
                for number, words in enumerate(commands)]
     outputs = [each.communicate(timeout=batch.SECONDS) for each in started]
     return [batch.Run(each.returncode, *output) for each, output in zip(started, outputs)]
-
-
-def own_mounts():
-    """What is mounted from here on is seen by nobody else, and goes with this process."""
-    system_calls = ctypes.CDLL(None, use_errno=True)
-    if system_calls.unshare(CLONE_NEWNS) != 0 or system_calls.mount(b"none", b"/", None, MS_REC | MS_PRIVATE, None) != 0:
-        print("nothing can be mounted here")
 
 
 def main():
