@@ -53,18 +53,20 @@ private:
     /// What is behind the document.
     struct Found
     {
-        int problem = 0; ///< An errno value where it cannot be read.
         bool isOfUpdate = false;
         std::size_t size = 0;
+        std::string problem = {}; ///< Why it cannot be told.
     };
 
     /// \returns false, with errno set, on failure.
     bool write(std::string_view bytes);
     /// \returns false, with errno set or 0 for a change, when another program has been there.
     bool isAsLeft() const;
+    bool isUntouched() const;
     bool isFileAsLeft() const;
     /// Takes the document's state for the one that this object left it in. \returns false, with errno set, on failure.
     bool look();
+    std::string leftOver() const;
     Found found() const;
     static bool isNothing(const Found& found) { return found.isOfUpdate && found.size == 0; }
     bool isAll(const Found& found) const { return found.isOfUpdate && found.size == m_update.size(); }

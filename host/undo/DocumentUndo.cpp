@@ -243,7 +243,8 @@ UndoResult DocumentUndo::replace(const FileState& before) const
             output.commit(FileAttributes(m_file.get(), FileAttributes::Take::All), true, beforeRename);
         if (outcome.problem)
             return {UndoResult::LeftAlone, outcome.problem};
-        return {UndoResult::Undone, {}, outcome.note + (timeKept ? "" : timeLost)};
+        const std::string separator = outcome.note.empty() || timeKept ? "" : "; ";
+        return {UndoResult::Undone, {}, outcome.note + separator + (timeKept ? "" : timeLost)};
     } catch (const std::runtime_error&) {
         return {UndoResult::LeftAlone, Failure::ofException()};
     }

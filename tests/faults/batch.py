@@ -227,7 +227,7 @@ def about_result(now, old, wanted, told, killed):
     """What is wrong with a result, by its bytes and what was told of it."""
     status, reason = told or (None, None)
     is_begin = None not in (old, now) and now.startswith(old) and any(new.startswith(now) for new in wanted)
-    if now != old and now not in wanted and not (is_begin and (killed or "left behind" in (reason or ""))):
+    if now != old and now not in wanted and not (is_begin and (killed or "behind its end" in (reason or ""))):
         return "is torn"
     if status in DONE and now not in wanted and not (status == "unchanged" and now == old):
         return f"is called {status} and is not"
