@@ -232,6 +232,8 @@ RunPlan RunCommand::plan(const RunDestination& destination)
     for (const std::string& input : m_documentOptions.inputs())
         input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input);
     plan.checkTargets();
+    if (!m_options.dryRun) // which writes nothing
+        plan.checkCase();
     if (m_reportFile && m_reportFile != Report::standardOutput) {
         std::vector<std::string> filesRead = m_documentOptions.filesRead();
         for (const std::string& file : m_changeOptions.filesRead())
