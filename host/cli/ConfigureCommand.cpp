@@ -141,7 +141,9 @@ void ConfigureCommand::readDocument()
     if (!m_source.file.empty())
         return;
     m_document.emplace(present);
-    for (const std::string& each : m_document->notes())
+    const bool makesSettings = m_output ? !m_output->isView() : m_all;
+    using Unshown = DialogSettings::Unshown;
+    for (const std::string& each : m_document->notes(makesSettings ? Unshown::Replaced : Unshown::Stays))
         note(std::string(file).append(": ").append(each));
     m_settings = m_document->map();
 }
@@ -225,7 +227,9 @@ int ConfigureCommand::printChange() const
 int ConfigureCommand::writeView() const
 {
     const bool isChange = m_document && !m_all;
-    const ViewChange view = isChange ? m_document->changeTo(m_settings) : DialogSettings::viewOf(m_settings);
+    const ViewChange view = isChange     ? m_document->changeTo(m_settings)
+                            : m_document ? m_document->viewShown(m_settings)
+                                         : DialogSettings::viewOf(m_settings);
     if (view.isEmpty()) {
         complain(isChange ? "nothing was changed in the window: no view was written; --all takes everything "
                             "that it shows"

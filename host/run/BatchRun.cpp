@@ -125,7 +125,8 @@ DocumentJob BatchRun::jobFor(const RunPlan::Document& document) const
     const std::string target = isOutput ? m_setup.streams->result() : document.target;
     // In place, the library opens what links lead to: the file that is about to be replaced.
     const std::string& source = m_options.inPlace ? target : document.name;
-    return {isInput ? m_setup.streams->document() : source, target, SafeOutput::temporaryNameFor(target)};
+    return {document.name, isInput ? m_setup.streams->document() : source, target,
+            SafeOutput::temporaryNameFor(target)};
 }
 
 void BatchRun::removeLeftovers() const

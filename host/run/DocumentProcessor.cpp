@@ -124,7 +124,7 @@ DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
     if (m_options.tellChanges)
         m_viewBefore.emplace(m_library, m_options.change[ViewEntry::Title].has_value());
-    if (const Failure reason = apply(job.source); reason)
+    if (const Failure reason = apply(job.name); reason)
         return DocumentResult::failed(reason);
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
         return m_options.inPlace || m_options.dryRun ? leave() : copy(job);

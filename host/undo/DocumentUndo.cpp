@@ -88,7 +88,16 @@ std::array<struct timespec, 2> changeTime(const FileState& state)
 
 } // namespace
 
+/// What is not as the report says is no matter where nothing was done.
 UndoResult DocumentUndo::perform(bool dryRun)
+{
+    UndoResult result = attempt(dryRun);
+    const bool nothingDone = std::all_of(m_document.updates.begin(), m_document.updates.end(),
+                                         [](const AppendedUpdate& each) { return each.failed; });
+    return nothingDone && m_cuts.empty() ? UndoResult{UndoResult::NothingDone} : result;
+}
+
+UndoResult DocumentUndo::attempt(bool dryRun)
 {
     if (const Failure problem = open(); problem)
         return {UndoResult::LeftAlone, problem};
@@ -145,7 +154,7 @@ bool DocumentUndo::follow(std::string state)
             m_olderStays = false;
         } else if (state == update.before) {
             m_isBefore = true;
-            m_undoneAlready = m_undoneAlready || !update.begun;
+            m_undoneAlready = m_undoneAlready || !update.failed;
             m_olderStays = false;
         }
     }

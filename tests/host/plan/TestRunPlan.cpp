@@ -38,7 +38,7 @@ private slots:
                              "in/deep/er/y.pdf>out/deep/er/y.pdf in/x\xff\n.pdf>out/x\xff\n.pdf "));
         QVERIFY(refusalFor(plan).empty());
         plan.add("in/folder.pdf");
-        QCOMPARE(plan.emptyFolders(), std::vector<std::string>{"in/folder.pdf"});
+        QCOMPARE(plan.notes(), std::vector<std::string>{"no PDF documents in in/folder.pdf"});
 
         const fs::path here = fs::current_path();
         const std::string name(250, 'd');
@@ -239,6 +239,11 @@ private slots:
         WorkFolder::put("settings");
         QVERIFY_EXCEPTION_THROWN(plan.checkReport("linked/../settings", {"settings"}), UsageError);
         plan.checkReport("report.jsonl", {"settings"});
+        WorkFolder::put("out/x.pdf"); // the model of this run, say
+        RunPlan again(to("out"));
+        again.add("a/x.pdf");
+        QVERIFY_EXCEPTION_THROWN(again.checkTargets({"linked/../out/x.pdf"}), UsageError);
+        again.checkTargets({"settings"});
     }
 
     // The folder is made only when nothing is refused.
