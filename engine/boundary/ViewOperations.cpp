@@ -1,7 +1,7 @@
 #include "Arguments.h"
 #include "Operations.h"
 #include "Session.h"
-#include "Text.h"
+#include "engine/document/Text.h"
 #include "engine/pages/PageGeometry.h"
 #include "pdflibrary/ViewerPreferences.h"
 

@@ -25,6 +25,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <new>
 
 namespace host {
 
@@ -59,7 +60,7 @@ int ConfigureCommand::work(const std::vector<std::string>& words)
     readSettings();
     readDocument();
     if (showDialog())
-        return deliver();
+        return deliverOrTell();
     complain("the window was closed without OK: no settings were " +
              std::string(m_output ? "written" : "printed"));
     return exitstatus::someFailed;
@@ -167,6 +168,15 @@ bool ConfigureCommand::showDialog()
     for (const QString& report : storereport::take())
         complain(report.toStdString());
     return isAccepted;
+}
+
+/// main would tell that nothing was begun.
+int ConfigureCommand::deliverOrTell()
+try {
+    return deliver();
+} catch (const std::bad_alloc&) {
+    complain("it is out of memory; the settings may have been written or not");
+    return exitstatus::someFailed;
 }
 
 int ConfigureCommand::deliver()

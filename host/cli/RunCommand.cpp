@@ -236,6 +236,8 @@ RunPlan RunCommand::plan(const RunDestination& destination)
         input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input);
     const std::vector<std::string> filesRead = this->filesRead();
     plan.checkTargets(filesRead);
+    if (!m_options.dryRun) // which writes nothing
+        plan.checkCase();
     if (m_reportFile && m_reportFile != Report::standardOutput)
         plan.checkReport(*m_reportFile, filesRead);
     for (const std::string& text : plan.notes())

@@ -1,5 +1,6 @@
 #include "RunPlan.h"
 
+#include "CaseOfNames.h"
 #include "FolderWalk.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/Links.h"
@@ -164,6 +165,22 @@ void RunPlan::checkOverwriting(const std::vector<std::string>& filesRead) const
         if (const auto other = otherInputs.find(id); other != otherInputs.end())
             throw UsageError("the output of " + m_documents[document].name +
                              " would overwrite what this run reads, " + *other->second);
+    }
+}
+
+void RunPlan::checkCase() const
+{
+    CaseOfNames names;
+    std::map<std::string, std::vector<const Document*>> targets;
+    for (const Document& document : m_documents) {
+        if (document.problem || m_destination.isInPlace())
+            continue;
+        std::vector<const Document*>& alike = targets[CaseOfNames::folded(document.target)];
+        for (const Document* other : alike)
+            if (names.areTheSame(other->target, document.target))
+                throw UsageError(other->name + " and " + document.name + " would have the same output, " +
+                                 document.target + ", for the case of names does not count there");
+        alike.push_back(&document);
     }
 }
 

@@ -1,8 +1,8 @@
 #include "UndoPlan.h"
 
 #include "host/files/FileState.h"
-#include "host/files/LineReader.h"
 #include "host/files/Links.h"
+#include "host/report/LineReader.h"
 #include "host/report/Report.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/StandardError.h"

@@ -79,6 +79,8 @@ private slots:
         row("both, though neither is too much by itself",
             withBytes(10, "/Key (" + std::string(730, 'x') + ")") + std::string(99, '\n'),
             ErrorCode::NotInPlace);
+        row("the word in a text", withBytes(10, "/Key (startxref 5)"), ErrorCode::NotInPlace);
+        row("the word as a name", withBytes(10, "/startxref 5"), ErrorCode::NotInPlace);
         row("a wrong startxref", moved, ErrorCode::NotInPlace);
         row("something before the header", "\n" + simple, ErrorCode::NotInPlace);
     }

@@ -194,13 +194,14 @@ private slots:
         row("outputs that are linked", "linkedout", {"a/p.pdf", "a/q.pdf"}, same);
         row("hard links, in place", "", {"a/x.pdf", "hard.pdf"}, "");
         row("in place", "", {"a", "b"}, "");
+        row("names that differ in case, which counts here", "out", {"a/x.pdf", "b/X.pdf"}, "");
         row("the missing collide with nothing", "out", {"no/x.pdf", "a/x.pdf"}, "");
     }
 
     void refusesSharedOutputs()
     {
         const auto [output, inputs, refused] = Rows<QString, QStringList, std::string>::current();
-        for (const char* name : {"a/x.pdf", "a/p.pdf", "a/q.pdf", "b/x.pdf", "linkedout/p.pdf"})
+        for (const char* name : {"a/x.pdf", "a/p.pdf", "a/q.pdf", "b/x.pdf", "b/X.pdf", "linkedout/p.pdf"})
             WorkFolder::put(name);
         fs::create_symlink("a/x.pdf", "link.pdf");
         fs::create_directory_symlink("a", "linked");
@@ -288,7 +289,10 @@ private:
 
     static std::string refusalFor(const RunPlan& plan)
     {
-        return refusalOf([&plan] { plan.checkTargets(); });
+        return refusalOf([&plan] {
+            plan.checkTargets();
+            plan.checkCase();
+        });
     }
 
     /// "name>target" of each document, targets relative to the current folder.
