@@ -60,8 +60,9 @@ std::vector<Group> table(pid_t self)
           {SCMP_SYS(rt_sigprocmask)}, {SCMP_SYS(rt_sigreturn)}, {SCMP_SYS(sigreturn)},
           {SCMP_SYS(tgkill), {equals(0, process)}}, {SCMP_SYS(kill), {equals(0, process)}}}},
 #if defined(__SANITIZE_ADDRESS__)
-        {"what the sanitizers of a build for tests ask when exceptions pass, and when they have found something",
-         {{SCMP_SYS(sigaltstack)}, {SCMP_SYS(rt_sigaction)}, {SCMP_SYS(sched_yield)}, {SCMP_SYS(getuid)},
+        {"what the sanitizers of a build for tests ask when exceptions pass, and when they have found something: they try"
+         " memory by writing it to a pipe",
+         {{SCMP_SYS(pipe)}, {SCMP_SYS(pipe2)}, {SCMP_SYS(sigaltstack)}, {SCMP_SYS(rt_sigaction)}, {SCMP_SYS(sched_yield)}, {SCMP_SYS(getuid)},
           {SCMP_SYS(uname)}, {SCMP_SYS(prlimit64)}, {SCMP_SYS(prctl)}, {SCMP_SYS(dup)},
           {SCMP_SYS(ioctl), {equals(1, TCGETS)}}}},
 #endif
