@@ -1,135 +1,21 @@
-#include "engine/boundary/Operations.h"
-#include "engine/boundary/Session.h"
-#include "engine/direct/DirectReader.h"
-#include "engine/files/EngineError.h"
 #include "support/PdfBuilder.h"
+#include "support/ReadingAccount.h"
 #include "support/Rows.h"
 
 #include <qpdf/Pl_String.hh>
 #include <qpdf/QPDFWriter.hh>
 
 #include <QDir>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
 #include <random>
 
 using namespace engine;
-using namespace engine::operations;
 
 Q_DECLARE_METATYPE(std::string)
 
 namespace {
-
-enum class Reading { Direct, Whole };
-
-/// A document, all that can be asked of it and what appending a change to it gives, as text.
-class Account
-{
-public:
-    Account(std::string bytes, Reading reading) : m_bytes(std::move(bytes))
-    {
-        m_loaded = attempt([&] { return LoadFromString(m_session, m_bytes, {}); }) == "1";
-        if (m_loaded && reading == Reading::Whole)
-            m_session.document().readWhole();
-    }
-
-    bool loaded() const { return m_loaded; }
-
-    QByteArray view()
-    {
-        QByteArray text =
-            ask([&] { return GetPageMode(m_session); }) + ask([&] { return GetPageLayout(m_session); });
-        for (int option = 1; option <= 7; ++option)
-            text += ask([&] { return GetViewerPreferences(m_session, option); });
-        text += ask([&] { return SecurityInfo(m_session, SignatureCount); });
-        text += ask([&] { return PageCount(m_session); });
-        text += openAction();
-        const int count = std::max(1, PageCount(m_session));
-        for (const int page : {1, 2, (count + 1) / 2, count, count + 1})
-            text += onPage(page);
-        for (int item = 0; item <= 8; ++item)
-            text += ask([&] { return QString::fromStdWString(GetInformation(m_session, item)); });
-        return text;
-    }
-
-    /// What an update to a common set of settings adds to the document.
-    QByteArray update(int page)
-    {
-        QByteArray text =
-            ask([&] { return SetPageMode(m_session, 1); }) +
-            ask([&] { return SetPageLayout(m_session, 5); }) +
-            ask([&] { return SetOpenActionDestinationFull(m_session, page, 0, 2, 0, 0, 0, 0); });
-        for (int option = 1; option <= 6; ++option)
-            text += ask([&] { return SetViewerPreferences(m_session, option, 1); });
-        QTemporaryDir folder;
-        const std::wstring path = (folder.path() + "/updated.pdf").toStdWString();
-        text += ask([&] { return AppendToFile(m_session, path); });
-        QFile file(folder.path() + "/updated.pdf");
-        return file.open(QIODevice::ReadOnly) ? text + file.readAll().mid(static_cast<int>(m_bytes.size()))
-                                              : text;
-    }
-
-private:
-    QByteArray openAction()
-    {
-        return ask([&] {
-            const int id = GetOpenActionDestination(m_session);
-            if (id == 0)
-                return QString("none");
-            QString text = QString("type %1 page %2 %3")
-                               .arg(GetDestType(m_session, id))
-                               .arg(GetDestPage(m_session, id))
-                               .arg(QString::fromStdWString(GetDestName(m_session, id)));
-            for (int value = 1; value <= 5; ++value)
-                text += QString(" %1").arg(GetDestValue(m_session, id, value));
-            return text;
-        });
-    }
-
-    QByteArray onPage(int page)
-    {
-        QByteArray text = ask([&] { return SelectPage(m_session, page); });
-        for (int dimension = 0; dimension <= 5; ++dimension)
-            text += ask([&] { return GetPageBox(m_session, 1 + dimension % 5, dimension); });
-        return text + ask([&] { return PageRotation(m_session); });
-    }
-
-    template <class Operation>
-    QByteArray ask(Operation operation)
-    {
-        return attempt(operation) + "; ";
-    }
-
-    /// As the library's guard does it.
-    template <class Operation>
-    QByteArray attempt(Operation operation)
-    {
-        try {
-            try {
-                return QVariant(operation()).toByteArray();
-            } catch (const DirectReadingEnded&) {
-                m_session.document().readWhole();
-                return QVariant(operation()).toByteArray();
-            }
-        } catch (const EngineError& error) {
-            return "code " + QByteArray::number(static_cast<int>(error.code()));
-        } catch (const std::exception&) {
-            return "exception";
-        }
-    }
-
-    std::string m_bytes;
-    Session m_session;
-    bool m_loaded = false;
-};
-
-bool accepted(const std::string& bytes)
-{
-    auto reader = DirectReader::open(ByteSource::fromBytes(bytes));
-    return reader != nullptr && reader->skeleton();
-}
 
 enum class Packing { Plain, Compressed };
 
@@ -195,8 +81,8 @@ std::string manifold()
 
 void compare(const std::string& bytes)
 {
-    Account direct(bytes, Reading::Direct);
-    Account whole(bytes, Reading::Whole);
+    ReadingAccount direct(bytes, Reading::Direct);
+    ReadingAccount whole(bytes, Reading::Whole);
     QCOMPARE(direct.loaded(), whole.loaded());
     if (!direct.loaded())
         return;
