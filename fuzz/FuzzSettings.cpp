@@ -69,8 +69,8 @@ QCoreApplication& application()
 /// What differs on purpose (docs/decisions/reading-ini-ourselves.md).
 bool differsOnPurpose(const QByteArray& bytes, const QVariant& value)
 {
-    return value.userType() == QMetaType::QEasingCurve || bytes.toLower().contains("[general]") ||
-           bytes.startsWith("\xef\xbb\xbf");
+    const bool isOddForm = value.type() == QVariant::String && value.toString().count(')') > 1;
+    return value.userType() == QMetaType::QEasingCurve || isOddForm || bytes.startsWith("\xef\xbb\xbf");
 }
 
 void compare(const std::string& file, const QByteArray& bytes)

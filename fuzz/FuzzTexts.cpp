@@ -100,6 +100,7 @@ void fileNames(std::string_view bytes)
 
 void requireHarmless(const std::string& shown, bool linesStay)
 {
+    require(QString::fromStdString(shown).toStdString() == shown, "what is shown is no text");
     for (const uint character : QString::fromStdString(shown).toUcs4())
         require((linesStay && character == '\n') || !host::misleads(character),
                 "something that misleads is shown");
