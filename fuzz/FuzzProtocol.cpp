@@ -17,6 +17,7 @@
 
 #include <QJsonDocument>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 

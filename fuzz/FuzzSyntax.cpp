@@ -20,11 +20,7 @@ std::string byLibqpdf(const std::string& text)
 bool isValue(std::string_view text)
 {
     SyntaxScanner scanner(text);
-    scanner.skipSpace();
-    if (scanner.skipValue() != SyntaxScanner::Outcome::Complete)
-        return false;
-    scanner.skipSpace();
-    return scanner.atEnd();
+    return scanner.skipValue() == SyntaxScanner::Outcome::Complete && scanner.atEnd();
 }
 
 /// What is written of an object means the same object.
@@ -52,13 +48,12 @@ void requireSameEntries(const std::string& text)
     objectAccount([&](QPDF& pdf) {
         QPDFObjectHandle dictionary = QPDFObjectHandle::parse(&pdf, text);
         require(dictionary.isDictionary(), "entries of what is no dictionary");
-        for (const auto& [key, value] : *entries)
-            requireSame(
-                objectAccount([&, text = std::string(value)](QPDF& other) {
-                    return QPDFObjectHandle::parse(&other, text);
-                }),
-                objectAccount([&, name = "/" + std::string(key)](QPDF&) { return dictionary.getKey(name); }),
-                "entry " + std::string(key));
+        for (const auto& [key, value] : *entries) {
+            const std::vector<QPDFObjectHandle> item{dictionary.getKey("/" + std::string(key))};
+            requireSame(byLibqpdf("[" + std::string(value) + "]"),
+                        objectAccount([&](QPDF&) { return QPDFObjectHandle::newArray(item); }),
+                        "entry " + std::string(key));
+        }
         return dictionary;
     });
 }

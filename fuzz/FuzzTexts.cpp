@@ -16,9 +16,9 @@ namespace {
 
 using namespace fuzz;
 
-QByteArray bytesOf(std::string_view text)
+QString fromUtf8(std::string_view text)
 {
-    return {text.data(), static_cast<int>(text.size())};
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
 bool matches(const QString& text, const char* form)
@@ -72,7 +72,7 @@ void pageLists(const QString& range, Choices& choices)
 void pageRanges(std::string_view text)
 {
     Choices choices(text);
-    const QString range = QString::fromUtf8(bytesOf(text));
+    const QString range = fromUtf8(text);
     const bool isRange = CActionUtils::ValidatePageRange(range, true);
     require(isRange == isPageRange(range), "what is a page range is not, or the other way round");
     require(isRange || !CActionUtils::ValidatePageRange(range, false),
@@ -89,13 +89,12 @@ void fileNames(std::string_view bytes)
 {
     const std::wstring wide = engine::wideFromFileName(bytes);
     requireSame(engine::fileNameFromWide(wide), std::string(bytes), "a name comes back as another one");
-    const QString text = QString::fromUtf8(bytesOf(bytes));
-    if (text.toUtf8() == bytesOf(bytes))
+    const QString text = fromUtf8(bytes);
+    if (text.toStdString() == bytes)
         require(wide == text.toStdWString() && engine::wideFromUtf8(bytes) == wide,
                 "text is read as another one");
-    const QByteArray made =
-        "a" + QByteArray::fromStdString(engine::utf8FromWide(engine::wideFromUtf8(bytes)));
-    require(QString::fromUtf8(made).toUtf8() == made, "what is made of text is none");
+    const std::string made = "a" + engine::utf8FromWide(engine::wideFromUtf8(bytes));
+    requireSame(fromUtf8(made).toStdString(), made, "what is made of text is none");
 }
 
 void requireHarmless(const std::string& shown, bool linesStay)
@@ -130,7 +129,7 @@ std::string accountOf(const initext::Values& values)
 
 void settings(std::string_view bytes)
 {
-    const initext::Values values = initext::parse(bytesOf(bytes));
+    const initext::Values values = initext::parse({bytes.data(), static_cast<int>(bytes.size())});
     const QByteArray written = initext::format(values);
     const initext::Values again = initext::parse(written);
     requireSame(accountOf(values), accountOf(again), "settings are read again otherwise");

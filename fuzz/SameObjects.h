@@ -5,9 +5,11 @@
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
 #include <memory>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace fuzz {
 
@@ -33,7 +35,8 @@ inline std::string valueOf(QPDFObjectHandle object, const std::set<std::string>&
     QPDFObjectHandle dictionary = object.isStream() ? object.getDict() : object;
     if (!dictionary.isDictionary())
         return dictionary.unparseResolved();
-    for (const auto& [key, value] : dictionary.getDictAsMap())
+    auto entries = dictionary.getDictAsMap();
+    for (auto& [key, value] : entries)
         if (without.count(key) == 0)
             text += key + " " + value.unparse() + "\n";
     try {
@@ -44,6 +47,14 @@ inline std::string valueOf(QPDFObjectHandle object, const std::set<std::string>&
         text += "without data";
     }
     return text;
+}
+
+/// Whether pages stand in the page tree itself: one that a destination leads to becomes an object then.
+inline bool hasDirectKids(QPDFObjectHandle object)
+{
+    QPDFObjectHandle kids = object.isDictionary() ? object.getKey("/Kids") : QPDFObjectHandle::newNull();
+    const auto items = kids.isArray() ? kids.getArrayAsVector() : std::vector<QPDFObjectHandle>();
+    return std::any_of(items.begin(), items.end(), [](const auto& kid) { return !kid.isIndirect(); });
 }
 
 /// Ends the process unless all objects are the same that a change of how a document opens does not touch.
@@ -59,10 +70,11 @@ inline void requireSameObjects(const std::string& source, const std::string& res
                                        root.getKey("/Metadata").getObjGen(),
                                        before->getTrailer().getKey("/Info").getObjGen()};
     for (const auto& [id, entry] : before->getXRefTable()) {
-        const bool isRoot = id == root.getObjGen();
-        const std::set<std::string> asked{"/PageMode",   "/PageLayout", "/ViewerPreferences",
-                                          "/OpenAction", "/Lang",       "/Metadata"};
-        const std::set<std::string> without = isRoot ? asked : std::set<std::string>();
+        std::set<std::string> without;
+        if (id == root.getObjGen())
+            without = {"/PageMode", "/PageLayout", "/ViewerPreferences", "/OpenAction", "/Lang", "/Metadata"};
+        if (hasDirectKids(before->getObject(id)))
+            without.insert("/Kids");
         if (changed.count(id) == 0)
             requireSame(valueOf(before->getObject(id), without), valueOf(after->getObject(id), without),
                         "object " + id.unparse(' '));

@@ -2,6 +2,7 @@
 // itself, for QSettings believes what files claim.
 #include "StoredForm.h"
 
+#include <QDataStream>
 #include <QMap>
 #include <QSettings>
 
@@ -31,7 +32,8 @@ int main()
         for (const QString& key : settings.allKeys())
             values[key] = fuzz::storedForm(settings.value(key));
         QByteArray line;
-        QDataStream(&line, QIODevice::WriteOnly) << values;
+        QDataStream stream(&line, QIODevice::WriteOnly);
+        stream << values;
         std::cout << line.toBase64().constData() << std::endl;
         alarm(0);
     }
