@@ -165,7 +165,8 @@ private:
 class Trial
 {
 public:
-    explicit Trial(const std::string& source) : m_source(source), m_choices(source), m_library(freshLibrary())
+    Trial(const std::string& source, unsigned variant)
+        : m_source(source), m_choices(source, variant), m_library(freshLibrary())
     {}
 
     void run()
@@ -261,6 +262,7 @@ private:
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string source(textOf(data, size));
-    Trial(source).run();
+    for (unsigned variant = 0; variant < VARIANTS; ++variant)
+        Trial(source, variant).run();
     return 0;
 }

@@ -36,13 +36,14 @@ inline void requireSame(const std::string& one, const std::string& other, const 
     require(one == other, what + "\n--- " + one + "\n+++ " + other);
 }
 
-/// What a target decides without being told: an input always leads to the same decisions.
+/// What a target decides without being told: an input always leads to the same decisions, and each further variant to
+/// others.
 class Choices
 {
 public:
-    explicit Choices(std::string_view input)
+    explicit Choices(std::string_view input, unsigned variant = 0)
     {
-        std::uint32_t hash = 2166136261U;
+        std::uint32_t hash = 2166136261U + variant;
         for (const char byte : input)
             hash = (hash ^ static_cast<unsigned char>(byte)) * 16777619U;
         m_random.seed(hash);
