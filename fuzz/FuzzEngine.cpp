@@ -189,6 +189,9 @@ public:
         appendInPlace();
         if (m_choices.oneIn(4))
             rewrite();
+        m_library.IsLinearized();
+        require(m_library.GetDocumentID(m_library.DocumentCount()) == document.id(),
+                "other documents are open");
     }
 
 private:
@@ -231,7 +234,9 @@ private:
 
     void rewrite()
     {
-        const std::string whole = m_library.SaveToString();
+        const std::wstring name = engine::wideFromFileName(workFolder().file("whole.pdf"));
+        const bool toFile = m_choices.oneIn(4) && m_library.SaveToFile(name) == 1;
+        const std::string whole = toFile ? workFolder().take("whole.pdf") : m_library.SaveToString();
         require(m_library.LastErrorCode() != static_cast<int>(engine::ErrorCode::Internal),
                 "rewriting is an internal error");
         if (!whole.empty())
