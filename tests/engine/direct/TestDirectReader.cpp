@@ -145,6 +145,10 @@ private slots:
                                                         std::to_string(plain.find("xref\n0")) +
                                                         " >>\nstartxref\n" + std::to_string(plain.size()) +
                                                         "\n%%EOF\n";
+        QTest::newRow("numbers of entries in two lines") << with("xref\n0 6\n", "xref\n0\n6\n");
+        QTest::newRow("empty line before entries") << with("xref\n0 6\n", "xref\n0 6\n\n");
+        QTest::newRow("NUL before the number of entries")
+            << with("xref\n0 6\n", std::string("xref\n0\0006\n", 9));
         QTest::newRow("entries out of order") << with("xref\n0 6\n", "xref\n5 1\n0000000000 00000 f \n0 6\n");
         QTest::newRow("two digits behind the version's point")
             << PdfBuilder().version("1.73").catalog("").pages(3).bytes();
