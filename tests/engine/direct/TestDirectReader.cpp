@@ -150,6 +150,7 @@ private slots:
         QTest::newRow("NUL before the number of entries")
             << with("xref\n0 6\n", std::string("xref\n0\0006\n", 9));
         QTest::newRow("entries out of order") << with("xref\n0 6\n", "xref\n5 1\n0000000000 00000 f \n0 6\n");
+        QTest::newRow("no version") << with("%PDF-1.7", "%PDF-1.>");
         QTest::newRow("two digits behind the version's point")
             << PdfBuilder().version("1.73").catalog("").pages(3).bytes();
         const std::string packed = withObjectStreams(manifold(), Packing::Plain);
