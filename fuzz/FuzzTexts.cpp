@@ -2,7 +2,7 @@
 // byte says which of them the others are.
 #include "CActionUtils.h"
 #include "Oracle.h"
-#include "engine/boundary/Text.h"
+#include "engine/document/Text.h"
 #include "host/change/LanguageTag.h"
 #include "host/terminal/TerminalText.h"
 #include "shared/ini/IniText.h"

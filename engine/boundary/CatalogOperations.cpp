@@ -1,8 +1,8 @@
 #include "Arguments.h"
 #include "Operations.h"
 #include "Session.h"
-#include "Text.h"
 #include "engine/document/Metadata.h"
+#include "engine/document/Text.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 #include "Arguments.h"
 #include "Operations.h"
-#include "Text.h"
+#include "engine/document/Text.h"
 #include "pdflibrary/ViewNumbers.h"
 
 #include <dlfcn.h>

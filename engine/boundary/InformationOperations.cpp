@@ -1,7 +1,7 @@
 #include "Arguments.h"
 #include "Operations.h"
 #include "Session.h"
-#include "Text.h"
+#include "engine/document/Text.h"
 #include "pdflibrary/ViewNumbers.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "Operations.h"
 #include "Session.h"
-#include "Text.h"
+#include "engine/document/Text.h"
 #include "pdflibrary/ViewNumbers.h"
 
 namespace engine::operations {

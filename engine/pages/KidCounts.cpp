@@ -8,20 +8,28 @@
 
 namespace engine {
 
-KidCounts::KidCounts(Document& document, const QPDFObjectHandle& node)
-    : m_document(document), m_kids(document.kids(node)), m_total(statedCount(document, node).value_or(-1))
+KidCounts::KidCounts(Document& document, const QPDFObjectHandle& node, Proof proof)
+    : m_document(document), m_kids(document.kids(node)), m_total(statedCount(document, node).value_or(-1)),
+      m_proof(proof), m_isList(m_total == m_kids.size() &&
+                               (proof == Proof::Few || m_total == 0 || (isPage(0) && isPage(m_total - 1))))
 {}
+
+bool KidCounts::isPage(int kid)
+{
+    const std::optional<KidGlimpse> seen = glimpse(m_document, m_kids, kid);
+    return (seen ? seen->kind : kindOf(m_document, m_document.kid(m_kids, kid))) == KidKind::Page;
+}
 
 bool KidCounts::isLikely()
 {
-    return isList() || (m_kids.size() < m_total && pagesUnder(m_document, m_kids, 0) > 1) || isBorneOut();
+    return m_isList || (m_kids.size() < m_total && pagesUnder(m_document, m_kids, 0) > 1) || isBorneOut();
 }
 
 bool KidCounts::isBorneOut()
 {
-    if (m_count == Count::Unproved && !isList() && looksRegular() && haveFitted())
+    if (m_count == Count::Unproved && !m_isList && m_proof == Proof::Few && looksRegular() && haveFitted())
         m_count = Count::Regular;
-    return isList() || m_count == Count::Regular || addUp();
+    return m_isList || m_count == Count::Regular || addUp();
 }
 
 /// Whether the first and the last kid fit the node's count, and those where the counts change from the one's
@@ -94,7 +102,7 @@ bool KidCounts::addUp()
 
 std::optional<KidCounts::Place> KidCounts::placeOf(int page)
 {
-    if (isList())
+    if (m_isList)
         return Place{page - 1, page - 1};
     const bool isLate = page > m_total / 2;
     if (isLate && !isBorneOut())
@@ -115,7 +123,7 @@ std::optional<KidCounts::Place> KidCounts::placeOf(int page)
 
 std::optional<int> KidCounts::pagesBefore(int kid)
 {
-    if (isList())
+    if (m_isList)
         return kid;
     const auto before = static_cast<std::size_t>(kid);
     const auto behind = static_cast<std::size_t>(m_kids.size() - kid);

@@ -14,21 +14,25 @@ class Document;
 /// How many pages come before each kid of a node, as the counts say. Only the kids that it takes to tell are
 /// looked at.
 ///
-/// A node with as many kids as pages has only pages. In any other the kids' counts are added up to the kid
-/// that is wanted. From the back they are added up where the node's count is borne out: writers that make
-/// nodes of one size make nodes whose kids have one count up to some kid, and one other count behind it; the
-/// first and the last kid, and the two at that place, show whether the node's count can be their sum. Where it
-/// cannot, or where a kid does not fit, all are added up.
+/// A node with as many kids as pages has only pages; in a tree that is not large its first and its last kid
+/// have to be pages. In any other the kids' counts are added up to the kid that is wanted. From the back they
+/// are added up where the node's count is borne out: by the sum of all of them, or in a large tree by few.
+/// Writers that make nodes of one size make nodes whose kids have one count up to some kid, and one other
+/// count behind it; the first and the last kid, and the two at that place, show whether the node's count can
+/// be their sum. Where it cannot, or where a kid does not fit, all are added up.
 class KidCounts
 {
 public:
+    /// What it takes to believe a node's count.
+    enum class Proof { All, Few };
+
     /// \param document must outlive the counts.
     /// \param node with a count from 0.
-    KidCounts(Document& document, const QPDFObjectHandle& node);
+    KidCounts(Document& document, const QPDFObjectHandle& node, Proof proof);
 
     /// Whether the node's count can be the sum of its kids', as far as the first one shows.
     bool isLikely();
-    /// The same, as far as four of them show, or else all.
+    /// Whether it is, or where few kids are proof, as far as four of them show.
     bool isBorneOut();
 
     struct Place
@@ -49,7 +53,7 @@ public:
 private:
     enum class Count { Unproved, Regular, Sum, Wrong };
 
-    bool isList() const { return m_total == m_kids.size(); }
+    bool isPage(int kid);
     bool looksRegular();
     bool haveFitted() const;
     int expected(int kid) const { return kid < m_change ? m_early : m_late; }
@@ -60,6 +64,8 @@ private:
     Document& m_document;
     Kids m_kids;
     int m_total;
+    Proof m_proof;
+    bool m_isList;
     Count m_count = Count::Unproved;
     int m_early = 0;             // count of a regular node's kids before m_change
     int m_late = 0;              // and from there on

@@ -70,10 +70,11 @@ std::shared_ptr<KidCounts> PageTree::countsOf(const QPDFObjectHandle& node)
 {
     // The root's are asked for again and again.
     const bool isRoot = node.getObjGen() == root().getObjGen();
-    auto counts = isRoot && m_counts ? m_counts : std::make_shared<KidCounts>(m_document, node);
+    const bool isLarge = statedCount(m_document, root()) > largeTree;
+    const auto proof = isLarge ? KidCounts::Proof::Few : KidCounts::Proof::All;
+    auto counts = isRoot && m_counts ? m_counts : std::make_shared<KidCounts>(m_document, node, proof);
     if (isRoot)
         m_counts = counts;
-    const bool isLarge = statedCount(m_document, root()) > largeTree;
     return (isLarge ? counts->isLikely() : counts->isBorneOut()) ? counts : nullptr;
 }
 

@@ -62,9 +62,11 @@ public:
         return isBegin ? std::optional(m_bytes.substr(present.size())) : std::nullopt;
     }
 
+    /// Readers that look for "startxref" take no notice of it: no text or name of the document has that word.
     bool isPassedOver(const DocumentTail& tail) const
     {
-        return m_lastLines <= longestUpdate && m_begin + m_lastLines - tail.keyword <= searchedByAllReaders;
+        return m_bytes.find("startxref") == m_lastLines && m_lastLines <= longestUpdate &&
+               m_begin + m_lastLines - tail.keyword <= searchedByAllReaders;
     }
 
 private:
@@ -100,7 +102,8 @@ std::string inPlaceUpdateOf(Document& document)
     }
     const PlacedUpdate update(std::move(bytes), source.size());
     if (source.size() - tail->end > longestTail || !update.isPassedOver(*tail))
-        refuse("the update is too long, or the document's end lies too far back");
+        refuse(
+            "the update is too long or has the word \"startxref\", or the document's end lies too far back");
     return *update.behind({});
 }
 

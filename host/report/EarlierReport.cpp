@@ -3,7 +3,7 @@
 #include "Report.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/FileState.h"
-#include "host/files/LineReader.h"
+#include "host/report/LineReader.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/UsageError.h"
 

@@ -23,11 +23,25 @@ Failure cannotWrite()
     return Failure::ofSystem(errno, ReasonCode::WriteFailed);
 }
 
+/// Why the document does not count as this object left it.
+Failure notAsLeft()
+{
+    return errno == 0 ? changedMeanwhile() : Failure::ofSystem(errno, ReasonCode::ReadFailed);
+}
+
+const char overlooked[] = "bytes that viewers pass over are left behind its end";
+
+/// Texts of which each may be empty.
+std::string joined(const std::string& one, const std::string& other)
+{
+    return one + (one.empty() || other.empty() ? "" : "; ") + other;
+}
+
 } // namespace
 
 Failure InPlaceAppend::Outcome::whole() const
 {
-    return {problem.code, problem.text + (aftermath.empty() ? "" : "; ") + aftermath};
+    return {problem.code, joined(problem.text, aftermath)};
 }
 
 InPlaceAppend::InPlaceAppend(const InPlaceFile& file, const struct stat& before, std::string_view update)
@@ -42,11 +56,13 @@ std::string_view InPlaceAppend::withoutLastLines(std::string_view update)
 InPlaceAppend::Outcome InPlaceAppend::perform()
 {
     if (!isAsLeft())
-        return {changedMeanwhile()};
+        return {notAsLeft()};
     if (!write(m_begin))
         return failed(cannotWrite());
-    if (m_left.st_size != endOf(m_begin) || !isAsLeft())
-        return {changedMeanwhile()};
+    if (!isAsLeft())
+        return failed(notAsLeft());
+    if (m_left->st_size != endOf(m_begin) || !isUntouched())
+        return failed(changedMeanwhile());
     if (!write(m_update.substr(m_begin.size())))
         return failed(cannotWrite());
     return {};
@@ -54,21 +70,62 @@ InPlaceAppend::Outcome InPlaceAppend::perform()
 
 bool InPlaceAppend::write(std::string_view bytes)
 {
-    const bool written = m_file.append(bytes);
-    const int problem = errno;
-    fstat(m_file.get(), &m_left);
-    errno = problem;
-    return written && m_file.flush();
+    if (!m_file.append(bytes)) {
+        const int problem = errno;
+        look();
+        errno = problem;
+        return false;
+    }
+    return look() && m_file.flush();
+}
+
+bool InPlaceAppend::look()
+{
+    struct stat now;
+    const bool seen = fstat(m_file.get(), &now) == 0;
+    m_left = seen ? std::optional(now) : std::nullopt;
+    return seen;
 }
 
 bool InPlaceAppend::isAsLeft() const
 {
-    return isAsRead(m_file.get(), m_file.path(), m_left);
+    return isAsRead(m_file.get(), m_file.path(), *m_left);
+}
+
+/// Programs may set a document's time back to what it was; they cannot set the time of that.
+bool InPlaceAppend::isUntouched() const
+{
+    struct stat now;
+    return fstat(m_file.get(), &now) == 0 && now.st_ctim.tv_sec == m_left->st_ctim.tv_sec &&
+           now.st_ctim.tv_nsec == m_left->st_ctim.tv_nsec;
+}
+
+/// Wherever its path leads by now. Moving it is a change of the file, too, but not of what stands in it.
+bool InPlaceAppend::isFileAsLeft() const
+{
+    if (!m_left)
+        return true;
+    struct stat now;
+    struct stat named;
+    if (fstat(m_file.get(), &now) != 0 || !isSameState(now, *m_left))
+        return false;
+    const bool isMoved = stat(m_file.path().c_str(), &named) != 0 || !isSameFile(named, now);
+    return isMoved || isUntouched();
+}
+
+/// What another program has left of the update in the document, in words.
+std::string InPlaceAppend::leftOver() const
+{
+    struct stat now;
+    if (stat(m_file.path().c_str(), &now) != 0 || !isSameFile(now, m_before))
+        return {};
+    const auto bytes = behindDocument();
+    return bytes && bytes->starts_with(m_begin) ? overlooked : "";
 }
 
 InPlaceAppend::Outcome InPlaceAppend::settle(const Failure& why)
 {
-    fstat(m_file.get(), &m_left); // nobody can tell how the other process left it
+    m_left.reset(); // nobody can tell how the other process left it
     if (!isAll(found()))
         return failed(why);
     const std::string problem = m_file.flush() ? "" : systemError(errno);
@@ -78,34 +135,41 @@ InPlaceAppend::Outcome InPlaceAppend::settle(const Failure& why)
 InPlaceAppend::Outcome InPlaceAppend::failed(const Failure& why) const
 {
     const Found found = this->found();
-    if (!found.isOfUpdate || !isAsLeft())
-        return {why, changedMeanwhile().text};
+    if (!found.problem.empty())
+        return {why, "what stands behind its end cannot be read: " + found.problem};
+    if (!found.isOfUpdate || !isFileAsLeft()) {
+        const bool isTold = why.code == ReasonCode::ChangedMeanwhile;
+        return {why, joined(isTold ? "" : changedMeanwhile().text, leftOver())};
+    }
     return isNothing(found) ? Outcome{why} : cutBack(found, why);
 }
 
 /// The last lines go first, and are gone on the disk too before the rest goes.
 InPlaceAppend::Outcome InPlaceAppend::cutBack(const Found& found, const Failure& why) const
 {
-    if (found.size > m_begin.size() && m_file.cut(endOf(m_begin)))
-        m_file.flush();
+    bool isFlushed = found.size <= m_begin.size() || (m_file.cut(endOf(m_begin)) && m_file.flush());
     if (m_file.cut(m_before.st_size)) {
-        m_file.setTime(m_before.st_mtim);
-        m_file.flush();
-        return {why};
+        const std::string lost = m_file.setTime(m_before.st_mtim) ? "" : "its time could not be restored";
+        isFlushed = m_file.flush() && isFlushed;
+        return {why, joined(lost, isFlushed ? "" : "after a power failure it may open as was asked")};
     }
     const std::string problem = "it cannot be cut back: " + systemError(errno);
     if (isAll(this->found()))
         return {{}, {}, "it may not survive a power failure: " + why.text + "; " + problem};
-    return {why, "bytes that viewers pass over are left behind its end, for " + problem};
+    return {why, overlooked + (", for " + problem)};
 }
 
 InPlaceAppend::Found InPlaceAppend::found() const
 {
+    errno = 0;
     const auto bytes = behindDocument();
-    return {bytes && m_update.starts_with(*bytes), bytes ? bytes->size() : 0};
+    if (!bytes)
+        return {false, 0, errno == 0 ? "" : systemError(errno)};
+    return {m_update.starts_with(*bytes), bytes->size(), {}};
 }
 
-/// No more than it takes to know that it is not the update. Nothing when the document is another one.
+/// No more than it takes to know that it is not the update. Nothing when the document is another one, and, with
+/// errno set, when it cannot be read.
 std::optional<std::string> InPlaceAppend::behindDocument() const
 {
     struct stat now;

@@ -153,6 +153,24 @@ private:
         return Dialog(&host).pos();
     }
 
+    static void clipsNoText()
+    {
+        Dialog dialog;
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        for (const QCheckBox* box : dialog.findChildren<QCheckBox*>())
+            QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable(box->text()));
+        for (const QLabel* label : dialog.findChildren<QLabel*>())
+            QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
+        // Too long for the closed list, but told apart by their last words.
+        const auto shown = [&dialog](int row) {
+            dialog.ui.PageLayoutComboBox->setCurrentIndex(row);
+            return dialog.ui.PageLayoutComboBox->grab().toImage();
+        };
+        QVERIFY(shown(2) != shown(3));
+        QVERIFY(shown(4) != shown(5));
+    }
+
 private slots:
     void initTestCase()
     {
@@ -293,34 +311,15 @@ private slots:
         QVERIFY(dialog.result() == QDialog::Rejected && !dialog.isVisible());
     }
 
-    void clipsNoTextInAnyFont_data()
-    {
-        const Rows<int> row;
-        for (const int pixels : {11, 13, 16, 24})
-            row(QString::asprintf("%d pixels", pixels), pixels);
-    }
-
     void clipsNoTextInAnyFont()
     {
-        const auto [pixels] = Rows<int>::current();
         const QFont standard = QApplication::font();
-        QFont font = standard;
-        font.setPixelSize(pixels);
-        QApplication::setFont(font);
-        Dialog dialog;
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        for (const QCheckBox* box : dialog.findChildren<QCheckBox*>())
-            QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable(box->text()));
-        for (const QLabel* label : dialog.findChildren<QLabel*>())
-            QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
-        // Too long for the closed list, but told apart by their last words.
-        const auto shown = [&dialog](int row) {
-            dialog.ui.PageLayoutComboBox->setCurrentIndex(row);
-            return dialog.ui.PageLayoutComboBox->grab().toImage();
-        };
-        QVERIFY(shown(2) != shown(3));
-        QVERIFY(shown(4) != shown(5));
+        for (const int pixels : {11, 13, 16, 24}) {
+            QFont font = standard;
+            font.setPixelSize(pixels);
+            QApplication::setFont(font);
+            clipsNoText();
+        }
         QApplication::setFont(standard);
     }
 
@@ -379,41 +378,35 @@ private slots:
         QCOMPARE(dialog.prefs()[key::ActionName], QVariant(actionName));
     }
 
-    void closesAsRejectedAfterTheFavourites_data()
-    {
-        const Rows<QString> row;
-        row("saved", "saveButton");
-        row("cancelled", "cancelButton");
-    }
-
     void closesAsRejectedAfterTheFavourites()
     {
-        const auto [button] = Rows<QString>::current();
-        Dialog dialog;
-        QPixmap image(128, 128);
-        image.fill(Qt::red);
-        QIcon icon;
-        icon.addPixmap(image, QIcon::Selected, QIcon::Off);
-        dialog.setWindowIcon(icon);
-        dialog.setResult(QDialog::Accepted);
-        dialog.show();
-        const Prefs prefs = dialog.prefsAfter({{key::OpenToPage, 17}});
-        person::whenOpens("CSaveAsCollectionDialog", [&, &button = button](QDialog& further) {
-            const QIcon shown = further.findChild<QToolButton*>("icon_toolButton")->icon();
-            QCOMPARE(shown.pixmap(QSize(128, 128)).toImage(), image.toImage());
-            further.findChild<QLineEdit*>("collectionNameLineEdit")->setText("Page 17 " + button);
-            further.findChild<QPushButton*>(button)->click();
-        });
-        dialog.findChild<QToolButton*>("QDtoolbarAddToCollectionsButton")->click();
-        QVERIFY(!dialog.isVisible());
-        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        for (const QString button : {"saveButton", "cancelButton"}) {
+            Dialog dialog;
+            QPixmap image(128, 128);
+            image.fill(Qt::red);
+            QIcon icon;
+            icon.addPixmap(image, QIcon::Selected, QIcon::Off);
+            dialog.setWindowIcon(icon);
+            dialog.setResult(QDialog::Accepted);
+            dialog.show();
+            const Prefs prefs = dialog.prefsAfter({{key::OpenToPage, 17}});
+            person::whenOpens("CSaveAsCollectionDialog", [&](QDialog& further) {
+                const QIcon shown = further.findChild<QToolButton*>("icon_toolButton")->icon();
+                QCOMPARE(shown.pixmap(QSize(128, 128)).toImage(), image.toImage());
+                further.findChild<QLineEdit*>("collectionNameLineEdit")->setText("Page 17 " + button);
+                further.findChild<QPushButton*>(button)->click();
+            });
+            dialog.findChild<QToolButton*>("QDtoolbarAddToCollectionsButton")->click();
+            QVERIFY(!dialog.isVisible());
+            QCOMPARE(dialog.result(), int(QDialog::Rejected));
 
-        const QString file = CUtils::GetCollectionsFolder() + "/Page 17 " + button + ".ini";
-        QCOMPARE(QFile::exists(file), button == "saveButton");
-        if (button == "saveButton") {
-            Prefs stored = QSettings(file, QSettings::IniFormat).value("ActionPrefs").toMap();
-            QCOMPARE(stored.take("CollectionName"), QVariant("Page 17 saveButton"));
-            QCOMPARE(stored, prefs);
+            const QString file = CUtils::GetCollectionsFolder() + "/Page 17 " + button + ".ini";
+            QCOMPARE(QFile::exists(file), button == "saveButton");
+            if (button == "saveButton") {
+                Prefs stored = QSettings(file, QSettings::IniFormat).value("ActionPrefs").toMap();
+                QCOMPARE(stored.take("CollectionName"), QVariant("Page 17 saveButton"));
+                QCOMPARE(stored, prefs);
+            }
         }
     }
 

@@ -259,52 +259,33 @@ private slots:
         QCOMPARE(recorder.takeLog(), (QStringList{"CreateLibrary()", "ReleaseLibrary()"}));
     }
 
-    void carriesArgumentsAndResults_data()
-    {
-        const Rows<int> row;
-        row("texts without NUL", static_cast<int>(Texts::WithoutNul));
-        row("texts with NUL", static_cast<int>(Texts::WithNul));
-        row("empty texts", static_cast<int>(Texts::Empty));
-    }
-
     void carriesArgumentsAndResults()
     {
-        const auto [texts] = Rows<int>::current();
         Recorder recorder;
         Library library(Recorder::path());
-        int exercised = 0;
+        for (const Texts texts : {Texts::WithoutNul, Texts::WithNul, Texts::Empty}) {
+            QString fault;
 #define TPL_OP(Result, Name, Arguments, ...)                                                                 \
-    {                                                                                                        \
-        const QString fault = exercise(recorder, library, #Name, &Library::Name, static_cast<Texts>(texts)); \
-        QVERIFY2(fault.isEmpty(), qPrintable(fault));                                                        \
-        ++exercised;                                                                                         \
-    }
+    fault += exercise(recorder, library, #Name, &Library::Name, texts);
 #include "pdflibrary/operations.def"
 #undef TPL_OP
-        QCOMPARE(exercised, 849);
-    }
-
-    void believesTheReportedLength_data()
-    {
-        const Rows<int, int> row;
-        row("nothing although there is a text", 0, 0);
-        row("below nothing", -5, 0);
-        row("a part of the text", 2, 2);
-        row("past the terminator's place", 4, 4);
+            QCOMPARE(fault, QString());
+        }
     }
 
     void believesTheReportedLength()
     {
-        const auto [length, expected] = Rows<int, int>::current();
-        Recorder recorder;
-        Library library(Recorder::path());
-        recorder.returns("GetInformation", std::wstring(L"a\0cd", 4));
-        recorder.returns("SaveToString", std::string("a\0cd", 4));
-        recorder.returns("StringResultLength", length);
-        recorder.returns("AnsiStringResultLength", length);
-        const auto size = static_cast<std::size_t>(expected);
-        QVERIFY(library.GetInformation(1) == std::wstring(L"a\0cd", 4).substr(0, size));
-        QVERIFY(library.SaveToString() == std::string("a\0cd", 4).substr(0, size));
+        for (const int length : {0, -5, 2, 4}) {
+            Recorder recorder;
+            Library library(Recorder::path());
+            recorder.returns("GetInformation", std::wstring(L"a\0cd", 4));
+            recorder.returns("SaveToString", std::string("a\0cd", 4));
+            recorder.returns("StringResultLength", length);
+            recorder.returns("AnsiStringResultLength", length);
+            const auto size = static_cast<std::size_t>(std::max(length, 0));
+            QVERIFY(library.GetInformation(1) == std::wstring(L"a\0cd", 4).substr(0, size));
+            QVERIFY(library.SaveToString() == std::string("a\0cd", 4).substr(0, size));
+        }
     }
 
     void isNotLoadedWithoutAllFunctions_data()
@@ -338,21 +319,14 @@ private slots:
         QVERIFY(!recorder || recorder->takeLog().isEmpty());
     }
 
-    void releasesOnlyAnInstanceAboveZero_data()
-    {
-        const Rows<int, QStringList> row;
-        row("none", 0, {"CreateLibrary()"});
-        row("negative", -1, {"CreateLibrary()"});
-        row("one", 1, {"CreateLibrary()", "ReleaseLibrary() of instance 1"});
-    }
-
     void releasesOnlyAnInstanceAboveZero()
     {
-        const auto [instance, calls] = Rows<int, QStringList>::current();
-        Recorder recorder;
-        recorder.returns("CreateLibrary", instance);
-        QVERIFY(Library(Recorder::path()).LibraryLoaded());
-        QCOMPARE(recorder.takeLog(), calls);
+        for (const int instance : {0, -1, 1}) {
+            Recorder recorder;
+            recorder.returns("CreateLibrary", instance);
+            QVERIFY(Library(Recorder::path()).LibraryLoaded());
+            QCOMPARE(recorder.takeLog().size(), instance > 0 ? 2 : 1);
+        }
     }
 
     void narrowsThePathToLowBytes()

@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <cstring>
+#include <deque>
 #include <map>
 #include <memory>
 #include <stdexcept>
@@ -23,27 +24,20 @@ struct Buffer
     bool released = false;
 };
 
-/// What a function gives back: set by a test, the last of several for good.
-struct Results
-{
-    std::vector<double> numbers;
-    std::vector<std::wstring> wide;
-    std::vector<std::string> bytes;
-};
-
 struct State
 {
     std::string log;
-    std::map<std::string, Results> results;
     std::map<std::string, int> callsUntilThrow;
     /// Released buffers stay, so that their addresses are not given out again.
     std::map<const void*, std::unique_ptr<Buffer>> buffers;
-    std::wstring wideResult;
-    std::string bytesResult;
     int resultLength = 0;
 };
 
 State state;
+
+/// What calls give back: set by a test, the last of several for good.
+template <class Value>
+std::map<std::string, std::deque<Value>> results;
 
 std::string written(int number)
 {
@@ -108,15 +102,14 @@ std::string written(const wchar_t* text)
 
 /// The next of the values that a test has set; the last one stays.
 template <class Value>
-bool take(std::vector<Value> Results::*values, const std::string& key, Value& taken)
+bool take(const std::string& key, Value& taken)
 {
-    const auto found = state.results.find(key);
-    if (found == state.results.end() || (found->second.*values).empty())
+    const auto found = results<Value>.find(key);
+    if (found == results<Value>.end())
         return false;
-    auto& list = found->second.*values;
-    taken = list.front();
-    if (list.size() > 1)
-        list.erase(list.begin());
+    taken = found->second.front();
+    if (found->second.size() > 1)
+        found->second.pop_front();
     return true;
 }
 
@@ -128,36 +121,27 @@ void throwIfTold(const std::string& key)
 }
 
 template <class Value>
-Value resultOf(std::vector<Value> Results::*values, const std::string& name, const std::string& call)
+Value resultOf(const std::string& name, const std::string& call)
 {
     Value value{};
-    if (!take(values, call, value))
-        take(values, name, value);
+    if (!take(call, value))
+        take(name, value);
     return value;
 }
 
-void asResult(int& result, const std::string& name, const std::string& call)
+template <class Number>
+void asResult(Number& result, const std::string& name, const std::string& call)
 {
-    result = static_cast<int>(resultOf(&Results::numbers, name, call));
+    result = static_cast<Number>(resultOf<double>(name, call));
 }
 
-void asResult(double& result, const std::string& name, const std::string& call)
+template <class Character>
+void asResult(const Character*& result, const std::string& name, const std::string& call)
 {
-    result = resultOf(&Results::numbers, name, call);
-}
-
-void asResult(const wchar_t*& result, const std::string& name, const std::string& call)
-{
-    state.wideResult = resultOf(&Results::wide, name, call);
-    state.resultLength = static_cast<int>(state.wideResult.size());
-    result = state.wideResult.c_str();
-}
-
-void asResult(const char*& result, const std::string& name, const std::string& call)
-{
-    state.bytesResult = resultOf(&Results::bytes, name, call);
-    state.resultLength = static_cast<int>(state.bytesResult.size());
-    result = state.bytesResult.c_str();
+    static std::basic_string<Character> text;
+    text = resultOf<std::basic_string<Character>>(name, call);
+    state.resultLength = static_cast<int>(text.size());
+    result = text.c_str();
 }
 
 template <class... Arguments>
@@ -194,7 +178,7 @@ int recordedInfrastructure(const std::string& name, const std::string& arguments
 {
     log(name, name + '(' + arguments + ')', instance);
     double set = truth;
-    take(&Results::numbers, name, set);
+    take(name, set);
     return static_cast<int>(set);
 }
 
@@ -281,21 +265,24 @@ RECORDER_EXPORT void TPLRecorderClearLog()
 RECORDER_EXPORT void TPLRecorderReset()
 {
     state = State();
+    results<double>.clear();
+    results<std::wstring>.clear();
+    results<std::string>.clear();
 }
 
 RECORDER_EXPORT void TPLRecorderReturnNumber(const char* call, double number)
 {
-    state.results[call].numbers.push_back(number);
+    results<double>[call].push_back(number);
 }
 
 RECORDER_EXPORT void TPLRecorderReturnWide(const char* call, const wchar_t* characters, int length)
 {
-    state.results[call].wide.emplace_back(characters, static_cast<std::size_t>(length));
+    results<std::wstring>[call].emplace_back(characters, static_cast<std::size_t>(length));
 }
 
 RECORDER_EXPORT void TPLRecorderReturnBytes(const char* call, const char* bytes, int length)
 {
-    state.results[call].bytes.emplace_back(bytes, static_cast<std::size_t>(length));
+    results<std::string>[call].emplace_back(bytes, static_cast<std::size_t>(length));
 }
 
 RECORDER_EXPORT void TPLRecorderThrow(const char* call, int countdown)

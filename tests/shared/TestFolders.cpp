@@ -34,6 +34,12 @@ private slots:
     void composesPathsExactly()
     {
         const QString tools = m_home->filePath("data") + "/kelvane software/Plexor/";
+        for (const QString& unnamed : {QString(), QString("")}) {
+            CUtils::SetAppName("another name");
+            QCOMPARE(CUtils::GetAppName(), QString("another name"));
+            CUtils::SetAppName(unnamed);
+            QCOMPARE(CUtils::GetAppName(), QString("Plexor"));
+        }
         CUtils::SetAppName("another name");
         QCOMPARE(CUtils::GetAppDataFolder(), m_home->filePath("data"));
         QCOMPARE(CUtils::GetAppDataToolsFolder(), tools);
@@ -52,24 +58,12 @@ private slots:
         QVERIFY(foldersBelowHome().isEmpty());
     }
 
-    void namesTheApplication()
-    {
-        for (const QString& unnamed : {QString(), QString("")}) {
-            CUtils::SetAppName("Other");
-            QCOMPARE(CUtils::GetAppName(), QString("Other"));
-            CUtils::SetAppName(unnamed);
-            QCOMPARE(CUtils::GetAppName(), QString("Plexor"));
-        }
-    }
-
     void setsTheFoldersUp_data()
     {
         const Rows<QStringList, QStringList, QStringList> row;
         row("all", {}, {}, {});
         row("no data root", {"data"}, {}, {"data/"});
         row("no documents root", {"Documents"}, {}, {"Documents/"});
-        row("a file in the way of a parent", {}, {"data/kelvane software/Plexor/Reports"},
-            {"data/kelvane software/Plexor/Reports"});
         row("a file in the way of Input", {}, {"Documents/The Host/Input"}, {"Documents/The Host/Input"});
     }
 
@@ -94,41 +88,24 @@ private slots:
         QCOMPARE(foldersBelowHome(), expected);
     }
 
-    void makesTemporaryFolders_data()
-    {
-        const Rows<QStringList, QString> row;
-        row("name is free", {"job_0"}, "job");
-        row("name is taken", {"job"}, "job_0");
-        row("first number too", {"job", "job_0"}, "job_1");
-        row("gap", {"job", "job_0", "job_2"}, "job_1");
-    }
-
     void makesTemporaryFolders()
     {
-        const auto [taken, made] = Rows<QStringList, QString>::current();
-        for (const QString& name : taken)
-            QVERIFY(QDir::temp().mkdir(name));
-        QString name = "job";
-        const QDir folder = CUtils::GetNewTempFolder(&name);
-        QCOMPARE(name, QDir::tempPath() + '/' + made);
-        QCOMPARE(folder, QDir(name));
-        QVERIFY(folder.exists());
-    }
-
-    void countsAPlainFileAsATakenFolderName()
-    {
-        QVERIFY(QFile(QDir::tempPath() + "/job").open(QIODevice::WriteOnly));
+        for (const char* made : {"job", "job_0", "job_1"}) {
+            QString name = "job";
+            const QDir folder = CUtils::GetNewTempFolder(&name);
+            QCOMPARE(name, QDir::tempPath() + '/' + made);
+            QVERIFY(folder == QDir(name) && folder.exists());
+        }
+        QVERIFY(QDir::temp().rmdir("job_0") && QFile(QDir::tempPath() + "/job_0").open(QIODevice::WriteOnly));
+        QVERIFY(QDir::temp().mkdir("job_3"));
         QString name = "job";
         CUtils::GetNewTempFolder(&name);
-        QCOMPARE(name, QDir::tempPath() + "/job_0");
-    }
+        QCOMPARE(name, QDir::tempPath() + "/job_2");
 
-    void answersTheTemporaryFolderWhereNoneCanBeMade()
-    {
         const QString file = m_home->filePath("file");
         QVERIFY(QFile(file).open(QIODevice::WriteOnly));
         qputenv("TMPDIR", file.toUtf8());
-        QString name = "job";
+        name = "job";
         QCOMPARE(CUtils::GetNewTempFolder(&name), QDir::temp());
         QCOMPARE(name, file + '/');
     }
@@ -172,21 +149,12 @@ private slots:
         QCOMPARE(CUtils::GetNewTempFile(prefix), QDir::tempPath() + "/scan_2.pdf");
         QVERIFY(take(2));
         QCOMPARE(CUtils::GetNewTempFile(prefix), QString());
-    }
-
-    void usesThePrefixAsItIs_data()
-    {
-        const Rows<QByteArray, QString> row;
-        row("UTF-8", "\xc3\xa9t\xc3\xa9", QString::fromUtf8("\xc3\xa9t\xc3\xa9_1.pdf"));
-        row("placeholders", "%1%2%s%d", "%1%2%s%d_1.pdf");
-        row("backslashes", "a\\b\\", "a/b/_1.pdf");
-        row("empty", {}, "_1.pdf");
-    }
-
-    void usesThePrefixAsItIs()
-    {
-        auto [prefix, name] = Rows<QByteArray, QString>::current();
-        QCOMPARE(CUtils::GetNewTempFile(prefix.data()), QDir::tempPath() + '/' + name);
+        for (const auto& [text, name] : {std::pair<QByteArray, QString>{"\xc3\xa9", QString(QChar(0xe9))},
+                                         {"%1%2%s%d", "%1%2%s%d"},
+                                         {"a\\b\\", "a/b/"},
+                                         {"", ""}})
+            QCOMPARE(CUtils::GetNewTempFile(QByteArray(text).data()),
+                     QDir::tempPath() + '/' + name + "_1.pdf");
     }
 
 private:
@@ -204,22 +172,13 @@ private:
         return folders;
     }
 
-    const QStringList m_tree{
-        "Documents/The Host",
-        "Documents/The Host/Input",
-        "Documents/The Host/Output",
-        "data/kelvane software",
-        "data/kelvane software/Plexor",
-        "data/kelvane software/Plexor/Actions",
-        "data/kelvane software/Plexor/Reports",
-        "data/kelvane software/Plexor/Reports/Action Reports",
-        "data/kelvane software/Plexor/Reports/App Log",
-        "data/kelvane software/Plexor/Scripts",
-        "data/kelvane software/Plexor/Settings",
-        "data/kelvane software/Plexor/Settings/AdvSplitTemplates",
-        "data/kelvane software/Plexor/Settings/Favorites",
-        "data/kelvane software/Plexor/WF",
-    };
+    const QStringList m_tree =
+        QStringList{"Documents/The Host", "Documents/The Host/Input", "Documents/The Host/Output"} +
+        QString("data/kelvane software#/Plexor#/Actions#/Reports#/Reports/Action Reports#/Reports/App Log#"
+                "/Scripts#/Settings#/Settings/AdvSplitTemplates#/Settings/Favorites#/WF")
+            .replace("#/P", "\ndata/kelvane software/P")
+            .replace("#", "\ndata/kelvane software/Plexor")
+            .split('\n');
     std::optional<QTemporaryDir> m_home;
 };
 

@@ -1,5 +1,4 @@
 #include "shared/CUtils.h"
-#include "support/Rows.h"
 
 #include <QApplication>
 #include <QtTest>
@@ -24,19 +23,12 @@ class TestOpenGLSupport : public QObject
 private slots:
     void cleanup() { CUtils::SetOpenGLSupport(std::nullopt); }
 
-    void judgesVersionFlags_data()
-    {
-        const Rows<int, bool> row;
-        for (const int flags : {INT_MIN, -1, 0, 31, 65, 127, 128, 1024, 2047})
-            row(QString::asprintf("%d", flags), flags, false);
-        for (const int flags : {32, 63, 64, 2048, 4096, 0xffff, INT_MAX})
-            row(QString::asprintf("%d", flags), flags, true);
-    }
-
     void judgesVersionFlags()
     {
-        const auto [flags, enough] = Rows<int, bool>::current();
-        QCOMPARE(CUtils::OpenGLFlagsSuffice(flags), enough);
+        for (const int flags : {INT_MIN, -1, 0, 31, 65, 127, 128, 1024, 2047})
+            QVERIFY2(!CUtils::OpenGLFlagsSuffice(flags), qPrintable(QString::number(flags)));
+        for (const int flags : {32, 63, 64, 2048, 4096, 0xffff, INT_MAX})
+            QVERIFY2(CUtils::OpenGLFlagsSuffice(flags), qPrintable(QString::number(flags)));
     }
 
     void isFalseWithoutADisplay()

@@ -1,16 +1,13 @@
 #include "engine/document/Metadata.h"
 #include "pdflibrary/ErrorCodes.h"
+#include "support/Files.h"
 #include "support/LoadedLibrary.h"
-#include "support/PdfBuilder.h"
 #include "support/Rewritten.h"
 #include "support/Rows.h"
 
 #include <QtTest>
 
 #include <qpdf/Buffer.hh>
-
-#include <fstream>
-#include <iterator>
 
 using namespace engine;
 
@@ -43,9 +40,7 @@ std::string asHex(const std::string& bytes)
 std::string appended(LoadedLibrary& library, const QTemporaryDir& folder)
 {
     const QString path = folder.filePath("appended.pdf");
-    library.AppendToFile(path.toStdWString());
-    std::ifstream file(path.toStdString(), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    return library.AppendToFile(path.toStdWString()) == 1 ? bytesOf(path).toStdString() : std::string();
 }
 
 /// The metadata's bytes in a document, as libqpdf reads them.
@@ -111,19 +106,11 @@ private slots:
     {
         const Rows<std::string, bool> row; // whether the metadata can be read without a key
         for (const int revision : {2, 3, 4, 5, 6})
-            row(QString::number(revision),
-                rewritten(document("<a/>"), [=](QPDFWriter& writer) { encrypt(writer, revision, "", ""); }),
-                false);
+            row(QString::number(revision), encryptedBy(revision, document("<a/>")), false);
         row("4 with RC4",
             rewritten(document("<a/>"), [](QPDFWriter& writer) { encrypt(writer, 4, "", "", true, false); }),
             false);
-        row("not the metadata",
-            rewritten(document("<a/>"),
-                      [](QPDFWriter& writer) {
-                          writer.setR6EncryptionParameters("", "", true, true, true, true, true, true,
-                                                           qpdf_r3p_full, false);
-                      }),
-            true);
+        row("not the metadata", encryptedBy(6, document("<a/>"), "", false), true);
     }
 
     void encryptsAsTheDocumentAsks()

@@ -20,11 +20,11 @@ using engine::ErrorCode;
 
 namespace {
 
-/// A document encrypted with revision 2, 3, 4 or 6; the passwords are bytes as they go into the key.
-std::string encrypted(int revision, const char* user, const char* owner)
+/// A document that its user may not modify.
+std::string encrypted(int revision, const char* user)
 {
     return rewritten(PdfBuilder::simple(),
-                     [=](auto& writer) { encrypt(writer, revision, user, owner, false); });
+                     [=](auto& writer) { encrypt(writer, revision, user, "owner", false); });
 }
 
 /// A catalog entry as MuPDF reads it, on one line.
@@ -91,6 +91,9 @@ private slots:
         QCOMPARE(library.SelectedDocument(), 0);
         QCOMPARE(library.PageCount(), 0);
         QCOMPARE(errorOf(library), ErrorCode::NoDocument);
+        QCOMPARE(errorOf(library), ErrorCode::NoDocument);
+        library.DocumentCount();
+        QCOMPARE(errorOf(library), ErrorCode::None);
         for (int pages = 1; pages <= 3; ++pages)
             QCOMPARE(library.LoadFromString(PdfBuilder::simple("", pages), L""), 1);
         QCOMPARE(library.DocumentCount(), 3);
@@ -120,30 +123,18 @@ private slots:
         QCOMPARE(errorOf(library), ErrorCode::UnknownDocument);
     }
 
-    void remembersTheErrorOfTheLastCallOnly()
-    {
-        LoadedLibrary library;
-        library.PageCount();
-        QCOMPARE(errorOf(library), ErrorCode::NoDocument);
-        QCOMPARE(errorOf(library), ErrorCode::NoDocument);
-        library.DocumentCount();
-        QCOMPARE(errorOf(library), ErrorCode::None);
-    }
-
     void refusesWhatIsNoDocument_data()
     {
         const Rows<QString, ErrorCode> row;
         const std::string sound = PdfBuilder::simple();
-        row("no name", "", ErrorCode::FileNotFound);
         row("missing", m_folder.filePath("missing.pdf"), ErrorCode::FileNotFound);
         row("name with a NUL", file("named.pdf", sound) + QChar(0) + ".pdf", ErrorCode::BadArgument);
         row("folder", m_folder.path(), ErrorCode::NotARegularFile);
         row("empty", file("empty.pdf", ""), ErrorCode::EmptyFile);
         row("text", file("text.pdf", "Dear reader,\n\nthis is no document.\n"), ErrorCode::NotAPdf);
-        row("header only", file("header.pdf", "%PDF-1.7\n"), ErrorCode::Damaged);
         row("cut short", file("short.pdf", sound.substr(0, 60)), ErrorCode::Damaged);
         row("no pages", file("none.pdf", PdfBuilder::simple("", 0)), ErrorCode::NoPages);
-        row("password", file("secret.pdf", encrypted(6, "user", "owner")), ErrorCode::WrongPassword);
+        row("password", file("secret.pdf", encrypted(6, "user")), ErrorCode::WrongPassword);
         row("key of a person",
             file("person.pdf", PdfBuilder()
                                    .catalog("")
@@ -184,11 +175,11 @@ private slots:
         // status: -1 for refused
         const Rows<std::string, std::wstring, int> row;
         row("not encrypted", PdfBuilder::simple(), L"given", engine::NotEncrypted);
-        row("none needed", encrypted(3, "", "owner"), L"", engine::OpenedWithUserPassword);
-        row("none needed but one given", encrypted(3, "", "owner"), L"other", engine::OpenedWithUserPassword);
+        row("none needed", encrypted(3, ""), L"", engine::OpenedWithUserPassword);
+        row("none needed but one given", encrypted(3, ""), L"other", engine::OpenedWithUserPassword);
         for (const int revision : {2, 3, 4, 6}) {
             const char* const accented = revision == 6 ? "h\xc3\xb4tel" : "h\xf4tel";
-            const std::string bytes = encrypted(revision, accented, "owner");
+            const std::string bytes = encrypted(revision, accented);
             const auto named = [&](const char* what) { return std::string(what) + std::to_string(revision); };
             row(named("user ").c_str(), bytes, L"h\u00f4tel", engine::OpenedWithUserPassword);
             row(named("owner ").c_str(), bytes, L"owner", engine::OpenedWithOwnerPassword);
@@ -235,17 +226,10 @@ private slots:
         QCOMPARE(library.GetDocumentFileName(), std::wstring());
         QCOMPARE(library.GetDocumentRepaired(), 0);
         QCOMPARE(library.IsLinearized(), 0);
-        QVERIFY(QString::fromStdWString(library.LibraryVersion()).startsWith("13.11"));
-    }
-
-    void noticesRepair()
-    {
-        std::string bytes = PdfBuilder::simple("/PageMode /UseOC");
-        bytes.replace(bytes.rfind("startxref"), 10, "startxref\n9");
-        LoadedLibrary library;
-        QCOMPARE(library.LoadFromString(bytes, L""), 1);
+        QCOMPARE(library.LoadFromString(replaced(PdfBuilder::simple(), "startxref\n", "startxref\n9"), L""),
+                 1);
         QCOMPARE(library.GetDocumentRepaired(), 1);
-        QCOMPARE(library.GetPageMode(), 4);
+        QVERIFY(QString::fromStdWString(library.LibraryVersion()).startsWith("13.11"));
     }
 
     void countsSignatures_data()
@@ -255,7 +239,6 @@ private slots:
         row("unsigned field", "/AcroForm << /Fields [10 0 R] >>", 0);
         row("signed field", "/AcroForm << /Fields [11 0 R] >>", 1);
         row("type inherited, in a circle", "/AcroForm << /Fields [12 0 R] >>", 1);
-        row("text field", "/AcroForm << /Fields [14 0 R] >>", 0);
         row("signed text field", "/AcroForm << /Fields [16 0 R] >>", 1);
         row("certified", std::string("/AcroForm << /Fields [11 0 R] >> /Perms << /DocMDP 20 0 R >>"), 1);
         row("usage rights", "/Perms << /UR3 20 0 R >>", 1);
@@ -448,21 +431,13 @@ private slots:
     void listsFonts()
     {
         LoadedLibrary library;
-        const QStringList names =
-            QString::fromStdWString(library.GetInstalledFontsByCharset(2, 1)).split("\r\n");
+        QStringList names = QString::fromStdWString(library.GetInstalledFontsByCharset(2, 1)).split("\r\n");
         QProcess list;
-        list.start("fc-list", {":", "family"});
-        if (!list.waitForFinished())
+        list.start("sh", {"-c", R"(fc-list : family | cut -d, -f1 | tr -d '\\' | LC_ALL=C sort -u)"});
+        if (!list.waitForFinished() || list.exitCode() != 0)
             QSKIP("needs fc-list");
-        QStringList expected;
-        for (const QString& line :
-             QString::fromUtf8(list.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts))
-            expected << line.section(',', 0, 0).remove('\\');
-        expected.removeDuplicates();
-        QStringList sorted = names;
-        sorted.sort();
-        expected.sort();
-        QCOMPARE(sorted, expected);
+        names.sort();
+        QCOMPARE(names.join('\n') + '\n', QString::fromUtf8(list.readAllStandardOutput()));
         for (const int charset : {-1, 0, 1, 3})
             QCOMPARE(library.GetInstalledFontsByCharset(charset, 1), std::wstring());
         QCOMPARE(errorOf(library), ErrorCode::BadArgument);

@@ -1,9 +1,7 @@
 #include "support/PdfBuilder.h"
 #include "support/ReadingAccount.h"
+#include "support/Rewritten.h"
 #include "support/Rows.h"
-
-#include <qpdf/Pl_String.hh>
-#include <qpdf/QPDFWriter.hh>
 
 #include <QDir>
 #include <QtTest>
@@ -13,26 +11,7 @@
 
 using namespace engine;
 
-Q_DECLARE_METATYPE(std::string)
-
 namespace {
-
-enum class Packing { Plain, Compressed };
-
-std::string withObjectStreams(const std::string& bytes, Packing packing = Packing::Compressed)
-{
-    QPDF pdf;
-    pdf.processMemoryFile("", bytes.data(), bytes.size());
-    QPDFWriter writer(pdf);
-    std::string out;
-    Pl_String pipeline("", nullptr, out);
-    writer.setOutputPipeline(&pipeline);
-    writer.setObjectStreamMode(qpdf_o_generate);
-    writer.setQDFMode(packing == Packing::Plain);
-    writer.setStaticID(true);
-    writer.write();
-    return out;
-}
 
 /// A document of 20,000 pages with a cross-reference stream that is not compressed, and where its entries of
 /// seven bytes begin.
@@ -102,58 +81,59 @@ class TestDirectReader : public QObject
 private slots:
     void givesWhatTheWholeDocumentGives_data()
     {
-        QTest::addColumn<std::string>("bytes");
-        QTest::newRow("simple") << PdfBuilder::simple();
-        QTest::newRow("many pages in one node") << PdfBuilder().catalog("").pages(700).bytes();
-        QTest::newRow("of everything") << manifold();
-        QTest::newRow("object streams") << withObjectStreams(manifold());
+        const Rows<std::string> row;
+        row("simple", PdfBuilder::simple());
+        row("many pages in one node", PdfBuilder().catalog("").pages(700).bytes());
+        row("of everything", manifold());
+        row("object streams", inObjectStreams(manifold()));
         std::string twice = manifold();
-        QTest::newRow("page tree's number twice") << twice.replace(twice.find("\n22 0 obj"), 3, "\n02");
-        QTest::newRow("direct pages")
-            << PdfBuilder()
-                   .catalog("")
-                   .object(2, "<< /Type /Pages /Count 2 /Kids [<< /Type /Page >> << /Type /Page >>] >>")
-                   .bytes();
+        row("page tree's number twice", twice.replace(twice.find("\n22 0 obj"), 3, "\n02"));
+        row("direct pages",
+            PdfBuilder()
+                .catalog("")
+                .object(2, "<< /Type /Pages /Count 2 /Kids [<< /Type /Page >> << /Type /Page >>] >>")
+                .bytes());
     }
 
     void givesWhatTheWholeDocumentGives()
     {
-        QFETCH(std::string, bytes);
+        const auto [bytes] = Rows<std::string>::current();
         QVERIFY(accepted(bytes));
         compare(bytes);
     }
 
     void givesUpAtOddities_data()
     {
-        QTest::addColumn<std::string>("bytes");
+        const Rows<std::string> row;
         const std::string plain = PdfBuilder::simple();
         const auto with = [&](const std::string& what, const std::string& instead) {
-            std::string changed = plain;
-            return changed.replace(changed.find(what), what.size(), instead);
+            return replaced(plain, what, instead);
         };
-        QTest::newRow("junk before the header") << "junk\n" + plain;
-        QTest::newRow("text behind the end") << plain + "more";
-        QTest::newRow("startxref beside the mark") << with("startxref\n", "startxref\n1");
-        QTest::newRow("short entry") << with(" 65535 f \n", " 65535 f\n");
-        QTest::newRow("comment in the catalog") << with("/Type /Catalog", "/Type %x\n/Catalog");
-        QTest::newRow("stream behind the trailer") << with("\nstartxref\n", "\nstream\nstartxref\n");
-        QTest::newRow("size too small") << with("/Size 6", "/Size 5");
-        QTest::newRow("catalog elsewhere") << with("/Root 1 0 R", "/Root 3 0 R");
-        QTest::newRow("encrypted") << PdfBuilder().catalog("").pages(1).trailer("/Encrypt << >>").bytes();
-        QTest::newRow("entry without a line end") << with("65535 f \n", "65535 f  ");
-        QTest::newRow("section without entries") << plain + "xref\ntrailer\n<< /Size 6 /Root 1 0 R /Prev " +
-                                                        std::to_string(plain.find("xref\n0")) +
-                                                        " >>\nstartxref\n" + std::to_string(plain.size()) +
-                                                        "\n%%EOF\n";
-        QTest::newRow("numbers of entries in two lines") << with("xref\n0 6\n", "xref\n0\n6\n");
-        QTest::newRow("empty line before entries") << with("xref\n0 6\n", "xref\n0 6\n\n");
-        QTest::newRow("NUL before the number of entries")
-            << with("xref\n0 6\n", std::string("xref\n0\0006\n", 9));
-        QTest::newRow("entries out of order") << with("xref\n0 6\n", "xref\n5 1\n0000000000 00000 f \n0 6\n");
-        QTest::newRow("no version") << with("%PDF-1.7", "%PDF-1.>");
-        QTest::newRow("two digits behind the version's point")
-            << PdfBuilder().version("1.73").catalog("").pages(3).bytes();
-        const std::string packed = withObjectStreams(manifold(), Packing::Plain);
+        row("junk before the header", "junk\n" + plain);
+        row("text behind the end", plain + "more");
+        row("startxref beside the mark", with("startxref\n", "startxref\n1"));
+        row("short entry", with(" 65535 f \n", " 65535 f\n"));
+        row("comment in the catalog", with("/Type /Catalog", "/Type %x\n/Catalog"));
+        row("stream behind the trailer", with("\nstartxref\n", "\nstream\nstartxref\n"));
+        row("size too small", with("/Size 6", "/Size 5"));
+        row("catalog elsewhere", with("/Root 1 0 R", "/Root 3 0 R"));
+        row("encrypted", PdfBuilder().catalog("").pages(1).trailer("/Encrypt << >>").bytes());
+        row("entry without a line end", with("65535 f \n", "65535 f  "));
+        row("section without entries", plain + "xref\ntrailer\n<< /Size 6 /Root 1 0 R /Prev " +
+                                           std::to_string(plain.find("xref\n0")) + " >>\nstartxref\n" +
+                                           std::to_string(plain.size()) + "\n%%EOF\n");
+        row("numbers of entries in two lines", with("xref\n0 6\n", "xref\n0\n6\n"));
+        row("empty line before entries", with("xref\n0 6\n", "xref\n0 6\n\n"));
+        row("NUL before the number of entries", with("xref\n0 6\n", std::string("xref\n0\0006\n", 9)));
+        row("entries out of order", with("xref\n0 6\n", "xref\n5 1\n0000000000 00000 f \n0 6\n"));
+        row("no version", with("%PDF-1.7", "%PDF-1.>"));
+        row("two digits behind the version's point",
+            PdfBuilder().version("1.73").catalog("").pages(3).bytes());
+        const std::string packed = rewritten(manifold(), [](QPDFWriter& writer) {
+            writer.setStaticID(true);
+            writer.setObjectStreamMode(qpdf_o_generate);
+            writer.setQDFMode(true);
+        });
         const auto withByte = [&](const char* before, std::size_t skipped, char byte) {
             std::string changed = packed;
             const std::size_t found = changed.find("\nstream\n", changed.find(before)) + 8;
@@ -162,58 +142,53 @@ private slots:
         };
         std::string unended = packed;
         unended[unended.find("\nendobj", unended.find("/ObjStm"))] = '(';
-        QTest::newRow("stream's object without an end") << unended;
-        QTest::newRow("object twice in a stream") << withByte("/ObjStm", 4, '2'); // "2 0 3 ..." before
-        QTest::newRow("entry of an unknown kind") << withByte("/XRef", 0, 3);
+        row("stream's object without an end", unended);
+        row("object twice in a stream", withByte("/ObjStm", 4, '2')); // "2 0 3 ..." before
+        row("entry of an unknown kind", withByte("/XRef", 0, 3));
         std::string renamed = packed;
         renamed[renamed.rfind(" 0 obj", renamed.find("/XRef")) - 1] = '1';
-        QTest::newRow("section under another object's number") << renamed;
-        QTest::newRow("section of itself") << with("/Root 1 0 R", "/Root 1 0 R /Prev 0");
+        row("section under another object's number", renamed);
+        row("section of itself", with("/Root 1 0 R", "/Root 1 0 R /Prev 0"));
     }
 
     void givesUpAtOddities()
     {
-        QFETCH(std::string, bytes);
+        const auto [bytes] = Rows<std::string>::current();
         QVERIFY(!accepted(bytes));
         compare(bytes);
     }
 
     void agreesOnOddNodesAndPages_data()
     {
-        QTest::addColumn<QByteArray>("pages");
-        QTest::addColumn<QByteArray>("page");
-        const QByteArray pages = "<< /Type /Pages /Count 3 /Kids [3 0 R 4 0 R 5 0 R] >>";
-        const QByteArray page = "<< /Type /Page >>";
-        QTest::newRow("kids twice") << QByteArray("<< /Kids [3 0 R] /Count 3 /Kids [3 0 R 4 0 R 5 0 R] >>")
-                                    << page;
-        const QByteArray kids = "/Kids [3 0 R 4 0 R 5 0 R]";
-        QTest::newRow("kids without spaces") << QByteArray("<</Kids[3 0 R 4 0 R 5 0 R]/Count 3>>") << page;
-        QTest::newRow("kids spread out")
-            << QByteArray("<< /Kids\n[ 03 00\tR\r4 0 R  5 0 R\n]/Count 3 >>") << page;
-        QTest::newRow("kids in another entry first")
-            << "<< /X << /Kids [5 0 R] >> " + kids + " /Count 3 >>" << page;
-        QTest::newRow("kids in another entry") << QByteArray("<< /X << /Kids [5 0 R] >> /Count 3 >>") << page;
-        QTest::newRow("kids in a string") << "<< /X (/Kids [5 0 R]) " + kids + " /Count 3 >>" << page;
-        QTest::newRow("kids of a longer name") << "<< /KidsX [5 0 R] " + kids + " /Count 3 >>" << page;
-        QTest::newRow("number among kids") << QByteArray("<< /Count 3 /Kids [3 0 R 4 5 0 R] >>") << page;
-        QTest::newRow("R among kids") << QByteArray("<< /Count 3 /Kids [3 0 R R 4 0 R] >>") << page;
-        QTest::newRow("type twice") << pages << QByteArray("<< /Type /Pages /Type /Page >>");
-        QTest::newRow("two values") << pages << QByteArray("<< /Type /Pages 5 >>");
-        QTest::newRow("type elsewhere") << pages << QByteArray("<< /Type 6 0 R /X << /Type /Page >> >>");
-        QTest::newRow("vertical tab") << pages << QByteArray("<< /Type\v/Pages >>");
-        QTest::newRow("large number") << pages << QByteArray("<< /Type /Page /X 99999999999999999999 >>");
-        QTest::newRow("R without numbers") << pages << QByteArray("<< /Type /Page /X [R R R R R R R R] >>");
+        const Rows<std::string, std::string> row;
+        const std::string pages = "<< /Type /Pages /Count 3 /Kids [3 0 R 4 0 R 5 0 R] >>";
+        const std::string page = "<< /Type /Page >>";
+        const std::string kids = "/Kids [3 0 R 4 0 R 5 0 R]";
+        row("kids twice", "<< /Kids [3 0 R] /Count 3 /Kids [3 0 R 4 0 R 5 0 R] >>", page);
+        row("kids without spaces", "<</Kids[3 0 R 4 0 R 5 0 R]/Count 3>>", page);
+        row("kids spread out", "<< /Kids\n[ 03 00\tR\r4 0 R  5 0 R\n]/Count 3 >>", page);
+        row("kids in another entry first", "<< /X << /Kids [5 0 R] >> " + kids + " /Count 3 >>", page);
+        row("kids in another entry", "<< /X << /Kids [5 0 R] >> /Count 3 >>", page);
+        row("kids in a string", "<< /X (/Kids [5 0 R]) " + kids + " /Count 3 >>", page);
+        row("kids of a longer name", "<< /KidsX [5 0 R] " + kids + " /Count 3 >>", page);
+        row("number among kids", "<< /Count 3 /Kids [3 0 R 4 5 0 R] >>", page);
+        row("R among kids", "<< /Count 3 /Kids [3 0 R R 4 0 R] >>", page);
+        row("type twice", pages, "<< /Type /Pages /Type /Page >>");
+        row("two values", pages, "<< /Type /Pages 5 >>");
+        row("type elsewhere", pages, "<< /Type 6 0 R /X << /Type /Page >> >>");
+        row("vertical tab", pages, "<< /Type\v/Pages >>");
+        row("large number", pages, "<< /Type /Page /X 99999999999999999999 >>");
+        row("R without numbers", pages, "<< /Type /Page /X [R R R R R R R R] >>");
     }
 
     void agreesOnOddNodesAndPages()
     {
-        QFETCH(QByteArray, pages);
-        QFETCH(QByteArray, page);
+        const auto [pages, page] = Rows<std::string, std::string>::current();
         const std::string bytes = PdfBuilder()
                                       .catalog("")
-                                      .object(2, pages.toStdString())
+                                      .object(2, pages)
                                       .object(3, "<< /Type /Page >>")
-                                      .object(4, page.toStdString())
+                                      .object(4, page)
                                       .object(5, "<< /Type /Page >>")
                                       .object(6, "/Pages")
                                       .bytes();
@@ -247,7 +222,7 @@ private slots:
     {
         std::mt19937 random(20261122);
         int taken = 0;
-        for (const std::string& original : {manifold(), withObjectStreams(manifold())}) {
+        for (const std::string& original : {manifold(), inObjectStreams(manifold())}) {
             for (int round = 0; round < 400; ++round) {
                 std::string bytes = original;
                 for (unsigned flips = 1 + random() % 2; flips > 0; --flips)

@@ -209,6 +209,8 @@ private slots:
             row(QString("flat, %1").arg(total), nodesOf(1, 300), total);
         }
         row("a node too high", joined(joined(nodesOf(10, 5), {{10, 14}}), nodesOf(10, 24)), 300);
+        row("a node has lost pages", joined(joined(nodesOf(31, 4), nodesOf(21, 1)), nodesOf(31, 5)), 310);
+        row("a node of two, and an empty one", joined(joined(nodesOf(2, 1), nodesOf(1, 298)), {{0, 0}}), 300);
         row("the first too high", joined({{10, 14}}, nodesOf(10, 29)), 304);
     }
 

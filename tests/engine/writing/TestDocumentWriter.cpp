@@ -44,12 +44,6 @@ QByteArray pageMode(const std::string& path)
     return QByteArray::fromStdString(opened(path)->catalog().getKey("/PageMode").unparse());
 }
 
-std::string replaced(std::string bytes, const std::string& old, const std::string& with)
-{
-    const std::size_t at = bytes.rfind(old);
-    return at == std::string::npos ? std::string() : bytes.replace(at, old.size(), with);
-}
-
 /// Nothing is where the last startxref says.
 std::string movedTail(const std::string& bytes)
 {
@@ -110,7 +104,7 @@ private slots:
             QCOMPARE(pageMode(target), QByteArray("/UseThumbs"));
             QVERIFY(contentOf(target).size() < original.size() + 300);
         }
-        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden).size(), 2);
+        QCOMPARE(files().size(), 2);
     }
 
     void appendsNothingWhenItWouldNotBeRight()
@@ -121,7 +115,7 @@ private slots:
         change(*document);
         fs::resize_file(m_source, 100);
         QCOMPARE(append(*document), ErrorCode::SourceChanged);
-        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
+        QCOMPARE(files(), QStringList("source.pdf"));
     }
 
     void appendsToDamagedDocumentsThatAreBeyondDoubt_data()
@@ -130,7 +124,6 @@ private slots:
         const std::string simple = PdfBuilder::simple();
         row("startxref moved", movedTail(simple));
         row("no startxref", replaced(simple, "startxref", "startxxxx"));
-        row("no table", replaced(simple, "\nxref", "\nxrex"));
         row("no size", replaced(simple, "/Size", "/Sixe"));
         row("object elsewhere", replaced(simple, "0000000015", "0000000016"));
         row("junk before the header", "HTTP/1.1 200 OK\r\n\r\n" + movedTail(simple));
@@ -159,14 +152,6 @@ private slots:
         }
     }
 
-    void numbersNewObjectsAsReadersTakeThem()
-    {
-        put(m_source, replaced(PdfBuilder::simple(), "/Size 6", "/Size 9000000"));
-        const auto document = opened(m_source);
-        const QPDFObjectHandle made = document->makeIndirect(QPDFObjectHandle::newArray());
-        QCOMPARE(QPDFObjectHandle(made).getObjectID(), 6);
-    }
-
     void changesNothingThatIsInDoubt_data()
     {
         const Rows<std::string, ErrorCode> row;
@@ -175,8 +160,6 @@ private slots:
         const std::string newer = page + "xref\n0 0\ntrailer\n<< /Root 1 0 R /Size 6 ";
         const std::string far(5000, '\n');
         row("newer trailer", simple + newer + ">>\nstartxref\n9\n%%EOF\n",
-            ErrorCode::NewestRevisionUncertain);
-        row("newer trailer that encrypts", simple + newer + "/Encrypt 1 0 R >>\nstartxref\n9\n%%EOF\n",
             ErrorCode::NewestRevisionUncertain);
         row("newer trailer that is cut off", simple + far + newer, ErrorCode::NewestRevisionUncertain);
         row("newer end", simple + far + "startxref\n9\n%%EOF\n", ErrorCode::NewestRevisionUncertain);
@@ -190,7 +173,6 @@ private slots:
             ErrorCode::ObjectStreamsUnread);
         row("stream cut off", simple + far + "9 0 obj\n<< /Length 9 >>\nstream\nabc",
             ErrorCode::ObjectsDamaged);
-        row("object cut off", simple + far + "9 0 obj\n<< /A 1 >>", ErrorCode::ObjectsDamaged);
         row("object at the end", simple + far + "9 0 obj\nnull\nendobj\n", ErrorCode::ObjectsDamaged);
         row("object missing", movedTail(PdfBuilder::simple("/Other 77 0 R")), ErrorCode::ObjectsDamaged);
         row("bad catalog", PdfBuilder::simple("/A#00B 1"), ErrorCode::ObjectsDamaged);
@@ -212,7 +194,7 @@ private slots:
             QCOMPARE(errorOf([&] { save(*document, m_target); }), code);
             QVERIFY(cannotAppend(code));
         }
-        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
+        QCOMPARE(files(), QStringList("source.pdf"));
     }
 
     void writesNothingAnewThatWouldLose_data()
@@ -226,8 +208,6 @@ private slots:
         row("length of a stream", movedTail(replaced(stream, "/Length 7", "/Length 2")),
             ErrorCode::StreamLengthsWrong, ErrorCode::None);
         row("byte range", directCatalog(PdfBuilder::simple(range)), refused, ErrorCode::ByteRangesPresent);
-        row("byte range in a comment", directCatalog(PdfBuilder::simple() + "%/ByteRange\n"), refused,
-            ErrorCode::ByteRangesPresent);
         row("escaped", directCatalog(escaped), refused, ErrorCode::ByteRangesPresent);
         row("name that libqpdf cannot write",
             directCatalog(PdfBuilder().catalog("").pages(1, 3, "/Other#23Key 1").bytes()), refused,
@@ -265,7 +245,7 @@ private slots:
             const auto error = errorOf([&] { save(*document, m_target); });
             setrlimit(RLIMIT_FSIZE, &before);
             QCOMPARE(error, ErrorCode::FileTooLarge);
-            QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("source.pdf"));
+            QCOMPARE(files(), QStringList("source.pdf"));
         }
     }
 
@@ -413,6 +393,7 @@ private:
     {
         return WorkFolder::put(name, bytes);
     }
+    static QStringList files() { return QDir().entryList(QDir::Files | QDir::Hidden); }
     static std::string contentOf(const std::string& name) { return WorkFolder::contentOf(name); }
 
     std::optional<WorkFolder> m_folder;

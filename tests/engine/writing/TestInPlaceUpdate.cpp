@@ -79,6 +79,8 @@ private slots:
         row("both, though neither is too much by itself",
             withBytes(10, "/Key (" + std::string(730, 'x') + ")") + std::string(99, '\n'),
             ErrorCode::NotInPlace);
+        row("the word in a text", withBytes(10, "/Key (startxref 5)"), ErrorCode::NotInPlace);
+        row("the word as a name", withBytes(10, "/startxref 5"), ErrorCode::NotInPlace);
         row("a wrong startxref", moved, ErrorCode::NotInPlace);
         row("something before the header", "\n" + simple, ErrorCode::NotInPlace);
     }
@@ -99,9 +101,7 @@ private slots:
         row("no line end", withoutLineEnd(withBytes(1234)));
         row("padded", withBytes(1322));
         row("identified", PdfBuilder().catalog("").pages(1).trailer("/ID [<61> <62>]").bytes());
-        row("cross-reference stream", rewritten(withBytes(1234), [](QPDFWriter& writer) {
-                writer.setObjectStreamMode(qpdf_o_generate);
-            }));
+        row("cross-reference stream", inObjectStreams(withBytes(1234)));
     }
 
     void completesAnUpdateThatWasBegun()

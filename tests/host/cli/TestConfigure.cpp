@@ -1,20 +1,11 @@
-#include "EditInitialView/InitialViewSettings.h"
-#include "host/cli/ConfigureCommand.h"
-#include "support/CommandRun.h"
+#include "support/ConfigureFixture.h"
 #include "support/ManualsSettings.h"
-#include "support/Mute.h"
-#include "support/PdfBuilder.h"
-#include "support/Person.h"
-#include "support/ProgramRun.h"
-#include "support/Rows.h"
-#include "support/TemporaryHome.h"
 #include "support/UsageErrors.h"
 
 #include <QComboBox>
 #include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSettings>
 #include <QSpinBox>
 
 #include <sched.h>
@@ -29,8 +20,6 @@ using namespace initialview;
 
 namespace {
 
-using Map = QMap<QString, QVariant>;
-
 const QString data = TEST_DATA_DIR;
 const char manualsWords[] =
     "--set LayoutAndMagnCheckBox=true --set NavigationTabComboBox=1 --set PageLayoutComboBox=1 "
@@ -38,37 +27,6 @@ const char manualsWords[] =
     "--set HideToobarsCheckBox=false --set HideMenuBarCheckBox=false --set HideCtrlWindowsCheckBox=false "
     "--set ResizeWinToInitPageCheckBox=true --set CenterWinOnScreenCheckBox=true "
     "--set OpenInFullScreenCheckBox=false --set ShowComboBox=1\n";
-
-CommandRun configure(const QStringList& words, const person::Answer& answer)
-{
-    person::whenOpens("CPrefsDialog", answer);
-    return CommandRun(ConfigureCommand(), words);
-}
-
-Map with(Map map, const QString& key, const QVariant& value)
-{
-    map.insert(key, value);
-    return map;
-}
-
-Map without(Map map, const QString& key)
-{
-    map.remove(key);
-    return map;
-}
-
-/// The settings of the window, stored in it as an action list.
-CommandRun storedAs(const QString& name)
-{
-    return configure({}, [name](QDialog& dialog) {
-        person::whenOpens("CSaveAsActionlistDialog", [name](QDialog& save) {
-            person::widget<QLineEdit>(save, "actionListNameLineEdit")->setText(name);
-            person::widget<QPushButton>(save, "saveButton")->click();
-        });
-        QMetaObject::invokeMethod(&dialog, "on_QDShowSaveDialog");
-        pressOk(dialog);
-    });
-}
 
 /// The program on a terminal where no window can be shown.
 ProgramRun configureWithoutDisplay(const QStringList& words, const QString& folder = QString())
@@ -82,19 +40,26 @@ ProgramRun configureWithoutDisplay(const QStringList& words, const QString& fold
 
 } // namespace
 
-class TestConfigure : public QObject
+class TestConfigure : public QObject, ConfigureFixture
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase() { muteFrameWarnings(); }
-
-    void init()
+private:
+    /// The settings of the window, stored in it as an action list.
+    static CommandRun storedAs(const QString& name)
     {
-        m_home.reset();
-        putDocument("/PageMode /UseThumbs /PageLayout /TwoPageRight /OpenAction [ 4 0 R /FitH 792 ] "
-                    "/ViewerPreferences << /HideMenubar true /CenterWindow true >>");
+        return configure({}, [name](QDialog& dialog) {
+            person::whenOpens("CSaveAsActionlistDialog", [name](QDialog& save) {
+                person::widget<QLineEdit>(save, "actionListNameLineEdit")->setText(name);
+                person::widget<QPushButton>(save, "saveButton")->click();
+            });
+            QMetaObject::invokeMethod(&dialog, "on_QDShowSaveDialog");
+            pressOk(dialog);
+        });
     }
+
+private slots:
+    void init() { begin(); }
 
     void startsFromAFile_data()
     {
@@ -102,6 +67,7 @@ private slots:
         row("action list", {"--list", data + "/manuals.xqq"});
         row("favourite", {"--favorite", data + "/manuals.ini"});
         row("tool settings", {"--tool-settings", data + "/manuals.tsf"});
+        row("rather than from a document", {path("a.pdf"), "--tool-settings", data + "/manuals.tsf"});
         row("action list by name", {"--list", "manuals"});
         row("favourite by name", {"--favorite", "manuals"});
     }
@@ -111,30 +77,21 @@ private slots:
         const auto [words] = Rows<QStringList>::current();
         QVERIFY(QFile::copy(data + "/manuals.xqq", TemporaryHome::actionList("manuals.xqq")));
         QVERIFY(QFile::copy(data + "/manuals.ini", TemporaryHome::favorite("manuals.ini")));
-        const CommandRun run = configure(words, pressOk);
+        const CommandRun run = configure(words);
         QCOMPARE(run.err, QByteArray());
         QCOMPARE(run.status, 0);
         QCOMPARE(run.out, QByteArray(manualsWords));
     }
 
-    void prefersTheFileToTheDocument()
-    {
-        const CommandRun run = configure({path("a.pdf"), "--tool-settings", data + "/manuals.tsf"}, pressOk);
-        QCOMPARE(run.out, QByteArray(manualsWords));
-    }
-
     void leavesOutWhatIsNotChosen()
     {
-        const CommandRun run = configure({}, [](QDialog& dialog) {
-            person::widget<QComboBox>(dialog, "PageLayoutComboBox")->setCurrentIndex(-1);
-            pressOk(dialog);
-        });
+        const CommandRun run = configure({}, {{key::PageLayout, -1}});
         QCOMPARE(run.status, 0);
         QVERIFY2(!run.out.contains("PageLayout") && run.out.count("--set ") == 12, run.out);
         QVERIFY2(run.err.contains("PageLayoutComboBox is left out"), run.err);
 
         putDocument("/OpenAction [ 4 0 R /XYZ 0 792 1.5 ]");
-        const CommandRun stored = configure({path("a.pdf"), "-o", path("out.tsf")}, pressOk);
+        const CommandRun stored = configure({path("a.pdf"), "-o", path("out.tsf")});
         QVERIFY2(stored.err.contains("MagnificationComboBox is left out"), stored.err);
         const Map settings = this->stored("out.tsf", "ToolSettings").toMap();
         QVERIFY(!settings.contains(key::Magnification) && settings.value(key::OpenToPage) == 2);
@@ -142,28 +99,26 @@ private slots:
 
     void doesNothingOnCancel()
     {
+        QVERIFY(writeFile(path("out.ini"), "old"));
         for (const char* file : {"out.tsf", "out.ini"}) {
-            const bool exists = writeFile(path("out.ini"), "old");
             const CommandRun run = configure({path("a.pdf"), "-o", path(file)}, pressCancel);
             QCOMPARE(run.status, 1);
             QCOMPARE(run.out, QByteArray());
             QVERIFY2(run.err.contains("no settings were written"), run.err);
-            QVERIFY(exists && bytesOf(path("out.ini")) == "old" && !QFile::exists(path("out.tsf")));
         }
+        QVERIFY(bytesOf(path("out.ini")) == "old" && !QFile::exists(path("out.tsf")));
         QCOMPARE(configure({}, pressCancel).err,
                  QByteArray("quintar: the window was closed without OK: no settings were printed\n"));
     }
 
     void writesEachKindOfFile()
     {
-        const Map settings = with(manualsSettings(), key::OpenToPage, 3);
+        Map settings = manualsSettings();
+        settings[key::OpenToPage] = 3;
         QVERIFY(writeFile(path("My_list.xqq"), "[General]\nActionName0=a\nActionName3=b\n"));
         for (const char* file : {"My_list.xqq", "favourite.ini", "tool.tsf"}) {
-            const CommandRun run =
-                configure({"--tool-settings", data + "/manuals.tsf", "-o", path(file)}, [](QDialog& dialog) {
-                    person::widget<QSpinBox>(dialog, "OpenToPageSpinBox")->setValue(3);
-                    pressOk(dialog);
-                });
+            const CommandRun run = configure({"--tool-settings", data + "/manuals.tsf", "-o", path(file)},
+                                             {{key::OpenToPage, 3}});
             QCOMPARE(run.err,
                      "quintar: stored: " + path(file).toUtf8() +
                          (QString(file) == "My_list.xqq" ? ", in place of one with 2 entries\n" : "\n"));
@@ -174,14 +129,16 @@ private slots:
                  QSettings(data + "/manuals.xqq", QSettings::IniFormat).allKeys());
         QCOMPARE(stored("My_list.xqq", "SequenceName"), QVariant("My_list"));
         QCOMPARE(stored("My_list.xqq", "ActionName0"), QVariant("Initial View"));
-        QCOMPARE(stored("My_list.xqq", "ActionPrefs0").toMap(), without(settings, key::ActionName));
-        QCOMPARE(stored("favourite.ini", "ActionPrefs").toMap(),
-                 with(settings, "CollectionName", "favourite"));
+        Map inAFavorite = settings;
+        inAFavorite["CollectionName"] = "favourite";
+        QCOMPARE(stored("favourite.ini", "ActionPrefs").toMap(), inAFavorite);
         const auto icon = stored("favourite.ini", "ActionIcon").value<QImage>();
         QCOMPARE(icon.size(), QSize(42, 42));
         QVERIFY(icon.pixelColor(21, 21) != icon.pixelColor(0, 0));
         QCOMPARE(QSettings(path("tool.tsf"), QSettings::IniFormat).allKeys(), QStringList{"ToolSettings"});
         QCOMPARE(stored("tool.tsf", "ToolSettings").toMap(), settings);
+        settings.remove(key::ActionName);
+        QCOMPARE(stored("My_list.xqq", "ActionPrefs0").toMap(), settings);
     }
 
     void changesOneEntryOfAList()
@@ -193,7 +150,7 @@ private slots:
             for (const int number : {0, 2, 5}) {
                 list.setValue(QString("ActionName%1").arg(number),
                               number == 2 ? "Watermark" : "Initial View");
-                list.setValue(QString("ActionPrefs%1").arg(number), with({}, key::OpenToPage, 10 + number));
+                list.setValue(QString("ActionPrefs%1").arg(number), Map{{key::OpenToPage, 10 + number}});
             }
         }
         const auto refused = [](const QStringList& words) {
@@ -212,8 +169,8 @@ private slots:
         });
         QCOMPARE(run.status, 0);
         QCOMPARE(stored("several.xqq", "ActionPrefs5").toMap().value(key::OpenToPage), QVariant(77));
-        QCOMPARE(stored("several.xqq", "ActionPrefs0").toMap(), with({}, key::OpenToPage, 10));
-        QCOMPARE(stored("several.xqq", "ActionPrefs2").toMap(), with({}, key::OpenToPage, 12));
+        QCOMPARE(stored("several.xqq", "ActionPrefs0").toMap(), (Map{{key::OpenToPage, 10}}));
+        QCOMPARE(stored("several.xqq", "ActionPrefs2").toMap(), (Map{{key::OpenToPage, 12}}));
         QCOMPARE(stored("several.xqq", "ActionName2"), QVariant("Watermark"));
         QCOMPARE(stored("several.xqq", "SequenceName"), QVariant("Several"));
     }
@@ -224,10 +181,12 @@ private slots:
         red.fill(Qt::red);
         {
             QSettings favourite(path("f.ini"), QSettings::IniFormat);
-            favourite.setValue("ActionPrefs", with(manualsSettings(), "CollectionName", "Its name"));
+            Map prefs = manualsSettings();
+            prefs.insert("CollectionName", "Its name");
+            favourite.setValue("ActionPrefs", prefs);
             favourite.setValue("ActionIcon", red);
         }
-        QCOMPARE(configure({"--favorite", path("f.ini"), "-o", path("f.ini")}, pressOk).status, 0);
+        QCOMPARE(configure({"--favorite", path("f.ini"), "-o", path("f.ini")}).status, 0);
         QCOMPARE(stored("f.ini", "ActionPrefs").toMap().value("CollectionName"), QVariant("Its name"));
         QCOMPARE(stored("f.ini", "ActionIcon").value<QImage>().pixelColor(5, 5), QColor(Qt::red));
     }
@@ -237,7 +196,7 @@ private slots:
         QVERIFY(writeFile(path("real.tsf"), ""));
         QCOMPARE(chmod(qPrintable(path("real.tsf")), 0604), 0);
         QCOMPARE(symlink("real.tsf", qPrintable(path("link.tsf"))), 0);
-        QCOMPARE(configure({"-o", path("link.tsf")}, pressOk).status, 0);
+        QCOMPARE(configure({"-o", path("link.tsf")}).status, 0);
         QVERIFY(QFileInfo(path("link.tsf")).isSymLink());
         QVERIFY(!stored("real.tsf", "ToolSettings").toMap().isEmpty());
         struct stat status = {};
@@ -345,7 +304,7 @@ private slots:
         const auto [words, reason] = Rows<QStringList, QByteArray>::current();
         QVERIFY(writeFile(path("text"), "text") && QDir().mkpath(path("folder.tsf")) &&
                 QDir().mkpath(path("folder.json")));
-        const ProgramRun run = configureWithoutDisplay(words, m_home.filePath(""));
+        const ProgramRun run = configureWithoutDisplay(words, path(""));
         QCOMPARE(run.status, 2);
         QCOMPARE(run.out, QByteArray());
         QVERIFY2(run.err.startsWith("quintar: " + reason), run.err);
@@ -359,19 +318,6 @@ private slots:
                      run.out.contains("Usage: quintar configure"),
                  run.out);
     }
-
-private:
-    QString path(const QString& name) const { return m_home.filePath(name); }
-    void putDocument(const std::string& view) const
-    {
-        QVERIFY(writeFile(path("a.pdf"), QByteArray::fromStdString(PdfBuilder::simple(view))));
-    }
-    QVariant stored(const QString& file, const QString& key) const
-    {
-        return QSettings(path(file), QSettings::IniFormat).value(key);
-    }
-
-    TemporaryHome m_home;
 };
 
 QTEST_MAIN(TestConfigure)

@@ -1,63 +1,21 @@
 // Configuring starts from a document and ends with what was changed.
-#include "EditInitialView/InitialViewSettings.h"
-#include "host/cli/ConfigureCommand.h"
-#include "support/CommandRun.h"
-#include "support/Files.h"
-#include "support/Mute.h"
-#include "support/PdfBuilder.h"
-#include "support/Person.h"
-#include "support/ProgramRun.h"
-#include "support/Rows.h"
-#include "support/TemporaryHome.h"
+#include "support/ConfigureFixture.h"
 
 #include <QComboBox>
 #include <QJsonDocument>
 
-using host::ConfigureCommand;
-using person::pressOk;
 using namespace initialview;
 
-namespace {
-
-using Map = QMap<QString, QVariant>;
-
-CommandRun configure(const QStringList& words, const person::Answer& answer)
-{
-    person::whenOpens("CPrefsDialog", answer);
-    return CommandRun(ConfigureCommand(), words);
-}
-
-/// Sets widgets by their settings.
-void choose(QDialog& dialog, const Map& choices)
-{
-    for (auto each = choices.begin(); each != choices.end(); ++each) {
-        auto* widget = person::widget<QWidget>(dialog, qPrintable(each.key()));
-        const char* property = widget->inherits("QComboBox")  ? "currentIndex"
-                               : widget->inherits("QSpinBox") ? "value"
-                                                              : "checked";
-        QVERIFY(widget->setProperty(property, each.value()));
-    }
-}
-
-} // namespace
-
-class TestConfigureDocument : public QObject
+class TestConfigureDocument : public QObject, ConfigureFixture
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { muteFrameWarnings(); }
-
-    void init()
-    {
-        m_home.reset();
-        putDocument("/PageMode /UseThumbs /PageLayout /TwoPageRight /OpenAction [ 4 0 R /FitH 792 ] "
-                    "/ViewerPreferences << /HideMenubar true /CenterWindow true >>");
-    }
+    void init() { begin(); }
 
     void startsAsTheDocumentOpens()
     {
-        const CommandRun run = configure({path("a.pdf"), "--all"}, pressOk);
+        const CommandRun run = configure({path("a.pdf"), "--all"});
         QCOMPARE(run.err, QByteArray());
         QCOMPARE(run.status, 0);
         QCOMPARE(run.out, QByteArray("--set LayoutAndMagnCheckBox=true --set NavigationTabComboBox=2 "
@@ -76,12 +34,31 @@ private slots:
         const CommandRun run = configure({path("a.pdf")}, [](QDialog& dialog) {
             QCOMPARE(person::widget<QComboBox>(dialog, key::Magnification)->currentText(), QString());
             QCOMPARE(person::widget<QComboBox>(dialog, key::Show)->currentText(), QString("Document Title"));
-            pressOk(dialog);
+            person::pressOk(dialog);
         });
         QCOMPARE(run.status, 0);
         QCOMPARE(run.out, QByteArray());
         QVERIFY2(run.err.contains("a.pdf: the window has no row for its magnification, 150%"), run.err);
         QVERIFY2(run.err.contains("nothing was changed in the window"), run.err);
+    }
+
+    void notesWhatItMakes_data()
+    {
+        const Rows<QStringList, QByteArray> row;
+        row("words of a change", {}, "it stays unless a magnification");
+        row("whole settings", {"--all"}, "the settings that OK makes replace it");
+        row("a list", {"-o", path("s.xqq")}, "the settings that OK makes replace it");
+        row("a view", {"--all", "-o", path("s.json")}, "it stays unless a magnification");
+    }
+
+    void notesWhatItMakes()
+    {
+        const auto [words, note] = Rows<QStringList, QByteArray>::current();
+        putDocument("/OpenAction << /S /JavaScript /JS (app.beep\\(\\)) >>");
+        const CommandRun run = configure(QStringList{path("a.pdf")} + words);
+        QVERIFY2(run.err.contains("an action (JavaScript) that the window cannot show; " + note), run.err);
+        if (words.contains(path("s.json")))
+            QVERIFY(!bytesOf(path("s.json")).contains("openAction"));
     }
 
     // Run, the words make the document open as the window said.
@@ -111,21 +88,15 @@ private slots:
     {
         const auto [view, choices, words] = Rows<std::string, Map, QByteArray>::current();
         putDocument(view);
-        const CommandRun run = configure({path("a.pdf")}, [choices = choices](QDialog& dialog) {
-            choose(dialog, choices);
-            pressOk(dialog);
-        });
+        const CommandRun run = configure({path("a.pdf")}, choices);
         QCOMPARE(run.status, 0);
         QCOMPARE(run.out, words + "\n");
-        const CommandRun said = configure({path("a.pdf"), "--all"}, [choices = choices](QDialog& dialog) {
-            choose(dialog, choices);
-            pressOk(dialog);
-        });
+        const CommandRun said = configure({path("a.pdf"), "--all"}, choices);
 
         const QStringList change = QString(words).split(' ');
         const ProgramRun made(PROGRAM_FILE, QStringList{"run", "--in-place", path("a.pdf")} + change);
         QVERIFY2(made.status == 0, made.err);
-        QCOMPARE(configure({path("a.pdf"), "--all"}, pressOk).out, said.out);
+        QCOMPARE(configure({path("a.pdf"), "--all"}).out, said.out);
     }
 
     // Whatever a document holds, the window does not change it by itself.
@@ -138,7 +109,7 @@ private slots:
         for (const QFileInfo& each : QDir(corpus).entryInfoList({"*.pdf"}, QDir::Files)) {
             if (ProgramRun(PROGRAM_FILE, {"show", each.filePath()}).status != 0)
                 continue;
-            const CommandRun run = configure({each.filePath()}, pressOk);
+            const CommandRun run = configure({each.filePath()});
             QVERIFY2(run.status == 0 && run.out.isEmpty(), qPrintable(each.fileName() + ": " + run.out));
             ++shown;
         }
@@ -167,10 +138,8 @@ private slots:
     void storesAView()
     {
         const auto [words, json] = Rows<QStringList, QByteArray>::current();
-        const CommandRun run = configure(words + QStringList{"-o", path("view.json")}, [](QDialog& dialog) {
-            choose(dialog, {{key::OpenToPage, 3}});
-            pressOk(dialog);
-        });
+        const CommandRun run =
+            configure(words + QStringList{"-o", path("view.json")}, {{key::OpenToPage, 3}});
         QCOMPARE(run.err, "quintar: stored: " + path("view.json").toUtf8() + "\n");
         QCOMPARE(run.status, 0);
         QCOMPARE(QJsonDocument::fromJson(bytesOf(path("view.json"))), QJsonDocument::fromJson(json));
@@ -181,20 +150,11 @@ private slots:
 
     void storesNoViewThatChangesNothing()
     {
-        const CommandRun run = configure({path("a.pdf"), "-o", path("view.json")}, pressOk);
+        const CommandRun run = configure({path("a.pdf"), "-o", path("view.json")});
         QCOMPARE(run.status, 1);
         QVERIFY2(run.err.contains("nothing was changed in the window: no view was written"), run.err);
         QVERIFY(!QFile::exists(path("view.json")));
     }
-
-private:
-    QString path(const QString& name) const { return m_home.filePath(name); }
-    void putDocument(const std::string& view) const
-    {
-        QVERIFY(writeFile(path("a.pdf"), QByteArray::fromStdString(PdfBuilder::simple(view))));
-    }
-
-    TemporaryHome m_home;
 };
 
 QTEST_MAIN(TestConfigureDocument)

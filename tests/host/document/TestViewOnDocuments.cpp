@@ -44,45 +44,6 @@ PdfBuilder builder(const std::string& preferences, const std::string& catalog = 
     return pdf;
 }
 
-std::string inObjectStreams(const std::string& bytes)
-{
-    return rewritten(bytes, [](QPDFWriter& writer) { writer.setObjectStreamMode(qpdf_o_generate); });
-}
-
-std::string encrypted(const std::string& bytes, int revision, bool metadata = true)
-{
-    return rewritten(bytes, [&](QPDFWriter& writer) {
-        encrypt(writer, revision, "", "");
-        if (!metadata)
-            writer.setR6EncryptionParameters("", "", true, true, true, true, true, true, qpdf_r3p_full,
-                                             false);
-    });
-}
-
-/// The viewer preferences, object 11, are in an object stream that the cross-reference table does not know.
-std::string hybrid()
-{
-    const std::string plain = builder("11 0 R").object(12, "null").bytes();
-    const std::size_t table = plain.rfind("xref\n0");
-    std::string out = plain.substr(0, table);
-    const auto offsetNow = [&] {
-        return std::string{static_cast<char>(out.size() >> 8), static_cast<char>(out.size() & 0xff)};
-    };
-    const std::string parts = offsetNow();
-    const std::string content = std::string("11 0 ") + everyPreference;
-    out += "13 0 obj\n<< /Type /ObjStm /N 1 /First 5 /Length " + std::to_string(content.size()) +
-           " >>\nstream\n" + content + "\nendstream\nendobj\n";
-    const std::size_t stream = out.size();
-    const std::string entries = std::string("\x02\0\x0d\0", 4) + "\x01" + parts + std::string(1, '\0') +
-                                "\x01" + offsetNow() + std::string(1, '\0');
-    out += "14 0 obj\n<< /Type /XRef /Size 15 /Index [11 1 13 2] /W [1 2 1] /Length 12 >>\nstream\n" +
-           entries + "\nendstream\nendobj\n";
-    const std::string start = std::to_string(out.size());
-    std::string end = plain.substr(table, plain.rfind("startxref") - table);
-    end.insert(end.rfind(" >>"), " /XRefStm " + std::to_string(stream));
-    return out + end + "startxref\n" + start + "\n%%EOF\n";
-}
-
 const std::string signature = "/AcroForm << /Fields [20 0 R] /SigFlags 3 >>";
 
 std::string signedDocument()
@@ -291,11 +252,11 @@ private slots:
         row("signed", signedDocument(), "catalog/ViewerPreferences");
         row("object streams", inObjectStreams(direct), "catalog/ViewerPreferences");
         row("object streams, indirect", inObjectStreams(indirect), "preferences");
-        row("hybrid", hybrid(), "preferences");
+        row("hybrid", hybrid(builder("11 0 R"), 11, everyPreference), "preferences");
         for (const int revision : {2, 3, 4, 6})
-            row(QString("encrypted %1").arg(revision), encrypted(indirect, revision), "preferences");
-        row("encrypted but for metadata", encrypted(direct, 6, false), "catalog/ViewerPreferences");
-        row("encrypted object streams", encrypted(inObjectStreams(indirect), 6), "preferences");
+            row(QString("encrypted %1").arg(revision), encryptedBy(revision, indirect), "preferences");
+        row("encrypted but for metadata", encryptedBy(6, direct, "", false), "catalog/ViewerPreferences");
+        row("encrypted object streams", encryptedBy(6, inObjectStreams(indirect)), "preferences");
     }
 
     void changesNothingElse()
@@ -334,15 +295,12 @@ private slots:
         };
         row("/PageMode /Weird", R"({"pageMode":"UseNone"})", "catalog/PageMode", "/UseNone");
         row("/PageMode /Weird", R"({"pageMode":null})", "catalog/PageMode", "null");
-        row("/PageMode 3", R"({"pageMode":null})", "catalog/PageMode", "null");
-        row("/PageLayout 3", R"({"pageLayout":null})", "catalog/PageLayout", "null");
         row("/PageLayout [ /OneColumn ]", R"({"pageLayout":"OneColumn"})", "catalog/PageLayout",
             "/OneColumn");
         row("/Lang /de", R"({"lang":null})", "catalog/Lang", "null");
         row("/Lang ()", R"({"lang":null})", "catalog/Lang", "null");
-        row("/OpenAction 5", R"({"openAction":null})", "catalog/OpenAction", "null");
-        row("/OpenAction << /S /GoTo /D (nowhere) >>", R"({"openAction":{"zoom":50}})", "catalog/OpenAction",
-            "[ PAGE1 /XYZ 0 792 0.5 ]");
+        row("/OpenAction << /S /GoTo /D (nowhere) >>", R"({"openAction":{"zoom":50}})",
+            "catalog/OpenAction/D", "[ PAGE1 /XYZ 0 792 0.5 ]");
         row("/OpenAction [3 0 R /FitB]", R"({"openAction":{"zoom":null}})", "catalog/OpenAction",
             "[ PAGE1 /XYZ 0 792 null ]");
         row("/OpenAction [3 0 R /FitBV 5]", R"({"openAction":{"type":"FitBH"}})", "catalog/OpenAction",
@@ -351,6 +309,10 @@ private slots:
             "[ PAGE2 /FitR 1 2 3 4 ]");
         row("/OpenAction [3 0 R /FitR 1 2 3 4]", R"({"openAction":{"type":"XYZ"}})", "catalog/OpenAction",
             "[ PAGE1 /XYZ 1 4 null ]");
+        row("/OpenAction [3 0 R /XYZ 1 2 99999999999999999999.0]", R"({"openAction":{"page":2}})",
+            "catalog/OpenAction", "[ PAGE2 /XYZ 0 792 2147483647 ]");
+        row("/OpenAction [3 0 R /FitR 1 2 3 99999999999999999999.5]", R"({"openAction":{"page":2}})",
+            "catalog/OpenAction", "[ PAGE2 /FitR 1 2 3 2147483647 ]");
         row("/OpenAction [3 0 R /Odd]", R"({"openAction":{"type":"XYZ"}})", "catalog/OpenAction",
             "[ PAGE1 /XYZ null null null ]");
         const auto preference = [&](const QByteArray& entry, const QByteArray& json, const char* value) {
@@ -369,7 +331,6 @@ private slots:
                                   "/Duplex false", "/NumCopies 0", "/NumCopies 99999999999"})
             preference(entry, "null", "null");
         row("/Title /Name", R"({"title":null})", "info/Title", "null");
-        row("/Title ()", R"({"title":null})", "info/Title", "null");
         row("/Title [ 1 ]", R"({"title":"T","titleIfMissing":true})", "info/Title", "(T)");
     }
 
@@ -400,14 +361,21 @@ private slots:
         }
     }
 
+    void leavesATitleBesideMetadataThatCannotBeRead()
+    {
+        const std::string bytes = builder("null").stream(8, "/Filter /Odd", packet).bytes();
+        QCOMPARE(changed(bytes, R"({"title":"New","titleIfMissing":true})", m_folder), bytes);
+        QVERIFY(!changed(bytes, R"({"title":"New"})", m_folder).starts_with(bytes));
+    }
+
     void writesTheTitleOnceMore_data()
     {
         const Rows<std::string> row;
         const std::string plain = builder(everyPreference).bytes();
         row("plain", plain);
         row("object streams", inObjectStreams(plain));
-        row("encrypted", encrypted(plain, 4));
-        row("metadata not encrypted", encrypted(plain, 6, false));
+        row("encrypted", encryptedBy(4, plain));
+        row("metadata not encrypted", encryptedBy(6, plain, "", false));
     }
 
     void writesTheTitleOnceMore()

@@ -27,38 +27,28 @@ private slots:
     {
         const Rows<QString, bool, bool> row;
         row("empty", "", false, false);
-        row("empty without its spaces", " ", false, false);
         row("one digit", "7", true, true);
         row("no page 0", "0", false, false);
-        row("two digits", "12", true, true);
         row("zeros inside numbers", "10,200", true, true);
         row("space after a comma", "1-3, 7", true, true);
-        row("spaces around a dash", "1 - 3", true, true);
         row("a space does not part two numbers", "1 2", true, true);
         row("a tab is not a space", "1\t", false, false);
         row("letter first", "a1", false, false);
-        row("comma first", ",1", false, false);
-        row("dash first", "-1", false, false);
         row("empty item", "1,,2", false, false);
         row("a final comma is accepted", "1,", true, true);
         row("the end is read up to the final comma", "5-2,", false, true);
         row("final dash", "1-", false, false);
-        row("final dash in a later item", "1,2-", false, false);
         row("leading zero of an item", "1,05", false, false);
         row("leading zero of an end", "1-05", false, false);
         row("two dashes side by side", "1--3", false, false);
         row("two dashes in an item", "1-2-3", false, false);
-        row("two dashes in a later item", "1,2-4-6", false, false);
         row("a dash in each of two items", "1-2,3-4", true, true);
         row("ascending", "2-5", true, true);
         row("descending", "5-2", false, true);
         row("start and end alike", "3-3", false, true);
         row("the start is read from the last comma", "9,10-9", false, true);
-        row("the end is read to the next comma", "9-10,11", true, true);
         row("an end beyond the largest int reads as 0", "1-99999999999", false, true);
-        row("the largest int", "1-2147483647", true, true);
         row("superscript two counts as a digit", QString::fromUtf8("\xc2\xb2"), true, true);
-        row("so does a full width two", QString::fromUtf8("1\xef\xbc\x92"), true, true);
         row("Arabic digits pass, but read as 0", QString::fromUtf8("\xd9\xa3-\xd9\xa5"), false, true);
         row("a minus sign is no dash",
             QString::fromUtf8("1\xe2\x88\x92"
@@ -75,29 +65,12 @@ private slots:
         QCOMPARE(CActionUtils::ValidatePageRange(text, true), anyOrder);
     }
 
-    void refusesEmbeddedNul()
-    {
-        QVERIFY(!CActionUtils::ValidatePageRange(QString("1,2").replace(1, 1, QChar(0)), true));
-    }
-
-    void validatesSplitLists_data()
-    {
-        const Rows<QString, bool> row;
-        row("reverse ranges are allowed", "1-3;5-2", true);
-        row("one part", "3-3", true);
-        row("final commas", "1,;2,", true);
-        row("empty", "", false);
-        row("last part empty", "1-3;", false);
-        row("first part empty", ";1", false);
-        row("middle part empty", "1;;2", false);
-        row("part of spaces", "1; ;2", false);
-        row("one bad part", "1;2-;3", false);
-    }
-
     void validatesSplitLists()
     {
-        const auto [text, valid] = Rows<QString, bool>::current();
-        QCOMPARE(CActionUtils::ValidateSplitPageRange(text), valid);
+        for (const char* valid : {"1-3;5-2", "3-3", "1,;2,"})
+            QVERIFY2(CActionUtils::ValidateSplitPageRange(valid), valid);
+        for (const char* invalid : {"", "1-3;", ";1", "1;;2", "1; ;2", "1;2-;3"})
+            QVERIFY2(!CActionUtils::ValidateSplitPageRange(invalid), invalid);
     }
 
     void listsPages_data()
@@ -106,16 +79,12 @@ private slots:
         row("sorted, each once", "3,1-4,4", 10, "", {1, 2, 3, 4});
         row("overlapping ranges", "4-7,1-5,2-3,6", 10, "", counted(1, 7));
         row("even pages", "1-6", 10, "odd", {2, 4, 6});
-        row("odd pages", "1-6", 10, "even", {1, 3, 5});
-        row("neither", "1-6", 10, "odd even", {});
         row("goes on after a skipped page", "3,4", 10, "odd", {4});
         row("only the start of a range meets the page count", "12,5-20", 10, "", counted(5, 20));
         row("a range that starts too late", "11-12,10-11", 10, "", {10, 11});
         row("a reversed range names nothing", "5-2,1", 10, "", {1});
         row("an empty item is page 0", "1,", 10, "", {0, 1});
-        row("a word is page 0", "x,2", 10, "", {0, 2});
         row("page 0 is even", "1,", 10, "even", {1});
-        row("spaces around numbers", " 2 , 3 - 4 ", 10, "", {2, 3, 4});
         row("a missing start is 0", "-2", 10, "", {0, 1, 2});
         row("a missing end is 0", "2-", 10, "", {});
         row("the end is all after the first dash", "1-3-5", 10, "", {});
@@ -182,9 +151,7 @@ private slots:
     {
         const Rows<QList<int>, QList<int>> row;
         row("empty", {}, {});
-        row("one page", {4}, {4, 1});
         row("no neighbours", {2, 4, 6}, {6, 1, 4, 1, 2, 1});
-        row("one run", {1, 2, 3, 4}, {1, 4});
         row("highest run first", {1, 2, 3, 7, 8, 10}, {10, 1, 7, 2, 1, 3});
         row("a page twice parts the run", {1, 2, 2, 3}, {2, 2, 1, 2});
         row("ends of the range", {INT_MAX, INT_MIN}, {INT_MIN, 1, INT_MAX, 1});

@@ -77,30 +77,21 @@ private slots:
         };
         row(0, 0, "left top top-left bar");
         row(18, 18, "top-left bar");
-        row(19, 18, "bar");
-        row(18, 19, "bar");
         // The top-right corner is half as wide and high as the others.
         row(385, 15, "bar");
         row(392, 8, "right top top-right bar");
-        row(391, 9, "right top top-right bar");
-        row(390, 9, "top bar");
         row(391, 10, "right bar");
         row(382, 282, "bottom-right");
-        row(381, 282, "");
         row(18, 282, "bottom-left");
-        row(19, 282, "");
         row(5, 295, "left bottom bottom-left");
-        row(9, 150, "left");
         row(10, 150, "");
         row(-1, 150, "");
-        row(391, 150, "right");
         row(390, 150, "");
         // One past the last pixel belongs to the edge.
         row(400, 150, "right");
         row(401, 150, "");
         row(200, 300, "bottom");
         row(200, 301, "");
-        row(400, 300, "right bottom bottom-right");
         row(200, 9, "top bar");
         row(200, 30, "bar");
         row(200, 31, "");
@@ -171,15 +162,12 @@ private slots:
             add(name, from, by, {QPoint(left, top), QPoint(right, bottom)});
         };
         row("bar", {200, 15}, {60, 40}, 160, 140, 559, 439);
-        row("bar beside the top-right corner", {385, 15}, {-20, 10}, 80, 110, 479, 409);
-        row("inside", {200, 150}, {60, 40}, 100, 100, 499, 399);
         row("top-left", {15, 15}, {20, 10}, 135, 125, 499, 399);
         row("bottom-left", {15, 290}, {-30, 50}, 85, 100, 499, 440);
         row("top-right", {392, 8}, {40, -20}, 100, 88, 532, 399);
         row("bottom-right", {385, 285}, {10, 20}, 100, 100, 495, 405);
         row("left", {3, 150}, {-50, 70}, 53, 100, 499, 399);
         row("right", {395, 150}, {-50, 70}, 100, 100, 445, 399);
-        row("top, within the bar", {200, 5}, {30, -40}, 100, 65, 499, 399);
         row("bottom", {200, 298}, {30, 40}, 100, 100, 499, 438);
         row("left beyond right", {3, 150}, {900, 0}, 100, 100, 499, 399);
         row("bottom-left, too narrow", {3, 295}, {370, 60}, 100, 100, 499, 455);
@@ -258,31 +246,24 @@ private slots:
         QCOMPARE(window.toggles, 3);
     }
 
-    void showsWhereTheWindowCanBeResized_data()
-    {
-        const Rows<QPoint, Qt::CursorShape> row;
-        row("top-left", {15, 15}, Qt::SizeFDiagCursor);
-        row("bottom-right", {385, 285}, Qt::SizeFDiagCursor);
-        row("top-right", {393, 7}, Qt::SizeBDiagCursor);
-        row("bottom-left", {15, 285}, Qt::SizeBDiagCursor);
-        row("left", {4, 150}, Qt::SizeHorCursor);
-        row("right", {394, 150}, Qt::SizeHorCursor);
-        row("top", {200, 4}, Qt::SizeVerCursor);
-        row("bottom", {200, 294}, Qt::SizeVerCursor);
-    }
-
     void showsWhereTheWindowCanBeResized()
     {
-        const auto [position, shape] = Rows<QPoint, Qt::CursorShape>::current();
+        const std::pair<QPoint, Qt::CursorShape> shapes[] = {
+            {{15, 15}, Qt::SizeFDiagCursor}, {{385, 285}, Qt::SizeFDiagCursor},
+            {{393, 7}, Qt::SizeBDiagCursor}, {{15, 285}, Qt::SizeBDiagCursor},
+            {{4, 150}, Qt::SizeHorCursor},   {{394, 150}, Qt::SizeHorCursor},
+            {{200, 4}, Qt::SizeVerCursor},   {{200, 294}, Qt::SizeVerCursor}};
         Window window;
         Hand hand(window);
-        hand.moveTo(corner + position);
-        QCOMPARE(window.cursor().shape(), shape);
-        hand.moveTo(corner + QPoint(200, 150));
-        QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
-        window.handler.setWidgetResizable(false);
-        hand.moveTo(corner + position);
-        QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
+        for (const auto& [position, shape] : shapes) {
+            for (const bool resizable : {true, false}) {
+                window.handler.setWidgetResizable(resizable);
+                hand.moveTo(corner + position);
+                QCOMPARE(window.cursor().shape(), resizable ? shape : Qt::ArrowCursor);
+                hand.moveTo(corner + QPoint(200, 150));
+                QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
+            }
+        }
     }
 
     void keepsTheCursorDuringADrag()

