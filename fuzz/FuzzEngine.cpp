@@ -216,7 +216,8 @@ private:
             judge(written, m_after, "appended to a file");
         }
         judge(result, m_after, "appended");
-        requireSameObjects(m_source, result);
+        if (!hasUnendedStreams(m_source))
+            requireSameObjects(m_source, result);
     }
 
     void appendInPlace()
@@ -252,7 +253,8 @@ private:
             require(again.id() != 0,
                     how + ", it cannot be opened: " + std::to_string(m_library.LastErrorCode()));
             const DocumentAccount account(m_library);
-            if (!account.gaveUp())
+            const bool isSame = account.entries() == expected;
+            if (!isSame && !account.gaveUp() && !hasUnendedStreams(m_source))
                 requireSame(expected, account.entries(), mayDiffer, how);
         }
         m_library.SelectDocument(selected);

@@ -57,6 +57,20 @@ inline bool hasDirectKids(QPDFObjectHandle object)
     return std::any_of(items.begin(), items.end(), [](const auto& kid) { return !kid.isIndirect(); });
 }
 
+/// Whether streams have no end where they say. Readers search for it then, and may find one in what is appended.
+inline bool hasUnendedStreams(const std::string& bytes)
+{
+    const std::shared_ptr<QPDF> pdf = readByLibqpdf(bytes);
+    if (pdf == nullptr)
+        return false;
+    for (const auto& [id, entry] : pdf->getXRefTable())
+        pdf->getObject(id).isNull();
+    const auto warnings = pdf->getWarnings();
+    return std::any_of(warnings.begin(), warnings.end(), [](const QPDFExc& warning) {
+        return warning.getMessageDetail().find("stream length") != std::string::npos;
+    });
+}
+
 /// Ends the process unless all objects are the same that a change of how a document opens does not touch.
 inline void requireSameObjects(const std::string& source, const std::string& result)
 {
