@@ -62,7 +62,7 @@ std::unique_ptr<DirectReader> DirectReader::open(std::shared_ptr<const ByteSourc
 {
     std::unique_ptr<DirectReader> reader(new DirectReader(std::move(source)));
     const std::string_view header = reader->m_file.bytes(0, 9);
-    if (!header.starts_with("%PDF-1.") || header.size() < 9 || !isSpace(header[8]))
+    if (!header.starts_with("%PDF-1.") || header.size() < 9 || !isDigit(header[7]) || !isSpace(header[8]))
         return nullptr;
     const auto last = reader->lastStartXref();
     return last && reader->m_index.read(*last) ? std::move(reader) : nullptr;

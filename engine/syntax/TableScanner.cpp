@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
+#include <utility>
 
 namespace engine {
 
@@ -13,6 +14,8 @@ namespace {
 const std::int64_t entriesAtOnce = 4096;
 const long long longSubsection = 4096; // entries
 const long long lookedAt = 512;        // at either end of a long one
+const std::size_t longestHeader = 40;
+const std::int64_t mostSpace = 4096; // with a header
 const std::size_t longestWord = 20;
 const std::size_t spaceAtOnce = 64;
 
@@ -22,6 +25,18 @@ bool areDigits(const char* text, std::size_t count)
     for (std::size_t index = 0; index < count; ++index) // without a branch: it is vectorised
         all &= static_cast<unsigned char>(text[index] - '0') < 10;
     return all;
+}
+
+/// Whether libqpdf reads the same numbers: from one short line, which begins where it looks and ends once, without NUL.
+/// \param text from the end of what stands before the subsection to its first entry.
+bool isUsualHeader(std::string_view text, bool isFirst)
+{
+    if (isFirst)
+        text.remove_prefix(std::min(text.find_first_not_of("\r\n "), text.size()));
+    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+    const std::string_view lineEnd = text.substr(end);
+    return end <= longestHeader && text.substr(0, end).find_first_not_of("0123456789 ") == text.npos &&
+           (lineEnd == "\n" || lineEnd == "\r\n" || lineEnd == "\r");
 }
 
 bool isWordCharacter(char character)
@@ -35,7 +50,7 @@ bool isUsualTableEntry(std::string_view text)
 {
     return text.size() == tableEntrySize && areDigits(text.data(), 10) && text[10] == ' ' &&
            areDigits(text.data() + 11, 5) && text[16] == ' ' && (text[17] == 'n' || text[17] == 'f') &&
-           isSpace(text[18]) && (text[19] == '\n' || text[19] == '\r');
+           (text[18] == ' ' || text[18] == '\r') && (text[19] == '\n' || text[19] == '\r');
 }
 
 TableScanner::TableScanner(FileWindows& file, std::int64_t position, bool usualOnly)
@@ -44,6 +59,7 @@ TableScanner::TableScanner(FileWindows& file, std::int64_t position, bool usualO
 
 std::optional<TableScanner::Subsection> TableScanner::nextSubsection()
 {
+    const std::int64_t begin = m_position;
     skipSpace();
     const std::string_view start = word();
     if (start == "trailer") {
@@ -56,6 +72,9 @@ std::optional<TableScanner::Subsection> TableScanner::nextSubsection()
     if (!count)
         return fail();
     skipSpace();
+    const auto size = static_cast<std::size_t>(std::min(m_position - begin, mostSpace));
+    if (m_usualOnly && !isUsualHeader(m_file.bytes(begin, size), !std::exchange(m_isBehindFirst, true)))
+        return fail();
     Subsection subsection{*first, *count, m_position, true};
     const long long usual = m_usualOnly ? skipLikelyEntries(*count) : skipUsualEntries(*count);
     subsection.usual = usual == *count;

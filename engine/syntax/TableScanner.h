@@ -55,6 +55,7 @@ private:
     FileWindows& m_file;
     std::int64_t m_position;
     bool m_usualOnly;
+    bool m_isBehindFirst = false; // of the subsections
     bool m_damaged = false;
 };
 

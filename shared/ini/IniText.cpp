@@ -228,8 +228,9 @@ private:
     void escape()
     {
         take();
-        if (m_rest.empty()) {
+        if (m_rest.empty()) { // the file ends; QSettings keeps spaces before it
             m_value.isDamaged = true;
+            m_kept = m_text.size();
             return;
         }
         static constexpr Bytes letters = "abfnrtv\"?'\\";
@@ -303,13 +304,21 @@ QByteArray escapedKey(const QString& key)
         else
             result += "%U" + QByteArray::number(unit, 16).rightJustified(4, '0').toUpper();
     }
+    if (result.endsWith(
+            '\\')) // it would take the meaning from the "=" behind it, and the line would mean nothing
+        result.replace(result.size() - 1, 1, "%2F");
     return result;
 }
+
+/// Stands for the section "[]", whose keys begin with a slash.
+const QString namelessSection = "/";
 
 QByteArray sectionLine(const QString& section)
 {
     if (section.isEmpty())
         return "[General]\n";
+    if (section == namelessSection)
+        return "[]\n";
     const QByteArray name = escapedKey(section);
     return (name.compare("general", Qt::CaseInsensitive) == 0 ? "[%" : "[") + name + "]\n";
 }
@@ -388,7 +397,8 @@ QByteArray format(const Values& values)
     QMap<QString, QMap<QString, const Value*>> sections;
     for (auto it = values.begin(); it != values.end(); ++it) {
         const int slash = it.key().indexOf('/');
-        sections[it.key().left(std::max(slash, 0))][it.key().mid(slash + 1)] = &it.value();
+        const QString section = slash == 0 ? namelessSection : it.key().left(std::max(slash, 0));
+        sections[section][it.key().mid(slash + 1)] = &it.value();
     }
     QByteArray bytes;
     for (auto section = sections.cbegin(); section != sections.cend(); ++section) {

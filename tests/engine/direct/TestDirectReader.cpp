@@ -1,131 +1,17 @@
-#include "engine/boundary/Operations.h"
-#include "engine/boundary/Session.h"
-#include "engine/direct/DirectReader.h"
-#include "engine/files/EngineError.h"
 #include "support/PdfBuilder.h"
+#include "support/ReadingAccount.h"
 #include "support/Rewritten.h"
 #include "support/Rows.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
 #include <random>
 
 using namespace engine;
-using namespace engine::operations;
 
 namespace {
-
-enum class Reading { Direct, Whole };
-
-/// A document, all that can be asked of it and what appending a change to it gives, as text.
-class Account
-{
-public:
-    Account(std::string bytes, Reading reading) : m_bytes(std::move(bytes))
-    {
-        m_loaded = attempt([&] { return LoadFromString(m_session, m_bytes, {}); }) == "1";
-        if (m_loaded && reading == Reading::Whole)
-            m_session.document().readWhole();
-    }
-
-    bool loaded() const { return m_loaded; }
-
-    QByteArray view()
-    {
-        QByteArray text =
-            ask([&] { return GetPageMode(m_session); }) + ask([&] { return GetPageLayout(m_session); });
-        for (int option = 1; option <= 7; ++option)
-            text += ask([&] { return GetViewerPreferences(m_session, option); });
-        text += ask([&] { return SecurityInfo(m_session, SignatureCount); });
-        text += ask([&] { return PageCount(m_session); });
-        text += openAction();
-        const int count = std::max(1, PageCount(m_session));
-        for (const int page : {1, 2, (count + 1) / 2, count, count + 1})
-            text += onPage(page);
-        for (int item = 0; item <= 8; ++item)
-            text += ask([&] { return QString::fromStdWString(GetInformation(m_session, item)); });
-        return text;
-    }
-
-    /// What an update to a common set of settings adds to the document.
-    QByteArray update(int page)
-    {
-        QByteArray text =
-            ask([&] { return SetPageMode(m_session, 1); }) +
-            ask([&] { return SetPageLayout(m_session, 5); }) +
-            ask([&] { return SetOpenActionDestinationFull(m_session, page, 0, 2, 0, 0, 0, 0); });
-        for (int option = 1; option <= 6; ++option)
-            text += ask([&] { return SetViewerPreferences(m_session, option, 1); });
-        QTemporaryDir folder;
-        const std::wstring path = (folder.path() + "/updated.pdf").toStdWString();
-        text += ask([&] { return AppendToFile(m_session, path); });
-        QFile file(folder.path() + "/updated.pdf");
-        return file.open(QIODevice::ReadOnly) ? text + file.readAll().mid(static_cast<int>(m_bytes.size()))
-                                              : text;
-    }
-
-private:
-    QByteArray openAction()
-    {
-        return ask([&] {
-            const int id = GetOpenActionDestination(m_session);
-            if (id == 0)
-                return QString("none");
-            QString text = QString("type %1 page %2 %3")
-                               .arg(GetDestType(m_session, id))
-                               .arg(GetDestPage(m_session, id))
-                               .arg(QString::fromStdWString(GetDestName(m_session, id)));
-            for (int value = 1; value <= 5; ++value)
-                text += QString(" %1").arg(GetDestValue(m_session, id, value));
-            return text;
-        });
-    }
-
-    QByteArray onPage(int page)
-    {
-        QByteArray text = ask([&] { return SelectPage(m_session, page); });
-        for (int dimension = 0; dimension <= 5; ++dimension)
-            text += ask([&] { return GetPageBox(m_session, 1 + dimension % 5, dimension); });
-        return text + ask([&] { return PageRotation(m_session); });
-    }
-
-    template <class Operation>
-    QByteArray ask(Operation operation)
-    {
-        return attempt(operation) + "; ";
-    }
-
-    /// As the library's guard does it.
-    template <class Operation>
-    QByteArray attempt(Operation operation)
-    {
-        try {
-            try {
-                return QVariant(operation()).toByteArray();
-            } catch (const DirectReadingEnded&) {
-                m_session.document().readWhole();
-                return QVariant(operation()).toByteArray();
-            }
-        } catch (const EngineError& error) {
-            return "code " + QByteArray::number(static_cast<int>(error.code()));
-        } catch (const std::exception&) {
-            return "exception";
-        }
-    }
-
-    std::string m_bytes;
-    Session m_session;
-    bool m_loaded = false;
-};
-
-bool accepted(const std::string& bytes)
-{
-    auto reader = DirectReader::open(ByteSource::fromBytes(bytes));
-    return reader != nullptr && reader->skeleton();
-}
 
 /// A document of 20,000 pages with a cross-reference stream that is not compressed, and where its entries of
 /// seven bytes begin.
@@ -174,8 +60,8 @@ std::string manifold()
 
 void compare(const std::string& bytes)
 {
-    Account direct(bytes, Reading::Direct);
-    Account whole(bytes, Reading::Whole);
+    ReadingAccount direct(bytes, Reading::Direct);
+    ReadingAccount whole(bytes, Reading::Whole);
     QCOMPARE(direct.loaded(), whole.loaded());
     if (!direct.loaded())
         return;
@@ -236,7 +122,11 @@ private slots:
         row("section without entries", plain + "xref\ntrailer\n<< /Size 6 /Root 1 0 R /Prev " +
                                            std::to_string(plain.find("xref\n0")) + " >>\nstartxref\n" +
                                            std::to_string(plain.size()) + "\n%%EOF\n");
+        row("numbers of entries in two lines", with("xref\n0 6\n", "xref\n0\n6\n"));
+        row("empty line before entries", with("xref\n0 6\n", "xref\n0 6\n\n"));
+        row("NUL before the number of entries", with("xref\n0 6\n", std::string("xref\n0\0006\n", 9)));
         row("entries out of order", with("xref\n0 6\n", "xref\n5 1\n0000000000 00000 f \n0 6\n"));
+        row("no version", with("%PDF-1.7", "%PDF-1.>"));
         row("two digits behind the version's point",
             PdfBuilder().version("1.73").catalog("").pages(3).bytes());
         const std::string packed = rewritten(manifold(), [](QPDFWriter& writer) {

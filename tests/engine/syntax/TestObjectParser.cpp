@@ -1,30 +1,8 @@
 #include "engine/syntax/ObjectParser.h"
+#include "support/ObjectAccount.h"
 #include "support/Rows.h"
 
 using namespace engine;
-
-namespace {
-
-/// What comes of a text: kind, form and complaints.
-template <class Parse>
-QByteArray account(Parse parse)
-{
-    QPDF pdf;
-    pdf.emptyPDF();
-    pdf.setSuppressWarnings(true);
-    std::string text;
-    try {
-        QPDFObjectHandle object = parse(pdf);
-        text = std::string(object.getTypeName()) + ' ' + object.unparse();
-    } catch (const std::runtime_error& error) {
-        text = error.what();
-    }
-    for (const QPDFExc& warning : pdf.getWarnings())
-        text += std::string("\n") + warning.what();
-    return QByteArray::fromStdString(text);
-}
-
-} // namespace
 
 class TestObjectParser : public QObject
 {
@@ -54,8 +32,10 @@ private slots:
         const auto [texts] = Rows<QStringList>::current();
         for (const QString& each : texts) {
             const std::string text = each.toLatin1().toStdString();
-            QCOMPARE(account([&](QPDF& pdf) { return parseObject(pdf, text); }),
-                     account([&](QPDF& pdf) { return QPDFObjectHandle::parse(&pdf, text); }));
+            const std::string ours = objectAccount([&](QPDF& pdf) { return parseObject(pdf, text); });
+            const std::string theirs =
+                objectAccount([&](QPDF& pdf) { return QPDFObjectHandle::parse(&pdf, text); });
+            QCOMPARE(QByteArray::fromStdString(ours), QByteArray::fromStdString(theirs));
         }
     }
 };
