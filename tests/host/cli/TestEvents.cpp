@@ -129,6 +129,10 @@ private slots:
                           "--timeout", "1",        "--memory",   "200",      "/dev/null", "gone.pdf"};
         std::map<QString, QString> codes{{"/dev/null", "notAFile"}, {"gone.pdf", "notFound"}};
         for (const auto& [name, bytes, code] : failures()) {
+#if defined(__SANITIZE_ADDRESS__)
+            if (code == "memory") // workers have no memory limit under the sanitizer
+                continue;
+#endif
             WorkFolder::put(name, bytes);
             words += QString::fromStdString(name);
             codes[words.last()] = code;
