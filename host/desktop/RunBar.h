@@ -31,10 +31,12 @@ signals:
     void saveWanted();
 
 private:
+    void nameParts();
     QPushButton* button(const QString& text, const QString& help);
     void show();
     void showProgress();
     QString countsInWords() const;
+    static QString reasonsInWords(const Workbench::Counts& counts);
     static QString plannedInWords(const Workbench::Counts& counts);
     static QString doneInWords(const Workbench::Counts& counts);
     QString timeLeft() const;

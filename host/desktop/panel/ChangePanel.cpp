@@ -58,6 +58,9 @@ ChangePanel::ChangePanel(Workbench& workbench, QWidget* parent)
       m_reset(new QPushButton(tr("&Keep All"), this)), m_warnings(new QVBoxLayout),
       m_destination(new DestinationRow(this))
 {
+    m_scope->setObjectName("scope");
+    m_presets->setObjectName("presetsButton");
+    m_reset->setObjectName("keepAllButton");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(spacing);
@@ -192,6 +195,7 @@ QWidget* ChangePanel::makeStored()
     m_storedLines->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
     m_storedLines->setWordWrap(true);
     auto* configure = new QPushButton(tr("C&onfigure…"), m_stored);
+    configure->setObjectName("configureButton");
     connect(configure, &QPushButton::clicked, this, &ChangePanel::configureWanted);
     column->addWidget(m_storedName);
     column->addWidget(m_storedLines);

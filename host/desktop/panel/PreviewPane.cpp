@@ -42,9 +42,10 @@ QString followersOf(const PreviewScene& scene)
 
 } // namespace
 
-PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent)
-    : QWidget(parent), m_workbench(workbench), m_outline(workbench.program())
+PreviewPane::PreviewPane(Workbench& workbench, const QString& drawer, QWidget* parent)
+    : QWidget(parent), m_workbench(workbench), m_outline(workbench.program()), m_pictures(drawer)
 {
+    setObjectName("preview");
     setAccessibleName(tr("Preview"));
     setMinimumHeight(170);
     setWhatsThis(tr(
@@ -54,6 +55,7 @@ PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent)
     connect(&workbench.table(), &DocumentTable::changed, this, &PreviewPane::show);
     connect(&workbench.order(), &DocumentOrder::shownChanged, this, &PreviewPane::show);
     connect(&m_outline, &Outline::came, this, &PreviewPane::show);
+    connect(&m_pictures, &PagePictures::came, this, QOverload<>::of(&QWidget::update));
     show();
 }
 
@@ -68,6 +70,7 @@ void PreviewPane::show()
             update();
         return;
     }
+    m_pictures.setDocument(record->path, m_workbench.passwordOf(*record), record->facts);
     QVector<PreviewScene::Bookmark> bookmarks;
     if (record->facts->bookmarks != 0 && isVisible())
         bookmarks = m_outline.of(record->path, m_workbench.passwordOf(*record));
@@ -121,8 +124,10 @@ void PreviewPane::paintScene(QPainter& painter, const QRectF& area, const QStrin
     const QRectF head(area.topLeft(), QSizeF(area.width(), titleHeight));
     painter.setPen(drawings::quietText(palette()));
     painter.drawText(head, int(Qt::AlignLeft | Qt::AlignVCenter), title);
-    const SceneDrawing::Picture none = [](int) { return QImage(); };
-    SceneDrawing(scene, palette(), none).paint(painter, area.adjusted(0.5, titleHeight, -0.5, -0.5));
+    const SceneDrawing::Picture picture = [this](int page, double width) {
+        return m_pictures.of(page, width * devicePixelRatioF());
+    };
+    SceneDrawing(scene, palette(), picture).paint(painter, area.adjusted(0.5, titleHeight, -0.5, -0.5));
 }
 
 } // namespace host::desktop
