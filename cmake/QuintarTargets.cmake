@@ -3,6 +3,8 @@ include(GNUInstallDirs)
 
 # The program, the plug-in and the library file find each other by this one relative layout, the same in the
 # build tree and after installation.
+# Installed are "program", "window" and "development", each of which can be left out.
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME program)
 set(QUINTAR_BIN_DIR bin)
 set(QUINTAR_MODULE_DIR lib/quintar)
 set(QUINTAR_BUILD_BIN_DIR "${PROJECT_BINARY_DIR}/${QUINTAR_BIN_DIR}")

@@ -72,6 +72,10 @@ enum DestinationValue {
     DestinationForm = 6,
 };
 
+/// The largest number that a destination or a page box has, either way: every reader takes it, whole or not
+/// (ISO 32000-1, annex C). One that documents have beyond it reads as this one; none is written.
+inline constexpr double largestNumber = 2147483647;
+
 /// Action of GetActionType: what the document opens with. There is no other.
 inline constexpr int OpenAction = 0;
 

@@ -2,6 +2,7 @@
 
 #include "engine/files/EngineError.h"
 #include "pdflibrary/ErrorCodes.h"
+#include "pdflibrary/ViewNumbers.h"
 
 /// Checks of what a caller of the library hands to an operation. They come before anything is changed, so
 /// that a refused call leaves the document as it was; the guard around the operations turns what they throw
@@ -16,6 +17,12 @@ inline void require(bool condition, ErrorCode code)
 {
     if (!condition)
         throw EngineError(code);
+}
+
+/// Whether a document can have the number; a NaN is none.
+inline bool isNumber(double value)
+{
+    return value >= -pdflibrary::largestNumber && value <= pdflibrary::largestNumber;
 }
 
 /// Throws EngineError with BadArgument unless `value` is one of first, ..., last.

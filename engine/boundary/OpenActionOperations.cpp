@@ -4,8 +4,6 @@
 #include "engine/document/Text.h"
 #include "pdflibrary/ViewNumbers.h"
 
-#include <cmath>
-
 namespace engine::operations {
 
 namespace {
@@ -32,8 +30,8 @@ int SetDestValue(Session& session, int destId, int valueKey, double value)
 {
     OpenDocument& open = session.document();
     const Destination before = session.destination(destId);
-    require(valueKey == pdflibrary::DestinationZoom && before.type == pdflibrary::Zoomed &&
-                std::isfinite(value) && value >= 0,
+    require(valueKey == pdflibrary::DestinationZoom && before.type == pdflibrary::Zoomed && value >= 0 &&
+                isNumber(value / 100),
             ErrorCode::BadArgument);
     const auto target = openActionTarget(open.document);
     require(target && readDestination(open.document, *target, open.pages) == before,

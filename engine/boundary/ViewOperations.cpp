@@ -6,7 +6,6 @@
 #include "pdflibrary/ViewerPreferences.h"
 
 #include <array>
-#include <cmath>
 
 namespace engine::operations {
 
@@ -217,7 +216,7 @@ int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destT
     requireWithin(destType, pdflibrary::Zoomed, pdflibrary::FitRectangle);
     require(zoom >= 0, ErrorCode::BadArgument);
     for (const double coordinate : {left, top, right, bottom})
-        require(std::isfinite(coordinate), ErrorCode::BadArgument);
+        require(isNumber(coordinate), ErrorCode::BadArgument);
     const PagePath& path = open.pages.page(page);
     const QPDFObjectHandle target = path.page;
     const Point corner = upperLeftAsShown(open.document, path, {left, bottom, right, top});
@@ -229,7 +228,7 @@ int SetOpenActionDestinationFull(Session& session, int page, int zoom, int destT
     if (present && isWrittenAs(open.document, present->array, target, operands))
         return 1;
     operands.insertItem(0, open.pages.reference(page));
-    open.document.setCatalogKey("/OpenAction", operands);
+    redirectOpenAction(open.document, operands);
     return 1;
 }
 

@@ -81,6 +81,12 @@ int pageOf(QPDFObjectHandle target, PageTree& pages)
     return index >= 0 && index < pages.pageCount() ? static_cast<int>(index) + 1 : 0;
 }
 
+bool isGoTo(Document& document, QPDFObjectHandle action)
+{
+    return action.isDictionary() && document.key(action, "/S").isNameAndEquals("/GoTo");
+}
+
+/// Within pdflibrary::largestNumber: one that is whole is written without a point, as an integer.
 QPDFObjectHandle numberOrNull(double value, bool isNull)
 {
     return isNull ? QPDFObjectHandle::newNull() : QPDFObjectHandle::newReal(value + 0.0, written); // no "-0"
@@ -120,8 +126,7 @@ std::optional<ActionTarget> openActionTarget(Document& document)
 std::optional<ActionTarget> destinationTarget(Document& document, QPDFObjectHandle action)
 {
     if (action.isDictionary())
-        action = document.key(action, "/S").isNameAndEquals("/GoTo") ? document.key(action, "/D")
-                                                                     : QPDFObjectHandle::newNull();
+        action = isGoTo(document, action) ? document.key(action, "/D") : QPDFObjectHandle::newNull();
     ActionTarget target{action, {}};
     if (action.isName() || action.isString()) {
         target.array = arrayOf(document, findNamedDestination(document, action));
@@ -148,7 +153,7 @@ std::optional<Destination> readDestination(Document& document, ActionTarget targ
             break;
         QPDFObjectHandle operand = document.item(target.array, index++);
         if (operand.isNumber())
-            destination.*member = operand.getNumericValue();
+            destination.*member = withinNumbers(operand.getNumericValue());
     }
     destination.zoom = std::round(destination.zoom * 1e6) / 1e4; // no binary fractions: 0.07 is 7 %
     return destination;
@@ -186,7 +191,7 @@ QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double pe
 void redirectOpenAction(Document& document, QPDFObjectHandle array)
 {
     QPDFObjectHandle action = document.key(document.catalog(), "/OpenAction");
-    if (action.isDictionary()) {
+    if (isGoTo(document, action)) {
         action = action.shallowCopy();
         action.replaceKey("/D", array);
         action.removeKey("/SD"); // the same for structure elements, which would count before it

@@ -12,7 +12,8 @@ namespace engine {
 class Document;
 class PageTree;
 
-/// What a destination shows, in the library's numbers. Coordinates that the destination leaves open are 0.
+/// What a destination shows, in the library's numbers, none beyond pdflibrary::largestNumber (of the zoom: as a
+/// factor). Coordinates that the destination leaves open are 0.
 struct Destination
 {
     int page = 0; ///< From 1.
@@ -59,8 +60,8 @@ QPDFObjectHandle rectangleOperands(const QPDFObjectHandle::Rectangle& rectangle)
 /// \param percent 0 for none.
 QPDFObjectHandle magnified(Document& document, QPDFObjectHandle array, double percent);
 
-/// Lets the open action, which leads to a destination, lead to this explicit one. What else the action does
-/// stays.
+/// Lets the document open at this explicit destination. What else an action does stays where it is one that
+/// goes to a destination; any other is replaced.
 void redirectOpenAction(Document& document, QPDFObjectHandle array);
 
 /// True when an explicit destination shows this page object with these operands, exactly as it would be

@@ -6,7 +6,6 @@
 #include "pdflibrary/ViewNumbers.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace engine {
 
@@ -25,7 +24,7 @@ bool isBox(Document& document, QPDFObjectHandle object)
         return false;
     for (int index = 0; index < 4; ++index) {
         QPDFObjectHandle corner = document.item(object, index);
-        if (!corner.isNumber() || !std::isfinite(corner.getNumericValue()))
+        if (!corner.isNumber())
             return false;
     }
     return true;
@@ -39,8 +38,9 @@ bool isInteger(Document&, QPDFObjectHandle object)
 Rectangle normalised(QPDFObjectHandle box)
 {
     const Rectangle raw = box.getArrayAsRectangle();
-    return {std::min(raw.llx, raw.urx), std::min(raw.lly, raw.ury), std::max(raw.llx, raw.urx),
-            std::max(raw.lly, raw.ury)};
+    const auto [left, right] = std::minmax(withinNumbers(raw.llx), withinNumbers(raw.urx));
+    const auto [bottom, top] = std::minmax(withinNumbers(raw.lly), withinNumbers(raw.ury));
+    return {left, bottom, right, top};
 }
 
 /// Viewers show of the crop box what lies in the media box; a crop box beside it counts for nothing.
@@ -54,6 +54,11 @@ Rectangle shownBox(Document& document, const PagePath& path)
 }
 
 } // namespace
+
+double withinNumbers(double number)
+{
+    return std::clamp(number, -pdflibrary::largestNumber, pdflibrary::largestNumber);
+}
 
 Rectangle pageBox(Document& document, const PagePath& path, int box)
 {

@@ -7,6 +7,9 @@ namespace engine {
 class Document;
 struct PagePath;
 
+/// What a number of a document counts as: the nearest one that every reader takes.
+double withinNumbers(double number);
+
 /// A page's box, its corners in order, in points of default user space. The media and crop boxes are
 /// inherited; the crop box is by default the media box, the others the crop box, and the media box a
 /// letter's. \param box pdflibrary::PageBox.

@@ -48,7 +48,7 @@ void ChangeOptions::takeViewOptions(OptionParser& parser)
     parser.takeFlag("title-if-missing", m_titleIfMissing);
 }
 
-void ChangeOptions::check(bool haveStandardInput) const
+void ChangeOptions::check() const
 {
     const std::size_t sources = m_lists.size() + m_favorites.size() + m_toolSettings.size() +
                                 (m_settingWords.empty() ? 0 : 1) + (changesView() ? 1 : 0);
@@ -60,8 +60,6 @@ void ChangeOptions::check(bool haveStandardInput) const
                                "--tool-settings or --set");
     if (m_titleFromFileName && m_named[ViewEntry::Title])
         throw UsageError("--title and --title-from-file-name exclude each other");
-    if (m_titleFromFileName && haveStandardInput)
-        throw UsageError("--title-from-file-name: a document from standard input has no name");
 }
 
 bool ChangeOptions::changesView() const
@@ -69,12 +67,16 @@ bool ChangeOptions::changesView() const
     return !m_named.isEmpty() || m_viewFile || m_model || m_titleFromFileName || m_titleIfMissing;
 }
 
-void ChangeOptions::read(std::string_view password, Cell& cell)
+void ChangeOptions::read(std::string_view password, Cell& cell, bool haveStandardInput)
 {
     if (changesView())
         readChange(password, cell);
     else
         readSettings();
+    if (haveStandardInput && m_change[ViewEntry::Title] == ViewValue(FileNameAsTitle()))
+        throw UsageError(
+            (m_titleFromFileName ? "--title-from-file-name" : "the view " + m_viewFile.value_or("")) +
+            ": a document from standard input has no name");
 }
 
 void ChangeOptions::readChange(std::string_view password, Cell& cell)

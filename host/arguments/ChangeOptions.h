@@ -19,13 +19,13 @@ class ChangeOptions
 public:
     /// The object must outlive the parser.
     void take(OptionParser& parser);
-    /// Throws UsageError unless there is exactly one source, and one that suits the documents.
-    /// \param haveStandardInput whether one of them has no name.
-    void check(bool haveStandardInput) const;
-    /// Reads the source. Throws UsageError.
+    /// Throws UsageError unless there is exactly one source.
+    void check() const;
+    /// Reads the source. Throws UsageError, also when it does not suit the documents.
     /// \param password opens the document that others are to open like.
     /// \param cell locks in who reads that one.
-    void read(std::string_view password, Cell& cell);
+    /// \param haveStandardInput whether one of the documents has no name.
+    void read(std::string_view password, Cell& cell, bool haveStandardInput);
 
     /// What has been read: the entries, unless there is a change.
     const std::vector<ActionEntry>& entries() const { return m_entries; }

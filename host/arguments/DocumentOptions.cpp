@@ -1,7 +1,6 @@
 #include "DocumentOptions.h"
 
 #include "OptionParser.h"
-#include "host/terminal/StandardError.h"
 #include "host/terminal/UsageError.h"
 
 namespace host {
@@ -48,10 +47,6 @@ RunPlan DocumentOptions::planForReading(RunPlan::Found found) const
     RunPlan plan(RunDestination::none(), std::move(found));
     for (const std::string& input : m_inputs)
         input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input);
-    for (const std::string& folder : plan.emptyFolders())
-        note("no PDF documents in " + folder);
-    if (plan.documents().empty() && plan.emptyFolders().empty())
-        note("the list of documents is empty");
     return plan;
 }
 

@@ -28,7 +28,7 @@ public:
 
     /// Documents and folders: those that are named by themselves, and then those of the list.
     const std::vector<std::string>& inputs() const { return m_inputs; }
-    /// The documents for a command that only reads them. Folders without any are noted. Throws UsageError.
+    /// The documents for a command that only reads them. Throws UsageError.
     RunPlan planForReading(RunPlan::Found found) const;
     /// Whether an option names it; documents may come from it as well.
     bool readsStandardInput() const { return m_password.file() == "-" || m_list.isStandardInput(); }

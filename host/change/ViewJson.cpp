@@ -106,6 +106,8 @@ ViewValue textValue(const QString& name, const QJsonValue& value)
 {
     if (!value.isString())
         refuse(name, value, "a text or null");
+    if (!value.toString().isValidUtf16())
+        refuse(name, value, "a text of whole characters; half a pair of \\u... is none");
     return value.toString().toStdString();
 }
 
@@ -142,20 +144,21 @@ std::array<double, 4> rectangleOf(const QJsonValue& value)
     bool areNumbers = array.size() == static_cast<int>(sides.size());
     for (std::size_t side = 0; areNumbers && side < sides.size(); ++side) {
         const QJsonValue number = array.at(static_cast<int>(side));
-        areNumbers = number.isDouble();
+        areNumbers = number.isDouble() && std::abs(number.toDouble()) <= pdflibrary::largestNumber;
         sides.at(side) = number.toDouble();
     }
     if (!areNumbers)
-        throw UsageError("openAction of the type FitR needs a rectangle: [left, bottom, right, top]");
+        throw UsageError("openAction of the type FitR needs a rectangle: [left, bottom, right, top], "
+                         "in numbers up to 2147483647");
     return sides;
 }
 
-/// Any percentage: documents have those beyond what viewers show.
+/// Any percentage that a document can have, also those beyond what viewers show.
 double percentOf(const QJsonValue& value)
 {
     const double percent = viewvalues::storedPercent(value.toDouble());
-    if (!(percent > 0))
-        refuse("zoom", value, "a percentage above 0, or null");
+    if (!(percent > 0 && percent <= pdflibrary::largestNumber * 100))
+        refuse("zoom", value, "a percentage above 0, up to 214748364700, or null");
     return percent;
 }
 

@@ -174,6 +174,9 @@ ViewValue title(const Description& entry, const std::string& word)
                     [](QChar each) { return each.category() == QChar::Other_Control; }))
         throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word +
                          "\": it holds control characters, such as line feeds");
+    if (std::any_of(text.begin(), text.end(), [](QChar each) { return each.unicode() >= 0xfffe; }))
+        throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word +
+                         "\": it holds U+FFFE or U+FFFF, which are no characters");
     return word;
 }
 
@@ -219,8 +222,7 @@ std::string wordOf(const Description& entry, int number)
 
 double storedPercent(double percent)
 {
-    const double mostWithPlaces = 1e9; // larger ones may become infinite
-    return percent < mostWithPlaces ? std::round(percent * 1e4) / 1e4 : percent;
+    return std::round(percent * 1e4) / 1e4;
 }
 
 const Name* nameOf(std::span<const Name> names, int number)

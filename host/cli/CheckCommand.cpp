@@ -28,13 +28,13 @@ void CheckCommand::takeOptions(OptionParser& parser)
 int CheckCommand::work(const std::vector<std::string>& words)
 {
     const bool hasInput = DocumentOptions::haveStandardInput(words);
-    m_asked.check(hasInput);
+    m_asked.check();
     m_documents.check(words, m_asked.readsStandardInput());
     m_live.check(m_json ? "--json" : "",
                  hasInput || m_documents.readsStandardInput() || m_asked.readsStandardInput());
     m_documents.read(words);
     Cell cell(m_sandbox);
-    m_asked.read(m_documents.password(), cell);
+    m_asked.read(m_documents.password(), cell, hasInput);
     if (!m_quiet)
         noteMissing(cell, m_sandbox);
     if (!m_quiet)
@@ -45,6 +45,9 @@ int CheckCommand::work(const std::vector<std::string>& words)
         streams.emplace().readInput();
     m_live.begin(name(), m_documents.inputs());
     const RunPlan plan = m_documents.planForReading(m_live.found());
+    if (!m_quiet)
+        for (const std::string& text : plan.notes())
+            note(text);
     const PluginHost plugin(installlayout::pluginFile());
     const CheckTeller::Question question{m_asked.change(), m_asked.entries(), plugin.action(),
                                          m_json || m_live.events() != nullptr};

@@ -25,6 +25,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <new>
 
 namespace host {
 
@@ -59,7 +60,7 @@ int ConfigureCommand::work(const std::vector<std::string>& words)
     readSettings();
     readDocument();
     if (showDialog())
-        return deliver();
+        return deliverOrTell();
     complain("the window was closed without OK: no settings were " +
              std::string(m_output ? "written" : "printed"));
     return exitstatus::someFailed;
@@ -140,7 +141,9 @@ void ConfigureCommand::readDocument()
     if (!m_source.file.empty())
         return;
     m_document.emplace(present);
-    for (const std::string& each : m_document->notes())
+    const bool makesSettings = m_output ? !m_output->isView() : m_all;
+    using Unshown = DialogSettings::Unshown;
+    for (const std::string& each : m_document->notes(makesSettings ? Unshown::Replaced : Unshown::Stays))
         note(std::string(file).append(": ").append(each));
     m_settings = m_document->map();
 }
@@ -165,6 +168,15 @@ bool ConfigureCommand::showDialog()
     for (const QString& report : storereport::take())
         complain(report.toStdString());
     return isAccepted;
+}
+
+/// main would tell that nothing was begun.
+int ConfigureCommand::deliverOrTell()
+try {
+    return deliver();
+} catch (const std::bad_alloc&) {
+    complain("it is out of memory; the settings may have been written or not");
+    return exitstatus::someFailed;
 }
 
 int ConfigureCommand::deliver()
@@ -215,7 +227,9 @@ int ConfigureCommand::printChange() const
 int ConfigureCommand::writeView() const
 {
     const bool isChange = m_document && !m_all;
-    const ViewChange view = isChange ? m_document->changeTo(m_settings) : DialogSettings::viewOf(m_settings);
+    const ViewChange view = isChange     ? m_document->changeTo(m_settings)
+                            : m_document ? m_document->viewShown(m_settings)
+                                         : DialogSettings::viewOf(m_settings);
     if (view.isEmpty()) {
         complain(isChange ? "nothing was changed in the window: no view was written; --all takes everything "
                             "that it shows"

@@ -31,6 +31,7 @@ private:
     void chooseEntry(const StoredSettings& list);
     void readDocument();
     bool showDialog();
+    int deliverOrTell();
     int deliver();
     void leaveOutUnchosen();
     int printSettings() const;

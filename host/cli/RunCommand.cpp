@@ -143,7 +143,7 @@ void RunCommand::takeOptions(OptionParser& parser)
 
 void RunCommand::check() const
 {
-    m_changeOptions.check(hasStandardInput());
+    m_changeOptions.check();
     if (m_options.rewrite && m_options.inPlace)
         throw UsageError("--rewrite goes with -o: in place, the document's own bytes would be gone");
     if (m_options.replace && !m_options.inPlace)
@@ -186,7 +186,7 @@ void RunCommand::readOptions(Cell& cell)
 {
     m_documentOptions.read(m_words);
     m_options.password = m_documentOptions.password();
-    m_changeOptions.read(m_options.password, cell);
+    m_changeOptions.read(m_options.password, cell, hasStandardInput());
     m_options.entries = m_changeOptions.entries();
     m_options.change = m_changeOptions.change();
     for (const std::string& odd : m_changeOptions.notes())
@@ -231,20 +231,26 @@ RunPlan RunCommand::plan(const RunDestination& destination)
     RunPlan plan(destination, m_live.found());
     for (const std::string& input : m_documentOptions.inputs())
         input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input);
-    plan.checkTargets();
-    if (m_reportFile && m_reportFile != Report::standardOutput) {
-        std::vector<std::string> filesRead = m_documentOptions.filesRead();
-        for (const std::string& file : m_changeOptions.filesRead())
-            filesRead.push_back(file);
-        if (m_resumedReport && !continuesReport())
-            filesRead.push_back(*m_resumedReport);
+    const std::vector<std::string> filesRead = this->filesRead();
+    plan.checkTargets(filesRead);
+    if (!m_options.dryRun) // which writes nothing
+        plan.checkCase();
+    if (m_reportFile && m_reportFile != Report::standardOutput)
         plan.checkReport(*m_reportFile, filesRead);
-    }
-    for (const std::string& folder : plan.emptyFolders())
-        note("no PDF documents in " + folder);
-    if (plan.documents().empty() && plan.emptyFolders().empty())
-        note("the list of documents is empty");
+    for (const std::string& text : plan.notes())
+        note(text);
     return plan;
+}
+
+/// But for the documents.
+std::vector<std::string> RunCommand::filesRead() const
+{
+    std::vector<std::string> files = m_documentOptions.filesRead();
+    for (const std::string& file : m_changeOptions.filesRead())
+        files.push_back(file);
+    if (m_resumedReport && !continuesReport())
+        files.push_back(*m_resumedReport);
+    return files;
 }
 
 } // namespace host

@@ -35,6 +35,7 @@ private:
     /// Tells what may be a mistake, unless only failures are to be told.
     void note(const std::string& text) const;
     RunPlan plan(const RunDestination& destination);
+    std::vector<std::string> filesRead() const;
     void begin(Report& report, const RunPlan& plan, const Cell& cell) const;
     /// What --resume leaves out.
     BatchRun::Done doneBefore(const RunPlan& plan) const;

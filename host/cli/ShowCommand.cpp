@@ -48,6 +48,8 @@ int ShowCommand::work(const std::vector<std::string>& words)
         streams.emplace().readInput();
     m_live.begin(name(), m_documents.inputs());
     const RunPlan plan = m_documents.planForReading(m_live.found());
+    for (const std::string& text : plan.notes())
+        note(text);
     ShowTeller::Form form = ShowTeller::Words();
     if (m_json || m_live.events() != nullptr)
         form = ShowTeller::Json();

@@ -41,6 +41,13 @@ ViewValue PresentView::operator[](ViewEntry entry) const
     return value;
 }
 
+Magnification PresentView::magnification() const
+{
+    const ViewValue value = (*this)[ViewEntry::Zoom];
+    const auto* zoom = std::get_if<Magnification>(&value);
+    return zoom == nullptr || zoom->type == 0 || zoom->percent < 0 ? Magnification() : *zoom;
+}
+
 ViewValue PresentView::shownTitle() const
 {
     const ViewValue title = (*this)[ViewEntry::Title];
@@ -79,6 +86,8 @@ ViewChange PresentView::asChange() const
             change.set(each.entry, Unset());
     if (change[ViewEntry::Zoom] == ViewValue(Unset()))
         change.remove(ViewEntry::Zoom);
+    else
+        change.set(ViewEntry::Zoom, magnification());
     return change;
 }
 

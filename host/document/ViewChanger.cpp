@@ -142,7 +142,7 @@ void ViewChanger::openAt(int page)
     if (const std::optional<ViewValue>& zoom = m_change[ViewEntry::Zoom])
         openAt(page, std::get<Magnification>(*zoom));
     else if (m_present[ViewEntry::OpenPage] != ViewValue(page))
-        openAt(page, presentZoom());
+        openAt(page, m_present.magnification());
 }
 
 /// An action of the same type is taken for the same.
@@ -151,13 +151,6 @@ void ViewChanger::leaveOpenAction(const OtherAction& wanted)
     if (m_present[ViewEntry::OpenPage] != ViewValue(wanted))
         m_leftOut = {ReasonCode::OpenAction,
                      "it does not open with " + typeOfAction(wanted) + ", which cannot be given to it"};
-}
-
-/// What documents have that can be given to no page becomes what viewers make of it.
-Magnification ViewChanger::presentZoom() const
-{
-    const Magnification zoom = magnificationFrom(m_present[ViewEntry::Zoom]);
-    return zoom.type == 0 || zoom.percent < 0 ? Magnification() : zoom;
 }
 
 int ViewChanger::wantedPage() const
@@ -221,9 +214,12 @@ void ViewChanger::setDestination(int page, const Magnification& zoom)
 
 void ViewChanger::changeTitle(const ViewValue& wanted)
 {
+    if (m_change.keepsTitles() && m_present.hasTitle())
+        return;
     const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
     require(m_library.LastErrorCode() == 0 ? 1 : 0, ViewEntry::Title);
-    if (m_change.keepsTitles() && m_present.hasTitle())
+    // In the metadata alone it is the one that viewers find, and that is told of the document.
+    if (m_present[ViewEntry::Title] == ViewValue(Unset()) && m_present.shownTitle() == wanted)
         return;
     changeEntry(ViewEntry::Title, wanted);
     if (!packet.isEmpty())
@@ -241,7 +237,7 @@ void ViewChanger::changeMetadata(const QString& packet, const ViewValue& title)
         throw DocumentError(
             {ReasonCode::Metadata, xmptitle::canBeWritten(text)
                                        ? "the title in its XMP metadata cannot be changed"
-                                       : "its XMP metadata cannot hold the title's control characters"});
+                                       : "its XMP metadata cannot hold some of the title's characters"});
     if (*changed == packet)
         return;
     require(m_library.SetDocumentMetadata(changed->toStdWString()), ViewEntry::Title);

@@ -52,7 +52,6 @@ private:
     void openAt(int page);
     void openAt(int page, const Magnification& zoom);
     void setDestination(int page, const Magnification& zoom);
-    Magnification presentZoom() const;
     int wantedPage() const;
     void changeTitle(const ViewValue& wanted);
     void changeMetadata(const QString& packet, const ViewValue& title);

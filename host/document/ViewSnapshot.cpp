@@ -34,8 +34,11 @@ ViewSnapshot::ViewSnapshot(TelvarPDFLibraryCPDylibCPP1311& library, bool withMet
             value(each.entry) = view[each.entry];
         } catch (const std::runtime_error&) { // left out
         }
-    if (withMetadata)
+    if (withMetadata) {
         m_titleInMetadata = view.titleInMetadata();
+        if (value(ViewEntry::Title) == ViewValue(Unset())) // a viewer finds the other one
+            value(ViewEntry::Title) = m_titleInMetadata;
+    }
     if (!value(ViewEntry::OpenPage) || !value(ViewEntry::Zoom))
         value(ViewEntry::OpenPage) = value(ViewEntry::Zoom) = std::nullopt;
 }

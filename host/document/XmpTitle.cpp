@@ -4,6 +4,7 @@
 #include <QXmlStreamWriter>
 
 #include <algorithm>
+#include <vector>
 
 namespace host::xmptitle {
 
@@ -40,7 +41,7 @@ public:
                 endElement(text.midRef(m_token.begin, 2) == QLatin1String("</"));
             else if (m_reader.isDTD())
                 m_odd = true; // no offset is right behind entities that it declares
-            else if (m_reader.isCharacters() && m_inItem)
+            else if (m_reader.isCharacters() && (m_inItem || m_depth == m_titleDepth))
                 m_text += m_reader.text();
         }
     }
@@ -48,9 +49,11 @@ public:
     /// Whether it can be read to its end, has a place for a title, and holds nothing that cannot be changed.
     bool isUsable() const { return !m_reader.hasError() && m_rdfEnd >= 0 && !m_odd; }
 
-    /// dc:title with its tags.
-    Span title() const { return m_title; }
-    /// The item that counts, with its tags.
+    /// Each dc:title of the document with its tags, and which of them counts.
+    const std::vector<Span>& titles() const { return m_titles; }
+    std::size_t countingTitle() const { return m_countingTitle; }
+    bool hasText() const { return !m_itemText.isNull(); }
+    /// The item that counts, with its tags; not found where the title is plain text.
     Span item() const { return m_item; }
     QString language() const { return m_language; }
     QString text() const { return m_itemText; }
@@ -72,9 +75,15 @@ private:
         m_odd = m_odd || attributes.hasAttribute(dublinCore, "title");
         if (isAt(rdf, "Description") && m_about.isEmpty())
             m_about = attributes.value(rdf, "about").toString();
-        if (isAt(dublinCore, "title") && !m_title.isFound()) {
-            m_title.begin = m_token.begin;
+        if (isAt(rdf, "RDF") && m_rdfDepth == 0)
+            m_rdfDepth = m_depth;
+        m_isPlain = false;
+        // Deeper ones are of what the document is made of.
+        if (isAt(dublinCore, "title") && m_rdfDepth > 0 && m_depth == m_rdfDepth + 2) {
+            m_titles.push_back({m_token.begin, -1});
             m_titleDepth = m_depth;
+            m_isPlain = true;
+            m_text.clear();
         } else if (m_titleDepth > 0 && isAt(rdf, "li")) {
             m_inItem = true;
             m_text.clear();
@@ -88,31 +97,46 @@ private:
     {
         if (m_inItem && isAt(rdf, "li"))
             endItem();
-        else if (m_titleDepth == m_depth) {
-            m_title.end = m_token.end;
-            m_titleDepth = 0;
-        } else if (isAt(rdf, "RDF") && hasTag)
+        else if (m_titleDepth == m_depth)
+            endTitle();
+        else if (isAt(rdf, "RDF") && hasTag)
             m_rdfEnd = m_token.begin;
         --m_depth;
     }
 
-    /// The first item counts until one in the default language is met.
+    void endTitle()
+    {
+        m_titles.back().end = m_token.end;
+        m_titleDepth = 0;
+        if (m_isPlain && !hasText() && !m_text.trimmed().isEmpty()) {
+            m_countingTitle = m_titles.size() - 1;
+            m_itemText = m_text;
+        }
+    }
+
+    /// The first title with an item counts, and in it the first item until one in the default language is met.
     void endItem()
     {
         m_inItem = false;
-        if (m_item.isFound() && (m_language == defaultLanguage || m_itemLanguage != defaultLanguage))
+        const std::size_t title = m_titles.size() - 1;
+        if (hasText() &&
+            (title != m_countingTitle || m_language == defaultLanguage || m_itemLanguage != defaultLanguage))
             return;
+        m_countingTitle = title;
         m_item = {m_itemBegin, m_token.end};
         m_language = m_itemLanguage;
-        m_itemText = m_text;
+        m_itemText = m_text.isNull() ? QString("") : m_text;
     }
 
     QXmlStreamReader m_reader;
     Span m_token;
     int m_depth = 0;
-    Span m_title;
-    int m_titleDepth = 0; ///< Of dc:title while the reader is in it, else 0.
-    bool m_odd = false;   ///< Holds what cannot be changed.
+    int m_rdfDepth = 0; ///< Of rdf:RDF once it was met.
+    std::vector<Span> m_titles;
+    std::size_t m_countingTitle = 0;
+    int m_titleDepth = 0;   ///< Of dc:title while the reader is in it, else 0.
+    bool m_isPlain = false; ///< It has no element in it so far.
+    bool m_odd = false;     ///< Holds what cannot be changed.
     bool m_inItem = false;
     int m_itemBegin = 0;
     QString m_itemLanguage;
@@ -184,15 +208,16 @@ QString replaced(const QString& packet, const Span& span, const QString& text)
 
 bool canBeWritten(const QString& title)
 {
-    return std::all_of(title.begin(), title.end(), [](QChar each) {
-        return each.unicode() >= 0x20 || each == '\t' || each == '\n' || each == '\r';
-    });
+    return title.isValidUtf16() && std::all_of(title.begin(), title.end(), [](QChar each) {
+               return (each.unicode() >= 0x20 && each.unicode() < 0xfffe) || each == '\t' || each == '\n' ||
+                      each == '\r';
+           });
 }
 
 std::optional<QString> read(const QString& packet)
 {
     const Packet parsed(packet);
-    return parsed.isUsable() && parsed.item().isFound() ? std::optional(parsed.text()) : std::nullopt;
+    return parsed.isUsable() && parsed.hasText() ? std::optional(parsed.text()) : std::nullopt;
 }
 
 std::optional<QString> write(const QString& packet, const QString& title)
@@ -200,15 +225,20 @@ std::optional<QString> write(const QString& packet, const QString& title)
     const Packet parsed(packet);
     if (!parsed.isUsable() || !canBeWritten(title))
         return std::nullopt;
-    if (title.isEmpty())
-        return parsed.title().isFound() ? replaced(packet, parsed.title(), {}) : packet;
-    if (parsed.item().isFound() && parsed.text() == title)
+    if (parsed.hasText() && !title.isEmpty() && parsed.text() == title)
         return packet;
-    if (parsed.item().isFound())
-        return replaced(packet, parsed.item(), itemFragment(parsed.language(), title));
-    if (parsed.title().isFound())
-        return replaced(packet, parsed.title(), titleFragment(title));
-    return replaced(packet, {parsed.rdfEnd(), parsed.rdfEnd()}, descriptionFragment(parsed.about(), title));
+    QString text = packet;
+    const std::vector<Span>& titles = parsed.titles();
+    if (titles.empty() && !title.isEmpty())
+        return replaced(text, {parsed.rdfEnd(), parsed.rdfEnd()}, descriptionFragment(parsed.about(), title));
+    for (std::size_t place = titles.size(); place-- > 0;) // from behind, so that the spans stay right
+        if (place != parsed.countingTitle() || title.isEmpty())
+            text = replaced(text, titles[place], {});
+        else if (parsed.item().isFound())
+            text = replaced(text, parsed.item(), itemFragment(parsed.language(), title));
+        else
+            text = replaced(text, titles[place], titleFragment(title));
+    return text;
 }
 
 } // namespace host::xmptitle

@@ -163,7 +163,8 @@ std::string program()
            "\\-version\n.Sh DESCRIPTION\n" +
            sentences(
                "Changes the panel beside the page, the page layout, the page and magnification of the first "
-               "view, and what the window shows, for single documents and whole folders. The commands are:") +
+               "view, and what the window shows, for single documents and whole folders. This is "
+               "version " QUINTAR_VERSION ". The commands are:") +
            list(commandItems) + exitSection(options::command(options::CommandId::Run).exitStatuses) +
            examplesSection(examples) + seeAlso(nullptr);
 }

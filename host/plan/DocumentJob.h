@@ -27,6 +27,8 @@ const char* nameOf(Saved saved);
 /// One document to work on. Paths are bytes; both are absolute or relative to the current folder.
 struct DocumentJob
 {
+    /// As the user named it, which a link may have made another name than the source's.
+    std::string name;
     std::string source;
     std::string target;
     /// Where the new file is written before it takes the target's place; beside the target.

@@ -1,5 +1,6 @@
 #include "RunPlan.h"
 
+#include "CaseOfNames.h"
 #include "FolderWalk.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/Links.h"
@@ -118,7 +119,17 @@ std::string RunPlan::targetOf(const std::string& path)
     return target;
 }
 
-void RunPlan::checkTargets() const
+std::vector<std::string> RunPlan::notes() const
+{
+    std::vector<std::string> notes;
+    for (const std::string& folder : m_emptyFolders)
+        notes.push_back("no PDF documents in " + folder);
+    if (m_documents.empty() && m_emptyFolders.empty())
+        notes.emplace_back("the list of documents is empty");
+    return notes;
+}
+
+void RunPlan::checkTargets(const std::vector<std::string>& filesRead) const
 {
     if (const std::string& file = m_destination.onlyFile(); !file.empty() && m_documents.size() > 1)
         throw UsageError("-o " + file + " takes one document, not " + std::to_string(m_documents.size()) +
@@ -136,11 +147,41 @@ void RunPlan::checkTargets() const
     }
     if (m_destination.isInPlace())
         return;
-    for (const auto& [id, document] : m_existingOutputs)
+    checkOverwriting(filesRead);
+}
+
+void RunPlan::checkOverwriting(const std::vector<std::string>& filesRead) const
+{
+    std::map<FileId, const std::string*> otherInputs;
+    struct stat status;
+    for (const std::string& file : filesRead)
+        if (stat(file.c_str(), &status) == 0)
+            otherInputs.emplace(idOf(status), &file);
+    for (const auto& [id, document] : m_existingOutputs) {
         if (const auto input = m_inputs.find(id); input != m_inputs.end())
             throw UsageError("the output of " + m_documents[document].name +
                              " would overwrite the document " + m_documents[input->second].name +
                              (input->second == document ? "; --in-place says that this is wanted" : ""));
+        if (const auto other = otherInputs.find(id); other != otherInputs.end())
+            throw UsageError("the output of " + m_documents[document].name +
+                             " would overwrite what this run reads, " + *other->second);
+    }
+}
+
+void RunPlan::checkCase() const
+{
+    CaseOfNames names;
+    std::map<std::string, std::vector<const Document*>> targets;
+    for (const Document& document : m_documents) {
+        if (document.problem || m_destination.isInPlace())
+            continue;
+        std::vector<const Document*>& alike = targets[CaseOfNames::folded(document.target)];
+        for (const Document* other : alike)
+            if (names.areTheSame(other->target, document.target))
+                throw UsageError(other->name + " and " + document.name + " would have the same output, " +
+                                 document.target + ", for the case of names does not count there");
+        alike.push_back(&document);
+    }
 }
 
 void RunPlan::checkReport(const std::string& path, const std::vector<std::string>& filesRead) const

@@ -42,16 +42,20 @@ public:
     void addStandardInput();
 
     /// Throws UsageError when two documents would have the same output, or an output would overwrite an
-    /// input.
-    void checkTargets() const;
+    /// input or another file that the run reads.
+    void checkTargets(const std::vector<std::string>& filesRead = {}) const;
+
+    /// Throws UsageError when two documents would have the same output where the case of names does not count. Makes
+    /// a file there for a moment where names differ in case only.
+    void checkCase() const;
 
     /// Throws UsageError when the report would overwrite one of the documents, their outputs or other files
     /// that the run reads, or be overwritten by an output.
     void checkReport(const std::string& path, const std::vector<std::string>& filesRead) const;
 
     const std::vector<Document>& documents() const { return m_documents; }
-    /// Folders in which there was nothing to do.
-    const std::vector<std::string>& emptyFolders() const { return m_emptyFolders; }
+    /// What may be a mistake: folders in which there was nothing to do, and a list without documents.
+    std::vector<std::string> notes() const;
 
 private:
     /// Device and number.
@@ -62,6 +66,7 @@ private:
     Failure whyMissing(const std::string& path, int problem);
     void append(Document document);
     std::string targetOf(const std::string& path);
+    void checkOverwriting(const std::vector<std::string>& filesRead) const;
     static FileId idOf(const struct stat& status) { return {status.st_dev, status.st_ino}; }
 
     RunDestination m_destination;

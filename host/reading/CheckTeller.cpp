@@ -51,7 +51,9 @@ Reading CheckTeller::tell(const std::string& file)
     }
     if (good)
         return {Reading::Good, {}, trial.note};
-    std::string text = trial.reason ? trial.reason.text : before.changeTo(after);
+    std::string text = before.changeTo(after);
+    if (trial.reason)
+        text = trial.reason.text + (text.empty() ? "" : "; ") + text;
     if (text.empty())
         text = trial.details.empty() ? otherPlace : trial.details;
     return {Reading::Differs, forTerminal(shownName(file)) + ": " + forTerminal(text) + "\n", trial.note,

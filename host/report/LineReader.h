@@ -7,8 +7,8 @@
 
 namespace host {
 
-/// Reads an open file line by line, with bounded memory. A last line without its line feed was cut off and is
-/// no line.
+/// Reads an open file line by line, with bounded memory. A last line without its line feed may have been cut off
+/// and is no line.
 class LineReader
 {
 public:
@@ -19,6 +19,9 @@ public:
     /// The next line with its line feed, valid until the next call; nothing at the end. Throws
     /// std::runtime_error when the file cannot be read or a line is too long.
     std::optional<std::string_view> next();
+
+    /// Once there is no next line, what stands behind the last line feed.
+    std::string_view rest() const { return std::string_view(m_waiting).substr(m_begin); }
 
     /// The number of the line that came last, from 1.
     std::size_t number() const { return m_number; }

@@ -90,14 +90,14 @@ int BatchRun::run(const WorkerPool::Limits& limits)
         removeLeftovers();
     try {
         runJobs(plugin.action(), libraryFile, limits);
-    } catch (const std::bad_alloc&) { // main would tell that nothing was begun
         m_progress.reset();
-        complainInLines("the run ended early, for it is out of memory; some documents may have been changed");
+        sumUp();
+        return exitStatus();
+    } catch (const std::bad_alloc&) {
+        m_progress.reset();
+        complainOfEarlyEnd();
         return exitstatus::someFailed;
     }
-    m_progress.reset();
-    sumUp();
-    return exitStatus();
 }
 
 void BatchRun::planJobs()
@@ -125,7 +125,8 @@ DocumentJob BatchRun::jobFor(const RunPlan::Document& document) const
     const std::string target = isOutput ? m_setup.streams->result() : document.target;
     // In place, the library opens what links lead to: the file that is about to be replaced.
     const std::string& source = m_options.inPlace ? target : document.name;
-    return {isInput ? m_setup.streams->document() : source, target, SafeOutput::temporaryNameFor(target)};
+    return {document.name, isInput ? m_setup.streams->document() : source, target,
+            SafeOutput::temporaryNameFor(target)};
 }
 
 void BatchRun::removeLeftovers() const
@@ -189,11 +190,13 @@ void BatchRun::jobEnded(std::size_t job, const WorkOutcome& outcome)
 /// The worker may have put the change in place before it ended.
 void BatchRun::jobLost(std::size_t job, const WorkOutcome& outcome)
 {
+    std::optional<DocumentResult> result;
     if (const auto placement = Placement::fromRecord(outcome.note))
-        if (const auto result = placement->settle(m_jobs[job].target, outcome.failure, m_options.flush))
-            return documentEnded(m_documentOfJob[job], *result);
+        result = placement->settle(m_jobs[job].target, outcome.failure, m_options.flush);
     SafeOutput::removeTemporary(m_jobs[job].temporary);
-    if (outcome.kind == WorkOutcome::Lost)
+    if (result)
+        documentEnded(m_documentOfJob[job], *result);
+    else if (outcome.kind == WorkOutcome::Lost)
         documentEnded(m_documentOfJob[job], DocumentResult::failed(outcome.failure));
 }
 

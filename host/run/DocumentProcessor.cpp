@@ -124,7 +124,7 @@ DocumentResult DocumentProcessor::applyAndSave(const DocumentJob& job)
 {
     if (m_options.tellChanges)
         m_viewBefore.emplace(m_library, m_options.change[ViewEntry::Title].has_value());
-    if (const Failure reason = apply(job.source); reason)
+    if (const Failure reason = apply(job.name); reason)
         return DocumentResult::failed(reason);
     if (m_library.SecurityInfo(engine::UnsavedChanges) == 0)
         return m_options.inPlace || m_options.dryRun ? leave() : copy(job);
@@ -305,19 +305,21 @@ DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& 
 {
     const FileDescriptor source = openRegularFile(job.source);
     if (!source.isOpen())
-        return sourceChanged();
+        return notAsRead();
     if (m_options.inPlace && lockDocument(source.get()) == DocumentLock::Held)
         return DocumentResult::failed(documentLocked);
     if (const Failure problem = tellWhatStoodBefore(result, source.get()); problem)
         return DocumentResult::failed(problem);
     if (!isAsRead(source.get(), job.source, m_original))
-        return sourceChanged();
+        return notAsRead();
     const auto beforeRename = [&](const struct stat& finished, const std::string& note) {
         result.milliseconds = millisecondsTaken();
         result.note = notesWith(note);
         tellStates(result, finished);
         (*m_beforePlacement)({result, finished});
     };
+    if (m_options.inPlace)
+        output.replaceOnly(m_original);
     const auto take = m_options.inPlace ? FileAttributes::Take::All : FileAttributes::Take::ForCopy;
     const FileAttributes attributes =
         m_options.keepsAttributes ? FileAttributes(source.get(), take) : FileAttributes::ofNewFile();
@@ -342,9 +344,12 @@ DocumentResult DocumentProcessor::notAppended(int code)
     return DocumentResult::failed(whyNotAppended(code));
 }
 
-DocumentResult DocumentProcessor::sourceChanged()
+/// A document that has gone, or is another one, was changed; what else errno tells kept it from being looked at.
+DocumentResult DocumentProcessor::notAsRead()
 {
-    return DocumentResult::failed(Failure::ofLibrary(int(engine::ErrorCode::SourceChanged)));
+    const bool isChanged = errno == 0 || errno == ENOENT || errno == ENOTDIR;
+    return DocumentResult::failed(isChanged ? Failure::ofLibrary(int(engine::ErrorCode::SourceChanged))
+                                            : Failure::ofSystem(errno, ReasonCode::ReadFailed));
 }
 
 DocumentResult DocumentProcessor::libraryFailure(const std::string& what)

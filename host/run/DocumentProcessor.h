@@ -103,7 +103,7 @@ private:
     DocumentResult rewrite(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);
     DocumentResult commit(SafeOutput& output, const DocumentJob& job, DocumentResult result);
-    static DocumentResult sourceChanged();
+    static DocumentResult notAsRead();
     DocumentResult notAppended(int code);
     DocumentResult libraryFailure(const std::string& what = {});
 

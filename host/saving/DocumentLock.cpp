@@ -34,8 +34,12 @@ bool isAsRead(int file, const std::string& path, const struct stat& asRead)
 {
     struct stat named;
     struct stat opened;
-    return stat(path.c_str(), &named) == 0 && fstat(file, &opened) == 0 && isSameState(named, opened) &&
-           isSameState(opened, asRead);
+    errno = 0;
+    if (stat(path.c_str(), &named) != 0 || fstat(file, &opened) != 0) {
+        errno = errno == ENOENT || errno == ENOTDIR ? 0 : errno; // it has gone
+        return false;
+    }
+    return isSameState(named, opened) && isSameState(opened, asRead);
 }
 
 } // namespace host

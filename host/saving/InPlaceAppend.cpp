@@ -23,6 +23,12 @@ Failure cannotWrite()
     return Failure::ofSystem(errno, ReasonCode::WriteFailed);
 }
 
+/// Why the document does not count as this object left it.
+Failure notAsLeft()
+{
+    return errno == 0 ? changedMeanwhile() : Failure::ofSystem(errno, ReasonCode::ReadFailed);
+}
+
 const char overlooked[] = "bytes that viewers pass over are left behind its end";
 
 /// Texts of which each may be empty.
@@ -50,11 +56,13 @@ std::string_view InPlaceAppend::withoutLastLines(std::string_view update)
 InPlaceAppend::Outcome InPlaceAppend::perform()
 {
     if (!isAsLeft())
-        return {changedMeanwhile()};
+        return {notAsLeft()};
     if (!write(m_begin))
         return failed(cannotWrite());
-    if (m_left.st_size != endOf(m_begin) || !isAsLeft() || !isUntouched())
-        return {changedMeanwhile(), leftOver()};
+    if (!isAsLeft())
+        return failed(notAsLeft());
+    if (m_left->st_size != endOf(m_begin) || !isUntouched())
+        return failed(changedMeanwhile());
     if (!write(m_update.substr(m_begin.size())))
         return failed(cannotWrite());
     return {};
@@ -62,24 +70,47 @@ InPlaceAppend::Outcome InPlaceAppend::perform()
 
 bool InPlaceAppend::write(std::string_view bytes)
 {
-    const bool written = m_file.append(bytes);
-    const int problem = errno;
-    fstat(m_file.get(), &m_left);
-    errno = problem;
-    return written && m_file.flush();
+    if (!m_file.append(bytes)) {
+        const int problem = errno;
+        look();
+        errno = problem;
+        return false;
+    }
+    return look() && m_file.flush();
+}
+
+bool InPlaceAppend::look()
+{
+    struct stat now;
+    const bool seen = fstat(m_file.get(), &now) == 0;
+    m_left = seen ? std::optional(now) : std::nullopt;
+    return seen;
 }
 
 bool InPlaceAppend::isAsLeft() const
 {
-    return isAsRead(m_file.get(), m_file.path(), m_left);
+    return isAsRead(m_file.get(), m_file.path(), *m_left);
 }
 
 /// Programs may set a document's time back to what it was; they cannot set the time of that.
 bool InPlaceAppend::isUntouched() const
 {
     struct stat now;
-    return fstat(m_file.get(), &now) == 0 && now.st_ctim.tv_sec == m_left.st_ctim.tv_sec &&
-           now.st_ctim.tv_nsec == m_left.st_ctim.tv_nsec;
+    return fstat(m_file.get(), &now) == 0 && now.st_ctim.tv_sec == m_left->st_ctim.tv_sec &&
+           now.st_ctim.tv_nsec == m_left->st_ctim.tv_nsec;
+}
+
+/// Wherever its path leads by now. Moving it is a change of the file, too, but not of what stands in it.
+bool InPlaceAppend::isFileAsLeft() const
+{
+    if (!m_left)
+        return true;
+    struct stat now;
+    struct stat named;
+    if (fstat(m_file.get(), &now) != 0 || !isSameState(now, *m_left))
+        return false;
+    const bool isMoved = stat(m_file.path().c_str(), &named) != 0 || !isSameFile(named, now);
+    return isMoved || isUntouched();
 }
 
 /// What another program has left of the update in the document, in words.
@@ -94,7 +125,7 @@ std::string InPlaceAppend::leftOver() const
 
 InPlaceAppend::Outcome InPlaceAppend::settle(const Failure& why)
 {
-    fstat(m_file.get(), &m_left); // nobody can tell how the other process left it
+    m_left.reset(); // nobody can tell how the other process left it
     if (!isAll(found()))
         return failed(why);
     const std::string problem = m_file.flush() ? "" : systemError(errno);
@@ -106,8 +137,10 @@ InPlaceAppend::Outcome InPlaceAppend::failed(const Failure& why) const
     const Found found = this->found();
     if (!found.problem.empty())
         return {why, "what stands behind its end cannot be read: " + found.problem};
-    if (!found.isOfUpdate || !isAsLeft() || !isUntouched())
-        return {why, joined(changedMeanwhile().text, leftOver())};
+    if (!found.isOfUpdate || !isFileAsLeft()) {
+        const bool isTold = why.code == ReasonCode::ChangedMeanwhile;
+        return {why, joined(isTold ? "" : changedMeanwhile().text, leftOver())};
+    }
     return isNothing(found) ? Outcome{why} : cutBack(found, why);
 }
 

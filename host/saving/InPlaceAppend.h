@@ -38,8 +38,8 @@ public:
         Failure whole() const;
     };
 
-    /// On failure the document is cut back, unless another program has changed it meanwhile: then it is left
-    /// as that program left it.
+    /// On failure the document is cut back, wherever its path leads by then, unless another program has changed it
+    /// meanwhile: then it is left as that program left it.
     Outcome perform();
 
     /// Brings to an end what a process has begun that is no more: cuts half an update off, and flushes a
@@ -60,8 +60,12 @@ private:
 
     /// \returns false, with errno set, on failure.
     bool write(std::string_view bytes);
+    /// \returns false, with errno set or 0 for a change, when another program has been there.
     bool isAsLeft() const;
     bool isUntouched() const;
+    bool isFileAsLeft() const;
+    /// Takes the document's state for the one that this object left it in. \returns false, with errno set, on failure.
+    bool look();
     std::string leftOver() const;
     Found found() const;
     static bool isNothing(const Found& found) { return found.isOfUpdate && found.size == 0; }
@@ -75,7 +79,8 @@ private:
     const struct stat m_before;
     std::string_view m_update;
     std::string_view m_begin; ///< Without the last lines.
-    struct stat m_left;       ///< As this object left the document last.
+    std::optional<struct stat>
+        m_left; ///< As this object left the document last; nothing when that is not known.
 };
 
 } // namespace host

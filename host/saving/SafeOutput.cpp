@@ -3,6 +3,9 @@
 #include "FileAttributes.h"
 #include "host/files/DiskFlush.h"
 #include "host/files/FileDescriptor.h"
+#include "host/files/FileState.h"
+
+#include "pdflibrary/ErrorCodes.h"
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -137,13 +140,39 @@ SafeOutput::Outcome SafeOutput::commit(const FileAttributes& attributes, bool fl
     std::string note = inWords(notKept);
     if (beforeRename)
         beforeRename(finished, note);
-    if (rename(m_temporary.c_str(), m_target.c_str()) != 0 && !isInPlace(file.get()))
-        return failed();
+    if (!putInPlace(file.get()))
+        return errno == 0 ? Outcome{Failure::ofLibrary(int(engine::ErrorCode::SourceChanged)), {}} : failed();
     m_committed = true;
     if (flush && !flushFolder(folderOf(m_target), file.get()))
         note += (note.empty() ? "" : "; ") +
                 ("it may not survive a power failure: its folder cannot be flushed: " + systemError(errno));
     return {{}, note};
+}
+
+/// \returns false with errno set on failure, and with 0 when another program has changed the target.
+bool SafeOutput::putInPlace(int file)
+{
+    const auto isDone = [&](bool told) { return told || isInPlace(file); };
+    if (!m_replaced)
+        return isDone(rename(m_temporary.c_str(), m_target.c_str()) == 0);
+    if (!isDone(exchange())) {
+        const bool isUnknown = errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+        return isUnknown && isDone(rename(m_temporary.c_str(), m_target.c_str()) == 0);
+    }
+    struct stat replaced;
+    const bool isAsKnown = lstat(m_temporary.c_str(), &replaced) == 0 && isSameState(replaced, *m_replaced);
+    if (!isAsKnown && exchange()) {
+        errno = 0;
+        return false;
+    }
+    if (isAsKnown)
+        removeTemporary(m_temporary);
+    return true;
+}
+
+bool SafeOutput::exchange() const
+{
+    return renameat2(AT_FDCWD, m_temporary.c_str(), AT_FDCWD, m_target.c_str(), RENAME_EXCHANGE) == 0;
 }
 
 /// A rename over a network can be reported as failed although it was done.

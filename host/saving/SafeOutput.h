@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,10 @@ public:
     /// noted: after a power failure the old file may be there.
     Outcome commit(const FileAttributes& attributes, bool flush, const BeforeRename& beforeRename = {});
 
+    /// The target is replaced only while it is like this. What another program has put there at the last moment gets
+    /// its place back; but not where the file system cannot exchange two files, as those on networks.
+    void replaceOnly(const struct stat& state) { m_replaced = state; }
+
     /// Waits until a file that was renamed to the target by another process is on the disk under its name.
     /// \returns false on failure.
     static bool flushPlaced(const std::string& target);
@@ -62,10 +67,13 @@ public:
     static void removeLeftovers(const std::string& folder);
 
 private:
+    bool putInPlace(int file);
+    bool exchange() const;
     bool isInPlace(int file) const;
 
     std::string m_target;
     std::string m_temporary;
+    std::optional<struct stat> m_replaced;
     bool m_committed = false;
 };
 

@@ -91,7 +91,19 @@ DialogSettings::DialogSettings(const ViewChange& present) : m_present(present)
     m_map.insert(key::PageLayout, number(ViewEntry::PageLayout, pdflibrary::NoPageLayout));
     showOpenAction();
     showPreferences();
+    noteInvalid();
     noteHidden();
+}
+
+std::vector<std::string> DialogSettings::notes(Unshown unshown) const
+{
+    std::vector<std::string> notes;
+    for (const Note& each : m_notes)
+        notes.push_back(each.what + (each.unless.empty() ? ""
+                                     : unshown == Unshown::Replaced
+                                         ? "; the settings that OK makes replace it"
+                                         : "; it stays unless " + each.unless));
+    return notes;
 }
 
 int DialogSettings::number(ViewEntry entry, int absent) const
@@ -108,6 +120,12 @@ void DialogSettings::showPageMode()
     const ViewEntry panel = isFullScreen ? ViewEntry::NonFullScreenPageMode : ViewEntry::PageMode;
     m_map.insert(key::NavigationTab, rowOfPageMode(number(panel, pdflibrary::PageOnly)));
     m_map.insert(key::OpenInFullScreen, isFullScreen);
+    const int after = number(ViewEntry::NonFullScreenPageMode, noRow);
+    if (!isFullScreen && after != noRow && after != number(ViewEntry::PageMode, pdflibrary::PageOnly))
+        m_notes.push_back({"the window cannot show its panel after full screen, " +
+                               viewvalues::wordOf(ViewEntry::NonFullScreenPageMode, after),
+                           "full screen and another panel are chosen",
+                           {ViewEntry::NonFullScreenPageMode}});
 }
 
 void DialogSettings::showOpenAction()
@@ -122,15 +140,18 @@ void DialogSettings::showOpenAction()
     m_map.insert(key::Magnification, row);
     m_map.insert(key::OpenToPage, std::clamp(page, firstPage, lastPage));
     if (other != nullptr)
-        m_notes.push_back(
-            "it opens with an action (" + other->type +
-            ") that the window cannot show; it stays unless a magnification or another page is chosen");
+        m_notes.push_back({"it opens with an action (" + other->type + ") that the window cannot show",
+                           "a magnification or another page is chosen",
+                           {ViewEntry::OpenPage, ViewEntry::Zoom}});
     else if (row == noRow)
-        m_notes.push_back("the window has no row for its magnification, " +
-                          viewvalues::wordOf(ViewEntry::Zoom, *zoom) + "; it stays unless one is chosen");
+        m_notes.push_back(
+            {"the window has no row for its magnification, " + viewvalues::wordOf(ViewEntry::Zoom, *zoom),
+             "one is chosen",
+             {ViewEntry::Zoom}});
     if (page > lastPage)
-        m_notes.push_back("the window cannot show its opening page, " + std::to_string(page) +
-                          "; it stays unless another is chosen");
+        m_notes.push_back({"the window cannot show its opening page, " + std::to_string(page),
+                           "another is chosen",
+                           {ViewEntry::OpenPage}});
 }
 
 void DialogSettings::showPreferences()
@@ -142,6 +163,22 @@ void DialogSettings::showPreferences()
     }
 }
 
+/// The dialog shows it as if it were missing.
+void DialogSettings::noteInvalid()
+{
+    Note note{"what it has is invalid: ", "another is chosen", {}};
+    for (const viewentries::Description& each : viewentries::all()) {
+        const bool isHidden =
+            std::find(hiddenEntries.begin(), hiddenEntries.end(), each.entry) != hiddenEntries.end();
+        if (isHidden || m_present[each.entry] != ViewValue(Invalid()))
+            continue;
+        note.what += (note.entries.empty() ? "" : ", ") + viewentries::label(each.entry);
+        note.entries.push_back(each.entry);
+    }
+    if (!note.entries.empty())
+        m_notes.push_back(std::move(note));
+}
+
 void DialogSettings::noteHidden()
 {
     std::string list;
@@ -150,7 +187,8 @@ void DialogSettings::noteHidden()
             list += (list.empty() ? "" : ", ") + viewentries::label(each) + " (" +
                     viewvalues::told(each, *value) + ")";
     if (!list.empty())
-        m_notes.push_back("the window does not show everything that it has, and leaves it: " + list);
+        m_notes.push_back(
+            {"the window does not show everything that it has, and leaves it: " + list, {}, {}});
 }
 
 ViewChange DialogSettings::changeTo(const SettingsMap& chosen) const
@@ -163,10 +201,24 @@ ViewChange DialogSettings::changeTo(const SettingsMap& chosen) const
     ViewChange shown = viewOf(m_map);
     shown.set(ViewEntry::NonFullScreenPageMode,
               number(ViewEntry::NonFullScreenPageMode, pdflibrary::PageOnly));
+    const bool isPanelChosen = settings.value(key::NavigationTab) != m_map.value(key::NavigationTab);
+    if (!isPanelChosen && number(ViewEntry::NonFullScreenPageMode, noRow) != noRow)
+        change.remove(ViewEntry::NonFullScreenPageMode); // full screen alone was chosen
     for (const viewentries::Description& each : viewentries::all())
         if (change[each.entry] == shown[each.entry])
             change.remove(each.entry);
     return change;
+}
+
+ViewChange DialogSettings::viewShown(const SettingsMap& chosen) const
+{
+    ViewChange view = viewOf(chosen);
+    const ViewChange atFirst = viewOf(m_map);
+    for (const Note& note : m_notes)
+        for (const ViewEntry each : note.entries)
+            if (view[each] == atFirst[each])
+                view.remove(each);
+    return view;
 }
 
 ViewChange DialogSettings::viewOf(const SettingsMap& settings)

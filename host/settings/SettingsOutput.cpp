@@ -73,21 +73,27 @@ std::string SettingsOutput::folderProblem() const
     return isUsable ? std::string() : systemError(errno);
 }
 
-bool SettingsOutput::isSameFile(const std::string& path) const
+/// Where that cannot be found out, `problem` says why.
+bool SettingsOutput::isSameFile(const std::string& path, std::string& problem) const
 {
     struct stat own;
     struct stat other;
-    return !path.empty() && stat(m_path.c_str(), &own) == 0 && stat(path.c_str(), &other) == 0 &&
-           own.st_dev == other.st_dev && own.st_ino == other.st_ino;
+    if (path.empty())
+        return false;
+    if (stat(m_path.c_str(), &own) == 0 && stat(path.c_str(), &other) == 0)
+        return own.st_dev == other.st_dev && own.st_ino == other.st_ino;
+    problem = errno == ENOENT ? std::string() : systemError(errno);
+    return false;
 }
 
 SettingsOutput::Outcome SettingsOutput::write(const SettingsMap& settings, const Edit& edit,
                                               const QImage& icon) const
 {
-    if (const std::string problem = folderProblem(); !problem.empty())
+    std::string problem = folderProblem();
+    const bool edits = problem.empty() && isSameFile(edit.file, problem);
+    if (!problem.empty())
         return {false, m_path + ": cannot be written: " + problem};
     const QByteArray path = QByteArray::fromStdString(m_path);
-    const bool edits = isSameFile(edit.file);
     const QString replaced = edits ? ", whose other content stays" : storereport::inPlaceOf(path);
     CIniFile file(path, edits ? CIniFile::Access::Extend : CIniFile::Access::Replace);
     compose(file, settings, edits ? edit.entry : 0, icon);

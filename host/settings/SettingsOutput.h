@@ -51,7 +51,7 @@ private:
 
     static Kind kindOf(const std::string& path);
     void checkPlace() const;
-    bool isSameFile(const std::string& path) const;
+    bool isSameFile(const std::string& path, std::string& problem) const;
     std::string folderProblem() const;
     void compose(CIniFile& file, const SettingsMap& settings, int entry, const QImage& icon) const;
     void composeActionList(CIniFile& file, const SettingsMap& settings, int entry) const;

@@ -22,6 +22,11 @@ void note(std::string_view text)
     printError("quintar: note: " + forTerminal(text) + "\n");
 }
 
+void complainOfEarlyEnd()
+{
+    complain("the run ended early, for it is out of memory; some documents may have been changed");
+}
+
 void printError(const std::string& lines)
 {
     writeAll(STDERR_FILENO, lines.data(), lines.size());

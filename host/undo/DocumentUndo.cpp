@@ -32,6 +32,12 @@ Failure cannotRead(int error)
     return Failure::ofSystem(error, ReasonCode::ReadFailed);
 }
 
+/// Behind isAsRead().
+Failure notAsRead()
+{
+    return errno == 0 ? changedMeanwhile : cannotRead(errno);
+}
+
 /// Of an update that is appended where the document lies; there is no longer one.
 const std::int64_t longestInPlace = 2048;
 
@@ -39,8 +45,15 @@ const std::int64_t longestInPlace = 2048;
 std::string bytesOf(int file, std::int64_t begin, std::int64_t end)
 {
     std::string bytes(static_cast<std::size_t>(end - begin), '\0');
-    const ssize_t count = pread(file, bytes.data(), bytes.size(), begin);
-    return count == end - begin ? bytes : std::string();
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const ssize_t count =
+            pread(file, bytes.data() + done, bytes.size() - done, begin + static_cast<std::int64_t>(done));
+        if (count == 0 || (count < 0 && errno != EINTR))
+            return {};
+        done += count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+    return bytes;
 }
 
 /// Whether the bytes from `begin` to the end are what ends a PDF document: a report that claims too much must
@@ -75,7 +88,16 @@ std::array<struct timespec, 2> changeTime(const FileState& state)
 
 } // namespace
 
+/// What is not as the report says is no matter where nothing was done.
 UndoResult DocumentUndo::perform(bool dryRun)
+{
+    UndoResult result = attempt(dryRun);
+    const bool nothingDone = std::all_of(m_document.updates.begin(), m_document.updates.end(),
+                                         [](const AppendedUpdate& each) { return each.failed; });
+    return nothingDone && m_cuts.empty() ? UndoResult{UndoResult::NothingDone} : result;
+}
+
+UndoResult DocumentUndo::attempt(bool dryRun)
 {
     if (const Failure problem = open(); problem)
         return {UndoResult::LeftAlone, problem};
@@ -132,7 +154,7 @@ bool DocumentUndo::follow(std::string state)
             m_olderStays = false;
         } else if (state == update.before) {
             m_isBefore = true;
-            m_undoneAlready = m_undoneAlready || !update.begun;
+            m_undoneAlready = m_undoneAlready || !update.failed;
             m_olderStays = false;
         }
     }
@@ -180,7 +202,7 @@ UndoResult DocumentUndo::cut() const
     if (lockDocument(m_file.get()) == DocumentLock::Held)
         return {UndoResult::LeftAlone, documentLocked};
     if (!isAsRead(m_file.get(), m_document.path, m_present))
-        return {UndoResult::LeftAlone, changedMeanwhile};
+        return {UndoResult::LeftAlone, notAsRead()};
     const FileState before = *FileState::fromText(m_cuts.back()->before);
     const InPlaceFile file(m_document.path);
     return file.isSuited() && isSameFile(file.status(), m_present) ? cutInPlace(file, before)
@@ -215,6 +237,7 @@ UndoResult DocumentUndo::replace(const FileState& before) const
 {
     const std::string temporary = SafeOutput::temporaryNameFor(m_document.path);
     SafeOutput output(m_document.path, temporary);
+    output.replaceOnly(m_present);
     const auto size = static_cast<std::uint64_t>(before.size);
     if (const Failure problem = copyBegin(m_file.get(), size, temporary); problem)
         return {UndoResult::LeftAlone, problem};
@@ -222,7 +245,7 @@ UndoResult DocumentUndo::replace(const FileState& before) const
         utimensat(AT_FDCWD, temporary.c_str(), changeTime(before).data(), AT_SYMLINK_NOFOLLOW) == 0;
     const auto beforeRename = [this](const struct stat&, const std::string&) {
         if (!isAsRead(m_file.get(), m_document.path, m_present))
-            throw DocumentError(changedMeanwhile);
+            throw DocumentError(notAsRead());
     };
     try {
         const SafeOutput::Outcome outcome =

@@ -19,7 +19,7 @@ struct UndoResult
     enum Kind {
         Undone,
         UndoneAlready,
-        NothingDone, ///< The run ended before it changed the document.
+        NothingDone, ///< The run called the document failed.
         LeftAlone
     };
 
@@ -45,6 +45,7 @@ public:
     UndoResult perform(bool dryRun);
 
 private:
+    UndoResult attempt(bool dryRun);
     Failure open();
     std::string expected() const;
     bool follow(std::string state);
@@ -61,7 +62,7 @@ private:
     struct stat m_present = {};
     std::vector<const AppendedUpdate*> m_cuts; ///< The newest first.
     bool m_isBefore = false;                   ///< The document is as it was before some update,
-    bool m_undoneAlready = false;              ///< and one that the run has made.
+    bool m_undoneAlready = false;              ///< and one that the run may have made.
     const AppendedUpdate* m_cutOff = nullptr;  ///< It is so, but for its time.
     bool m_olderStays = false;
 };

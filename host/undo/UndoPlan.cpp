@@ -51,6 +51,16 @@ std::string textIn(const QJsonObject& object, const char* key)
     return object.value(key).toString().toStdString();
 }
 
+QJsonDocument jsonOf(std::string_view line)
+{
+    return QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), static_cast<int>(line.size())));
+}
+
+bool isWhole(std::string_view line)
+{
+    return jsonOf(line).isObject();
+}
+
 } // namespace
 
 UndoPlan::UndoPlan(const std::string& report) : m_file(openRegularFile(report))
@@ -87,12 +97,14 @@ void UndoPlan::readLines()
     LineReader lines(m_file.get(), Report::longestLine);
     while (const auto line = lines.next())
         takeLine(*line, lines.number());
+    // A copy of a report may lack the last line feed; half a line is what a killed run leaves.
+    if (isWhole(lines.rest()))
+        takeLine(lines.rest(), lines.number() + 1);
 }
 
 void UndoPlan::takeLine(std::string_view line, std::size_t number)
 {
-    const QJsonDocument json =
-        QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), static_cast<int>(line.size())));
+    const QJsonDocument json = jsonOf(line);
     if (json.isObject() && json.object().contains("file") && json.object().contains("status")) {
         ++m_lines;
         takeResult(json.object(), number);
@@ -108,6 +120,8 @@ void UndoPlan::takeResult(const QJsonObject& object, std::size_t number)
     const std::string status = textIn(object, "status");
     const std::string path = nameIn(object, "output");
     const std::string saved = textIn(object, "saved");
+    if (status == "failed")
+        return takeFailure(path);
     const QJsonObject undo = object.value("undo").toObject();
     const AppendedUpdate update{textIn(undo, "fileState"), textIn(object, "outputState"),
                                 textIn(undo, "sha256"), status == "begun", textIn(undo, "unfinished")};
@@ -127,6 +141,14 @@ void UndoPlan::takeResult(const QJsonObject& object, std::size_t number)
     } else {
         takeUpdate(path, update);
         m_newestLine[m_places.at(path)] = number;
+    }
+}
+
+void UndoPlan::takeFailure(const std::string& path)
+{
+    if (const auto place = m_places.find(path); place != m_places.end()) {
+        AppendedUpdate& newest = m_documents[place->second].updates.back();
+        newest.failed = newest.begun;
     }
 }
 

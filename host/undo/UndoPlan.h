@@ -26,6 +26,8 @@ struct AppendedUpdate
     bool begun = false;
     /// Of an update whose state after is not known, all but its last lines, see Checksum.h.
     std::string unfinished = {};
+    /// The run called the document failed afterwards: it is as it was, unless what became of it could not be told.
+    bool failed = false;
 };
 
 /// What the report of a run, or of several that continued each other, tells of changes in place. A report may
@@ -65,6 +67,7 @@ private:
     void readLines();
     void takeLine(std::string_view line, std::size_t number);
     void takeResult(const QJsonObject& object, std::size_t number);
+    void takeFailure(const std::string& path);
     void takeUpdate(const std::string& path, AppendedUpdate update);
     void sumUp(const std::string& report);
 

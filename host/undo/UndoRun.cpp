@@ -10,6 +10,7 @@
 
 #include <unistd.h>
 
+#include <new>
 #include <set>
 
 namespace host {
@@ -45,10 +46,15 @@ int UndoRun::run()
         tellFound();
     if (!m_options.dryRun)
         removeLeftovers();
-    undoDocuments();
-    for (std::size_t index = 0; index < m_plan.leftAlone().size(); ++index)
-        leaveAlone(m_plan.documents().size() + index, m_plan.leftAlone()[index]);
-    sumUp();
+    try {
+        undoDocuments();
+        for (std::size_t index = 0; index < m_plan.leftAlone().size(); ++index)
+            leaveAlone(m_plan.documents().size() + index, m_plan.leftAlone()[index]);
+        sumUp();
+    } catch (const std::bad_alloc&) {
+        complainOfEarlyEnd();
+        return exitstatus::someFailed;
+    }
     return m_options.control.isStopped() ? exitstatus::stopped
            : m_leftAlone > 0             ? exitstatus::someFailed
                                          : exitstatus::done;

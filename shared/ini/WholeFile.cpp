@@ -144,6 +144,18 @@ void flushFolder(const QByteArray& folder)
         fsync(directory.get());
 }
 
+/// A rename over a network can be reported as failed although it was done.
+bool isInPlace(int file, const QByteArray& path)
+{
+    const int problem = errno;
+    struct stat written = {};
+    struct stat there = {};
+    const bool inPlace = fstat(file, &written) == 0 && lstat(path.constData(), &there) == 0 &&
+                         written.st_dev == there.st_dev && written.st_ino == there.st_ino;
+    errno = problem;
+    return inPlace;
+}
+
 bool writeAndRename(int file, const QByteArray& bytes, const QByteArray& name, const QByteArray& path,
                     const struct stat* old)
 {
@@ -151,7 +163,8 @@ bool writeAndRename(int file, const QByteArray& bytes, const QByteArray& name, c
         return false;
     if (old != nullptr)
         makeNewer(file, *old);
-    return fsync(file) == 0 && std::rename(name.constData(), path.constData()) == 0;
+    return fsync(file) == 0 &&
+           (std::rename(name.constData(), path.constData()) == 0 || isInPlace(file, path));
 }
 
 } // namespace
@@ -185,6 +198,8 @@ QString replace(const QByteArray& path, const QByteArray& bytes)
     struct stat old = {};
     const bool isThere = lstat(path.constData(), &old) == 0;
     const bool isFile = isThere && S_ISREG(old.st_mode);
+    if (!isThere && errno != ENOENT)
+        return systemError(errno);
     if (isThere && S_ISDIR(old.st_mode))
         return systemError(EISDIR);
     QByteArray name;

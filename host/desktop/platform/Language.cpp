@@ -1,6 +1,7 @@
 #include "Language.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -9,22 +10,40 @@ namespace host::desktop::language {
 
 namespace {
 
-bool install(const QLocale& locale, const QString& name, const QString& folder)
+const QString own = QStringLiteral(":/translations/quintar-window_");
+
+void install(const QString& file)
 {
     auto* translator = new QTranslator(QCoreApplication::instance());
-    return translator->load(locale, name, "_", folder) && QCoreApplication::installTranslator(translator);
+    if (translator->load(file))
+        QCoreApplication::installTranslator(translator);
+    else
+        delete translator; // Qt's texts are a package of their own
 }
 
 } // namespace
 
+QString firstSpoken(const QStringList& wanted)
+{
+    for (const QString& each : wanted)
+        if (const QString language = each.section('-', 0, 0).section('_', 0, 0);
+            QFile::exists(own + language + ".qm"))
+            return language;
+    return QStringLiteral("en");
+}
+
+void speak(const QString& language)
+{
+    install(own + "en.qm"); // plural forms, for what another language lacks as well
+    if (language == "en")
+        return;
+    install(QLibraryInfo::location(QLibraryInfo::TranslationsPath) + "/qtbase_" + language + ".qm");
+    install(own + language + ".qm");
+}
+
 void choose()
 {
-    const QString own = ":/translations";
-    install(QLocale(QLocale::English), "quintar-window", own); // plural forms
-    if (QLocale().language() == QLocale::English || QLocale().language() == QLocale::C)
-        return;
-    install(QLocale(), "qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    install(QLocale(), "quintar-window", own);
+    speak(firstSpoken(QLocale::system().uiLanguages()));
 }
 
 } // namespace host::desktop::language

@@ -44,6 +44,8 @@ private slots:
             add(action, std::string(action), QByteArray(expected));
         };
         row("[4 0 R /XYZ 10 20.5 1.5]", "2 type 1 10 20.5 0 0 150");
+        row("[4 0 R /XYZ 1 -99999999999999999999.0 99999999999999999999.5]",
+            "2 type 1 1 -2.14748e+09 0 0 2.14748e+11");
         row("[4 0 R /XYZ]", "2 type 1 0 0 0 0 0");
         row("[4 0 R]", "2 type 1 form 0 0 0 0 0 0");
         row("[4 0 R /Odd 1 2 3]", "2 type 1 form 0 1 2 0 0 300");
@@ -141,14 +143,23 @@ private slots:
     void writesDestinations()
     {
         const auto [setter, written, read] = Rows<Operation, QByteArray, QByteArray>::current();
-        for (const char* before : {"", "/OpenAction 10 0 R", "/OpenAction << /S /JavaScript /JS (x) >>"}) {
-            OpenedDocument opened(bytesOf(before, {{10, "[3 0 R /XYZ 1 1 1]"}}));
+        const QByteArray rest = "<< /D " + written + " /Next << /S /Named >> /S /GoTo >>";
+        const std::pair<std::string, QByteArray> before[] = {
+            {"", written},
+            {"/OpenAction 10 0 R", written},
+            {"/OpenAction << /S /JavaScript /JS (x) /Next << /S /Named >> >>", written},
+            {"/OpenAction 11 0 R", rest},
+            {"/OpenAction << /S /GoTo /D (nowhere) /Next << /S /Named >> >>", rest}};
+        for (const auto& [entry, after] : before) {
+            OpenedDocument opened(
+                bytesOf(entry, {{10, "[3 0 R /XYZ 1 1 1]"},
+                                {11, "<< /S /GoTo /D 10 0 R /SD [3 0 R] /Next << /S /Named >> >>"}}));
             QCOMPARE(setter(opened.session), 1);
-            QCOMPARE(opened.entry("/OpenAction"), written);
+            QCOMPARE(opened.entry("/OpenAction"), after);
             QCOMPARE(openAction(opened.session), read);
             QCOMPARE(opened.changed(), QByteArray("1"));
             QCOMPARE(setter(opened.session), 1);
-            QCOMPARE(opened.entry("/OpenAction"), written);
+            QCOMPARE(opened.entry("/OpenAction"), after);
         }
     }
 

@@ -140,6 +140,7 @@ private slots:
         row("", openAt(1, -5, 1), bad);
         row("", openAt(1, 0, 1, std::nan("")), bad);
         row("", openAt(1, 0, 1, 0, HUGE_VAL), bad);
+        row("", openAt(1, 0, 8, -2147483648.0), bad);
         row("", magnified(50), bad); // its type has none
         row(
             "", [](Session& s) { return int(GetActionType(s, 1).size()); }, bad);
@@ -215,6 +216,7 @@ private slots:
         row("", 1, "0 792 612 792 612 0");
         row("/MediaBox [10 20 110 220]", 1, "10 220 100 200 110 20");
         row("/MediaBox [110 220 10 20]", 1, "10 220 100 200 110 20");
+        row("/MediaBox [0 0 612 99999999999999999999.0]", 1, "0 2.14748e+09 612 2.14748e+09 612 0");
         row("/MediaBox [0 0 100 /x]", 1, "0 792 612 792 612 0");
         row("/MediaBox 10 0 R", 1, "-5 50 15 48.5 10 1.5");
         row("/CropBox [5 5 50 60]", 2, "5 60 45 55 50 5");

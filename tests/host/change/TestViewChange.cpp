@@ -163,6 +163,8 @@ private slots:
         row("title", "\xff", "not in UTF-8");
         row("title", "a\nb", "control characters");
         row("title", "\x7f", "control characters");
+        row("title", "\xef\xbf\xbe", "no characters");
+        row("title", "\xed\xa0\x80", "not in UTF-8");
         row("zoom", "fit-box", "--zoom cannot be");
         row("lang", "english language", "a language tag");
     }
@@ -195,7 +197,7 @@ private slots:
         const Rows<QByteArray> add;
         const auto row = [&add](const char* json) { add(json, json); };
         row(R"({"openAction":{"page":1,"type":"XYZ","zoom":0.5}})");
-        row(R"({"openAction":{"page":1,"type":"XYZ","zoom":1e300}})");
+        row(R"({"openAction":{"page":1,"type":"XYZ","zoom":214748364700}})");
         row(R"({"openAction":{"page":1,"type":"FitB","zoom":null}})");
         row(R"({"openAction":{"page":1,"type":"FitBV","zoom":null}})");
         row(R"({"openAction":{"page":1,"type":"FitR","zoom":null,"rectangle":[1,2.5,-3,4]}})");
@@ -243,9 +245,11 @@ private slots:
         row(R"({"openAction":{"page":null}})", "page cannot be null");
         row(R"({"openAction":{"type":"JavaScript"}})", "type cannot be \"JavaScript\"\nit is one of XYZ");
         row(R"({"openAction":{"type":"Fit","zoom":50}})", "only the type XYZ");
-        row(R"({"openAction":{"zoom":0}})", "zoom cannot be 0: it is a percentage above 0, or null");
+        row(R"({"openAction":{"zoom":0}})", "zoom cannot be 0: it is a percentage above 0, up to 2147");
+        row(R"({"openAction":{"zoom":1e300}})", "zoom cannot be 1e+300");
         row(R"({"openAction":{"zoom":"50%"}})", "zoom cannot be \"50%\"");
         row(R"({"openAction":{"type":"FitR"}})", "FitR needs a rectangle: [left, bottom, right, top]");
+        row(R"({"openAction":{"type":"FitR","rectangle":[1,2,-1e300,4]}})", "in numbers up to 2147483647");
         row(R"({"openAction":{"type":"FitR","rectangle":[1,2,3]}})", "FitR needs a rectangle");
         row(R"({"openAction":{"type":"FitR","rectangle":[1,2,3,"4"]}})", "FitR needs a rectangle");
         row(R"({"openAction":{"action":"JavaScript","page":1}})", "has an action, so it has no page");
@@ -256,6 +260,7 @@ private slots:
         row(R"({"viewerPreferences":{"HideToolbar":1}})", "true, false or null");
         row(R"({"viewerPreferences":[]})", "an object or null");
         row(R"({"title":5})", "a text or null");
+        row(R"({"title":"a\ud800b"})", "whole characters");
         row(R"({"lang":["en"]})", "lang cannot be [\"en\"]: it is a text or null");
         row(R"({"titleIfMissing":"yes"})", "true or false");
     }

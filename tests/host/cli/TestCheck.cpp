@@ -84,7 +84,9 @@ private slots:
         QVERIFY(!quintar({"check", "--display-doc-title", "yes", "xmp.pdf"}).err.contains(note));
         QVERIFY(quintar({"check", "--display-doc-title", "yes", "d/plain.pdf"}).err.contains(note));
         QCOMPARE(quintar({"run", "--title", "New", "-n", "--in-place", "xmp.pdf"}).out.split('\n').first(),
-                 QByteArray("would change  xmp.pdf: title: unset -> New"));
+                 QByteArray("would change  xmp.pdf: title: In XMP -> New"));
+        QCOMPARE(quintar({"check", "--view", "-", "xmp.pdf"}, quintar({"show", "--json", "xmp.pdf"}).out).out,
+                 QByteArray("1 as asked, 0 not, 0 failed\n"));
         WorkFolder::put("both.pdf", PdfBuilder()
                                         .catalog("/Metadata 9 0 R")
                                         .pages(1)
@@ -250,10 +252,10 @@ private slots:
             "d/all.pdf: open page: 2 -> 1\nd/plain.pdf: open page: unset -> 1; zoom: unset -> 150%\n"
             "d/sub/script.pdf: open page: JavaScript -> 1; zoom: unset -> 150%\n"
             "0 as asked, 3 not, 0 failed\n");
-        row("no such page", {"--open-page", "4", "-q"},
+        row("no such page", {"--open-page", "4", "--page-mode", "layers", "-q"},
             "d/all.pdf: it has 3 pages, so it cannot open at page 4\n"
-            "d/plain.pdf: it has 3 pages, so it cannot open at page 4\n"
-            "d/sub/script.pdf: it has 3 pages, so it cannot open at page 4\n");
+            "d/plain.pdf: it has 3 pages, so it cannot open at page 4; page mode: unset -> use-oc\n"
+            "d/sub/script.pdf: it has 3 pages, so it cannot open at page 4; page mode: unset -> use-oc\n");
         row("the title", {"--title", "Everything", "--title-if-missing"},
             "d/plain.pdf: title: unset -> Everything\n"
             "d/sub/script.pdf: title: unset -> Everything\n1 as asked, 2 not, 0 failed\n");
@@ -281,6 +283,17 @@ private slots:
             return;
         QCOMPARE(quintar(QStringList{"run", "--in-place"} + asked + QStringList{"d"}).status, 0);
         QCOMPARE(quintar(QStringList{"check"} + asked + QStringList{"d"}).status, 0);
+    }
+
+    // Whatever a link leads to: as the user named it.
+    void titlesComeFromTheNamesOfLinks()
+    {
+        std::filesystem::create_symlink("d/plain.pdf", "My Manual.pdf");
+        for (const QStringList& words :
+             {QStringList{"check"}, {"run", "-n", "--in-place"}, {"run", "-o", "x"}}) {
+            const ProgramRun run = quintar(words + QStringList{"--title-from-file-name", "My Manual.pdf"});
+            QVERIFY2(run.out.contains("My Manual.pdf: title: unset -> My Manual\n"), run.out + run.err);
+        }
     }
 
     void tellsInJson()

@@ -42,6 +42,25 @@ private slots:
         QVERIFY2(run.err.contains("nothing was changed in the window"), run.err);
     }
 
+    void notesWhatItMakes_data()
+    {
+        const Rows<QStringList, QByteArray> row;
+        row("words of a change", {}, "it stays unless a magnification");
+        row("whole settings", {"--all"}, "the settings that OK makes replace it");
+        row("a list", {"-o", path("s.xqq")}, "the settings that OK makes replace it");
+        row("a view", {"--all", "-o", path("s.json")}, "it stays unless a magnification");
+    }
+
+    void notesWhatItMakes()
+    {
+        const auto [words, note] = Rows<QStringList, QByteArray>::current();
+        putDocument("/OpenAction << /S /JavaScript /JS (app.beep\\(\\)) >>");
+        const CommandRun run = configure(QStringList{path("a.pdf")} + words);
+        QVERIFY2(run.err.contains("an action (JavaScript) that the window cannot show; " + note), run.err);
+        if (words.contains(path("s.json")))
+            QVERIFY(!bytesOf(path("s.json")).contains("openAction"));
+    }
+
     // Run, the words make the document open as the window said.
     void printsWhatWasChanged_data()
     {

@@ -250,12 +250,14 @@ private slots:
             QCOMPARE(nameOf(Failure::ofSystem(number, ReasonCode::WriteFailed).code), name);
     }
 
-    void codesAreToldInTheGuide()
+    void codesAreToldInTheGuideOnce()
     {
-        const QByteArray guide = bytesOf(SOURCE_DIR "/docs/usage.md");
+        QByteArray guide = bytesOf(SOURCE_DIR "/docs/usage.md");
+        guide.remove(0, guide.indexOf("\n### Reasons"));
+        guide.truncate(guide.indexOf("\n#", 1));
         for (std::size_t code = 1; code < host::reasonCodeCount; ++code) {
             const QByteArray name = nameOf(static_cast<host::ReasonCode>(code));
-            QVERIFY2(guide.contains("\n| `" + name + "` |"), name);
+            QVERIFY2(guide.count("\n| `" + name + "` |") == 1, name);
         }
     }
 

@@ -85,6 +85,10 @@ private slots:
         row("run --page-mode none -o - --report - -", "standard output takes one of them");
         row("run --page-mode none -o - --files-from - -", "standard input is named more than once");
         row("run --title-from-file-name -o - -", "standard input has no name");
+        row("run --view named.json -o - -",
+            "the view named.json: a document from standard input has no name");
+        row("check --view named.json -", "standard input has no name");
+        row("run --like manual.pdf -o manual.pdf a.pdf", "would overwrite what this run reads, manual.pdf");
         row("run --page-mode none --suffix x --in-place a.pdf",
             "-o, --suffix and --in-place exclude each other");
         row("show --jsn a.pdf", "did you mean \"--json\"?");
@@ -108,6 +112,7 @@ private slots:
     {
         WorkFolder::put("a.pdf", PdfBuilder::simple());
         WorkFolder::put("manual.pdf", PdfBuilder::simple());
+        WorkFolder::put("named.json", R"({"titleFromFileName":true})");
         QVERIFY(QFile::copy(TEST_DATA_DIR "/manuals.xqq", TemporaryHome::actionList("manuals.xqq")));
     }
 
@@ -128,9 +133,11 @@ private slots:
         const QStringList words{"run", "--in-place", "empty", "--set", "LayoutAndMagnCheckBox=0"};
         const ProgramRun loud(PROGRAM_FILE, words, m_folder.path());
         QCOMPARE(loud.err.count("note: "), 2);
-        const ProgramRun quiet(PROGRAM_FILE, words + QStringList{"-q"}, m_folder.path());
-        QCOMPARE(quiet.status, 0);
-        QCOMPARE(quiet.out + quiet.err, QByteArray());
+        for (const QStringList& each : {words, QStringList{"check", "empty", "--page-mode", "none"}}) {
+            const ProgramRun quiet(PROGRAM_FILE, each + QStringList{"-q"}, m_folder.path());
+            QCOMPARE(quiet.status, 0);
+            QCOMPARE(quiet.out + quiet.err, QByteArray());
+        }
     }
 
     void helpIsFoundInManyWays()

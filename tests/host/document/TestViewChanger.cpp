@@ -179,9 +179,9 @@ private slots:
             "open page: 2 -> 3; zoom: unknown -> default");
         row("negative zoom", form(1) + QStringList{"GetDestValue(5, 5)=-100"},
             R"({"openAction":{"zoom":null}})", {"SetDestValue(5, 5, 0)"}, "zoom: -100% -> default");
-        row("zoom beyond whole numbers", {}, R"({"openAction":{"zoom":1e12}})",
-            around(1, at("1, 0, 1")) + QStringList{"SetDestValue(0, 5, 1e+12)"},
-            "open page: unset -> 1; zoom: unset -> 1e+12%");
+        row("zoom beyond whole numbers", {}, R"({"openAction":{"zoom":2e11}})",
+            around(1, at("1, 0, 1")) + QStringList{"SetDestValue(0, 5, 2e+11)"},
+            "open page: unset -> 1; zoom: unset -> 2e+11%");
 
         row("no open action", destination, R"({"openAction":null})", {"RemoveOpenAction()"},
             "open page: 2 -> unset");
@@ -293,6 +293,13 @@ private slots:
                 change[ViewEntry::OpenPage] == ViewValue(Unset()));
         QVERIFY(!change[ViewEntry::Zoom] && !change[ViewEntry::Title] && !change[ViewEntry::Lang]);
         QVERIFY(change.contradiction().empty());
+        // What can be given to no page becomes what viewers make of it.
+        recorder.returns("GetOpenActionDestination", 5);
+        recorder.returns("GetDestPage", 1);
+        QVERIFY(PresentView(library).asChange()[ViewEntry::Zoom] == ViewValue(Magnification()));
+        recorder.returns("GetDestValue(5, 6)", 1);
+        recorder.returns("GetDestValue(5, 5)", -200);
+        QVERIFY(PresentView(library).asChange()[ViewEntry::Zoom] == ViewValue(Magnification()));
     }
 
     void leavesOutActionsOfOtherDocuments()

@@ -299,8 +299,8 @@ private slots:
             "/OneColumn");
         row("/Lang /de", R"({"lang":null})", "catalog/Lang", "null");
         row("/Lang ()", R"({"lang":null})", "catalog/Lang", "null");
-        row("/OpenAction << /S /GoTo /D (nowhere) >>", R"({"openAction":{"zoom":50}})", "catalog/OpenAction",
-            "[ PAGE1 /XYZ 0 792 0.5 ]");
+        row("/OpenAction << /S /GoTo /D (nowhere) >>", R"({"openAction":{"zoom":50}})",
+            "catalog/OpenAction/D", "[ PAGE1 /XYZ 0 792 0.5 ]");
         row("/OpenAction [3 0 R /FitB]", R"({"openAction":{"zoom":null}})", "catalog/OpenAction",
             "[ PAGE1 /XYZ 0 792 null ]");
         row("/OpenAction [3 0 R /FitBV 5]", R"({"openAction":{"type":"FitBH"}})", "catalog/OpenAction",
@@ -309,6 +309,10 @@ private slots:
             "[ PAGE2 /FitR 1 2 3 4 ]");
         row("/OpenAction [3 0 R /FitR 1 2 3 4]", R"({"openAction":{"type":"XYZ"}})", "catalog/OpenAction",
             "[ PAGE1 /XYZ 1 4 null ]");
+        row("/OpenAction [3 0 R /XYZ 1 2 99999999999999999999.0]", R"({"openAction":{"page":2}})",
+            "catalog/OpenAction", "[ PAGE2 /XYZ 0 792 2147483647 ]");
+        row("/OpenAction [3 0 R /FitR 1 2 3 99999999999999999999.5]", R"({"openAction":{"page":2}})",
+            "catalog/OpenAction", "[ PAGE2 /FitR 1 2 3 2147483647 ]");
         row("/OpenAction [3 0 R /Odd]", R"({"openAction":{"type":"XYZ"}})", "catalog/OpenAction",
             "[ PAGE1 /XYZ null null null ]");
         const auto preference = [&](const QByteArray& entry, const QByteArray& json, const char* value) {
@@ -355,6 +359,13 @@ private slots:
             QCOMPARE(QByteArray::fromStdString(found.unparse()), inDocument(value, result));
             QCOMPARE(changed(after, json, m_folder), after);
         }
+    }
+
+    void leavesATitleBesideMetadataThatCannotBeRead()
+    {
+        const std::string bytes = builder("null").stream(8, "/Filter /Odd", packet).bytes();
+        QCOMPARE(changed(bytes, R"({"title":"New","titleIfMissing":true})", m_folder), bytes);
+        QVERIFY(!changed(bytes, R"({"title":"New"})", m_folder).starts_with(bytes));
     }
 
     void writesTheTitleOnceMore_data()

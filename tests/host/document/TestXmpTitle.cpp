@@ -23,6 +23,11 @@ QString described(const QString& title)
            title + "</dc:title>\n   <dc:format>application/pdf</dc:format>\n  </rdf:Description>\n";
 }
 
+/// A part that the document is made of, with a title of its own.
+const QString part =
+    "<rdf:Description xmlns:dc=\"http://purl.org/dc/elements/1.1/\" xmlns:p=\"urn:p\"><p:parts>"
+    "<rdf:Description><dc:title>Part</dc:title></rdf:Description></p:parts></rdf:Description>";
+
 QString packet(const QString& descriptions)
 {
     return begin + descriptions + end;
@@ -68,7 +73,10 @@ private slots:
             item("de", "Alt"));
         row("empty item", described("<rdf:Alt><rdf:li xml:lang=\"x-default\"/></rdf:Alt>"), "",
             "<rdf:li xml:lang=\"x-default\"/>");
-        row("plain text", described("Old"), QString(), "<dc:title>Old</dc:title>");
+        row("plain text", described("Old &lt;"), "Old <", "<dc:title>Old &lt;</dc:title>");
+        row("blanks", described(" \n "), QString(), "<dc:title> \n </dc:title>");
+        row("of a part alone", other + part, QString(), "");
+        row("of a part first", other + part + described("Old"), "Old", "<dc:title>Old</dc:title>");
         row("none", other, QString(), "");
     }
 
@@ -100,6 +108,11 @@ private slots:
         const QString after = xmptitle::write(before, "").value_or("unchanged");
         QVERIFY(!after.contains("title") && after.contains("application/pdf"));
         QCOMPARE(xmptitle::write(packet(other), "").value_or(""), packet(other));
+        // Of two, which there must not be, none is left, or one.
+        const QString two = packet(described("") + described("Old"));
+        QVERIFY(xmptitle::read(two) == QString("Old"));
+        QVERIFY(!xmptitle::write(two, "").value_or("title").contains("title"));
+        QCOMPARE(xmptitle::write(two, "New").value_or("").count("<dc:title"), 1);
     }
 
     void leavesAloneWhatItCannotRead_data()
@@ -128,7 +141,8 @@ private slots:
 
     void refusesTextsThatXmlCannotHold()
     {
-        QVERIFY(!xmptitle::write(packet(other), QString("a") + QChar(7)));
+        for (const QChar each : {QChar(7), QChar(0xfffe), QChar(0xffff), QChar(0xd800)})
+            QVERIFY(!xmptitle::write(packet(other), QString("a") + each));
     }
 };
 

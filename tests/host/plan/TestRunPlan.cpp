@@ -38,7 +38,7 @@ private slots:
                              "in/deep/er/y.pdf>out/deep/er/y.pdf in/x\xff\n.pdf>out/x\xff\n.pdf "));
         QVERIFY(refusalFor(plan).empty());
         plan.add("in/folder.pdf");
-        QCOMPARE(plan.emptyFolders(), std::vector<std::string>{"in/folder.pdf"});
+        QCOMPARE(plan.notes(), std::vector<std::string>{"no PDF documents in in/folder.pdf"});
 
         const fs::path here = fs::current_path();
         const std::string name(250, 'd');
@@ -194,13 +194,14 @@ private slots:
         row("outputs that are linked", "linkedout", {"a/p.pdf", "a/q.pdf"}, same);
         row("hard links, in place", "", {"a/x.pdf", "hard.pdf"}, "");
         row("in place", "", {"a", "b"}, "");
+        row("names that differ in case, which counts here", "out", {"a/x.pdf", "b/X.pdf"}, "");
         row("the missing collide with nothing", "out", {"no/x.pdf", "a/x.pdf"}, "");
     }
 
     void refusesSharedOutputs()
     {
         const auto [output, inputs, refused] = Rows<QString, QStringList, std::string>::current();
-        for (const char* name : {"a/x.pdf", "a/p.pdf", "a/q.pdf", "b/x.pdf", "linkedout/p.pdf"})
+        for (const char* name : {"a/x.pdf", "a/p.pdf", "a/q.pdf", "b/x.pdf", "b/X.pdf", "linkedout/p.pdf"})
             WorkFolder::put(name);
         fs::create_symlink("a/x.pdf", "link.pdf");
         fs::create_directory_symlink("a", "linked");
@@ -238,6 +239,11 @@ private slots:
         WorkFolder::put("settings");
         QVERIFY_EXCEPTION_THROWN(plan.checkReport("linked/../settings", {"settings"}), UsageError);
         plan.checkReport("report.jsonl", {"settings"});
+        WorkFolder::put("out/x.pdf"); // the model of this run, say
+        RunPlan again(to("out"));
+        again.add("a/x.pdf");
+        QVERIFY_EXCEPTION_THROWN(again.checkTargets({"linked/../out/x.pdf"}), UsageError);
+        again.checkTargets({"settings"});
     }
 
     // The folder is made only when nothing is refused.
@@ -283,7 +289,10 @@ private:
 
     static std::string refusalFor(const RunPlan& plan)
     {
-        return refusalOf([&plan] { plan.checkTargets(); });
+        return refusalOf([&plan] {
+            plan.checkTargets();
+            plan.checkCase();
+        });
     }
 
     /// "name>target" of each document, targets relative to the current folder.

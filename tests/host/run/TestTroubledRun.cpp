@@ -261,35 +261,6 @@ private slots:
             "2 changed, 0 unchanged, 0 failed, stopped with 2 not done\n"));
     }
 
-    // Killed at any moment, a run leaves every document whole; what it leaves behind goes with the next one.
-    void leavesNothingBehindWhenKilled()
-    {
-        const std::string padding = std::string(20000, 'x');
-        for (int round = 0; round < 12; ++round) {
-            for (int number = 0; number < 40; ++number) {
-                PdfBuilder builder;
-                builder.catalog("").pages(2).stream(9, "", padding);
-                put("in/" + std::to_string(number) + ".pdf", builder.bytes());
-            }
-            const std::string original = contentOf("in/0.pdf");
-            QProcess process;
-            process.start(PROGRAM_FILE, QStringList{"run", "--in-place", "in"} + panelAndPage());
-            QVERIFY(process.waitForStarted());
-            QTest::qWait(5 * round);
-            process.kill();
-            // A quick run has ended by itself.
-            QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished());
-            const ProgramRun next = apply({"--in-place", "in"});
-            QCOMPARE(next.status, 0);
-            QCOMPARE(strays(), QStringList());
-            for (int number = 0; number < 40; ++number) {
-                const std::string name = "in/" + std::to_string(number) + ".pdf";
-                QVERIFY(contentOf(name).substr(0, original.size()) == original);
-            }
-            QVERIFY(QpdfReader(path("in/39.pdf")).catalog().contains("/PageMode"));
-        }
-    }
-
     void resumesWhereAReportEnds()
     {
         for (const char* name : {"in/a.pdf", "in/b.pdf", "in/c.pdf", "in/h\xf4tel.pdf"})

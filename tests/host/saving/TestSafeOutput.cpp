@@ -82,6 +82,28 @@ private slots:
         QCOMPARE(replace("folder", false), std::string("folder cannot be written: is a directory"));
     }
 
+    // Another program may be there between the last look and the rename.
+    void givesOthersTheirPlaceBack()
+    {
+        for (const bool isChanged : {false, true}) {
+            WorkFolder::put("target", "old");
+            struct stat asRead;
+            QCOMPARE(stat("target", &asRead), 0);
+            const std::string temporary = SafeOutput::temporaryNameFor("target");
+            WorkFolder::put(temporary, "new");
+            SafeOutput output("target", temporary);
+            output.replaceOnly(asRead);
+            const auto change = [&](const struct stat&, const std::string&) {
+                if (isChanged)
+                    WorkFolder::put("target", "theirs");
+            };
+            const auto outcome = output.commit(FileAttributes::ofNewFile(), true, change);
+            QCOMPARE(outcome.problem.code, isChanged ? ReasonCode::ChangedMeanwhile : ReasonCode::None);
+            QCOMPARE(WorkFolder::contentOf("target"), std::string(isChanged ? "theirs" : "new"));
+            QVERIFY(isChanged || !fs::exists(temporary));
+        }
+    }
+
     // Only what is as it was is called failed.
     void tellsOfAFolderThatCannotBeFlushed()
     {

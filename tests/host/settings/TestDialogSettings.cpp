@@ -48,10 +48,10 @@ QByteArray wordsOf(const ViewChange& change)
     return line;
 }
 
-QByteArray notesOf(const DialogSettings& settings)
+QByteArray notesOf(const DialogSettings& settings, DialogSettings::Unshown unshown)
 {
     QByteArray lines;
-    for (const std::string& note : settings.notes())
+    for (const std::string& note : settings.notes(unshown))
         lines += QByteArray::fromStdString(note) + "\n";
     return lines;
 }
@@ -68,6 +68,8 @@ const char bookmarks[] = R"({"pageMode":"UseOutlines"})";
 const char fullScreen[] =
     R"({"pageMode":"FullScreen","viewerPreferences":{"NonFullScreenPageMode":"UseThumbs"}})";
 const char script[] = R"({"openAction":{"action":"JavaScript"}})";
+const char panels[] =
+    R"({"pageMode":"UseOutlines","viewerPreferences":{"NonFullScreenPageMode":"UseThumbs"}})";
 const char zoomed[] = R"({"openAction":{"page":2,"type":"XYZ","zoom":150}})";
 
 } // namespace
@@ -118,7 +120,7 @@ private slots:
         const ViewChange present = changed(document("{}"), plain.changeTo(chosenIn(plain, {{name, before}})));
         const DialogSettings settings(present);
         QCOMPARE(settings.map(), chosenIn(plain, {{name, before}}));
-        QCOMPARE(settings.notes().size(), std::size_t(0));
+        QCOMPARE(notesOf(settings, DialogSettings::Unshown::Stays), QByteArray());
         QVERIFY(settings.changeTo(settings.map()).isEmpty());
 
         const SettingsMap chosen = chosenIn(settings, {{name, after}});
@@ -155,6 +157,10 @@ private slots:
             "--page-mode use-none");
         row("full screen keeps the panel", bookmarks, {{key::OpenInFullScreen, true}},
             "--page-mode full-screen --non-full-screen-page-mode use-outlines");
+        row("full screen keeps the panel for after it", panels, {{key::OpenInFullScreen, true}},
+            "--page-mode full-screen");
+        row("full screen and a panel", panels, {{key::OpenInFullScreen, true}, {key::NavigationTab, 3}},
+            "--page-mode full-screen --non-full-screen-page-mode use-oc");
         row("panel of full screen", fullScreen, {{key::NavigationTab, 3}},
             "--non-full-screen-page-mode use-oc");
         row("full screen is left", fullScreen, {{key::OpenInFullScreen, false}}, "--page-mode use-thumbs");
@@ -188,6 +194,7 @@ private slots:
         row("other preferences", R"({"viewerPreferences":{"Direction":"R2L","NumCopies":2}})",
             "leaves it: direction (r2l), num copies (2)", key::Magnification, 0);
         row("page mode of full screen", fullScreen, "", key::NavigationTab, 2);
+        row("panel after full screen", panels, "panel after full screen, use-thumbs;", key::NavigationTab, 1);
         row("nothing", "{}", "", key::OpenToPage, 1);
     }
 
@@ -195,9 +202,53 @@ private slots:
     {
         const auto [json, note, name, value] = Rows<QByteArray, QByteArray, QByteArray, QVariant>::current();
         const DialogSettings settings(document(json));
-        QCOMPARE(settings.notes().size(), std::size_t(note.isEmpty() ? 0 : 1));
-        QVERIFY2(notesOf(settings).contains(note), notesOf(settings));
+        const QByteArray notes = notesOf(settings, DialogSettings::Unshown::Stays);
+        QCOMPARE(notes.count('\n'), note.isEmpty() ? 0 : 1);
+        QVERIFY2(notes.contains(note), notes);
+        // It stays, and of settings, which are whole, is not said to.
+        QVERIFY(settings.changeTo(settings.map()).isEmpty());
+        QVERIFY(!notesOf(settings, DialogSettings::Unshown::Replaced).contains("stays"));
+        QCOMPARE(notes.contains("stays"),
+                 notesOf(settings, DialogSettings::Unshown::Replaced).contains("replace it"));
         QCOMPARE(settings.map().value(name), value);
+    }
+
+    void notesWhatIsInvalid()
+    {
+        ViewChange present = document("{}");
+        present.set(ViewEntry::PageMode, Invalid());
+        present.set(ViewEntry::HideToolbar, Invalid());
+        const DialogSettings settings(present);
+        QCOMPARE(notesOf(settings, DialogSettings::Unshown::Stays),
+                 QByteArray(
+                     "what it has is invalid: page mode, hide toolbar; it stays unless another is chosen\n"));
+        const ViewChange shown = settings.viewShown(settings.map());
+        QVERIFY(!shown[ViewEntry::PageMode] && !shown[ViewEntry::HideToolbar] &&
+                shown[ViewEntry::HideMenubar]);
+    }
+
+    // A view of all that is shown is none of what is not.
+    void leavesOutWhatTheWindowCannotShow_data()
+    {
+        const Rows<QByteArray, SettingsMap, QByteArray> row;
+        row("another action", script, {}, "");
+        row("another action replaced", script, {{key::OpenToPage, 2}}, "--open-page 2");
+        row("magnification", zoomed, {}, "--open-page 2");
+        row("page", R"({"openAction":{"page":12000,"type":"Fit"}})", {}, "--zoom fit-page");
+        row("everything", "{}", {}, "--open-page 1 --zoom default");
+    }
+
+    void leavesOutWhatTheWindowCannotShow()
+    {
+        const auto [json, choices, words] = Rows<QByteArray, SettingsMap, QByteArray>::current();
+        const DialogSettings settings(document(json));
+        const ViewChange shown = settings.viewShown(chosenIn(settings, choices));
+        QVERIFY(shown[ViewEntry::HideToolbar] && shown[ViewEntry::PageLayout]);
+        ViewChange opening;
+        for (const ViewEntry each : {ViewEntry::OpenPage, ViewEntry::Zoom})
+            if (shown[each])
+                opening.set(each, *shown[each]);
+        QCOMPARE(wordsOf(opening), words);
     }
 
     void saysEverythingOfGroupsThatAreOn_data()

@@ -222,6 +222,7 @@ private slots:
             QCOMPARE(undo({"report"}).out, "undone  " + m_folder->path("in/a.pdf").toUtf8() +
                                                "\n1 undone, 0 undone already, 0 left alone\n");
             QVERIFY(snapshots() == before);
+            QVERIFY(undo({"report"}).out.endsWith("\n0 undone, 1 undone already, 0 left alone\n"));
         }
         for (const std::string& other : {after.substr(0, lastLines - 1),
                                          after.substr(0, lastLines) + "startxref\n1\n", after + "%%EOF\n"}) {
@@ -229,6 +230,33 @@ private slots:
             QCOMPARE(undo({"report"}).status, 1);
             QCOMPARE(WorkFolder::contentOf("in/a.pdf"), other);
         }
+    }
+
+    // It is as it was, and what others did to it since is no matter.
+    void passesOverWhatTheRunCalledFailed()
+    {
+        QCOMPARE(change("thumbs", "report").status, 0);
+        QByteArray text = reportText("report");
+        const QByteArray done = text.split('\n').value(2);
+        QJsonObject failed = ProgramRun::jsonLines(done).value(0);
+        failed.insert("status", "failed");
+        failed.remove("undo");
+        WorkFolder::put(
+            "report", text.replace(done, QJsonDocument(failed).toJson(QJsonDocument::Compact)).toStdString());
+        WorkFolder::put("in/a.pdf", "another program's");
+        const CommandRun run = undo({"report"});
+        QCOMPARE(run.out + run.err, QByteArray("0 undone, 0 undone already, 0 left alone\n"));
+        QCOMPARE(run.status, 0);
+    }
+
+    void takesALastLineWithoutItsLineFeed()
+    {
+        const Snapshots before = snapshots();
+        QCOMPARE(change("thumbs", "report").status, 0);
+        const QByteArrayList lines = reportText("report").split('\n'); // "start", "begun", "changed"
+        WorkFolder::put("report", (lines[0] + '\n' + lines[2]).toStdString());
+        QVERIFY(undo({"report"}).out.endsWith("1 undone, 0 undone already, 0 left alone\n"));
+        QVERIFY(snapshots() == before);
     }
 
     // Killed itself, it may have cut a document off and not restored the time.
