@@ -134,7 +134,7 @@ QWidget* MainWindow::makeSide()
     m_side->addWidget(m_change);
     m_side->addWidget(m_preview);
     m_side->setStretchFactor(0, 1);
-    m_side->setSizes({470, 330});
+    m_side->setSizes({500, 300});
     auto* presets = new PresetMenu(m_workbench, m_actions, m_views, m_change);
     m_change->presets()->setMenu(presets);
     connect(presets, &PresetMenu::said, &m_commands, &Commands::said);

@@ -18,6 +18,8 @@ using State = RunMachine::State;
 namespace {
 
 const int announceMilliseconds = 5000;
+/// What is said stays that long at least, and good news no longer.
+const int sayMilliseconds = 6000;
 const int estimateMilliseconds = 3000;
 
 } // namespace
@@ -57,10 +59,17 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
     connect(m_pause, &QPushButton::clicked, this, [this] {
         m_workbench.machine().state() == State::Paused ? m_workbench.resume() : m_workbench.pause();
     });
+    m_unsay.setSingleShot(true);
+    connect(&m_unsay, &QTimer::timeout, this, [this] {
+        if (!m_isTrouble)
+            m_said.clear();
+        show();
+    });
     connect(&workbench, &Workbench::countsChanged, this, &RunBar::show);
     connect(&workbench, &Workbench::progressed, this, &RunBar::showProgress);
     connect(&workbench.machine(), &RunMachine::changed, this, [this] {
-        m_said.clear();
+        if (m_workbench.machine().isWriting() || !m_unsay.isActive())
+            m_said.clear();
         m_running.start();
         show();
         showProgress();
@@ -93,6 +102,7 @@ void RunBar::say(const QString& text, bool isTrouble)
 {
     m_said = text.simplified();
     m_isTrouble = isTrouble;
+    m_unsay.start(sayMilliseconds);
     show();
     announce(m_said);
 }

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTimer>
 #include <QWidget>
 
 namespace host::desktop {
@@ -53,6 +54,7 @@ private:
     QPushButton* m_pause;
     QPushButton* m_stop;
     QString m_said;
+    QTimer m_unsay;
     bool m_isTrouble = false;
     QElapsedTimer m_running;
     QElapsedTimer m_announced;

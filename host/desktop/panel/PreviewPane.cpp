@@ -10,6 +10,8 @@ namespace {
 
 const double margin = 12;
 const double titleHeight = 20;
+/// A single window is drawn so much wider than tall.
+const double widest = 1.25;
 
 QString inWords(const PreviewScene& scene)
 {
@@ -105,10 +107,11 @@ void PreviewPane::paintEvent(QPaintEvent*)
     QRectF second = first.translated(half + margin, 0);
     if (isRightToLeft)
         std::swap(first, second);
-    if (isSame)
-        paintScene(painter, QRectF(scenes.center().x() - half / 2, scenes.top(), half, scenes.height()),
+    if (isSame) {
+        const double width = std::max(half, std::min(scenes.width(), scenes.height() * widest));
+        paintScene(painter, QRectF(scenes.center().x() - width / 2, scenes.top(), width, scenes.height()),
                    tr("Opens like this"), m_before);
-    else {
+    } else {
         paintScene(painter, first, tr("Before"), m_before);
         paintScene(painter, second, tr("After"), m_after);
     }

@@ -108,7 +108,8 @@ void Workbench::follow()
         m_machine.handle(Step::Read);
     }
     collectTargets();
-    edited();
+    if (m_machine.state() != State::Results) // which stay those of the documents that are left
+        edited();
 }
 
 void Workbench::setDraft(const ChangeDraft& draft)
