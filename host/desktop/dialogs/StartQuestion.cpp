@@ -51,7 +51,7 @@ StartQuestion::StartQuestion(Workbench& workbench, QWidget* parent) : QDialog(pa
     column->setSpacing(12);
     column->addWidget(what);
     column->addWidget(more);
-    column->addSpacing(4);
+    column->addStretch();
     column->addWidget(buttons);
     setMinimumWidth(440);
 }

@@ -34,14 +34,14 @@ QWidget* warningLine(const ChangeWarning& warning, QWidget* parent, const std::f
     auto* text = new QLabel(warning.text, line);
     text->setWordWrap(true);
     text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    row->addWidget(sign, 0, Qt::AlignTop);
+    row->addWidget(sign, 0, Qt::AlignVCenter);
     row->addWidget(text, 1);
     if (warning.show) {
         auto* button = new QToolButton(line);
         button->setText(ChangePanel::tr("Show Them"));
         button->setAccessibleName(ChangePanel::tr("Show them: %1").arg(warning.text));
         QObject::connect(button, &QToolButton::clicked, parent, show);
-        row->addWidget(button, 0, Qt::AlignTop);
+        row->addWidget(button, 0, Qt::AlignVCenter);
     }
     return line;
 }

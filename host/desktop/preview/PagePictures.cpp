@@ -183,9 +183,13 @@ void PagePictures::drop()
     m_late.stop();
     if (!m_child)
         return;
-    m_child->disconnect();
-    m_child->kill();
-    m_child.release()->deleteLater(); // perhaps from one of its own signals
+    QProcess* child = m_child.release(); // perhaps one of its own signals is under way
+    child->disconnect();
+    if (child->state() == QProcess::NotRunning)
+        return child->deleteLater();
+    connect(child, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), child,
+            &QObject::deleteLater);
+    child->kill();
 }
 
 } // namespace host::desktop
