@@ -420,7 +420,7 @@
     </message>
     <message>
         <source>password needed</source>
-        <translation>mit Kennwort</translation>
+        <translation>mit Passwort</translation>
     </message>
     <message>
         <source>encrypted</source>
