@@ -38,8 +38,9 @@ bool isInteger(Document&, QPDFObjectHandle object)
 Rectangle normalised(QPDFObjectHandle box)
 {
     const Rectangle raw = box.getArrayAsRectangle();
-    const auto [left, right] = std::minmax(withinNumbers(raw.llx), withinNumbers(raw.urx));
-    const auto [bottom, top] = std::minmax(withinNumbers(raw.lly), withinNumbers(raw.ury));
+    // In braces: of two temporary numbers it would return references.
+    const auto [left, right] = std::minmax({withinNumbers(raw.llx), withinNumbers(raw.urx)});
+    const auto [bottom, top] = std::minmax({withinNumbers(raw.lly), withinNumbers(raw.ury)});
     return {left, bottom, right, top};
 }
 

@@ -92,6 +92,8 @@ void ChangeOptions::readChange(std::string_view password, Cell& cell)
         m_change.set(ViewEntry::Title, FileNameAsTitle());
     if (m_titleIfMissing)
         m_change.keepTitles();
+    if (m_viewFile && !m_titleIfMissing && m_change.keepsTitles() && !m_change[ViewEntry::Title])
+        throw UsageError("the view " + *m_viewFile + ": titleIfMissing goes with title or titleFromFileName");
     if (const std::string problem = m_change.contradiction(); !problem.empty())
         throw UsageError(problem);
     for (const auto& file : {m_model, m_viewFile})

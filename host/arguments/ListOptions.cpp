@@ -2,6 +2,7 @@
 
 #include "OptionParser.h"
 #include "host/files/FileDescriptor.h"
+#include "host/terminal/NearbyFile.h"
 #include "host/terminal/UsageError.h"
 
 #include <fcntl.h>
@@ -55,7 +56,8 @@ std::string readNamedFile(const std::string& path, std::size_t limit, const char
     const FileDescriptor file(path == "-" ? dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     std::string bytes;
     if (!file.isOpen() || !readAll(file.get(), bytes, limit))
-        throw UsageError(std::string(what) + " " + path + " cannot be read: " + systemError(errno));
+        throw UsageError(std::string(what) + " " + path +
+                         " cannot be read: " + suggestion::whyUnreadable(path, errno));
     return bytes;
 }
 

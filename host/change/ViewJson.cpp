@@ -2,6 +2,7 @@
 
 #include "ViewValues.h"
 #include "host/files/FileDescriptor.h"
+#include "host/terminal/NearbyFile.h"
 #include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
@@ -133,6 +134,8 @@ ViewValue pageOf(const QJsonValue& value)
 {
     if (value == QJsonValue("last"))
         return LastPage();
+    if (value.isString())
+        refuse("page", value, "a whole number from 1, or \"last\"");
     return wholeNumber("page", value);
 }
 
@@ -259,7 +262,7 @@ std::string contentOf(const std::string& path)
     std::string bytes;
     if (!file.isOpen() || !readAll(file.get(), bytes, largestFile))
         throw UsageError(
-            "the view " + path + " cannot be read: " + systemError(errno) +
+            "the view " + path + " cannot be read: " + suggestion::whyUnreadable(path, errno) +
             (path.starts_with('{') ? "; --view takes the name of a file, or - for standard input" : ""));
     return bytes;
 }

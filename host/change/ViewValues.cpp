@@ -86,6 +86,29 @@ const std::array<Habit, 18> habits{{{Kind::Flag, "true", "yes"},
                                     {Kind::Name, "off", "none"},
                                     {Kind::Name, "default", "unset"}}};
 
+template <class Number>
+std::optional<Number> numberFrom(const std::string& word)
+{
+    Number number = 0;
+    const char* end = word.data() + word.size();
+    const auto [rest, problem] = std::from_chars(word.data(), end, number);
+    return problem == std::errc() && rest == end ? std::optional(number) : std::nullopt;
+}
+
+/// With or without its sign.
+std::optional<double> percentFrom(const std::string& word)
+{
+    return numberFrom<double>(word.substr(0, word.size() - (word.ends_with('%') ? 1 : 0)));
+}
+
+/// The shortest text that reads as the same number.
+std::string shortest(double number)
+{
+    std::array<char, 32> text{};
+    const auto [end, problem] = std::to_chars(text.data(), text.data() + text.size(), number);
+    return std::string(text.data(), end);
+}
+
 /// What may be meant, as far as the option takes it.
 std::string meantBy(const Description& entry, const std::string& word)
 {
@@ -98,6 +121,10 @@ std::string meantBy(const Description& entry, const std::string& word)
     std::replace(tag.begin(), tag.end(), '_', '-');
     if (entry.kind == Kind::Language && isLanguageTag(tag))
         return tag;
+    const std::optional<double> percent =
+        entry.kind == Kind::Magnification ? percentFrom(word) : std::nullopt;
+    if (percent && *percent > 0)
+        return shortest(std::clamp(*percent, viewentries::lowestPercent, viewentries::highestPercent)) + "%";
     return suggestion::nearest(word, viewentries::words(entry));
 }
 
@@ -107,15 +134,6 @@ std::string meantBy(const Description& entry, const std::string& word)
     throw UsageError("--" + std::string(entry.option) + " cannot be \"" + word + "\"" +
                      (meant.empty() ? "" : "; did you mean \"" + meant + "\"?") + "\nit takes " +
                      choicesOf(entry));
-}
-
-template <class Number>
-std::optional<Number> numberFrom(const std::string& word)
-{
-    Number number = 0;
-    const char* end = word.data() + word.size();
-    const auto [rest, problem] = std::from_chars(word.data(), end, number);
-    return problem == std::errc() && rest == end ? std::optional(number) : std::nullopt;
 }
 
 int wholeNumber(const Description& entry, const std::string& word)
@@ -130,8 +148,7 @@ Magnification magnification(const Description& entry, const std::string& word)
 {
     if (const Name* name = nameOf(viewentries::magnifications(), word))
         return {name->number, 0};
-    const std::size_t digits = word.size() - (word.ends_with('%') ? 1 : 0);
-    const std::optional<double> percent = numberFrom<double>(word.substr(0, digits));
+    const std::optional<double> percent = percentFrom(word);
     // Not the other way round: a NaN fails every comparison.
     if (!percent || !(*percent >= viewentries::lowestPercent && *percent <= viewentries::highestPercent))
         refuse(entry, word);
@@ -185,14 +202,6 @@ std::string language(const Description& entry, const std::string& word)
     if (!isLanguageTag(word))
         refuse(entry, word);
     return word;
-}
-
-/// The shortest text that reads as the same number.
-std::string shortest(double number)
-{
-    std::array<char, 32> text{};
-    const auto [end, problem] = std::to_chars(text.data(), text.data() + text.size(), number);
-    return std::string(text.data(), end);
 }
 
 std::string wordOf(const Magnification& value)

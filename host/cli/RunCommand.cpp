@@ -29,7 +29,10 @@ SignedDocuments signedDocuments(const std::string& value)
         return SignedDocuments::AppendCertified;
     if (value != "refuse")
         throw UsageError("--signed takes refuse, append or append-certified, not \"" + value + "\"" +
-                         suggestion::didYouMean(value, {"refuse", "append", "append-certified"}));
+                         suggestion::didYouMean(value == "yes"  ? "append"
+                                                : value == "no" ? "refuse"
+                                                                : value,
+                                                {"refuse", "append", "append-certified"}));
     return SignedDocuments::Refuse;
 }
 

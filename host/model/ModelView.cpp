@@ -9,6 +9,8 @@
 #include "host/workers/RunControl.h"
 #include "host/workers/SignalMask.h"
 
+#include <sys/stat.h>
+
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -39,6 +41,9 @@ ViewChange fromOutcome(const std::string& file, const WorkOutcome& outcome)
 
 ViewChange read(const std::string& file, std::string_view password, Cell& cell, const Ask& ask)
 {
+    struct stat status;
+    if (stat(file.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) // which no worker can reach
+        refuse(file, Failure{ReasonCode::NotAFile, "it is a folder; one document is wanted"});
     // Kept open, so that the worker finds the library in memory.
     const std::string libraryFile = installlayout::libraryFile();
     const TelvarPDFLibraryCPDylibCPP1311 library(installlayout::toLibraryPath(libraryFile));

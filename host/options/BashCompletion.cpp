@@ -49,8 +49,8 @@ std::string caseOf(const options::Command& command)
         if (!each.value.empty())
             text += "        --" + each.name + (each.letter != 0 ? std::string("|-") + each.letter : "") +
                     ") " + actionOf(each) + "; return ;;\n";
-    return text + "        esac\n        options=\"" + namesOf(command.id) +
-           "\"\n        documents=" + (command.takesDocuments ? "pdf" : "") + "\n        ;;\n";
+    return text + "        esac\n        options=\"" + namesOf(command.id) + "\"\n        files='" +
+           joined(command.files, "|") + "'\n        ;;\n";
 }
 
 const char begin[] = R"(# Completes the words of quintar in bash.
@@ -72,7 +72,7 @@ _quintar_files() {
 }
 
 _quintar() {
-    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} options documents
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} options files
     COMPREPLY=()
     # "--name=value" is three words here.
     if [ "$current" = = ]; then
@@ -88,8 +88,8 @@ const char end[] = R"(    *)
     esac
     if [[ $current == -* ]]; then
         _quintar_words "$options"
-    elif [ -n "$documents" ]; then
-        _quintar_files -f "$documents"
+    elif [ -n "$files" ]; then
+        _quintar_files -f "$files"
     fi
 }
 
@@ -103,7 +103,8 @@ std::string forBash()
     const std::string names = joined(options::commandNames(), " ");
     std::string text = begin;
     text += "    if [ \"$COMP_CWORD\" -eq 1 ]; then\n        _quintar_words \"" + names +
-            " help --help --version\"\n        return\n    fi\n    case ${COMP_WORDS[1]} in\n    help)\n"
+            " help --help --help-all --version\"\n        return\n    fi\n    case ${COMP_WORDS[1]} in\n    "
+            "help)\n"
             "        _quintar_words \"" +
             names + "\"\n        return\n        ;;\n";
     for (const options::Command& each : options::commands())

@@ -69,9 +69,9 @@ std::string forFish()
         for (const auto& each : {options::optionsOf(command.id), options::commonOptions()})
             for (const Option& option : each)
                 text += lineOf(command, option);
-        if (command.takesDocuments)
-            text += "complete -c quintar -n '__fish_seen_subcommand_from " + command.name +
-                    "' -k -a '(__fish_complete_suffix .pdf)'\n";
+        if (!command.files.empty())
+            text += "complete -c quintar -n '__fish_seen_subcommand_from " + command.name + "' -k" +
+                    filesWith(command.files) + "\n";
     }
     return text;
 }

@@ -143,7 +143,8 @@ const std::vector<Option> optionRows{
 };
 
 const std::vector<Command> commandRows{
-    {Run, "run", "change how documents open", "CHANGE (-o DIR | --in-place) DOCUMENT|FOLDER ...",
+    {Run, "run", "change how documents open", 
+     "CHANGE (-o DIR|FILE.pdf|- | --suffix TEXT | --in-place) DOCUMENT|FOLDER|- ...",
      "Changes how PDF documents open. View options change what they name and leave the rest; settings are those "
      "of the action. A folder stands for the PDF documents in it and its subfolders, - for standard input.",
      {{"quintar run --page-mode bookmarks -o changed/ manuals/", "open a folder's documents with the bookmarks"},
@@ -153,7 +154,7 @@ const std::vector<Command> commandRows{
       {1, "some documents failed, or the report could not be written to its end"},
       {2, "nothing was begun"},
       {130, "stopped by a signal"}},
-     true},
+     {"pdf"}},
     {Undo, "undo", "take back what a run changed in place", "REPORT",
      "Cuts the updates that a run has appended off its documents again, newest first. It goes by the run's "
      "report (quintar run --in-place --report FILE). A document is left alone when it is no longer as the "
@@ -165,23 +166,29 @@ const std::vector<Command> commandRows{
       {1, "some documents were left alone"},
       {2, "nothing was begun"},
       {130, "stopped by a signal"}},
-     false},
-    {Show, "show", "tell how documents open", "DOCUMENT|FOLDER ...",
+     {"jsonl"}},
+    {Show, "show", "tell how documents open", "DOCUMENT|FOLDER|- ...",
      "Tells how each document opens: panel, layout, page, magnification, viewer preferences, title and language. A "
      "folder stands for the PDF documents in it and its subfolders, - for standard input.",
      {{"quintar show manual.pdf", "how a document opens, in words"},
       {"quintar show --table manuals/", "a folder's documents, a row each"},
       {"quintar show --json manual.pdf > view.json", "for quintar run --view view.json"}},
-     {{0, "all well"}, {1, "some documents cannot be read"}, {2, "nothing was begun"}},
-     true},
-    {Check, "check", "tell which documents do not open as asked", "CHANGE DOCUMENT|FOLDER ...",
+     {{0, "all well"},
+      {1, "some documents cannot be read"},
+      {2, "nothing was begun"},
+      {130, "stopped by a signal"}},
+     {"pdf"}},
+    {Check, "check", "tell which documents do not open as asked", "CHANGE DOCUMENT|FOLDER|- ...",
      "Names the documents that quintar run would change, and what it would change of each. Nothing is written. A "
      "folder stands for the PDF documents in it and its subfolders, - for standard input.",
      {{"quintar check --display-doc-title yes manuals/", "which documents do not show their titles"},
       {"quintar check --like cover.pdf --json manuals/", "which open otherwise than this one, as JSON"},
       {"quintar check --list \"Monthly reports\" -q manuals/", "whether a stored action list is applied"}},
-     {{0, "all open as asked"}, {1, "some do not, or cannot be read"}, {2, "nothing was begun"}},
-     true},
+     {{0, "all open as asked"},
+      {1, "some do not, or cannot be read"},
+      {2, "nothing was begun"},
+      {130, "stopped by a signal"}},
+     {"pdf"}},
     {Configure, "configure", "make settings in a window", "[DOCUMENT]",
      "Shows the settings in a window. They start as the document opens now, or as the file has them; with "
      "both, the file counts. OK prints words for \"quintar run\", for a document the view options that make "
@@ -190,7 +197,7 @@ const std::vector<Command> commandRows{
       {"quintar configure --list \"Monthly reports\" -o reports.xqq", "store them as an action list"},
       {"quintar run $(quintar configure manual.pdf) -o changed/ manuals/", "run what is chosen"}},
      {{0, "printed or written"}, {1, "cancelled or not written"}, {2, "no window was shown"}},
-     true},
+     {"pdf"}},
     {Lists, "lists", "tell the stored action lists and favourites", "",
      "Tells which action lists and favourites there are in the user's folders, and what they would do. "
      "\"quintar run\" takes them by their names, with --list and --favorite.",
@@ -198,7 +205,7 @@ const std::vector<Command> commandRows{
       {"quintar lists --json", "the same as JSON, an object a line"},
       {"quintar run --list \"Monthly reports\" -o changed/ manuals/", "use one by its name"}},
      {{0, "all well"}, {1, "some cannot be read"}, {2, "nothing was begun"}},
-     false},
+     {}},
     {Window, "window", "show documents and change them in a window", "[DOCUMENT|FOLDER ...]",
      "Starts the window with these documents in its list, beside those that it had when it was closed. The list shows "
      "how each document opens and, once a change is chosen, how it will; nothing is changed before a run is started. "
@@ -207,7 +214,7 @@ const std::vector<Command> commandRows{
       {"quintar window manuals/", "with the documents of a folder"},
       {"quintar window a.pdf b.pdf", "with two documents"}},
      {{0, "the window was closed"}, {2, "no window was shown"}},
-     true},
+     {"pdf"}},
 };
 // clang-format on
 

@@ -62,7 +62,7 @@ struct Command
     std::string description;
     std::vector<Example> examples; ///< Three, the most common first.
     std::vector<ExitStatus> exitStatuses;
-    bool takesDocuments;
+    std::vector<std::string> files; ///< Suffixes of the files that it takes by their names alone.
 };
 
 const std::vector<Command>& commands();

@@ -66,8 +66,8 @@ std::string caseOf(const options::Command& command)
     for (const auto& each : {options::optionsOf(command.id), options::commonOptions()})
         for (const Option& option : each)
             text += " \\\n" + specOf(option);
-    if (command.takesDocuments)
-        text += " \\\n        '*:document:_files -g \"*.(#i)pdf(-.)\"'";
+    if (!command.files.empty())
+        text += " \\\n        '*:file:" + globOf(command.files) + "'";
     return text + "\n        ;;\n";
 }
 

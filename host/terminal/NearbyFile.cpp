@@ -1,8 +1,10 @@
 #include "NearbyFile.h"
 
 #include "Suggestion.h"
+#include "host/files/FileDescriptor.h"
 #include "host/files/Paths.h"
 
+#include <cerrno>
 #include <filesystem>
 
 namespace host::suggestion {
@@ -19,7 +21,7 @@ std::string stemOf(const std::string& name)
 
 } // namespace
 
-std::string nearbyFile(const std::string& path)
+std::string nearbyFile(const std::string& path, Among among)
 {
     const std::size_t end = path.find_last_not_of('/') + 1; // a folder's name may end in slashes
     const std::size_t slash = path.find_last_of('/', end);
@@ -31,7 +33,7 @@ std::string nearbyFile(const std::string& path)
     for (std::filesystem::directory_iterator entry(begin > 0 ? path.substr(0, begin) : ".", problem), none;
          !problem && entry != none && left > 0; entry.increment(problem), --left) {
         const std::string name = entry->path().filename().string();
-        if (!isPdfName(name) && !entry->is_directory(problem))
+        if (among == Among::Documents && !isPdfName(name) && !entry->is_directory(problem))
             continue;
         names.push_back(name);
         stems.push_back(stemOf(name));
@@ -42,6 +44,11 @@ std::string nearbyFile(const std::string& path)
         if (stems[place] == found && names[place] != own)
             return "; did you mean \"" + path.substr(0, begin) + names[place] + "\"?";
     return {};
+}
+
+std::string whyUnreadable(const std::string& path, int problem)
+{
+    return systemError(problem) + (problem == ENOENT ? nearbyFile(path, Among::Files) : "");
 }
 
 } // namespace host::suggestion

@@ -54,7 +54,7 @@ class Trials:
         self.calls = {}
         self.count_calls()
         self.tried = collections.Counter()
-        self.wrong = 0
+        self.wrong = self.ended = 0
         self.tickets = itertools.count()
 
     def make_scenarios(self):
@@ -154,7 +154,7 @@ class Trials:
             name = "falls short" if manner == SHORT else errno.errorcode[manner % ALL_THE_SAME]
             what = f"{kind} {number}{' and all behind it' if ever else ''}: {name}"
             ended = kind == "malloc" and run.status not in (0, 1, 2)  # as if it were killed: the C library ends it, too
-            self.tried[scenario.name, "mallocs that ended the program"] += ended
+            self.ended += ended
             self.look(scenario, what, run, killed=ended)
         return reached
 
@@ -217,8 +217,8 @@ def main():
         trials.kill_all(arguments.kills)
     for (scenario, kind), count in sorted(trials.tried.items()):
         print(f"{scenario}: {kind}: {count} faults")
-    print(f"{sum(trials.tried.values())} faults, {trials.wrong} of them with something wrong, "
-          f"{time.monotonic() - begin:.0f} s")
+    print(f"{sum(trials.tried.values())} faults, {trials.wrong} of them with something wrong; {trials.ended} ended the "
+          f"program for want of memory; {time.monotonic() - begin:.0f} s")
     return 1 if trials.wrong else 0
 
 

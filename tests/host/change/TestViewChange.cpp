@@ -150,8 +150,8 @@ private slots:
         row("open-page", "99999999999", "a page's number from 1");
         row("open-page", "lsat", "did you mean \"last\"?");
         row("zoom", "fitwith", "did you mean \"fit-width\"?");
-        row("zoom", "0.99%", "1% to 6400%");
-        row("zoom", "6400.1%", "1% to 6400%");
+        row("zoom", "0.99%", "did you mean \"1%\"?\nit takes a percentage from 1% to 6400%");
+        row("zoom", "6400.1%", "did you mean \"6400%\"?");
         row("zoom", "1,5%", "1% to 6400%");
         row("zoom", "nan", "1% to 6400%");
         row("zoom", "150%%", "1% to 6400%");
@@ -241,6 +241,7 @@ private slots:
         row(R"({"pageMode":7})", "pageMode cannot be 7");
         row(R"({"openAction":5})", "an object or null");
         row(R"({"openAction":{"page":0}})", "page cannot be 0");
+        row(R"({"openAction":{"page":"first"}})", "a whole number from 1, or \"last\"");
         row(R"({"openAction":{"page":1.5}})", "page cannot be 1.5");
         row(R"({"openAction":{"page":null}})", "page cannot be null");
         row(R"({"openAction":{"type":"JavaScript"}})", "type cannot be \"JavaScript\"\nit is one of XYZ");

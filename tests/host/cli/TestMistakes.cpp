@@ -46,6 +46,7 @@ private slots:
         row("run --jobs many --in-place a.pdf --list x",
             "--jobs takes a number from 1 to 1024, not \"many\"");
         row("run --signed apend --in-place a.pdf --list x", "did you mean \"append\"?");
+        row("run --signed yes --in-place a.pdf --list x", "did you mean \"append\"?");
         row("run -n --in-place a.pdf", "which settings?");
         row("run -n a.pdf --list x", "where to?");
         row("run --in-place -n --set ShowCombo=1 a.pdf",
@@ -71,6 +72,12 @@ private slots:
         row("run --in-place -n --title x --title-from-file-name a.pdf", "exclude each other");
         row("run --in-place -n --view a.pdf a.pdf",
             "is not a JSON object; \"--like a.pdf\" takes a document");
+        row("run --in-place -n --view nmaed.json a.pdf", "did you mean \"named.json\"?");
+        row("run --in-place -n --view missing.json a.pdf",
+            "the view missing.json: titleIfMissing goes with title or titleFromFileName");
+        row("run --in-place -n --page-mode none --files-from lits.txt", "did you mean \"list.txt\"?");
+        row("run --in-place -n --zoom 7000% a.pdf", "did you mean \"6400%\"?");
+        row("run --in-place -n --like folder a.pdf", "folder: it is a folder; one document is wanted");
         row("run --in-place -n --view {\"pageMode\":null} a.pdf", "--view takes the name of a file");
         row("run --in-place -n --like no.pdf a.pdf", "no.pdf: no such file");
         row("run --in-place -n --like manul.pdf a.pdf", "did you mean \"manual.pdf\"?");
@@ -112,6 +119,9 @@ private slots:
     {
         WorkFolder::put("a.pdf", PdfBuilder::simple());
         WorkFolder::put("manual.pdf", PdfBuilder::simple());
+        WorkFolder::put("folder/a.pdf", PdfBuilder::simple());
+        WorkFolder::put("list.txt", "a.pdf\n");
+        WorkFolder::put("missing.json", R"({"titleIfMissing":true})");
         WorkFolder::put("named.json", R"({"titleFromFileName":true})");
         QVERIFY(QFile::copy(TEST_DATA_DIR "/manuals.xqq", TemporaryHome::actionList("manuals.xqq")));
     }

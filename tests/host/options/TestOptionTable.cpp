@@ -153,7 +153,9 @@ private slots:
         row("settings", "run --list ''", "folder list.xqq");
         row("folder", "run --base ''", "folder");
         row("document", "show a", "a b.PDF");
+        row("report", "undo ''", "folder report.jsonl");
         row("help", "help conf", "configure");
+        row("all help", "--help-", "--help-all");
         row("no documents", "lists ''", "");
     }
 
@@ -163,7 +165,7 @@ private slots:
             QSKIP("needs bash");
         const auto [words, offered] = Rows<QString, QString>::current();
         const WorkFolder folder;
-        for (const char* name : {"a b.PDF", "list.xqq", "text.txt", "folder/x.pdf"})
+        for (const char* name : {"a b.PDF", "list.xqq", "report.jsonl", "text.txt", "folder/x.pdf"})
             WorkFolder::put(name, "");
         const ProgramRun run(
             "bash",
