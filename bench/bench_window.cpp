@@ -45,16 +45,21 @@ public:
 protected:
     void timerEvent(QTimerEvent*) override
     {
-        timespec time{};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-        const long long worked = time.tv_sec * 1000LL + time.tv_nsec / 1000000;
+        const long long now = worked();
         m_gap = std::max<long long>(m_gap, m_clock.restart());
-        m_work = std::max(m_work, worked - std::exchange(m_last, worked));
+        m_work = std::max(m_work, now - std::exchange(m_last, now));
     }
 
 private:
+    static long long worked()
+    {
+        timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return time.tv_sec * 1000LL + time.tv_nsec / 1000000;
+    }
+
     QElapsedTimer m_clock;
-    long long m_last = 0;
+    long long m_last = worked();
     long long m_gap = 0;
     long long m_work = 0;
 };
