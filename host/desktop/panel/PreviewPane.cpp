@@ -1,6 +1,7 @@
 #include "PreviewPane.h"
 
 #include "host/desktop/look/Drawings.h"
+#include "host/desktop/rows/RowTexts.h"
 
 #include <QPainter>
 
@@ -67,9 +68,11 @@ void PreviewPane::show()
     const bool wasKnown = m_isKnown;
     m_isKnown = record != nullptr && record->facts;
     if (!m_isKnown) {
-        setAccessibleDescription({});
-        if (wasKnown)
+        const QString reason = record != nullptr ? rowtexts::reasonOf(*record) : QString();
+        if (wasKnown || reason != m_reason)
             update();
+        m_reason = reason;
+        setAccessibleDescription(reason);
         return;
     }
     m_pictures.setDocument(record->path, m_workbench.passwordOf(*record), record->facts);
@@ -96,7 +99,7 @@ void PreviewPane::paintEvent(QPaintEvent*)
     if (!m_isKnown) {
         painter.setPen(drawings::quietText(palette()));
         painter.drawText(area, int(Qt::AlignCenter) | int(Qt::TextWordWrap),
-                         tr("Select a document to see how it opens."));
+                         m_reason.isEmpty() ? tr("Select a document to see how it opens.") : m_reason);
         return;
     }
     QRectF scenes = area.adjusted(0, 0, 0, -titleHeight);

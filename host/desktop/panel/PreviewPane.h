@@ -33,6 +33,8 @@ private:
     bool m_isKnown = false;
     PreviewScene m_before;
     PreviewScene m_after;
+    /// Why a document is not known.
+    QString m_reason;
     QString m_followers;
 };
 

@@ -52,7 +52,7 @@ const std::array<ColumnRow, columnCount> rows{{
     {Column::Encrypted, "encrypted", QT_TRANSLATE_NOOP("Columns", "Encrypted"),
      QT_TRANSLATE_NOOP("Columns", "An encrypted document may need a password to be read or changed."), 9, false, false, {}},
     {Column::State, "state", QT_TRANSLATE_NOOP("Columns", "State"),
-     QT_TRANSLATE_NOOP("Columns", "What a run would do to the document, or did, and why not."), 34, false, true, {}},
+     QT_TRANSLATE_NOOP("Columns", "What a run would do to the document, or did, and why not."), 28, false, true, {}},
 }};
 // clang-format on
 
