@@ -25,7 +25,7 @@ using State = RunMachine::State;
 
 namespace {
 
-const int settleMilliseconds = 700;
+const int settleMilliseconds = 1200;
 const int longestWait = 60;
 
 QString folder;
