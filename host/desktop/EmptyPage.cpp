@@ -25,6 +25,8 @@ EmptyPage::EmptyPage(QWidget* parent) : QWidget(parent), m_picture(new QLabel(th
                        "Drop documents or folders here. Nothing is changed before you start it."));
     auto* files = new QPushButton(tr("Add &Files…"), this);
     auto* folder = new QPushButton(tr("Add F&older…"), this);
+    files->setObjectName("addFilesButton");
+    folder->setObjectName("addFolderButton");
     files->setDefault(true);
     connect(files, &QPushButton::clicked, this, &EmptyPage::addFiles);
     connect(folder, &QPushButton::clicked, this, &EmptyPage::addFolder);

@@ -10,9 +10,11 @@
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
 #include "host/desktop/presets/PresetFolder.h"
+#include "host/program/InstallLayout.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QFile>
 #include <QFrame>
 #include <QMenu>
 #include <QMimeData>
@@ -41,13 +43,16 @@ QWidget* line(QFrame::Shape shape)
 MainWindow::Places MainWindow::Places::ofUser()
 {
     const QString state = RunHistory::userFolder();
-    return {QCoreApplication::applicationDirPath() + "/quintar", state, state + "/../sessions",
+    return {QCoreApplication::applicationDirPath() + "/quintar",
+            state,
+            state + "/../sessions",
             QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/quintar/window.ini",
-            PresetFolder::userFolder()};
+            PresetFolder::userFolder(),
+            QFile::decodeName(installlayout::renderProgram().c_str())};
 }
 
 MainWindow::MainWindow(const Places& places)
-    : m_settings(places.settings, QSettings::IniFormat), m_views(places.views),
+    : m_settings(places.settings, QSettings::IniFormat), m_views(places.views), m_drawer(places.drawer),
       m_workbench(places.program, places.reports), m_session(m_workbench, places.sessions), m_actions(this),
       m_commands(m_workbench, m_actions, this)
 {
@@ -123,13 +128,13 @@ QWidget* MainWindow::makeSide()
 {
     m_change = new ChangePanel(m_workbench, this);
     m_change->setMinimumWidth(380);
-    m_preview = new PreviewPane(m_workbench, this);
+    m_preview = new PreviewPane(m_workbench, m_drawer, this);
     m_side = new QSplitter(Qt::Vertical, this);
     m_side->setChildrenCollapsible(false);
     m_side->addWidget(m_change);
     m_side->addWidget(m_preview);
     m_side->setStretchFactor(0, 1);
-    m_side->setSizes({540, 240});
+    m_side->setSizes({500, 300});
     auto* presets = new PresetMenu(m_workbench, m_actions, m_views, m_change);
     m_change->presets()->setMenu(presets);
     connect(presets, &PresetMenu::said, &m_commands, &Commands::said);

@@ -34,6 +34,8 @@ public:
         QString settings;
         /// Of the presets that are views.
         QString views;
+        /// The program that draws pages; it may be missing.
+        QString drawer = {};
 
         static Places ofUser();
     };
@@ -63,6 +65,7 @@ private:
 
     QSettings m_settings;
     QString m_views;
+    QString m_drawer;
     Workbench m_workbench;
     Session m_session;
     ActionTable m_actions;

@@ -1,10 +1,14 @@
 #include "RunBar.h"
 
 #include "host/desktop/look/Drawings.h"
+#include "host/desktop/texts/ReasonTexts.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLocale>
+
+#include <algorithm>
+#include <vector>
 
 namespace host::desktop {
 
@@ -14,6 +18,8 @@ using State = RunMachine::State;
 namespace {
 
 const int announceMilliseconds = 5000;
+/// What is said stays that long at least, and good news no longer.
+const int sayMilliseconds = 6000;
 const int estimateMilliseconds = 3000;
 
 } // namespace
@@ -28,6 +34,7 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
       m_pause(button(tr("&Pause"), tr("Begins no further document until it goes on"))),
       m_stop(button(tr("S&top"), tr("Finishes the documents that are being worked on, and begins no more")))
 {
+    nameParts();
     m_text->setAccessibleName(tr("Status"));
     m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_progress->setAccessibleName(tr("Progress"));
@@ -52,16 +59,34 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
     connect(m_pause, &QPushButton::clicked, this, [this] {
         m_workbench.machine().state() == State::Paused ? m_workbench.resume() : m_workbench.pause();
     });
+    m_unsay.setSingleShot(true);
+    connect(&m_unsay, &QTimer::timeout, this, [this] {
+        if (!m_isTrouble)
+            m_said.clear();
+        show();
+    });
     connect(&workbench, &Workbench::countsChanged, this, &RunBar::show);
     connect(&workbench, &Workbench::progressed, this, &RunBar::showProgress);
     connect(&workbench.machine(), &RunMachine::changed, this, [this] {
-        m_said.clear();
+        if (m_workbench.machine().isWriting() || !m_unsay.isActive())
+            m_said.clear();
         m_running.start();
         show();
         showProgress();
     });
     show();
     showProgress();
+}
+
+void RunBar::nameParts()
+{
+    const std::pair<QWidget*, const char*> names[] = {
+        {m_text, "status"},        {m_progress, "progress"},    {m_why, "whyButton"},
+        {m_undo, "undoRunButton"}, {m_again, "tryAgainButton"}, {m_save, "saveReportButton"},
+        {m_pause, "pauseButton"},  {m_stop, "stopButton"},
+    };
+    for (const auto& [widget, name] : names)
+        widget->setObjectName(name);
 }
 
 QPushButton* RunBar::button(const QString& text, const QString& help)
@@ -77,6 +102,7 @@ void RunBar::say(const QString& text, bool isTrouble)
 {
     m_said = text.simplified();
     m_isTrouble = isTrouble;
+    m_unsay.start(sayMilliseconds);
     show();
     announce(m_said);
 }
@@ -151,6 +177,23 @@ QString RunBar::countsInWords() const
     return tr("Say on the right what is to change.");
 }
 
+/// The reasons of most documents first, in brackets.
+QString RunBar::reasonsInWords(const Workbench::Counts& counts)
+{
+    QMap<QString, int> brief;
+    for (auto each = counts.reasons.constBegin(); each != counts.reasons.constEnd(); ++each)
+        brief[reasontexts::briefly(each.key())] += each.value();
+    std::vector<std::pair<int, QString>> parts;
+    for (auto each = brief.constBegin(); each != brief.constEnd(); ++each)
+        parts.emplace_back(-each.value(), each.key());
+    std::sort(parts.begin(), parts.end());
+    QStringList texts;
+    for (const auto& [count, reason] : parts)
+        //: A number of documents, and why they cannot be changed: "4 signed"
+        texts += tr("%1 %2").arg(QLocale().toString(-count), reason);
+    return texts.isEmpty() ? QString() : " (" + texts.join(tr(", ")) + ")";
+}
+
 QString RunBar::plannedInWords(const Workbench::Counts& counts)
 {
     QString text =
@@ -158,7 +201,7 @@ QString RunBar::plannedInWords(const Workbench::Counts& counts)
     if (counts.asAsked > 0)
         text += "  ·  " + tr("%n open so already", "", counts.asAsked);
     if (counts.cannot > 0)
-        text += "  ·  " + tr("%n cannot be changed", "", counts.cannot);
+        text += "  ·  " + tr("%n cannot be changed", "", counts.cannot) + reasonsInWords(counts);
     return text;
 }
 
@@ -168,7 +211,7 @@ QString RunBar::doneInWords(const Workbench::Counts& counts)
     if (counts.unchanged > 0)
         text += "  ·  " + tr("%n as they were", "", counts.unchanged);
     if (counts.failed > 0)
-        text += "  ·  " + tr("%n failed", "", counts.failed);
+        text += "  ·  " + tr("%n failed", "", counts.failed) + reasonsInWords(counts);
     if (counts.notDone > 0)
         text += "  ·  " + tr("%n not done", "", counts.notDone);
     return text;

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTimer>
 #include <QWidget>
 
 namespace host::desktop {
@@ -31,10 +32,12 @@ signals:
     void saveWanted();
 
 private:
+    void nameParts();
     QPushButton* button(const QString& text, const QString& help);
     void show();
     void showProgress();
     QString countsInWords() const;
+    static QString reasonsInWords(const Workbench::Counts& counts);
     static QString plannedInWords(const Workbench::Counts& counts);
     static QString doneInWords(const Workbench::Counts& counts);
     QString timeLeft() const;
@@ -51,6 +54,7 @@ private:
     QPushButton* m_pause;
     QPushButton* m_stop;
     QString m_said;
+    QTimer m_unsay;
     bool m_isTrouble = false;
     QElapsedTimer m_running;
     QElapsedTimer m_announced;

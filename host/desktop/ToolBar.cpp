@@ -18,6 +18,9 @@ ToolBar::ToolBar(Workbench& workbench, ActionTable& actions, QWidget* parent)
     auto* menu = new QMenu(m_add);
     for (const Id id : {Id::AddFiles, Id::AddFolder, Id::Paste})
         menu->addAction(actions[id]);
+    m_add->setObjectName("addButton");
+    m_remove->setObjectName("removeButton");
+    m_start->setObjectName("startButton");
     m_add->setText(tr("&Add"));
     m_add->setAccessibleName(tr("Add"));
     m_add->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

@@ -82,7 +82,7 @@ private slots:
         choose("Panel", "Bookmarks");
         QTRY_VERIFY(button("Start…")->isEnabled());
         QCOMPARE(cell(0, Column::Panel), QString("Not set, will be Bookmarks"));
-        QCOMPARE(status(), QString("1 will change  ·  1 cannot be changed"));
+        QCOMPARE(status(), QString("1 will change  ·  1 cannot be changed (1 signed)"));
         click("Start…");
         auto* question = m_window->findChild<StartQuestion*>();
         QVERIFY(question->isVisible());
@@ -91,7 +91,7 @@ private slots:
         QCOMPARE(m_fake->starts().filter("--report").size(), 0);
         QTest::keyClick(question, Qt::Key_Return);
         QTRY_COMPARE(state(), State::Results);
-        QCOMPARE(status(), QString("1 changed  ·  1 failed"));
+        QCOMPARE(status(), QString("1 changed  ·  1 failed (1 signed)"));
         click("Show 1 Failed");
         QTRY_COMPARE(list()->model()->rowCount(), 1);
         list()->setCurrentIndex(list()->model()->index(0, 0));
@@ -101,6 +101,9 @@ private slots:
         QTRY_VERIFY(m_fake->starts().last().contains("--signed append"));
         QTRY_COMPARE(state(), State::Results);
         QVERIFY(button("Save Report…")->isVisible() && button("Undo This Run…")->isVisible());
+        const RunHistory& history = m_window->workbench().history();
+        QCOMPARE(history.rowCount(), 1); // both are undone together
+        QCOMPARE(history.runs().front().reports.size(), 2);
     }
 
     void savesAReport()
@@ -117,6 +120,11 @@ private slots:
     void undoesARunAfterAsking()
     {
         run();
+        list()->setFocus();
+        list()->setCurrentIndex(list()->model()->index(1, 0));
+        QTest::keyClick(list(), Qt::Key_Delete);
+        QCOMPARE(list()->model()->rowCount(), 1);
+        QCOMPARE(state(), State::Results);
         m_fake->plays("undo",
                       Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::result(0, "undone") + Fake::end());
         dialogs::setNextAnswer({"yes"});

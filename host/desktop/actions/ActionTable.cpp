@@ -1,5 +1,7 @@
 #include "ActionTable.h"
 
+#include <QMetaEnum>
+
 namespace host::desktop {
 
 namespace {
@@ -92,6 +94,7 @@ ActionTable::ActionTable(QWidget* parent) : QObject(parent)
 {
     for (const Row& row : rows) {
         auto* action = new QAction(tr(row.text), parent);
+        action->setObjectName(QMetaEnum::fromType<Id>().valueToKey(static_cast<int>(row.id)));
         action->setShortcuts(QKeySequence::listFromString(row.keys));
         action->setStatusTip(tr(row.help));
         action->setWhatsThis(tr(row.help));

@@ -47,6 +47,7 @@ public:
         WhatsThis,
         About,
     };
+    Q_ENUM(Id)
 
     explicit ActionTable(QWidget* parent);
 

@@ -9,6 +9,8 @@ namespace host::desktop {
 namespace {
 
 const int tickMilliseconds = 50;
+/// While lines wait: most of the time is left to the window.
+const int busyTickMilliseconds = 16;
 /// Of each tick, so that the window answers.
 const int readingMilliseconds = 8;
 const int killMilliseconds = 10000;
@@ -73,20 +75,26 @@ void ChildRun::tick()
 {
     m_lines.add(m_process->readAllStandardOutput());
     keepErrors();
-    take(false);
+    const bool isAllTaken = take();
     if (!m_isBroken && (m_lines.isTooLong() || m_lines.waiting() > mostWaiting))
         breakOff(tr("the program said more than can be understood"));
+    if (m_isOver && (isAllTaken || m_isBroken))
+        return finish();
+    if (const int next = isAllTaken ? tickMilliseconds : busyTickMilliseconds; next != m_tick.interval())
+        m_tick.setInterval(next);
 }
 
-/// \param all reads what has come to its end; else no longer than the window can wait.
-void ChildRun::take(bool all)
+/// Works no longer than the window can wait. \returns whether all whole lines are taken.
+bool ChildRun::take()
 {
     QElapsedTimer clock;
     clock.start();
     Events events;
-    while (!m_isBroken && (all || clock.elapsed() < readingMilliseconds)) {
+    bool isAllTaken = false;
+    while (!m_isBroken && clock.elapsed() < readingMilliseconds) {
         const std::optional<QByteArray> line = m_lines.next();
-        if (!line)
+        isAllTaken = !line;
+        if (isAllTaken)
             break;
         Event event = eventreader::read(*line);
         if (const auto* bad = std::get_if<BadLine>(&event))
@@ -100,6 +108,7 @@ void ChildRun::take(bool all)
     }
     if (!events.isEmpty())
         emit came(events);
+    return isAllTaken;
 }
 
 void ChildRun::keepErrors()
@@ -114,15 +123,16 @@ void ChildRun::breakOff(const QString& reason)
     m_process->kill();
 }
 
+/// What it said last may still wait to be read.
 void ChildRun::end()
 {
-    if (m_hasEnded)
-        return;
-    m_hasEnded = true;
+    m_isOver = true;
+    m_tick.start(0);
+}
+
+void ChildRun::finish()
+{
     m_tick.stop();
-    m_lines.add(m_process->readAllStandardOutput());
-    keepErrors();
-    take(true);
     m_ending.isComplete = m_ending.isComplete && !m_isBroken;
     if (m_ending.words.isEmpty())
         m_ending.words = QString::fromLocal8Bit(m_errors).trimmed();

@@ -42,17 +42,18 @@ signals:
 private:
     void order(const char* word);
     void tick();
-    void take(bool all);
+    bool take();
     void keepErrors();
     void breakOff(const QString& reason);
     void end();
+    void finish();
 
     QProcess* m_process;
     QTimer m_tick;
     LineSplitter m_lines;
     QByteArray m_errors;
     Ending m_ending;
-    bool m_hasEnded = false;
+    bool m_isOver = false;
     bool m_isBroken = false;
 };
 

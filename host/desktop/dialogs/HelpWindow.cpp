@@ -7,6 +7,7 @@ namespace host::desktop {
 
 HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window), m_text(new QTextBrowser(this))
 {
+    setObjectName("help");
     setWindowTitle(tr("Help - Quintar"));
     m_text->setAccessibleName(tr("Help"));
     m_text->setFrameShape(QFrame::NoFrame);

@@ -10,7 +10,9 @@ namespace host::desktop {
 HistoryDialog::HistoryDialog(RunHistory& history, QWidget* parent)
     : QDialog(parent), m_history(history), m_table(new QTableView(this)), m_undo(nullptr)
 {
+    setObjectName("earlierRuns");
     setWindowTitle(tr("Earlier Runs"));
+    m_table->setObjectName("runs");
     auto* text = new QLabel(
         tr("Undoing gives each document back as it was before the run. Documents that something else "
            "has changed since are left alone."),
@@ -19,6 +21,7 @@ HistoryDialog::HistoryDialog(RunHistory& history, QWidget* parent)
     fillTable();
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     m_undo = buttons->addButton(tr("&Undo This Run…"), QDialogButtonBox::ActionRole);
+    m_undo->setObjectName("undoRunButton");
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_undo, &QPushButton::clicked, this, [this] {
         const int row = m_table->currentIndex().row();

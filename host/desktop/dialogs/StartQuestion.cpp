@@ -29,6 +29,7 @@ int replaced(Workbench& workbench)
 
 StartQuestion::StartQuestion(Workbench& workbench, QWidget* parent) : QDialog(parent)
 {
+    setObjectName("startQuestion");
     setWindowTitle(tr("Start"));
     auto* what = new QLabel(question(workbench), this);
     QFont font = what->font();
@@ -41,6 +42,7 @@ StartQuestion::StartQuestion(Workbench& workbench, QWidget* parent) : QDialog(pa
     auto* buttons = new QDialogButtonBox(this);
     QPushButton* start = buttons->addButton(tr("&Start"), QDialogButtonBox::AcceptRole);
     buttons->addButton(QDialogButtonBox::Cancel);
+    start->setObjectName("startButton");
     start->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -49,7 +51,7 @@ StartQuestion::StartQuestion(Workbench& workbench, QWidget* parent) : QDialog(pa
     column->setSpacing(12);
     column->addWidget(what);
     column->addWidget(more);
-    column->addSpacing(4);
+    column->addStretch();
     column->addWidget(buttons);
     setMinimumWidth(440);
 }

@@ -13,6 +13,8 @@ namespace {
 
 const int margin = 4;
 const int signWidth = 20;
+/// Widths of texts are whole pixels, and their sum may be more.
+const int rounding = 3;
 
 QColor textColor(const QStyleOptionViewItem& option, bool isQuiet)
 {
@@ -46,7 +48,8 @@ void drawChange(QPainter& painter, const QStyleOptionViewItem& option, QRect are
     const int needed =
         QFontMetrics(bold).horizontalAdvance(after) + QFontMetrics(option.font).horizontalAdvance(arrow);
     const QString before =
-        QFontMetrics(option.font).elidedText(now, Qt::ElideRight, std::max(0, area.width() - needed));
+        QFontMetrics(option.font)
+            .elidedText(now, Qt::ElideRight, std::max(0, area.width() - needed - rounding));
     painter.setPen(textColor(option, true));
     area = drawPart(painter, area, before, option.font, Qt::AlignLeft | Qt::AlignVCenter);
     area = drawPart(painter, area, arrow, option.font, Qt::AlignLeft | Qt::AlignVCenter);

@@ -26,6 +26,8 @@ QString textOf(const DocumentRecord& record)
 DetailLine::DetailLine(Workbench& workbench, QWidget* parent)
     : QWidget(parent), m_workbench(workbench), m_text(new QLabel(this)), m_remedy(new QPushButton(this))
 {
+    m_text->setObjectName("detail");
+    m_remedy->setObjectName("remedyButton");
     m_text->setAccessibleName(tr("About the current document"));
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

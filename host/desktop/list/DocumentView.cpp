@@ -22,6 +22,7 @@ DocumentView::DocumentView(DocumentOrder& order, QSettings& settings, QWidget* p
     setModel(&order);
     setSelectionModel(order.selection());
     setItemDelegate(new CellDelegate(this));
+    setObjectName("documents");
     setAccessibleName(tr("Documents"));
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
@@ -40,6 +41,7 @@ DocumentView::DocumentView(DocumentOrder& order, QSettings& settings, QWidget* p
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setContextMenuPolicy(Qt::CustomContextMenu);
+    header->setObjectName("columns");
     header->setAccessibleName(tr("Columns"));
     connect(header, &QHeaderView::customContextMenuRequested, this,
             [this](const QPoint& place) { chooseColumns(horizontalHeader()->mapToGlobal(place)); });

@@ -23,6 +23,9 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     label->setBuddy(m_kind);
     for (const DocumentFilter::Kind kind : DocumentFilter::kinds())
         m_kind->addItem(DocumentFilter::nameOf(kind), static_cast<int>(kind));
+    m_kind->setObjectName("filter");
+    m_search->setObjectName("search");
+    m_count->setObjectName("shownCount");
     m_kind->setAccessibleName(tr("Show"));
     m_search->setAccessibleName(tr("Search"));
     m_search->setPlaceholderText(tr("Search name, folder, title"));

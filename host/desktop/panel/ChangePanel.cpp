@@ -34,14 +34,14 @@ QWidget* warningLine(const ChangeWarning& warning, QWidget* parent, const std::f
     auto* text = new QLabel(warning.text, line);
     text->setWordWrap(true);
     text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    row->addWidget(sign, 0, Qt::AlignTop);
+    row->addWidget(sign, 0, Qt::AlignVCenter);
     row->addWidget(text, 1);
     if (warning.show) {
         auto* button = new QToolButton(line);
         button->setText(ChangePanel::tr("Show Them"));
         button->setAccessibleName(ChangePanel::tr("Show them: %1").arg(warning.text));
         QObject::connect(button, &QToolButton::clicked, parent, show);
-        row->addWidget(button, 0, Qt::AlignTop);
+        row->addWidget(button, 0, Qt::AlignVCenter);
     }
     return line;
 }
@@ -58,6 +58,9 @@ ChangePanel::ChangePanel(Workbench& workbench, QWidget* parent)
       m_reset(new QPushButton(tr("&Keep All"), this)), m_warnings(new QVBoxLayout),
       m_destination(new DestinationRow(this))
 {
+    m_scope->setObjectName("scope");
+    m_presets->setObjectName("presetsButton");
+    m_reset->setObjectName("keepAllButton");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(spacing);
@@ -192,6 +195,7 @@ QWidget* ChangePanel::makeStored()
     m_storedLines->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
     m_storedLines->setWordWrap(true);
     auto* configure = new QPushButton(tr("C&onfigure…"), m_stored);
+    configure->setObjectName("configureButton");
     connect(configure, &QPushButton::clicked, this, &ChangePanel::configureWanted);
     column->addWidget(m_storedName);
     column->addWidget(m_storedLines);

@@ -12,6 +12,11 @@ DestinationRow::DestinationRow(QWidget* parent)
       m_choose(new QToolButton(this)), m_suffix(new QLineEdit(this)), m_note(new QLabel(this))
 {
     m_kind->addItems({tr("The documents themselves"), tr("A folder"), tr("Beside them, under another name")});
+    m_kind->setObjectName("destination");
+    m_folder->setObjectName("destinationFolder");
+    m_choose->setObjectName("destinationChoose");
+    m_suffix->setObjectName("destinationSuffix");
+    m_note->setObjectName("destinationNote");
     m_kind->setAccessibleName(tr("Write to"));
     m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_kind->setWhatsThis(

@@ -1,6 +1,7 @@
 #include "PreviewPane.h"
 
 #include "host/desktop/look/Drawings.h"
+#include "host/desktop/rows/RowTexts.h"
 
 #include <QPainter>
 
@@ -10,6 +11,8 @@ namespace {
 
 const double margin = 12;
 const double titleHeight = 20;
+/// A single window is drawn so much wider than tall.
+const double widest = 1.25;
 
 QString inWords(const PreviewScene& scene)
 {
@@ -42,9 +45,10 @@ QString followersOf(const PreviewScene& scene)
 
 } // namespace
 
-PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent)
-    : QWidget(parent), m_workbench(workbench), m_outline(workbench.program())
+PreviewPane::PreviewPane(Workbench& workbench, const QString& drawer, QWidget* parent)
+    : QWidget(parent), m_workbench(workbench), m_outline(workbench.program()), m_pictures(drawer)
 {
+    setObjectName("preview");
     setAccessibleName(tr("Preview"));
     setMinimumHeight(170);
     setWhatsThis(tr(
@@ -54,6 +58,7 @@ PreviewPane::PreviewPane(Workbench& workbench, QWidget* parent)
     connect(&workbench.table(), &DocumentTable::changed, this, &PreviewPane::show);
     connect(&workbench.order(), &DocumentOrder::shownChanged, this, &PreviewPane::show);
     connect(&m_outline, &Outline::came, this, &PreviewPane::show);
+    connect(&m_pictures, &PagePictures::came, this, QOverload<>::of(&QWidget::update));
     show();
 }
 
@@ -63,11 +68,14 @@ void PreviewPane::show()
     const bool wasKnown = m_isKnown;
     m_isKnown = record != nullptr && record->facts;
     if (!m_isKnown) {
-        setAccessibleDescription({});
-        if (wasKnown)
+        const QString reason = record != nullptr ? rowtexts::reasonOf(*record) : QString();
+        if (wasKnown || reason != m_reason)
             update();
+        m_reason = reason;
+        setAccessibleDescription(reason);
         return;
     }
+    m_pictures.setDocument(record->path, m_workbench.passwordOf(*record), record->facts);
     QVector<PreviewScene::Bookmark> bookmarks;
     if (record->facts->bookmarks != 0 && isVisible())
         bookmarks = m_outline.of(record->path, m_workbench.passwordOf(*record));
@@ -91,7 +99,7 @@ void PreviewPane::paintEvent(QPaintEvent*)
     if (!m_isKnown) {
         painter.setPen(drawings::quietText(palette()));
         painter.drawText(area, int(Qt::AlignCenter) | int(Qt::TextWordWrap),
-                         tr("Select a document to see how it opens."));
+                         m_reason.isEmpty() ? tr("Select a document to see how it opens.") : m_reason);
         return;
     }
     QRectF scenes = area.adjusted(0, 0, 0, -titleHeight);
@@ -102,10 +110,11 @@ void PreviewPane::paintEvent(QPaintEvent*)
     QRectF second = first.translated(half + margin, 0);
     if (isRightToLeft)
         std::swap(first, second);
-    if (isSame)
-        paintScene(painter, QRectF(scenes.center().x() - half / 2, scenes.top(), half, scenes.height()),
+    if (isSame) {
+        const double width = std::max(half, std::min(scenes.width(), scenes.height() * widest));
+        paintScene(painter, QRectF(scenes.center().x() - width / 2, scenes.top(), width, scenes.height()),
                    tr("Opens like this"), m_before);
-    else {
+    } else {
         paintScene(painter, first, tr("Before"), m_before);
         paintScene(painter, second, tr("After"), m_after);
     }
@@ -121,8 +130,10 @@ void PreviewPane::paintScene(QPainter& painter, const QRectF& area, const QStrin
     const QRectF head(area.topLeft(), QSizeF(area.width(), titleHeight));
     painter.setPen(drawings::quietText(palette()));
     painter.drawText(head, int(Qt::AlignLeft | Qt::AlignVCenter), title);
-    const SceneDrawing::Picture none = [](int) { return QImage(); };
-    SceneDrawing(scene, palette(), none).paint(painter, area.adjusted(0.5, titleHeight, -0.5, -0.5));
+    const SceneDrawing::Picture picture = [this](int page, double width) {
+        return m_pictures.of(page, width * devicePixelRatioF());
+    };
+    SceneDrawing(scene, palette(), picture).paint(painter, area.adjusted(0.5, titleHeight, -0.5, -0.5));
 }
 
 } // namespace host::desktop

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/desktop/preview/Outline.h"
+#include "host/desktop/preview/PagePictures.h"
 #include "host/desktop/preview/SceneDrawing.h"
 #include "host/desktop/workbench/Workbench.h"
 
@@ -14,7 +15,8 @@ class PreviewPane : public QWidget
     Q_OBJECT
 
 public:
-    explicit PreviewPane(Workbench& workbench, QWidget* parent = nullptr);
+    /// \param drawer the program that draws pages; empty, or one that is not there, leaves lines for text.
+    PreviewPane(Workbench& workbench, const QString& drawer, QWidget* parent = nullptr);
 
     QSize sizeHint() const override { return {400, 240}; }
 
@@ -27,9 +29,12 @@ private:
 
     Workbench& m_workbench;
     Outline m_outline;
+    PagePictures m_pictures;
     bool m_isKnown = false;
     PreviewScene m_before;
     PreviewScene m_after;
+    /// Why a document is not known.
+    QString m_reason;
     QString m_followers;
 };
 

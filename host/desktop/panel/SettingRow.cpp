@@ -39,6 +39,9 @@ SettingRow::SettingRow(ViewEntry entry, QGridLayout* layout, QWidget* parent)
       m_box(new QComboBox(parent)), m_present(new ElidedLabel(parent))
 {
     m_label->setBuddy(m_box);
+    const QString name = viewentries::describe(entry).option;
+    m_box->setObjectName(name);
+    m_present->setObjectName(name + "-now");
     m_box->setAccessibleName(viewtexts::nameOf(entry));
     m_box->setMinimumContentsLength(12);
     m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -69,6 +72,7 @@ QLayout* SettingRow::makeEditors(QWidget* parent)
     editors->addWidget(m_box, 2);
     if (isNumber(m_entry)) {
         m_number = new QSpinBox(parent);
+        m_number->setObjectName(m_box->objectName() + "-number");
         m_number->setRange(1, INT_MAX);
         m_number->setAccessibleName(tr("%1, number").arg(viewtexts::nameOf(m_entry)));
         connect(m_number, QOverload<int>::of(&QSpinBox::valueChanged), this, &SettingRow::tell);
@@ -76,6 +80,7 @@ QLayout* SettingRow::makeEditors(QWidget* parent)
     }
     if (isText(m_entry)) {
         m_text = new QLineEdit(parent);
+        m_text->setObjectName(m_box->objectName() + "-text");
         m_text->setAccessibleName(tr("%1, text").arg(viewtexts::nameOf(m_entry)));
         m_text->setPlaceholderText(kindOf(m_entry) == viewentries::Kind::Language ? QStringLiteral("en-GB")
                                                                                   : QString());

@@ -132,7 +132,9 @@ void SceneDrawing::paintPictures(QPainter& painter, const QRectF& panel)
     const double width = panel.width() * 0.5;
     double y = panel.top() + gap;
     for (int page = 1; page <= m_scene.pages && y < panel.bottom(); ++page) {
-        const QRectF place(panel.center().x() - width / 2, y, width, width * ratio);
+        const QImage known = m_picture(page, 0);
+        const double shape = known.isNull() ? ratio : double(known.height()) / known.width();
+        const QRectF place(panel.center().x() - width / 2, y, width, width * shape);
         paintPage(painter, place, page);
         y = place.bottom() + gap;
     }
@@ -156,7 +158,7 @@ void SceneDrawing::paintRows(QPainter& painter, const QRectF& panel, bool hasBox
 
 QSizeF SceneDrawing::pageSize(const QRectF& inside, bool areTwo) const
 {
-    const QImage known = m_picture(m_scene.page);
+    const QImage known = m_picture(m_scene.page, 0);
     const double shape = known.isNull() ? ratio : double(known.height()) / std::max(1, known.width());
     const double room = (inside.width() - (areTwo ? 3 : 2) * gap) / (areTwo ? 2 : 1);
     const double whole = std::min(room, (inside.height() - 2 * gap) / shape);
@@ -199,7 +201,7 @@ void SceneDrawing::paintPages(QPainter& painter, const QRectF& inside)
 /// Without a picture: lines that stand for text, and the number of the page.
 void SceneDrawing::paintPage(QPainter& painter, const QRectF& place, int page)
 {
-    const QImage picture = m_picture(page);
+    const QImage picture = m_picture(page, place.width());
     painter.fillRect(place.translated(1, 1.5), QColor(0, 0, 0, 50));
     painter.fillRect(place, Qt::white);
     if (!picture.isNull()) {

@@ -14,8 +14,9 @@ namespace host::desktop {
 class SceneDrawing
 {
 public:
-    /// A picture of a page, or a null image where there is none.
-    using Picture = std::function<QImage(int page)>;
+    /// A picture of a page for a place of that width, or a null image where there is none. Without a width what is
+    /// there will do.
+    using Picture = std::function<QImage(int page, double width)>;
 
     SceneDrawing(const PreviewScene& scene, const QPalette& palette, const Picture& picture)
         : m_scene(scene), m_palette(palette), m_picture(picture)

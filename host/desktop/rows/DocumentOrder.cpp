@@ -12,6 +12,12 @@ namespace {
 /// Rows that change while others are still read keep their places until nothing has changed for this long.
 const int quietMilliseconds = 1000;
 
+/// What stands in words as well, such as "Last", is read from the left.
+bool isCount(Column column)
+{
+    return columns::describe(column).isNumber && columns::describe(column).entries.empty();
+}
+
 QItemSelection rangesOf(const QAbstractItemModel& model, std::vector<int> rows)
 {
     QItemSelection ranges;
@@ -115,8 +121,7 @@ QVariant DocumentOrder::data(const QModelIndex& index, int role) const
         return column == Column::Name ? QString::fromLocal8Bit(record->path)
                                       : rowtexts::spoken(*record, column);
     case Qt::TextAlignmentRole:
-        return int(columns::describe(column).isNumber ? Qt::AlignRight | Qt::AlignVCenter
-                                                      : Qt::AlignLeft | Qt::AlignVCenter);
+        return int(isCount(column) ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
     case AfterRole:
         return rowtexts::cell(*record, column).after;
     case QuietRole:
@@ -142,8 +147,7 @@ QVariant DocumentOrder::headerData(int section, Qt::Orientation orientation, int
     case Qt::WhatsThisRole:
         return columns::helpOf(column);
     case Qt::TextAlignmentRole:
-        return int(columns::describe(column).isNumber ? Qt::AlignRight | Qt::AlignVCenter
-                                                      : Qt::AlignLeft | Qt::AlignVCenter);
+        return int(isCount(column) ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
     default:
         return {};
     }

@@ -127,8 +127,11 @@ CellText cell(const DocumentRecord& record, Column column)
     case Column::Folder:
         return {record.folder, {}, false};
     case Column::State: {
-        const QString reason = reasonOf(record);
         const State state = record.state();
+        const bool isFine = state == State::WillChange || state == State::AsAsked ||
+                            state == State::Changed ||
+                            state == State::Unchanged; // what is noted all the same is told below the list
+        const QString reason = isFine ? QString() : reasonOf(record);
         return {reason.isEmpty() ? stateOf(record) : reason,
                 {},
                 state == State::Waiting || state == State::Known};

@@ -11,6 +11,9 @@ enum class Remedy { None, Password, AppendSigned, AppendCertified, ReadAgain, Sh
 /// The user's words for the program's code; for a code that is not known, the program's own words.
 QString textOf(const QString& code, const QString& words);
 
+/// A word or two for counting documents: "44 signed".
+QString briefly(const QString& code);
+
 Remedy remedyFor(const QString& code);
 
 /// What the remedy's button says; empty for None.

@@ -410,6 +410,62 @@
         <source>Show in &amp;Folder</source>
         <translation>I&amp;m Ordner anzeigen</translation>
     </message>
+    <message>
+        <source>signed</source>
+        <translation>signiert</translation>
+    </message>
+    <message>
+        <source>certified</source>
+        <translation>zertifiziert</translation>
+    </message>
+    <message>
+        <source>password needed</source>
+        <translation>mit Passwort</translation>
+    </message>
+    <message>
+        <source>encrypted</source>
+        <translation>verschlüsselt</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>beschädigt</translation>
+    </message>
+    <message>
+        <source>out of reach</source>
+        <translation>nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>unsafe to read</source>
+        <translation>nicht sicher lesbar</translation>
+    </message>
+    <message>
+        <source>Its properties are damaged, so its title cannot be set.</source>
+        <translation>Seine Eigenschaften sind beschädigt; der Titel kann nicht gesetzt werden.</translation>
+    </message>
+    <message>
+        <source>It opens with an action that cannot be taken over.</source>
+        <translation>Es öffnet sich mit einer Aktion, die nicht übernommen werden kann.</translation>
+    </message>
+    <message>
+        <source>It is larger than a limit allows.</source>
+        <translation>Es ist größer, als eine Grenze erlaubt.</translation>
+    </message>
+    <message>
+        <source>Another program keeps it locked.</source>
+        <translation>Ein anderes Programm hält es gesperrt.</translation>
+    </message>
+    <message>
+        <source>It tried to do what no document needs, and was shut out.</source>
+        <translation>Es versuchte, was kein Dokument braucht, und wurde ausgesperrt.</translation>
+    </message>
+    <message>
+        <source>The computer is too busy: no worker could be started.</source>
+        <translation>Der Rechner ist zu beschäftigt: Kein Hilfsprozess konnte gestartet werden.</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>andere</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -1867,6 +1923,15 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
             <numerusform>noch etwa %n Minute</numerusform>
             <numerusform>noch etwa %n Minuten</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A number of documents, and why they cannot be changed: &quot;4 signed&quot;</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
     </message>
 </context>
 <context>

@@ -410,6 +410,62 @@
         <source>Show in &amp;Folder</source>
         <translation>M&amp;ostrar en la carpeta</translation>
     </message>
+    <message>
+        <source>signed</source>
+        <translation>firmados</translation>
+    </message>
+    <message>
+        <source>certified</source>
+        <translation>certificados</translation>
+    </message>
+    <message>
+        <source>password needed</source>
+        <translation>con contraseña</translation>
+    </message>
+    <message>
+        <source>encrypted</source>
+        <translation>cifrados</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>dañados</translation>
+    </message>
+    <message>
+        <source>out of reach</source>
+        <translation>inaccesibles</translation>
+    </message>
+    <message>
+        <source>unsafe to read</source>
+        <translation>inseguros de leer</translation>
+    </message>
+    <message>
+        <source>Its properties are damaged, so its title cannot be set.</source>
+        <translation>Sus propiedades están dañadas; no se puede establecer el título.</translation>
+    </message>
+    <message>
+        <source>It opens with an action that cannot be taken over.</source>
+        <translation>Se abre con una acción que no se puede tomar.</translation>
+    </message>
+    <message>
+        <source>It is larger than a limit allows.</source>
+        <translation>Supera un límite de tamaño.</translation>
+    </message>
+    <message>
+        <source>Another program keeps it locked.</source>
+        <translation>Otro programa lo tiene bloqueado.</translation>
+    </message>
+    <message>
+        <source>It tried to do what no document needs, and was shut out.</source>
+        <translation>Intentó lo que ningún documento necesita y fue excluido.</translation>
+    </message>
+    <message>
+        <source>The computer is too busy: no worker could be started.</source>
+        <translation>El equipo está demasiado ocupado: no se pudo iniciar ningún proceso.</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>otros</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -1867,6 +1923,15 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
             <numerusform>queda %n minuto aprox.</numerusform>
             <numerusform>quedan %n minutos aprox.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A number of documents, and why they cannot be changed: &quot;4 signed&quot;</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
     </message>
 </context>
 <context>

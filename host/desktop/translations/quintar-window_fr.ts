@@ -410,6 +410,62 @@
         <source>Show in &amp;Folder</source>
         <translation>Afficher dans le dossi&amp;er</translation>
     </message>
+    <message>
+        <source>signed</source>
+        <translation>signés</translation>
+    </message>
+    <message>
+        <source>certified</source>
+        <translation>certifiés</translation>
+    </message>
+    <message>
+        <source>password needed</source>
+        <translation>avec mot de passe</translation>
+    </message>
+    <message>
+        <source>encrypted</source>
+        <translation>chiffrés</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>endommagés</translation>
+    </message>
+    <message>
+        <source>out of reach</source>
+        <translation>inaccessibles</translation>
+    </message>
+    <message>
+        <source>unsafe to read</source>
+        <translation>dangereux à lire</translation>
+    </message>
+    <message>
+        <source>Its properties are damaged, so its title cannot be set.</source>
+        <translation>Ses propriétés sont endommagées ; son titre ne peut pas être défini.</translation>
+    </message>
+    <message>
+        <source>It opens with an action that cannot be taken over.</source>
+        <translation>Il s’ouvre avec une action qui ne peut pas être reprise.</translation>
+    </message>
+    <message>
+        <source>It is larger than a limit allows.</source>
+        <translation>Il dépasse une taille limite.</translation>
+    </message>
+    <message>
+        <source>Another program keeps it locked.</source>
+        <translation>Un autre programme le verrouille.</translation>
+    </message>
+    <message>
+        <source>It tried to do what no document needs, and was shut out.</source>
+        <translation>Il a tenté ce dont aucun document n’a besoin et a été écarté.</translation>
+    </message>
+    <message>
+        <source>The computer is too busy: no worker could be started.</source>
+        <translation>L’ordinateur est trop occupé : aucun processus n’a pu démarrer.</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>autres</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -1867,6 +1923,15 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
             <numerusform>encore %n minute environ</numerusform>
             <numerusform>encore %n minutes environ</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A number of documents, and why they cannot be changed: &quot;4 signed&quot;</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
     </message>
 </context>
 <context>

@@ -406,6 +406,62 @@
         <source>Show in &amp;Folder</source>
         <translation>フォルダーで表示(&amp;F)</translation>
     </message>
+    <message>
+        <source>signed</source>
+        <translation>署名付き</translation>
+    </message>
+    <message>
+        <source>certified</source>
+        <translation>認証済み</translation>
+    </message>
+    <message>
+        <source>password needed</source>
+        <translation>パスワードが必要</translation>
+    </message>
+    <message>
+        <source>encrypted</source>
+        <translation>暗号化</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>破損</translation>
+    </message>
+    <message>
+        <source>out of reach</source>
+        <translation>アクセス不可</translation>
+    </message>
+    <message>
+        <source>unsafe to read</source>
+        <translation>読み取りに危険</translation>
+    </message>
+    <message>
+        <source>Its properties are damaged, so its title cannot be set.</source>
+        <translation>プロパティが破損しているため、タイトルを設定できません。</translation>
+    </message>
+    <message>
+        <source>It opens with an action that cannot be taken over.</source>
+        <translation>引き継げないアクションで開きます。</translation>
+    </message>
+    <message>
+        <source>It is larger than a limit allows.</source>
+        <translation>サイズの上限を超えています。</translation>
+    </message>
+    <message>
+        <source>Another program keeps it locked.</source>
+        <translation>ほかのプログラムがロックしています。</translation>
+    </message>
+    <message>
+        <source>It tried to do what no document needs, and was shut out.</source>
+        <translation>文書に不要な動作を試みたため、遮断されました。</translation>
+    </message>
+    <message>
+        <source>The computer is too busy: no worker could be started.</source>
+        <translation>コンピューターが混雑しており、処理を開始できませんでした。</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>その他</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -1842,6 +1898,15 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>
             <numerusform>残り約 %n 分</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A number of documents, and why they cannot be changed: &quot;4 signed&quot;</extracomment>
+        <translation>%2 %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
     </message>
 </context>
 <context>

@@ -110,12 +110,17 @@ void RunHistory::reload()
     endResetModel();
 }
 
-QString RunHistory::add(const Run& run)
+QString RunHistory::add(const Run& run, const QString& earlier)
 {
     if (run.reports.isEmpty())
         return {};
     Run told = run;
     told.note = QString(run.reports.first()).replace(".jsonl", ".json");
+    for (const Run& each : m_runs)
+        if (!earlier.isEmpty() && each.note == earlier && !each.isUndone) {
+            told.note = earlier;
+            told.reports = each.reports + run.reports;
+        }
     const QString problem = writeNote(told);
     reload();
     return problem;

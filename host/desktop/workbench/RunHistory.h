@@ -37,8 +37,11 @@ public:
 
     const QString& folder() const { return m_folder; }
     void reload();
-    /// Writes a run down. \returns empty, or why it could not be.
-    QString add(const Run& run);
+    /// Writes a run down. \param earlier the note of a run that this one went on with, such as by trying once more what
+    /// had failed: both are told as one, and undone together. \returns empty, or why it could not be.
+    QString add(const Run& run, const QString& earlier = {});
+    /// Empty where there is none.
+    QString newestNote() const { return m_runs.empty() ? QString() : m_runs.front().note; }
     /// \returns empty, or why it could not be kept.
     QString setUndone(int row);
 

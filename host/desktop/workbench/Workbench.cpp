@@ -108,7 +108,8 @@ void Workbench::follow()
         m_machine.handle(Step::Read);
     }
     collectTargets();
-    edited();
+    if (m_machine.state() != State::Results) // which stay those of the documents that are left
+        edited();
 }
 
 void Workbench::setDraft(const ChangeDraft& draft)
@@ -288,6 +289,8 @@ Workbench::Counts Workbench::counts() const
         counts.changed += state == DocumentRecord::State::Changed ? 1 : 0;
         counts.unchanged += state == DocumentRecord::State::Unchanged ? 1 : 0;
         counts.failed += state == DocumentRecord::State::Failed ? 1 : 0;
+        if (record.isInTrouble())
+            ++counts.reasons[record.reasonCode()];
         counts.notDone += state == DocumentRecord::State::NotDone ? 1 : 0;
     };
     const bool areResults = m_machine.state() == State::Results || m_machine.isWriting();

@@ -12,6 +12,7 @@
 #include "host/desktop/tasks/Running.h"
 #include "host/desktop/tasks/Undoing.h"
 
+#include <QMap>
 #include <QPointer>
 
 namespace host::desktop {
@@ -43,6 +44,8 @@ public:
         int unchanged = 0;
         int failed = 0;
         int notDone = 0;
+        /// Those that are in trouble by the code of their reason.
+        QMap<QString, int> reasons;
     };
 
     /// \param program the program that does the work. \param reports the folder for the reports of runs.
@@ -135,6 +138,8 @@ private:
     RunOrder m_lastOrder;
     Scope m_scope = Scope::Automatic;
     Ids m_targets;
+    /// Of the run whose results are shown.
+    QString m_lastNote;
     QPointer<DocumentTask> m_task;
     QVector<QByteArray> m_waiting;
     QTimer m_checkSoon;

@@ -45,6 +45,8 @@ void Workbench::run(const Ids& ids)
             tr("Nothing is begun: the folder for reports cannot be made: %1").arg(m_history.folder()));
     }
     m_lastOrder = m_runOrder;
+    if (m_machine.state() != State::Results)
+        m_lastNote.clear();
     begin(running, &Workbench::endRunning);
     m_machine.handle(Step::Started);
     running->start(ids);
@@ -98,8 +100,9 @@ void Workbench::writeDown(const Running& running)
     done.isInPlace = running.order().destination.kind == Destination::Kind::InPlace;
     done.changed = counts().changed;
     done.reports = running.reports();
-    if (const QString problem = m_history.add(done); !problem.isEmpty())
+    if (const QString problem = m_history.add(done, m_lastNote); !problem.isEmpty())
         emit failed(problem);
+    m_lastNote = m_history.newestNote();
 }
 
 void Workbench::undoRun(int row)
