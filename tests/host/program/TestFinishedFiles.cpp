@@ -57,8 +57,8 @@ private slots:
 #ifdef __x86_64__
         const std::string bytes = WorkFolder::contentOf(file.toStdString());
         QVERIFY(QByteArray::fromStdString(bytes).count(QByteArray("\xf3\x0f\x1e\xfa")) > 500); // endbr64
-        const std::string probe("\x48\x83\x0c\x24\x00", 5); // orq $0, (%rsp), in large frames
-        QVERIFY(bytes.find(probe) != std::string::npos);
+        const std::string probe("\x48\x83\x0c\x24\x00", 5);            // orq $0, (%rsp), in large frames
+        QVERIFY(!isProgram || bytes.find(probe) != std::string::npos); // the others may have no large frames
 #endif
     }
 };
