@@ -4,6 +4,7 @@
 #include "host/desktop/platform/Language.h"
 #include "host/program/HostApplication.h"
 
+#include <QCommandLineParser>
 #include <QGuiApplication>
 
 #include <clocale>
@@ -17,6 +18,11 @@ int main(int argc, char** argv)
     const std::unique_ptr<QCoreApplication> application = hostapplication::forWindows(argc, argv);
     desktop::language::choose();
     QGuiApplication::setDesktopFileName("quintar-window");
+    QCommandLineParser parser;
+    parser.addVersionOption();
+    parser.addHelpOption();
+    parser.addPositionalArgument("documents", {}, "[DOCUMENT|FOLDER ...]");
+    parser.process(*application); // ends for these options, and for those that it does not know
     desktop::MainWindow window(desktop::MainWindow::Places::ofUser());
     QVector<QByteArray> paths;
     for (int place = 1; place < argc; ++place)

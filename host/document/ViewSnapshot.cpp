@@ -3,6 +3,7 @@
 #include "PresentView.h"
 #include "host/change/ViewJson.h"
 #include "host/change/ViewValues.h"
+#include "host/failures/Joined.h"
 
 #include <QString>
 
@@ -72,8 +73,8 @@ std::string ViewSnapshot::changeTo(const ViewSnapshot& after) const
     std::string text;
     for (const viewentries::Description& each : viewentries::all())
         if (differs(each.entry, after))
-            text += (text.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " +
-                    wordFor(each.entry, after) + " -> " + after.wordFor(each.entry, *this);
+            text = joined(text, viewentries::label(each.entry) + ": " + wordFor(each.entry, after) + " -> " +
+                                    after.wordFor(each.entry, *this));
     return text;
 }
 

@@ -1,5 +1,6 @@
 #include "Placement.h"
 
+#include "host/failures/Joined.h"
 #include "host/files/FileState.h"
 #include "host/saving/InPlaceAppend.h"
 #include "host/saving/InPlaceFile.h"
@@ -100,8 +101,7 @@ DocumentResult Placement::placed(const Failure& why, const std::string& note) co
 {
     DocumentResult result = m_result;
     result.checksumUnfinished.clear();
-    result.note += (result.note.empty() ? "" : "; ") + ("it is in place, but then: " + why.text) +
-                   (note.empty() ? "" : "; ") + note;
+    result.note = joined(joined(result.note, "it is in place, but then: " + why.text), note);
     return result;
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/document/ViewChanger.h"
 #include "host/document/ViewSnapshot.h"
+#include "host/failures/Joined.h"
 #include "host/plan/StreamFiles.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/TerminalText.h"
@@ -52,8 +53,7 @@ Reading CheckTeller::tell(const std::string& file)
     if (good)
         return {Reading::Good, {}, trial.note};
     std::string text = before.changeTo(after);
-    if (trial.reason)
-        text = trial.reason.text + (text.empty() ? "" : "; ") + text;
+    text = joined(trial.reason.text, text);
     if (text.empty())
         text = trial.details.empty() ? otherPlace : trial.details;
     return {Reading::Differs, forTerminal(shownName(file)) + ": " + forTerminal(text) + "\n", trial.note,
@@ -71,12 +71,12 @@ CheckTeller::Trial CheckTeller::tryChange(const std::string& file)
     Trial trial;
     trial.reason = changer.apply(file);
     for (const ViewDifference& each : changer.differences())
-        trial.details += (trial.details.empty() ? "" : "; ") + viewentries::label(each.entry) + ": " +
-                         each.before + " -> " + each.after;
+        trial.details =
+            joined(trial.details, viewentries::label(each.entry) + ": " + each.before + " -> " + each.after);
     if (!trial.reason)
         trial.reason = changer.leftOut();
     for (const std::string& note : changer.notes())
-        trial.note += (trial.note.empty() ? "" : "; ") + note;
+        trial.note = joined(trial.note, note);
     return trial;
 }
 

@@ -1,6 +1,7 @@
 #include "InPlaceAppend.h"
 
 #include "InPlaceFile.h"
+#include "host/failures/Joined.h"
 #include "host/files/FileState.h"
 
 #include "pdflibrary/ErrorCodes.h"
@@ -30,12 +31,6 @@ Failure notAsLeft()
 }
 
 const char overlooked[] = "bytes that viewers pass over are left behind its end";
-
-/// Texts of which each may be empty.
-std::string joined(const std::string& one, const std::string& other)
-{
-    return one + (one.empty() || other.empty() ? "" : "; ") + other;
-}
 
 } // namespace
 

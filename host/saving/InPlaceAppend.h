@@ -79,8 +79,8 @@ private:
     const struct stat m_before;
     std::string_view m_update;
     std::string_view m_begin; ///< Without the last lines.
-    std::optional<struct stat>
-        m_left; ///< As this object left the document last; nothing when that is not known.
+    /// As this object left the document last; nothing when that is not known.
+    std::optional<struct stat> m_left;
 };
 
 } // namespace host

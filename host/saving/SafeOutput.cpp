@@ -1,6 +1,7 @@
 #include "SafeOutput.h"
 
 #include "FileAttributes.h"
+#include "host/failures/Joined.h"
 #include "host/files/DiskFlush.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/FileState.h"
@@ -144,8 +145,8 @@ SafeOutput::Outcome SafeOutput::commit(const FileAttributes& attributes, bool fl
         return errno == 0 ? Outcome{Failure::ofLibrary(int(engine::ErrorCode::SourceChanged)), {}} : failed();
     m_committed = true;
     if (flush && !flushFolder(folderOf(m_target), file.get()))
-        note += (note.empty() ? "" : "; ") +
-                ("it may not survive a power failure: its folder cannot be flushed: " + systemError(errno));
+        note = joined(note, "it may not survive a power failure: its folder cannot be flushed: " +
+                                systemError(errno));
     return {{}, note};
 }
 

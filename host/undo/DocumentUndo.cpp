@@ -1,5 +1,6 @@
 #include "DocumentUndo.h"
 
+#include "host/failures/Joined.h"
 #include "host/files/Checksum.h"
 #include "host/files/DiskFlush.h"
 #include "host/files/FileState.h"
@@ -228,8 +229,7 @@ UndoResult DocumentUndo::cutInPlace(const InPlaceFile& file, const FileState& be
     if (!file.setTime(before.time))
         result.note = timeLost;
     if (!flushFile(file.get()))
-        result.note +=
-            (result.note.empty() ? "" : "; ") + ("it may not survive a power failure: " + systemError(errno));
+        result.note = joined(result.note, "it may not survive a power failure: " + systemError(errno));
     return result;
 }
 
@@ -252,8 +252,7 @@ UndoResult DocumentUndo::replace(const FileState& before) const
             output.commit(FileAttributes(m_file.get(), FileAttributes::Take::All), true, beforeRename);
         if (outcome.problem)
             return {UndoResult::LeftAlone, outcome.problem};
-        const std::string separator = outcome.note.empty() || timeKept ? "" : "; ";
-        return {UndoResult::Undone, {}, outcome.note + separator + (timeKept ? "" : timeLost)};
+        return {UndoResult::Undone, {}, joined(outcome.note, timeKept ? "" : timeLost)};
     } catch (const std::runtime_error&) {
         return {UndoResult::LeftAlone, Failure::ofException()};
     }
