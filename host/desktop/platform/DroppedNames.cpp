@@ -20,7 +20,7 @@ QByteArray pathOf(const QByteArray& address)
 QByteArray nameIn(QByteArray line)
 {
     line = line.trimmed();
-    if (line.size() > 1 && (line.front() == '"' || line.front() == '\'') && line.back() == line.front())
+    if (line.size() > 1 && (line.startsWith('"') || line.startsWith('\'')) && line.endsWith(line.at(0)))
         line = line.mid(1, line.size() - 2);
     if (line.startsWith(scheme))
         return pathOf(line);
