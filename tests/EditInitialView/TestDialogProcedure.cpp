@@ -166,11 +166,11 @@ private slots:
 
     void leavesTheLibraryAlone()
     {
-        const auto [skip, library, document] = Rows<bool, bool, int>::current();
+        const auto [skip, library, number] = Rows<bool, bool, int>::current();
         DialogLoadStruct load = this->load();
         load.bSkipDocumentRead = skip;
         load.pPDFLibrary = library ? &m_library : nullptr;
-        load.nDocumentID = document;
+        load.nDocumentID = number;
         m_prefs = {{key::Magnification, 8}};
         QCOMPARE(run(load, pressCancel), 0);
         QCOMPARE(m_recorder.takeLog(), QStringList());
