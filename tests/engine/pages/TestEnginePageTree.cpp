@@ -177,9 +177,9 @@ private slots:
     {
         const auto [number, firstNode, lastNode] = Rows<int, int, int>::current();
         PdfBuilder builder = nested(20000, nodesOf(100, 200));
-        for (int page = 1; page <= 20000; ++page)
-            if (page != number)
-                builder.object(firstPage + page, unreadable);
+        for (int other = 1; other <= 20000; ++other)
+            if (other != number)
+                builder.object(firstPage + other, unreadable);
         for (int each = 1; each < 200; ++each) // the first is always looked at
             if (each < firstNode || each > lastNode)
                 builder.object(3 + each, unreadable);
