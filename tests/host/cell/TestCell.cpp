@@ -56,7 +56,7 @@ protected:
         if ((m_lacks & Calls) != 0) {
             seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(seccomp), 0);
             seccomp_rule_add(filter, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1,
-                             SCMP_A0(SCMP_CMP_EQ, PR_SET_SECCOMP));
+                             scmp_arg_cmp{0, SCMP_CMP_EQ, PR_SET_SECCOMP, 0});
         }
         if (seccomp_load(filter) != 0)
             _exit(99);
