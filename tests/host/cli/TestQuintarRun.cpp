@@ -17,6 +17,19 @@ std::string withLast(std::string bytes, const std::string& old, const std::strin
     return bytes.replace(bytes.rfind(old), old.size(), with);
 }
 
+/// The second sets anew what the first one has set.
+const QList<QVariantMap> anotherAfterOne{
+    {{"LayoutAndMagnCheckBox", true}, {"PageLayoutComboBox", 5}, {"OpenToPageSpinBox", 1}},
+    {{"LayoutAndMagnCheckBox", true},
+     {"NavigationTabComboBox", 4},
+     {"PageLayoutComboBox", 2},
+     {"MagnificationComboBox", 8},
+     {"OpenToPageSpinBox", 3},
+     {"ViewerPrefsCheckBox", true},
+     {"HideToobarsCheckBox", true},
+     {"OpenInFullScreenCheckBox", true},
+     {"ShowComboBox", 1}}};
+
 } // namespace
 
 class TestQuintarRun : public QObject, private BatchFixture
@@ -38,16 +51,7 @@ private slots:
         put("in/deep/b.PDF",
             PdfBuilder::simple("/PageMode /UseThumbs /ViewerPreferences << /HideMenubar true >>"));
         put("in/notes.txt");
-        putList({{{"LayoutAndMagnCheckBox", true}, {"PageLayoutComboBox", 5}, {"OpenToPageSpinBox", 1}},
-                 {{"LayoutAndMagnCheckBox", true},
-                  {"NavigationTabComboBox", 4},
-                  {"PageLayoutComboBox", 2},
-                  {"MagnificationComboBox", 8},
-                  {"OpenToPageSpinBox", 3},
-                  {"ViewerPrefsCheckBox", true},
-                  {"HideToobarsCheckBox", true},
-                  {"OpenInFullScreenCheckBox", true},
-                  {"ShowComboBox", 1}}});
+        putList(anotherAfterOne);
         const ProgramRun run =
             quintar({"run", "--list", "list.xqq", "-o", "new/out", "--report", "report", "in"});
         QCOMPARE(run.err, QByteArray());

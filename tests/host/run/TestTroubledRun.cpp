@@ -14,6 +14,16 @@
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// How many documents became what.
+QByteArray counts(const ProgramRun& run)
+{
+    return run.out.split('\n').value(run.out.count('\n') - 1);
+}
+
+} // namespace
+
 class TestTroubledRun : public QObject, private BatchFixture
 {
     Q_OBJECT
@@ -269,9 +279,6 @@ private slots:
         const QStringList toOut = QStringList{"run", "-o", "out", "in"} + panelAndPage();
         const auto resumed = [&](const QStringList& run, const char* to) {
             return quintar(run + QStringList{"--resume", "report", "--report", to});
-        };
-        const auto counts = [](const ProgramRun& run) {
-            return run.out.split('\n').value(run.out.count('\n') - 1);
         };
         QCOMPARE(counts(resumed(toOut, "report")), QByteArray("4 changed, 0 unchanged, 1 failed"));
 

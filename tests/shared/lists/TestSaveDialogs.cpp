@@ -59,16 +59,6 @@ void click(QWidget* widget)
                       qobject_cast<QRadioButton*>(widget) ? QPoint(10, widget->height() / 2) : QPoint());
 }
 
-QVariant stored(const QString& path, const QString& key)
-{
-    return QSettings(path, QSettings::IniFormat).value(key);
-}
-
-QStringList keysOf(const QString& path)
-{
-    return QSettings(path, QSettings::IniFormat).allKeys();
-}
-
 QStringList filesIn(const QString& folder)
 {
     return QDir(folder).entryList(QDir::Files | QDir::Hidden);
