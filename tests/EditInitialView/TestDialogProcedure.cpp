@@ -4,10 +4,10 @@
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "shared/CUtils.h"
 
-#include "support/Mute.h"
-#include "support/Person.h"
 #include "support/Recorder.h"
 #include "support/Rows.h"
+#include "support/people/Mute.h"
+#include "support/people/Person.h"
 
 #include <QtTest>
 

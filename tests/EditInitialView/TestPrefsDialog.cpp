@@ -3,9 +3,9 @@
 #include "shared/CUtils.h"
 
 #include "support/Methods.h"
-#include "support/Mute.h"
-#include "support/Person.h"
 #include "support/Rows.h"
+#include "support/people/Mute.h"
+#include "support/people/Person.h"
 
 #include <QDir>
 #include <QFormLayout>

@@ -4,7 +4,7 @@
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/presets/PresetFolder.h"
 #include "host/desktop/texts/ViewTexts.h"
-#include "support/FakeQuintar.h"
+#include "support/program/FakeQuintar.h"
 
 #include <QAbstractButton>
 #include <QAccessible>

@@ -1,6 +1,6 @@
-#include "support/Files.h"
-#include "support/LoadedLibrary.h"
-#include "support/PdfBuilder.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/engine/LoadedLibrary.h"
+#include "support/folders/Files.h"
 
 #include "pdflibrary/ErrorCodes.h"
 

@@ -1,8 +1,8 @@
-#include "support/Files.h"
-#include "support/LoadedLibrary.h"
-#include "support/PdfBuilder.h"
-#include "support/Rewritten.h"
 #include "support/Rows.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/documents/Rewritten.h"
+#include "support/engine/LoadedLibrary.h"
+#include "support/folders/Files.h"
 
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"

@@ -1,6 +1,6 @@
-#include "support/ConfigureFixture.h"
-#include "support/ManualsSettings.h"
-#include "support/UsageErrors.h"
+#include "support/folders/ManualsSettings.h"
+#include "support/people/ConfigureFixture.h"
+#include "support/program/UsageErrors.h"
 
 #include <QComboBox>
 #include <QImage>

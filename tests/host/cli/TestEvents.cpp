@@ -1,8 +1,8 @@
 // What other programs see of a run that they have started, and how they steer it.
 #include "host/failures/Failure.h"
-#include "support/Files.h"
 #include "support/Rows.h"
-#include "support/SpecialDocuments.h"
+#include "support/documents/SpecialDocuments.h"
+#include "support/folders/Files.h"
 
 #include <QtTest>
 

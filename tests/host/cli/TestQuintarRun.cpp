@@ -1,7 +1,7 @@
 // Runs the program as a user does, and has its documents confirmed by another reader.
-#include "support/BatchFixture.h"
-#include "support/FileStatus.h"
 #include "support/Rows.h"
+#include "support/folders/FileStatus.h"
+#include "support/program/BatchFixture.h"
 
 #include <QSettings>
 #include <QtTest>

@@ -1,12 +1,12 @@
 // One person's tour: look at a document's view in the dialog, change it, keep it in each of the three ways,
 // and run each over another document.
 #include "host/cli/ConfigureCommand.h"
-#include "support/CommandRun.h"
-#include "support/Mute.h"
-#include "support/PdfBuilder.h"
-#include "support/Person.h"
-#include "support/ProgramRun.h"
-#include "support/TemporaryHome.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/TemporaryHome.h"
+#include "support/people/Mute.h"
+#include "support/people/Person.h"
+#include "support/program/CommandRun.h"
+#include "support/program/ProgramRun.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // Runs that meet full disks, other programs, signals, and documents that crash, hang or eat memory; and what
 // their reports are to the next run.
-#include "support/BatchFixture.h"
 #include "support/Rows.h"
+#include "support/program/BatchFixture.h"
 
 #include <QtTest>
 

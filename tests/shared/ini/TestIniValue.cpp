@@ -1,7 +1,7 @@
 // Every type of value that QSettings can store, and what would make QSettings hang or lie.
 #include "shared/ini/CIniFile.h"
 #include "support/Rows.h"
-#include "support/TemporaryHome.h"
+#include "support/folders/TemporaryHome.h"
 
 #include <QtGui>
 #include <QtTest>

@@ -2,11 +2,11 @@
 #include "shared/ini/StoreReport.h"
 #include "shared/lists/CSaveAsActionlistDialog.h"
 #include "shared/lists/CSaveAsCollectionDialog.h"
-#include "support/ManualsSettings.h"
 #include "support/Methods.h"
-#include "support/Person.h"
 #include "support/Rows.h"
-#include "support/TemporaryHome.h"
+#include "support/folders/ManualsSettings.h"
+#include "support/folders/TemporaryHome.h"
+#include "support/people/Person.h"
 
 #include <QApplication>
 #include <QFileDialog>

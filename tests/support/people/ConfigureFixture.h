@@ -1,14 +1,14 @@
 #pragma once
 
-#include "CommandRun.h"
 #include "EditInitialView/InitialViewSettings.h"
-#include "Mute.h"
-#include "PdfBuilder.h"
-#include "Person.h"
-#include "ProgramRun.h"
-#include "Rows.h"
-#include "TemporaryHome.h"
 #include "host/cli/ConfigureCommand.h"
+#include "support/Rows.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/TemporaryHome.h"
+#include "support/people/Mute.h"
+#include "support/people/Person.h"
+#include "support/program/CommandRun.h"
+#include "support/program/ProgramRun.h"
 
 #include <QSettings>
 
