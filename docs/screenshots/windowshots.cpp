@@ -1,6 +1,6 @@
-// Shows the window as a person sees it from the first moment to the results, with documents of its own, and keeps
-// pictures: windowshots FOLDER WORK [SUFFIX]. The environment says in which language, at what scale, and with
-// QUINTAR_SHOTS=dark in which colours.
+// Shows the window as a person sees it from the first moment to the results, with documents of its own,
+// and keeps pictures: windowshots FOLDER WORK [SUFFIX]. The environment says in which language, at what
+// scale, and with QUINTAR_SHOTS=dark in which colours.
 #include "host/desktop/MainWindow.h"
 #include "host/desktop/platform/Language.h"
 #include "host/program/HostApplication.h"

@@ -13,15 +13,16 @@ using namespace host::desktop;
 namespace {
 
 const int documents = 20000;
-/// What is promised, in milliseconds, with room for a build without optimisation. A sanitizer makes any time of it.
+/// What is promised, in milliseconds, with room for a build without
+/// optimisation. A sanitizer makes any time of it.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 const qint64 longestStall = std::numeric_limits<qint64>::max();
 #else
 const qint64 longestStall = 250;
 #endif
 
-/// Beats once a millisecond; its longest gap is how long a window would not have answered. It counts the time that this
-/// thread has worked, so that other work of the machine is no stall.
+/// Beats once a millisecond; its longest gap is how long a window would not have answered. It counts the time
+/// that this thread has worked, so that other work of the machine is no stall.
 class Heart : public QObject
 {
 public:

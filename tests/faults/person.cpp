@@ -1,5 +1,5 @@
-// Loaded into the program (LD_PRELOAD): a person who changes a setting in the window of "quintar configure" and presses
-// OK. From then on calls fail as the shim is ordered to.
+// Loaded into the program (LD_PRELOAD): a person who changes a setting in the window of "quintar configure"
+// and presses OK. From then on calls fail as the shim is ordered to.
 #include "support/people/Person.h"
 
 #include <QAbstractButton>
