@@ -17,12 +17,12 @@ inline bool writeFile(const QString& path, const QByteArray& bytes)
 }
 
 /// The value of a key in an ini file.
-inline QVariant stored(const QString& path, const QString& key)
+inline QVariant storedValue(const QString& path, const QString& key)
 {
     return QSettings(path, QSettings::IniFormat).value(key);
 }
 
-inline QStringList keysOf(const QString& path)
+inline QStringList storedKeys(const QString& path)
 {
     return QSettings(path, QSettings::IniFormat).allKeys();
 }

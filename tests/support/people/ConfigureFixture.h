@@ -32,7 +32,7 @@ protected:
     {
         QVERIFY(writeFile(path("a.pdf"), QByteArray::fromStdString(PdfBuilder::simple(view))));
     }
-    QVariant stored(const QString& file, const QString& key) const { return ::stored(path(file), key); }
+    QVariant stored(const QString& file, const QString& key) const { return storedValue(path(file), key); }
 
     static CommandRun configure(const QStringList& words, const person::Answer& answer = person::pressOk)
     {
