@@ -48,6 +48,12 @@ private slots:
         QVERIFY(!button("Add Folder…")->isVisible());
     }
 
+    void offersEveryEntry()
+    {
+        for (const viewentries::Description& entry : viewentries::all())
+            QVERIFY2(m_window->findChild<QWidget*>(entry.option) != nullptr, entry.option);
+    }
+
     void takesWhatIsDroppedAndPasted()
     {
         QMimeData data;
