@@ -137,8 +137,7 @@ private slots:
             if (key.group == nullptr)
                 continue;
             QVERIFY2(settings.map().contains(key.name), key.name);
-            const int other =
-                settings.map().value(key.name).toInt() == key.lowest ? key.highest : key.lowest;
+            const int other = settings.map().value(key.name).toInt() == key.lowest ? key.highest : key.lowest;
             const QVariant value = key.type == ValueType::Flag ? QVariant(other == 1) : QVariant(other);
             QVERIFY2(!settings.changeTo(chosenIn(settings, {{key.name, value}})).isEmpty(), key.name);
         }
