@@ -12,8 +12,6 @@ namespace host::desktop::viewtexts {
 
 namespace {
 
-using viewentries::Kind;
-
 struct EntryText
 {
     ViewEntry entry;
