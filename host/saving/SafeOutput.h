@@ -48,8 +48,9 @@ public:
     /// noted: after a power failure the old file may be there.
     Outcome commit(const FileAttributes& attributes, bool flush, const BeforeRename& beforeRename = {});
 
-    /// The target is replaced only while it is like this. What another program has put there at the last moment gets
-    /// its place back; but not where the file system cannot exchange two files, as those on networks.
+    /// The target is replaced only while it is like this. What another program has put
+    /// there at the last moment gets its place back; but not where the file system
+    /// cannot exchange two files, as those on networks.
     void replaceOnly(const struct stat& state) { m_replaced = state; }
 
     /// Waits until a file that was renamed to the target by another process is on the disk under its name.

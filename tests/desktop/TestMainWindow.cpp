@@ -4,7 +4,7 @@
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/presets/PresetFolder.h"
 #include "host/desktop/texts/ViewTexts.h"
-#include "support/FakeQuintar.h"
+#include "support/program/FakeQuintar.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -46,6 +46,12 @@ private slots:
         click("Add Folder…");
         QTRY_COMPARE(state(), State::Listed);
         QVERIFY(!button("Add Folder…")->isVisible());
+    }
+
+    void offersEveryEntry()
+    {
+        for (const viewentries::Description& entry : viewentries::all())
+            QVERIFY2(m_window->findChild<QWidget*>(entry.option) != nullptr, entry.option);
     }
 
     void takesWhatIsDroppedAndPasted()

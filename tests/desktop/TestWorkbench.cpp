@@ -1,5 +1,5 @@
 #include "host/desktop/workbench/Workbench.h"
-#include "support/FakeQuintar.h"
+#include "support/program/FakeQuintar.h"
 
 #include "pdflibrary/ViewNumbers.h"
 

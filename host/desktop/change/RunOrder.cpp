@@ -59,7 +59,8 @@ QByteArray RunOrder::resultOf(const QByteArray& path, const QString& base) const
     return path;
 }
 
-/// Many documents are told by their folder: they need not be all that lie there, but a person sees how it is done.
+/// Many documents are told by their folder: they need not be all
+/// that lie there, but a person sees how it is done.
 QString RunOrder::commandLine(const DocumentTable& table, const DocumentTable::Ids& ids) const
 {
     const QString base = commonFolder(table, ids);

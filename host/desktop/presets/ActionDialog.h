@@ -10,13 +10,15 @@
 
 namespace host::desktop {
 
-/// The action's own dialog. No document is read for it: it starts from settings, or from what is known of a document.
+/// The action's own dialog. No document is read for it: it starts from
+/// settings, or from what is known of a document.
 class ActionDialog
 {
 public:
     /// Shows the dialog until it is closed.
     /// \param facts of the document that it starts from; may be null.
-    /// \returns the settings that were accepted; nothing after Cancel. Throws std::runtime_error without a plug-in.
+    /// \returns the settings that were accepted; nothing after Cancel.
+    ///     Throws std::runtime_error without a plug-in.
     std::optional<StoredChoice> show(QWidget* parent, const std::optional<StoredChoice>& start,
                                      const DocumentFacts* facts);
 

@@ -9,8 +9,8 @@
 
 namespace host::desktop {
 
-/// Keeps list and change on the disk, so that they survive a crash or a session that is closed. Passwords are no part
-/// of it.
+/// Keeps list and change on the disk, so that they survive a crash or a
+/// session that is closed. Passwords are no part of it.
 class Session : public QObject
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 // Reads the files that users run, as the linker has left them.
-#include "support/ProgramRun.h"
 #include "support/Rows.h"
-#include "support/WorkFolder.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/ProgramRun.h"
 
 namespace {
 

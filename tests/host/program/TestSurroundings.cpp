@@ -1,8 +1,8 @@
 // What the program loads and does where others have prepared the ground.
-#include "support/PdfBuilder.h"
-#include "support/ProgramRun.h"
 #include "support/Rows.h"
-#include "support/WorkFolder.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/ProgramRun.h"
 
 #include <QLibrary>
 

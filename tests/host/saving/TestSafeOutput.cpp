@@ -1,7 +1,7 @@
 #include "host/files/FileDescriptor.h"
 #include "host/saving/FileAttributes.h"
 #include "host/saving/SafeOutput.h"
-#include "support/WorkFolder.h"
+#include "support/folders/WorkFolder.h"
 
 #include <QtTest>
 

@@ -2,11 +2,11 @@
 #include "shared/ini/StoreReport.h"
 #include "shared/lists/CSaveAsActionlistDialog.h"
 #include "shared/lists/CSaveAsCollectionDialog.h"
-#include "support/ManualsSettings.h"
 #include "support/Methods.h"
-#include "support/Person.h"
 #include "support/Rows.h"
-#include "support/TemporaryHome.h"
+#include "support/folders/ManualsSettings.h"
+#include "support/folders/TemporaryHome.h"
+#include "support/people/Person.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -57,16 +57,6 @@ void click(QWidget* widget)
 {
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier,
                       qobject_cast<QRadioButton*>(widget) ? QPoint(10, widget->height() / 2) : QPoint());
-}
-
-QVariant stored(const QString& path, const QString& key)
-{
-    return QSettings(path, QSettings::IniFormat).value(key);
-}
-
-QStringList keysOf(const QString& path)
-{
-    return QSettings(path, QSettings::IniFormat).allKeys();
 }
 
 QStringList filesIn(const QString& folder)
@@ -227,8 +217,8 @@ private slots:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         QVERIFY(!dialog.isVisible() && changed.isEmpty());
         const QString path = m_home.actionList("Monthly_reports.xqq");
-        QCOMPARE(stored(path, "SequenceName").toString(), QString("Monthly reports"));
-        QCOMPARE(stored(path, "SequenceCategory").toString(), QString("Default"));
+        QCOMPARE(storedValue(path, "SequenceName").toString(), QString("Monthly reports"));
+        QCOMPARE(storedValue(path, "SequenceCategory").toString(), QString("Default"));
         Map expected = manualsSettings();
         expected.remove("ActionName");
         QCOMPARE(m_prefs, expected);
@@ -246,7 +236,7 @@ private slots:
             QTest::keyClicks(box, typed);
             QTest::keyClick(box, Qt::Key_Return);
             QCOMPARE(dialog.result(), int(QDialog::Accepted));
-            QCOMPARE(stored(m_home.actionList("one.xqq"), "SequenceCategory").toString(),
+            QCOMPARE(storedValue(m_home.actionList("one.xqq"), "SequenceCategory").toString(),
                      typed.isEmpty() ? QString("Favorites") : typed);
         }
     }
@@ -283,9 +273,9 @@ private slots:
         QCOMPARE(changed.size(), add ? 1 : 0);
         QVERIFY(!add || changed.first().first().toString() == "my list");
         const QString path = m_home.actionList("my_list.xqq");
-        QCOMPARE(keysOf(path).filter("ActionName").size(), add ? 2 : 1);
-        QCOMPARE(stored(path, "ActionName0").toString(), QString("Initial View"));
-        QVERIFY(!add || stored(path, "ActionPrefs1").toMap() == m_prefs);
+        QCOMPARE(storedKeys(path).filter("ActionName").size(), add ? 2 : 1);
+        QCOMPARE(storedValue(path, "ActionName0").toString(), QString("Initial View"));
+        QVERIFY(!add || storedValue(path, "ActionPrefs1").toMap() == m_prefs);
         QCOMPARE(m_prefs.value("ActionListOverwrite", true).toBool(), !add);
     }
 
@@ -330,8 +320,8 @@ private slots:
         Map expected = manualsSettings();
         expected["CollectionName"] = "Work set";
         QCOMPARE(m_prefs, expected);
-        QCOMPARE(stored(path, "ActionPrefs").toMap(), expected);
-        const QSize icon = stored(path, "ActionIcon").value<QImage>().size();
+        QCOMPARE(storedValue(path, "ActionPrefs").toMap(), expected);
+        const QSize icon = storedValue(path, "ActionIcon").value<QImage>().size();
         QVERIFY(!icon.isEmpty() && icon.width() <= 42 && icon.height() <= 42);
     }
 
@@ -352,7 +342,7 @@ private slots:
 
         QTest::keyClicks(dialog.ui.collectionNameLineEdit, "blue");
         click(dialog.ui.saveButton);
-        const auto icon = stored(m_home.favorite("blue.ini"), "ActionIcon").value<QImage>();
+        const auto icon = storedValue(m_home.favorite("blue.ini"), "ActionIcon").value<QImage>();
         QCOMPARE(icon.size(), QSize(42, 42));
         QCOMPARE(icon.pixelColor(20, 20), QColor(Qt::blue));
 
@@ -390,8 +380,8 @@ private slots:
         click(dialog.ui.saveSettingsToFileButton);
         QCOMPARE(dialog.result(), int(QDialog::Rejected));
         QVERIFY(!dialog.isVisible() && !writtenTooEarly);
-        QCOMPARE(keysOf(path), QStringList{"ToolSettings"});
-        QCOMPARE(stored(path, "ToolSettings").toMap(), manualsSettings());
+        QCOMPARE(storedKeys(path), QStringList{"ToolSettings"});
+        QCOMPARE(storedValue(path, "ToolSettings").toMap(), manualsSettings());
         QCOMPARE(m_prefs, manualsSettings());
         QVERIFY(filesIn(CUtils::GetCollectionsFolder()).isEmpty());
         // The format does not drift.
@@ -409,8 +399,8 @@ private slots:
             static_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
         });
         click(dialog.ui.saveSettingsToFileButton);
-        QCOMPARE(keysOf(path), (QStringList{"ToolSettings", "a/b/c"}));
-        QCOMPARE(stored(path, "ToolSettings").toMap(), m_prefs);
+        QCOMPARE(storedKeys(path), (QStringList{"ToolSettings", "a/b/c"}));
+        QCOMPARE(storedValue(path, "ToolSettings").toMap(), m_prefs);
     }
 
     void closesWhenTheFileDialogIsCancelled()
@@ -430,7 +420,7 @@ private slots:
         // It can be shown once more.
         dialog.ui.collectionNameLineEdit->setText("after all");
         dialog.on_Save();
-        QCOMPARE(stored(m_home.favorite("after all.ini"), "ActionPrefs").toMap(), m_prefs);
+        QCOMPARE(storedValue(m_home.favorite("after all.ini"), "ActionPrefs").toMap(), m_prefs);
     }
 
     void survivesBeingDeletedByARejection()
@@ -445,7 +435,7 @@ private slots:
         person::namesFile(m_home.filePath("preset.tsf"));
         click(dialog->ui.saveSettingsToFileButton);
         QVERIFY(prefs == nullptr);
-        QCOMPARE(stored(m_home.filePath("preset.tsf"), "ToolSettings").toMap(), manualsSettings());
+        QCOMPARE(storedValue(m_home.filePath("preset.tsf"), "ToolSettings").toMap(), manualsSettings());
     }
 };
 
