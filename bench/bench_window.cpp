@@ -106,7 +106,7 @@ void makeDocuments(const QString& folder, int count)
     }
 }
 
-bool until(const std::function<bool()>& is, int seconds)
+bool until(const std::function<bool()>& is, qint64 seconds)
 {
     QElapsedTimer clock;
     clock.start();

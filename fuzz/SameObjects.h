@@ -17,7 +17,7 @@ namespace fuzz {
 inline std::shared_ptr<QPDF> readByLibqpdf(const std::string& bytes)
 {
     for (const char* password : {"secret", ""}) {
-        const std::shared_ptr<QPDF> pdf = QPDF::create();
+        std::shared_ptr<QPDF> pdf = QPDF::create();
         pdf->setSuppressWarnings(true);
         try {
             pdf->processMemoryFile("", bytes.data(), bytes.size(), password);
