@@ -73,6 +73,7 @@ private:
     std::string aboutKept() const;
     bool exchange() const;
     static bool isAt(const std::string& path, int file);
+    static bool isKnownElsewhere(const std::string& path, int file);
 
     std::string m_target;
     std::string m_temporary;
