@@ -54,6 +54,23 @@ private slots:
             QVERIFY2(m_window->findChild<QWidget*>(entry.option) != nullptr, entry.option);
     }
 
+    void leavesASessionAloneThatItCannotRead()
+    {
+        read();
+        m_window.reset();
+        const QDir sessions(m_folder->filePath("sessions"));
+        QFile stored(sessions.filePath(sessions.entryList({"*.session"}).value(0)));
+        QVERIFY(stored.open(QIODevice::ReadWrite) && stored.resize(stored.size() - 1));
+        const QByteArray bytes = stored.readAll();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("is left as it is"));
+        open();
+        read();
+        m_window.reset();
+        QVERIFY(stored.seek(0));
+        QCOMPARE(stored.readAll(), bytes);
+        QCOMPARE(sessions.entryList({"*.session"}).size(), 2);
+    }
+
     void takesWhatIsDroppedAndPasted()
     {
         QMimeData data;

@@ -13,7 +13,9 @@
 
 #include <atomic>
 #include <climits>
+#include <cstdlib>
 #include <fstream>
+#include <optional>
 #include <thread>
 
 using engine::ErrorCode;
@@ -26,6 +28,18 @@ std::string encrypted(int revision, const char* user)
     return rewritten(PdfBuilder::simple(),
                      [=](auto& writer) { encrypt(writer, revision, user, "owner", false); });
 }
+
+/// A host that was there before the library file, and so outlives all that is static in it.
+struct OldHost
+{
+    ~OldHost()
+    {
+        if (library && library->PageCount() != 0)
+            std::abort();
+    }
+
+    std::optional<LoadedLibrary> library;
+} oldHost;
 
 /// A catalog entry as MuPDF reads it, on one line.
 QByteArray shown(const QString& path, const QString& entry)
@@ -358,6 +372,13 @@ private slots:
         release(one);
         QCOMPARE(version(one), nullptr);
         QVERIFY(create() != one);
+    }
+
+    void endsBeforeItsHost()
+    {
+        oldHost.library.emplace();
+        oldHost.library->LoadFromString(PdfBuilder::simple(), L"");
+        QCOMPARE(oldHost.library->PageCount(), 3); // and none at the end of the program
     }
 
     void guardsItsBuffers()

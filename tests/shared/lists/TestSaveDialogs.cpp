@@ -353,19 +353,29 @@ private slots:
         QVERIFY(dialog.ui.icon_toolButton->icon().isNull());
     }
 
-    void refusesAPictureThatIsABomb()
+    void refusesPicturesThatAreBombs_data()
     {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason");
         // The beginning of a PNG file of 60,000 by 60,000 pixels.
-        const auto bomb =
-            QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAA6mAAAOpgCAIAAAAPsOIVAAAAAElEQVQ1rwYe");
-        QVERIFY(writeFile(m_home.filePath("bomb.png"), bomb));
+        QTest::newRow("too large") << QByteArray::fromBase64(
+                                          "iVBORw0KGgoAAAANSUhEUgAA6mAAAOpgCAIAAAAPsOIVAAAAAElEQVQ1rwYe")
+                                   << QString(" is too large, with 60000 x 60000 pixels");
+        QTest::newRow("not offered") << QByteArray("P2 1 1 9 0\n") << QString(" is of another kind, pgm");
+    }
+
+    void refusesPicturesThatAreBombs()
+    {
+        QFETCH(const QByteArray, bytes);
+        QFETCH(const QString, reason);
+        QVERIFY(writeFile(m_home.filePath("bomb.png"), bytes));
         Collection dialog(m_parent, m_prefs);
         const qint64 before = dialog.ui.icon_toolButton->icon().cacheKey();
         storereport::begin();
         person::namesFile(m_home.filePath("bomb.png"));
         click(dialog.ui.icon_toolButton);
-        QCOMPARE(storereport::take(), QStringList{"no icon: the picture " + m_home.filePath("bomb.png") +
-                                                  " is too large, with 60000 x 60000 pixels"});
+        QCOMPARE(storereport::take(),
+                 QStringList{"no icon: the picture " + m_home.filePath("bomb.png") + reason});
         QCOMPARE(dialog.ui.icon_toolButton->icon().cacheKey(), before);
     }
 
