@@ -8,6 +8,8 @@
 #include "host/desktop/platform/OpenWith.h"
 #include "host/desktop/rows/RowTexts.h"
 
+#include "shared/ini/StoreReport.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
@@ -221,13 +223,13 @@ void Commands::configure()
     std::optional<StoredChoice> choice;
     try {
         const std::shared_ptr<const DocumentFacts> facts = current() != nullptr ? current()->facts : nullptr;
-        choice = m_dialog.show(m_window, m_workbench.draft().stored(), facts.get());
+        choice = m_dialog.show(m_window, m_workbench.draft(), facts.get());
     } catch (const std::runtime_error& error) {
         emit failed(QString::fromStdString(error.what()));
     }
     machine.setBusy(false);
-    for (const QString& complaint : m_dialog.complaints())
-        emit failed(complaint);
+    for (const QString& report : m_dialog.reports())
+        storereport::isTrouble(report) ? emit failed(report) : emit said(report);
     if (!choice)
         return;
     ChangeDraft draft;

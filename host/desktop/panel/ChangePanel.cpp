@@ -1,9 +1,8 @@
 #include "ChangePanel.h"
 
+#include "GrowingArea.h"
 #include "host/desktop/look/Drawings.h"
 
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QStyle>
 
 namespace host::desktop {
@@ -117,10 +116,7 @@ QLayout* ChangePanel::makeHead()
 
 QWidget* ChangePanel::makeSettings()
 {
-    auto* area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* area = new GrowingArea(this);
     auto* inside = new QWidget(area);
     auto* column = new QVBoxLayout(inside);
     column->setContentsMargins(0, 0, spacing, 0);

@@ -78,7 +78,10 @@ void Workbench::remove(const Ids& ids)
     if (!m_machine.isEnabled(Command::Remove))
         return;
     dropTask();
+    const DocumentId next = m_order.besides(ids);
     m_list.remove(ids);
+    if (next != 0)
+        m_order.select({next}, next);
     follow();
 }
 
@@ -87,7 +90,8 @@ void Workbench::undoList()
     if (!m_machine.isEnabled(Command::UndoList))
         return;
     dropTask();
-    m_list.undo();
+    if (const Ids back = m_list.undo(); !back.isEmpty())
+        m_order.select(back, back.front()); // as they were when they were removed
     follow();
 }
 
@@ -249,6 +253,7 @@ void Workbench::endReading(const ChildRun::Ending& ending)
         emit failed(ending.words.isEmpty() ? tr("Reading broke off.") : ending.words);
     else if (known > 0)
         emit said(tr("%n document(s) were in the list already.", "", known));
+    m_passwordTrial.restore(m_table);
     m_machine.handle(m_table.count() > 0 ? Step::Read : Step::Emptied);
     m_order.settle();
     collectTargets();
@@ -256,6 +261,7 @@ void Workbench::endReading(const ChildRun::Ending& ending)
     if (!m_waiting.isEmpty())
         return add(std::exchange(m_waiting, {}));
     edited();
+    tellOfPassword();
 }
 
 void Workbench::endChecking(const ChildRun::Ending& ending)
@@ -272,6 +278,7 @@ void Workbench::endChecking(const ChildRun::Ending& ending)
     }
     emit progressed();
     emit countsChanged();
+    tellOfPassword();
 }
 
 Workbench::Counts Workbench::counts() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PasswordTrial.h"
 #include "RunHistory.h"
 #include "RunMachine.h"
 
@@ -125,6 +126,7 @@ private:
     void run(const Ids& ids);
     void writeDown(const Running& running);
     void follow();
+    void tellOfPassword();
     DocumentTask::Means means() const { return {m_program, m_passwords}; }
 
     QString m_program;
@@ -134,6 +136,7 @@ private:
     RunMachine m_machine;
     RunHistory m_history;
     Passwords m_passwords;
+    PasswordTrial m_passwordTrial;
     RunOrder m_runOrder;
     RunOrder m_lastOrder;
     Scope m_scope = Scope::Automatic;
