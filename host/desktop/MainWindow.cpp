@@ -199,7 +199,10 @@ void MainWindow::showState()
     const DocumentTask* task = m_workbench.task();
     const bool isWorking = m_workbench.machine().isWriting() && task != nullptr && task->total() > 0;
     const double share = isWorking ? double(task->done()) / task->total() : -1;
-    m_pages->setCurrentIndex(documents == 0 && m_workbench.machine().state() != State::Reading ? 0 : 1);
+    const int page = documents == 0 && m_workbench.machine().state() != State::Reading ? 0 : 1;
+    if (page == 1 && m_pages->currentIndex() == 0)
+        m_view->setFocus(); // which was on the page that goes away
+    m_pages->setCurrentIndex(page);
     m_bar->setVisible(m_pages->currentIndex() == 1);
     m_bar->setEnabled(documents > 0 || m_workbench.machine().state() == State::Reading);
     QString title = tr("Quintar");
