@@ -273,6 +273,14 @@
         <source>Encrypted</source>
         <translation>Verschlüsselt</translation>
     </message>
+    <message>
+        <source>Have a title but do not show it</source>
+        <translation>Haben einen Titel, zeigen ihn aber nicht</translation>
+    </message>
+    <message>
+        <source>Failed in the run</source>
+        <translation>Im Durchlauf fehlgeschlagen</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -283,6 +291,30 @@
     <message>
         <source>the program said something that is not understood</source>
         <translation>das Programm hat etwas gesagt, das nicht zu verstehen ist</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordTrial</name>
+    <message numerus="yes">
+        <source>The password opens none of the %n document(s) that want one.</source>
+        <translation>
+            <numerusform>Das Passwort öffnet das %n Dokument nicht, das eines verlangt.</numerusform>
+            <numerusform>Das Passwort öffnet keines der %n Dokumente, die eines verlangen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The password opens %n document(s).</source>
+        <translation>
+            <numerusform>Das Passwort öffnet %n Dokument.</numerusform>
+            <numerusform>Das Passwort öffnet %n Dokumente.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) want another one.</source>
+        <translation>
+            <numerusform>%n Dokument verlangt ein anderes.</numerusform>
+            <numerusform>%n Dokumente verlangen ein anderes.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1376,6 +1408,10 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>Das Passwort wird bei allen Dokumenten probiert, die eines verlangen. Es wird behalten, bis dieses Fenster geschlossen wird.</translation>
     </message>
+    <message>
+        <source>The command is in the clipboard. It waits for the password to be typed.</source>
+        <translation>Der Befehl ist in der Zwischenablage. Er wartet darauf, dass das Passwort eingegeben wird.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -2189,6 +2225,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
             <numerusform>%n Dokument blieb unberührt, da es nicht mehr so ist, wie der Durchlauf es hinterließ.</numerusform>
             <numerusform>%n Dokumente blieben unberührt, da sie nicht mehr so sind, wie der Durchlauf sie hinterließ.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No document of the list wants a password.</source>
+        <translation>Kein Dokument der Liste verlangt ein Passwort.</translation>
     </message>
 </context>
 </TS>

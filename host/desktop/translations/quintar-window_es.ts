@@ -273,6 +273,14 @@
         <source>Encrypted</source>
         <translation>Cifrados</translation>
     </message>
+    <message>
+        <source>Have a title but do not show it</source>
+        <translation>Tienen título pero no lo muestran</translation>
+    </message>
+    <message>
+        <source>Failed in the run</source>
+        <translation>Fallidos en la ejecución</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -283,6 +291,30 @@
     <message>
         <source>the program said something that is not understood</source>
         <translation>el programa dijo algo que no se entiende</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordTrial</name>
+    <message numerus="yes">
+        <source>The password opens none of the %n document(s) that want one.</source>
+        <translation>
+            <numerusform>La contraseña no abre el %n documento que la pide.</numerusform>
+            <numerusform>La contraseña no abre ninguno de los %n documentos que piden una.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The password opens %n document(s).</source>
+        <translation>
+            <numerusform>La contraseña abre %n documento.</numerusform>
+            <numerusform>La contraseña abre %n documentos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) want another one.</source>
+        <translation>
+            <numerusform>%n documento pide otra.</numerusform>
+            <numerusform>%n documentos piden otra.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1376,6 +1408,10 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>La contraseña se prueba en todos los documentos que la piden. Se conserva hasta que se cierre esta ventana.</translation>
     </message>
+    <message>
+        <source>The command is in the clipboard. It waits for the password to be typed.</source>
+        <translation>El comando está en el portapapeles. Espera a que se escriba la contraseña.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -2189,6 +2225,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
             <numerusform>%n documento quedó intacto, pues ya no está como lo dejó la ejecución.</numerusform>
             <numerusform>%n documentos quedaron intactos, pues ya no están como los dejó la ejecución.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No document of the list wants a password.</source>
+        <translation>Ningún documento de la lista pide una contraseña.</translation>
     </message>
 </context>
 </TS>

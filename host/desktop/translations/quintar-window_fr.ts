@@ -273,6 +273,14 @@
         <source>Encrypted</source>
         <translation>Chiffrés</translation>
     </message>
+    <message>
+        <source>Have a title but do not show it</source>
+        <translation>Ont un titre mais ne l’affichent pas</translation>
+    </message>
+    <message>
+        <source>Failed in the run</source>
+        <translation>En échec lors du traitement</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -283,6 +291,30 @@
     <message>
         <source>the program said something that is not understood</source>
         <translation>le programme a dit quelque chose d’incompréhensible</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordTrial</name>
+    <message numerus="yes">
+        <source>The password opens none of the %n document(s) that want one.</source>
+        <translation>
+            <numerusform>Le mot de passe n’ouvre pas le %n document qui en demande un.</numerusform>
+            <numerusform>Le mot de passe n’ouvre aucun des %n documents qui en demandent un.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The password opens %n document(s).</source>
+        <translation>
+            <numerusform>Le mot de passe ouvre %n document.</numerusform>
+            <numerusform>Le mot de passe ouvre %n documents.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) want another one.</source>
+        <translation>
+            <numerusform>%n document en demande un autre.</numerusform>
+            <numerusform>%n documents en demandent un autre.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1376,6 +1408,10 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>Le mot de passe est essayé sur tous les documents qui en demandent un. Il est gardé jusqu’à la fermeture de cette fenêtre.</translation>
     </message>
+    <message>
+        <source>The command is in the clipboard. It waits for the password to be typed.</source>
+        <translation>La commande est dans le presse-papiers. Elle attend que le mot de passe soit saisi.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -2189,6 +2225,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
             <numerusform>%n document a été laissé tel quel, car il n’est plus comme le traitement l’avait laissé.</numerusform>
             <numerusform>%n documents ont été laissés tels quels, car ils ne sont plus comme le traitement les avait laissés.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No document of the list wants a password.</source>
+        <translation>Aucun document de la liste ne demande de mot de passe.</translation>
     </message>
 </context>
 </TS>

@@ -269,6 +269,14 @@
         <source>Encrypted</source>
         <translation>暗号化されている</translation>
     </message>
+    <message>
+        <source>Have a title but do not show it</source>
+        <translation>タイトルがあるのに表示しない</translation>
+    </message>
+    <message>
+        <source>Failed in the run</source>
+        <translation>実行で失敗</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -279,6 +287,27 @@
     <message>
         <source>the program said something that is not understood</source>
         <translation>プログラムの出力を理解できません</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordTrial</name>
+    <message numerus="yes">
+        <source>The password opens none of the %n document(s) that want one.</source>
+        <translation>
+            <numerusform>パスワードを必要とする %n 件の文書は、このパスワードでは開けません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The password opens %n document(s).</source>
+        <translation>
+            <numerusform>このパスワードで %n 件の文書が開けます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) want another one.</source>
+        <translation>
+            <numerusform>%n 件の文書には別のパスワードが必要です。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1368,6 +1397,10 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>パスワードは、必要とするすべての文書で試します。このウィンドウを閉じるまで保持されます。</translation>
     </message>
+    <message>
+        <source>The command is in the clipboard. It waits for the password to be typed.</source>
+        <translation>コマンドはクリップボードにあります。実行するとパスワードの入力を待ちます。</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -2155,6 +2188,10 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>
             <numerusform>%n 個の文書は、実行直後の状態ではないため、そのまま残しました。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No document of the list wants a password.</source>
+        <translation>パスワードを必要とする文書はリストにありません。</translation>
     </message>
 </context>
 </TS>

@@ -118,6 +118,7 @@ private:
     void leaveResults();
     void check();
     void collectTargets();
+    void markAside();
     void endReading(const ChildRun::Ending& ending);
     void endChecking(const ChildRun::Ending& ending);
     void endRunning(const ChildRun::Ending& ending);
