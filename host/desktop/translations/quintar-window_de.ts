@@ -427,11 +427,11 @@
         <translation>Beim Lesen ist das lesende Programm abgestürzt; das Dokument ist, wie es war.</translation>
     </message>
     <message>
-        <source>Give &amp;Password…</source>
+        <source>&amp;Give Password…</source>
         <translation>&amp;Passwort eingeben…</translation>
     </message>
     <message>
-        <source>&amp;Append All the Same</source>
+        <source>Append A&amp;ll the Same</source>
         <translation>Trotzde&amp;m anhängen</translation>
     </message>
     <message>
@@ -439,7 +439,7 @@
         <translation>Neu einle&amp;sen</translation>
     </message>
     <message>
-        <source>Show in &amp;Folder</source>
+        <source>Show in Fo&amp;lder</source>
         <translation>I&amp;m Ordner anzeigen</translation>
     </message>
     <message>
@@ -1239,7 +1239,7 @@
         <translation>Schre&amp;iben</translation>
     </message>
     <message>
-        <source>&amp;Change for</source>
+        <source>Cha&amp;nge for</source>
         <translation>&amp;Für</translation>
     </message>
     <message>
@@ -1503,7 +1503,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es starten.</translation>
     </message>
     <message>
-        <source>Add &amp;Files…</source>
+        <source>&amp;Add Files…</source>
         <translation>Dateien hinzu&amp;fügen…</translation>
     </message>
     <message>
@@ -1518,7 +1518,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
 <context>
     <name>host::desktop::FilterBar</name>
     <message>
-        <source>S&amp;how:</source>
+        <source>&amp;Show:</source>
         <translation>Zei&amp;gen:</translation>
     </message>
     <message>
@@ -1788,7 +1788,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
 <context>
     <name>host::desktop::RunBar</name>
     <message>
-        <source>Show &amp;Why</source>
+        <source>Show Wh&amp;y</source>
         <translation>Gründe an&amp;zeigen</translation>
     </message>
     <message>
@@ -1804,7 +1804,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Stellt jedes Dokument so wieder her, wie es vor dem Durchlauf war</translation>
     </message>
     <message>
-        <source>Try Failed &amp;Again</source>
+        <source>Tr&amp;y Failed Again</source>
         <translation>Fehlgeschlagene &amp;wiederholen</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Bearbeitet noch einmal, was fehlschlug oder nicht erledigt wurde</translation>
     </message>
     <message>
-        <source>&amp;Save Report…</source>
+        <source>Save Repor&amp;t…</source>
         <translation>Beri&amp;cht speichern…</translation>
     </message>
     <message>
@@ -1820,7 +1820,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Speichert in einer Datei, was aus jedem Dokument geworden ist</translation>
     </message>
     <message>
-        <source>&amp;Pause</source>
+        <source>Pa&amp;use</source>
         <translation>Anhal&amp;ten</translation>
     </message>
     <message>
@@ -1844,7 +1844,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Fortschritt</translation>
     </message>
     <message numerus="yes">
-        <source>Sho&amp;w %n Failed</source>
+        <source>Show %n Fa&amp;iled</source>
         <translation>
             <numerusform>%n Fehlgeschlagenes an&amp;zeigen</numerusform>
             <numerusform>%n Fehlgeschlagene an&amp;zeigen</numerusform>

@@ -144,10 +144,10 @@
 <context>
     <name>host::desktop::RunBar</name>
     <message numerus="yes">
-        <source>Sho&amp;w %n Failed</source>
+        <source>Show %n Fa&amp;iled</source>
         <translation>
-            <numerusform>Sho&amp;w %n Failed</numerusform>
-            <numerusform>Sho&amp;w %n Failed</numerusform>
+            <numerusform>Show %n Fa&amp;iled</numerusform>
+            <numerusform>Show %n Fa&amp;iled</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -427,11 +427,11 @@
         <translation>Al leerlo falló el lector; está como estaba.</translation>
     </message>
     <message>
-        <source>Give &amp;Password…</source>
+        <source>&amp;Give Password…</source>
         <translation>&amp;Introducir contraseña…</translation>
     </message>
     <message>
-        <source>&amp;Append All the Same</source>
+        <source>Append A&amp;ll the Same</source>
         <translation>Añadir de t&amp;odos modos</translation>
     </message>
     <message>
@@ -439,7 +439,7 @@
         <translation>Leer de n&amp;uevo</translation>
     </message>
     <message>
-        <source>Show in &amp;Folder</source>
+        <source>Show in Fo&amp;lder</source>
         <translation>M&amp;ostrar en la carpeta</translation>
     </message>
     <message>
@@ -1239,7 +1239,7 @@
         <translation>Escri&amp;bir</translation>
     </message>
     <message>
-        <source>&amp;Change for</source>
+        <source>Cha&amp;nge for</source>
         <translation>&amp;Para</translation>
     </message>
     <message>
@@ -1503,7 +1503,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.</translation>
     </message>
     <message>
-        <source>Add &amp;Files…</source>
+        <source>&amp;Add Files…</source>
         <translation>Añadir a&amp;rchivos…</translation>
     </message>
     <message>
@@ -1518,7 +1518,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
 <context>
     <name>host::desktop::FilterBar</name>
     <message>
-        <source>S&amp;how:</source>
+        <source>&amp;Show:</source>
         <translation>&amp;Mostrar:</translation>
     </message>
     <message>
@@ -1788,7 +1788,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
 <context>
     <name>host::desktop::RunBar</name>
     <message>
-        <source>Show &amp;Why</source>
+        <source>Show Wh&amp;y</source>
         <translation>Ve&amp;r por qué</translation>
     </message>
     <message>
@@ -1804,7 +1804,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Devuelve cada documento a como estaba antes de la ejecución</translation>
     </message>
     <message>
-        <source>Try Failed &amp;Again</source>
+        <source>Tr&amp;y Failed Again</source>
         <translation>Reintentar &amp;los fallidos</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Repite lo que falló o no se hizo</translation>
     </message>
     <message>
-        <source>&amp;Save Report…</source>
+        <source>Save Repor&amp;t…</source>
         <translation>&amp;Guardar informe…</translation>
     </message>
     <message>
@@ -1820,7 +1820,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Guarda en un archivo qué ha sido de cada documento</translation>
     </message>
     <message>
-        <source>&amp;Pause</source>
+        <source>Pa&amp;use</source>
         <translation>Pa&amp;usar</translation>
     </message>
     <message>
@@ -1844,7 +1844,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Progreso</translation>
     </message>
     <message numerus="yes">
-        <source>Sho&amp;w %n Failed</source>
+        <source>Show %n Fa&amp;iled</source>
         <translation>
             <numerusform>Ve&amp;r %n fallido</numerusform>
             <numerusform>Ve&amp;r %n fallidos</numerusform>

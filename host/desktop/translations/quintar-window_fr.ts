@@ -427,11 +427,11 @@
         <translation>Sa lecture a fait planter le lecteur&#xa0;; il est tel qu’il était.</translation>
     </message>
     <message>
-        <source>Give &amp;Password…</source>
+        <source>&amp;Give Password…</source>
         <translation>Saisir le mot de &amp;passe…</translation>
     </message>
     <message>
-        <source>&amp;Append All the Same</source>
+        <source>Append A&amp;ll the Same</source>
         <translation>A&amp;jouter malgré tout</translation>
     </message>
     <message>
@@ -439,7 +439,7 @@
         <translation>Re&amp;lire</translation>
     </message>
     <message>
-        <source>Show in &amp;Folder</source>
+        <source>Show in Fo&amp;lder</source>
         <translation>Afficher dans le dossi&amp;er</translation>
     </message>
     <message>
@@ -1239,7 +1239,7 @@
         <translation>&amp;Écrire</translation>
     </message>
     <message>
-        <source>&amp;Change for</source>
+        <source>Cha&amp;nge for</source>
         <translation>P&amp;our</translation>
     </message>
     <message>
@@ -1503,7 +1503,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous ne le lanciez.</translation>
     </message>
     <message>
-        <source>Add &amp;Files…</source>
+        <source>&amp;Add Files…</source>
         <translation>Ajouter des fic&amp;hiers…</translation>
     </message>
     <message>
@@ -1518,7 +1518,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
 <context>
     <name>host::desktop::FilterBar</name>
     <message>
-        <source>S&amp;how:</source>
+        <source>&amp;Show:</source>
         <translation>Affic&amp;her&#xa0;:</translation>
     </message>
     <message>
@@ -1788,7 +1788,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
 <context>
     <name>host::desktop::RunBar</name>
     <message>
-        <source>Show &amp;Why</source>
+        <source>Show Wh&amp;y</source>
         <translation>Vo&amp;ir pourquoi</translation>
     </message>
     <message>
@@ -1804,7 +1804,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Rend chaque document tel qu’il était avant le traitement</translation>
     </message>
     <message>
-        <source>Try Failed &amp;Again</source>
+        <source>Tr&amp;y Failed Again</source>
         <translation>Réessa&amp;yer les échecs</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Reprend ce qui a échoué ou n’a pas été fait</translation>
     </message>
     <message>
-        <source>&amp;Save Report…</source>
+        <source>Save Repor&amp;t…</source>
         <translation>Enregi&amp;strer le rapport…</translation>
     </message>
     <message>
@@ -1820,7 +1820,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Conserve dans un fichier ce qu’est devenu chaque document</translation>
     </message>
     <message>
-        <source>&amp;Pause</source>
+        <source>Pa&amp;use</source>
         <translation>&amp;Suspendre</translation>
     </message>
     <message>
@@ -1844,7 +1844,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Progression</translation>
     </message>
     <message numerus="yes">
-        <source>Sho&amp;w %n Failed</source>
+        <source>Show %n Fa&amp;iled</source>
         <translation>
             <numerusform>Vo&amp;ir %n échec</numerusform>
             <numerusform>Vo&amp;ir %n échecs</numerusform>
