@@ -27,11 +27,11 @@ const int estimateMilliseconds = 3000;
 RunBar::RunBar(Workbench& workbench, QWidget* parent)
     : QWidget(parent), m_workbench(workbench), m_sign(new QLabel(this)), m_text(new ElidedLabel(this)),
       m_progress(new QProgressBar(this)),
-      m_why(button(tr("Show &Why"), tr("Shows the documents that failed or cannot be changed"))),
+      m_why(button(tr("Show Wh&y"), tr("Shows the documents that failed or cannot be changed"))),
       m_undo(button(tr("&Undo This Run…"), tr("Gives each document back as it was before the run"))),
-      m_again(button(tr("Try Failed &Again"), tr("Runs once more over what failed or was not done"))),
-      m_save(button(tr("&Save Report…"), tr("Keeps what became of each document in a file"))),
-      m_pause(button(tr("&Pause"), tr("Begins no further document until it goes on"))),
+      m_again(button(tr("Tr&y Failed Again"), tr("Runs once more over what failed or was not done"))),
+      m_save(button(tr("Save Repor&t…"), tr("Keeps what became of each document in a file"))),
+      m_pause(button(tr("Pa&use"), tr("Begins no further document until it goes on"))),
       m_stop(button(tr("S&top"), tr("Finishes the documents that are being worked on, and begins no more")))
 {
     nameParts();
@@ -125,12 +125,12 @@ void RunBar::show()
     m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
     m_sign->setVisible(!m_said.isEmpty() && m_isTrouble);
     m_why->setVisible(areResults ? counts.failed > 0 : state == State::Ready && counts.cannot > 0);
-    m_why->setText(areResults ? tr("Sho&w %n Failed", "", counts.failed) : tr("Show &Why"));
+    m_why->setText(areResults ? tr("Show %n Fa&iled", "", counts.failed) : tr("Show Wh&y"));
     m_undo->setVisible(areResults && counts.changed > 0 && m_workbench.undoableRun() == 0);
     m_again->setVisible(areResults && counts.failed + counts.notDone > 0);
     m_save->setVisible(areResults);
     m_pause->setVisible(state == State::Running || state == State::Paused);
-    m_pause->setText(state == State::Paused ? tr("Go &On") : tr("&Pause"));
+    m_pause->setText(state == State::Paused ? tr("Go &On") : tr("Pa&use"));
     m_stop->setVisible(m_workbench.machine().isEnabled(Command::Stop));
     if (areResults)
         announce(m_text->text());

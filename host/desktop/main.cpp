@@ -31,9 +31,13 @@ try {
     parser.process(*application); // ends for these options, and for those that it does not know
     desktop::MainWindow window(desktop::MainWindow::Places::ofUser());
     QVector<QByteArray> paths;
-    for (int place = 1; place < argc; ++place)
-        if (const QByteArray name = argv[place]; !name.startsWith('-'))
-            paths.append(desktop::droppednames::absolute(name));
+    bool areOptionsOver = false;
+    for (int place = 1; place < argc; ++place) {
+        const QByteArray word = argv[place];
+        if (areOptionsOver || !word.startsWith('-'))
+            paths.append(desktop::droppednames::absolute(word));
+        areOptionsOver = areOptionsOver || word == "--";
+    }
     window.show();
     window.begin(paths);
     return QCoreApplication::exec();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PasswordTrial.h"
 #include "RunHistory.h"
 #include "RunMachine.h"
 
@@ -115,6 +116,7 @@ private:
     void leaveResults();
     void check();
     void collectTargets();
+    void markAside();
     void endReading(const ChildRun::Ending& ending);
     void endChecking(const ChildRun::Ending& ending);
     void endRunning(const ChildRun::Ending& ending);
@@ -123,6 +125,7 @@ private:
     void run(const Ids& ids);
     void writeDown(const Running& running);
     void follow();
+    void tellOfPassword();
     DocumentTask::Means means() const { return {m_program, m_passwords}; }
 
     QString m_program;
@@ -132,6 +135,7 @@ private:
     RunMachine m_machine;
     RunHistory m_history;
     Passwords m_passwords;
+    PasswordTrial m_passwordTrial;
     RunOrder m_runOrder;
     /// Of the run whose results are shown.
     RunOrder m_lastOrder;
