@@ -65,7 +65,6 @@ MainWindow::MainWindow(const Places& places)
     resize(firstSize);
     restoreGeometry(m_settings.value("window/geometry").toByteArray());
     m_splitter->restoreState(m_settings.value("window/splitter").toByteArray());
-    m_side->restoreState(m_settings.value("window/side").toByteArray());
     m_actions[Id::ShowPreview]->setChecked(m_settings.value("window/preview", true).toBool());
     showState();
 }
@@ -129,25 +128,28 @@ QWidget* MainWindow::makeSide()
     m_change = new ChangePanel(m_workbench, this);
     m_change->setMinimumWidth(380);
     m_preview = new PreviewPane(m_workbench, m_drawer, this);
-    m_side = new QSplitter(Qt::Vertical, this);
-    m_side->setChildrenCollapsible(false);
-    m_side->addWidget(m_change);
-    m_side->addWidget(m_preview);
-    m_side->setStretchFactor(0, 1);
-    m_side->setSizes({500, 300});
+    auto* side = new QWidget(this);
+    auto* column = new QVBoxLayout(side); // the preview has what the settings leave
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_change);
+    column->addWidget(m_preview, 1);
     auto* presets = new PresetMenu(m_workbench, m_actions, m_views, m_change);
     m_change->presets()->setMenu(presets);
     connect(presets, &PresetMenu::said, &m_commands, &Commands::said);
     connect(presets, &PresetMenu::failed, &m_commands, &Commands::failed);
     connect(m_change, &ChangePanel::configureWanted, &m_commands, &Commands::configure);
     connect(m_change->destination(), &DestinationRow::folderWanted, &m_commands, &Commands::chooseFolder);
-    return m_side;
+    return side;
 }
 
 void MainWindow::connectParts()
 {
     connect(m_change, &ChangePanel::showWanted, m_filter, &FilterBar::show);
-    connect(m_runBar, &RunBar::whyWanted, this, [this] { m_filter->show(DocumentFilter::Kind::Trouble); });
+    connect(m_runBar, &RunBar::whyWanted, this, [this] {
+        const bool areResults = m_workbench.machine().state() == State::Results;
+        m_filter->show(areResults ? DocumentFilter::Kind::Failed : DocumentFilter::Kind::Trouble);
+    });
     connect(m_runBar, &RunBar::undoWanted, &m_commands, &Commands::undoLast);
     connect(m_runBar, &RunBar::saveWanted, &m_commands, &Commands::saveReport);
     for (auto signal : {&Workbench::said, &Workbench::failed})
@@ -200,7 +202,13 @@ void MainWindow::showState()
     const DocumentTask* task = m_workbench.task();
     const bool isWorking = m_workbench.machine().isWriting() && task != nullptr && task->total() > 0;
     const double share = isWorking ? double(task->done()) / task->total() : -1;
-    m_pages->setCurrentIndex(documents == 0 && m_workbench.machine().state() != State::Reading ? 0 : 1);
+    const int page = documents == 0 && m_workbench.machine().state() != State::Reading ? 0 : 1;
+    m_pages->setCurrentIndex(page);
+    m_isNewList = m_isNewList || page == 0;
+    if (m_isNewList && page == 1 && m_workbench.machine().state() != State::Reading) {
+        m_isNewList = false;
+        m_view->setFocus(); // which was on the page that went away
+    }
     m_bar->setVisible(m_pages->currentIndex() == 1);
     m_bar->setEnabled(documents > 0 || m_workbench.machine().state() == State::Reading);
     QString title = tr("Quintar");
@@ -267,7 +275,6 @@ void MainWindow::saveGeometryOnce()
 {
     m_settings.setValue("window/geometry", saveGeometry());
     m_settings.setValue("window/splitter", m_splitter->saveState());
-    m_settings.setValue("window/side", m_side->saveState());
     m_settings.setValue("window/preview", m_actions[Id::ShowPreview]->isChecked());
     m_view->saveColumns();
     m_session.save();

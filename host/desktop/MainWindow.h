@@ -79,8 +79,8 @@ private:
     RunBar* m_runBar = nullptr;
     HelpWindow* m_help = nullptr;
     QSplitter* m_splitter = nullptr;
-    QSplitter* m_side = nullptr;
     bool m_closesAtEnd = false;
+    bool m_isNewList = true;
 };
 
 } // namespace host::desktop

@@ -14,6 +14,7 @@ using namespace storedkeys;
 namespace {
 
 // Program and plug-ins have copies of this code each, but one application object.
+const QLatin1String stored("stored: ");
 const char property[] = "quintarStoreReports";
 
 } // namespace
@@ -55,8 +56,12 @@ QString inPlaceOf(const QByteArray& path)
 
 QString inWords(const QString& what, const QString& replaced, const QString& problem)
 {
-    return problem.isEmpty() ? QString("stored: %1%2").arg(what, replaced)
+    return problem.isEmpty() ? stored + QString("%1%2").arg(what, replaced)
                              : QString("not stored: %1: %2").arg(what, problem);
+}
+bool isTrouble(const QString& report)
+{
+    return !report.startsWith(stored);
 }
 
 } // namespace storereport

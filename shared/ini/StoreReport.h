@@ -22,5 +22,7 @@ QString inPlaceOf(const QByteArray& path);
 /// \param replaced what `inPlaceOf` said of it before.
 /// \param problem empty when it was stored.
 QString inWords(const QString& what, const QString& replaced, const QString& problem);
+/// Whether something was not stored, or not whole.
+bool isTrouble(const QString& report);
 
 } // namespace storereport

@@ -8,6 +8,8 @@
 #include "host/desktop/platform/OpenWith.h"
 #include "host/desktop/rows/RowTexts.h"
 
+#include "shared/ini/StoreReport.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
@@ -221,13 +223,13 @@ void Commands::configure()
     std::optional<StoredChoice> choice;
     try {
         const std::shared_ptr<const DocumentFacts> facts = current() != nullptr ? current()->facts : nullptr;
-        choice = m_dialog.show(m_window, m_workbench.draft().stored(), facts.get());
+        choice = m_dialog.show(m_window, m_workbench.draft(), facts.get());
     } catch (const std::runtime_error& error) {
         emit failed(QString::fromStdString(error.what()));
     }
     machine.setBusy(false);
-    for (const QString& complaint : m_dialog.complaints())
-        emit failed(complaint);
+    for (const QString& report : m_dialog.reports())
+        storereport::isTrouble(report) ? emit failed(report) : emit said(report);
     if (!choice)
         return;
     ChangeDraft draft;
@@ -282,7 +284,14 @@ void Commands::copyCommand()
 {
     QApplication::clipboard()->setText(
         m_workbench.runOrder().commandLine(m_workbench.table(), m_workbench.targets()));
-    emit said(tr("The command is in the clipboard."));
+    const auto isLocked = [this](DocumentId id) {
+        const DocumentRecord* record = m_workbench.table().find(id);
+        return record != nullptr && record->password >= 0;
+    };
+    const DocumentTable::Ids& ids = m_workbench.targets();
+    emit said(std::any_of(ids.begin(), ids.end(), isLocked)
+                  ? tr("The command is in the clipboard. It waits for the password to be typed.")
+                  : tr("The command is in the clipboard."));
 }
 
 void Commands::likeThis()

@@ -43,12 +43,14 @@ void ListHistory::push(Step step)
     emit changed();
 }
 
-void ListHistory::undo()
+DocumentTable::Ids ListHistory::undo()
 {
     if (!canUndo())
-        return;
-    turn(m_steps[--m_next]);
+        return {};
+    Step& step = m_steps[--m_next];
+    turn(step);
     emit changed();
+    return step.isRemoval ? step.ids : DocumentTable::Ids();
 }
 
 void ListHistory::redo()

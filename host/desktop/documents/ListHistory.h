@@ -25,7 +25,8 @@ public:
     /// "Undo Adding 3 Documents"
     QString undoText() const;
     QString redoText() const;
-    void undo();
+    /// \returns what has come back of a removal.
+    DocumentTable::Ids undo();
     void redo();
 
 signals:

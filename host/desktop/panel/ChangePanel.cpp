@@ -1,9 +1,8 @@
 #include "ChangePanel.h"
 
+#include "GrowingArea.h"
 #include "host/desktop/look/Drawings.h"
 
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QStyle>
 
 namespace host::desktop {
@@ -88,7 +87,7 @@ ChangePanel::ChangePanel(Workbench& workbench, QWidget* parent)
 
 QLayout* ChangePanel::makeHead()
 {
-    auto* label = heading(tr("&Change for"), this);
+    auto* label = heading(tr("Cha&nge for"), this);
     label->setBuddy(m_scope);
     m_scope->setAccessibleName(tr("Change for"));
     m_scope->setWhatsThis(
@@ -117,10 +116,7 @@ QLayout* ChangePanel::makeHead()
 
 QWidget* ChangePanel::makeSettings()
 {
-    auto* area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* area = new GrowingArea(this);
     auto* inside = new QWidget(area);
     auto* column = new QVBoxLayout(inside);
     column->setContentsMargins(0, 0, spacing, 0);

@@ -1,11 +1,11 @@
 #include "ActionDialog.h"
 
+#include "SettingsLines.h"
 #include "host/program/InstallLayout.h"
 #include "host/settings/DialogSettings.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsFolder.h"
-#include "host/settings/SettingsWords.h"
 #include "host/terminal/UsageError.h"
 
 #include "shared/CActionInterface.h"
@@ -45,28 +45,28 @@ StoredChoice choiceOf(const SettingsMap& map)
     std::vector<std::string> leftOut;
     for (const std::string& word : setoption::wordsOf(map, leftOut))
         choice.options += {"--set", QString::fromStdString(word)};
-    for (const QString& line : QString::fromStdString(settingsInWords(map)).split('\n', Qt::SkipEmptyParts))
-        choice.lines += line.simplified();
+    choice.lines = settingsLines(map);
     return choice;
 }
 
 } // namespace
 
-SettingsMap ActionDialog::startingFrom(const std::optional<StoredChoice>& start, const DocumentFacts* facts)
+SettingsMap ActionDialog::startingFrom(const ChangeDraft& start, const DocumentFacts* facts)
 {
-    if (start)
-        return settingsOf(start->options);
-    if (facts == nullptr)
+    if (start.stored())
+        return settingsOf(start.stored()->options);
+    if (facts == nullptr && start.isEmpty())
         return {};
     ViewChange present;
     for (const viewentries::Description& each : viewentries::all())
-        present.set(each.entry, (*facts)[each.entry]);
-    if (!facts->view.action.isEmpty())
+        present.set(each.entry, facts != nullptr ? (*facts)[each.entry] : ViewValue(Unset()));
+    if (facts != nullptr && !facts->view.action.isEmpty())
         present.set(ViewEntry::OpenPage, OtherAction{facts->view.action.toStdString()});
+    present.add(start.view());
     return DialogSettings(present).map();
 }
 
-std::optional<StoredChoice> ActionDialog::show(QWidget* parent, const std::optional<StoredChoice>& start,
+std::optional<StoredChoice> ActionDialog::show(QWidget* parent, const ChangeDraft& start,
                                                const DocumentFacts* facts)
 {
     if (m_plugin == nullptr)
@@ -79,9 +79,7 @@ std::optional<StoredChoice> ActionDialog::show(QWidget* parent, const std::optio
     load.bSkipDocumentRead = true;
     storereport::begin();
     const bool isAccepted = m_plugin->action().ShowDialogProc(parent, &load) == 1;
-    m_complaints.clear();
-    for (const QString& report : storereport::take())
-        m_complaints += report;
+    m_reports = storereport::take();
     if (!isAccepted)
         return std::nullopt;
     using namespace storedkeys;

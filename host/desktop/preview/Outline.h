@@ -4,6 +4,7 @@
 
 #include "host/desktop/children/ChildRun.h"
 #include "host/desktop/children/NameList.h"
+#include "host/desktop/children/PasswordFile.h"
 
 #include <QHash>
 
@@ -11,8 +12,8 @@
 
 namespace host::desktop {
 
-/// The first bookmarks of a document, read by a child process while somebody looks at it. Of several wishes the newest
-/// counts.
+/// The first bookmarks of a document, read by a child process while somebody
+/// looks at it. Of several wishes the newest counts.
 class Outline : public QObject
 {
     Q_OBJECT
@@ -35,7 +36,7 @@ private:
     QByteArray m_wanted;
     QByteArray m_password;
     NameList m_names;
-    NameList m_passwordFile;
+    PasswordFile m_passwordFile;
     std::unique_ptr<ChildRun> m_child;
     QTimer m_soon;
 };

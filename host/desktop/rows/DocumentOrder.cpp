@@ -3,6 +3,8 @@
 #include "RowTexts.h"
 #include "SortKeys.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 namespace host::desktop {
@@ -94,6 +96,19 @@ void DocumentOrder::select(const Ids& ids, DocumentId current)
     m_selection.select(rangesOf(*this, std::move(rows)), QItemSelectionModel::Select);
     if (const int row = rowOf(current); row >= 0)
         m_selection.setCurrentIndex(index(row, 0), QItemSelectionModel::NoUpdate);
+}
+
+DocumentId DocumentOrder::besides(const Ids& ids) const
+{
+    int last = -1;
+    for (const DocumentId id : ids)
+        last = std::max(last, rowOf(id));
+    if (last < 0 || last + 1 < m_shown.size())
+        return last < 0 ? 0 : m_shown.at(last + 1);
+    const QSet<DocumentId> going(ids.begin(), ids.end());
+    while (last >= 0 && going.contains(m_shown.at(last)))
+        --last;
+    return idAt(last);
 }
 
 int DocumentOrder::rowCount(const QModelIndex& parent) const

@@ -33,6 +33,8 @@ public:
     /// 0 for none.
     DocumentId current() const;
     void select(const Ids& ids, DocumentId current);
+    /// What is next to rows that go away: the one behind the last of them, else the one before; 0 for none.
+    DocumentId besides(const Ids& ids) const;
     DocumentId idAt(int row) const { return m_shown.value(row); }
     /// -1 for a document that is not shown.
     int rowOf(DocumentId id) const { return m_rows.value(id, -1); }

@@ -1,8 +1,8 @@
 #include "DocumentTask.h"
 
-#include <QFile>
+#include "host/desktop/change/RunOrder.h"
 
-#include <map>
+#include <QFile>
 
 namespace host::desktop {
 
@@ -12,12 +12,8 @@ DocumentTask::DocumentTask(DocumentTable& table, const Means& means, QObject* pa
 
 void DocumentTask::start(const DocumentTable::Ids& ids)
 {
-    std::map<std::pair<int, DocumentRecord::Signed>, DocumentTable::Ids> kinds;
-    for (const DocumentId id : ids)
-        if (const DocumentRecord* record = m_table.find(id))
-            kinds[{record->password, record->howSigned}].append(id);
-    for (auto& [kind, members] : kinds)
-        queue({std::move(members), kind.first, kind.second});
+    for (const auto& [kind, members] : RunOrder::kindsOf(m_table, ids))
+        queue({members, kind.first, kind.second});
     startPart();
 }
 
@@ -68,13 +64,13 @@ void DocumentTask::startPart()
         words += {"--files-from", m_names.path(), "--null"};
     }
     if (next.password >= 0) {
-        m_password = NameList::ofPassword(m_means.passwords.at(next.password));
-        words += {"--password-file", m_password.path()};
+        m_password = PasswordFile(m_means.passwords.at(next.password));
+        words += {"--password-file", m_password.pathForChild()};
     }
     m_child = new ChildRun(this);
     connect(m_child, &ChildRun::came, this, &DocumentTask::takeAll);
     connect(m_child, &ChildRun::ended, this, &DocumentTask::endPart);
-    m_child->start(m_means.program, words);
+    m_child->start(m_means.program, words, m_password.descriptor());
 }
 
 void DocumentTask::takeAll(const Events& events)
@@ -125,6 +121,7 @@ void DocumentTask::endPart(const ChildRun::Ending& ending)
 {
     m_child->deleteLater();
     m_child = nullptr;
+    m_password = {};
     const bool goesOn = ending.isComplete && !ending.wasStopped && !m_isStopping;
     do {
         m_answered.resize(static_cast<std::size_t>(underWay().size()));

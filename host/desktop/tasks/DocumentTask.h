@@ -4,6 +4,7 @@
 
 #include "host/desktop/children/ChildRun.h"
 #include "host/desktop/children/NameList.h"
+#include "host/desktop/children/PasswordFile.h"
 #include "host/desktop/documents/DocumentTable.h"
 
 #include <deque>
@@ -11,8 +12,8 @@
 
 namespace host::desktop {
 
-/// Work of the program on documents of the list: starts it, and puts what it tells into their records. Documents
-/// that need different options have a child process each kind, one after the other.
+/// Work of the program on documents of the list: starts it, and puts what it tells into their records.
+/// Documents that need different options have a child process each kind, one after the other.
 class DocumentTask : public QObject
 {
     Q_OBJECT
@@ -78,7 +79,7 @@ private:
     std::deque<Part> m_parts;
     std::vector<bool> m_answered;
     NameList m_names;
-    NameList m_password;
+    PasswordFile m_password;
     ChildRun* m_child = nullptr;
     bool m_isStopping = false;
     int m_total = 0;

@@ -78,7 +78,10 @@ void Workbench::remove(const Ids& ids)
     if (!m_machine.isEnabled(Command::Remove))
         return;
     dropTask();
+    const DocumentId next = m_order.besides(ids);
     m_list.remove(ids);
+    if (next != 0)
+        m_order.select({next}, next);
     follow();
 }
 
@@ -87,7 +90,8 @@ void Workbench::undoList()
     if (!m_machine.isEnabled(Command::UndoList))
         return;
     dropTask();
-    m_list.undo();
+    if (const Ids back = m_list.undo(); !back.isEmpty())
+        m_order.select(back, back.front()); // as they were when they were removed
     follow();
 }
 
@@ -154,16 +158,21 @@ void Workbench::collectTargets()
     const bool isOther = targets != m_targets;
     m_targets = targets;
     if (isOther && m_machine.state() != State::Results && !m_machine.isWriting()) {
-        const QSet<DocumentId> within(targets.begin(), targets.end());
-        for (const DocumentRecord& each : m_table.records())
-            if (each.isAside == within.contains(each.id))
-                m_table.change(each.id, [](DocumentRecord& record) { record.isAside = !record.isAside; });
-        m_table.flush();
+        markAside();
         m_collectSoon.stop();
         edited();
     }
     emit targetsChanged();
     emit countsChanged();
+}
+
+void Workbench::markAside()
+{
+    const QSet<DocumentId> within(m_targets.begin(), m_targets.end());
+    for (const DocumentRecord& each : m_table.records())
+        if (each.isAside == within.contains(each.id))
+            m_table.change(each.id, [](DocumentRecord& record) { record.isAside = !record.isAside; });
+    m_table.flush();
 }
 
 /// What would change has to be found out, once nothing has been edited for a moment.
@@ -201,6 +210,7 @@ void Workbench::leaveResults()
         record.result.reset();
         record.check.reset();
     });
+    markAside(); // others may have been shown or selected meanwhile
 }
 
 void Workbench::check()
@@ -249,6 +259,7 @@ void Workbench::endReading(const ChildRun::Ending& ending)
         emit failed(ending.words.isEmpty() ? tr("Reading broke off.") : ending.words);
     else if (known > 0)
         emit said(tr("%n document(s) were in the list already.", "", known));
+    m_passwordTrial.restore(m_table);
     m_machine.handle(m_table.count() > 0 ? Step::Read : Step::Emptied);
     m_order.settle();
     collectTargets();
@@ -256,6 +267,7 @@ void Workbench::endReading(const ChildRun::Ending& ending)
     if (!m_waiting.isEmpty())
         return add(std::exchange(m_waiting, {}));
     edited();
+    tellOfPassword();
 }
 
 void Workbench::endChecking(const ChildRun::Ending& ending)
@@ -272,6 +284,7 @@ void Workbench::endChecking(const ChildRun::Ending& ending)
     }
     emit progressed();
     emit countsChanged();
+    tellOfPassword();
 }
 
 Workbench::Counts Workbench::counts() const

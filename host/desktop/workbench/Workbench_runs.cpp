@@ -8,16 +8,6 @@ using Command = RunMachine::Command;
 using Step = RunMachine::Step;
 using State = RunMachine::State;
 
-namespace {
-
-bool wantsPassword(const DocumentRecord& record)
-{
-    const QString code = record.reasonCode();
-    return code == "password" || code == "permission";
-}
-
-} // namespace
-
 void Workbench::start()
 {
     if (m_machine.isEnabled(Command::Start))
@@ -173,14 +163,22 @@ void Workbench::appendAllTheSame(const Ids& ids)
 
 void Workbench::givePassword(const QByteArray& password)
 {
-    const int place = m_passwords.add(password);
-    Ids ids;
-    for (const DocumentRecord& record : m_table.records())
-        if (wantsPassword(record))
-            ids.append(record.id);
-    for (const DocumentId id : ids)
-        m_table.change(id, [place](DocumentRecord& record) { record.password = place; });
+    if (!m_machine.isEnabled(Command::Remove))
+        return;
+    dropTask();
+    const Ids ids = m_passwordTrial.begin(m_table, m_passwords.add(password));
+    if (ids.isEmpty())
+        return emit said(tr("No document of the list wants a password."));
     readAgain(ids);
+}
+
+/// Whether a document may be changed is known once it has been tried out.
+void Workbench::tellOfPassword()
+{
+    if (!m_passwordTrial.isUnderWay() || m_machine.state() == State::Checking)
+        return;
+    const auto& [text, hasOpened] = m_passwordTrial.end(m_table);
+    hasOpened ? emit said(text) : emit failed(text);
 }
 
 } // namespace host::desktop

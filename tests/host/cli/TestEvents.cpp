@@ -1,9 +1,9 @@
 // What other programs see of a run that they have started, and how they steer it.
 #include "host/cell/Sanitized.h"
 #include "host/failures/Failure.h"
-#include "support/Files.h"
 #include "support/Rows.h"
-#include "support/SpecialDocuments.h"
+#include "support/documents/SpecialDocuments.h"
+#include "support/folders/Files.h"
 
 #include <QtTest>
 

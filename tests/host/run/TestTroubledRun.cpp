@@ -1,8 +1,8 @@
 // Runs that meet full disks, other programs, signals, and documents that crash, hang or eat memory; and what
 // their reports are to the next run.
 #include "host/cell/Sanitized.h"
-#include "support/BatchFixture.h"
 #include "support/Rows.h"
+#include "support/program/BatchFixture.h"
 
 #include <QtTest>
 
@@ -14,6 +14,16 @@
 #include <unistd.h>
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// How many documents became what.
+QByteArray counts(const ProgramRun& run)
+{
+    return run.out.split('\n').value(run.out.count('\n') - 1);
+}
+
+} // namespace
 
 class TestTroubledRun : public QObject, private BatchFixture
 {
@@ -266,9 +276,6 @@ private slots:
         const QStringList toOut = QStringList{"run", "-o", "out", "in"} + panelAndPage();
         const auto resumed = [&](const QStringList& run, const char* to) {
             return quintar(run + QStringList{"--resume", "report", "--report", to});
-        };
-        const auto counts = [](const ProgramRun& run) {
-            return run.out.split('\n').value(run.out.count('\n') - 1);
         };
         QCOMPARE(counts(resumed(toOut, "report")), QByteArray("4 changed, 0 unchanged, 1 failed"));
 

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "host/desktop/documents/DocumentTable.h"
+
+#include <QHash>
+
+namespace host::desktop {
+
+/// A password that was given is tried on all documents that want one. Those that it does not open stay as they were,
+/// also if another one opens them; and a person is told how many it opened.
+class PasswordTrial
+{
+public:
+    /// Whether a document wants a password, to be read or to be changed.
+    static bool isWanted(const DocumentRecord& record);
+
+    /// \param password its place among the passwords. \returns the documents that are to be read with it.
+    DocumentTable::Ids begin(DocumentTable& table, int password);
+    bool isUnderWay() const { return !m_before.isEmpty(); }
+    /// After reading: gives back to documents what was known of them before, if nothing is now.
+    void restore(DocumentTable& table) const;
+    /// Once nothing more is to be found out. \returns what to say, and whether the password opened anything.
+    std::pair<QString, bool> end(const DocumentTable& table);
+
+private:
+    QHash<DocumentId, DocumentRecord> m_before;
+};
+
+} // namespace host::desktop
