@@ -18,6 +18,7 @@
 #include <QFrame>
 #include <QMenu>
 #include <QMimeData>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QWhatsThis>
 
@@ -29,6 +30,8 @@ using State = RunMachine::State;
 namespace {
 
 const QSize firstSize(1280, 880);
+/// For the frame that a window manager adds.
+const int frameRoom = 40;
 
 QWidget* line(QFrame::Shape shape)
 {
@@ -62,7 +65,7 @@ MainWindow::MainWindow(const Places& places)
     place();
     connectParts();
     connectActions();
-    resize(firstSize);
+    resize(firstSize.boundedTo(screen()->availableSize() - QSize(frameRoom, frameRoom)));
     restoreGeometry(m_settings.value("window/geometry").toByteArray());
     m_splitter->restoreState(m_settings.value("window/splitter").toByteArray());
     m_actions[Id::ShowPreview]->setChecked(m_settings.value("window/preview", true).toBool());

@@ -72,7 +72,7 @@ void DocumentView::restoreColumns()
     const QStringList order = m_settings.value("order").toStringList();
     for (int column = 0; column < columnCount; ++column) {
         const ColumnRow& row = columns::describe(column);
-        const int width = row.width * fontMetrics().averageCharWidth();
+        const int width = row.width * fontMetrics().horizontalAdvance('x');
         header->resizeSection(column, m_settings.value(QString(row.id) + "/width", width).toInt());
         header->setSectionHidden(column,
                                  !m_settings.value(QString(row.id) + "/shown", row.isShownAtFirst).toBool());
