@@ -96,7 +96,7 @@ void paintWindow(QPainter& painter, const QPalette& palette, const QRectF& frame
 {
     const QColor border = line(palette);
     const QColor text = mix(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.35);
-    const QColor accent = palette.color(QPalette::Highlight);
+    const QColor& accent = palette.color(QPalette::Highlight);
     painter.setPen(QPen(border, 1.5));
     painter.setBrush(palette.color(QPalette::Base));
     painter.drawRoundedRect(frame, 8, 8);

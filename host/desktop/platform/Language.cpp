@@ -26,7 +26,7 @@ void install(const QString& file)
 QString firstSpoken(const QStringList& wanted)
 {
     for (const QString& each : wanted)
-        if (const QString language = each.section('-', 0, 0).section('_', 0, 0);
+        if (QString language = each.section('-', 0, 0).section('_', 0, 0);
             QFile::exists(own + language + ".qm"))
             return language;
     return QStringLiteral("en");

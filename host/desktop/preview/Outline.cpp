@@ -55,7 +55,7 @@ void Outline::take(const Events& events)
         if (document == nullptr)
             continue;
         QVector<PreviewScene::Bookmark> bookmarks;
-        for (const QJsonValue& each : document->facts.value("outline").toArray())
+        for (const auto& each : document->facts.value("outline").toArray())
             if (const QJsonObject entry = each.toObject(); bookmarks.size() < mostBookmarks)
                 bookmarks.append(
                     {entry.value("level").toInt(1) - 1, entry.value("title").toString().simplified()});

@@ -45,7 +45,7 @@ QJsonObject toJson(const ChangeDraft& draft)
 QStringList textsIn(const QJsonValue& value)
 {
     QStringList texts;
-    for (const QJsonValue& each : value.toArray())
+    for (const auto& each : value.toArray())
         texts += each.toString();
     return texts;
 }
@@ -122,7 +122,7 @@ QVector<QByteArray> Session::takeOver(const QJsonObject& object)
     m_workbench.setDestination(destinationFrom(object.value("destination").toObject()));
     m_workbench.setDraft(draftFrom(object.value("draft").toObject()));
     QVector<QByteArray> paths;
-    for (const QJsonValue& path : object.value("documents").toArray())
+    for (const auto& path : object.value("documents").toArray())
         paths.append(QByteArray::fromPercentEncoding(path.toString().toLatin1()));
     return paths;
 }
