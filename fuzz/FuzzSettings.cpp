@@ -54,7 +54,7 @@ private:
     {
         m_process.setStandardErrorFile(QProcess::nullDevice());
         m_process.start(READSETTINGS_FILE, QStringList());
-        require(m_process.waitForStarted(), "QSettings' process cannot be started");
+        require(m_process.waitForStarted(-1), "QSettings' process cannot be started");
     }
 
     QProcess m_process;
