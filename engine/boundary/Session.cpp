@@ -4,6 +4,7 @@
 
 #include <qpdf/QPDF.hh>
 
+#include <atomic>
 #include <climits>
 #include <mutex>
 #include <unordered_map>
@@ -21,19 +22,26 @@ void prepareForLateClosing()
     pdf->getRoot();
 }
 
+/// A host's own static objects may call the library when its registry has gone already.
+constinit std::atomic<bool> isOver{false};
+
 struct Registry
 {
     Registry() { prepareForLateClosing(); }
+    ~Registry() { isOver = true; }
 
     std::mutex mutex;
     std::unordered_map<int, std::shared_ptr<Session>> sessions;
     int lastId = 0;
 };
 
-Registry& registry()
+/// Null at the end of the program, when all sessions have been closed.
+Registry* registry()
 {
+    if (isOver)
+        return nullptr;
     static Registry instance;
-    return instance;
+    return &instance;
 }
 
 } // namespace
@@ -41,29 +49,35 @@ Registry& registry()
 int Session::create()
 {
     auto session = std::make_shared<Session>();
-    Registry& all = registry();
-    const std::scoped_lock lock(all.mutex);
-    if (all.lastId == INT_MAX)
+    Registry* const all = registry();
+    if (all == nullptr)
         return 0;
-    all.sessions.emplace(all.lastId + 1, std::move(session));
-    return ++all.lastId;
+    const std::scoped_lock lock(all->mutex);
+    if (all->lastId == INT_MAX)
+        return 0;
+    all->sessions.emplace(all->lastId + 1, std::move(session));
+    return ++all->lastId;
 }
 
 void Session::release(int instance)
 {
-    Registry& all = registry();
-    std::unique_lock lock(all.mutex);
-    const auto released = all.sessions.extract(instance);
+    Registry* const all = registry();
+    if (all == nullptr)
+        return;
+    std::unique_lock lock(all->mutex);
+    const auto released = all->sessions.extract(instance);
     // Closing its documents can take a while: other sessions are not to wait for that.
     lock.unlock();
 }
 
 std::shared_ptr<Session> Session::find(int instance)
 {
-    Registry& all = registry();
-    const std::scoped_lock lock(all.mutex);
-    const auto found = all.sessions.find(instance);
-    return found == all.sessions.end() ? nullptr : found->second;
+    Registry* const all = registry();
+    if (all == nullptr)
+        return nullptr;
+    const std::scoped_lock lock(all->mutex);
+    const auto found = all->sessions.find(instance);
+    return found == all->sessions.end() ? nullptr : found->second;
 }
 
 int Session::add(std::unique_ptr<OpenDocument> document)

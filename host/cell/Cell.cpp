@@ -1,5 +1,6 @@
 #include "Cell.h"
 
+#include "OpenDescriptors.h"
 #include "host/files/FileDescriptor.h"
 #include "host/terminal/UsageError.h"
 
@@ -11,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <climits>
 #include <ctime>
 #include <stdexcept>
 #include <system_error>
@@ -19,8 +19,6 @@
 namespace host {
 
 namespace {
-
-const unsigned mostDescriptors = 65535; // that are looked at where the kernel cannot close a range
 
 bool giveUpPrivileges()
 {
@@ -101,31 +99,11 @@ void readAhead()
     systemError(ENOENT);
 }
 
-void closeRange(unsigned first, unsigned last)
-{
-    if (first <= last && close_range(first, last, 0) != 0) // before Linux 5.9
-        for (unsigned descriptor = first; descriptor <= std::min(last, mostDescriptors); ++descriptor)
-            close(static_cast<int>(descriptor));
-}
-
 bool leadNowhere(std::initializer_list<int> streams)
 {
     const FileDescriptor null(::open("/dev/null", O_RDWR | O_CLOEXEC));
     return std::all_of(streams.begin(), streams.end(),
                        [&](int stream) { return dup2(null.get(), stream) == stream; });
-}
-
-void closeAllBut(std::vector<int> kept)
-{
-    std::erase_if(kept, [](int descriptor) { return descriptor <= STDERR_FILENO; });
-    std::sort(kept.begin(), kept.end());
-    unsigned first = STDERR_FILENO + 1;
-    for (const int descriptor : kept) {
-        const auto number = static_cast<unsigned>(descriptor);
-        closeRange(first, number - 1);
-        first = std::max(first, number + 1);
-    }
-    closeRange(first, UINT_MAX);
 }
 
 } // namespace

@@ -3,6 +3,10 @@
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/Language.h"
 #include "host/program/HostApplication.h"
+#include "host/program/Surroundings.h"
+#include "host/terminal/ExitStatus.h"
+#include "host/terminal/StandardError.h"
+#include "host/terminal/UsageError.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
@@ -11,8 +15,10 @@
 #include <csignal>
 
 int main(int argc, char** argv)
-{
+try {
     using namespace host;
+    surroundings::refuseForeignRights();
+    surroundings::forgetPlacesOfCode();
     std::signal(SIGPIPE, SIG_IGN); // a child that ends while it is told something
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     const std::unique_ptr<QCoreApplication> application = hostapplication::forWindows(argc, argv);
@@ -35,4 +41,7 @@ int main(int argc, char** argv)
     window.show();
     window.begin(paths);
     return QCoreApplication::exec();
+} catch (const host::UsageError& error) {
+    host::complain(error.what());
+    return host::exitstatus::usage;
 }

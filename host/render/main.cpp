@@ -1,4 +1,6 @@
 #include "RenderLoop.h"
+#include "host/cell/OpenDescriptors.h"
+#include "host/program/Surroundings.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
 #include "host/terminal/StandardOutput.h"
@@ -11,6 +13,9 @@ int main(int argc, char** argv)
 {
     std::signal(SIGPIPE, SIG_IGN);
     try {
+        host::surroundings::refuseForeignRights();
+        host::surroundings::forgetPlacesOfCode();
+        host::closeAllBut({}); // what else the window, or who started it, left open
         const QCoreApplication application(argc, argv);
         return host::RenderLoop().run();
     } catch (const host::OutputError&) { // nobody looks any more

@@ -187,11 +187,12 @@ void BatchRun::jobEnded(std::size_t job, const WorkOutcome& outcome)
                       {ReasonCode::Crashed, "the worker process gave no proper answer"})));
 }
 
-/// The worker may have put the change in place before it ended.
+/// The worker may have put the change in place before it ended. Not in a dry run, whatever a worker says that was taken
+/// over: nothing is written, not by this process either.
 void BatchRun::jobLost(std::size_t job, const WorkOutcome& outcome)
 {
     std::optional<DocumentResult> result;
-    if (const auto placement = Placement::fromRecord(outcome.note))
+    if (const auto placement = m_options.dryRun ? std::nullopt : Placement::fromRecord(outcome.note))
         result = placement->settle(m_jobs[job].target, outcome.failure, m_options.flush);
     SafeOutput::removeTemporary(m_jobs[job].temporary);
     if (result)

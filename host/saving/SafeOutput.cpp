@@ -97,7 +97,7 @@ SafeOutput::SafeOutput(std::string target, std::string temporary)
 
 SafeOutput::~SafeOutput()
 {
-    if (!m_committed)
+    if (!m_committed && m_kept.empty())
         removeTemporary(m_temporary);
 }
 
@@ -141,9 +141,14 @@ SafeOutput::Outcome SafeOutput::commit(const FileAttributes& attributes, bool fl
     std::string note = inWords(notKept);
     if (beforeRename)
         beforeRename(finished, note);
-    if (!putInPlace(file.get()))
-        return errno == 0 ? Outcome{Failure::ofLibrary(int(engine::ErrorCode::SourceChanged)), {}} : failed();
+    if (!putInPlace(file.get())) {
+        if (errno != 0)
+            return failed();
+        const Failure changed = Failure::ofLibrary(int(engine::ErrorCode::SourceChanged));
+        return {{changed.code, joined(changed.text, aboutKept())}, {}};
+    }
     m_committed = true;
+    note = joined(note, aboutKept());
     if (flush && !flushFolder(folderOf(m_target), file.get()))
         note = joined(note, "it may not survive a power failure: its folder cannot be flushed: " +
                                 systemError(errno));
@@ -153,7 +158,7 @@ SafeOutput::Outcome SafeOutput::commit(const FileAttributes& attributes, bool fl
 /// \returns false with errno set on failure, and with 0 when another program has changed the target.
 bool SafeOutput::putInPlace(int file)
 {
-    const auto isDone = [&](bool told) { return told || isInPlace(file); };
+    const auto isDone = [&](bool told) { return told || isAt(m_target, file); };
     if (!m_replaced)
         return isDone(rename(m_temporary.c_str(), m_target.c_str()) == 0);
     if (!isDone(exchange())) {
@@ -162,13 +167,44 @@ bool SafeOutput::putInPlace(int file)
     }
     struct stat replaced;
     const bool isAsKnown = lstat(m_temporary.c_str(), &replaced) == 0 && isSameState(replaced, *m_replaced);
-    if (!isAsKnown && exchange()) {
-        errno = 0;
-        return false;
-    }
-    if (isAsKnown)
+    if (isAsKnown) {
         removeTemporary(m_temporary);
-    return true;
+        return true;
+    }
+    const bool isBack = giveBack(file);
+    errno = 0;
+    return !isBack;
+}
+
+/// Puts what another program has written back in its place. \returns false where the new file has stayed there.
+bool SafeOutput::giveBack(int file)
+{
+    const bool isExchanged = exchange();
+    const bool isBack = isExchanged || !isAt(m_target, file); // it may have gone meanwhile
+    if (isExchanged && isAt(m_temporary, file))
+        return true;
+    if (isExchanged ||
+        renameat2(AT_FDCWD, m_temporary.c_str(), AT_FDCWD, m_target.c_str(), RENAME_NOREPLACE) != 0)
+        keep();
+    return isBack;
+}
+
+/// Under a name that nobody takes for a leftover.
+void SafeOutput::keep()
+{
+    const std::string name = m_temporary.substr(m_temporary.rfind('/') + 1);
+    const std::string kept = folderOf(m_temporary) + "/" + name.substr(1) + ".kept";
+    const bool isRenamed =
+        renameat2(AT_FDCWD, m_temporary.c_str(), AT_FDCWD, kept.c_str(), RENAME_NOREPLACE) == 0;
+    m_kept = isRenamed ? kept : m_temporary;
+    struct stat status;
+    if (!isRenamed && lstat(m_temporary.c_str(), &status) != 0)
+        m_kept.clear(); // there is nothing
+}
+
+std::string SafeOutput::aboutKept() const
+{
+    return m_kept.empty() ? "" : "what another program wrote there at the last moment is kept as " + m_kept;
 }
 
 bool SafeOutput::exchange() const
@@ -177,15 +213,15 @@ bool SafeOutput::exchange() const
 }
 
 /// A rename over a network can be reported as failed although it was done.
-bool SafeOutput::isInPlace(int file) const
+bool SafeOutput::isAt(const std::string& path, int file)
 {
     const int problem = errno;
     struct stat written;
-    struct stat target;
-    const bool inPlace = fstat(file, &written) == 0 && stat(m_target.c_str(), &target) == 0 &&
-                         written.st_dev == target.st_dev && written.st_ino == target.st_ino;
+    struct stat there;
+    const bool isThere =
+        fstat(file, &written) == 0 && stat(path.c_str(), &there) == 0 && isSameFile(written, there);
     errno = problem;
-    return inPlace;
+    return isThere;
 }
 
 bool SafeOutput::flushPlaced(const std::string& target)

@@ -49,7 +49,7 @@ public:
     Outcome commit(const FileAttributes& attributes, bool flush, const BeforeRename& beforeRename = {});
 
     /// The target is replaced only while it is like this. What another program has put there at the last moment gets
-    /// its place back; but not where the file system cannot exchange two files, as those on networks.
+    /// its place back, or is kept under a name that is told; but not where the file system cannot exchange two files, as those on networks.
     void replaceOnly(const struct stat& state) { m_replaced = state; }
 
     /// Waits until a file that was renamed to the target by another process is on the disk under its name.
@@ -68,12 +68,16 @@ public:
 
 private:
     bool putInPlace(int file);
+    bool giveBack(int file);
+    void keep();
+    std::string aboutKept() const;
     bool exchange() const;
-    bool isInPlace(int file) const;
+    static bool isAt(const std::string& path, int file);
 
     std::string m_target;
     std::string m_temporary;
     std::optional<struct stat> m_replaced;
+    std::string m_kept; ///< Where another program's file lies that could not be given back; empty for none.
     bool m_committed = false;
 };
 

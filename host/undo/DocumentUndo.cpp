@@ -1,5 +1,6 @@
 #include "DocumentUndo.h"
 
+#include "ClaimedUpdate.h"
 #include "host/failures/Joined.h"
 #include "host/files/Checksum.h"
 #include "host/files/DiskFlush.h"
@@ -41,29 +42,6 @@ Failure notAsRead()
 
 /// Of an update that is appended where the document lies; there is no longer one.
 const std::int64_t longestInPlace = 2048;
-
-/// Empty when they cannot be read.
-std::string bytesOf(int file, std::int64_t begin, std::int64_t end)
-{
-    std::string bytes(static_cast<std::size_t>(end - begin), '\0');
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-        const ssize_t count =
-            pread(file, bytes.data() + done, bytes.size() - done, begin + static_cast<std::int64_t>(done));
-        if (count == 0 || (count < 0 && errno != EINTR))
-            return {};
-        done += count > 0 ? static_cast<std::size_t>(count) : 0;
-    }
-    return bytes;
-}
-
-/// Whether the bytes from `begin` to the end are what ends a PDF document: a report that claims too much must
-/// not cut other files down.
-bool endsAsUpdate(int file, std::int64_t begin, std::int64_t end)
-{
-    const std::int64_t looked = 32;
-    return bytesOf(file, std::max(begin, end - looked), end).find("%%EOF") != std::string::npos;
-}
 
 /// Whether the bytes are an update that was to be appended where the document lies, with its last lines or
 /// without.
@@ -180,7 +158,7 @@ bool DocumentUndo::isAfter(const AppendedUpdate& update, const std::string& stat
     const std::int64_t begin = sizeOf(update.before);
     const std::int64_t end = sizeOf(state);
     return begin < end && end - begin <= longestInPlace &&
-           isUnfinished(bytesOf(m_file.get(), begin, end), update.unfinished);
+           isUnfinished(ClaimedUpdate::bytesOf(m_file.get(), begin, end), update.unfinished);
 }
 
 /// Why the updates must not be cut off.
@@ -193,9 +171,15 @@ Failure DocumentUndo::whyNotCut() const
         if (checksum != update->checksum)
             return {ReasonCode::ChangedSince, "what stands before the update is not what stood there"};
     }
-    const bool isUpdate = m_cuts.front()->after.empty() || // whose bytes are known
-                          endsAsUpdate(m_file.get(), sizeOf(m_cuts.back()->before), m_present.st_size);
-    return isUpdate ? Failure() : Failure{ReasonCode::BadReport, "what the report calls an update is none"};
+    std::int64_t end = m_present.st_size;
+    for (const AppendedUpdate* update : m_cuts) {
+        const std::int64_t begin = sizeOf(update->before);
+        const bool isKnown = update->after.empty(); // byte by byte
+        if (!isKnown && !ClaimedUpdate(m_file.get(), begin, end).isOne())
+            return {ReasonCode::BadReport, "what the report calls an update is none"};
+        end = begin;
+    }
+    return {};
 }
 
 UndoResult DocumentUndo::cut() const

@@ -166,6 +166,7 @@ void WorkerPool::run(std::size_t count, const Done& done, RunControl& control)
 
 void WorkerPool::doRound(const Done& done, RunControl& control)
 {
+    m_told.assign(m_round.size(), false);
     heed(control);
     while (startWorkers(done), anyRunning() || untaken() > 0)
         waitForNews(done, control);
@@ -347,11 +348,13 @@ void WorkerPool::receive(Process& process, const Done& done)
         end(process, done, WorkOutcome::Lost);
 }
 
-/// \returns their number.
+/// \returns their number. A worker that was taken over may answer faster than it is heard, and for ever: it gets neither
+/// time nor attention for what is no news.
 int WorkerPool::takeAnswers(Process& process, const Done& done)
 {
     int count = 0;
-    for (; std::optional<WorkerSlot::Answer> answer = (*process.slot)->takeAnswer(); ++count)
+    for (std::optional<WorkerSlot::Answer> answer;
+         (answer = (*process.slot)->takeAnswer()) && isNews(answer->piece); ++count)
         if (answer->kind != WorkerSlot::Again)
             pieceEnded(answer->piece, done, outcomeOf(*answer, **process.slot));
     if (count > 0) {
@@ -359,6 +362,15 @@ int WorkerPool::takeAnswers(Process& process, const Done& done)
         setDeadline(process); // what took this program long is not the worker's
     }
     return count;
+}
+
+/// Whether nothing was told of the piece in this round.
+bool WorkerPool::isNews(std::uint64_t place)
+{
+    if (place >= m_round.size() || m_told[place])
+        return false;
+    m_told[place] = true;
+    return true;
 }
 
 /// A piece that is none, or has ended, is what a worker tells that was at none or has its memory corrupted.

@@ -99,6 +99,7 @@ private:
     void nap() const;
     void receive(Process& process, const Done& done);
     int takeAnswers(Process& process, const Done& done);
+    bool isNews(std::uint64_t place);
     void pieceEnded(std::uint64_t place, const Done& done, const WorkOutcome& outcome);
     void end(Process& process, const Done& done, WorkOutcome::Kind kind, const Failure& why = {});
     void setDeadline(Process& process) const;
@@ -114,6 +115,7 @@ private:
     std::vector<bool> m_ended;
     /// The pieces of this round; workers take places in this list.
     std::vector<std::size_t> m_round;
+    std::vector<bool> m_told; ///< Places of this round that a worker has answered, or left for later.
     SharedMemory<std::atomic<std::uint64_t>> m_next;
     /// While it is paused, the next place; workers then find none.
     std::optional<std::uint64_t> m_held;

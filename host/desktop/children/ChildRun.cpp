@@ -33,7 +33,7 @@ void abandon(QProcess* process)
 
 } // namespace
 
-ChildRun::ChildRun(QObject* parent) : QObject(parent), m_process(new QProcess(this))
+ChildRun::ChildRun(QObject* parent) : QObject(parent), m_process(new ChildProcess(this))
 {
     m_tick.setInterval(tickMilliseconds);
     connect(&m_tick, &QTimer::timeout, this, &ChildRun::tick);
@@ -53,8 +53,9 @@ ChildRun::~ChildRun()
     abandon(m_process);
 }
 
-void ChildRun::start(const QString& program, const QStringList& arguments)
+void ChildRun::start(const QString& program, const QStringList& arguments, int handed)
 {
+    m_process->hand(handed);
     m_process->start(program, arguments);
     m_tick.start();
 }

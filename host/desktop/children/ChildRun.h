@@ -1,9 +1,9 @@
 #pragma once
 
+#include "ChildProcess.h"
 #include "Event.h"
 #include "LineSplitter.h"
 
-#include <QProcess>
 #include <QTimer>
 
 namespace host::desktop {
@@ -28,8 +28,9 @@ public:
     explicit ChildRun(QObject* parent = nullptr);
     ~ChildRun() override;
 
-    /// \param arguments without those that ask for events and take orders.
-    void start(const QString& program, const QStringList& arguments);
+    /// \param arguments without those that ask for events and take orders. \param handed a descriptor that the child
+    /// inherits, -1 for none.
+    void start(const QString& program, const QStringList& arguments, int handed = -1);
     void pause() { order("pause"); }
     void resume() { order("resume"); }
     /// Documents that are being worked on are finished. A child that does not end within ten seconds is killed.
@@ -48,7 +49,7 @@ private:
     void end();
     void finish();
 
-    QProcess* m_process;
+    ChildProcess* m_process;
     QTimer m_tick;
     LineSplitter m_lines;
     QByteArray m_errors;

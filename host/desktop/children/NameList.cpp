@@ -16,22 +16,12 @@ QString folder()
 
 } // namespace
 
+/// QTemporaryFile gives nobody else any rights.
 NameList NameList::of(const QVector<QByteArray>& names)
 {
     QByteArray bytes;
     for (const QByteArray& name : names)
         bytes += name + '\0';
-    return with(bytes);
-}
-
-NameList NameList::ofPassword(const QByteArray& password)
-{
-    return with(password + "\n");
-}
-
-/// QTemporaryFile gives nobody else any rights.
-NameList NameList::with(const QByteArray& bytes)
-{
     NameList list;
     auto file = std::make_unique<QTemporaryFile>(folder() + "/quintar-XXXXXX");
     if (file->open() && file->write(bytes) == bytes.size() && file->flush())

@@ -8,20 +8,17 @@
 
 namespace host::desktop {
 
-/// A private file that hands names, or a password, to a child process; gone with the object.
+/// A private file that hands names to a child process; gone with the object.
 class NameList
 {
 public:
     /// The options that name the list of documents.
     static NameList of(const QVector<QByteArray>& names);
-    static NameList ofPassword(const QByteArray& password);
 
     /// Empty when the file could not be written.
     QString path() const { return m_file ? m_file->fileName() : QString(); }
 
 private:
-    static NameList with(const QByteArray& bytes);
-
     std::unique_ptr<QTemporaryFile> m_file;
 };
 

@@ -38,13 +38,14 @@ void Outline::ask()
     QStringList words{"show",         "--outline", QString::number(mostBookmarks),
                       "--events",     "--control", "--files-from",
                       m_names.path(), "--null"};
+    m_passwordFile = {};
     if (!m_password.isEmpty()) {
-        m_passwordFile = NameList::ofPassword(m_password);
-        words += {"--password-file", m_passwordFile.path()};
+        m_passwordFile = PasswordFile(m_password);
+        words += {"--password-file", m_passwordFile.pathForChild()};
     }
     m_child = std::make_unique<ChildRun>();
     connect(m_child.get(), &ChildRun::came, this, &Outline::take);
-    m_child->start(m_program, words);
+    m_child->start(m_program, words, m_passwordFile.descriptor());
 }
 
 void Outline::take(const Events& events)

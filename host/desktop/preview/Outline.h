@@ -4,6 +4,7 @@
 
 #include "host/desktop/children/ChildRun.h"
 #include "host/desktop/children/NameList.h"
+#include "host/desktop/children/PasswordFile.h"
 
 #include <QHash>
 
@@ -35,7 +36,7 @@ private:
     QByteArray m_wanted;
     QByteArray m_password;
     NameList m_names;
-    NameList m_passwordFile;
+    PasswordFile m_passwordFile;
     std::unique_ptr<ChildRun> m_child;
     QTimer m_soon;
 };

@@ -138,7 +138,7 @@ bool PagePictures::takeAnswer(const QJsonObject& answer)
 {
     const QString event = answer.value("event").toString();
     if (event == "document")
-        return true;
+        return m_unanswered > 0; // a child that was taken over may say so for ever
     m_comingPage = answer.value("id").toInt();
     if (--m_unanswered < 0 || !m_pages.contains(m_comingPage))
         return false;

@@ -68,13 +68,13 @@ void DocumentTask::startPart()
         words += {"--files-from", m_names.path(), "--null"};
     }
     if (next.password >= 0) {
-        m_password = NameList::ofPassword(m_means.passwords.at(next.password));
-        words += {"--password-file", m_password.path()};
+        m_password = PasswordFile(m_means.passwords.at(next.password));
+        words += {"--password-file", m_password.pathForChild()};
     }
     m_child = new ChildRun(this);
     connect(m_child, &ChildRun::came, this, &DocumentTask::takeAll);
     connect(m_child, &ChildRun::ended, this, &DocumentTask::endPart);
-    m_child->start(m_means.program, words);
+    m_child->start(m_means.program, words, m_password.descriptor());
 }
 
 void DocumentTask::takeAll(const Events& events)
@@ -125,6 +125,7 @@ void DocumentTask::endPart(const ChildRun::Ending& ending)
 {
     m_child->deleteLater();
     m_child = nullptr;
+    m_password = {};
     const bool goesOn = ending.isComplete && !ending.wasStopped && !m_isStopping;
     do {
         m_answered.resize(static_cast<std::size_t>(underWay().size()));

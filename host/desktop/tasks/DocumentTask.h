@@ -4,6 +4,7 @@
 
 #include "host/desktop/children/ChildRun.h"
 #include "host/desktop/children/NameList.h"
+#include "host/desktop/children/PasswordFile.h"
 #include "host/desktop/documents/DocumentTable.h"
 
 #include <deque>
@@ -78,7 +79,7 @@ private:
     std::deque<Part> m_parts;
     std::vector<bool> m_answered;
     NameList m_names;
-    NameList m_password;
+    PasswordFile m_password;
     ChildRun* m_child = nullptr;
     bool m_isStopping = false;
     int m_total = 0;

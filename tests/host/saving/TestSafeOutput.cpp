@@ -1,12 +1,16 @@
 #include "host/files/FileDescriptor.h"
 #include "host/saving/FileAttributes.h"
 #include "host/saving/SafeOutput.h"
+#include "support/Rows.h"
 #include "support/WorkFolder.h"
 
 #include <QtTest>
 
+#include <climits>
+#include <cstdio>
 #include <deque>
 #include <optional>
+#include <utility>
 
 #include <fcntl.h>
 #include <grp.h>
@@ -23,6 +27,8 @@ namespace {
 std::deque<int> flushProblems;
 int folderProblem = 0;
 int fileSystemFlushes = 0;
+int exchangesLeft = 0; ///< Before they fail.
+std::string removedBehindExchange;
 
 } // namespace
 
@@ -40,6 +46,17 @@ int __wrap_syncfs(int)
 {
     ++fileSystemFlushes;
     return 0;
+}
+
+int __real_renameat2(int oldFolder, const char* old, int newFolder, const char* now, unsigned flags);
+int __wrap_renameat2(int oldFolder, const char* old, int newFolder, const char* now, unsigned flags)
+{
+    errno = EIO;
+    if (flags == RENAME_EXCHANGE && exchangesLeft-- <= 0)
+        return -1;
+    const int result = __real_renameat2(oldFolder, old, newFolder, now, flags);
+    fs::remove(std::exchange(removedBehindExchange, {}));
+    return result;
 }
 
 int __real_mkdir(const char* path, mode_t mode);
@@ -60,6 +77,7 @@ private slots:
         m_folder.emplace();
         flushProblems.clear();
         folderProblem = fileSystemFlushes = 0;
+        exchangesLeft = INT_MAX;
     }
     void cleanup() { m_folder.reset(); }
 
@@ -102,6 +120,48 @@ private slots:
             QCOMPARE(WorkFolder::contentOf("target"), std::string(isChanged ? "theirs" : "new"));
             QVERIFY(isChanged || !fs::exists(temporary));
         }
+    }
+
+    // What others have written stays, whatever goes wrong, and also behind the next run.
+    void keepsWhatCannotBeGivenBack_data()
+    {
+        const Rows<bool, int>
+            row; // whether the new file is taken away at once, and the exchanges that succeed
+        row("no second exchange", false, 1);
+        row("nothing to exchange with", true, INT_MAX);
+    }
+
+    void keepsWhatCannotBeGivenBack()
+    {
+        const auto [isRemoved, exchanges] = Rows<bool, int>::current();
+        WorkFolder::put("target", "old");
+        struct stat asRead;
+        QCOMPARE(stat("target", &asRead), 0);
+        const std::string temporary = SafeOutput::temporaryNameFor("target");
+        WorkFolder::put(temporary, "new");
+        SafeOutput::Outcome outcome;
+        {
+            SafeOutput output("target", temporary);
+            output.replaceOnly(asRead);
+            removedBehindExchange = isRemoved ? "target" : "";
+            exchangesLeft = exchanges;
+            outcome =
+                output.commit(FileAttributes::ofNewFile(), true, [](const struct stat&, const std::string&) {
+                    WorkFolder::put("target", "theirs");
+                });
+        }
+        SafeOutput::removeLeftovers(".");
+        QVERIFY(!fs::exists(temporary));
+        if (isRemoved) {
+            QCOMPARE(outcome.problem.code, ReasonCode::ChangedMeanwhile);
+            QCOMPARE(WorkFolder::contentOf("target"), std::string("theirs"));
+            return;
+        }
+        QCOMPARE(outcome.problem.code, ReasonCode::None);
+        QCOMPARE(WorkFolder::contentOf("target"), std::string("new"));
+        const std::size_t place = outcome.note.rfind("is kept as ");
+        QVERIFY(place != std::string::npos);
+        QCOMPARE(WorkFolder::contentOf(outcome.note.substr(place + 11)), std::string("theirs"));
     }
 
     // Only what is as it was is called failed.

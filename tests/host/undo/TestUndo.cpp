@@ -1,4 +1,5 @@
 #include "host/cli/UndoCommand.h"
+#include "host/files/Checksum.h"
 #include "support/CommandRun.h"
 #include "support/FileStatus.h"
 #include "support/PdfBuilder.h"
@@ -369,6 +370,30 @@ private slots:
         const CommandRun run = undo({"report"});
         QVERIFY2(run.err.contains("what the report calls an update is none"), run.err);
         QVERIFY(snapshots() == changed);
+    }
+
+    // Nor may one that knows all that there is to know of the document.
+    void cutsNoMoreThanAnUpdate()
+    {
+        const std::string original = PdfBuilder::simple();
+        QCOMPARE(change("thumbs", "report").status, 0);
+        const Snapshots changed = snapshots();
+        const QByteArray text = reportText("report");
+        for (const std::size_t size : {std::size_t{9}, original.find("1 0 obj"), original.find("2 0 obj"),
+                                       original.find("xref\n"), original.size() - 10}) {
+            const std::string left = WorkFolder::contentOf("in/a.pdf").substr(0, size);
+            QByteArray tampered = text;
+            tampered.replace("\"undo\":{\"fileState\":\"" + QByteArray::number(qint64(original.size())),
+                             "\"undo\":{\"fileState\":\"" + QByteArray::number(qint64(size)));
+            tampered.replace(QByteArray::fromStdString(checksumOf(original)),
+                             QByteArray::fromStdString(checksumOf(left)));
+            QVERIFY(tampered != text);
+            WorkFolder::put("report", tampered.toStdString());
+            const CommandRun run = undo({"report"});
+            QVERIFY2(run.err.contains("what the report calls an update is none"),
+                     QByteArray::number(qint64(size)) + run.err + run.out);
+            QVERIFY(snapshots() == changed);
+        }
     }
 
     void passesOverBrokenLines()

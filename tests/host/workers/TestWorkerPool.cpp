@@ -52,6 +52,11 @@ private slots:
         row("all crashing", 1, killed, [](int) { return raise(SIGKILL) != 0; });
         row("ending", 50, "the worker process ended on it with status 3", [](int) -> bool { _exit(3); });
         row("hanging", 100, "it took longer than 1 s", [](int) { return usleep(9'000'000) != 0; });
+        row("never silent", 100, "it took longer than 1 s", [](int) {
+            for (;;)
+                slotInUse->answer(WorkerSlot::Again, {});
+            return true;
+        });
         row("no worker", 1, "none can be made", nullptr);
         row("corrupted", 50, killed, [](int piece) {
             std::memset(static_cast<void*>(slotInUse), piece, sizeof *slotInUse);
