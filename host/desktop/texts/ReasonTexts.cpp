@@ -1,5 +1,7 @@
 #include "ReasonTexts.h"
 
+#include "PlainText.h"
+
 #include <QCoreApplication>
 
 namespace host::desktop::reasontexts {
@@ -82,7 +84,7 @@ QString textOf(const QString& code, const QString& words)
 {
     if (const Reason* known = find(code))
         return translate(known->text);
-    QString sentence = words.simplified();
+    QString sentence = plaintext::shown(words.simplified());
     if (!sentence.isEmpty())
         sentence[0] = sentence[0].toUpper();
     return sentence;

@@ -211,6 +211,10 @@
         <source>beside them, as name-%1.pdf</source>
         <translation>daneben, als Name-%1.pdf</translation>
     </message>
+    <message>
+        <source>The folder has to begin with a slash or with ~/.</source>
+        <translation>Der Ordner muss mit einem Schrägstrich oder mit ~/ beginnen.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -1376,6 +1380,14 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>Das Passwort wird bei allen Dokumenten probiert, die eines verlangen. Es wird behalten, bis dieses Fenster geschlossen wird.</translation>
     </message>
+    <message>
+        <source>No document would be changed.</source>
+        <translation>Kein Dokument würde geändert.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again to try once more.</source>
+        <translation>Was sich ändern würde, ist nicht bekannt. Lesen Sie die Dokumente neu ein, um es noch einmal zu versuchen.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1653,6 +1665,18 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>The change is kept as “%1”.</source>
         <translation>Die Änderung ist als „%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>Replace the preset “%1”?</source>
+        <translation>Die Vorlage „%1“ ersetzen?</translation>
+    </message>
+    <message>
+        <source>There is one of this name already.</source>
+        <translation>Es gibt schon eine mit diesem Namen.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
     </message>
 </context>
 <context>

@@ -211,6 +211,10 @@
         <source>beside them, as name-%1.pdf</source>
         <translation>al lado, como nombre-%1.pdf</translation>
     </message>
+    <message>
+        <source>The folder has to begin with a slash or with ~/.</source>
+        <translation>La carpeta debe empezar por una barra o por ~/.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -1376,6 +1380,14 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>La contraseña se prueba en todos los documentos que la piden. Se conserva hasta que se cierre esta ventana.</translation>
     </message>
+    <message>
+        <source>No document would be changed.</source>
+        <translation>No se cambiaría ningún documento.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again to try once more.</source>
+        <translation>No se sabe qué cambiaría. Vuelva a leer los documentos para intentarlo de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1653,6 +1665,18 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>The change is kept as “%1”.</source>
         <translation>El cambio se ha guardado como «%1».</translation>
+    </message>
+    <message>
+        <source>Replace the preset “%1”?</source>
+        <translation>¿Reemplazar el preajuste «%1»?</translation>
+    </message>
+    <message>
+        <source>There is one of this name already.</source>
+        <translation>Ya hay uno con este nombre.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Reemplazar</translation>
     </message>
 </context>
 <context>

@@ -211,6 +211,10 @@
         <source>beside them, as name-%1.pdf</source>
         <translation>à côté, sous nom-%1.pdf</translation>
     </message>
+    <message>
+        <source>The folder has to begin with a slash or with ~/.</source>
+        <translation>Le dossier doit commencer par une barre oblique ou par ~/.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -1376,6 +1380,14 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>Le mot de passe est essayé sur tous les documents qui en demandent un. Il est gardé jusqu’à la fermeture de cette fenêtre.</translation>
     </message>
+    <message>
+        <source>No document would be changed.</source>
+        <translation>Aucun document ne serait modifié.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again to try once more.</source>
+        <translation>On ne sait pas ce qui changerait. Relisez les documents pour réessayer.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1653,6 +1665,18 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>The change is kept as “%1”.</source>
         <translation>La modification est gardée sous «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Replace the preset “%1”?</source>
+        <translation>Remplacer le préréglage «&#xa0;%1&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>There is one of this name already.</source>
+        <translation>Il en existe déjà un de ce nom.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
     </message>
 </context>
 <context>

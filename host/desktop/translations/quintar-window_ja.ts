@@ -207,6 +207,10 @@
         <source>beside them, as name-%1.pdf</source>
         <translation>元の文書の隣に 名前-%1.pdf として</translation>
     </message>
+    <message>
+        <source>The folder has to begin with a slash or with ~/.</source>
+        <translation>フォルダーはスラッシュまたは ~/ で始めてください。</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -1368,6 +1372,14 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>パスワードは、必要とするすべての文書で試します。このウィンドウを閉じるまで保持されます。</translation>
     </message>
+    <message>
+        <source>No document would be changed.</source>
+        <translation>変更される文書はありません。</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again to try once more.</source>
+        <translation>何が変わるかは不明です。もう一度試すには文書を読み直してください。</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1639,6 +1651,18 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>The change is kept as “%1”.</source>
         <translation>変更を「%1」として保存しました。</translation>
+    </message>
+    <message>
+        <source>Replace the preset “%1”?</source>
+        <translation>プリセット「%1」を置き換えますか?</translation>
+    </message>
+    <message>
+        <source>There is one of this name already.</source>
+        <translation>この名前のプリセットはすでにあります。</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>置き換え(&amp;R)</translation>
     </message>
 </context>
 <context>
