@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTableView>
 #include <QTextDocument>
 #include <QToolButton>
 #include <QtTest>
@@ -132,6 +133,19 @@ private slots:
         QTest::keyClicks(folder, "~/out");
         QTRY_COMPARE(state(), State::Ready);
         QVERIFY(m_fake->starts().last().contains("--output " + QDir::homePath() + "/out "));
+    }
+
+    void showsTheColumnOfWhatIsChanged()
+    {
+        read();
+        auto* list = find<QTableView>("documents");
+        QVERIFY(list->isColumnHidden(int(Column::Layout)) && list->isColumnHidden(int(Column::Zoom)));
+        choose("page-layout", "One column");
+        QVERIFY(!list->isColumnHidden(int(Column::Layout)) && list->isColumnHidden(int(Column::Zoom)));
+        list->hideColumn(int(Column::Layout));
+        choose("page-mode", "Bookmarks");
+        QVERIFY(list->isColumnHidden(int(Column::Layout)));
+        QVERIFY(!find<QSpinBox>("open-page-number")->whatsThis().isEmpty());
     }
 
     void isScrolledByTheWheelNotChanged()

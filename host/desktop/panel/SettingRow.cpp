@@ -79,6 +79,7 @@ QLayout* SettingRow::makeEditors(QWidget* parent)
         m_number->setRange(1, INT_MAX);
         new WheelGuard(m_number);
         m_number->setAccessibleName(tr("%1, number").arg(viewtexts::nameOf(m_entry)));
+        m_number->setWhatsThis(viewtexts::helpOf(m_entry));
         connect(m_number, QOverload<int>::of(&QSpinBox::valueChanged), this, &SettingRow::tell);
         editors->addWidget(m_number, 1);
     }
@@ -88,6 +89,7 @@ QLayout* SettingRow::makeEditors(QWidget* parent)
         m_text->setAccessibleName(tr("%1, text").arg(viewtexts::nameOf(m_entry)));
         m_text->setPlaceholderText(kindOf(m_entry) == viewentries::Kind::Language ? QStringLiteral("en-GB")
                                                                                   : QString());
+        m_text->setWhatsThis(viewtexts::helpOf(m_entry));
         connect(m_text, &QLineEdit::textEdited, this, &SettingRow::tell);
         editors->addWidget(m_text, 2);
     }

@@ -470,6 +470,38 @@
         <source>other</source>
         <translation>andere</translation>
     </message>
+    <message>
+        <source>It cannot be written anew without loss.</source>
+        <translation>Es kann nicht ohne Verlust neu geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>It has no page of this number.</source>
+        <translation>Es hat keine Seite mit dieser Nummer.</translation>
+    </message>
+    <message>
+        <source>The change was refused while it was made; it is as it was.</source>
+        <translation>Die Änderung wurde abgewiesen; es ist, wie es war.</translation>
+    </message>
+    <message>
+        <source>It was not changed in place, so there is nothing to undo.</source>
+        <translation>Es wurde nicht an Ort und Stelle geändert, also ist nichts zurückzunehmen.</translation>
+    </message>
+    <message>
+        <source>The report does not tell what stood there before, so it stays.</source>
+        <translation>Der Bericht sagt nicht, was vorher dort stand, also bleibt es.</translation>
+    </message>
+    <message>
+        <source>The report says what no run can have done, so it stays.</source>
+        <translation>Der Bericht sagt, was kein Lauf getan haben kann, also bleibt es.</translation>
+    </message>
+    <message>
+        <source>The report tells of no change of it, so it stays.</source>
+        <translation>Der Bericht sagt von keiner Änderung daran, also bleibt es.</translation>
+    </message>
+    <message>
+        <source>A mistake of this program. Please report it.</source>
+        <translation>Ein Fehler dieses Programms. Bitte melden Sie ihn.</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>

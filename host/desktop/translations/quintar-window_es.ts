@@ -470,6 +470,38 @@
         <source>other</source>
         <translation>otros</translation>
     </message>
+    <message>
+        <source>It cannot be written anew without loss.</source>
+        <translation>No se puede escribir de nuevo sin pérdida.</translation>
+    </message>
+    <message>
+        <source>It has no page of this number.</source>
+        <translation>No tiene ninguna página con este número.</translation>
+    </message>
+    <message>
+        <source>The change was refused while it was made; it is as it was.</source>
+        <translation>El cambio fue rechazado; está como estaba.</translation>
+    </message>
+    <message>
+        <source>It was not changed in place, so there is nothing to undo.</source>
+        <translation>No se cambió en su sitio, así que no hay nada que deshacer.</translation>
+    </message>
+    <message>
+        <source>The report does not tell what stood there before, so it stays.</source>
+        <translation>El informe no dice qué había antes, así que se queda como está.</translation>
+    </message>
+    <message>
+        <source>The report says what no run can have done, so it stays.</source>
+        <translation>El informe dice algo que ninguna ejecución puede haber hecho, así que se queda como está.</translation>
+    </message>
+    <message>
+        <source>The report tells of no change of it, so it stays.</source>
+        <translation>El informe no habla de ningún cambio suyo, así que se queda como está.</translation>
+    </message>
+    <message>
+        <source>A mistake of this program. Please report it.</source>
+        <translation>Un error de este programa. Comuníquelo, por favor.</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>

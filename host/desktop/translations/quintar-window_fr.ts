@@ -470,6 +470,38 @@
         <source>other</source>
         <translation>autres</translation>
     </message>
+    <message>
+        <source>It cannot be written anew without loss.</source>
+        <translation>Il ne peut pas être réécrit sans perte.</translation>
+    </message>
+    <message>
+        <source>It has no page of this number.</source>
+        <translation>Il n’a pas de page portant ce numéro.</translation>
+    </message>
+    <message>
+        <source>The change was refused while it was made; it is as it was.</source>
+        <translation>La modification a été refusée&#xa0;; il est tel qu’il était.</translation>
+    </message>
+    <message>
+        <source>It was not changed in place, so there is nothing to undo.</source>
+        <translation>Il n’a pas été modifié sur place, il n’y a donc rien à annuler.</translation>
+    </message>
+    <message>
+        <source>The report does not tell what stood there before, so it stays.</source>
+        <translation>Le rapport ne dit pas ce qui s’y trouvait avant, il reste donc tel quel.</translation>
+    </message>
+    <message>
+        <source>The report says what no run can have done, so it stays.</source>
+        <translation>Le rapport dit ce qu’aucune exécution n’a pu faire, il reste donc tel quel.</translation>
+    </message>
+    <message>
+        <source>The report tells of no change of it, so it stays.</source>
+        <translation>Le rapport ne parle d’aucune modification de ce document, il reste donc tel quel.</translation>
+    </message>
+    <message>
+        <source>A mistake of this program. Please report it.</source>
+        <translation>Une erreur de ce programme. Veuillez la signaler.</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>

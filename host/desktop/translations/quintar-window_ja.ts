@@ -466,6 +466,38 @@
         <source>other</source>
         <translation>その他</translation>
     </message>
+    <message>
+        <source>It cannot be written anew without loss.</source>
+        <translation>失われるものなしに新しく書き出すことができません。</translation>
+    </message>
+    <message>
+        <source>It has no page of this number.</source>
+        <translation>この番号のページはありません。</translation>
+    </message>
+    <message>
+        <source>The change was refused while it was made; it is as it was.</source>
+        <translation>変更は拒否されました。文書は元のままです。</translation>
+    </message>
+    <message>
+        <source>It was not changed in place, so there is nothing to undo.</source>
+        <translation>その場では変更されていないため、元に戻すものはありません。</translation>
+    </message>
+    <message>
+        <source>The report does not tell what stood there before, so it stays.</source>
+        <translation>以前の内容がレポートにないため、そのままにします。</translation>
+    </message>
+    <message>
+        <source>The report says what no run can have done, so it stays.</source>
+        <translation>レポートの内容は実行では起こりえないため、そのままにします。</translation>
+    </message>
+    <message>
+        <source>The report tells of no change of it, so it stays.</source>
+        <translation>この文書の変更がレポートにないため、そのままにします。</translation>
+    </message>
+    <message>
+        <source>A mistake of this program. Please report it.</source>
+        <translation>このプログラムの誤りです。報告してください。</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
