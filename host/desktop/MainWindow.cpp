@@ -168,8 +168,10 @@ void MainWindow::connectParts()
     connect(&m_commands, &Commands::dialogOpens, &m_session, &Session::save);
     connect(&m_workbench.order(), &DocumentOrder::shownChanged, this, &MainWindow::showState);
     connect(&m_workbench, &Workbench::progressed, this, &MainWindow::showState);
-    connect(&m_workbench, &Workbench::draftChanged, this,
-            [this] { m_change->destination()->setDestination(m_workbench.destination()); });
+    connect(&m_workbench, &Workbench::draftChanged, this, [this] {
+        m_change->destination()->setDestination(m_workbench.destination());
+        m_view->showColumnsOf(m_workbench.draft().view());
+    });
     connect(&m_workbench, &Workbench::runEnded, this, [this] {
         if (m_closesAtEnd)
             close();

@@ -1,6 +1,7 @@
 #include "RunBar.h"
 
 #include "host/desktop/look/Drawings.h"
+#include "host/desktop/texts/PlainText.h"
 #include "host/desktop/texts/ReasonTexts.h"
 
 #include <QAccessible>
@@ -121,7 +122,7 @@ void RunBar::show()
     const Workbench::Counts counts = m_workbench.counts();
     const bool areResults = state == State::Results;
     m_text->setText(m_said.isEmpty() ? countsInWords() : m_said);
-    m_text->setToolTip(m_text->text());
+    m_text->setToolTip(plaintext::tip(m_text->text()));
     m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
     m_sign->setVisible(!m_said.isEmpty() && m_isTrouble);
     m_why->setVisible(areResults ? counts.failed > 0 : state == State::Ready && counts.cannot > 0);

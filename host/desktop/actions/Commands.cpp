@@ -99,6 +99,7 @@ void Commands::enable()
         m_actions[gate.id]->setEnabled(reason.isEmpty());
         m_actions[gate.id]->setToolTip(reason.isEmpty() ? m_actions[gate.id]->statusTip() : reason);
     }
+    enableStart();
     const RunMachine& machine = m_workbench.machine();
     const ListHistory& list = m_workbench.list();
     m_actions[Id::Pause]->setEnabled(machine.isEnabled(Command::Pause) || machine.isEnabled(Command::Resume));
@@ -114,6 +115,23 @@ void Commands::enable()
     if (!hasCurrent || !current()->facts)
         m_actions[Id::LikeThis]->setEnabled(false);
     m_actions[Id::CopyCommand]->setEnabled(!m_workbench.draft().isEmpty());
+}
+
+/// What the machine alone does not know.
+void Commands::enableStart()
+{
+    QAction* start = m_actions[Id::Start];
+    if (start->isEnabled()) {
+        const Workbench::Counts counts = m_workbench.counts();
+        const bool isInPlace = m_workbench.destination().kind == Destination::Kind::InPlace;
+        if (counts.willChange + (isInPlace ? 0 : counts.asAsked) > 0)
+            return;
+        start->setEnabled(false);
+        start->setToolTip(tr("No document would be changed."));
+    } else if (m_workbench.machine().state() == RunMachine::State::Listed && !m_workbench.draft().isEmpty() &&
+               !m_workbench.targets().isEmpty()) {
+        start->setToolTip(tr("What would change is not known. Read the documents again to try once more."));
+    }
 }
 
 const DocumentRecord* Commands::current() const
@@ -156,7 +174,7 @@ void Commands::paste()
 
 void Commands::chooseFolder()
 {
-    dialogs::askFolder(m_window, tr("Folder for the Results"), m_workbench.destination().folder,
+    dialogs::askFolder(m_window, tr("Folder for the Results"), m_workbench.destination().folderPath(),
                        [this](const QString& name) {
                            if (name.isEmpty())
                                return;
@@ -169,7 +187,7 @@ void Commands::chooseFolder()
 
 void Commands::start()
 {
-    if (!m_workbench.machine().isEnabled(Command::Start))
+    if (!m_actions[Id::Start]->isEnabled())
         return;
     auto* question = new StartQuestion(m_workbench, m_window);
     question->setAttribute(Qt::WA_DeleteOnClose);

@@ -45,6 +45,7 @@ private:
     void askPassword();
     void about();
     void enable();
+    void enableStart();
     const DocumentRecord* current() const;
     QVector<DocumentId> chosen() const;
 

@@ -1,6 +1,7 @@
 #include "PresetMenu.h"
 
 #include "host/desktop/platform/Dialogs.h"
+#include "host/desktop/texts/PlainText.h"
 
 namespace host::desktop {
 
@@ -61,7 +62,7 @@ void PresetMenu::addPresets(Preset::Kind kind, const QString& title)
             addSection(title);
         isFirst = false;
         QAction* action = addAction(asMenuText(preset.name));
-        action->setToolTip(helpOf(preset));
+        action->setToolTip(plaintext::tip(helpOf(preset)));
         action->setEnabled(preset.problem.isEmpty());
         connect(action, &QAction::triggered, this,
                 [this, draft = preset.draft] { m_workbench.setDraft(draft); });
@@ -89,14 +90,24 @@ void PresetMenu::addRemoval()
 void PresetMenu::save()
 {
     dialogs::askText(parentWidget(), tr("Save as Preset"), tr("Name:"), [this](const QString& name) {
-        if (name.trimmed().isEmpty())
+        const QString wanted = name.trimmed();
+        if (wanted.isEmpty())
             return;
-        const QString problem = m_folder.save(name.trimmed(), m_workbench.draft().view());
-        if (problem.isEmpty())
-            emit said(tr("The change is kept as “%1”.").arg(name.trimmed()));
-        else
-            emit failed(problem);
+        if (!m_folder.holds(wanted))
+            return keep(wanted);
+        dialogs::confirm(parentWidget(), tr("Replace the preset “%1”?").arg(wanted),
+                         tr("There is one of this name already."), tr("&Replace"),
+                         [this, wanted] { keep(wanted); });
     });
+}
+
+void PresetMenu::keep(const QString& name)
+{
+    const QString problem = m_folder.save(name, m_workbench.draft().view());
+    if (problem.isEmpty())
+        emit said(tr("The change is kept as “%1”.").arg(name));
+    else
+        emit failed(problem);
 }
 
 } // namespace host::desktop

@@ -19,6 +19,7 @@ public:
 
     /// Asks for a name and keeps the change under it.
     void save();
+    void keep(const QString& name);
 
 signals:
     void said(const QString& text);

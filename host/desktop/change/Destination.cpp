@@ -5,10 +5,17 @@
 
 namespace host::desktop {
 
+QString Destination::folderPath() const
+{
+    return folder == "~" || folder.startsWith("~/") ? QDir::homePath() + folder.mid(1) : folder;
+}
+
 QString Destination::problem() const
 {
     if (kind == Kind::Folder && folder.trimmed().isEmpty())
         return QCoreApplication::translate("Destination", "Choose the folder for the results.");
+    if (kind == Kind::Folder && !QDir::isAbsolutePath(folderPath()))
+        return QCoreApplication::translate("Destination", "The folder has to begin with a slash or with ~/.");
     if (kind == Kind::Suffix && suffix.trimmed().isEmpty())
         return QCoreApplication::translate("Destination", "Say what is added to the names.");
     if (kind == Kind::Suffix && suffix.contains('/'))
@@ -22,7 +29,7 @@ QStringList Destination::arguments(const QString& base) const
     case Kind::InPlace:
         return {"--in-place"};
     case Kind::Folder:
-        return {"--output", folder, "--base", base};
+        return {"--output", folderPath(), "--base", base};
     case Kind::Suffix:
         return {"--suffix", suffix};
     }
@@ -35,7 +42,8 @@ QString Destination::inWords() const
     case Kind::InPlace:
         return QCoreApplication::translate("Destination", "in place");
     case Kind::Folder:
-        return QCoreApplication::translate("Destination", "to %1").arg(QDir::toNativeSeparators(folder));
+        return QCoreApplication::translate("Destination", "to %1")
+            .arg(QDir::toNativeSeparators(folderPath()));
     case Kind::Suffix:
         return QCoreApplication::translate("Destination", "beside them, as name-%1.pdf").arg(suffix);
     }

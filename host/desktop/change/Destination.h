@@ -15,6 +15,8 @@ struct Destination
     QString folder;
     QString suffix = QStringLiteral("new");
 
+    /// The folder as it was typed, with the home folder in the place of "~/".
+    QString folderPath() const;
     /// Empty, or what is missing before a run can begin; for people.
     QString problem() const;
     /// The program's options.

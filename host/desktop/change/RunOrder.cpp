@@ -75,7 +75,7 @@ QByteArray RunOrder::resultOf(const QByteArray& path, const QString& base) const
     case Destination::Kind::InPlace:
         return path;
     case Destination::Kind::Folder:
-        return QFile::encodeName(destination.folder) + "/" + path.mid(QFile::encodeName(base).size());
+        return QFile::encodeName(destination.folderPath()) + "/" + path.mid(QFile::encodeName(base).size());
     case Destination::Kind::Suffix: {
         const auto dot = path.lastIndexOf('.');
         return path.left(dot) + "-" + QFile::encodeName(destination.suffix) + path.mid(dot);

@@ -1,8 +1,9 @@
 #include "StartQuestion.h"
 
+#include "host/desktop/look/PlainLabel.h"
+
 #include <QDialogButtonBox>
 #include <QFile>
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -31,13 +32,13 @@ StartQuestion::StartQuestion(Workbench& workbench, QWidget* parent) : QDialog(pa
 {
     setObjectName("startQuestion");
     setWindowTitle(tr("Start"));
-    auto* what = new QLabel(question(workbench), this);
+    auto* what = new PlainLabel(question(workbench), this);
     QFont font = what->font();
     font.setWeight(QFont::DemiBold);
     font.setPointSizeF(font.pointSizeF() * 1.15);
     what->setFont(font);
     what->setWordWrap(true);
-    auto* more = new QLabel(details(workbench), this);
+    auto* more = new PlainLabel(details(workbench), this);
     more->setWordWrap(true);
     auto* buttons = new QDialogButtonBox(this);
     QPushButton* start = buttons->addButton(tr("&Start"), QDialogButtonBox::AcceptRole);
@@ -65,7 +66,7 @@ QString StartQuestion::question(const Workbench& workbench)
         return tr("%n document(s) will be changed in place.", "", counts.willChange);
     case Destination::Kind::Folder:
         return tr("%n result(s) will be written to %1.", "", counts.willChange + counts.asAsked)
-            .arg(where.folder);
+            .arg(where.folderPath());
     case Destination::Kind::Suffix:
         return tr("%n result(s) will be written beside the documents, with “-%1” added to their names.", "",
                   counts.willChange + counts.asAsked)

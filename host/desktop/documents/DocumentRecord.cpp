@@ -1,5 +1,7 @@
 #include "DocumentRecord.h"
 
+#include "host/desktop/texts/PlainText.h"
+
 #include <QFile>
 
 namespace host::desktop {
@@ -41,8 +43,8 @@ DocumentRecord DocumentRecord::of(DocumentId id, const QByteArray& path)
     record.id = id;
     record.path = path;
     const auto slash = path.lastIndexOf('/');
-    record.name = QFile::decodeName(path.mid(slash + 1));
-    record.folder = QFile::decodeName(slash > 0 ? path.left(slash) : path.left(slash + 1));
+    record.name = plaintext::shown(QFile::decodeName(path.mid(slash + 1)));
+    record.folder = plaintext::shown(QFile::decodeName(slash > 0 ? path.left(slash) : path.left(slash + 1)));
     return record;
 }
 

@@ -1,5 +1,6 @@
 #include "DetailLine.h"
 
+#include "host/desktop/look/PlainLabel.h"
 #include "host/desktop/rows/RowTexts.h"
 
 #include <QHBoxLayout>
@@ -24,7 +25,7 @@ QString textOf(const DocumentRecord& record)
 } // namespace
 
 DetailLine::DetailLine(Workbench& workbench, QWidget* parent)
-    : QWidget(parent), m_workbench(workbench), m_text(new QLabel(this)), m_remedy(new QPushButton(this))
+    : QWidget(parent), m_workbench(workbench), m_text(new PlainLabel(this)), m_remedy(new QPushButton(this))
 {
     m_text->setObjectName("detail");
     m_remedy->setObjectName("remedyButton");
@@ -39,6 +40,7 @@ DetailLine::DetailLine(Workbench& workbench, QWidget* parent)
     connect(m_remedy, &QPushButton::clicked, this, [this] { emit remedyWanted(m_kind); });
     connect(&workbench.order(), &DocumentOrder::selectionMoved, this, &DetailLine::show);
     connect(&workbench.table(), &DocumentTable::changed, this, &DetailLine::show);
+    connect(&workbench.machine(), &RunMachine::changed, this, &DetailLine::show);
     show();
 }
 
@@ -48,6 +50,11 @@ void DetailLine::show()
     m_kind = record != nullptr && record->isInTrouble() ? reasontexts::remedyFor(record->reasonCode())
                                                         : reasontexts::Remedy::None;
     m_remedy->setVisible(m_kind != reasontexts::Remedy::None);
+    const QString reason = m_kind == reasontexts::Remedy::ShowFolder
+                               ? QString()
+                               : m_workbench.machine().reasonAgainst(RunMachine::Command::Remove);
+    m_remedy->setEnabled(reason.isEmpty());
+    m_remedy->setToolTip(reason);
     m_remedy->setText(reasontexts::buttonOf(m_kind));
     m_text->setText(record != nullptr ? textOf(*record) : tr("Select a document to see how it opens."));
 }

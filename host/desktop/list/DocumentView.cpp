@@ -109,6 +109,15 @@ void DocumentView::saveColumns()
     m_settings.endGroup();
 }
 
+void DocumentView::showColumnsOf(const ViewChange& change)
+{
+    for (int column = 0; column < columnCount; ++column)
+        for (const ViewEntry entry : columns::describe(column).entries)
+            if (change[entry] && !m_told[entry])
+                horizontalHeader()->setSectionHidden(column, false);
+    m_told = change; // a column that is then hidden by hand stays hidden
+}
+
 void DocumentView::chooseColumns(const QPoint& place)
 {
     auto* menu = new QMenu(this);

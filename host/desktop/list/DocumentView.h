@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/change/ViewChange.h"
 #include "host/desktop/rows/DocumentOrder.h"
 
 #include <QSettings>
@@ -16,6 +17,8 @@ public:
     DocumentView(DocumentOrder& order, QSettings& settings, QWidget* parent = nullptr);
 
     void saveColumns();
+    /// Shows the columns that tell what is about to be changed; they stay.
+    void showColumnsOf(const ViewChange& change);
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -35,6 +38,7 @@ private:
     DocumentOrder& m_order;
     QSettings& m_settings;
     DocumentId m_top = 0;
+    ViewChange m_told;
 };
 
 } // namespace host::desktop

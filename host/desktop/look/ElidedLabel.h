@@ -1,16 +1,16 @@
 #pragma once
 
-#include <QLabel>
+#include "PlainLabel.h"
 
 namespace host::desktop {
 
 /// A line of text that is cut off with dots where it does not fit; the whole text is its tool tip then.
-class ElidedLabel : public QLabel
+class ElidedLabel : public PlainLabel
 {
     Q_OBJECT
 
 public:
-    using QLabel::QLabel;
+    using PlainLabel::PlainLabel;
 
     QSize minimumSizeHint() const override;
 

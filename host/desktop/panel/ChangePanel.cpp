@@ -2,6 +2,7 @@
 
 #include "GrowingArea.h"
 #include "host/desktop/look/Drawings.h"
+#include "host/desktop/look/PlainLabel.h"
 
 #include <QStyle>
 
@@ -30,7 +31,7 @@ QWidget* warningLine(const ChangeWarning& warning, QWidget* parent, const std::f
     row->setSpacing(spacing);
     auto* sign = new QLabel(line);
     sign->setPixmap(drawings::icon(drawings::Sign::Warning, parent->palette()).pixmap(16, 16));
-    auto* text = new QLabel(warning.text, line);
+    auto* text = new PlainLabel(warning.text, line);
     text->setWordWrap(true);
     text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     row->addWidget(sign, 0, Qt::AlignVCenter);
@@ -187,7 +188,8 @@ QWidget* ChangePanel::makeStored()
     auto* column = new QVBoxLayout(m_stored);
     column->setContentsMargins(0, 0, 0, 0);
     m_storedName = heading({}, m_stored);
-    m_storedLines = new QLabel(m_stored);
+    m_storedName->setTextFormat(Qt::PlainText);
+    m_storedLines = new PlainLabel(m_stored);
     m_storedLines->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
     m_storedLines->setWordWrap(true);
     auto* configure = new QPushButton(tr("C&onfigure…"), m_stored);

@@ -1,6 +1,8 @@
 #include "DestinationRow.h"
 
 #include "host/desktop/look/Drawings.h"
+#include "host/desktop/look/PlainLabel.h"
+#include "host/desktop/look/WheelGuard.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -9,10 +11,11 @@ namespace host::desktop {
 
 DestinationRow::DestinationRow(QWidget* parent)
     : QWidget(parent), m_kind(new QComboBox(this)), m_folder(new QLineEdit(this)),
-      m_choose(new QToolButton(this)), m_suffix(new QLineEdit(this)), m_note(new QLabel(this))
+      m_choose(new QToolButton(this)), m_suffix(new QLineEdit(this)), m_note(new PlainLabel(this))
 {
     nameParts();
     m_kind->addItems({tr("The documents themselves"), tr("A folder"), tr("Beside them, under another name")});
+    new WheelGuard(m_kind);
     m_kind->setAccessibleName(tr("Write to"));
     m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_kind->setWhatsThis(
@@ -33,7 +36,7 @@ DestinationRow::DestinationRow(QWidget* parent)
             emit folderWanted();
     });
     for (QLineEdit* each : {m_folder, m_suffix})
-        connect(each, &QLineEdit::editingFinished, this, [this] {
+        connect(each, &QLineEdit::textEdited, this, [this] {
             show();
             emit edited(destination());
         });
@@ -73,8 +76,10 @@ Destination DestinationRow::destination() const
 void DestinationRow::setDestination(const Destination& destination)
 {
     m_kind->setCurrentIndex(static_cast<int>(destination.kind));
-    m_folder->setText(destination.folder);
-    m_suffix->setText(destination.suffix);
+    if (m_folder->text() != destination.folder) // what is being typed keeps its cursor
+        m_folder->setText(destination.folder);
+    if (m_suffix->text() != destination.suffix)
+        m_suffix->setText(destination.suffix);
     show();
 }
 

@@ -1,8 +1,10 @@
 #include "SettingRow.h"
 
 #include "host/desktop/look/Drawings.h"
+#include "host/desktop/look/WheelGuard.h"
 
 #include "host/change/ViewValues.h"
+#include "host/desktop/texts/PlainText.h"
 #include "host/desktop/texts/ViewTexts.h"
 #include "host/terminal/UsageError.h"
 
@@ -44,6 +46,7 @@ SettingRow::SettingRow(ViewEntry entry, QGridLayout* layout, QWidget* parent)
     m_present->setObjectName(name + "-now");
     m_box->setAccessibleName(viewtexts::nameOf(entry));
     m_box->setMinimumContentsLength(12);
+    new WheelGuard(m_box);
     m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_present->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -74,7 +77,9 @@ QLayout* SettingRow::makeEditors(QWidget* parent)
         m_number = new QSpinBox(parent);
         m_number->setObjectName(m_box->objectName() + "-number");
         m_number->setRange(1, INT_MAX);
+        new WheelGuard(m_number);
         m_number->setAccessibleName(tr("%1, number").arg(viewtexts::nameOf(m_entry)));
+        m_number->setWhatsThis(viewtexts::helpOf(m_entry));
         connect(m_number, QOverload<int>::of(&QSpinBox::valueChanged), this, &SettingRow::tell);
         editors->addWidget(m_number, 1);
     }
@@ -84,6 +89,7 @@ QLayout* SettingRow::makeEditors(QWidget* parent)
         m_text->setAccessibleName(tr("%1, text").arg(viewtexts::nameOf(m_entry)));
         m_text->setPlaceholderText(kindOf(m_entry) == viewentries::Kind::Language ? QStringLiteral("en-GB")
                                                                                   : QString());
+        m_text->setWhatsThis(viewtexts::helpOf(m_entry));
         connect(m_text, &QLineEdit::textEdited, this, &SettingRow::tell);
         editors->addWidget(m_text, 2);
     }
@@ -122,10 +128,19 @@ void SettingRow::offer(const QString& text, SettingRow::Kind kind, const ViewVal
         m_choices.push_back({kind, value}); // the separator's place
 }
 
+/// A text that is no value yet: the field stays for as long as a person is at it.
+bool SettingRow::isBeingTyped() const
+{
+    return m_isUnfinished && (m_text->hasFocus() || m_box->hasFocus());
+}
+
 int SettingRow::placeOf(const Value& value, bool keepsTitles) const
 {
+    const Choice& now = m_choices[static_cast<std::size_t>(m_box->currentIndex())];
     if (!value)
-        return 0;
+        return isBeingTyped() ? m_box->currentIndex() : 0;
+    if (now.kind == SettingRow::Kind::Number && std::holds_alternative<int>(*value))
+        return m_box->currentIndex(); // page 1 is typed on the way to page 12
     int found = 0;
     for (int place = 0; place < static_cast<int>(m_choices.size()); ++place) {
         const Choice& choice = m_choices[static_cast<std::size_t>(place)];
@@ -145,6 +160,8 @@ void SettingRow::setDraft(const ChangeDraft& draft)
     const Value& value = draft.view()[m_entry];
     const bool keepsTitles = m_entry == ViewEntry::Title && draft.view().keepsTitles();
     int place = placeOf(value, keepsTitles);
+    if (value)
+        m_isUnfinished = false;
     if (value && place == 0) { // a value of another document that is not offered
         offer(viewtexts::valueOf(m_entry, *value), SettingRow::Kind::Value, *value);
         place = m_box->count() - 1;
@@ -177,13 +194,13 @@ void SettingRow::tell()
     const Choice choice = m_choices[static_cast<std::size_t>(m_box->currentIndex())];
     try {
         const Value value = valueOf(choice);
+        m_isUnfinished = false;
         emit edited(m_entry, value);
         if (m_entry == ViewEntry::Title && value)
             emit keepsTitles(choice.kind == SettingRow::Kind::TextIfMissing);
     } catch (const UsageError&) {
+        m_isUnfinished = true;
         emit edited(m_entry, std::nullopt);
-        m_box->setCurrentIndex(placeOf(ViewValue(std::string()), false));
-        choose();
     }
 }
 
@@ -207,7 +224,7 @@ void SettingRow::setPresent(const QString& text, const QString& all)
     quiet.setColor(QPalette::WindowText, drawings::quietText(quiet));
     m_present->setPalette(quiet);
     m_present->setText(text);
-    m_present->setToolTip(all);
+    m_present->setToolTip(plaintext::tip(all));
     m_box->setAccessibleDescription(all);
 }
 

@@ -51,6 +51,7 @@ private:
     void offer();
     void offer(const QString& text, Kind kind, const ViewValue& value = Unset());
     int placeOf(const Value& value, bool keepsTitles) const;
+    bool isBeingTyped() const;
     void choose();
     void tell();
     Value valueOf(const Choice& choice) const;
@@ -61,6 +62,7 @@ private:
     QSpinBox* m_number = nullptr;
     QLineEdit* m_text = nullptr;
     ElidedLabel* m_present;
+    bool m_isUnfinished = false;
     std::vector<Choice> m_choices;
 };
 

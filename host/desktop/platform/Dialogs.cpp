@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -29,6 +30,13 @@ QFileDialog* fileDialog(QWidget* parent, const QString& title, QFileDialog::File
     return dialog;
 }
 
+/// Questions name documents and presets, whose names others chose.
+void makePlain(const QDialog& dialog)
+{
+    for (QLabel* each : dialog.findChildren<QLabel*>())
+        each->setTextFormat(Qt::PlainText);
+}
+
 void showInput(QWidget* parent, const QString& title, const QString& label, QLineEdit::EchoMode echo,
                const WithText& then)
 {
@@ -39,6 +47,7 @@ void showInput(QWidget* parent, const QString& title, const QString& label, QLin
     dialog->setWindowTitle(title);
     dialog->setLabelText(label);
     dialog->setTextEchoMode(echo);
+    makePlain(*dialog);
     dialog->resize(420, dialog->sizeHint().height());
     QObject::connect(dialog, &QInputDialog::textValueSelected, parent, then);
     dialog->open();
@@ -98,6 +107,7 @@ void confirm(QWidget* parent, const QString& question, const QString& more, cons
                                 QMessageBox::Cancel, parent);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setInformativeText(more);
+    makePlain(*box);
     QPushButton* yes = box->addButton(verb, QMessageBox::AcceptRole);
     box->setDefaultButton(yes);
     QObject::connect(yes, &QPushButton::clicked, parent, then);

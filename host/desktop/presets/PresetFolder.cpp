@@ -84,11 +84,21 @@ std::vector<Preset> PresetFolder::presets() const
 }
 
 /// Names may hold slashes and dots, file names may not.
+QString PresetFolder::fileOf(const QString& name) const
+{
+    return m_views + "/" + QString::fromLatin1(QUrl::toPercentEncoding(name, " ", ".")) + suffix;
+}
+
+bool PresetFolder::holds(const QString& name) const
+{
+    return QFile::exists(fileOf(name));
+}
+
 QString PresetFolder::save(const QString& name, const ViewChange& view) const
 {
     if (!QDir().mkpath(m_views))
         return QCoreApplication::translate("PresetFolder", "The folder %1 cannot be made.").arg(m_views);
-    QSaveFile file(m_views + "/" + QString::fromLatin1(QUrl::toPercentEncoding(name, " ", ".")) + suffix);
+    QSaveFile file(fileOf(name));
     const QByteArray bytes = QJsonDocument(viewjson::write(view)).toJson();
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return {};

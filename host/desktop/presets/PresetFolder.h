@@ -17,12 +17,16 @@ public:
     /// Views, action lists, favourites, each by name.
     std::vector<Preset> presets() const;
 
+    /// Whether there is a view of that name.
+    bool holds(const QString& name) const;
     /// Keeps the view under the name, in place of an earlier one. \returns empty, or why it could not be kept.
     QString save(const QString& name, const ViewChange& view) const;
     /// \returns empty, or why it could not be removed. Only views can be.
     QString remove(const Preset& preset) const;
 
 private:
+    QString fileOf(const QString& name) const;
+
     QString m_views;
 };
 

@@ -2,6 +2,7 @@
 
 #include "RowTexts.h"
 #include "SortKeys.h"
+#include "host/desktop/texts/PlainText.h"
 
 #include <QSet>
 
@@ -133,8 +134,8 @@ QVariant DocumentOrder::data(const QModelIndex& index, int role) const
     case Qt::AccessibleTextRole:
         return rowtexts::spoken(*record, column);
     case Qt::ToolTipRole:
-        return column == Column::Name ? QString::fromLocal8Bit(record->path)
-                                      : rowtexts::spoken(*record, column);
+        return plaintext::tip(column == Column::Name ? plaintext::shown(QString::fromLocal8Bit(record->path))
+                                                     : rowtexts::spoken(*record, column));
     case Qt::TextAlignmentRole:
         return int(isCount(column) ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
     case AfterRole:

@@ -1,5 +1,7 @@
 #include "ReasonTexts.h"
 
+#include "PlainText.h"
+
 #include <QCoreApplication>
 
 namespace host::desktop::reasontexts {
@@ -45,6 +47,14 @@ const Reason reasons[] = {
     {"tooLarge", QT_TRANSLATE_NOOP("ReasonTexts", "It is larger than a limit allows."), Remedy::None},
     {"locked", QT_TRANSLATE_NOOP("ReasonTexts", "Another program keeps it locked."), Remedy::ReadAgain, QT_TRANSLATE_NOOP("ReasonTexts", "out of reach")},
     {"hostile", QT_TRANSLATE_NOOP("ReasonTexts", "It tried to do what no document needs, and was shut out."), Remedy::None, QT_TRANSLATE_NOOP("ReasonTexts", "unsafe to read")},
+    {"cannotRewrite", QT_TRANSLATE_NOOP("ReasonTexts", "It cannot be written anew without loss."), Remedy::None, QT_TRANSLATE_NOOP("ReasonTexts", "damaged")},
+    {"pageBeyondEnd", QT_TRANSLATE_NOOP("ReasonTexts", "It has no page of this number."), Remedy::None},
+    {"refusedCall", QT_TRANSLATE_NOOP("ReasonTexts", "The change was refused while it was made; it is as it was."), Remedy::None},
+    {"notInPlace", QT_TRANSLATE_NOOP("ReasonTexts", "It was not changed in place, so there is nothing to undo."), Remedy::None},
+    {"noUndoRecord", QT_TRANSLATE_NOOP("ReasonTexts", "The report does not tell what stood there before, so it stays."), Remedy::None},
+    {"badReport", QT_TRANSLATE_NOOP("ReasonTexts", "The report says what no run can have done, so it stays."), Remedy::None},
+    {"notInReport", QT_TRANSLATE_NOOP("ReasonTexts", "The report tells of no change of it, so it stays."), Remedy::None},
+    {"internal", QT_TRANSLATE_NOOP("ReasonTexts", "A mistake of this program. Please report it."), Remedy::None},
     {"noProcess", QT_TRANSLATE_NOOP("ReasonTexts", "The computer is too busy: no worker could be started."), Remedy::ReadAgain},
 };
 
@@ -82,7 +92,7 @@ QString textOf(const QString& code, const QString& words)
 {
     if (const Reason* known = find(code))
         return translate(known->text);
-    QString sentence = words.simplified();
+    QString sentence = plaintext::shown(words.simplified());
     if (!sentence.isEmpty())
         sentence[0] = sentence[0].toUpper();
     return sentence;

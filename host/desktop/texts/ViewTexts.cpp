@@ -1,5 +1,7 @@
 #include "ViewTexts.h"
 
+#include "PlainText.h"
+
 #include "pdflibrary/ViewNumbers.h"
 
 #include <QCoreApplication>
@@ -172,7 +174,7 @@ QString valueOf(ViewEntry entry, const ViewValue& value)
     if (const auto* zoom = std::get_if<Magnification>(&value))
         return zoomText(*zoom);
     if (const auto* text = std::get_if<std::string>(&value))
-        return QString::fromStdString(*text).simplified();
+        return plaintext::shown(QString::fromStdString(*text).simplified());
     if (std::holds_alternative<LastPage>(value))
         return QCoreApplication::translate("ViewTexts", "Last");
     if (std::holds_alternative<FileNameAsTitle>(value))

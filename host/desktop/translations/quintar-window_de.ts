@@ -211,6 +211,10 @@
         <source>beside them, as name-%1.pdf</source>
         <translation>daneben, als Name-%1.pdf</translation>
     </message>
+    <message>
+        <source>The folder has to begin with a slash or with ~/.</source>
+        <translation>Der Ordner muss mit einem Schrägstrich oder mit ~/ beginnen.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -497,6 +501,38 @@
     <message>
         <source>other</source>
         <translation>andere</translation>
+    </message>
+    <message>
+        <source>It cannot be written anew without loss.</source>
+        <translation>Es kann nicht ohne Verlust neu geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>It has no page of this number.</source>
+        <translation>Es hat keine Seite mit dieser Nummer.</translation>
+    </message>
+    <message>
+        <source>The change was refused while it was made; it is as it was.</source>
+        <translation>Die Änderung wurde abgewiesen; es ist, wie es war.</translation>
+    </message>
+    <message>
+        <source>It was not changed in place, so there is nothing to undo.</source>
+        <translation>Es wurde nicht an Ort und Stelle geändert, also ist nichts zurückzunehmen.</translation>
+    </message>
+    <message>
+        <source>The report does not tell what stood there before, so it stays.</source>
+        <translation>Der Bericht sagt nicht, was vorher dort stand, also bleibt es.</translation>
+    </message>
+    <message>
+        <source>The report says what no run can have done, so it stays.</source>
+        <translation>Der Bericht sagt, was kein Lauf getan haben kann, also bleibt es.</translation>
+    </message>
+    <message>
+        <source>The report tells of no change of it, so it stays.</source>
+        <translation>Der Bericht sagt von keiner Änderung daran, also bleibt es.</translation>
+    </message>
+    <message>
+        <source>A mistake of this program. Please report it.</source>
+        <translation>Ein Fehler dieses Programms. Bitte melden Sie ihn.</translation>
     </message>
 </context>
 <context>
@@ -1412,6 +1448,14 @@
         <source>The command is in the clipboard. It waits for the password to be typed.</source>
         <translation>Der Befehl ist in der Zwischenablage. Er wartet darauf, dass das Passwort eingegeben wird.</translation>
     </message>
+    <message>
+        <source>No document would be changed.</source>
+        <translation>Kein Dokument würde geändert.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again to try once more.</source>
+        <translation>Was sich ändern würde, ist nicht bekannt. Lesen Sie die Dokumente neu ein, um es noch einmal zu versuchen.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1689,6 +1733,18 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>The change is kept as “%1”.</source>
         <translation>Die Änderung ist als „%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>Replace the preset “%1”?</source>
+        <translation>Die Vorlage „%1“ ersetzen?</translation>
+    </message>
+    <message>
+        <source>There is one of this name already.</source>
+        <translation>Es gibt schon eine mit diesem Namen.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
     </message>
 </context>
 <context>

@@ -211,6 +211,10 @@
         <source>beside them, as name-%1.pdf</source>
         <translation>al lado, como nombre-%1.pdf</translation>
     </message>
+    <message>
+        <source>The folder has to begin with a slash or with ~/.</source>
+        <translation>La carpeta debe empezar por una barra o por ~/.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -497,6 +501,38 @@
     <message>
         <source>other</source>
         <translation>otros</translation>
+    </message>
+    <message>
+        <source>It cannot be written anew without loss.</source>
+        <translation>No se puede escribir de nuevo sin pérdida.</translation>
+    </message>
+    <message>
+        <source>It has no page of this number.</source>
+        <translation>No tiene ninguna página con este número.</translation>
+    </message>
+    <message>
+        <source>The change was refused while it was made; it is as it was.</source>
+        <translation>El cambio fue rechazado; está como estaba.</translation>
+    </message>
+    <message>
+        <source>It was not changed in place, so there is nothing to undo.</source>
+        <translation>No se cambió en su sitio, así que no hay nada que deshacer.</translation>
+    </message>
+    <message>
+        <source>The report does not tell what stood there before, so it stays.</source>
+        <translation>El informe no dice qué había antes, así que se queda como está.</translation>
+    </message>
+    <message>
+        <source>The report says what no run can have done, so it stays.</source>
+        <translation>El informe dice algo que ninguna ejecución puede haber hecho, así que se queda como está.</translation>
+    </message>
+    <message>
+        <source>The report tells of no change of it, so it stays.</source>
+        <translation>El informe no habla de ningún cambio suyo, así que se queda como está.</translation>
+    </message>
+    <message>
+        <source>A mistake of this program. Please report it.</source>
+        <translation>Un error de este programa. Comuníquelo, por favor.</translation>
     </message>
 </context>
 <context>
@@ -1412,6 +1448,14 @@
         <source>The command is in the clipboard. It waits for the password to be typed.</source>
         <translation>El comando está en el portapapeles. Espera a que se escriba la contraseña.</translation>
     </message>
+    <message>
+        <source>No document would be changed.</source>
+        <translation>No se cambiaría ningún documento.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again to try once more.</source>
+        <translation>No se sabe qué cambiaría. Vuelva a leer los documentos para intentarlo de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1689,6 +1733,18 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>The change is kept as “%1”.</source>
         <translation>El cambio se ha guardado como «%1».</translation>
+    </message>
+    <message>
+        <source>Replace the preset “%1”?</source>
+        <translation>¿Reemplazar el preajuste «%1»?</translation>
+    </message>
+    <message>
+        <source>There is one of this name already.</source>
+        <translation>Ya hay uno con este nombre.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Reemplazar</translation>
     </message>
 </context>
 <context>

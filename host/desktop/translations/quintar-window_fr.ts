@@ -211,6 +211,10 @@
         <source>beside them, as name-%1.pdf</source>
         <translation>à côté, sous nom-%1.pdf</translation>
     </message>
+    <message>
+        <source>The folder has to begin with a slash or with ~/.</source>
+        <translation>Le dossier doit commencer par une barre oblique ou par ~/.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -497,6 +501,38 @@
     <message>
         <source>other</source>
         <translation>autres</translation>
+    </message>
+    <message>
+        <source>It cannot be written anew without loss.</source>
+        <translation>Il ne peut pas être réécrit sans perte.</translation>
+    </message>
+    <message>
+        <source>It has no page of this number.</source>
+        <translation>Il n’a pas de page portant ce numéro.</translation>
+    </message>
+    <message>
+        <source>The change was refused while it was made; it is as it was.</source>
+        <translation>La modification a été refusée&#xa0;; il est tel qu’il était.</translation>
+    </message>
+    <message>
+        <source>It was not changed in place, so there is nothing to undo.</source>
+        <translation>Il n’a pas été modifié sur place, il n’y a donc rien à annuler.</translation>
+    </message>
+    <message>
+        <source>The report does not tell what stood there before, so it stays.</source>
+        <translation>Le rapport ne dit pas ce qui s’y trouvait avant, il reste donc tel quel.</translation>
+    </message>
+    <message>
+        <source>The report says what no run can have done, so it stays.</source>
+        <translation>Le rapport dit ce qu’aucune exécution n’a pu faire, il reste donc tel quel.</translation>
+    </message>
+    <message>
+        <source>The report tells of no change of it, so it stays.</source>
+        <translation>Le rapport ne parle d’aucune modification de ce document, il reste donc tel quel.</translation>
+    </message>
+    <message>
+        <source>A mistake of this program. Please report it.</source>
+        <translation>Une erreur de ce programme. Veuillez la signaler.</translation>
     </message>
 </context>
 <context>
@@ -1412,6 +1448,14 @@
         <source>The command is in the clipboard. It waits for the password to be typed.</source>
         <translation>La commande est dans le presse-papiers. Elle attend que le mot de passe soit saisi.</translation>
     </message>
+    <message>
+        <source>No document would be changed.</source>
+        <translation>Aucun document ne serait modifié.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again to try once more.</source>
+        <translation>On ne sait pas ce qui changerait. Relisez les documents pour réessayer.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1689,6 +1733,18 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>The change is kept as “%1”.</source>
         <translation>La modification est gardée sous «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Replace the preset “%1”?</source>
+        <translation>Remplacer le préréglage «&#xa0;%1&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>There is one of this name already.</source>
+        <translation>Il en existe déjà un de ce nom.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
     </message>
 </context>
 <context>

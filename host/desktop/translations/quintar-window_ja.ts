@@ -207,6 +207,10 @@
         <source>beside them, as name-%1.pdf</source>
         <translation>元の文書の隣に 名前-%1.pdf として</translation>
     </message>
+    <message>
+        <source>The folder has to begin with a slash or with ~/.</source>
+        <translation>フォルダーはスラッシュまたは ~/ で始めてください。</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -490,6 +494,38 @@
     <message>
         <source>other</source>
         <translation>その他</translation>
+    </message>
+    <message>
+        <source>It cannot be written anew without loss.</source>
+        <translation>失われるものなしに新しく書き出すことができません。</translation>
+    </message>
+    <message>
+        <source>It has no page of this number.</source>
+        <translation>この番号のページはありません。</translation>
+    </message>
+    <message>
+        <source>The change was refused while it was made; it is as it was.</source>
+        <translation>変更は拒否されました。文書は元のままです。</translation>
+    </message>
+    <message>
+        <source>It was not changed in place, so there is nothing to undo.</source>
+        <translation>その場では変更されていないため、元に戻すものはありません。</translation>
+    </message>
+    <message>
+        <source>The report does not tell what stood there before, so it stays.</source>
+        <translation>以前の内容がレポートにないため、そのままにします。</translation>
+    </message>
+    <message>
+        <source>The report says what no run can have done, so it stays.</source>
+        <translation>レポートの内容は実行では起こりえないため、そのままにします。</translation>
+    </message>
+    <message>
+        <source>The report tells of no change of it, so it stays.</source>
+        <translation>この文書の変更がレポートにないため、そのままにします。</translation>
+    </message>
+    <message>
+        <source>A mistake of this program. Please report it.</source>
+        <translation>このプログラムの誤りです。報告してください。</translation>
     </message>
 </context>
 <context>
@@ -1401,6 +1437,14 @@
         <source>The command is in the clipboard. It waits for the password to be typed.</source>
         <translation>コマンドはクリップボードにあります。実行するとパスワードの入力を待ちます。</translation>
     </message>
+    <message>
+        <source>No document would be changed.</source>
+        <translation>変更される文書はありません。</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again to try once more.</source>
+        <translation>何が変わるかは不明です。もう一度試すには文書を読み直してください。</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1672,6 +1716,18 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>The change is kept as “%1”.</source>
         <translation>変更を「%1」として保存しました。</translation>
+    </message>
+    <message>
+        <source>Replace the preset “%1”?</source>
+        <translation>プリセット「%1」を置き換えますか?</translation>
+    </message>
+    <message>
+        <source>There is one of this name already.</source>
+        <translation>この名前のプリセットはすでにあります。</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>置き換え(&amp;R)</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include "RunHistory.h"
 
+#include "host/desktop/texts/PlainText.h"
+
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
@@ -165,7 +167,8 @@ QVariant RunHistory::data(const QModelIndex& index, int role) const
 {
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
-    return textOf(m_runs.at(static_cast<std::size_t>(index.row())), index.column());
+    const QString text = textOf(m_runs.at(static_cast<std::size_t>(index.row())), index.column());
+    return role == Qt::ToolTipRole ? plaintext::tip(text) : text;
 }
 
 QString RunHistory::textOf(const Run& run, int column) const
