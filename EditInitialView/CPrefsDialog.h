@@ -13,6 +13,7 @@ class CPrefsDialog : public CQuintarDialog
     Q_OBJECT
 
 public:
+    /// \param parent the host's window, which may be null. Its object name tells the preview from the rest.
     explicit CPrefsDialog(QWidget* parent);
     ~CPrefsDialog() override;
 
@@ -21,6 +22,7 @@ public:
     void SetPrefs(QMap<QString, QVariant>* prefs);
 
     /// Writes every key as the widgets stand, unchecked groups included. Other keys stay.
+    /// \param prefs the caller's, as that of SetPrefs; neither is kept.
     void GetPrefs(QMap<QString, QVariant>* prefs);
 
 public slots:

@@ -1,5 +1,6 @@
-// The window with very many documents: how soon rows are there, what they cost, and how long it does not answer at the
-// worst. bench_window FOLDER [DOCUMENTS]; the documents are made below the folder where they are missing.
+// The window with very many documents: how soon rows are there, what they cost, and how
+// long it does not answer at the worst. bench_window FOLDER [DOCUMENTS]; the documents
+// are made below the folder where they are missing.
 #include "host/desktop/MainWindow.h"
 #include "host/desktop/platform/Language.h"
 #include "host/program/HostApplication.h"
@@ -25,8 +26,8 @@ using State = RunMachine::State;
 
 namespace {
 
-/// Beats once a millisecond. The longest gap between two beats is how long the window did not answer; of it counts, too,
-/// how long this thread has worked, since other work of the machine makes gaps of its own.
+/// Beats once a millisecond. The longest gap between two beats is how long the window did not answer; of it
+/// counts, too, how long this thread has worked, since other work of the machine makes gaps of its own.
 class Heart : public QObject
 {
 public:
@@ -106,7 +107,7 @@ void makeDocuments(const QString& folder, int count)
     }
 }
 
-bool until(const std::function<bool()>& is, int seconds)
+bool until(const std::function<bool()>& is, qint64 seconds)
 {
     QElapsedTimer clock;
     clock.start();

@@ -139,7 +139,8 @@ inline void requireSame(const Account& one, const Account& other, const std::set
     for (const Account& each : {one, other})
         for (const auto& [key, value] : each)
             if (touched.count(key) == 0 && touched.count(key.substr(0, key.find_first_of(" '"))) == 0)
-                requireSame(entryOf(one, key), entryOf(other, key), what + ": " + key);
+                requireSame(entryOf(one, key), entryOf(other, key),
+                            std::string(what).append(": ").append(key));
 }
 
 } // namespace fuzz

@@ -1,5 +1,5 @@
-// What libFuzzer calls to change an input. Nearly every change of a document breaks its cross-reference, and then only
-// the ways of damaged documents are tried; so most of the time the table is made right again.
+// What libFuzzer calls to change an input. Nearly every change of a document breaks its cross-reference, and
+// then only the ways of damaged documents are tried; so most of the time the table is made right again.
 #include "Oracle.h"
 
 #include <algorithm>

@@ -1,7 +1,8 @@
-// What the direct reader gives of a document, against libqpdf: single objects, how it opens, and what is appended.
+// What the direct reader gives of a document, against libqpdf:
+// single objects, how it opens, and what is appended.
 #include "Oracle.h"
 #include "engine/syntax/ObjectParser.h"
-#include "support/ReadingAccount.h"
+#include "support/engine/ReadingAccount.h"
 
 #include <algorithm>
 
@@ -39,8 +40,8 @@ void requireSameObjects(const std::string& bytes, DirectReader& reader)
     }
 }
 
-/// Whether an update has an object that is new. libqpdf gives it a number above all that it has met, those of objects
-/// that nobody ever wrote included, so it depends on what was read.
+/// Whether an update has an object that is new. libqpdf gives it a number above all that it has met, those of
+/// objects that nobody ever wrote included, so it depends on what was read.
 bool makesObjects(const std::string& update, int size)
 {
     const std::string mark = " 0 obj\n";

@@ -1,5 +1,5 @@
-// The library file as its callers meet it: a document is opened, all is read, how it opens is changed, the change is
-// appended, and the result is read again.
+// The library file as its callers meet it: a document is opened, all is read, how it opens is changed, the
+// change is appended, and the result is read again.
 #include "DocumentAccount.h"
 #include "SameObjects.h"
 

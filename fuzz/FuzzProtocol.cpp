@@ -1,5 +1,5 @@
-// What crosses between processes and from one run to the next: workers' records and memory, reports, lines of events.
-// The first byte says which of them the others are. Whoever wrote them may mean ill.
+// What crosses between processes and from one run to the next: workers' records and memory, reports, lines of
+// events. The first byte says which of them the others are. Whoever wrote them may mean ill.
 #include "Oracle.h"
 #include "host/change/ViewJson.h"
 #include "host/desktop/children/EventReader.h"

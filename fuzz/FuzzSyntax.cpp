@@ -4,7 +4,7 @@
 #include "engine/syntax/ObjectParser.h"
 #include "engine/syntax/ObjectSerializer.h"
 #include "engine/syntax/SyntaxScanner.h"
-#include "support/ObjectAccount.h"
+#include "support/engine/ObjectAccount.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
-// Texts that users and others give: page ranges, names of files, what is shown on a terminal, settings files. The first
-// byte says which of them the others are.
+// Texts that users and others give: page ranges, names of files, what is shown on a terminal, settings files.
+// The first byte says which of them the others are.
 #include "CActionUtils.h"
 #include "Oracle.h"
 #include "engine/document/Text.h"

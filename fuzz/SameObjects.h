@@ -17,7 +17,7 @@ namespace fuzz {
 inline std::shared_ptr<QPDF> readByLibqpdf(const std::string& bytes)
 {
     for (const char* password : {"secret", ""}) {
-        const std::shared_ptr<QPDF> pdf = QPDF::create();
+        std::shared_ptr<QPDF> pdf = QPDF::create();
         pdf->setSuppressWarnings(true);
         try {
             pdf->processMemoryFile("", bytes.data(), bytes.size(), password);
@@ -57,7 +57,8 @@ inline bool hasDirectKids(QPDFObjectHandle object)
     return std::any_of(items.begin(), items.end(), [](const auto& kid) { return !kid.isIndirect(); });
 }
 
-/// Whether streams have no end where they say. Readers search for it then, and may find one in what is appended.
+/// Whether streams have no end where they say. Readers search for
+/// it then, and may find one in what is appended.
 inline bool hasUnendedStreams(const std::string& bytes)
 {
     const std::shared_ptr<QPDF> pdf = readByLibqpdf(bytes);

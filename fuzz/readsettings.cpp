@@ -1,5 +1,5 @@
-// Reads settings files with QSettings: for each name on standard input a line with all keys and values. It bounds
-// itself, for QSettings believes what files claim.
+// Reads settings files with QSettings: for each name on standard input a line with all keys and values. It
+// bounds itself, for QSettings believes what files claim.
 #include "StoredForm.h"
 
 #include <QDataStream>

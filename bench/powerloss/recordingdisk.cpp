@@ -1,10 +1,11 @@
-// A file, served by FUSE, that behaves like a disk with a cache which forgets nothing: it begins with an image, and each
-// write and each flush that reaches it goes to a log, in their order. The image stays as it is.
+// A file, served by FUSE, that behaves like a disk with a cache which forgets
+// nothing: it begins with an image, and each write and each flush that reaches it
+// goes to a log, in their order. The image stays as it is.
 //
 //     recordingdisk IMAGE LOG MOUNTPOINT
 //
-// MOUNTPOINT/disk is the disk. What is written to MOUNTPOINT/mark goes to the log as a mark. A log is a row of records:
-// a letter ('W', 'F' or 'M'), an offset and a length of eight bytes each, and so many bytes.
+// MOUNTPOINT/disk is the disk. What is written to MOUNTPOINT/mark goes to the log as a mark. A log is a row
+// of records: a letter ('W', 'F' or 'M'), an offset and a length of eight bytes each, and so many bytes.
 #define FUSE_USE_VERSION 31
 #include <fuse.h>
 

@@ -1,6 +1,6 @@
-// Shows the window as a person sees it from the first moment to the results, with documents of its own, and keeps
-// pictures: windowshots FOLDER WORK [SUFFIX]. The environment says in which language, at what scale, and with
-// QUINTAR_SHOTS=dark in which colours.
+// Shows the window as a person sees it from the first moment to the results, with documents of its own,
+// and keeps pictures: windowshots FOLDER WORK [SUFFIX]. The environment says in which language, at what
+// scale, and with QUINTAR_SHOTS=dark in which colours.
 #include "host/desktop/MainWindow.h"
 #include "host/desktop/platform/Language.h"
 #include "host/program/HostApplication.h"
@@ -160,29 +160,10 @@ void keepTheQuestion(MainWindow& window)
     settle();
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+void takePictures(MainWindow& window, const QString& documents)
 {
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    const std::unique_ptr<QCoreApplication> application = hostapplication::forWindows(argc, argv);
-    if (argc < 3)
-        fail("Usage: windowshots FOLDER WORK [SUFFIX]");
-    folder = argv[1];
-    const QString work = argv[2];
-    suffix = argc > 3 ? argv[3] : "";
-    QApplication::setStyle("Fusion");
-    if (qEnvironmentVariable("QUINTAR_SHOTS") == "dark")
-        makeDark();
-    language::choose();
-    makeDocuments(work + "/manuals");
-    MainWindow window({QUINTAR_PROGRAM, work + "/runs", work + "/sessions", work + "/window.ini",
-                       work + "/views", QUINTAR_DRAWER});
-    window.move(0, 0);
-    window.show();
-    window.activateWindow();
     keep(window, "window-empty");
-    window.begin({QFile::encodeName(work + "/manuals")});
+    window.begin({QFile::encodeName(documents)});
     waitFor(window, State::Listed);
     choose(window, "lathe-1.pdf");
     keep(window, "window-list");
@@ -204,5 +185,29 @@ int main(int argc, char** argv)
     for (QTableView* list : window.findChildren<QTableView*>())
         list->setFocus();
     keep(window, "window-focus");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    const std::unique_ptr<QCoreApplication> application = hostapplication::forWindows(argc, argv);
+    if (argc < 3)
+        fail("Usage: windowshots FOLDER WORK [SUFFIX]");
+    folder = argv[1];
+    const QString work = argv[2];
+    suffix = argc > 3 ? argv[3] : "";
+    QApplication::setStyle("Fusion");
+    if (qEnvironmentVariable("QUINTAR_SHOTS") == "dark")
+        makeDark();
+    language::choose();
+    makeDocuments(work + "/manuals");
+    MainWindow window({QUINTAR_PROGRAM, work + "/runs", work + "/sessions", work + "/window.ini",
+                       work + "/views", QUINTAR_DRAWER});
+    window.move(0, 0);
+    window.show();
+    window.activateWindow();
+    takePictures(window, work + "/manuals");
     return 0;
 }

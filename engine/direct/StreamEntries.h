@@ -39,7 +39,8 @@ private:
     bool hasGoodKinds() const;
     std::size_t entrySize() const
     {
-        return static_cast<std::size_t>(m_widths[0] + m_widths[1] + m_widths[2]);
+        const auto size = [this](std::size_t field) { return static_cast<std::size_t>(m_widths[field]); };
+        return size(0) + size(1) + size(2);
     }
 
     std::string m_data; // as it is stored

@@ -27,7 +27,8 @@ bool areDigits(const char* text, std::size_t count)
     return all;
 }
 
-/// Whether libqpdf reads the same numbers: from one short line, which begins where it looks and ends once, without NUL.
+/// Whether libqpdf reads the same numbers: from one short line, which
+/// begins where it looks and ends once, without NUL.
 /// \param text from the end of what stands before the subsection to its first entry.
 bool isUsualHeader(std::string_view text, bool isFirst)
 {

@@ -86,10 +86,12 @@ std::string option(const options::Command& command, const std::vector<Option>& o
     if (!beginnings.empty())
         return "--" + name + " may be one of " + beginnings;
     const std::string unknown = "unknown option --" + name;
-    for (const Option& each : options)
-        if (each.completes == options::Completes::Words &&
-            std::find(each.words.begin(), each.words.end(), name) != each.words.end())
-            return unknown + "; did you mean \"--" + each.name + " " + name + "\"?";
+    const auto takes = [&name](const Option& each) {
+        return each.completes == options::Completes::Words &&
+               std::find(each.words.begin(), each.words.end(), name) != each.words.end();
+    };
+    if (const auto found = std::find_if(options.begin(), options.end(), takes); found != options.end())
+        return unknown + "; did you mean \"--" + found->name + " " + name + "\"?";
     if (const std::string other = whoHas(command, [&](const Option& each) { return each.name == name; });
         !other.empty())
         return unknown + other;
@@ -101,6 +103,7 @@ std::string letter(const options::Command& command, const std::vector<Option>& o
                    const std::string& word)
 {
     std::vector<std::string> names;
+    names.reserve(options.size());
     for (const Option& each : options)
         names.push_back(each.name);
     std::string more = word.size() > 1 ? suggestion::didYouMean(word, names, "--") : std::string();

@@ -1,5 +1,7 @@
 #include "AllowedCalls.h"
 
+#include "Sanitized.h"
+
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
@@ -22,13 +24,24 @@ scmp_arg_cmp lacks(unsigned argument, scmp_datum_t bits)
 
 const unsigned protection = 2; // the argument of mmap and mprotect
 
+// clang-format off
+Group ofSanitizers()
+{
+    return {"what the sanitizers of a build for tests ask when exceptions pass, and when they have found something: they"
+            " try memory by writing it to a pipe",
+            {{SCMP_SYS(pipe)}, {SCMP_SYS(pipe2)}, {SCMP_SYS(sigaltstack)}, {SCMP_SYS(rt_sigaction)},
+             {SCMP_SYS(sched_yield)}, {SCMP_SYS(getuid)}, {SCMP_SYS(uname)}, {SCMP_SYS(prlimit64)}, {SCMP_SYS(prctl)},
+             {SCMP_SYS(dup)}, {SCMP_SYS(ioctl), {equals(1, TCGETS)}}}};
+}
+// clang-format on
+
 } // namespace
 
 // clang-format off
 std::vector<Group> table(pid_t self)
 {
     const auto process = static_cast<scmp_datum_t>(self);
-    return {
+    std::vector<Group> groups = {
         {"memory, which never becomes code: what is run is loaded before",
          {{SCMP_SYS(brk)}, {SCMP_SYS(mmap), {lacks(protection, PROT_EXEC)}},
           {SCMP_SYS(mmap2), {lacks(protection, PROT_EXEC)}}, {SCMP_SYS(mprotect), {lacks(protection, PROT_EXEC)}},
@@ -59,14 +72,10 @@ std::vector<Group> table(pid_t self)
          {{SCMP_SYS(exit)}, {SCMP_SYS(exit_group)}, {SCMP_SYS(getpid)}, {SCMP_SYS(gettid)},
           {SCMP_SYS(rt_sigprocmask)}, {SCMP_SYS(rt_sigreturn)}, {SCMP_SYS(sigreturn)},
           {SCMP_SYS(tgkill), {equals(0, process)}}, {SCMP_SYS(kill), {equals(0, process)}}}},
-#if defined(__SANITIZE_ADDRESS__)
-        {"what the sanitizers of a build for tests ask when exceptions pass, and when they have found something: they try"
-         " memory by writing it to a pipe",
-         {{SCMP_SYS(pipe)}, {SCMP_SYS(pipe2)}, {SCMP_SYS(sigaltstack)}, {SCMP_SYS(rt_sigaction)}, {SCMP_SYS(sched_yield)}, {SCMP_SYS(getuid)},
-          {SCMP_SYS(uname)}, {SCMP_SYS(prlimit64)}, {SCMP_SYS(prctl)}, {SCMP_SYS(dup)},
-          {SCMP_SYS(ioctl), {equals(1, TCGETS)}}}},
-#endif
     };
+    if (sanitized)
+        groups.push_back(ofSanitizers());
+    return groups;
 }
 // clang-format on
 

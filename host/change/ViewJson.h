@@ -6,10 +6,11 @@
 
 #include <string>
 
-/// Changes as JSON, with the names that "quintar show --json" prints: pageMode, pageLayout, openAction with
-/// page, type and zoom, viewerPreferences, title and lang. null stands for an entry that is taken away, and in a
-/// document's view for one that is missing or invalid; the latter's names are listed in `invalid`. An open action
-/// that shows no page has its `action` alone. titleFromFileName and titleIfMissing say what no document's view does.
+/// Changes as JSON, with the names that "quintar show --json" prints: pageMode, pageLayout, openAction
+/// with page, type and zoom, viewerPreferences, title and lang. null stands for an entry that is taken
+/// away, and in a document's view for one that is missing or invalid; the latter's names are listed in
+/// `invalid`. An open action that shows no page has its `action` alone. titleFromFileName and
+/// titleIfMissing say what no document's view does.
 namespace host::viewjson {
 
 /// The change of what the object names; facts about a document that say nothing of how it opens (its file,

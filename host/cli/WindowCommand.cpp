@@ -17,6 +17,7 @@ int WindowCommand::work(const std::vector<std::string>& words)
     for (const std::string& word : words)
         arguments.push_back(word.starts_with('-') ? "./" + word : word); // a name, not an option
     std::vector<char*> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (std::string& argument : arguments)
         pointers.push_back(argument.data());
     pointers.push_back(nullptr);

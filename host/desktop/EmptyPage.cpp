@@ -23,7 +23,7 @@ EmptyPage::EmptyPage(QWidget* parent) : QWidget(parent), m_picture(new QLabel(th
     title->setFont(font);
     m_more->setText(tr("With their bookmarks, with their title, at page 1.\n"
                        "Drop documents or folders here. Nothing is changed before you start it."));
-    auto* files = new QPushButton(tr("Add &Files…"), this);
+    auto* files = new QPushButton(tr("&Add Files…"), this);
     auto* folder = new QPushButton(tr("Add F&older…"), this);
     files->setObjectName("addFilesButton");
     folder->setObjectName("addFolderButton");

@@ -146,7 +146,10 @@ QWidget* MainWindow::makeSide()
 void MainWindow::connectParts()
 {
     connect(m_change, &ChangePanel::showWanted, m_filter, &FilterBar::show);
-    connect(m_runBar, &RunBar::whyWanted, this, [this] { m_filter->show(DocumentFilter::Kind::Trouble); });
+    connect(m_runBar, &RunBar::whyWanted, this, [this] {
+        const bool areResults = m_workbench.machine().state() == State::Results;
+        m_filter->show(areResults ? DocumentFilter::Kind::Failed : DocumentFilter::Kind::Trouble);
+    });
     connect(m_runBar, &RunBar::undoWanted, &m_commands, &Commands::undoLast);
     connect(m_runBar, &RunBar::saveWanted, &m_commands, &Commands::saveReport);
     for (auto signal : {&Workbench::said, &Workbench::failed})
@@ -199,7 +202,13 @@ void MainWindow::showState()
     const DocumentTask* task = m_workbench.task();
     const bool isWorking = m_workbench.machine().isWriting() && task != nullptr && task->total() > 0;
     const double share = isWorking ? double(task->done()) / task->total() : -1;
-    m_pages->setCurrentIndex(documents == 0 && m_workbench.machine().state() != State::Reading ? 0 : 1);
+    const int page = documents == 0 && m_workbench.machine().state() != State::Reading ? 0 : 1;
+    m_pages->setCurrentIndex(page);
+    m_isNewList = m_isNewList || page == 0;
+    if (m_isNewList && page == 1 && m_workbench.machine().state() != State::Reading) {
+        m_isNewList = false;
+        m_view->setFocus(); // which was on the page that went away
+    }
     m_bar->setVisible(m_pages->currentIndex() == 1);
     m_bar->setEnabled(documents > 0 || m_workbench.machine().state() == State::Reading);
     QString title = tr("Quintar");

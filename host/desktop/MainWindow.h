@@ -80,6 +80,7 @@ private:
     HelpWindow* m_help = nullptr;
     QSplitter* m_splitter = nullptr;
     bool m_closesAtEnd = false;
+    bool m_isNewList = true;
 };
 
 } // namespace host::desktop

@@ -27,11 +27,11 @@ const int estimateMilliseconds = 3000;
 RunBar::RunBar(Workbench& workbench, QWidget* parent)
     : QWidget(parent), m_workbench(workbench), m_sign(new QLabel(this)), m_text(new ElidedLabel(this)),
       m_progress(new QProgressBar(this)),
-      m_why(button(tr("Show &Why"), tr("Shows the documents that failed or cannot be changed"))),
+      m_why(button(tr("Show Wh&y"), tr("Shows the documents that failed or cannot be changed"))),
       m_undo(button(tr("&Undo This Run…"), tr("Gives each document back as it was before the run"))),
-      m_again(button(tr("Try Failed &Again"), tr("Runs once more over what failed or was not done"))),
-      m_save(button(tr("&Save Report…"), tr("Keeps what became of each document in a file"))),
-      m_pause(button(tr("&Pause"), tr("Begins no further document until it goes on"))),
+      m_again(button(tr("Tr&y Failed Again"), tr("Runs once more over what failed or was not done"))),
+      m_save(button(tr("Save Repor&t…"), tr("Keeps what became of each document in a file"))),
+      m_pause(button(tr("Pa&use"), tr("Begins no further document until it goes on"))),
       m_stop(button(tr("S&top"), tr("Finishes the documents that are being worked on, and begins no more")))
 {
     nameParts();
@@ -40,40 +40,8 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
     m_progress->setAccessibleName(tr("Progress"));
     m_progress->setTextVisible(false);
     m_progress->setFixedWidth(180);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(12, 6, 12, 6);
-    row->setSpacing(8);
-    row->addWidget(m_sign);
-    row->addWidget(m_text, 1);
-    for (QWidget* each :
-         {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_why), static_cast<QWidget*>(m_again),
-          static_cast<QWidget*>(m_save), static_cast<QWidget*>(m_undo), static_cast<QWidget*>(m_pause),
-          static_cast<QWidget*>(m_stop)})
-        row->addWidget(each);
-    setMinimumHeight(m_stop->sizeHint().height() + 14);
-    connect(m_why, &QPushButton::clicked, this, &RunBar::whyWanted);
-    connect(m_undo, &QPushButton::clicked, this, &RunBar::undoWanted);
-    connect(m_save, &QPushButton::clicked, this, &RunBar::saveWanted);
-    connect(m_again, &QPushButton::clicked, &workbench, &Workbench::tryAgain);
-    connect(m_stop, &QPushButton::clicked, &workbench, &Workbench::stop);
-    connect(m_pause, &QPushButton::clicked, this, [this] {
-        m_workbench.machine().state() == State::Paused ? m_workbench.resume() : m_workbench.pause();
-    });
-    m_unsay.setSingleShot(true);
-    connect(&m_unsay, &QTimer::timeout, this, [this] {
-        if (!m_isTrouble)
-            m_said.clear();
-        show();
-    });
-    connect(&workbench, &Workbench::countsChanged, this, &RunBar::show);
-    connect(&workbench, &Workbench::progressed, this, &RunBar::showProgress);
-    connect(&workbench.machine(), &RunMachine::changed, this, [this] {
-        if (m_workbench.machine().isWriting() || !m_unsay.isActive())
-            m_said.clear();
-        m_running.start();
-        show();
-        showProgress();
-    });
+    layOutParts();
+    connectParts();
     show();
     showProgress();
 }
@@ -87,6 +55,46 @@ void RunBar::nameParts()
     };
     for (const auto& [widget, name] : names)
         widget->setObjectName(name);
+}
+
+void RunBar::layOutParts()
+{
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(12, 6, 12, 6);
+    row->setSpacing(8);
+    row->addWidget(m_sign);
+    row->addWidget(m_text, 1);
+    row->addWidget(m_progress);
+    for (QPushButton* each : {m_why, m_again, m_save, m_undo, m_pause, m_stop})
+        row->addWidget(each);
+    setMinimumHeight(m_stop->sizeHint().height() + 14);
+}
+
+void RunBar::connectParts()
+{
+    connect(m_why, &QPushButton::clicked, this, &RunBar::whyWanted);
+    connect(m_undo, &QPushButton::clicked, this, &RunBar::undoWanted);
+    connect(m_save, &QPushButton::clicked, this, &RunBar::saveWanted);
+    connect(m_again, &QPushButton::clicked, &m_workbench, &Workbench::tryAgain);
+    connect(m_stop, &QPushButton::clicked, &m_workbench, &Workbench::stop);
+    connect(m_pause, &QPushButton::clicked, this, [this] {
+        m_workbench.machine().state() == State::Paused ? m_workbench.resume() : m_workbench.pause();
+    });
+    m_unsay.setSingleShot(true);
+    connect(&m_unsay, &QTimer::timeout, this, [this] {
+        if (!m_isTrouble)
+            m_said.clear();
+        show();
+    });
+    connect(&m_workbench, &Workbench::countsChanged, this, &RunBar::show);
+    connect(&m_workbench, &Workbench::progressed, this, &RunBar::showProgress);
+    connect(&m_workbench.machine(), &RunMachine::changed, this, [this] {
+        if (m_workbench.machine().isWriting() || !m_unsay.isActive())
+            m_said.clear();
+        m_running.start();
+        show();
+        showProgress();
+    });
 }
 
 QPushButton* RunBar::button(const QString& text, const QString& help)
@@ -117,12 +125,12 @@ void RunBar::show()
     m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
     m_sign->setVisible(!m_said.isEmpty() && m_isTrouble);
     m_why->setVisible(areResults ? counts.failed > 0 : state == State::Ready && counts.cannot > 0);
-    m_why->setText(areResults ? tr("Sho&w %n Failed", "", counts.failed) : tr("Show &Why"));
+    m_why->setText(areResults ? tr("Show %n Fa&iled", "", counts.failed) : tr("Show Wh&y"));
     m_undo->setVisible(areResults && counts.changed > 0 && m_workbench.undoableRun() == 0);
     m_again->setVisible(areResults && counts.failed + counts.notDone > 0);
     m_save->setVisible(areResults);
     m_pause->setVisible(state == State::Running || state == State::Paused);
-    m_pause->setText(state == State::Paused ? tr("Go &On") : tr("&Pause"));
+    m_pause->setText(state == State::Paused ? tr("Go &On") : tr("Pa&use"));
     m_stop->setVisible(m_workbench.machine().isEnabled(Command::Stop));
     if (areResults)
         announce(m_text->text());

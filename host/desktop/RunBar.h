@@ -33,6 +33,8 @@ signals:
 
 private:
     void nameParts();
+    void layOutParts();
+    void connectParts();
     QPushButton* button(const QString& text, const QString& help);
     void show();
     void showProgress();

@@ -20,8 +20,8 @@ public:
     /// library cannot tell.
     ViewValue operator[](ViewEntry entry) const;
 
-    /// The magnification that other pages can be given: where the document's own means nothing, what viewers make
-    /// of it. That of a document without a destination is the default.
+    /// The magnification that other pages can be given: where the document's own means nothing, what viewers
+    /// make of it. That of a document without a destination is the default.
     Magnification magnification() const;
 
     /// The title that a viewer finds: where the information dictionary has none, that of the XMP metadata.

@@ -24,7 +24,8 @@ namespace {
 const int zoomValue = 5; // of SetDestValue
 const int titleKey = 1;  // of SetInformation
 
-/// A missing entry does the same as an explicit default, and says what an empty text says, so it needs no change.
+/// A missing entry does the same as an explicit default, and says
+/// what an empty text says, so it needs no change.
 bool isDefault(ViewEntry entry, const ViewValue& value)
 {
     if (value == ViewValue(std::string()))

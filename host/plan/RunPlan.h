@@ -45,8 +45,8 @@ public:
     /// input or another file that the run reads.
     void checkTargets(const std::vector<std::string>& filesRead = {}) const;
 
-    /// Throws UsageError when two documents would have the same output where the case of names does not count. Makes
-    /// a file there for a moment where names differ in case only.
+    /// Throws UsageError when two documents would have the same output where the case of names does not
+    /// count. Makes a file there for a moment where names differ in case only.
     void checkCase() const;
 
     /// Throws UsageError when the report would overwrite one of the documents, their outputs or other files

@@ -4,8 +4,9 @@
 
 #include <memory>
 
-/// The application object that Qt wants, with the program's name and version. Making it also makes what is
-/// missing of the user's folders, where they have a place (HomeFolder.h), and sets the C locale for numbers: a decimal comma is none of PDF's.
+/// The application object that Qt wants, with the program's name and version. Making it also makes
+/// what is missing of the user's folders, where they have a place (HomeFolder.h), and sets the C
+/// locale for numbers: a decimal comma is none of PDF's.
 namespace host::hostapplication {
 
 /// For commands that need no display. The arguments must outlive the object.

@@ -8,9 +8,9 @@ namespace host {
 
 class OpeningView;
 
-/// How documents open, a row each in the words of the command line. The columns have fixed widths, so that rows can be
-/// printed as they come; the file's name stands last and is cut at its beginning. Where there is no room for it,
-/// columns are left out.
+/// How documents open, a row each in the words of the command line. The columns have fixed widths, so
+/// that rows can be printed as they come; the file's name stands last and is cut at its beginning. Where
+/// there is no room for it, columns are left out.
 class ViewTable
 {
 public:

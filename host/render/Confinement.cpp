@@ -1,6 +1,7 @@
 #include "Confinement.h"
 
 #include "host/cell/Cell.h"
+#include "host/cell/Sanitized.h"
 #include "host/files/FileDescriptor.h"
 
 #include <sys/prctl.h>
@@ -65,9 +66,8 @@ void enter()
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_FSIZE, 0);
     limit(RLIMIT_NPROC, 0);
-#if !defined(__SANITIZE_ADDRESS__) // which needs address space without bound
-    limit(RLIMIT_DATA, static_cast<rlim_t>(memoryMiB) << 20);
-#endif
+    if (!sanitized)
+        limit(RLIMIT_DATA, static_cast<rlim_t>(memoryMiB) << 20);
     if (kernel.limitsFiles())
         limitFiles();
     if (kernel.limitsCalls())

@@ -9,9 +9,9 @@ inline constexpr int memoryMiB = 2048;
 inline constexpr unsigned workSeconds = 10;
 
 /// Limits this process, which has opened what it reads and has one thread, for good: its memory, no new
-/// privileges, no processes, no core file, nothing written to files, and it ends with the process that started
-/// it. Where the kernel can do that, it opens nothing but fonts, and makes the system calls that it needs. Throws
-/// std::runtime_error when that cannot be had.
+/// privileges, no processes, no core file, nothing written to files, and it ends with the process that
+/// started it. Where the kernel can do that, it opens nothing but fonts, and makes the system calls that it
+/// needs. Throws std::runtime_error when that cannot be had.
 void enter();
 
 /// From now on the process may work for `workSeconds`; it ends if it is not done by then.

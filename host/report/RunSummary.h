@@ -22,7 +22,6 @@ public:
     void addDoneBefore() { ++m_doneBefore; }
 
     bool anyFailed() const { return !m_failures.empty(); }
-    bool anyNotDone() const { return !m_notDone.empty(); }
 
     /// One line about one document, for readers without a progress bar. Safe to print.
     static std::string lineFor(const std::string& name, const DocumentResult& result, bool dryRun);

@@ -25,8 +25,8 @@ DocumentLock lockDocument(int file, std::chrono::milliseconds patience = std::ch
 /// Why a document may not be changed now, though nothing is wrong with it.
 extern const Failure documentLocked;
 
-/// Whether an open file is the one at the path, and unchanged since `asRead` was told of it. When it is not, errno is 0,
-/// or says what kept it from being looked at.
+/// Whether an open file is the one at the path, and unchanged since `asRead` was told of it. When it is not,
+/// errno is 0, or says what kept it from being looked at.
 bool isAsRead(int file, const std::string& path, const struct stat& asRead);
 
 } // namespace host

@@ -38,8 +38,8 @@ public:
         Failure whole() const;
     };
 
-    /// On failure the document is cut back, wherever its path leads by then, unless another program has changed it
-    /// meanwhile: then it is left as that program left it.
+    /// On failure the document is cut back, wherever its path leads by then, unless another program has
+    /// changed it meanwhile: then it is left as that program left it.
     Outcome perform();
 
     /// Brings to an end what a process has begun that is no more: cuts half an update off, and flushes a
@@ -64,7 +64,8 @@ private:
     bool isAsLeft() const;
     bool isUntouched() const;
     bool isFileAsLeft() const;
-    /// Takes the document's state for the one that this object left it in. \returns false, with errno set, on failure.
+    /// Takes the document's state for the one that this object left it in.
+    /// \returns false, with errno set, on failure.
     bool look();
     std::string leftOver() const;
     Found found() const;

@@ -180,12 +180,13 @@ bool SafeOutput::putInPlace(int file)
 bool SafeOutput::giveBack(int file)
 {
     const bool isExchanged = exchange();
-    const bool isBack = isExchanged || !isAt(m_target, file); // it may have gone meanwhile
-    if (isExchanged && isAt(m_temporary, file))
+    if (isExchanged && !isKnownElsewhere(m_temporary, file))
         return true;
-    if (isExchanged ||
-        renameat2(AT_FDCWD, m_temporary.c_str(), AT_FDCWD, m_target.c_str(), RENAME_NOREPLACE) != 0)
-        keep();
+    const bool isBack = isExchanged || isKnownElsewhere(m_target, file); // somebody may have taken it away
+    if (!isExchanged &&
+        renameat2(AT_FDCWD, m_temporary.c_str(), AT_FDCWD, m_target.c_str(), RENAME_NOREPLACE) == 0)
+        return true;
+    keep();
     return isBack;
 }
 
@@ -222,6 +223,16 @@ bool SafeOutput::isAt(const std::string& path, int file)
         fstat(file, &written) == 0 && stat(path.c_str(), &there) == 0 && isSameFile(written, there);
     errno = problem;
     return isThere;
+}
+
+/// Whether the path does not lead to the file; false as well when that cannot be told.
+bool SafeOutput::isKnownElsewhere(const std::string& path, int file)
+{
+    struct stat written;
+    struct stat there;
+    if (fstat(file, &written) != 0)
+        return false;
+    return stat(path.c_str(), &there) == 0 ? !isSameFile(written, there) : errno == ENOENT;
 }
 
 bool SafeOutput::flushPlaced(const std::string& target)

@@ -48,8 +48,9 @@ public:
     /// noted: after a power failure the old file may be there.
     Outcome commit(const FileAttributes& attributes, bool flush, const BeforeRename& beforeRename = {});
 
-    /// The target is replaced only while it is like this. What another program has put there at the last moment gets
-    /// its place back, or is kept under a name that is told; but not where the file system cannot exchange two files, as those on networks.
+    /// The target is replaced only while it is like this. What another program has put there at the last
+    /// moment gets its place back, or is kept under a name that is told; but not where the file system
+    /// cannot exchange two files, as those on networks.
     void replaceOnly(const struct stat& state) { m_replaced = state; }
 
     /// Waits until a file that was renamed to the target by another process is on the disk under its name.
@@ -73,6 +74,7 @@ private:
     std::string aboutKept() const;
     bool exchange() const;
     static bool isAt(const std::string& path, int file);
+    static bool isKnownElsewhere(const std::string& path, int file);
 
     std::string m_target;
     std::string m_temporary;

@@ -35,6 +35,12 @@ constexpr std::array preferences{
 constexpr std::array hiddenEntries{ViewEntry::Direction, ViewEntry::PrintScaling, ViewEntry::Duplex,
                                    ViewEntry::PickTrayByPDFSize, ViewEntry::NumCopies};
 
+/// What a preference that is missing reads as.
+int absentNumber(ViewEntry preference)
+{
+    return pdflibrary::findPreference(viewentries::describe(preference).preference).value().absent;
+}
+
 /// The row of a list or the page; nothing where none is chosen.
 std::optional<int> chosenNumber(const SettingsMap& settings, const char* name)
 {
@@ -157,7 +163,7 @@ void DialogSettings::showOpenAction()
 void DialogSettings::showPreferences()
 {
     for (const Preference& each : preferences) {
-        const int value = number(each.entry, 0);
+        const int value = number(each.entry, absentNumber(each.entry));
         const bool isFlag = findKey(each.key)->type == ValueType::Flag;
         m_map.insert(each.key, isFlag ? QVariant(value == 1) : QVariant(value));
     }

@@ -18,8 +18,8 @@ std::string forTerminal(std::string_view bytes);
 /// The same, except that line feeds stay.
 std::string forTerminalLines(std::string_view bytes);
 
-/// Lines that somebody else has made safe, and who may have failed to: what misleads is escaped, the rest stays as
-/// it is, backslashes too.
+/// Lines that somebody else has made safe, and who may have failed to: what misleads is
+/// escaped, the rest stays as it is, backslashes too.
 std::string surelyForTerminal(std::string lines);
 
 } // namespace host

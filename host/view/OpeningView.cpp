@@ -139,7 +139,7 @@ std::string OpeningView::openActionInWords() const
            line(labelOf(key::OpenToPage), std::to_string(numberOf(page, 0)) + name);
 }
 
-/// One that the dialog has, or that means the same when it is missing.
+/// One that means the same as its default where it is missing.
 std::string OpeningView::preferenceInWords(const PreferenceRow& preference) const
 {
     const ViewValue value = (*this)[entryOf(preference)];
@@ -151,10 +151,15 @@ std::string OpeningView::preferenceInWords(const PreferenceRow& preference) cons
 std::string OpeningView::preferencesInWords() const
 {
     std::string text;
+    const auto add = [&](const PreferenceRow& row) {
+        const bool hasDefault = row.absent != pdflibrary::NoPreference;
+        text += line(row.label, hasDefault ? preferenceInWords(row)
+                                           : inWordsOrUnset(entryOf(row), (*this)[entryOf(row)]));
+    };
     for (const PreferenceRow& row : pdflibrary::viewerPreferences)
-        text += line(row.label, preferenceInWords(row));
+        add(row);
     for (const PreferenceRow& row : pdflibrary::furtherPreferences)
-        text += line(row.label, inWordsOrUnset(entryOf(row), (*this)[entryOf(row)]));
+        add(row);
     return text;
 }
 

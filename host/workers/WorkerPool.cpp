@@ -3,6 +3,7 @@
 #include "RunControl.h"
 
 #include "host/cell/Cell.h"
+#include "host/cell/Sanitized.h"
 #include "host/files/FileDescriptor.h"
 
 #include <fcntl.h>
@@ -41,12 +42,6 @@ const std::chrono::seconds heldUp(1);
 
 // When so many workers in a row have ended before they took a piece, the rest is done one at a time.
 const int mostFruitless = 3;
-
-#if defined(__SANITIZE_ADDRESS__)
-const bool sanitized = true; // needs address space without bound, and tells what it found on standard error
-#else
-const bool sanitized = false;
-#endif
 
 void limitWorker(int memoryMiB)
 {

@@ -37,8 +37,9 @@ public:
     /// What the program is to know about the piece if the worker ends before it answers. Throws
     /// std::length_error when it is longer than `largestNote`.
     void note(std::string_view bytes);
-    /// Ends the piece, or with Again leaves it for later. Waits while the program has not taken earlier answers and there is no room; what is
-    /// longer than `largestAnswer` is cut off. \returns whether the program may be waiting for it.
+    /// Ends the piece, or with Again leaves it for later. Waits while the program has not taken
+    /// earlier answers and there is no room; what is longer than `largestAnswer` is cut off. \returns
+    /// whether the program may be waiting for it.
     bool answer(Kind kind, std::string_view text);
     /// The process ends because it made a system call that it must not make.
     void outside(int call) { m_outside = static_cast<std::uint64_t>(call); }

@@ -51,6 +51,7 @@ inline std::vector<int> entryNumbers(const QStringList& keys)
 
 /// Favourites, "*.ini": a settings map with an icon, a QImage.
 namespace favorite {
+/// Of the file's name; the rest of it is the name that people gave, as far as a file can have it.
 inline constexpr char suffix[] = ".ini";
 /// The settings map; its "CollectionName" is what people call the favourite.
 inline constexpr char actionPrefs[] = "ActionPrefs";
@@ -60,6 +61,7 @@ inline constexpr char actionIcon[] = "ActionIcon";
 
 /// Tool settings files, "*.tsf": a settings map alone.
 namespace toolsettings {
+/// That map, as the dialog writes it.
 inline constexpr char toolSettings[] = "ToolSettings";
 } // namespace toolsettings
 

@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QIcon>
 #include <QImageReader>
+#include <QList>
 #include <QPixmap>
 
 using namespace storedkeys;
@@ -17,6 +18,8 @@ namespace {
 
 const int leastHeight = 236;
 const int iconSide = 128;
+/// Those that the user is offered. What others hold is no picture but instructions to draw one, which may take for ever.
+const QList<QByteArray> pictureFormats{"bmp", "jpg", "jpeg", "gif", "png", "tif", "tiff", "wmf", "emf"};
 const qint64 mostPictureBytes = qint64(256) << 20; // in memory, where each pixel takes four
 
 void writeToolSettings(const QString& path, const QMap<QString, QVariant>& prefs)
@@ -72,6 +75,11 @@ void CSaveAsCollectionDialog::on_CollectionIcon()
     if (path.isNull())
         return;
     QImageReader reader(path);
+    if (const QByteArray format = reader.format(); !format.isEmpty() && !pictureFormats.contains(format)) {
+        storereport::add(
+            QString("no icon: the picture %1 is of another kind, %2").arg(path, QString(format)));
+        return;
+    }
     const QSize size = reader.size();
     if (4 * qint64(size.width()) * size.height() > mostPictureBytes) {
         storereport::add(QString("no icon: the picture %1 is too large, with %2 x %3 pixels")

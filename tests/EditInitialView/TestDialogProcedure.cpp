@@ -4,10 +4,10 @@
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 #include "shared/CUtils.h"
 
-#include "support/Mute.h"
-#include "support/Person.h"
 #include "support/Recorder.h"
 #include "support/Rows.h"
+#include "support/people/Mute.h"
+#include "support/people/Person.h"
 
 #include <QtTest>
 
@@ -23,12 +23,6 @@ using Prefs = QMap<QString, QVariant>;
 using Visit = std::function<void(CPrefsDialog&)>;
 
 const int document = 7;
-
-template <class Labels>
-QStringList listOf(const Labels& labels)
-{
-    return QStringList(labels.begin(), labels.end());
-}
 
 QStringList itemsOf(const QComboBox* list)
 {
@@ -215,10 +209,11 @@ private slots:
         DialogLoadStruct load = this->load();
         load.bSkipDocumentRead = true;
         const auto check = [](CPrefsDialog& dialog) {
-            QCOMPARE(itemsOf(dialog.ui.NavigationTabComboBox), listOf(navigationLabels));
-            QCOMPARE(itemsOf(dialog.ui.PageLayoutComboBox), listOf(pageLayoutLabels));
-            QCOMPARE(itemsOf(dialog.ui.MagnificationComboBox), listOf(magnificationLabels));
-            QCOMPARE(itemsOf(dialog.ui.ShowComboBox), listOf(titleLabels));
+            for (const Key& key : keys)
+                if (!key.rows.empty())
+                    QVERIFY2(itemsOf(person::widget<QComboBox>(dialog, key.name)) ==
+                                 QStringList(key.rows.begin(), key.rows.end()),
+                             key.name);
             QCOMPARE(dialog.ui.NavigationTabComboBox->itemData(0), QVariant());
         };
         QCOMPARE(run(load, check), 0);

@@ -1,7 +1,7 @@
 #include "EditInitialView/InitialViewSettings.h"
 #include "EditInitialView/editinitialview.h"
-#include "support/Files.h"
 #include "support/Rows.h"
+#include "support/folders/Files.h"
 
 #include <QApplication>
 #include <QDirIterator>

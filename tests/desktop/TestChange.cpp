@@ -6,6 +6,7 @@
 #include "pdflibrary/ViewNumbers.h"
 
 #include <QJsonDocument>
+#include <QProcess>
 #include <QtTest>
 
 using namespace host;
@@ -99,6 +100,30 @@ private slots:
             order.commandLine(table, {1, 2}),
             QString(
                 R"(quintar run --page-mode use-outlines --output /out --base /d/ '/d/it'\''s.pdf' /d/e/b.pdf)"));
+    }
+
+    /// By a shell, over documents whose names are printed one a line.
+    void copiesACommandThatNamesTheSame()
+    {
+        QVector<QByteArray> paths;
+        for (int place = 0; place < 30; ++place)
+            paths += "/d/$it's `" + QByteArray::number(place) + "`.pdf";
+        paths += {"/d/\xff'.pdf", "/d/a\nb.pdf"};
+        DocumentTable table;
+        const DocumentTable::Ids ids = table.append(paths);
+        table.change(ids.at(3), [](DocumentRecord& record) { record.password = 0; });
+        RunOrder order;
+        order.draft.set(ViewEntry::PageMode, pdflibrary::BookmarksPanel);
+        QProcess shell;
+        shell.start("bash", {"-c", "quintar() { [[ \" $* \" == *' --files-from - '* ]] && cat; "
+                                   "for each; do [[ $each == /* ]] && printf '%s\\0' \"$each\"; done; }\n" +
+                                       order.commandLine(table, ids)});
+        QVERIFY(shell.waitForFinished());
+        QByteArray told = shell.readAllStandardOutput().replace(".pdf\n", QByteArray(".pdf\0", 5));
+        QList<QByteArray> names = told.split('\0');
+        names.removeAll(QByteArray());
+        QCOMPARE(QSet<QByteArray>(names.begin(), names.end()), QSet<QByteArray>(paths.begin(), paths.end()));
+        QCOMPARE(names.size(), paths.size());
     }
 
     void takesTheViewOfADocumentButNotItsTitle()

@@ -5,6 +5,8 @@
 #include <QJsonDocument>
 #include <QtTest>
 
+#include <set>
+
 using namespace host;
 using namespace host::desktop;
 using Ids = DocumentTable::Ids;
@@ -38,6 +40,16 @@ class TestDocumentOrder : public QObject
     Q_OBJECT
 
 private slots:
+    void tellsEveryEntryInAColumn()
+    {
+        std::set<ViewEntry> told;
+        for (int column = 0; column < columnCount; ++column)
+            for (const ViewEntry entry : columns::describe(column).entries)
+                told.insert(entry);
+        for (const viewentries::Description& each : viewentries::all())
+            QVERIFY2(told.contains(each.entry), each.option);
+    }
+
     void takesEachDocumentOnce()
     {
         DocumentTable table;

@@ -4,13 +4,14 @@
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/presets/PresetFolder.h"
 #include "host/desktop/texts/ViewTexts.h"
-#include "support/FakeQuintar.h"
+#include "support/program/FakeQuintar.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QTextBrowser>
 #include <QtTest>
@@ -46,6 +47,29 @@ private slots:
         click("Add Folder…");
         QTRY_COMPARE(state(), State::Listed);
         QVERIFY(!button("Add Folder…")->isVisible());
+    }
+
+    void offersEveryEntry()
+    {
+        for (const viewentries::Description& entry : viewentries::all())
+            QVERIFY2(m_window->findChild<QWidget*>(entry.option) != nullptr, entry.option);
+    }
+
+    void leavesASessionAloneThatItCannotRead()
+    {
+        read();
+        m_window.reset();
+        const QDir sessions(m_folder->filePath("sessions"));
+        QFile stored(sessions.filePath(sessions.entryList({"*.session"}).value(0)));
+        QVERIFY(stored.open(QIODevice::ReadWrite) && stored.resize(stored.size() - 1));
+        const QByteArray bytes = stored.readAll();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("is left as it is"));
+        open();
+        read();
+        m_window.reset();
+        QVERIFY(stored.seek(0));
+        QCOMPARE(stored.readAll(), bytes);
+        QCOMPARE(sessions.entryList({"*.session"}).size(), 2);
     }
 
     void takesWhatIsDroppedAndPasted()
@@ -104,6 +128,19 @@ private slots:
         const RunHistory& history = m_window->workbench().history();
         QCOMPARE(history.rowCount(), 1); // both are undone together
         QCOMPARE(history.runs().front().reports.size(), 2);
+    }
+
+    void hasNoKeyTwice()
+    {
+        haveNoKeyTwice();
+        read();
+        choose("Panel", "Bookmarks");
+        QTRY_COMPARE(state(), State::Ready);
+        list()->setCurrentIndex(list()->model()->index(1, 0));
+        haveNoKeyTwice();
+        m_window->workbench().start();
+        QTRY_COMPARE(state(), State::Results);
+        haveNoKeyTwice();
     }
 
     void savesAReport()
@@ -242,6 +279,25 @@ private:
         emit combo->activated(combo->currentIndex());
     }
     State state() const { return const_cast<MainWindow&>(*m_window).workbench().machine().state(); }
+
+    void haveNoKeyTwice() const
+    {
+        QStringList texts;
+        for (const QAction* menu : m_window->findChild<QMenuBar*>()->actions())
+            texts += menu->text();
+        for (const QAbstractButton* each : m_window->findChildren<QAbstractButton*>())
+            if (each->isVisible() && each->isEnabled())
+                texts += each->text();
+        for (const QLabel* each : m_window->findChildren<QLabel*>())
+            if (each->isVisible() && each->buddy() != nullptr)
+                texts += each->text();
+        QMap<QKeySequence, QString> keys;
+        for (const QString& text : texts)
+            if (const QKeySequence key = QKeySequence::mnemonic(text); !key.isEmpty()) {
+                QVERIFY2(!keys.contains(key), qPrintable(keys.value(key) + " and " + text));
+                keys.insert(key, text);
+            }
+    }
 
     void open()
     {

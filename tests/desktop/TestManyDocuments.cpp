@@ -1,5 +1,6 @@
+#include "host/cell/Sanitized.h"
 #include "host/desktop/workbench/Workbench.h"
-#include "support/FakeQuintar.h"
+#include "support/program/FakeQuintar.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
@@ -14,14 +15,10 @@ namespace {
 
 const int documents = 20000;
 /// What is promised, in milliseconds, with room for a build without optimisation. A sanitizer makes any time of it.
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-const qint64 longestStall = std::numeric_limits<qint64>::max();
-#else
-const qint64 longestStall = 250;
-#endif
+const qint64 longestStall = host::sanitized ? std::numeric_limits<qint64>::max() : 250;
 
-/// Beats once a millisecond; its longest gap is how long a window would not have answered. It counts the time that this
-/// thread has worked, so that other work of the machine is no stall.
+/// Beats once a millisecond; its longest gap is how long a window would not have answered. It counts the time
+/// that this thread has worked, so that other work of the machine is no stall.
 class Heart : public QObject
 {
 public:

@@ -1,6 +1,6 @@
 #include "host/desktop/workbench/Workbench.h"
-#include "support/PdfBuilder.h"
-#include "support/WorkFolder.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/WorkFolder.h"
 
 #include "pdflibrary/ViewNumbers.h"
 

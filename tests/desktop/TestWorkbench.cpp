@@ -1,5 +1,5 @@
 #include "host/desktop/workbench/Workbench.h"
-#include "support/FakeQuintar.h"
+#include "support/program/FakeQuintar.h"
 
 #include "pdflibrary/ViewNumbers.h"
 
@@ -87,9 +87,14 @@ private slots:
                       Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::failed(0, "password") + Fake::end());
         read();
         QCOMPARE(m_bench->table().find(1)->reasonCode(), QString("password"));
+        QSignalSpy failed(m_bench.get(), &Workbench::failed);
+        m_bench->givePassword("wrong");
+        QTRY_COMPARE(failed.size(), 1); // and says so
+        QCOMPARE(m_bench->table().find(1)->password, -1);
         m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::document(0) + Fake::end());
+        QSignalSpy said(m_bench.get(), &Workbench::said);
         m_bench->givePassword("secret");
-        QTRY_COMPARE(state(), State::Listed);
+        QTRY_COMPARE(said.size(), 1);
         QCOMPARE(m_fake->password(), QByteArray("secret\n"));
         QVERIFY(!m_fake->starts().join("").contains("secret"));
         QVERIFY(m_bench->table().find(1)->facts);
@@ -169,6 +174,42 @@ private slots:
         m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::end());
         QTRY_COMPARE(state(), State::Ready);
         QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/a.pdf"}));
+    }
+
+    /// Also if others are shown while results are looked at.
+    void countsAllThatAChangeIsFor()
+    {
+        read();
+        DocumentFilter filter;
+        filter.setSearch("a.pdf");
+        m_bench->order().setFilter(filter);
+        m_bench->setDraft(bookmarks());
+        m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::end());
+        m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::end());
+        QTRY_COMPARE(state(), State::Ready);
+        m_bench->start();
+        QTRY_COMPARE(state(), State::Results);
+        m_bench->order().setFilter({});
+        QTRY_COMPARE(m_bench->targets().size(), 2);
+        ChangeDraft other;
+        other.set(ViewEntry::PageLayout, 1);
+        m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::changed(1) + Fake::end());
+        m_bench->setDraft(other);
+        QTRY_COMPARE(state(), State::Ready);
+        QCOMPARE(m_bench->counts().willChange, 2);
+    }
+
+    void keepsThePlaceInTheListWhenRowsGo()
+    {
+        read();
+        m_bench->order().select({1}, 1);
+        m_bench->remove({1});
+        QCOMPARE(m_bench->order().current(), 2);
+        m_bench->undoList();
+        QCOMPARE(m_bench->order().selected(), Workbench::Ids({1}));
+        m_bench->order().select({2}, 2);
+        m_bench->remove({2});
+        QCOMPARE(m_bench->order().current(), 1);
     }
 
 private:

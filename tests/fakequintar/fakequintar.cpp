@@ -1,4 +1,4 @@
-// Plays the stream that tests/support/FakeQuintar.h stored for a command.
+// Plays the stream that tests/support/program/FakeQuintar.h stored for a command.
 #include <chrono>
 #include <cstdlib>
 #include <fstream>

@@ -1,6 +1,6 @@
-// Loaded into the program (LD_PRELOAD): a person who changes a setting in the window of "quintar configure" and presses
-// OK. From then on calls fail as the shim is ordered to.
-#include "support/Person.h"
+// Loaded into the program (LD_PRELOAD): a person who changes a setting in the window of "quintar configure"
+// and presses OK. From then on calls fail as the shim is ordered to.
+#include "support/people/Person.h"
 
 #include <QAbstractButton>
 

@@ -1,6 +1,6 @@
-// Stands before the C library (LD_PRELOAD) and makes one call of a kind fail, or fall short, or wait until the driver
-// has killed somebody. Calls are counted over all processes of a run, in memory that they share with the driver. Makes
-// no system calls of its own that a locked-in worker may not make.
+// Stands before the C library (LD_PRELOAD) and makes one call of a kind fail, or fall short, or wait until
+// the driver has killed somebody. Calls are counted over all processes of a run, in memory that they share
+// with the driver. Makes no system calls of its own that a locked-in worker may not make.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <linux/fs.h>
@@ -34,7 +34,8 @@ enum Kind : std::uint32_t {
 };
 // clang-format on
 
-// What happens at the call, unless it is an errno value. Beyond `allTheSame`, the call is made and told as failed.
+// What happens at the call, unless it is an errno value. Beyond
+// `allTheSame`, the call is made and told as failed.
 const std::int32_t fallShort = -1;
 const std::int32_t waitThere = -2;
 const std::int32_t allTheSame = 1000;

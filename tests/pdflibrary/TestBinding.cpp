@@ -1,7 +1,7 @@
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
-#include "support/Files.h"
 #include "support/Recorder.h"
 #include "support/Rows.h"
+#include "support/folders/Files.h"
 
 #include <QtTest>
 

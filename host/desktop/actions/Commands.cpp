@@ -284,7 +284,14 @@ void Commands::copyCommand()
 {
     QApplication::clipboard()->setText(
         m_workbench.runOrder().commandLine(m_workbench.table(), m_workbench.targets()));
-    emit said(tr("The command is in the clipboard."));
+    const auto isLocked = [this](DocumentId id) {
+        const DocumentRecord* record = m_workbench.table().find(id);
+        return record != nullptr && record->password >= 0;
+    };
+    const DocumentTable::Ids& ids = m_workbench.targets();
+    emit said(std::any_of(ids.begin(), ids.end(), isLocked)
+                  ? tr("The command is in the clipboard. It waits for the password to be typed.")
+                  : tr("The command is in the clipboard."));
 }
 
 void Commands::likeThis()

@@ -9,14 +9,39 @@ namespace {
 
 const int mostNamed = 20;
 
-/// In single quotes where a shell would understand it otherwise.
-QString quoted(const QString& word)
+/// As a shell understands it: in single quotes if need be, and what is no text by its bytes.
+QString quoted(const QByteArray& word)
 {
     static const QRegularExpression plain("^[A-Za-z0-9_@%+=:,./-]+$");
-    if (plain.match(word).hasMatch())
-        return word;
-    QString inner = word;
-    return "'" + inner.replace("'", "'\\''") + "'";
+    const QString text = QString::fromUtf8(word);
+    if (text.toUtf8() == word && !word.contains('\n')) {
+        QString inner = text;
+        return plain.match(text).hasMatch() ? text : "'" + inner.replace("'", "'\\''") + "'";
+    }
+    QString bytes;
+    for (const char each : word)
+        bytes += QStringLiteral("\\x%1").arg(uchar(each), 2, 16, QLatin1Char('0'));
+    return "$'" + bytes + "'";
+}
+
+bool fitsALine(const QByteArray& path)
+{
+    return QString::fromUtf8(path).toUtf8() == path && !path.contains('\n');
+}
+
+/// Many names follow the command, a line each, so that it can be read.
+void name(const QVector<QByteArray>& paths, bool isInputFree, QStringList& words, QStringList& lines)
+{
+    QStringList below;
+    for (const QByteArray& path : paths)
+        if (isInputFree && paths.size() > mostNamed && fitsALine(path))
+            below += QString::fromUtf8(path);
+        else
+            words += quoted(path);
+    if (below.isEmpty())
+        return;
+    words += "--files-from - <<'END'";
+    lines += below + QStringList{"END"};
 }
 
 } // namespace
@@ -59,21 +84,48 @@ QByteArray RunOrder::resultOf(const QByteArray& path, const QString& base) const
     return path;
 }
 
-/// Many documents are told by their folder: they need not be all that lie there, but a person sees how it is done.
+std::map<RunOrder::Kind, DocumentTable::Ids> RunOrder::kindsOf(const DocumentTable& table,
+                                                               const DocumentTable::Ids& ids)
+{
+    std::map<Kind, DocumentTable::Ids> kinds;
+    for (const DocumentId id : ids)
+        if (const DocumentRecord* record = table.find(id))
+            kinds[{record->password, record->howSigned}].append(id);
+    return kinds;
+}
+
+QStringList RunOrder::argumentsOf(DocumentRecord::Signed howSigned)
+{
+    switch (howSigned) {
+    case DocumentRecord::Signed::Refuse:
+        break;
+    case DocumentRecord::Signed::Append:
+        return {"--signed", "append"};
+    case DocumentRecord::Signed::AppendCertified:
+        return {"--signed", "append-certified"};
+    }
+    return {};
+}
+
+/// On one line, so that a password that is asked for is not taken from the command behind.
 QString RunOrder::commandLine(const DocumentTable& table, const DocumentTable::Ids& ids) const
 {
     const QString base = commonFolder(table, ids);
-    QStringList words = QStringList{"quintar", "run"} + arguments(base);
-    if (ids.size() > mostNamed)
-        words += base;
-    else
-        for (const DocumentId id : ids)
-            if (const DocumentRecord* record = table.find(id))
-                words += QFile::decodeName(record->path);
-    QStringList safe;
-    for (const QString& word : words)
-        safe += quoted(word);
-    return safe.join(' ');
+    QStringList commands;
+    QStringList lines;
+    for (const auto& [kind, members] : kindsOf(table, ids)) {
+        QStringList words{"quintar", "run"};
+        for (const QString& word : arguments(base) + argumentsOf(kind.second))
+            words += quoted(QFile::encodeName(word));
+        if (kind.first >= 0)
+            words += "--password-file -";
+        QVector<QByteArray> paths;
+        for (const DocumentId id : members)
+            paths += table.find(id)->path;
+        name(paths, kind.first < 0, words, lines);
+        commands += words.join(' ');
+    }
+    return (QStringList{commands.join("; ")} + lines).join('\n');
 }
 
 } // namespace host::desktop

@@ -4,6 +4,8 @@
 #include "Destination.h"
 #include "host/desktop/documents/DocumentTable.h"
 
+#include <map>
+
 namespace host::desktop {
 
 /// All that a run is told besides its documents.
@@ -18,7 +20,14 @@ struct RunOrder
     static QString commonFolder(const DocumentTable& table, const DocumentTable::Ids& ids);
     /// Where the result of a document goes. \param base as for arguments().
     QByteArray resultOf(const QByteArray& path, const QString& base) const;
-    /// The command that does the same, for a shell.
+    /// Documents that are run over together: by the place of their password, and what may be done if they are signed.
+    using Kind = std::pair<int, DocumentRecord::Signed>;
+    static std::map<Kind, DocumentTable::Ids> kindsOf(const DocumentTable& table,
+                                                      const DocumentTable::Ids& ids);
+    /// The options that a kind takes besides.
+    static QStringList argumentsOf(DocumentRecord::Signed howSigned);
+
+    /// The line that does the same, for a shell. Passwords are no part of it: they are read from the terminal.
     QString commandLine(const DocumentTable& table, const DocumentTable::Ids& ids) const;
 
     bool operator==(const RunOrder&) const = default;

@@ -38,8 +38,8 @@ struct DocumentRecord
     QByteArray path;
     QString name;
     QString folder;
-    /// Null until it is read. Kept apart, so that thousands of records are moved quickly; a copy of a record shares
-    /// them.
+    /// Null until it is read. Kept apart, so that thousands of records are
+    /// moved quickly; a copy of a record shares them.
     std::shared_ptr<const DocumentFacts> facts;
     /// Why it could not be read; else empty.
     QString troubleCode;

@@ -4,8 +4,8 @@
 
 namespace host::desktop {
 
-/// Draws a cell: what is, and where it changes an arrow and what it becomes, in bold. The first column has the sign of
-/// the row's state before it.
+/// Draws a cell: what is, and where it changes an arrow and what it becomes, in bold. The first
+/// column has the sign of the row's state before it.
 class CellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

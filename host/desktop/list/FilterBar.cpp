@@ -19,7 +19,7 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     : QWidget(parent), m_workbench(workbench), m_kind(new QComboBox(this)), m_search(new QLineEdit(this)),
       m_count(new QLabel(this))
 {
-    auto* label = new QLabel(tr("S&how:"), this);
+    auto* label = new QLabel(tr("&Show:"), this);
     label->setBuddy(m_kind);
     for (const DocumentFilter::Kind kind : DocumentFilter::kinds())
         m_kind->addItem(DocumentFilter::nameOf(kind), static_cast<int>(kind));

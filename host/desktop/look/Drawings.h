@@ -3,7 +3,8 @@
 #include <QIcon>
 #include <QPalette>
 
-/// The window's own pictures, drawn in the colours of the palette, so that they suit light and dark and any size.
+/// The window's own pictures, drawn in the colours of the palette,
+/// so that they suit light and dark and any size.
 namespace host::desktop::drawings {
 
 enum class Sign { Add, Remove, Start, Pause, Stop, Undo, Warning, Search, Retry, Save };

@@ -87,7 +87,7 @@ ChangePanel::ChangePanel(Workbench& workbench, QWidget* parent)
 
 QLayout* ChangePanel::makeHead()
 {
-    auto* label = heading(tr("&Change for"), this);
+    auto* label = heading(tr("Cha&nge for"), this);
     label->setBuddy(m_scope);
     m_scope->setAccessibleName(tr("Change for"));
     m_scope->setWhatsThis(

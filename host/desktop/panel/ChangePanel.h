@@ -12,7 +12,8 @@
 
 namespace host::desktop {
 
-/// The change that is being prepared: for which documents, what is set, where it will disappoint, where the results go.
+/// The change that is being prepared: for which documents, what is set,
+/// where it will disappoint, where the results go.
 class ChangePanel : public QWidget
 {
     Q_OBJECT

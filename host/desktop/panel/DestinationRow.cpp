@@ -11,12 +11,8 @@ DestinationRow::DestinationRow(QWidget* parent)
     : QWidget(parent), m_kind(new QComboBox(this)), m_folder(new QLineEdit(this)),
       m_choose(new QToolButton(this)), m_suffix(new QLineEdit(this)), m_note(new QLabel(this))
 {
+    nameParts();
     m_kind->addItems({tr("The documents themselves"), tr("A folder"), tr("Beside them, under another name")});
-    m_kind->setObjectName("destination");
-    m_folder->setObjectName("destinationFolder");
-    m_choose->setObjectName("destinationChoose");
-    m_suffix->setObjectName("destinationSuffix");
-    m_note->setObjectName("destinationNote");
     m_kind->setAccessibleName(tr("Write to"));
     m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_kind->setWhatsThis(
@@ -29,17 +25,7 @@ DestinationRow::DestinationRow(QWidget* parent)
     m_choose->setToolTip(m_choose->accessibleName());
     m_suffix->setAccessibleName(tr("Added to the names"));
     m_note->setWordWrap(true);
-    auto* where = new QHBoxLayout;
-    where->setSpacing(6);
-    where->addWidget(m_folder);
-    where->addWidget(m_choose);
-    where->addWidget(m_suffix);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(6);
-    column->addWidget(m_kind);
-    column->addLayout(where);
-    column->addWidget(m_note);
+    layOutParts();
     connect(m_kind, QOverload<int>::of(&QComboBox::activated), this, [this] {
         show();
         emit edited(destination());
@@ -53,6 +39,30 @@ DestinationRow::DestinationRow(QWidget* parent)
         });
     connect(m_choose, &QToolButton::clicked, this, &DestinationRow::folderWanted);
     show();
+}
+
+void DestinationRow::nameParts()
+{
+    m_kind->setObjectName("destination");
+    m_folder->setObjectName("destinationFolder");
+    m_choose->setObjectName("destinationChoose");
+    m_suffix->setObjectName("destinationSuffix");
+    m_note->setObjectName("destinationNote");
+}
+
+void DestinationRow::layOutParts()
+{
+    auto* where = new QHBoxLayout;
+    where->setSpacing(6);
+    where->addWidget(m_folder);
+    where->addWidget(m_choose);
+    where->addWidget(m_suffix);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(6);
+    column->addWidget(m_kind);
+    column->addLayout(where);
+    column->addWidget(m_note);
 }
 
 Destination DestinationRow::destination() const

@@ -26,6 +26,8 @@ signals:
     void folderWanted();
 
 private:
+    void nameParts();
+    void layOutParts();
     void show();
 
     QComboBox* m_kind;

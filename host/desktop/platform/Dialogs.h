@@ -5,8 +5,8 @@
 
 #include <functional>
 
-/// Questions to the person. They are shown without a loop of their own, so that work goes on behind them, and a test can
-/// give the answers beforehand.
+/// Questions to the person. They are shown without a loop of their own, so that work goes on behind
+/// them, and a test can give the answers beforehand.
 namespace host::desktop::dialogs {
 
 using WithNames = std::function<void(const QStringList& names)>;

@@ -2,7 +2,8 @@
 
 #include <QStringList>
 
-/// Makes the application speak the user's language, as far as there are translations; English where there are none.
+/// Makes the application speak the user's language, as far as there
+/// are translations; English where there are none.
 namespace host::desktop::language {
 
 /// To be called once, after the application object is made.

@@ -1,11 +1,11 @@
 #include "ActionDialog.h"
 
+#include "SettingsLines.h"
 #include "host/program/InstallLayout.h"
 #include "host/settings/DialogSettings.h"
 #include "host/settings/SetOption.h"
 #include "host/settings/SettingsFile.h"
 #include "host/settings/SettingsFolder.h"
-#include "host/settings/SettingsWords.h"
 #include "host/terminal/UsageError.h"
 
 #include "shared/CActionInterface.h"
@@ -45,8 +45,7 @@ StoredChoice choiceOf(const SettingsMap& map)
     std::vector<std::string> leftOut;
     for (const std::string& word : setoption::wordsOf(map, leftOut))
         choice.options += {"--set", QString::fromStdString(word)};
-    for (const QString& line : QString::fromStdString(settingsInWords(map)).split('\n', Qt::SkipEmptyParts))
-        choice.lines += line.simplified();
+    choice.lines = settingsLines(map);
     return choice;
 }
 

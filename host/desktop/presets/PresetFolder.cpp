@@ -1,8 +1,8 @@
 #include "PresetFolder.h"
 
+#include "SettingsLines.h"
 #include "host/change/ViewJson.h"
 #include "host/settings/SettingsFolder.h"
-#include "host/settings/SettingsWords.h"
 #include "host/terminal/UsageError.h"
 
 #include "EditInitialView/InitialViewSettings.h"
@@ -27,9 +27,7 @@ QStringList linesOf(const StoredSettings& stored)
     for (const ActionEntry& entry : stored.entries) {
         if (entry.action != initialview::actionName)
             throw UsageError("it holds another action, \"" + entry.action.toStdString() + "\"");
-        for (const QString& line :
-             QString::fromStdString(settingsInWords(entry.settings)).split('\n', Qt::SkipEmptyParts))
-            lines += line.simplified();
+        lines += settingsLines(entry.settings);
     }
     return lines;
 }

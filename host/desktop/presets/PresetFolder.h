@@ -4,8 +4,8 @@
 
 namespace host::desktop {
 
-/// The user's presets: the views kept by the window, and the action lists and favourites of the action. Read whenever
-/// somebody asks, so that what other programs store is among them.
+/// The user's presets: the views kept by the window, and the action lists and favourites of the action. Read
+/// whenever somebody asks, so that what other programs store is among them.
 class PresetFolder
 {
 public:

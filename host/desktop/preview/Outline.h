@@ -12,8 +12,8 @@
 
 namespace host::desktop {
 
-/// The first bookmarks of a document, read by a child process while somebody looks at it. Of several wishes the newest
-/// counts.
+/// The first bookmarks of a document, read by a child process while somebody
+/// looks at it. Of several wishes the newest counts.
 class Outline : public QObject
 {
     Q_OBJECT

@@ -11,8 +11,8 @@ class QJsonObject;
 
 namespace host::desktop {
 
-/// Pictures of one document's pages, drawn by a child process while somebody looks at them. Nothing that the child says
-/// is believed; where it says nothing in time, there are no pictures.
+/// Pictures of one document's pages, drawn by a child process while somebody looks at them. Nothing that the
+/// child says is believed; where it says nothing in time, there are no pictures.
 class PagePictures : public QObject
 {
     Q_OBJECT
@@ -22,13 +22,14 @@ public:
     explicit PagePictures(const QString& program, QObject* parent = nullptr);
     ~PagePictures() override;
 
-    /// From now on of this document. \param state tells one state of the file from another: pictures of the same
-    /// document in the same state are kept. \param password empty for none.
+    /// From now on of this document. \param state tells one state of the file from another: pictures of the
+    /// same document in the same state are kept. \param password empty for none.
     void setDocument(const QByteArray& path, const QByteArray& password,
                      const std::shared_ptr<const void>& state);
 
-    /// \param page from 1. \param width in pixels, as it is shown; 0 asks for none. \returns the largest picture that
-    /// is known, or a null image; a larger one that is needed is asked for, and said by came().
+    /// \param page from 1. \param width in pixels, as it is shown; 0 asks for none.
+    ///     \returns the largest picture that is known, or a null image; a larger one that
+    ///     is needed is asked for, and said by came().
     QImage of(int page, double width);
 
 signals:

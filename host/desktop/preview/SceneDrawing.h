@@ -14,8 +14,8 @@ namespace host::desktop {
 class SceneDrawing
 {
 public:
-    /// A picture of a page for a place of that width, or a null image where there is none. Without a width what is
-    /// there will do.
+    /// A picture of a page for a place of that width, or a null image where there is
+    /// none. Without a width what is there will do.
     using Picture = std::function<QImage(int page, double width)>;
 
     SceneDrawing(const PreviewScene& scene, const QPalette& palette, const Picture& picture)

@@ -22,12 +22,14 @@ struct KindRow
 const KindRow kindRows[] = {
     {Kind::All, QT_TRANSLATE_NOOP("DocumentFilter", "All documents")},
     {Kind::NoTitleShown, QT_TRANSLATE_NOOP("DocumentFilter", "Do not show their title")},
+    {Kind::TitleNotShown, QT_TRANSLATE_NOOP("DocumentFilter", "Have a title but do not show it")},
     {Kind::NoTitle, QT_TRANSLATE_NOOP("DocumentFilter", "Have no title")},
     {Kind::BookmarksNotShown, QT_TRANSLATE_NOOP("DocumentFilter", "Have bookmarks but do not show them")},
     {Kind::NoBookmarks, QT_TRANSLATE_NOOP("DocumentFilter", "Have no bookmarks")},
     {Kind::OpensAtPage, QT_TRANSLATE_NOOP("DocumentFilter", "Open at a page of their own")},
     {Kind::WillChange, QT_TRANSLATE_NOOP("DocumentFilter", "Will change")},
     {Kind::Changed, QT_TRANSLATE_NOOP("DocumentFilter", "Were changed")},
+    {Kind::Failed, QT_TRANSLATE_NOOP("DocumentFilter", "Failed in the run")},
     {Kind::Trouble, QT_TRANSLATE_NOOP("DocumentFilter", "Failed or cannot be changed")},
     {Kind::Signed, QT_TRANSLATE_NOOP("DocumentFilter", "Signed")},
     {Kind::Encrypted, QT_TRANSLATE_NOOP("DocumentFilter", "Encrypted")},
@@ -44,6 +46,8 @@ bool holds(Kind kind, const DocumentFacts& facts)
     switch (kind) {
     case Kind::NoTitleShown:
         return !facts.showsTitle();
+    case Kind::TitleNotShown:
+        return !facts.title().isEmpty() && !facts.showsTitle();
     case Kind::NoTitle:
         return facts.title().isEmpty();
     case Kind::BookmarksNotShown:
@@ -101,6 +105,8 @@ bool DocumentFilter::isOfKind(const DocumentRecord& record) const
         return record.state() == DocumentRecord::State::WillChange;
     case Kind::Changed:
         return record.state() == DocumentRecord::State::Changed;
+    case Kind::Failed:
+        return record.state() == DocumentRecord::State::Failed;
     case Kind::Trouble:
         return record.isInTrouble();
     default:

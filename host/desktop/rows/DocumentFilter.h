@@ -13,11 +13,13 @@ public:
     enum class Kind {
         All,
         NoTitleShown,
+        TitleNotShown,
         NoTitle,
         BookmarksNotShown,
         NoBookmarks,
         OpensAtPage,
         WillChange,
+        Failed,
         Trouble,
         Signed,
         Encrypted,

@@ -9,6 +9,8 @@
 #include <QSaveFile>
 #include <QUuid>
 
+#include <optional>
+
 namespace host::desktop {
 
 namespace {
@@ -62,6 +64,18 @@ ChangeDraft draftFrom(const QJsonObject& object)
     return draft;
 }
 
+/// Nothing for what no session has written, or for what cannot be read now: that stays as it is.
+std::optional<QJsonObject> stored(const QString& path)
+{
+    QFile file(path);
+    const bool isRead = file.open(QIODevice::ReadOnly) && file.size() <= largestSession;
+    const QJsonDocument json = isRead ? QJsonDocument::fromJson(file.readAll()) : QJsonDocument();
+    if (json.isObject())
+        return json.object();
+    qWarning("%s cannot be read, and is left as it is", qPrintable(path));
+    return std::nullopt;
+}
+
 } // namespace
 
 Session::Session(Workbench& workbench, const QString& folder, QObject* parent)
@@ -90,20 +104,21 @@ QVector<QByteArray> Session::restore()
         lock->setStaleLockTime(0);
         if (!lock->tryLock())
             continue;
+        const auto object = stored(folder.filePath(name));
+        if (!object)
+            continue;
         m_lock = std::move(lock);
         m_file = folder.filePath(name);
-        break;
+        return takeOver(*object);
     }
-    if (m_file.isEmpty()) {
-        m_file = folder.filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + ".session");
-        m_lock = std::make_unique<QLockFile>(m_file + ".lock");
-        m_lock->tryLock();
-        return {};
-    }
-    QFile file(m_file);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    const QJsonObject object = QJsonDocument::fromJson(file.read(largestSession)).object();
+    m_file = folder.filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + ".session");
+    m_lock = std::make_unique<QLockFile>(m_file + ".lock");
+    m_lock->tryLock();
+    return {};
+}
+
+QVector<QByteArray> Session::takeOver(const QJsonObject& object)
+{
     m_workbench.setDestination(destinationFrom(object.value("destination").toObject()));
     m_workbench.setDraft(draftFrom(object.value("draft").toObject()));
     QVector<QByteArray> paths;

@@ -9,8 +9,8 @@
 
 namespace host::desktop {
 
-/// Keeps list and change on the disk, so that they survive a crash or a session that is closed. Passwords are no part
-/// of it.
+/// Keeps list and change on the disk, so that they survive a crash or a
+/// session that is closed. Passwords are no part of it.
 class Session : public QObject
 {
     Q_OBJECT
@@ -20,11 +20,13 @@ public:
     Session(Workbench& workbench, const QString& folder, QObject* parent = nullptr);
     ~Session() override;
 
-    /// Takes over the newest session that no window holds. \returns the documents that were in its list.
+    /// Takes over the newest session that no window holds and that can be read; begins a new one where there is none.
+    /// \returns the documents that were in its list.
     QVector<QByteArray> restore();
     void save();
 
 private:
+    QVector<QByteArray> takeOver(const QJsonObject& object);
     QByteArray toJson() const;
 
     Workbench& m_workbench;

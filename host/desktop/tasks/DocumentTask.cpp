@@ -1,8 +1,8 @@
 #include "DocumentTask.h"
 
-#include <QFile>
+#include "host/desktop/change/RunOrder.h"
 
-#include <map>
+#include <QFile>
 
 namespace host::desktop {
 
@@ -12,12 +12,8 @@ DocumentTask::DocumentTask(DocumentTable& table, const Means& means, QObject* pa
 
 void DocumentTask::start(const DocumentTable::Ids& ids)
 {
-    std::map<std::pair<int, DocumentRecord::Signed>, DocumentTable::Ids> kinds;
-    for (const DocumentId id : ids)
-        if (const DocumentRecord* record = m_table.find(id))
-            kinds[{record->password, record->howSigned}].append(id);
-    for (auto& [kind, members] : kinds)
-        queue({std::move(members), kind.first, kind.second});
+    for (const auto& [kind, members] : RunOrder::kindsOf(m_table, ids))
+        queue({members, kind.first, kind.second});
     startPart();
 }
 

@@ -12,8 +12,8 @@
 
 namespace host::desktop {
 
-/// Work of the program on documents of the list: starts it, and puts what it tells into their records. Documents
-/// that need different options have a child process each kind, one after the other.
+/// Work of the program on documents of the list: starts it, and puts what it tells into their records.
+/// Documents that need different options have a child process each kind, one after the other.
 class DocumentTask : public QObject
 {
     Q_OBJECT

@@ -5,16 +5,6 @@
 
 namespace host::desktop {
 
-namespace {
-
-QString wordOf(DocumentRecord::Signed how)
-{
-    return how == DocumentRecord::Signed::Append ? QStringLiteral("append")
-                                                 : QStringLiteral("append-certified");
-}
-
-} // namespace
-
 Running::Running(Mode mode, const RunOrder& order, const QString& reports, DocumentTable& table,
                  const Means& means, QObject* parent)
     : DocumentTask(table, means, parent), m_mode(mode), m_order(order), m_folder(reports)
@@ -35,9 +25,8 @@ void Running::start(const DocumentTable::Ids& ids)
 
 QStringList Running::arguments(const Part& part)
 {
-    QStringList words = QStringList{"run"} + m_order.arguments(m_base);
-    if (part.howSigned != DocumentRecord::Signed::Refuse)
-        words += {"--signed", wordOf(part.howSigned)};
+    const QStringList words =
+        QStringList{"run"} + m_order.arguments(m_base) + RunOrder::argumentsOf(part.howSigned);
     if (m_mode == Mode::Try)
         return words + QStringList{"--dry-run"};
     const QString time = QDateTime::currentDateTimeUtc().toString("yyyy-MM-ddTHHmmss.zzzZ");

@@ -55,11 +55,11 @@ struct Button
 };
 
 const Button buttons[] = {
-    {Remedy::Password, QT_TRANSLATE_NOOP("ReasonTexts", "Give &Password…")},
-    {Remedy::AppendSigned, QT_TRANSLATE_NOOP("ReasonTexts", "&Append All the Same")},
-    {Remedy::AppendCertified, QT_TRANSLATE_NOOP("ReasonTexts", "&Append All the Same")},
+    {Remedy::Password, QT_TRANSLATE_NOOP("ReasonTexts", "&Give Password…")},
+    {Remedy::AppendSigned, QT_TRANSLATE_NOOP("ReasonTexts", "Append A&ll the Same")},
+    {Remedy::AppendCertified, QT_TRANSLATE_NOOP("ReasonTexts", "Append A&ll the Same")},
     {Remedy::ReadAgain, QT_TRANSLATE_NOOP("ReasonTexts", "Read A&gain")},
-    {Remedy::ShowFolder, QT_TRANSLATE_NOOP("ReasonTexts", "Show in &Folder")},
+    {Remedy::ShowFolder, QT_TRANSLATE_NOOP("ReasonTexts", "Show in Fo&lder")},
 };
 // clang-format on
 

@@ -5,59 +5,66 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <algorithm>
 #include <array>
 
 namespace host::desktop::viewtexts {
 
 namespace {
 
-using viewentries::Kind;
-
 struct EntryText
 {
+    ViewEntry entry;
     const char* name;
     const char* help;
 };
 
 // clang-format off
-const std::array<EntryText, viewEntryCount> entryTexts{{
-    {QT_TRANSLATE_NOOP("ViewTexts", "Panel"),
+constexpr std::array<EntryText, viewEntryCount> entryTexts{{
+    {ViewEntry::PageMode, QT_TRANSLATE_NOOP("ViewTexts", "Panel"),
      QT_TRANSLATE_NOOP("ViewTexts", "What stands beside the page when the document opens: nothing, its bookmarks, small pictures of its pages, its layers or its attachments. Full screen shows the page alone, as in a presentation. Bookmarks are widely followed, full screen only after the viewer has asked.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Layout"),
+    {ViewEntry::PageLayout, QT_TRANSLATE_NOOP("ViewTexts", "Layout"),
      QT_TRANSLATE_NOOP("ViewTexts", "How the pages are set out. In columns they follow each other while scrolling; single pages and pairs are turned. Simple viewers know fewer layouts or keep the one used last.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Page"),
+    {ViewEntry::OpenPage, QT_TRANSLATE_NOOP("ViewTexts", "Page"),
      QT_TRANSLATE_NOOP("ViewTexts", "The page that is shown first. It counts the sheets from the beginning, whatever numbers are printed on them. Widely followed, but many viewers return to where the reader stopped last.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Zoom"),
+    {ViewEntry::Zoom, QT_TRANSLATE_NOOP("ViewTexts", "Zoom"),
      QT_TRANSLATE_NOOP("ViewTexts", "How large the first page is shown. Fitting the page or its width and percentages are widely followed; fitting the height or what is visible is rarer.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Tool bars"),
+    {ViewEntry::HideToolbar, QT_TRANSLATE_NOOP("ViewTexts", "Tool bars"),
      QT_TRANSLATE_NOOP("ViewTexts", "Whether the viewer hides its tool bars. Viewers in web browsers ignore this.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Menu bar"),
+    {ViewEntry::HideMenubar, QT_TRANSLATE_NOOP("ViewTexts", "Menu bar"),
      QT_TRANSLATE_NOOP("ViewTexts", "Whether the viewer hides its menu bar. Readers then need the keyboard. Viewers in web browsers ignore this.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Controls"),
+    {ViewEntry::HideWindowUI, QT_TRANSLATE_NOOP("ViewTexts", "Controls"),
      QT_TRANSLATE_NOOP("ViewTexts", "Whether the viewer hides scroll bars and other controls. Viewers in web browsers ignore this.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Window size"),
+    {ViewEntry::FitWindow, QT_TRANSLATE_NOOP("ViewTexts", "Window size"),
      QT_TRANSLATE_NOOP("ViewTexts", "Whether the window takes the size of the first page. Viewers in web browsers and those with tabs ignore this.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Window place"),
+    {ViewEntry::CenterWindow, QT_TRANSLATE_NOOP("ViewTexts", "Window place"),
      QT_TRANSLATE_NOOP("ViewTexts", "Whether the window stands in the middle of the screen. Viewers in web browsers and those with tabs ignore this.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Title bar"),
+    {ViewEntry::DisplayDocTitle, QT_TRANSLATE_NOOP("ViewTexts", "Title bar"),
      QT_TRANSLATE_NOOP("ViewTexts", "What the title bar of the viewer says: the name of the file, or the document's own title. Accessibility rules ask for the title.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "After full screen"),
+    {ViewEntry::NonFullScreenPageMode, QT_TRANSLATE_NOOP("ViewTexts", "After full screen"),
      QT_TRANSLATE_NOOP("ViewTexts", "The panel that shows once full screen is left.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Reading direction"),
+    {ViewEntry::Direction, QT_TRANSLATE_NOOP("ViewTexts", "Reading direction"),
      QT_TRANSLATE_NOOP("ViewTexts", "Which page of a pair stands on the left. It does not change the text.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Print scaling"),
+    {ViewEntry::PrintScaling, QT_TRANSLATE_NOOP("ViewTexts", "Print scaling"),
      QT_TRANSLATE_NOOP("ViewTexts", "How the print dialog scales pages at first. Forms and labels want none.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Two-sided printing"),
+    {ViewEntry::Duplex, QT_TRANSLATE_NOOP("ViewTexts", "Two-sided printing"),
      QT_TRANSLATE_NOOP("ViewTexts", "How the print dialog uses the two sides of the paper at first.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Paper tray"),
+    {ViewEntry::PickTrayByPDFSize, QT_TRANSLATE_NOOP("ViewTexts", "Paper tray"),
      QT_TRANSLATE_NOOP("ViewTexts", "Whether the size of the page selects the paper tray.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Copies"),
+    {ViewEntry::NumCopies, QT_TRANSLATE_NOOP("ViewTexts", "Copies"),
      QT_TRANSLATE_NOOP("ViewTexts", "The number of copies that the print dialog proposes.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Title"),
+    {ViewEntry::Title, QT_TRANSLATE_NOOP("ViewTexts", "Title"),
      QT_TRANSLATE_NOOP("ViewTexts", "The document's title, as its properties and the title bar show it.")},
-    {QT_TRANSLATE_NOOP("ViewTexts", "Language"),
+    {ViewEntry::Lang, QT_TRANSLATE_NOOP("ViewTexts", "Language"),
      QT_TRANSLATE_NOOP("ViewTexts", "The document's language, for example en-GB. Screen readers choose the voice by it.")},
 }};
+
+constexpr bool isRepeated(const EntryText& row, const EntryText& next)
+{
+    return row.entry >= next.entry;
+}
+static_assert(std::adjacent_find(entryTexts.begin(), entryTexts.end(), isRepeated) == entryTexts.end(),
+              "a row for each entry, in their order");
 
 struct ValueText
 {

@@ -273,6 +273,14 @@
         <source>Encrypted</source>
         <translation>Verschlüsselt</translation>
     </message>
+    <message>
+        <source>Have a title but do not show it</source>
+        <translation>Haben einen Titel, zeigen ihn aber nicht</translation>
+    </message>
+    <message>
+        <source>Failed in the run</source>
+        <translation>Im Durchlauf fehlgeschlagen</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -283,6 +291,30 @@
     <message>
         <source>the program said something that is not understood</source>
         <translation>das Programm hat etwas gesagt, das nicht zu verstehen ist</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordTrial</name>
+    <message numerus="yes">
+        <source>The password opens none of the %n document(s) that want one.</source>
+        <translation>
+            <numerusform>Das Passwort öffnet das %n Dokument nicht, das eines verlangt.</numerusform>
+            <numerusform>Das Passwort öffnet keines der %n Dokumente, die eines verlangen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The password opens %n document(s).</source>
+        <translation>
+            <numerusform>Das Passwort öffnet %n Dokument.</numerusform>
+            <numerusform>Das Passwort öffnet %n Dokumente.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) want another one.</source>
+        <translation>
+            <numerusform>%n Dokument verlangt ein anderes.</numerusform>
+            <numerusform>%n Dokumente verlangen ein anderes.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -395,11 +427,11 @@
         <translation>Beim Lesen ist das lesende Programm abgestürzt; das Dokument ist, wie es war.</translation>
     </message>
     <message>
-        <source>Give &amp;Password…</source>
+        <source>&amp;Give Password…</source>
         <translation>&amp;Passwort eingeben…</translation>
     </message>
     <message>
-        <source>&amp;Append All the Same</source>
+        <source>Append A&amp;ll the Same</source>
         <translation>Trotzde&amp;m anhängen</translation>
     </message>
     <message>
@@ -407,7 +439,7 @@
         <translation>Neu einle&amp;sen</translation>
     </message>
     <message>
-        <source>Show in &amp;Folder</source>
+        <source>Show in Fo&amp;lder</source>
         <translation>I&amp;m Ordner anzeigen</translation>
     </message>
     <message>
@@ -1207,7 +1239,7 @@
         <translation>Schre&amp;iben</translation>
     </message>
     <message>
-        <source>&amp;Change for</source>
+        <source>Cha&amp;nge for</source>
         <translation>&amp;Für</translation>
     </message>
     <message>
@@ -1376,6 +1408,10 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>Das Passwort wird bei allen Dokumenten probiert, die eines verlangen. Es wird behalten, bis dieses Fenster geschlossen wird.</translation>
     </message>
+    <message>
+        <source>The command is in the clipboard. It waits for the password to be typed.</source>
+        <translation>Der Befehl ist in der Zwischenablage. Er wartet darauf, dass das Passwort eingegeben wird.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1467,7 +1503,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es starten.</translation>
     </message>
     <message>
-        <source>Add &amp;Files…</source>
+        <source>&amp;Add Files…</source>
         <translation>Dateien hinzu&amp;fügen…</translation>
     </message>
     <message>
@@ -1482,7 +1518,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
 <context>
     <name>host::desktop::FilterBar</name>
     <message>
-        <source>S&amp;how:</source>
+        <source>&amp;Show:</source>
         <translation>Zei&amp;gen:</translation>
     </message>
     <message>
@@ -1752,7 +1788,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
 <context>
     <name>host::desktop::RunBar</name>
     <message>
-        <source>Show &amp;Why</source>
+        <source>Show Wh&amp;y</source>
         <translation>Gründe an&amp;zeigen</translation>
     </message>
     <message>
@@ -1768,7 +1804,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Stellt jedes Dokument so wieder her, wie es vor dem Durchlauf war</translation>
     </message>
     <message>
-        <source>Try Failed &amp;Again</source>
+        <source>Tr&amp;y Failed Again</source>
         <translation>Fehlgeschlagene &amp;wiederholen</translation>
     </message>
     <message>
@@ -1776,7 +1812,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Bearbeitet noch einmal, was fehlschlug oder nicht erledigt wurde</translation>
     </message>
     <message>
-        <source>&amp;Save Report…</source>
+        <source>Save Repor&amp;t…</source>
         <translation>Beri&amp;cht speichern…</translation>
     </message>
     <message>
@@ -1784,7 +1820,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Speichert in einer Datei, was aus jedem Dokument geworden ist</translation>
     </message>
     <message>
-        <source>&amp;Pause</source>
+        <source>Pa&amp;use</source>
         <translation>Anhal&amp;ten</translation>
     </message>
     <message>
@@ -1808,7 +1844,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Fortschritt</translation>
     </message>
     <message numerus="yes">
-        <source>Sho&amp;w %n Failed</source>
+        <source>Show %n Fa&amp;iled</source>
         <translation>
             <numerusform>%n Fehlgeschlagenes an&amp;zeigen</numerusform>
             <numerusform>%n Fehlgeschlagene an&amp;zeigen</numerusform>
@@ -2189,6 +2225,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
             <numerusform>%n Dokument blieb unberührt, da es nicht mehr so ist, wie der Durchlauf es hinterließ.</numerusform>
             <numerusform>%n Dokumente blieben unberührt, da sie nicht mehr so sind, wie der Durchlauf sie hinterließ.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No document of the list wants a password.</source>
+        <translation>Kein Dokument der Liste verlangt ein Passwort.</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,30 @@
     </message>
 </context>
 <context>
+    <name>PasswordTrial</name>
+    <message numerus="yes">
+        <source>The password opens none of the %n document(s) that want one.</source>
+        <translation>
+            <numerusform>The password does not open the %n document that wants one.</numerusform>
+            <numerusform>The password opens none of the %n documents that want one.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The password opens %n document(s).</source>
+        <translation>
+            <numerusform>The password opens %n document.</numerusform>
+            <numerusform>The password opens %n documents.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) want another one.</source>
+        <translation>
+            <numerusform>%n document wants another one.</numerusform>
+            <numerusform>%n documents want another one.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::ChangePanel</name>
     <message numerus="yes">
         <source>all %n document(s)</source>
@@ -120,10 +144,10 @@
 <context>
     <name>host::desktop::RunBar</name>
     <message numerus="yes">
-        <source>Sho&amp;w %n Failed</source>
+        <source>Show %n Fa&amp;iled</source>
         <translation>
-            <numerusform>Sho&amp;w %n Failed</numerusform>
-            <numerusform>Sho&amp;w %n Failed</numerusform>
+            <numerusform>Show %n Fa&amp;iled</numerusform>
+            <numerusform>Show %n Fa&amp;iled</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -273,6 +273,14 @@
         <source>Encrypted</source>
         <translation>Cifrados</translation>
     </message>
+    <message>
+        <source>Have a title but do not show it</source>
+        <translation>Tienen título pero no lo muestran</translation>
+    </message>
+    <message>
+        <source>Failed in the run</source>
+        <translation>Fallidos en la ejecución</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -283,6 +291,30 @@
     <message>
         <source>the program said something that is not understood</source>
         <translation>el programa dijo algo que no se entiende</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordTrial</name>
+    <message numerus="yes">
+        <source>The password opens none of the %n document(s) that want one.</source>
+        <translation>
+            <numerusform>La contraseña no abre el %n documento que la pide.</numerusform>
+            <numerusform>La contraseña no abre ninguno de los %n documentos que piden una.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The password opens %n document(s).</source>
+        <translation>
+            <numerusform>La contraseña abre %n documento.</numerusform>
+            <numerusform>La contraseña abre %n documentos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) want another one.</source>
+        <translation>
+            <numerusform>%n documento pide otra.</numerusform>
+            <numerusform>%n documentos piden otra.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -395,11 +427,11 @@
         <translation>Al leerlo falló el lector; está como estaba.</translation>
     </message>
     <message>
-        <source>Give &amp;Password…</source>
+        <source>&amp;Give Password…</source>
         <translation>&amp;Introducir contraseña…</translation>
     </message>
     <message>
-        <source>&amp;Append All the Same</source>
+        <source>Append A&amp;ll the Same</source>
         <translation>Añadir de t&amp;odos modos</translation>
     </message>
     <message>
@@ -407,7 +439,7 @@
         <translation>Leer de n&amp;uevo</translation>
     </message>
     <message>
-        <source>Show in &amp;Folder</source>
+        <source>Show in Fo&amp;lder</source>
         <translation>M&amp;ostrar en la carpeta</translation>
     </message>
     <message>
@@ -1207,7 +1239,7 @@
         <translation>Escri&amp;bir</translation>
     </message>
     <message>
-        <source>&amp;Change for</source>
+        <source>Cha&amp;nge for</source>
         <translation>&amp;Para</translation>
     </message>
     <message>
@@ -1376,6 +1408,10 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>La contraseña se prueba en todos los documentos que la piden. Se conserva hasta que se cierre esta ventana.</translation>
     </message>
+    <message>
+        <source>The command is in the clipboard. It waits for the password to be typed.</source>
+        <translation>El comando está en el portapapeles. Espera a que se escriba la contraseña.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1467,7 +1503,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.</translation>
     </message>
     <message>
-        <source>Add &amp;Files…</source>
+        <source>&amp;Add Files…</source>
         <translation>Añadir a&amp;rchivos…</translation>
     </message>
     <message>
@@ -1482,7 +1518,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
 <context>
     <name>host::desktop::FilterBar</name>
     <message>
-        <source>S&amp;how:</source>
+        <source>&amp;Show:</source>
         <translation>&amp;Mostrar:</translation>
     </message>
     <message>
@@ -1752,7 +1788,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
 <context>
     <name>host::desktop::RunBar</name>
     <message>
-        <source>Show &amp;Why</source>
+        <source>Show Wh&amp;y</source>
         <translation>Ve&amp;r por qué</translation>
     </message>
     <message>
@@ -1768,7 +1804,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Devuelve cada documento a como estaba antes de la ejecución</translation>
     </message>
     <message>
-        <source>Try Failed &amp;Again</source>
+        <source>Tr&amp;y Failed Again</source>
         <translation>Reintentar &amp;los fallidos</translation>
     </message>
     <message>
@@ -1776,7 +1812,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Repite lo que falló o no se hizo</translation>
     </message>
     <message>
-        <source>&amp;Save Report…</source>
+        <source>Save Repor&amp;t…</source>
         <translation>&amp;Guardar informe…</translation>
     </message>
     <message>
@@ -1784,7 +1820,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Guarda en un archivo qué ha sido de cada documento</translation>
     </message>
     <message>
-        <source>&amp;Pause</source>
+        <source>Pa&amp;use</source>
         <translation>Pa&amp;usar</translation>
     </message>
     <message>
@@ -1808,7 +1844,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Progreso</translation>
     </message>
     <message numerus="yes">
-        <source>Sho&amp;w %n Failed</source>
+        <source>Show %n Fa&amp;iled</source>
         <translation>
             <numerusform>Ve&amp;r %n fallido</numerusform>
             <numerusform>Ve&amp;r %n fallidos</numerusform>
@@ -2189,6 +2225,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
             <numerusform>%n documento quedó intacto, pues ya no está como lo dejó la ejecución.</numerusform>
             <numerusform>%n documentos quedaron intactos, pues ya no están como los dejó la ejecución.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No document of the list wants a password.</source>
+        <translation>Ningún documento de la lista pide una contraseña.</translation>
     </message>
 </context>
 </TS>

@@ -273,6 +273,14 @@
         <source>Encrypted</source>
         <translation>Chiffrés</translation>
     </message>
+    <message>
+        <source>Have a title but do not show it</source>
+        <translation>Ont un titre mais ne l’affichent pas</translation>
+    </message>
+    <message>
+        <source>Failed in the run</source>
+        <translation>En échec lors du traitement</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -283,6 +291,30 @@
     <message>
         <source>the program said something that is not understood</source>
         <translation>le programme a dit quelque chose d’incompréhensible</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordTrial</name>
+    <message numerus="yes">
+        <source>The password opens none of the %n document(s) that want one.</source>
+        <translation>
+            <numerusform>Le mot de passe n’ouvre pas le %n document qui en demande un.</numerusform>
+            <numerusform>Le mot de passe n’ouvre aucun des %n documents qui en demandent un.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The password opens %n document(s).</source>
+        <translation>
+            <numerusform>Le mot de passe ouvre %n document.</numerusform>
+            <numerusform>Le mot de passe ouvre %n documents.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) want another one.</source>
+        <translation>
+            <numerusform>%n document en demande un autre.</numerusform>
+            <numerusform>%n documents en demandent un autre.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -395,11 +427,11 @@
         <translation>Sa lecture a fait planter le lecteur&#xa0;; il est tel qu’il était.</translation>
     </message>
     <message>
-        <source>Give &amp;Password…</source>
+        <source>&amp;Give Password…</source>
         <translation>Saisir le mot de &amp;passe…</translation>
     </message>
     <message>
-        <source>&amp;Append All the Same</source>
+        <source>Append A&amp;ll the Same</source>
         <translation>A&amp;jouter malgré tout</translation>
     </message>
     <message>
@@ -407,7 +439,7 @@
         <translation>Re&amp;lire</translation>
     </message>
     <message>
-        <source>Show in &amp;Folder</source>
+        <source>Show in Fo&amp;lder</source>
         <translation>Afficher dans le dossi&amp;er</translation>
     </message>
     <message>
@@ -1207,7 +1239,7 @@
         <translation>&amp;Écrire</translation>
     </message>
     <message>
-        <source>&amp;Change for</source>
+        <source>Cha&amp;nge for</source>
         <translation>P&amp;our</translation>
     </message>
     <message>
@@ -1376,6 +1408,10 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>Le mot de passe est essayé sur tous les documents qui en demandent un. Il est gardé jusqu’à la fermeture de cette fenêtre.</translation>
     </message>
+    <message>
+        <source>The command is in the clipboard. It waits for the password to be typed.</source>
+        <translation>La commande est dans le presse-papiers. Elle attend que le mot de passe soit saisi.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1467,7 +1503,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous ne le lanciez.</translation>
     </message>
     <message>
-        <source>Add &amp;Files…</source>
+        <source>&amp;Add Files…</source>
         <translation>Ajouter des fic&amp;hiers…</translation>
     </message>
     <message>
@@ -1482,7 +1518,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
 <context>
     <name>host::desktop::FilterBar</name>
     <message>
-        <source>S&amp;how:</source>
+        <source>&amp;Show:</source>
         <translation>Affic&amp;her&#xa0;:</translation>
     </message>
     <message>
@@ -1752,7 +1788,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
 <context>
     <name>host::desktop::RunBar</name>
     <message>
-        <source>Show &amp;Why</source>
+        <source>Show Wh&amp;y</source>
         <translation>Vo&amp;ir pourquoi</translation>
     </message>
     <message>
@@ -1768,7 +1804,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Rend chaque document tel qu’il était avant le traitement</translation>
     </message>
     <message>
-        <source>Try Failed &amp;Again</source>
+        <source>Tr&amp;y Failed Again</source>
         <translation>Réessa&amp;yer les échecs</translation>
     </message>
     <message>
@@ -1776,7 +1812,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Reprend ce qui a échoué ou n’a pas été fait</translation>
     </message>
     <message>
-        <source>&amp;Save Report…</source>
+        <source>Save Repor&amp;t…</source>
         <translation>Enregi&amp;strer le rapport…</translation>
     </message>
     <message>
@@ -1784,7 +1820,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Conserve dans un fichier ce qu’est devenu chaque document</translation>
     </message>
     <message>
-        <source>&amp;Pause</source>
+        <source>Pa&amp;use</source>
         <translation>&amp;Suspendre</translation>
     </message>
     <message>
@@ -1808,7 +1844,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Progression</translation>
     </message>
     <message numerus="yes">
-        <source>Sho&amp;w %n Failed</source>
+        <source>Show %n Fa&amp;iled</source>
         <translation>
             <numerusform>Vo&amp;ir %n échec</numerusform>
             <numerusform>Vo&amp;ir %n échecs</numerusform>
@@ -2189,6 +2225,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
             <numerusform>%n document a été laissé tel quel, car il n’est plus comme le traitement l’avait laissé.</numerusform>
             <numerusform>%n documents ont été laissés tels quels, car ils ne sont plus comme le traitement les avait laissés.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No document of the list wants a password.</source>
+        <translation>Aucun document de la liste ne demande de mot de passe.</translation>
     </message>
 </context>
 </TS>

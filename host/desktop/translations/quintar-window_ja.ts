@@ -269,6 +269,14 @@
         <source>Encrypted</source>
         <translation>暗号化されている</translation>
     </message>
+    <message>
+        <source>Have a title but do not show it</source>
+        <translation>タイトルがあるのに表示しない</translation>
+    </message>
+    <message>
+        <source>Failed in the run</source>
+        <translation>実行で失敗</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -279,6 +287,27 @@
     <message>
         <source>the program said something that is not understood</source>
         <translation>プログラムの出力を理解できません</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordTrial</name>
+    <message numerus="yes">
+        <source>The password opens none of the %n document(s) that want one.</source>
+        <translation>
+            <numerusform>パスワードを必要とする %n 件の文書は、このパスワードでは開けません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The password opens %n document(s).</source>
+        <translation>
+            <numerusform>このパスワードで %n 件の文書が開けます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) want another one.</source>
+        <translation>
+            <numerusform>%n 件の文書には別のパスワードが必要です。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -391,11 +420,11 @@
         <translation>読み取り中に読み取りプログラムが異常終了しました。文書は元のままです。</translation>
     </message>
     <message>
-        <source>Give &amp;Password…</source>
+        <source>&amp;Give Password…</source>
         <translation>パスワードを入力(&amp;P)…</translation>
     </message>
     <message>
-        <source>&amp;Append All the Same</source>
+        <source>Append A&amp;ll the Same</source>
         <translation>それでも追記する(&amp;A)</translation>
     </message>
     <message>
@@ -403,7 +432,7 @@
         <translation>再読み込み(&amp;G)</translation>
     </message>
     <message>
-        <source>Show in &amp;Folder</source>
+        <source>Show in Fo&amp;lder</source>
         <translation>フォルダーで表示(&amp;F)</translation>
     </message>
     <message>
@@ -1203,7 +1232,7 @@
         <translation>書き込み先(&amp;W)</translation>
     </message>
     <message>
-        <source>&amp;Change for</source>
+        <source>Cha&amp;nge for</source>
         <translation>対象(&amp;B)</translation>
     </message>
     <message>
@@ -1368,6 +1397,10 @@
         <source>The password is tried on all documents that want one. It is kept until this window is closed.</source>
         <translation>パスワードは、必要とするすべての文書で試します。このウィンドウを閉じるまで保持されます。</translation>
     </message>
+    <message>
+        <source>The command is in the clipboard. It waits for the password to be typed.</source>
+        <translation>コマンドはクリップボードにあります。実行するとパスワードの入力を待ちます。</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1459,7 +1492,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 文書またはフォルダーをここにドロップしてください。開始するまで何も変更されません。</translation>
     </message>
     <message>
-        <source>Add &amp;Files…</source>
+        <source>&amp;Add Files…</source>
         <translation>ファイルを追加(&amp;F)…</translation>
     </message>
     <message>
@@ -1474,7 +1507,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 <context>
     <name>host::desktop::FilterBar</name>
     <message>
-        <source>S&amp;how:</source>
+        <source>&amp;Show:</source>
         <translation>表示(&amp;J):</translation>
     </message>
     <message>
@@ -1738,7 +1771,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 <context>
     <name>host::desktop::RunBar</name>
     <message>
-        <source>Show &amp;Why</source>
+        <source>Show Wh&amp;y</source>
         <translation>理由を表示(&amp;Y)</translation>
     </message>
     <message>
@@ -1754,7 +1787,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>各文書を実行前の状態に戻します</translation>
     </message>
     <message>
-        <source>Try Failed &amp;Again</source>
+        <source>Tr&amp;y Failed Again</source>
         <translation>失敗分を再試行(&amp;G)</translation>
     </message>
     <message>
@@ -1762,7 +1795,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>失敗した文書と未処理の文書をもう一度処理します</translation>
     </message>
     <message>
-        <source>&amp;Save Report…</source>
+        <source>Save Repor&amp;t…</source>
         <translation>レポートを保存(&amp;S)…</translation>
     </message>
     <message>
@@ -1770,7 +1803,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>各文書がどうなったかをファイルに残します</translation>
     </message>
     <message>
-        <source>&amp;Pause</source>
+        <source>Pa&amp;use</source>
         <translation>一時停止(&amp;P)</translation>
     </message>
     <message>
@@ -1794,7 +1827,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>進行状況</translation>
     </message>
     <message numerus="yes">
-        <source>Sho&amp;w %n Failed</source>
+        <source>Show %n Fa&amp;iled</source>
         <translation>
             <numerusform>失敗した %n 個を表示(&amp;Y)</numerusform>
         </translation>
@@ -2155,6 +2188,10 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>
             <numerusform>%n 個の文書は、実行直後の状態ではないため、そのまま残しました。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No document of the list wants a password.</source>
+        <translation>パスワードを必要とする文書はリストにありません。</translation>
     </message>
 </context>
 </TS>

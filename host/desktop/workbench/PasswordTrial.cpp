@@ -45,8 +45,11 @@ std::pair<QString, bool> PasswordTrial::end(const DocumentTable& table)
     int opened = 0;
     int closed = 0;
     for (const DocumentRecord& before : std::exchange(m_before, {}))
-        if (const DocumentRecord* record = table.find(before.id))
-            ++(isWanted(*record) ? closed : opened);
+        if (const DocumentRecord* record = table.find(before.id)) {
+            const bool isRead =
+                record->facts && !before.facts; // though it may want the owner's to be changed
+            ++(isRead || !isWanted(*record) ? opened : closed);
+        }
     if (opened == 0)
         return {QCoreApplication::translate("PasswordTrial",
                                             "The password opens none of the %n document(s) that want one.",

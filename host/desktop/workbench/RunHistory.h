@@ -8,8 +8,8 @@
 
 namespace host::desktop {
 
-/// The runs that the user's folder of reports tells of, the newest first. Beside the reports of a run lies a note
-/// of what it was; a run whose window has crashed has its reports alone.
+/// The runs that the user's folder of reports tells of, the newest first. Beside the reports of a run lies a
+/// note of what it was; a run whose window has crashed has its reports alone.
 class RunHistory : public QAbstractTableModel
 {
     Q_OBJECT
@@ -37,8 +37,9 @@ public:
 
     const QString& folder() const { return m_folder; }
     void reload();
-    /// Writes a run down. \param earlier the note of a run that this one went on with, such as by trying once more what
-    /// had failed: both are told as one, and undone together. \returns empty, or why it could not be.
+    /// Writes a run down. \param earlier the note of a run that this one went on with,
+    /// such as by trying once more what had failed: both are told as one, and undone
+    /// together. \returns empty, or why it could not be.
     QString add(const Run& run, const QString& earlier = {});
     /// Empty where there is none.
     QString newestNote() const { return m_runs.empty() ? QString() : m_runs.front().note; }

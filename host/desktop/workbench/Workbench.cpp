@@ -158,16 +158,21 @@ void Workbench::collectTargets()
     const bool isOther = targets != m_targets;
     m_targets = targets;
     if (isOther && m_machine.state() != State::Results && !m_machine.isWriting()) {
-        const QSet<DocumentId> within(targets.begin(), targets.end());
-        for (const DocumentRecord& each : m_table.records())
-            if (each.isAside == within.contains(each.id))
-                m_table.change(each.id, [](DocumentRecord& record) { record.isAside = !record.isAside; });
-        m_table.flush();
+        markAside();
         m_collectSoon.stop();
         edited();
     }
     emit targetsChanged();
     emit countsChanged();
+}
+
+void Workbench::markAside()
+{
+    const QSet<DocumentId> within(m_targets.begin(), m_targets.end());
+    for (const DocumentRecord& each : m_table.records())
+        if (each.isAside == within.contains(each.id))
+            m_table.change(each.id, [](DocumentRecord& record) { record.isAside = !record.isAside; });
+    m_table.flush();
 }
 
 /// What would change has to be found out, once nothing has been edited for a moment.
@@ -205,6 +210,7 @@ void Workbench::leaveResults()
         record.result.reset();
         record.check.reset();
     });
+    markAside(); // others may have been shown or selected meanwhile
 }
 
 void Workbench::check()

@@ -95,9 +95,7 @@ public:
     QByteArray passwordOf(const DocumentRecord& record) const { return m_passwords.at(record.password); }
     /// The work under way; null when there is none.
     const DocumentTask* task() const { return m_task; }
-    /// The order of the run whose results are shown.
-    const RunOrder& lastOrder() const { return m_lastOrder; }
-    /// A run's results are shown, and it can be undone.
+    /// Where the newest run stands in the history that can be undone, 0 for the last one; -1 for none.
     int undoableRun() const { return m_history.newestUndoable(); }
 
 signals:
@@ -118,6 +116,7 @@ private:
     void leaveResults();
     void check();
     void collectTargets();
+    void markAside();
     void endReading(const ChildRun::Ending& ending);
     void endChecking(const ChildRun::Ending& ending);
     void endRunning(const ChildRun::Ending& ending);
@@ -138,6 +137,7 @@ private:
     Passwords m_passwords;
     PasswordTrial m_passwordTrial;
     RunOrder m_runOrder;
+    /// Of the run whose results are shown.
     RunOrder m_lastOrder;
     Scope m_scope = Scope::Automatic;
     Ids m_targets;

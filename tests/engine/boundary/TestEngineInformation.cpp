@@ -1,6 +1,6 @@
-#include "support/Files.h"
-#include "support/Rewritten.h"
 #include "support/Rows.h"
+#include "support/documents/Rewritten.h"
+#include "support/folders/Files.h"
 
 #include "engine/boundary/Operations.h"
 #include "engine/boundary/Session.h"

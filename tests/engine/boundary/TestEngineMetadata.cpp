@@ -1,9 +1,9 @@
 #include "engine/document/Metadata.h"
 #include "pdflibrary/ErrorCodes.h"
-#include "support/Files.h"
-#include "support/LoadedLibrary.h"
-#include "support/Rewritten.h"
 #include "support/Rows.h"
+#include "support/documents/Rewritten.h"
+#include "support/engine/LoadedLibrary.h"
+#include "support/folders/Files.h"
 
 #include <QtTest>
 

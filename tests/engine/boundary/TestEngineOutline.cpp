@@ -1,8 +1,8 @@
 #include "engine/boundary/Operations.h"
 #include "engine/boundary/Session.h"
-#include "support/EngineErrors.h"
-#include "support/PdfBuilder.h"
 #include "support/Rows.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/engine/EngineErrors.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
-#include "support/EngineErrors.h"
-#include "support/OpenedDocument.h"
 #include "support/Rows.h"
+#include "support/engine/EngineErrors.h"
+#include "support/engine/OpenedDocument.h"
 
 #include <QtTest>
 

@@ -1,9 +1,9 @@
 #include "engine/files/ByteSource.h"
 #include "engine/update/DocumentTail.h"
 #include "engine/update/SourceInput.h"
-#include "support/EngineErrors.h"
-#include "support/Files.h"
 #include "support/Rows.h"
+#include "support/engine/EngineErrors.h"
+#include "support/folders/Files.h"
 
 #include <QtTest>
 

@@ -2,8 +2,8 @@
 #include "engine/files/ByteSource.h"
 #include "engine/files/EngineError.h"
 #include "engine/pages/PageTree.h"
-#include "support/PdfBuilder.h"
 #include "support/Rows.h"
+#include "support/documents/PdfBuilder.h"
 
 #include <QtTest>
 

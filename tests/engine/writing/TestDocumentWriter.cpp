@@ -2,11 +2,11 @@
 #include "engine/files/ByteSource.h"
 #include "engine/files/OutputFile.h"
 #include "engine/writing/DocumentWriter.h"
-#include "support/EngineErrors.h"
-#include "support/PdfBuilder.h"
-#include "support/Rewritten.h"
 #include "support/Rows.h"
-#include "support/WorkFolder.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/documents/Rewritten.h"
+#include "support/engine/EngineErrors.h"
+#include "support/folders/WorkFolder.h"
 
 #include <QtTest>
 

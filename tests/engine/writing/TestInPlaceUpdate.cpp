@@ -2,10 +2,10 @@
 #include "engine/files/ByteSource.h"
 #include "engine/writing/DocumentWriter.h"
 #include "engine/writing/InPlaceUpdate.h"
-#include "support/EngineErrors.h"
-#include "support/PdfBuilder.h"
-#include "support/Rewritten.h"
 #include "support/Rows.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/documents/Rewritten.h"
+#include "support/engine/EngineErrors.h"
 
 #include <QtTest>
 

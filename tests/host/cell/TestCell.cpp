@@ -1,9 +1,9 @@
 // Documents that take their readers over, and what comes of it.
 #include "host/cell/Cell.h"
-#include "support/PdfBuilder.h"
 #include "support/Rows.h"
-#include "support/SpecialDocuments.h"
-#include "support/WorkFolder.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/documents/SpecialDocuments.h"
+#include "support/folders/WorkFolder.h"
 
 #include <QProcess>
 

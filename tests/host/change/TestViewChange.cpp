@@ -2,8 +2,8 @@
 #include "host/change/ViewJson.h"
 #include "host/change/ViewValues.h"
 #include "support/Rows.h"
-#include "support/UsageErrors.h"
-#include "support/WorkFolder.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/UsageErrors.h"
 
 #include <QJsonDocument>
 

@@ -1,9 +1,9 @@
 // What the program tells of documents that it only reads, as a user sees it.
 #include "host/reading/OrderedOutput.h"
-#include "support/PdfBuilder.h"
-#include "support/ProgramRun.h"
 #include "support/Rows.h"
-#include "support/WorkFolder.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/ProgramRun.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
-#include "support/ConfigureFixture.h"
-#include "support/ManualsSettings.h"
-#include "support/UsageErrors.h"
+#include "support/folders/ManualsSettings.h"
+#include "support/people/ConfigureFixture.h"
+#include "support/program/UsageErrors.h"
 
 #include <QComboBox>
 #include <QImage>
@@ -125,8 +125,7 @@ private slots:
             QCOMPARE(run.out, QByteArray());
             QCOMPARE(run.status, 0);
         }
-        QCOMPARE(QSettings(path("My_list.xqq"), QSettings::IniFormat).allKeys(),
-                 QSettings(data + "/manuals.xqq", QSettings::IniFormat).allKeys());
+        QCOMPARE(storedKeys(path("My_list.xqq")), storedKeys(data + "/manuals.xqq"));
         QCOMPARE(stored("My_list.xqq", "SequenceName"), QVariant("My_list"));
         QCOMPARE(stored("My_list.xqq", "ActionName0"), QVariant("Initial View"));
         Map inAFavorite = settings;
@@ -135,7 +134,7 @@ private slots:
         const auto icon = stored("favourite.ini", "ActionIcon").value<QImage>();
         QCOMPARE(icon.size(), QSize(42, 42));
         QVERIFY(icon.pixelColor(21, 21) != icon.pixelColor(0, 0));
-        QCOMPARE(QSettings(path("tool.tsf"), QSettings::IniFormat).allKeys(), QStringList{"ToolSettings"});
+        QCOMPARE(storedKeys(path("tool.tsf")), QStringList{"ToolSettings"});
         QCOMPARE(stored("tool.tsf", "ToolSettings").toMap(), settings);
         settings.remove(key::ActionName);
         QCOMPARE(stored("My_list.xqq", "ActionPrefs0").toMap(), settings);

@@ -1,5 +1,5 @@
 // Configuring starts from a document and ends with what was changed.
-#include "support/ConfigureFixture.h"
+#include "support/people/ConfigureFixture.h"
 
 #include <QComboBox>
 #include <QJsonDocument>

@@ -1,8 +1,9 @@
 // What other programs see of a run that they have started, and how they steer it.
+#include "host/cell/Sanitized.h"
 #include "host/failures/Failure.h"
-#include "support/Files.h"
 #include "support/Rows.h"
-#include "support/SpecialDocuments.h"
+#include "support/documents/SpecialDocuments.h"
+#include "support/folders/Files.h"
 
 #include <QtTest>
 
@@ -70,13 +71,6 @@ bool isAlive(pid_t process)
     return !state.isEmpty() && !state.contains(") Z ");
 }
 
-/// Workers have no memory limit under the sanitizer.
-#if defined(__SANITIZE_ADDRESS__)
-const bool memoryIsLimited = false;
-#else
-const bool memoryIsLimited = true;
-#endif
-
 } // namespace
 
 class TestEvents : public QObject
@@ -136,7 +130,7 @@ private slots:
                           "--timeout", "1",        "--memory",   "200",      "/dev/null", "gone.pdf"};
         std::map<QString, QString> codes{{"/dev/null", "notAFile"}, {"gone.pdf", "notFound"}};
         for (const auto& [name, bytes, code] : failures()) {
-            if (code == "memory" && !memoryIsLimited)
+            if (code == "memory" && host::sanitized) // workers have no memory limit then
                 continue;
             WorkFolder::put(name, bytes);
             words += QString::fromStdString(name);

@@ -1,9 +1,9 @@
 // Action lists and favourites by name: "quintar lists", and "quintar run" with the names that it tells.
-#include "support/ManualsSettings.h"
-#include "support/PdfBuilder.h"
-#include "support/ProgramRun.h"
 #include "support/Rows.h"
-#include "support/TemporaryHome.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/ManualsSettings.h"
+#include "support/folders/TemporaryHome.h"
+#include "support/program/ProgramRun.h"
 
 #include <QSettings>
 #include <QtTest>

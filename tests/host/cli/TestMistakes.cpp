@@ -1,9 +1,9 @@
 // What people mistype, and the answer that leads them on.
-#include "support/PdfBuilder.h"
-#include "support/ProgramRun.h"
 #include "support/Rows.h"
-#include "support/TemporaryHome.h"
-#include "support/WorkFolder.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/TemporaryHome.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/ProgramRun.h"
 
 #include <QtTest>
 

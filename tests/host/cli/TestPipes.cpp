@@ -1,8 +1,8 @@
 // Standard input and output as document, result and report; one result's own file.
-#include "support/PdfBuilder.h"
-#include "support/ProgramRun.h"
 #include "support/Rows.h"
-#include "support/WorkFolder.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/ProgramRun.h"
 
 #include <QTemporaryDir>
 #include <QtTest>

@@ -1,7 +1,7 @@
 // Runs the program as a user does, and has its documents confirmed by another reader.
-#include "support/BatchFixture.h"
-#include "support/FileStatus.h"
 #include "support/Rows.h"
+#include "support/folders/FileStatus.h"
+#include "support/program/BatchFixture.h"
 
 #include <QSettings>
 #include <QtTest>
@@ -16,6 +16,19 @@ std::string withLast(std::string bytes, const std::string& old, const std::strin
 {
     return bytes.replace(bytes.rfind(old), old.size(), with);
 }
+
+/// The second sets anew what the first one has set.
+const QList<QVariantMap> anotherAfterOne{
+    {{"LayoutAndMagnCheckBox", true}, {"PageLayoutComboBox", 5}, {"OpenToPageSpinBox", 1}},
+    {{"LayoutAndMagnCheckBox", true},
+     {"NavigationTabComboBox", 4},
+     {"PageLayoutComboBox", 2},
+     {"MagnificationComboBox", 8},
+     {"OpenToPageSpinBox", 3},
+     {"ViewerPrefsCheckBox", true},
+     {"HideToobarsCheckBox", true},
+     {"OpenInFullScreenCheckBox", true},
+     {"ShowComboBox", 1}}};
 
 } // namespace
 
@@ -38,16 +51,7 @@ private slots:
         put("in/deep/b.PDF",
             PdfBuilder::simple("/PageMode /UseThumbs /ViewerPreferences << /HideMenubar true >>"));
         put("in/notes.txt");
-        putList({{{"LayoutAndMagnCheckBox", true}, {"PageLayoutComboBox", 5}, {"OpenToPageSpinBox", 1}},
-                 {{"LayoutAndMagnCheckBox", true},
-                  {"NavigationTabComboBox", 4},
-                  {"PageLayoutComboBox", 2},
-                  {"MagnificationComboBox", 8},
-                  {"OpenToPageSpinBox", 3},
-                  {"ViewerPrefsCheckBox", true},
-                  {"HideToobarsCheckBox", true},
-                  {"OpenInFullScreenCheckBox", true},
-                  {"ShowComboBox", 1}}});
+        putList(anotherAfterOne);
         const ProgramRun run =
             quintar({"run", "--list", "list.xqq", "-o", "new/out", "--report", "report", "in"});
         QCOMPARE(run.err, QByteArray());

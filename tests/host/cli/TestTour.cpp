@@ -1,12 +1,12 @@
 // One person's tour: look at a document's view in the dialog, change it, keep it in each of the three ways,
 // and run each over another document.
 #include "host/cli/ConfigureCommand.h"
-#include "support/CommandRun.h"
-#include "support/Mute.h"
-#include "support/PdfBuilder.h"
-#include "support/Person.h"
-#include "support/ProgramRun.h"
-#include "support/TemporaryHome.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/TemporaryHome.h"
+#include "support/people/Mute.h"
+#include "support/people/Person.h"
+#include "support/program/CommandRun.h"
+#include "support/program/ProgramRun.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -57,17 +57,7 @@ private slots:
             const ProgramRun run(PROGRAM_FILE,
                                  QStringList{"run", "-o", folder, m_home.filePath("other.pdf")} + source);
             QVERIFY2(run.status == 0, run.err);
-            const QJsonObject view = shown("out" + source.first() + "/other.pdf");
-            const QJsonObject expectedAction{
-                {"page", 3}, {"type", "FitH"}, {"zoom", QJsonValue()}, {"name", QJsonValue()}};
-            QCOMPARE(view.value("pageMode"), QJsonValue("UseThumbs"));
-            QCOMPARE(view.value("pageLayout"), QJsonValue("OneColumn"));
-            QCOMPARE(view.value("openAction").toObject(), expectedAction);
-            const QJsonObject preferences = view.value("viewerPreferences").toObject();
-            for (const char* name : {"HideToolbar", "HideMenubar", "DisplayDocTitle"})
-                QVERIFY2(preferences.value(name).toBool(), name);
-            for (const char* name : {"HideWindowUI", "FitWindow", "CenterWindow"})
-                QVERIFY2(!preferences.value(name).toBool(), name);
+            opensAsChosen(shown("out" + source.first() + "/other.pdf"));
             const QJsonObject catalog = QpdfReader(folder + "/other.pdf").catalog();
             QCOMPARE(catalog.value("/PageMode"), QJsonValue("/UseThumbs"));
         }
@@ -106,6 +96,20 @@ private:
         const CommandRun run(host::ConfigureCommand(), {m_home.filePath("seen.pdf")});
         QCOMPARE(run.status, 1); // what is kept is kept; the window itself was left without OK
         QVERIFY(kept);
+    }
+
+    static void opensAsChosen(const QJsonObject& view)
+    {
+        const QJsonObject expectedAction{
+            {"page", 3}, {"type", "FitH"}, {"zoom", QJsonValue()}, {"name", QJsonValue()}};
+        QCOMPARE(view.value("pageMode"), QJsonValue("UseThumbs"));
+        QCOMPARE(view.value("pageLayout"), QJsonValue("OneColumn"));
+        QCOMPARE(view.value("openAction").toObject(), expectedAction);
+        const QJsonObject preferences = view.value("viewerPreferences").toObject();
+        for (const char* name : {"HideToolbar", "HideMenubar", "DisplayDocTitle"})
+            QVERIFY2(preferences.value(name).toBool(), name);
+        for (const char* name : {"HideWindowUI", "FitWindow", "CenterWindow"})
+            QVERIFY2(!preferences.value(name).toBool(), name);
     }
 
     QJsonObject shown(const QString& file) const

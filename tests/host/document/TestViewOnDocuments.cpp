@@ -4,10 +4,10 @@
 #include "host/document/ViewChanger.h"
 #include "host/document/XmpTitle.h"
 #include "pdflibrary/FileNameCodec.h"
-#include "support/LoadedLibrary.h"
-#include "support/PdfBuilder.h"
-#include "support/Rewritten.h"
 #include "support/Rows.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/documents/Rewritten.h"
+#include "support/engine/LoadedLibrary.h"
 
 #include <QJsonDocument>
 

@@ -3,9 +3,9 @@
 #include "host/options/HelpText.h"
 #include "host/options/ManualPage.h"
 #include "host/options/UsageChapter.h"
-#include "support/ProgramRun.h"
 #include "support/Rows.h"
-#include "support/WorkFolder.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/ProgramRun.h"
 
 #include <QStandardPaths>
 #include <QtTest>

@@ -1,7 +1,7 @@
 #include "host/plan/RunPlan.h"
 #include "support/Rows.h"
-#include "support/UsageErrors.h"
-#include "support/WorkFolder.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/UsageErrors.h"
 
 #include <QtTest>
 

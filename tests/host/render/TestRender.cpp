@@ -1,8 +1,8 @@
 #include "host/render/PageRequest.h"
 #include "host/render/RequestQueue.h"
-#include "support/Files.h"
 #include "support/Rows.h"
-#include "support/SpecialDocuments.h"
+#include "support/documents/SpecialDocuments.h"
+#include "support/folders/Files.h"
 
 #include <QColor>
 #include <QImage>

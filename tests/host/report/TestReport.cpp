@@ -1,6 +1,6 @@
 #include "host/report/Report.h"
-#include "support/UsageErrors.h"
-#include "support/WorkFolder.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/UsageErrors.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

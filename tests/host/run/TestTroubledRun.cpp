@@ -1,7 +1,8 @@
 // Runs that meet full disks, other programs, signals, and documents that crash, hang or eat memory; and what
 // their reports are to the next run.
-#include "support/BatchFixture.h"
+#include "host/cell/Sanitized.h"
 #include "support/Rows.h"
+#include "support/program/BatchFixture.h"
 
 #include <QtTest>
 
@@ -13,6 +14,16 @@
 #include <unistd.h>
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// How many documents became what.
+QByteArray counts(const ProgramRun& run)
+{
+    return run.out.split('\n').value(run.out.count('\n') - 1);
+}
+
+} // namespace
 
 class TestTroubledRun : public QObject, private BatchFixture
 {
@@ -124,9 +135,8 @@ private slots:
 
     void losesNothingForWantOfMemory()
     {
-#if defined(__SANITIZE_ADDRESS__)
-        QSKIP("workers have no memory limit under the sanitizer");
-#endif
+        if (host::sanitized)
+            QSKIP("workers have no memory limit under the sanitizer");
         PdfBuilder builder;
         builder.catalog("/Kept 9 0 R").pages(2).object(9, "(" + std::string(20 << 20, 'x') + ")");
         const std::string damaged = builder.bytes() + "10 0 obj\nnull\nendobj\n" + std::string(5000, '\n');
@@ -138,11 +148,9 @@ private slots:
 
     void replacesWorkersThatGetIntoTrouble()
     {
-#if defined(__SANITIZE_ADDRESS__)
-        const QStringList troubles{"crash", "hang"}; // workers have no memory limit under the sanitizer
-#else
-        const QStringList troubles{"crash", "hungry", "hang"};
-#endif
+        QStringList troubles{"crash", "hang"};
+        if (!host::sanitized) // workers have no memory limit then
+            troubles.insert(1, "hungry");
         for (int number = 0; number < 200; ++number) {
             const int trouble = number % 40 == 7 ? number / 40 % troubles.size() : -1;
             const QString name = trouble < 0 ? "good" : troubles[trouble];
@@ -167,9 +175,8 @@ private slots:
 
     void limitsHoldForReadingToo()
     {
-#if defined(__SANITIZE_ADDRESS__)
-        QSKIP("workers have no memory limit under the sanitizer");
-#endif
+        if (host::sanitized)
+            QSKIP("workers have no memory limit under the sanitizer");
         for (const char* name :
              {"in/1-good.pdf", "in/2-crash.pdf", "in/3-hungry.pdf", "in/4-hang.pdf", "in/5-good.pdf"})
             put(name);
@@ -270,9 +277,6 @@ private slots:
         const auto resumed = [&](const QStringList& run, const char* to) {
             return quintar(run + QStringList{"--resume", "report", "--report", to});
         };
-        const auto counts = [](const ProgramRun& run) {
-            return run.out.split('\n').value(run.out.count('\n') - 1);
-        };
         QCOMPARE(counts(resumed(toOut, "report")), QByteArray("4 changed, 0 unchanged, 1 failed"));
 
         put("in/a.pdf", PdfBuilder::simple("/PageMode /UseThumbs"));  // the document is another one
@@ -350,10 +354,7 @@ private:
         return QStringList{"run"} + options.split(' ') + panelAndPage();
     }
 
-    ProgramRun troubled(const QString& options) const
-    {
-        return {program(), words(options), path()};
-    }
+    ProgramRun troubled(const QString& options) const { return {program(), words(options), path()}; }
 };
 
 QTEST_GUILESS_MAIN(TestTroubledRun)

@@ -1,9 +1,9 @@
 #include "host/files/FileDescriptor.h"
 #include "host/saving/AccessRights.h"
 #include "host/saving/FileAttributes.h"
-#include "support/FileStatus.h"
 #include "support/Rows.h"
-#include "support/WorkFolder.h"
+#include "support/folders/FileStatus.h"
+#include "support/folders/WorkFolder.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
 #include "host/saving/FileCopy.h"
-#include "support/FileStatus.h"
-#include "support/WorkFolder.h"
+#include "support/folders/FileStatus.h"
+#include "support/folders/WorkFolder.h"
 
 #include <QtTest>
 

@@ -3,9 +3,9 @@
 #include "host/saving/DocumentLock.h"
 #include "host/saving/InPlaceAppend.h"
 #include "host/saving/InPlaceFile.h"
-#include "support/FileStatus.h"
 #include "support/Rows.h"
-#include "support/WorkFolder.h"
+#include "support/folders/FileStatus.h"
+#include "support/folders/WorkFolder.h"
 
 #include <QtTest>
 

@@ -2,7 +2,7 @@
 #include "host/saving/FileAttributes.h"
 #include "host/saving/SafeOutput.h"
 #include "support/Rows.h"
-#include "support/WorkFolder.h"
+#include "support/folders/WorkFolder.h"
 
 #include <QtTest>
 

@@ -129,6 +129,20 @@ private slots:
         QCOMPARE(DialogSettings(changed(present, change)).map(), chosen);
     }
 
+    // What the dialog offers and nobody translates would change nothing.
+    void everyKeyIsTranslated()
+    {
+        const DialogSettings settings(document("{}"));
+        for (const Key& key : keys) {
+            if (key.group == nullptr)
+                continue;
+            QVERIFY2(settings.map().contains(key.name), key.name);
+            const int other = settings.map().value(key.name).toInt() == key.lowest ? key.highest : key.lowest;
+            const QVariant value = key.type == ValueType::Flag ? QVariant(other == 1) : QVariant(other);
+            QVERIFY2(!settings.changeTo(chosenIn(settings, {{key.name, value}})).isEmpty(), key.name);
+        }
+    }
+
     void changesWhatWasChanged_data()
     {
         const Rows<QByteArray, SettingsMap, QByteArray> row;

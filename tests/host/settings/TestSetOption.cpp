@@ -2,7 +2,7 @@
 
 #include "EditInitialView/InitialViewSettings.h"
 #include "support/Rows.h"
-#include "support/UsageErrors.h"
+#include "support/program/UsageErrors.h"
 
 #include <QtTest>
 

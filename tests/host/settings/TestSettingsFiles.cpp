@@ -1,7 +1,7 @@
 #include "host/settings/SettingsFile.h"
-#include "support/Files.h"
 #include "support/Rows.h"
-#include "support/UsageErrors.h"
+#include "support/folders/Files.h"
+#include "support/program/UsageErrors.h"
 
 #include <QImage>
 #include <QSettings>

@@ -1,12 +1,12 @@
 #include "host/cli/UndoCommand.h"
 #include "host/files/Checksum.h"
-#include "support/CommandRun.h"
-#include "support/FileStatus.h"
-#include "support/PdfBuilder.h"
-#include "support/ProgramRun.h"
 #include "support/Rows.h"
-#include "support/UsageErrors.h"
-#include "support/WorkFolder.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/FileStatus.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/CommandRun.h"
+#include "support/program/ProgramRun.h"
+#include "support/program/UsageErrors.h"
 
 #include <QtTest>
 

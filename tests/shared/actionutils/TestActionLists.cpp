@@ -1,7 +1,7 @@
 #include "shared/actionutils/CActionUtils.h"
-#include "support/ManualsSettings.h"
 #include "support/Rows.h"
-#include "support/TemporaryHome.h"
+#include "support/folders/ManualsSettings.h"
+#include "support/folders/TemporaryHome.h"
 
 #include <QJsonObject>
 #include <QSettings>

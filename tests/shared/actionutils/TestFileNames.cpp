@@ -1,6 +1,6 @@
 #include "CActionUtils.h"
 #include "support/Rows.h"
-#include "support/WorkFolder.h"
+#include "support/folders/WorkFolder.h"
 
 #include <QLabel>
 #include <QTextEdit>

@@ -1,7 +1,7 @@
 #include "CActionUtils.h"
 #include "CUtils.h"
 #include "support/Rows.h"
-#include "support/TemporaryHome.h"
+#include "support/folders/TemporaryHome.h"
 
 #include <QSettings>
 #include <QtTest>

@@ -1,8 +1,8 @@
 #include "shared/frame/CFramelessHandler.h"
 
-#include "support/Hand.h"
 #include "support/Methods.h"
 #include "support/Rows.h"
+#include "support/people/Hand.h"
 
 #include <QtTest>
 

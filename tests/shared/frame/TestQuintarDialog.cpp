@@ -1,10 +1,10 @@
 #include "shared/CUtils.h"
 #include "shared/frame/CQuintarDialog.h"
 
-#include "support/Hand.h"
 #include "support/Methods.h"
-#include "support/Mute.h"
 #include "support/Rows.h"
+#include "support/people/Hand.h"
+#include "support/people/Mute.h"
 
 #include <QComboBox>
 #include <QGridLayout>

@@ -1,6 +1,6 @@
 #include "shared/ini/CIniFile.h"
 #include "support/Rows.h"
-#include "support/TemporaryHome.h"
+#include "support/folders/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QProcess>

@@ -1,7 +1,7 @@
 // Every type of value that QSettings can store, and what would make QSettings hang or lie.
 #include "shared/ini/CIniFile.h"
 #include "support/Rows.h"
-#include "support/TemporaryHome.h"
+#include "support/folders/TemporaryHome.h"
 
 #include <QtGui>
 #include <QtTest>
@@ -66,16 +66,8 @@ QByteArray liar(quint32 side)
     return bytes.replace(bytes.indexOf("IHDR") + 4, 8, word(side) + word(side));
 }
 
-QVariantMap valuesOfAllTypes()
+QVariantList valuesOfCoreTypes()
 {
-    QPixmap pixmap(3, 2);
-    pixmap.fill(Qt::red);
-    QBitmap bitmap(8, 2); // whole bytes
-    bitmap.clear();
-    QPen dashed(Qt::red, 2);
-    dashed.setDashPattern({1, 2, 3, 4});
-    QTextFormat format(QTextFormat::CharFormat);
-    format.setProperty(QTextFormat::ForegroundBrush, QBrush(QLinearGradient(0, 0, 1, 1)));
     const QDate date(2020, 2, 29);
     QVariantList values; // by streaming, which takes several a line
     values << true << 1 << 2U << qint64(3) << quint64(4) << 5.5 << 1.5f << QChar('c') << QVariant();
@@ -111,6 +103,20 @@ QVariantMap valuesOfAllTypes()
            << QVariant::fromValue(QJsonDocument(QJsonArray{1})) << QVariant::fromValue(QCborSimpleType::Null)
            << QVariant::fromValue(QCborValue(1)) << QVariant::fromValue(QCborArray{1})
            << QVariant::fromValue(QCborMap{{1, "a"}});
+    return values;
+}
+
+QVariantList valuesOfGuiTypes()
+{
+    QPixmap pixmap(3, 2);
+    pixmap.fill(Qt::red);
+    QBitmap bitmap(8, 2); // whole bytes
+    bitmap.clear();
+    QPen dashed(Qt::red, 2);
+    dashed.setDashPattern({1, 2, 3, 4});
+    QTextFormat format(QTextFormat::CharFormat);
+    format.setProperty(QTextFormat::ForegroundBrush, QBrush(QLinearGradient(0, 0, 1, 1)));
+    QVariantList values;
     values << QFont("Courier", 9) << pixmap << bitmap << pixmap.toImage() << QImage() << QIcon(pixmap)
            << QImage(5000, 3, QImage::Format_Mono) << QCursor(Qt::CrossCursor) << QCursor(pixmap);
     values << QBrush(Qt::red) << QBrush(pixmap) << QBrush(QRadialGradient(0, 0, 1))
@@ -120,6 +126,12 @@ QVariantMap valuesOfAllTypes()
     values << QTextLength(QTextLength::FixedLength, 3) << format << QMatrix(1, 2, 3, 4, 5, 6)
            << QTransform(1, 2, 3, 4, 5, 6) << QMatrix4x4() << QVector2D(1, 2) << QVector3D(1, 2, 3)
            << QVector4D(1, 2, 3, 4) << QQuaternion(1, 2, 3, 4);
+    return values;
+}
+
+QVariantMap valuesOfAllTypes()
+{
+    const QVariantList values = valuesOfCoreTypes() + valuesOfGuiTypes();
     QVariantMap named{{"each in a map", QVariantMap()}};
     for (int i = 0; i < values.size(); ++i)
         named[QString("%1 %2").arg(i, 3, 10, QChar('0')).arg(values[i].typeName())] = values[i];

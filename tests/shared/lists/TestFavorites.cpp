@@ -1,7 +1,7 @@
 #include "shared/CErrorHandler.h"
 #include "shared/lists/CActionHistoryAPI.h"
-#include "support/ManualsSettings.h"
-#include "support/TemporaryHome.h"
+#include "support/folders/ManualsSettings.h"
+#include "support/folders/TemporaryHome.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -2,11 +2,11 @@
 #include "shared/ini/StoreReport.h"
 #include "shared/lists/CSaveAsActionlistDialog.h"
 #include "shared/lists/CSaveAsCollectionDialog.h"
-#include "support/ManualsSettings.h"
 #include "support/Methods.h"
-#include "support/Person.h"
 #include "support/Rows.h"
-#include "support/TemporaryHome.h"
+#include "support/folders/ManualsSettings.h"
+#include "support/folders/TemporaryHome.h"
+#include "support/people/Person.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -57,16 +57,6 @@ void click(QWidget* widget)
 {
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier,
                       qobject_cast<QRadioButton*>(widget) ? QPoint(10, widget->height() / 2) : QPoint());
-}
-
-QVariant stored(const QString& path, const QString& key)
-{
-    return QSettings(path, QSettings::IniFormat).value(key);
-}
-
-QStringList keysOf(const QString& path)
-{
-    return QSettings(path, QSettings::IniFormat).allKeys();
 }
 
 QStringList filesIn(const QString& folder)
@@ -227,8 +217,8 @@ private slots:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         QVERIFY(!dialog.isVisible() && changed.isEmpty());
         const QString path = m_home.actionList("Monthly_reports.xqq");
-        QCOMPARE(stored(path, "SequenceName").toString(), QString("Monthly reports"));
-        QCOMPARE(stored(path, "SequenceCategory").toString(), QString("Default"));
+        QCOMPARE(storedValue(path, "SequenceName").toString(), QString("Monthly reports"));
+        QCOMPARE(storedValue(path, "SequenceCategory").toString(), QString("Default"));
         Map expected = manualsSettings();
         expected.remove("ActionName");
         QCOMPARE(m_prefs, expected);
@@ -246,7 +236,7 @@ private slots:
             QTest::keyClicks(box, typed);
             QTest::keyClick(box, Qt::Key_Return);
             QCOMPARE(dialog.result(), int(QDialog::Accepted));
-            QCOMPARE(stored(m_home.actionList("one.xqq"), "SequenceCategory").toString(),
+            QCOMPARE(storedValue(m_home.actionList("one.xqq"), "SequenceCategory").toString(),
                      typed.isEmpty() ? QString("Favorites") : typed);
         }
     }
@@ -283,9 +273,9 @@ private slots:
         QCOMPARE(changed.size(), add ? 1 : 0);
         QVERIFY(!add || changed.first().first().toString() == "my list");
         const QString path = m_home.actionList("my_list.xqq");
-        QCOMPARE(keysOf(path).filter("ActionName").size(), add ? 2 : 1);
-        QCOMPARE(stored(path, "ActionName0").toString(), QString("Initial View"));
-        QVERIFY(!add || stored(path, "ActionPrefs1").toMap() == m_prefs);
+        QCOMPARE(storedKeys(path).filter("ActionName").size(), add ? 2 : 1);
+        QCOMPARE(storedValue(path, "ActionName0").toString(), QString("Initial View"));
+        QVERIFY(!add || storedValue(path, "ActionPrefs1").toMap() == m_prefs);
         QCOMPARE(m_prefs.value("ActionListOverwrite", true).toBool(), !add);
     }
 
@@ -330,8 +320,8 @@ private slots:
         Map expected = manualsSettings();
         expected["CollectionName"] = "Work set";
         QCOMPARE(m_prefs, expected);
-        QCOMPARE(stored(path, "ActionPrefs").toMap(), expected);
-        const QSize icon = stored(path, "ActionIcon").value<QImage>().size();
+        QCOMPARE(storedValue(path, "ActionPrefs").toMap(), expected);
+        const QSize icon = storedValue(path, "ActionIcon").value<QImage>().size();
         QVERIFY(!icon.isEmpty() && icon.width() <= 42 && icon.height() <= 42);
     }
 
@@ -352,7 +342,7 @@ private slots:
 
         QTest::keyClicks(dialog.ui.collectionNameLineEdit, "blue");
         click(dialog.ui.saveButton);
-        const auto icon = stored(m_home.favorite("blue.ini"), "ActionIcon").value<QImage>();
+        const auto icon = storedValue(m_home.favorite("blue.ini"), "ActionIcon").value<QImage>();
         QCOMPARE(icon.size(), QSize(42, 42));
         QCOMPARE(icon.pixelColor(20, 20), QColor(Qt::blue));
 
@@ -363,19 +353,29 @@ private slots:
         QVERIFY(dialog.ui.icon_toolButton->icon().isNull());
     }
 
-    void refusesAPictureThatIsABomb()
+    void refusesPicturesThatAreBombs_data()
     {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason");
         // The beginning of a PNG file of 60,000 by 60,000 pixels.
-        const auto bomb =
-            QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAA6mAAAOpgCAIAAAAPsOIVAAAAAElEQVQ1rwYe");
-        QVERIFY(writeFile(m_home.filePath("bomb.png"), bomb));
+        QTest::newRow("too large") << QByteArray::fromBase64(
+                                          "iVBORw0KGgoAAAANSUhEUgAA6mAAAOpgCAIAAAAPsOIVAAAAAElEQVQ1rwYe")
+                                   << QString(" is too large, with 60000 x 60000 pixels");
+        QTest::newRow("not offered") << QByteArray("P2 1 1 9 0\n") << QString(" is of another kind, pgm");
+    }
+
+    void refusesPicturesThatAreBombs()
+    {
+        QFETCH(const QByteArray, bytes);
+        QFETCH(const QString, reason);
+        QVERIFY(writeFile(m_home.filePath("bomb.png"), bytes));
         Collection dialog(m_parent, m_prefs);
         const qint64 before = dialog.ui.icon_toolButton->icon().cacheKey();
         storereport::begin();
         person::namesFile(m_home.filePath("bomb.png"));
         click(dialog.ui.icon_toolButton);
-        QCOMPARE(storereport::take(), QStringList{"no icon: the picture " + m_home.filePath("bomb.png") +
-                                                  " is too large, with 60000 x 60000 pixels"});
+        QCOMPARE(storereport::take(),
+                 QStringList{"no icon: the picture " + m_home.filePath("bomb.png") + reason});
         QCOMPARE(dialog.ui.icon_toolButton->icon().cacheKey(), before);
     }
 
@@ -390,8 +390,8 @@ private slots:
         click(dialog.ui.saveSettingsToFileButton);
         QCOMPARE(dialog.result(), int(QDialog::Rejected));
         QVERIFY(!dialog.isVisible() && !writtenTooEarly);
-        QCOMPARE(keysOf(path), QStringList{"ToolSettings"});
-        QCOMPARE(stored(path, "ToolSettings").toMap(), manualsSettings());
+        QCOMPARE(storedKeys(path), QStringList{"ToolSettings"});
+        QCOMPARE(storedValue(path, "ToolSettings").toMap(), manualsSettings());
         QCOMPARE(m_prefs, manualsSettings());
         QVERIFY(filesIn(CUtils::GetCollectionsFolder()).isEmpty());
         // The format does not drift.
@@ -409,8 +409,8 @@ private slots:
             static_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
         });
         click(dialog.ui.saveSettingsToFileButton);
-        QCOMPARE(keysOf(path), (QStringList{"ToolSettings", "a/b/c"}));
-        QCOMPARE(stored(path, "ToolSettings").toMap(), m_prefs);
+        QCOMPARE(storedKeys(path), (QStringList{"ToolSettings", "a/b/c"}));
+        QCOMPARE(storedValue(path, "ToolSettings").toMap(), m_prefs);
     }
 
     void closesWhenTheFileDialogIsCancelled()
@@ -430,7 +430,7 @@ private slots:
         // It can be shown once more.
         dialog.ui.collectionNameLineEdit->setText("after all");
         dialog.on_Save();
-        QCOMPARE(stored(m_home.favorite("after all.ini"), "ActionPrefs").toMap(), m_prefs);
+        QCOMPARE(storedValue(m_home.favorite("after all.ini"), "ActionPrefs").toMap(), m_prefs);
     }
 
     void survivesBeingDeletedByARejection()
@@ -445,7 +445,7 @@ private slots:
         person::namesFile(m_home.filePath("preset.tsf"));
         click(dialog->ui.saveSettingsToFileButton);
         QVERIFY(prefs == nullptr);
-        QCOMPARE(stored(m_home.filePath("preset.tsf"), "ToolSettings").toMap(), manualsSettings());
+        QCOMPARE(storedValue(m_home.filePath("preset.tsf"), "ToolSettings").toMap(), manualsSettings());
     }
 };
 

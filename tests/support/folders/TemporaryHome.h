@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Files.h"
 #include "shared/CUtils.h"
+#include "support/folders/Files.h"
 
 #include <QDir>
 #include <QTemporaryDir>

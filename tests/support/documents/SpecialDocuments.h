@@ -1,8 +1,8 @@
 #pragma once
 
-#include "PdfBuilder.h"
-#include "ProgramRun.h"
-#include "WorkFolder.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/WorkFolder.h"
+#include "support/program/ProgramRun.h"
 
 #include <QTemporaryDir>
 

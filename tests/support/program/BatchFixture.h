@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SpecialDocuments.h"
+#include "support/documents/SpecialDocuments.h"
 
 #include <QTest>
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "CommandRun.h"
 #include "EditInitialView/InitialViewSettings.h"
-#include "Mute.h"
-#include "PdfBuilder.h"
-#include "Person.h"
-#include "ProgramRun.h"
-#include "Rows.h"
-#include "TemporaryHome.h"
 #include "host/cli/ConfigureCommand.h"
+#include "support/Rows.h"
+#include "support/documents/PdfBuilder.h"
+#include "support/folders/TemporaryHome.h"
+#include "support/people/Mute.h"
+#include "support/people/Person.h"
+#include "support/program/CommandRun.h"
+#include "support/program/ProgramRun.h"
 
 #include <QSettings>
 
@@ -32,10 +32,7 @@ protected:
     {
         QVERIFY(writeFile(path("a.pdf"), QByteArray::fromStdString(PdfBuilder::simple(view))));
     }
-    QVariant stored(const QString& file, const QString& key) const
-    {
-        return QSettings(path(file), QSettings::IniFormat).value(key);
-    }
+    QVariant stored(const QString& file, const QString& key) const { return storedValue(path(file), key); }
 
     static CommandRun configure(const QStringList& words, const person::Answer& answer = person::pressOk)
     {

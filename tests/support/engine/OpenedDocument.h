@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PdfBuilder.h"
+#include "support/documents/PdfBuilder.h"
 
 #include "engine/boundary/Operations.h"
 #include "engine/boundary/Session.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PdfBuilder.h"
+#include "support/documents/PdfBuilder.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>

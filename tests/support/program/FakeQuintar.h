@@ -4,9 +4,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// Stands in for the program: plays a stored stream of events, and keeps what it was told. Each command has a stream of
-/// its own, written in lines; besides events a stream has orders: "#wait MS", "#hear WORD" waits for a word on standard
-/// input, "#say TEXT" prints on standard error, "#exit STATUS" ends.
+/// Stands in for the program: plays a stored stream of events, and keeps what it was told. Each command has a
+/// stream of its own, written in lines; besides events a stream has orders: "#wait MS", "#hear WORD" waits
+/// for a word on standard input, "#say TEXT" prints on standard error, "#exit STATUS" ends.
 class FakeQuintar
 {
 public:
