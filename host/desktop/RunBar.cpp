@@ -176,7 +176,7 @@ QString RunBar::countsInWords() const
     case State::Stopping:
         return tr("Stopping… documents that are being worked on are finished");
     case State::Undoing:
-        return tr("Undoing…");
+        return task != nullptr && task->total() > 0 ? tr("Undoing… %1").arg(done) : tr("Undoing…");
     case State::Results:
         return doneInWords(counts);
     case State::Listed:

@@ -146,6 +146,51 @@ private slots:
         QCOMPARE(m_bench->history().runs().front().changed, 1);
     }
 
+    /// Documents with options of their own have a child of their own, which waits as well.
+    void holdsFurtherPartsWhilePaused()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        m_bench->appendAllTheSame({2});
+        m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::end());
+        QTRY_COMPARE(state(), State::Ready);
+        m_fake->plays("run", Fake::start() + "#hear pause\n" + Fake::changed(0) + Fake::end());
+        m_bench->start();
+        m_bench->pause();
+        QTRY_VERIFY(!m_bench->task()->isRunning());
+        QTest::qWait(100);
+        QVERIFY(!m_fake->starts().last().contains("--signed"));
+        m_bench->stop();
+        QCOMPARE(state(), State::Results);
+        QCOMPARE(m_bench->counts().changed, 1);
+        QCOMPARE(m_bench->counts().notDone, 1);
+        m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::end());
+        m_bench->tryAgain();
+        QTRY_COMPARE(m_bench->counts().changed, 2);
+    }
+
+    void countsWhatIsUndoneAndCanBeStopped()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        m_bench->start();
+        QTRY_COMPARE(state(), State::Results);
+        m_fake->plays("undo", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::found(1, "/else.pdf") +
+                                  Fake::result(0, "undone") + "#hear stop\n" +
+                                  "{\"event\":\"end\",\"stopped\":true}\n");
+        QSignalSpy ended(m_bench.get(), &Workbench::runEnded);
+        m_bench->undoRun(0);
+        QTRY_COMPARE(m_bench->task()->done(), 1);
+        QCOMPARE(m_bench->task()->total(), 2);
+        m_bench->add({"/e"}); // waits
+        m_bench->stop();
+        QTRY_COMPARE(ended.size(), 1);
+        QVERIFY(m_bench->history().canUndo(0));
+        QTRY_COMPARE(m_fake->names(), QList<QByteArray>({"/e"}));
+    }
+
     void forgetsAnEarlierCheckAtEachEdit()
     {
         read();

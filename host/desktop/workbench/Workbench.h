@@ -107,6 +107,7 @@ signals:
     void said(const QString& text);
     /// The same, and it went wrong.
     void failed(const QString& text);
+    /// Nothing writes any more, after a run or after undoing one.
     void runEnded();
 
 private:

@@ -118,12 +118,14 @@ void Workbench::endUndoing(const ChildRun::Ending& ending)
     m_task.clear();
     if (!ending.isComplete && undone == 0)
         emit failed(ending.words.isEmpty() ? tr("Undoing broke off.") : ending.words);
+    else if (ending.wasStopped)
+        emit said(tr("Undoing was stopped: %n document(s) are as they were before the run.", "", undone));
     else if (leftAlone == 0)
         emit said(tr("%n document(s) are as they were before the run.", "", undone));
     else
         emit failed(tr("%n document(s) were left alone, since they are no longer as the run left them.", "",
                        leftAlone));
-    if (ending.isComplete && leftAlone == 0)
+    if (ending.isComplete && !ending.wasStopped && leftAlone == 0)
         if (const QString problem = m_history.setUndone(m_undoing); !problem.isEmpty())
             emit failed(problem);
     Ids ids;
@@ -132,6 +134,7 @@ void Workbench::endUndoing(const ChildRun::Ending& ending)
             ids.append(record.id);
     m_machine.handle(m_table.count() > 0 ? Step::Undone : Step::Emptied);
     emit progressed();
+    emit runEnded();
     if (ids.isEmpty())
         return edited();
     readAgain(ids);
