@@ -43,7 +43,6 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
     layOutParts();
     connectParts();
     show();
-    showProgress();
 }
 
 void RunBar::nameParts()
@@ -93,7 +92,6 @@ void RunBar::connectParts()
             m_said.clear();
         m_running.start();
         show();
-        showProgress();
     });
 }
 
@@ -131,7 +129,7 @@ void RunBar::show()
     m_save->setVisible(areResults);
     m_pause->setVisible(state == State::Running || state == State::Paused);
     m_pause->setText(state == State::Paused ? tr("Go &On") : tr("Pa&use"));
-    m_stop->setVisible(m_workbench.machine().isEnabled(Command::Stop));
+    showProgress(); // which may have become idle
     if (areResults)
         announce(m_text->text());
 }
@@ -140,6 +138,7 @@ void RunBar::showProgress()
 {
     const DocumentTask* task = m_workbench.task();
     m_progress->setVisible(task != nullptr);
+    m_stop->setVisible(task != nullptr && m_workbench.machine().isEnabled(Command::Stop));
     if (task == nullptr)
         return;
     m_progress->setMaximum(task->total());

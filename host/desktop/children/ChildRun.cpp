@@ -137,6 +137,11 @@ void ChildRun::finish()
     m_ending.isComplete = m_ending.isComplete && !m_isBroken;
     if (m_ending.words.isEmpty())
         m_ending.words = QString::fromLocal8Bit(m_errors).trimmed();
+    if (m_ending.words.isEmpty() && !m_ending.isComplete && !m_ending.wasStopped)
+        m_ending.words = m_process->exitStatus() == QProcess::CrashExit
+                             ? tr("%1 crashed").arg(m_process->program())
+                             : tr("%1 ended too early, with exit status %2")
+                                   .arg(m_process->program(), QString::number(m_process->exitCode()));
     emit ended(m_ending);
 }
 
