@@ -53,7 +53,7 @@ ChildRun::~ChildRun()
     abandon(m_process);
 }
 
-void ChildRun::start(const QString& program, const QStringList& arguments, int handed)
+void ChildRun::start(const QString& program, const QStringList& arguments, const std::array<int, 2>& handed)
 {
     m_process->hand(handed);
     m_process->start(program, arguments);

@@ -41,10 +41,9 @@ void Outline::ask()
 {
     m_asked = m_wanted;
     m_askedFacts = m_wantedFacts;
-    m_names = NameList::of({m_asked});
-    QStringList words{"show",         "--outline", QString::number(mostBookmarks),
-                      "--events",     "--control", "--files-from",
-                      m_names.path(), "--null"};
+    m_names = NameList(QVector<QByteArray>{m_asked});
+    QStringList words{"show",      "--outline",    QString::number(mostBookmarks), "--events",
+                      "--control", "--files-from", m_names.pathForChild(),         "--null"};
     m_passwordFile = {};
     if (!m_password.isEmpty()) {
         m_passwordFile = PasswordFile(m_password);
@@ -52,7 +51,7 @@ void Outline::ask()
     }
     m_child = std::make_unique<ChildRun>();
     connect(m_child.get(), &ChildRun::came, this, &Outline::take);
-    m_child->start(m_program, words, m_passwordFile.descriptor());
+    m_child->start(m_program, words, {m_names.descriptor(), m_passwordFile.descriptor()});
 }
 
 void Outline::take(const Events& events)

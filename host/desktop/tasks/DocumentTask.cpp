@@ -66,8 +66,8 @@ void DocumentTask::startPart()
     QStringList words = arguments(next);
     words += {"--events", "--control"};
     if (const QVector<QByteArray> list = names(next); !list.isEmpty()) {
-        m_names = NameList::of(list);
-        words += {"--files-from", m_names.path(), "--null"};
+        m_names = NameList(list);
+        words += {"--files-from", m_names.pathForChild(), "--null"};
     }
     if (next.password >= 0) {
         m_password = PasswordFile(m_means.passwords.at(next.password));
@@ -76,7 +76,7 @@ void DocumentTask::startPart()
     m_child = new ChildRun(this);
     connect(m_child, &ChildRun::came, this, &DocumentTask::takeAll);
     connect(m_child, &ChildRun::ended, this, &DocumentTask::endPart);
-    m_child->start(m_means.program, words, m_password.descriptor());
+    m_child->start(m_means.program, words, {m_names.descriptor(), m_password.descriptor()});
 }
 
 void DocumentTask::takeAll(const Events& events)
@@ -128,6 +128,7 @@ void DocumentTask::endPart(const ChildRun::Ending& ending)
     m_child->deleteLater();
     m_child = nullptr;
     m_password = {};
+    m_names = {};
     leavePart(ending);
     const bool goesOn = ending.isComplete && !ending.wasStopped && !m_isStopping;
     if (!goesOn || m_parts.empty())
