@@ -172,10 +172,7 @@ void MainWindow::connectParts()
         m_change->destination()->setDestination(m_workbench.destination());
         m_view->showColumnsOf(m_workbench.draft().view());
     });
-    connect(&m_workbench, &Workbench::runEnded, this, [this] {
-        if (m_closesAtEnd)
-            close();
-    });
+    connect(&m_workbench, &Workbench::runEnded, this, &MainWindow::runEnded);
 }
 
 void MainWindow::connectActions()
@@ -269,11 +266,17 @@ void MainWindow::closeEvent(QCloseEvent* event)
             tr("Documents that are being worked on are finished; the others stay as they are."),
             tr("&Stop and Close"), [this] {
                 m_closesAtEnd = true;
-                m_workbench.stop();
+                m_workbench.machine().isWriting() ? m_workbench.stop() : runEnded();
             });
     }
     saveGeometryOnce();
     event->accept();
+}
+
+void MainWindow::runEnded()
+{
+    if (m_closesAtEnd)
+        close();
 }
 
 void MainWindow::saveGeometryOnce()

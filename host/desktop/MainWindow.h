@@ -61,6 +61,7 @@ private:
     void connectActions();
     void showState();
     void goTo(int step);
+    void runEnded();
     void saveGeometryOnce();
 
     QSettings m_settings;

@@ -44,7 +44,6 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
     layOutParts();
     connectParts();
     show();
-    showProgress();
 }
 
 void RunBar::nameParts()
@@ -94,7 +93,6 @@ void RunBar::connectParts()
             m_said.clear();
         m_running.start();
         show();
-        showProgress();
     });
 }
 
@@ -132,7 +130,7 @@ void RunBar::show()
     m_save->setVisible(areResults);
     m_pause->setVisible(state == State::Running || state == State::Paused);
     m_pause->setText(state == State::Paused ? tr("Go &On") : tr("Pa&use"));
-    m_stop->setVisible(m_workbench.machine().isEnabled(Command::Stop));
+    showProgress(); // which may have become idle
     if (areResults)
         announce(m_text->text());
 }
@@ -141,6 +139,7 @@ void RunBar::showProgress()
 {
     const DocumentTask* task = m_workbench.task();
     m_progress->setVisible(task != nullptr);
+    m_stop->setVisible(task != nullptr && m_workbench.machine().isEnabled(Command::Stop));
     if (task == nullptr)
         return;
     m_progress->setMaximum(task->total());
@@ -177,7 +176,7 @@ QString RunBar::countsInWords() const
     case State::Stopping:
         return tr("Stopping… documents that are being worked on are finished");
     case State::Undoing:
-        return tr("Undoing…");
+        return task != nullptr && task->total() > 0 ? tr("Undoing… %1").arg(done) : tr("Undoing…");
     case State::Results:
         return doneInWords(counts);
     case State::Listed:

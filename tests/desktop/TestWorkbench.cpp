@@ -146,6 +146,98 @@ private slots:
         QCOMPARE(m_bench->history().runs().front().changed, 1);
     }
 
+    /// Documents with options of their own have a child of their own, which waits as well.
+    void holdsFurtherPartsWhilePaused()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        m_bench->appendAllTheSame({2});
+        m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::end());
+        QTRY_COMPARE(state(), State::Ready);
+        m_fake->plays("run", Fake::start() + "#hear pause\n" + Fake::changed(0) + Fake::end());
+        m_bench->start();
+        m_bench->pause();
+        QTRY_VERIFY(!m_bench->task()->isRunning());
+        QTest::qWait(100);
+        QVERIFY(!m_fake->starts().last().contains("--signed"));
+        m_bench->stop();
+        QCOMPARE(state(), State::Results);
+        QCOMPARE(m_bench->counts().changed, 1);
+        QCOMPARE(m_bench->counts().notDone, 1);
+        m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::end());
+        m_bench->tryAgain();
+        QTRY_COMPARE(m_bench->counts().changed, 2);
+    }
+
+    void countsWhatIsUndoneAndCanBeStopped()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        m_bench->start();
+        QTRY_COMPARE(state(), State::Results);
+        m_fake->plays("undo", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::found(1, "/else.pdf") +
+                                  Fake::result(0, "undone") + "#hear stop\n" +
+                                  "{\"event\":\"end\",\"stopped\":true}\n");
+        QSignalSpy ended(m_bench.get(), &Workbench::runEnded);
+        m_bench->undoRun(0);
+        QTRY_COMPARE(m_bench->task()->done(), 1);
+        QCOMPARE(m_bench->task()->total(), 2);
+        m_bench->add({"/e"}); // waits
+        m_bench->stop();
+        QTRY_COMPARE(ended.size(), 1);
+        QVERIFY(m_bench->history().canUndo(0));
+        QTRY_COMPARE(m_fake->names(), QList<QByteArray>({"/e"}));
+    }
+
+    /// What was added is not lost, however reading it ends, and whatever stands against it.
+    void keepsWhatCouldNotBeAddedYet()
+    {
+        m_fake->plays("show", "#exit 127\n");
+        QSignalSpy failed(m_bench.get(), &Workbench::failed);
+        m_bench->add({"/d"});
+        QTRY_COMPARE(failed.size(), 1);
+        QVERIFY(failed.front().front().toString().contains("127"));
+        QCOMPARE(m_bench->pending(), QVector<QByteArray>({"/d"}));
+        m_bench->machine().setBusy(true);
+        m_bench->add({"/e"});
+        QCOMPARE(m_bench->pending().size(), 2);
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::document(0) + Fake::end());
+        m_bench->machine().setBusy(false);
+        QTRY_COMPARE(state(), State::Listed);
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/e", "/d"}));
+        QVERIFY(m_bench->pending().isEmpty());
+    }
+
+    void bringsBackNoAnswerToAnotherChange()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        m_bench->remove({1});
+        m_bench->setDraft({});
+        m_bench->undoList();
+        QVERIFY(m_bench->table().find(1)->facts && !m_bench->table().find(1)->check);
+    }
+
+    void letsBeUndoneWhatBrokeOff()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        m_fake->plays("run", Fake::start() + "#hear stop\n#exit 1\n");
+        m_bench->start();
+        QFile file(newestReport());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        RunHistory other(m_reports->path());
+        QCOMPARE(other.newestUndoable(), -1); // it is under way
+        m_bench->stop();
+        QTRY_COMPARE(state(), State::Results);
+        QCOMPARE(m_bench->history().runs().front().changed, -1);
+        QCOMPARE(m_bench->undoableRun(), 0);
+    }
+
     void forgetsAnEarlierCheckAtEachEdit()
     {
         read();
@@ -213,6 +305,13 @@ private slots:
     }
 
 private:
+    /// Of the start that is the newest, once there is one.
+    QString newestReport() const
+    {
+        const auto isRun = [this] { return m_fake->starts().last().contains("--report"); };
+        return QTest::qWaitFor(isRun) ? m_fake->starts().last().section("--report ", 1).section(' ', 0, 0)
+                                      : QString();
+    }
     State state() const { return m_bench->machine().state(); }
     void read()
     {

@@ -43,7 +43,7 @@ const Gate gates[] = {
 /// In a field of a table with tabs between.
 QString field(QString text)
 {
-    return text.replace('\t', ' ').replace('\n', ' ');
+    return text.replace('\t', ' ').replace('\n', ' ').replace('\r', ' ');
 }
 
 } // namespace

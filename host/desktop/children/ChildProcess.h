@@ -2,11 +2,13 @@
 
 #include <QProcess>
 
+#include <array>
+
 #include <fcntl.h>
 
 namespace host::desktop {
 
-/// A process that also inherits a file of this one.
+/// A process that also inherits files of this one.
 class ChildProcess : public QProcess
 {
     Q_OBJECT
@@ -14,19 +16,20 @@ class ChildProcess : public QProcess
 public:
     using QProcess::QProcess;
 
-    /// \param descriptor -1 for none; of a file that is closed in other children, and has to be open until it started.
-    void hand(int descriptor) { m_handed = descriptor; }
+    /// \param descriptors -1 for none; of files that are closed in other children, and have to be open until it started.
+    void hand(const std::array<int, 2>& descriptors) { m_handed = descriptors; }
 
 protected:
     /// In the child, before it becomes the program.
     void setupChildProcess() override
     {
-        if (m_handed >= 0)
-            fcntl(m_handed, F_SETFD, 0);
+        for (const int each : m_handed)
+            if (each >= 0)
+                fcntl(each, F_SETFD, 0);
     }
 
 private:
-    int m_handed = -1;
+    std::array<int, 2> m_handed{-1, -1};
 };
 
 } // namespace host::desktop

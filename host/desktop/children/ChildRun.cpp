@@ -53,7 +53,7 @@ ChildRun::~ChildRun()
     abandon(m_process);
 }
 
-void ChildRun::start(const QString& program, const QStringList& arguments, int handed)
+void ChildRun::start(const QString& program, const QStringList& arguments, const std::array<int, 2>& handed)
 {
     m_process->hand(handed);
     m_process->start(program, arguments);
@@ -137,6 +137,11 @@ void ChildRun::finish()
     m_ending.isComplete = m_ending.isComplete && !m_isBroken;
     if (m_ending.words.isEmpty())
         m_ending.words = QString::fromLocal8Bit(m_errors).trimmed();
+    if (m_ending.words.isEmpty() && !m_ending.isComplete && !m_ending.wasStopped)
+        m_ending.words = m_process->exitStatus() == QProcess::CrashExit
+                             ? tr("%1 crashed").arg(m_process->program())
+                             : tr("%1 ended too early, with exit status %2")
+                                   .arg(m_process->program(), QString::number(m_process->exitCode()));
     emit ended(m_ending);
 }
 

@@ -28,9 +28,10 @@ public:
     explicit ChildRun(QObject* parent = nullptr);
     ~ChildRun() override;
 
-    /// \param arguments without those that ask for events and take orders. \param handed a descriptor that the child
+    /// \param arguments without those that ask for events and take orders. \param handed descriptors that the child
     /// inherits, -1 for none.
-    void start(const QString& program, const QStringList& arguments, int handed = -1);
+    void start(const QString& program, const QStringList& arguments,
+               const std::array<int, 2>& handed = {-1, -1});
     void pause() { order("pause"); }
     void resume() { order("resume"); }
     /// Documents that are being worked on are finished. A child that does not end within ten seconds is killed.

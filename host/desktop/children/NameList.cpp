@@ -1,32 +1,21 @@
 #include "NameList.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include <sys/mman.h>
 
 namespace host::desktop {
 
-namespace {
-
-/// Below the user's own run-time folder, which lies in memory, where there is one.
-QString folder()
-{
-    const QString own = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return own.startsWith('/') && QFileInfo(own).isWritable() ? own : QDir::tempPath();
-}
-
-} // namespace
-
-/// QTemporaryFile gives nobody else any rights.
-NameList NameList::of(const QVector<QByteArray>& names)
+NameList::NameList(const QVector<QByteArray>& names) : m_file(memfd_create("names", MFD_CLOEXEC))
 {
     QByteArray bytes;
     for (const QByteArray& name : names)
         bytes += name + '\0';
-    NameList list;
-    auto file = std::make_unique<QTemporaryFile>(folder() + "/quintar-XXXXXX");
-    if (file->open() && file->write(bytes) == bytes.size() && file->flush())
-        list.m_file = std::move(file);
-    return list;
+    if (!writeAll(m_file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())))
+        m_file.close();
+}
+
+QString NameList::pathForChild() const
+{
+    return QString("/proc/self/fd/%1").arg(m_file.get());
 }
 
 } // namespace host::desktop

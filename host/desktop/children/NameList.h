@@ -1,25 +1,29 @@
 #pragma once
 
-#include <QByteArray>
-#include <QTemporaryFile>
-#include <QVector>
+#include "host/files/FileDescriptor.h"
 
-#include <memory>
+#include <QByteArray>
+#include <QString>
+#include <QVector>
 
 namespace host::desktop {
 
-/// A private file that hands names to a child process; gone with the object.
+/// Hands names to a child process: a file that lies in memory, has no name, and is gone with the object, also when this
+/// process is killed.
 class NameList
 {
 public:
-    /// The options that name the list of documents.
-    static NameList of(const QVector<QByteArray>& names);
+    /// Holds none.
+    NameList() = default;
+    explicit NameList(const QVector<QByteArray>& names);
 
-    /// Empty when the file could not be written.
-    QString path() const { return m_file ? m_file->fileName() : QString(); }
+    /// What the child has to open to read it; it leads nowhere when the file could not be written.
+    QString pathForChild() const;
+    /// What the child has to inherit; -1 for none.
+    int descriptor() const { return m_file.get(); }
 
 private:
-    std::unique_ptr<QTemporaryFile> m_file;
+    FileDescriptor m_file;
 };
 
 } // namespace host::desktop

@@ -61,6 +61,13 @@ void ListHistory::redo()
     emit changed();
 }
 
+void ListHistory::changeKept(const DocumentTable::Change& change)
+{
+    for (Step& step : m_steps)
+        for (DocumentRecord& record : step.kept)
+            change(record);
+}
+
 /// What is kept comes back, what is in the list goes and is kept.
 void ListHistory::turn(Step& step)
 {

@@ -29,6 +29,9 @@ public:
     DocumentTable::Ids undo();
     void redo();
 
+    /// What is changed of all documents is to be changed of those as well that may come back.
+    void changeKept(const DocumentTable::Change& change);
+
 signals:
     void changed();
 

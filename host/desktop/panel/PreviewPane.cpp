@@ -78,7 +78,7 @@ void PreviewPane::show()
     m_pictures.setDocument(record->path, m_workbench.passwordOf(*record), record->facts);
     QVector<PreviewScene::Bookmark> bookmarks;
     if (record->facts->bookmarks != 0 && isVisible())
-        bookmarks = m_outline.of(record->path, m_workbench.passwordOf(*record));
+        bookmarks = m_outline.of(record->path, m_workbench.passwordOf(*record), record->facts);
     const PreviewScene before = PreviewScene::before(*record, bookmarks);
     const PreviewScene after = PreviewScene::after(*record, bookmarks);
     if (wasKnown && before == m_before && after == m_after)

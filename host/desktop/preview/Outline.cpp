@@ -20,24 +20,30 @@ Outline::Outline(const QString& program, QObject* parent) : QObject(parent), m_p
     connect(&m_soon, &QTimer::timeout, this, &Outline::ask);
 }
 
-QVector<PreviewScene::Bookmark> Outline::of(const QByteArray& path, const QByteArray& password)
+/// What was known of the document before it was read again stays until there is an answer.
+QVector<PreviewScene::Bookmark> Outline::of(const QByteArray& path, const QByteArray& password,
+                                            const Facts& facts)
 {
-    if (const auto known = m_known.constFind(path); known != m_known.constEnd())
-        return *known;
-    if (path != m_wanted) {
+    const auto known = m_known.constFind(path);
+    const bool isThere = known != m_known.constEnd();
+    if (isThere && known->facts == facts)
+        return known->bookmarks;
+    if (path != m_wanted || facts != m_wantedFacts) {
         m_wanted = path;
+        m_wantedFacts = facts;
         m_password = password;
         m_soon.start();
     }
-    return {};
+    return isThere ? known->bookmarks : QVector<PreviewScene::Bookmark>();
 }
 
 void Outline::ask()
 {
-    m_names = NameList::of({m_wanted});
-    QStringList words{"show",         "--outline", QString::number(mostBookmarks),
-                      "--events",     "--control", "--files-from",
-                      m_names.path(), "--null"};
+    m_asked = m_wanted;
+    m_askedFacts = m_wantedFacts;
+    m_names = NameList(QVector<QByteArray>{m_asked});
+    QStringList words{"show",      "--outline",    QString::number(mostBookmarks), "--events",
+                      "--control", "--files-from", m_names.pathForChild(),         "--null"};
     m_passwordFile = {};
     if (!m_password.isEmpty()) {
         m_passwordFile = PasswordFile(m_password);
@@ -45,7 +51,7 @@ void Outline::ask()
     }
     m_child = std::make_unique<ChildRun>();
     connect(m_child.get(), &ChildRun::came, this, &Outline::take);
-    m_child->start(m_program, words, m_passwordFile.descriptor());
+    m_child->start(m_program, words, {m_names.descriptor(), m_passwordFile.descriptor()});
 }
 
 void Outline::take(const Events& events)
@@ -61,7 +67,7 @@ void Outline::take(const Events& events)
                     {entry.value("level").toInt(1) - 1, entry.value("title").toString().simplified()});
         if (m_known.size() >= mostKnown)
             m_known.clear();
-        m_known.insert(m_wanted, bookmarks);
+        m_known.insert(m_asked, {m_askedFacts, bookmarks});
         emit came();
     }
 }

@@ -21,8 +21,11 @@ class Outline : public QObject
 public:
     explicit Outline(const QString& program, QObject* parent = nullptr);
 
-    /// \param password empty for none. \returns what is known; asks for it otherwise, and says so by came().
-    QVector<PreviewScene::Bookmark> of(const QByteArray& path, const QByteArray& password);
+    using Facts = std::shared_ptr<const DocumentFacts>;
+
+    /// \param password empty for none. \param facts others when the document was read again. \returns what is known; asks for it otherwise, and says so by came().
+    QVector<PreviewScene::Bookmark> of(const QByteArray& path, const QByteArray& password,
+                                       const Facts& facts);
 
 signals:
     void came();
@@ -32,8 +35,18 @@ private:
     void take(const Events& events);
 
     QString m_program;
-    QHash<QByteArray, QVector<PreviewScene::Bookmark>> m_known;
+    struct Known
+    {
+        Facts facts;
+        QVector<PreviewScene::Bookmark> bookmarks;
+    };
+
+    QHash<QByteArray, Known> m_known;
     QByteArray m_wanted;
+    Facts m_wantedFacts;
+    /// What the child was asked for, which need not be wanted any more.
+    QByteArray m_asked;
+    Facts m_askedFacts;
     QByteArray m_password;
     NameList m_names;
     PasswordFile m_passwordFile;

@@ -44,7 +44,7 @@ DocumentOrder::DocumentOrder(DocumentTable& table, QObject* parent)
 {
     m_quiet.setSingleShot(true);
     m_quiet.setInterval(quietMilliseconds);
-    connect(&m_quiet, &QTimer::timeout, this, &DocumentOrder::settle);
+    connect(&m_quiet, &QTimer::timeout, this, [this] { m_isHeld ? m_quiet.start() : settle(); });
     connect(&table, &DocumentTable::appended, this, &DocumentOrder::takeAppended);
     connect(&table, &DocumentTable::changed, this, &DocumentOrder::takeChanged);
     connect(&table, &DocumentTable::rearranged, this, &DocumentOrder::refresh);

@@ -46,6 +46,8 @@ public:
 
     /// Filters and sorts now what would be filtered and sorted once nothing changes any more.
     void settle();
+    /// While it holds, rows stay that a filter no longer lets through.
+    void hold(bool isHeld) { m_isHeld = isHeld; }
 
 signals:
     void shownChanged();
@@ -72,6 +74,7 @@ private:
     int m_sortColumn = 0;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     QTimer m_quiet;
+    bool m_isHeld = false;
 };
 
 } // namespace host::desktop

@@ -84,6 +84,7 @@ Session::Session(Workbench& workbench, const QString& folder, QObject* parent)
     m_quiet.setSingleShot(true);
     m_quiet.setInterval(quietMilliseconds);
     connect(&m_quiet, &QTimer::timeout, this, &Session::save);
+    connect(&workbench.machine(), &RunMachine::changed, &m_quiet, QOverload<>::of(&QTimer::start));
     connect(&workbench, &Workbench::draftChanged, &m_quiet, QOverload<>::of(&QTimer::start));
     connect(&workbench.table(), &DocumentTable::appended, &m_quiet, QOverload<>::of(&QTimer::start));
     connect(&workbench.table(), &DocumentTable::rearranged, &m_quiet, QOverload<>::of(&QTimer::start));
@@ -143,6 +144,8 @@ QByteArray Session::toJson() const
     QJsonArray documents;
     for (const DocumentRecord& record : m_workbench.table().records())
         documents.append(QString::fromLatin1(record.path.toPercentEncoding("/")));
+    for (const QByteArray& path : m_workbench.pending())
+        documents.append(QString::fromLatin1(path.toPercentEncoding("/")));
     return QJsonDocument(QJsonObject{{"documents", documents},
                                      {"draft", desktop::toJson(m_workbench.draft())},
                                      {"destination", desktop::toJson(m_workbench.destination())}})

@@ -25,14 +25,18 @@ void DocumentTask::queue(Part part)
 
 void DocumentTask::pause()
 {
+    m_isPaused = true;
     if (m_child != nullptr)
         m_child->pause();
 }
 
 void DocumentTask::resume()
 {
+    m_isPaused = false;
     if (m_child != nullptr)
         m_child->resume();
+    else if (!m_parts.empty())
+        startPart();
 }
 
 void DocumentTask::stop()
@@ -40,6 +44,8 @@ void DocumentTask::stop()
     m_isStopping = true;
     if (m_child != nullptr)
         m_child->stop();
+    else if (!m_parts.empty()) // which wait until it goes on
+        end({true, true, {}, {}});
 }
 
 QVector<QByteArray> DocumentTask::names(const Part& part) const
@@ -60,8 +66,8 @@ void DocumentTask::startPart()
     QStringList words = arguments(next);
     words += {"--events", "--control"};
     if (const QVector<QByteArray> list = names(next); !list.isEmpty()) {
-        m_names = NameList::of(list);
-        words += {"--files-from", m_names.path(), "--null"};
+        m_names = NameList(list);
+        words += {"--files-from", m_names.pathForChild(), "--null"};
     }
     if (next.password >= 0) {
         m_password = PasswordFile(m_means.passwords.at(next.password));
@@ -70,7 +76,7 @@ void DocumentTask::startPart()
     m_child = new ChildRun(this);
     connect(m_child, &ChildRun::came, this, &DocumentTask::takeAll);
     connect(m_child, &ChildRun::ended, this, &DocumentTask::endPart);
-    m_child->start(m_means.program, words, m_password.descriptor());
+    m_child->start(m_means.program, words, {m_names.descriptor(), m_password.descriptor()});
 }
 
 void DocumentTask::takeAll(const Events& events)
@@ -122,18 +128,31 @@ void DocumentTask::endPart(const ChildRun::Ending& ending)
     m_child->deleteLater();
     m_child = nullptr;
     m_password = {};
+    m_names = {};
+    leavePart(ending);
     const bool goesOn = ending.isComplete && !ending.wasStopped && !m_isStopping;
-    do {
-        m_answered.resize(static_cast<std::size_t>(underWay().size()));
-        for (int number = 0; number < underWay().size(); ++number)
-            if (!m_answered[static_cast<std::size_t>(number)])
-                leave(underWay().at(number), ending);
-        m_parts.pop_front();
-        m_answered.clear();
-    } while (!goesOn && !m_parts.empty());
+    if (!goesOn || m_parts.empty())
+        return end(ending);
     m_table.flush();
-    if (!m_parts.empty())
-        return startPart();
+    if (!m_isPaused)
+        startPart();
+}
+
+void DocumentTask::leavePart(const ChildRun::Ending& ending)
+{
+    m_answered.resize(static_cast<std::size_t>(underWay().size()));
+    for (int number = 0; number < underWay().size(); ++number)
+        if (!m_answered[static_cast<std::size_t>(number)])
+            leave(underWay().at(number), ending);
+    m_parts.pop_front();
+    m_answered.clear();
+}
+
+void DocumentTask::end(const ChildRun::Ending& ending)
+{
+    while (!m_parts.empty())
+        leavePart(ending);
+    m_table.flush();
     emit progressed();
     emit finished(ending);
 }

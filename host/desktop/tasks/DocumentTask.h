@@ -29,6 +29,7 @@ public:
     DocumentTask(DocumentTable& table, const Means& means, QObject* parent);
 
     void start(const DocumentTable::Ids& ids);
+    /// Until it goes on, no further part is begun either.
     void pause();
     void resume();
     void stop();
@@ -66,12 +67,15 @@ protected:
     virtual void leave(DocumentId id, const ChildRun::Ending& ending) = 0;
     void startPart();
     void countDone() { ++m_done; }
+    void countMore() { ++m_total; }
     void queue(Part part);
 
 private:
     void takeAll(const Events& events);
     void takeOne(const Event& event);
     void endPart(const ChildRun::Ending& ending);
+    void leavePart(const ChildRun::Ending& ending);
+    void end(const ChildRun::Ending& ending);
     DocumentId idOf(int number) const;
 
     DocumentTable& m_table;
@@ -81,6 +85,7 @@ private:
     NameList m_names;
     PasswordFile m_password;
     ChildRun* m_child = nullptr;
+    bool m_isPaused = false;
     bool m_isStopping = false;
     int m_total = 0;
     int m_done = 0;

@@ -15,6 +15,8 @@ public:
     /// Files and folders by their absolute paths.
     void add(const QVector<QByteArray>& paths);
 
+    /// Those that were to be added; none when documents of the list are read.
+    const QVector<QByteArray>& paths() const { return m_paths; }
     /// Of those that were to be added: how many were in the list already.
     int known() const { return m_known; }
 

@@ -21,6 +21,7 @@ void Undoing::takeFound(const FoundEvent& event)
 {
     if (event.number == underWay().size())
         underWay().append(table().idOf(event.path));
+    countMore();
 }
 
 void Undoing::takeResult(DocumentId id, const ResultEvent& event)
@@ -36,6 +37,7 @@ void Undoing::takeResult(DocumentId id, const ResultEvent& event)
 /// The result's line may name the document itself.
 void Undoing::takeElsewhere(const ResultEvent& event)
 {
+    countDone();
     const DocumentId id = table().idOf(QByteArray::fromStdString(nameIn(event.result, "file")));
     if (id != 0)
         return takeResult(id, event);
@@ -44,7 +46,6 @@ void Undoing::takeElsewhere(const ResultEvent& event)
 
 void Undoing::count(const Outcome& outcome)
 {
-    countDone();
     m_undone += outcome.kind == Outcome::Kind::Undone ? 1 : 0;
     m_leftAlone += outcome.kind == Outcome::Kind::LeftAlone ? 1 : 0;
 }

@@ -1342,6 +1342,14 @@
         <source>the program said more than can be understood</source>
         <translation>das Programm hat mehr gesagt, als zu verstehen ist</translation>
     </message>
+    <message>
+        <source>%1 crashed</source>
+        <translation>%1 ist abgestürzt</translation>
+    </message>
+    <message>
+        <source>%1 ended too early, with exit status %2</source>
+        <translation>%1 hat sich zu früh beendet, mit dem Status %2</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::Commands</name>
@@ -2025,6 +2033,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <source>, </source>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Undoing… %1</source>
+        <translation>Rückgängig machen… %1</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2285,6 +2297,13 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>No document of the list wants a password.</source>
         <translation>Kein Dokument der Liste verlangt ein Passwort.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undoing was stopped: %n document(s) are as they were before the run.</source>
+        <translation>
+            <numerusform>Das Rückgängigmachen wurde angehalten: %n Dokument ist wieder wie vor dem Durchlauf.</numerusform>
+            <numerusform>Das Rückgängigmachen wurde angehalten: %n Dokumente sind wieder wie vor dem Durchlauf.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

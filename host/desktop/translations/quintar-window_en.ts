@@ -292,5 +292,12 @@
             <numerusform>%n documents were left alone, since they are no longer as the run left them.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Undoing was stopped: %n document(s) are as they were before the run.</source>
+        <translation>
+            <numerusform>Undoing was stopped: %n document is as it was before the run.</numerusform>
+            <numerusform>Undoing was stopped: %n documents are as they were before the run.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -1342,6 +1342,14 @@
         <source>the program said more than can be understood</source>
         <translation>el programa dijo más de lo que se puede entender</translation>
     </message>
+    <message>
+        <source>%1 crashed</source>
+        <translation>%1 falló inesperadamente</translation>
+    </message>
+    <message>
+        <source>%1 ended too early, with exit status %2</source>
+        <translation>%1 terminó antes de tiempo, con el estado de salida %2</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::Commands</name>
@@ -2025,6 +2033,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <source>, </source>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Undoing… %1</source>
+        <translation>Deshaciendo… %1</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2285,6 +2297,13 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>No document of the list wants a password.</source>
         <translation>Ningún documento de la lista pide una contraseña.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undoing was stopped: %n document(s) are as they were before the run.</source>
+        <translation>
+            <numerusform>Se detuvo la operación de deshacer: %n documento está como antes de la ejecución.</numerusform>
+            <numerusform>Se detuvo la operación de deshacer: %n documentos están como antes de la ejecución.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

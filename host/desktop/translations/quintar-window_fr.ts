@@ -1342,6 +1342,14 @@
         <source>the program said more than can be understood</source>
         <translation>le programme en a dit plus qu’on ne peut comprendre</translation>
     </message>
+    <message>
+        <source>%1 crashed</source>
+        <translation>%1 a planté</translation>
+    </message>
+    <message>
+        <source>%1 ended too early, with exit status %2</source>
+        <translation>%1 s’est terminé trop tôt, avec le code de sortie %2</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::Commands</name>
@@ -2025,6 +2033,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <source>, </source>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Undoing… %1</source>
+        <translation>Annulation… %1</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2285,6 +2297,13 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>No document of the list wants a password.</source>
         <translation>Aucun document de la liste ne demande de mot de passe.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undoing was stopped: %n document(s) are as they were before the run.</source>
+        <translation>
+            <numerusform>L’annulation a été arrêtée : %n document est tel qu’il était avant le traitement.</numerusform>
+            <numerusform>L’annulation a été arrêtée : %n documents sont tels qu’ils étaient avant le traitement.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

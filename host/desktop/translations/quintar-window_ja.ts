@@ -1332,6 +1332,14 @@
         <source>the program said more than can be understood</source>
         <translation>プログラムの出力が多すぎて理解できません</translation>
     </message>
+    <message>
+        <source>%1 crashed</source>
+        <translation>%1 が異常終了しました</translation>
+    </message>
+    <message>
+        <source>%1 ended too early, with exit status %2</source>
+        <translation>%1 が途中で終了しました (終了ステータス %2)</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::Commands</name>
@@ -1997,6 +2005,10 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <source>, </source>
         <translation>、</translation>
     </message>
+    <message>
+        <source>Undoing… %1</source>
+        <translation>元に戻しています… %1</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2248,6 +2260,12 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>No document of the list wants a password.</source>
         <translation>パスワードを必要とする文書はリストにありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undoing was stopped: %n document(s) are as they were before the run.</source>
+        <translation>
+            <numerusform>元に戻す処理を停止しました: %n 個の文書が実行前の状態に戻りました。</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #include "RunHistory.h"
 
 #include "host/desktop/texts/PlainText.h"
+#include "host/files/FileDescriptor.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,6 +14,8 @@
 
 #include <algorithm>
 
+#include <sys/file.h>
+
 namespace host::desktop {
 
 namespace {
@@ -20,6 +23,7 @@ namespace {
 const char timeFormat[] = "yyyy-MM-ddTHHmmss.zzzZ";
 const qint64 largestNote = 1 << 20;
 const int mostRuns = 1000;
+const int youngSeconds = 3;
 
 QDateTime timeOf(const QString& baseName)
 {
@@ -65,6 +69,16 @@ QString writeNote(const RunHistory::Run& run)
     return RunHistory::tr("The run could not be written down in %1: %2").arg(run.note, file.errorString());
 }
 
+/// A child of another window may be writing it. One that has just been begun is not touched, since it may be about to
+/// be locked.
+bool isUnderWay(const QString& report)
+{
+    if (QFileInfo(report).lastModified().secsTo(QDateTime::currentDateTime()) < youngSeconds)
+        return true;
+    const FileDescriptor file(open(QFile::encodeName(report).constData(), O_RDONLY | O_CLOEXEC));
+    return file.get() >= 0 && flock(file.get(), LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+}
+
 /// A report that no note tells of: its window has crashed.
 RunHistory::Run fromReport(const QString& path)
 {
@@ -103,7 +117,7 @@ void RunHistory::reload()
             told.insert(report);
     }
     for (const QString& name : folder.entryList({"*.jsonl"}, QDir::Files, QDir::Name))
-        if (!told.contains(folder.filePath(name)))
+        if (!told.contains(folder.filePath(name)) && !isUnderWay(folder.filePath(name)))
             m_runs.push_back(fromReport(folder.filePath(name)));
     std::sort(m_runs.begin(), m_runs.end(),
               [](const Run& left, const Run& right) { return left.when > right.when; });
@@ -112,7 +126,7 @@ void RunHistory::reload()
     endResetModel();
 }
 
-QString RunHistory::add(const Run& run, const QString& earlier)
+std::pair<QString, QString> RunHistory::add(const Run& run, const QString& earlier)
 {
     if (run.reports.isEmpty())
         return {};
@@ -122,19 +136,23 @@ QString RunHistory::add(const Run& run, const QString& earlier)
         if (!earlier.isEmpty() && each.note == earlier && !each.isUndone) {
             told.note = earlier;
             told.reports = each.reports + run.reports;
+            told.changed = each.changed < 0 ? -1 : run.changed;
         }
     const QString problem = writeNote(told);
     reload();
-    return problem;
+    return {told.note, problem};
 }
 
-QString RunHistory::setUndone(int row)
+QString RunHistory::setUndone(const QString& note)
 {
-    Run& run = m_runs.at(static_cast<std::size_t>(row));
-    run.isUndone = true;
-    const QString problem = writeNote(run);
+    const auto found =
+        std::find_if(m_runs.begin(), m_runs.end(), [&note](const Run& run) { return run.note == note; });
+    if (found == m_runs.end())
+        return {};
+    found->isUndone = true;
+    const int row = static_cast<int>(found - m_runs.begin());
     emit dataChanged(index(row, 0), index(row, columnTotal - 1));
-    return problem;
+    return writeNote(*found);
 }
 
 int RunHistory::newestUndoable() const

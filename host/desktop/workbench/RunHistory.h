@@ -39,12 +39,10 @@ public:
     void reload();
     /// Writes a run down. \param earlier the note of a run that this one went on with,
     /// such as by trying once more what had failed: both are told as one, and undone
-    /// together. \returns empty, or why it could not be.
-    QString add(const Run& run, const QString& earlier = {});
-    /// Empty where there is none.
-    QString newestNote() const { return m_runs.empty() ? QString() : m_runs.front().note; }
+    /// together. \returns the note, and empty or why it could not be written.
+    std::pair<QString, QString> add(const Run& run, const QString& earlier = {});
     /// \returns empty, or why it could not be kept.
-    QString setUndone(int row);
+    QString setUndone(const QString& note);
 
     const std::vector<Run>& runs() const { return m_runs; }
     /// -1 where there is none that can be undone.

@@ -48,12 +48,15 @@ const Arrow arrows[] = {
     {State::Paused,   Step::Stopped, State::Stopping},
     {State::Paused,   Step::Ended,   State::Results},
     {State::Stopping, Step::Ended,   State::Results},
+    {State::Stopping, Step::Undone,  State::Listed},
+    {State::Stopping, Step::Emptied, State::Empty},
     {State::Results,  Step::Added,   State::Reading},
     {State::Results,  Step::Edited,  State::Checking},
     {State::Results,  Step::Cleared, State::Listed},
     {State::Results,  Step::Emptied, State::Empty},
     {State::Results,  Step::Started, State::Running},
     {State::Results,  Step::Undo,    State::Undoing},
+    {State::Undoing,  Step::Stopped, State::Stopping},
     {State::Undoing,  Step::Undone,  State::Listed},
     {State::Undoing,  Step::Emptied, State::Empty},
 };
@@ -87,7 +90,7 @@ bool allows(Command command, State state)
     case Command::Resume:
         return state == State::Paused;
     case Command::Stop:
-        return isOf(state, {State::Running, State::Paused, State::Reading, State::Checking});
+        return isOf(state, {State::Running, State::Paused, State::Reading, State::Checking, State::Undoing});
     case Command::UndoRun:
         return !isRunning(state) && !isOf(state, {State::Undoing, State::Reading});
     case Command::TryAgain:

@@ -29,6 +29,10 @@ Workbench::Workbench(const QString& program, const QString& reports, QObject* pa
     for (auto signal : {&DocumentOrder::shownChanged, &DocumentOrder::selectionMoved})
         connect(&m_order, signal, &m_collectSoon, QOverload<>::of(&QTimer::start));
     connect(&m_table, &DocumentTable::changed, &m_collectSoon, QOverload<>::of(&QTimer::start));
+    connect(&m_machine, &RunMachine::changed, this, [this] {
+        m_order.hold(m_machine.state() == State::Checking);
+    }); // of which nothing is known for a while
+    connect(&m_machine, &RunMachine::changed, this, &Workbench::addWaiting, Qt::QueuedConnection);
     connect(&m_table, &DocumentTable::rearranged, this, [this] {
         if (m_table.count() == 0)
             m_machine.handle(Step::Emptied);
@@ -50,7 +54,27 @@ void Workbench::add(const QVector<QByteArray>& paths)
     auto* reading = new Reading(m_table, means(), this);
     connect(reading, &Reading::added, &m_list, &ListHistory::added);
     startReading(reading);
-    reading->add(paths);
+    reading->add(paths + std::exchange(m_unread, {}));
+}
+
+/// Once nothing stands against it any more.
+void Workbench::addWaiting()
+{
+    if (m_machine.isEnabled(Command::Add) && m_machine.state() != State::Reading)
+        add(std::exchange(m_waiting, {}));
+}
+
+QVector<QByteArray> Workbench::pending() const
+{
+    QVector<QByteArray> paths;
+    if (const auto* reading = qobject_cast<const Reading*>(m_task.data()))
+        paths += reading->paths();
+    for (const QByteArray& path : m_unread + m_waiting)
+        paths += path;
+    paths.erase(std::remove_if(paths.begin(), paths.end(),
+                               [this](const QByteArray& path) { return m_table.idOf(path) != 0; }),
+                paths.end());
+    return paths;
 }
 
 void Workbench::startReading(Reading* reading)
@@ -104,7 +128,7 @@ void Workbench::redoList()
     follow();
 }
 
-/// After the list has changed without reading: what has come back is read already.
+/// After the list has changed without reading: what has come back is read already, unless it was undone meanwhile.
 void Workbench::follow()
 {
     if (m_table.count() > 0 && m_machine.state() == State::Empty) {
@@ -112,6 +136,12 @@ void Workbench::follow()
         m_machine.handle(Step::Read);
     }
     collectTargets();
+    Ids unread;
+    for (const DocumentRecord& record : m_table.records())
+        if (record.state() == DocumentRecord::State::Waiting)
+            unread.append(record.id);
+    if (!unread.isEmpty())
+        return readAgain(unread);
     if (m_machine.state() != State::Results) // which stay those of the documents that are left
         edited();
 }
@@ -122,7 +152,7 @@ void Workbench::setDraft(const ChangeDraft& draft)
         return;
     m_runOrder.draft = draft;
     leaveResults();
-    m_table.changeAll([](DocumentRecord& record) { record.check.reset(); });
+    changeAll([](DocumentRecord& record) { record.check.reset(); });
     edited();
     emit draftChanged();
 }
@@ -133,7 +163,7 @@ void Workbench::setDestination(const Destination& destination)
         return;
     m_runOrder.destination = destination;
     leaveResults();
-    m_table.changeAll([](DocumentRecord& record) { record.check.reset(); });
+    changeAll([](DocumentRecord& record) { record.check.reset(); });
     edited();
     emit draftChanged();
 }
@@ -193,13 +223,19 @@ void Workbench::edited()
     emit countsChanged();
 }
 
+void Workbench::changeAll(const DocumentTable::Change& change)
+{
+    m_list.changeKept(change);
+    m_table.changeAll(change);
+}
+
 /// Results belong to the documents as they are now: what was changed in place is what is there.
 void Workbench::leaveResults()
 {
     if (m_machine.state() != State::Results)
         return;
     const bool inPlace = m_lastOrder.destination.kind == Destination::Kind::InPlace;
-    m_table.changeAll([inPlace](DocumentRecord& record) {
+    changeAll([inPlace](DocumentRecord& record) {
         if (inPlace && record.result && record.facts && record.result->kind == Outcome::Kind::Changed) {
             auto facts = std::make_shared<DocumentFacts>(*record.facts);
             facts->view.view.add(record.result->after.view);
@@ -252,7 +288,10 @@ void Workbench::dropTask()
 
 void Workbench::endReading(const ChildRun::Ending& ending)
 {
-    const int known = qobject_cast<const Reading*>(m_task.data())->known();
+    const auto* reading = qobject_cast<const Reading*>(m_task.data());
+    const int known = reading->known();
+    if (!ending.isComplete && !ending.wasStopped)
+        m_unread = reading->paths();
     m_task->deleteLater();
     m_task.clear();
     if (!ending.isComplete && !ending.wasStopped)
@@ -264,8 +303,6 @@ void Workbench::endReading(const ChildRun::Ending& ending)
     m_order.settle();
     collectTargets();
     emit progressed();
-    if (!m_waiting.isEmpty())
-        return add(std::exchange(m_waiting, {}));
     edited();
     tellOfPassword();
 }

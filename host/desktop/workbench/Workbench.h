@@ -60,6 +60,8 @@ public:
 
     /// Files and folders by their absolute paths. While a run goes on they wait for its end.
     void add(const QVector<QByteArray>& paths);
+    /// What was added and is not in the list yet: it waits, is being looked through, or reading it broke off.
+    QVector<QByteArray> pending() const;
     void remove(const Ids& ids);
     void readAgain(const Ids& ids);
     void undoList();
@@ -107,6 +109,7 @@ signals:
     void said(const QString& text);
     /// The same, and it went wrong.
     void failed(const QString& text);
+    /// Nothing writes any more, after a run or after undoing one.
     void runEnded();
 
 private:
@@ -114,6 +117,7 @@ private:
     void dropTask();
     void edited();
     void leaveResults();
+    void changeAll(const DocumentTable::Change& change);
     void check();
     void collectTargets();
     void markAside();
@@ -121,9 +125,10 @@ private:
     void endChecking(const ChildRun::Ending& ending);
     void endRunning(const ChildRun::Ending& ending);
     void endUndoing(const ChildRun::Ending& ending);
+    void addWaiting();
     void startReading(Reading* reading);
     void run(const Ids& ids);
-    void writeDown(const Running& running);
+    void writeDown(const Running& running, bool isComplete);
     void follow();
     void tellOfPassword();
     DocumentTask::Means means() const { return {m_program, m_passwords}; }
@@ -145,9 +150,12 @@ private:
     QString m_lastNote;
     QPointer<DocumentTask> m_task;
     QVector<QByteArray> m_waiting;
+    /// Reading these broke off; they are tried again with what is added next.
+    QVector<QByteArray> m_unread;
     QTimer m_checkSoon;
     QTimer m_collectSoon;
-    int m_undoing = -1;
+    /// The note of the run that is being undone.
+    QString m_undoing;
 };
 
 } // namespace host::desktop

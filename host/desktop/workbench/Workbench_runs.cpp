@@ -1,6 +1,9 @@
 #include "Workbench.h"
 
 #include <QDir>
+#include <QFile>
+
+#include <algorithm>
 
 namespace host::desktop {
 
@@ -70,7 +73,7 @@ void Workbench::endRunning(const ChildRun::Ending& ending)
 {
     if (!ending.isComplete)
         emit failed(ending.words.isEmpty() ? tr("The run broke off.") : ending.words);
-    writeDown(*qobject_cast<const Running*>(m_task.data()));
+    writeDown(*qobject_cast<const Running*>(m_task.data()), ending.isComplete);
     m_task->deleteLater();
     m_task.clear();
     m_machine.handle(Step::Ended);
@@ -78,21 +81,23 @@ void Workbench::endRunning(const ChildRun::Ending& ending)
     emit progressed();
     emit countsChanged();
     emit runEnded();
-    if (!m_waiting.isEmpty())
-        add(std::exchange(m_waiting, {}));
 }
 
-void Workbench::writeDown(const Running& running)
+/// What a run has changed that broke off is not known, if it began at all.
+void Workbench::writeDown(const Running& running, bool isComplete)
 {
     RunHistory::Run done;
     done.what = running.order().draft.inWords();
     done.where = running.order().destination.inWords();
     done.isInPlace = running.order().destination.kind == Destination::Kind::InPlace;
-    done.changed = counts().changed;
     done.reports = running.reports();
-    if (const QString problem = m_history.add(done, m_lastNote); !problem.isEmpty())
+    const bool hasBegun = std::any_of(done.reports.begin(), done.reports.end(),
+                                      [](const QString& report) { return QFile::exists(report); });
+    done.changed = isComplete || !hasBegun ? counts().changed : -1;
+    const auto& [note, problem] = m_history.add(done, m_lastNote);
+    m_lastNote = note;
+    if (!problem.isEmpty())
         emit failed(problem);
-    m_lastNote = m_history.newestNote();
 }
 
 void Workbench::undoRun(int row)
@@ -101,7 +106,7 @@ void Workbench::undoRun(int row)
         return;
     dropTask();
     leaveResults();
-    m_undoing = row;
+    m_undoing = m_history.runs().at(static_cast<std::size_t>(row)).note;
     auto* undoing = new Undoing(m_table, means(), this);
     begin(undoing, &Workbench::endUndoing);
     m_machine.handle(Step::Undo);
@@ -118,20 +123,25 @@ void Workbench::endUndoing(const ChildRun::Ending& ending)
     m_task.clear();
     if (!ending.isComplete && undone == 0)
         emit failed(ending.words.isEmpty() ? tr("Undoing broke off.") : ending.words);
+    else if (ending.wasStopped)
+        emit said(tr("Undoing was stopped: %n document(s) are as they were before the run.", "", undone));
     else if (leftAlone == 0)
         emit said(tr("%n document(s) are as they were before the run.", "", undone));
     else
         emit failed(tr("%n document(s) were left alone, since they are no longer as the run left them.", "",
                        leftAlone));
-    if (ending.isComplete && leftAlone == 0)
+    m_history.reload(); // its report may have been passed over while it was locked
+    if (ending.isComplete && !ending.wasStopped && leftAlone == 0)
         if (const QString problem = m_history.setUndone(m_undoing); !problem.isEmpty())
             emit failed(problem);
+    m_list.changeKept([](DocumentRecord& record) { record.forget(); });
     Ids ids;
     for (const DocumentRecord& record : m_table.records())
         if (record.result && record.result->kind == Outcome::Kind::Undone)
             ids.append(record.id);
     m_machine.handle(m_table.count() > 0 ? Step::Undone : Step::Emptied);
     emit progressed();
+    emit runEnded();
     if (ids.isEmpty())
         return edited();
     readAgain(ids);
