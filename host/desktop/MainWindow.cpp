@@ -6,6 +6,7 @@
 #include "host/desktop/dialogs/HelpWindow.h"
 #include "host/desktop/dialogs/HistoryDialog.h"
 #include "host/desktop/list/DetailLine.h"
+#include "host/desktop/look/PaneRing.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
@@ -190,12 +191,10 @@ void MainWindow::connectActions()
     connect(m_actions[Id::ShowPreview], &QAction::toggled, m_preview, &QWidget::setVisible);
     connect(m_actions[Id::NextPane], &QAction::triggered, this, [this] { goTo(1); });
     connect(m_actions[Id::PreviousPane], &QAction::triggered, this, [this] { goTo(-1); });
-    m_actions[Id::OpenInViewer]->setShortcutContext(Qt::WidgetShortcut);
-    m_actions[Id::Remove]->setShortcutContext(Qt::WidgetShortcut);
-    m_actions[Id::CopyPaths]->setShortcutContext(Qt::WidgetShortcut);
-    m_actions[Id::SelectAll]->setShortcutContext(Qt::WidgetShortcut);
-    for (const Id id : {Id::OpenInViewer, Id::Remove, Id::CopyPaths, Id::SelectAll})
+    for (const Id id : {Id::OpenInViewer, Id::Remove, Id::CopyPaths, Id::SelectAll}) {
+        m_actions[id]->setShortcutContext(Qt::WidgetShortcut);
         m_view->addAction(m_actions[id]);
+    }
 }
 
 void MainWindow::showState()
@@ -222,26 +221,10 @@ void MainWindow::showState()
     launcherprogress::show(share);
 }
 
-/// From the list to the change and on, in a ring.
+/// From the list to the change and on.
 void MainWindow::goTo(int step)
 {
-    QWidget* const parts[] = {m_view, m_change, m_runBar, m_filter};
-    int now = 0;
-    for (int place = 0; place < 4; ++place)
-        if (QWidget* focus = focusWidget();
-            focus != nullptr && (focus == parts[place] || parts[place]->isAncestorOf(focus)))
-            now = place;
-    for (int tries = 0; tries < 4; ++tries) {
-        now = (now + step + 4) % 4;
-        QWidget* part = parts[now];
-        part->setFocus(Qt::TabFocusReason);
-        if (focusWidget() == part && part->focusPolicy() != Qt::NoFocus)
-            return;
-        for (QWidget* each : part->findChildren<QWidget*>())
-            if (each->isVisible() && each->isEnabled() &&
-                (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus)
-                return each->setFocus(Qt::TabFocusReason);
-    }
+    panering::go({m_view, m_change, m_runBar, m_filter}, step);
 }
 
 void MainWindow::begin(const QVector<QByteArray>& paths)

@@ -2,7 +2,7 @@
 #include "host/desktop/dialogs/StartQuestion.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/presets/PresetFolder.h"
-#include "support/FakeQuintar.h"
+#include "support/program/FakeQuintar.h"
 
 #include <QApplication>
 #include <QMessageBox>
