@@ -39,6 +39,8 @@ std::string of(const Command& command)
         }
         text += row(each);
     }
+    if (title == nullptr)
+        text += "It takes no options.\n";
     return text + "\n";
 }
 
