@@ -75,6 +75,8 @@ std::optional<WorkerSlot::Answer> WorkerSlot::takeAnswer()
 
 void WorkerSlot::copyIn(std::uint64_t at, const void* bytes, std::size_t size)
 {
+    if (size == 0)
+        return; // no text has no place in memory
     const std::size_t place = at % capacity;
     const std::size_t first = std::min(size, capacity - place);
     std::memcpy(&m_answers[place], bytes, first);
