@@ -29,14 +29,14 @@ bool isSaid(const ViewValue& title)
 ViewValue PresentView::operator[](ViewEntry entry) const
 {
     const int option = viewentries::describe(entry).preference;
-    const ViewValue value = option != 0                      ? numbered(option)
-                            : entry == ViewEntry::PageMode   ? numbered(pdflibrary::PageModeEntry)
-                            : entry == ViewEntry::PageLayout ? numbered(pdflibrary::PageLayoutEntry)
-                            : entry == ViewEntry::OpenPage   ? openPage()
-                            : entry == ViewEntry::Zoom       ? zoom()
-                            : entry == ViewEntry::Title
-                                ? text(m_library.GetInformation(titleKey), pdflibrary::TitleEntry)
-                                : text(m_library.GetCatalogInformation(L"Lang"), pdflibrary::LanguageEntry);
+    ViewValue value = option != 0                      ? numbered(option)
+                      : entry == ViewEntry::PageMode   ? numbered(pdflibrary::PageModeEntry)
+                      : entry == ViewEntry::PageLayout ? numbered(pdflibrary::PageLayoutEntry)
+                      : entry == ViewEntry::OpenPage   ? openPage()
+                      : entry == ViewEntry::Zoom       ? zoom()
+                      : entry == ViewEntry::Title
+                          ? text(m_library.GetInformation(titleKey), pdflibrary::TitleEntry)
+                          : text(m_library.GetCatalogInformation(L"Lang"), pdflibrary::LanguageEntry);
     requireRead(entry);
     return value;
 }
@@ -50,7 +50,7 @@ Magnification PresentView::magnification() const
 
 ViewValue PresentView::shownTitle() const
 {
-    const ViewValue title = (*this)[ViewEntry::Title];
+    ViewValue title = (*this)[ViewEntry::Title];
     if (isSaid(title))
         return title;
     const ViewValue inMetadata = titleInMetadata();

@@ -136,7 +136,7 @@ std::string seeAlso(const Command* without)
     std::string text;
     for (const std::string& name : names)
         if (without == nullptr || name != without->name)
-            text = (text.empty() ? "" : text + " ,\n") + ".Xr quintar-" + name + " 1";
+            text.append(text.empty() ? ".Xr quintar-" : " ,\n.Xr quintar-").append(name).append(" 1");
     return ".Sh SEE ALSO\n" + (without != nullptr ? ".Xr quintar 1 ,\n" + text : text) + "\n";
 }
 

@@ -290,6 +290,7 @@ const Command* findCommand(const std::string& name)
 std::vector<std::string> commandNames()
 {
     std::vector<std::string> names;
+    names.reserve(commandRows.size());
     for (const Command& each : commandRows)
         names.push_back(each.name);
     return names;

@@ -138,7 +138,11 @@ std::string describeKeys()
         const std::string name = key.name;
         const std::string choices = choicesOf(key, "\n      ");
         const std::string space(name.size() < nameWidth ? nameWidth - name.size() : 1, ' ');
-        text += "  " + name + (choices.starts_with('\n') ? "" : space) + choices + "\n";
+        text.append("  ")
+            .append(name)
+            .append(choices.starts_with('\n') ? "" : space)
+            .append(choices)
+            .append("\n");
     }
     return text;
 }

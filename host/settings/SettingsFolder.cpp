@@ -129,6 +129,7 @@ bool SettingsFolder::hasName(const std::string& file, const std::string& name) c
 std::vector<std::string> SettingsFolder::baseNames(const std::vector<std::string>& files) const
 {
     std::vector<std::string> names;
+    names.reserve(files.size());
     for (const std::string& file : files)
         names.push_back(baseName(file));
     return names;

@@ -46,7 +46,7 @@ RunHistory::Run fromNote(const QString& path)
     run.isInPlace = note.value("inPlace").toBool();
     run.changed = note.value("changed").toInt();
     run.isUndone = note.value("undone").toBool();
-    for (const QJsonValue& report : note.value("reports").toArray())
+    for (const auto& report : note.value("reports").toArray())
         run.reports += QFileInfo(path).dir().filePath(report.toString());
     return run;
 }
