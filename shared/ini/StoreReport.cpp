@@ -38,7 +38,7 @@ QStringList take()
     QCoreApplication* const application = QCoreApplication::instance();
     if (application == nullptr)
         return {};
-    const QStringList reports = application->property(property).toStringList();
+    QStringList reports = application->property(property).toStringList();
     application->setProperty(property, QVariant());
     return reports;
 }
