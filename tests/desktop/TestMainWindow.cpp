@@ -1,10 +1,9 @@
-#include "host/desktop/MainWindow.h"
 #include "host/desktop/dialogs/StartQuestion.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/presets/PresetFolder.h"
 #include "host/desktop/texts/ViewTexts.h"
-#include "support/program/FakeQuintar.h"
+#include "support/people/OpenedWindow.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -302,10 +301,7 @@ private:
     void open()
     {
         m_window.reset();
-        m_window = std::make_unique<MainWindow>(
-            MainWindow::Places{Fake::program(), m_folder->filePath("runs"), m_folder->filePath("sessions"),
-                               m_folder->filePath("window.ini"), m_folder->filePath("views")});
-        m_window->show();
+        m_window = openedWindow(*m_folder);
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         m_window->begin({});
     }

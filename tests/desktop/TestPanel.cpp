@@ -1,8 +1,7 @@
-#include "host/desktop/MainWindow.h"
 #include "host/desktop/dialogs/StartQuestion.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/presets/PresetFolder.h"
-#include "support/program/FakeQuintar.h"
+#include "support/people/OpenedWindow.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -28,13 +27,7 @@ private slots:
         m_fake = std::make_unique<FakeQuintar>();
         m_fake->plays("try", Fake::start() + Fake::changed(0) + Fake::end());
         m_folder = std::make_unique<QTemporaryDir>();
-        m_window = std::make_unique<MainWindow>(MainWindow::Places{Fake::program(),
-                                                                   m_folder->filePath("runs"),
-                                                                   m_folder->filePath("sessions"),
-                                                                   m_folder->filePath("window.ini"),
-                                                                   m_folder->filePath("views"),
-                                                                   {}});
-        m_window->show();
+        m_window = openedWindow(*m_folder);
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
     void cleanup() { m_window.reset(); }

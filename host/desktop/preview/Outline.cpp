@@ -41,12 +41,12 @@ void Outline::ask()
 {
     m_asked = m_wanted;
     m_askedFacts = m_wantedFacts;
-    m_names = NameList(QVector<QByteArray>{m_asked});
+    m_names = HandedFile::ofNames(QVector<QByteArray>{m_asked});
     QStringList words{"show",      "--outline",    QString::number(mostBookmarks), "--events",
                       "--control", "--files-from", m_names.pathForChild(),         "--null"};
     m_passwordFile = {};
     if (!m_password.isEmpty()) {
-        m_passwordFile = PasswordFile(m_password);
+        m_passwordFile = HandedFile::ofPassword(m_password);
         words += {"--password-file", m_passwordFile.pathForChild()};
     }
     m_child = std::make_unique<ChildRun>();

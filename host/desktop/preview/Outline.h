@@ -3,8 +3,7 @@
 #include "PreviewScene.h"
 
 #include "host/desktop/children/ChildRun.h"
-#include "host/desktop/children/NameList.h"
-#include "host/desktop/children/PasswordFile.h"
+#include "host/desktop/children/HandedFile.h"
 
 #include <QHash>
 
@@ -48,8 +47,8 @@ private:
     QByteArray m_asked;
     Facts m_askedFacts;
     QByteArray m_password;
-    NameList m_names;
-    PasswordFile m_passwordFile;
+    HandedFile m_names;
+    HandedFile m_passwordFile;
     std::unique_ptr<ChildRun> m_child;
     QTimer m_soon;
 };

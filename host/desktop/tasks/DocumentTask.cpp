@@ -66,11 +66,11 @@ void DocumentTask::startPart()
     QStringList words = arguments(next);
     words += {"--events", "--control"};
     if (const QVector<QByteArray> list = names(next); !list.isEmpty()) {
-        m_names = NameList(list);
+        m_names = HandedFile::ofNames(list);
         words += {"--files-from", m_names.pathForChild(), "--null"};
     }
     if (next.password >= 0) {
-        m_password = PasswordFile(m_means.passwords.at(next.password));
+        m_password = HandedFile::ofPassword(m_means.passwords.at(next.password));
         words += {"--password-file", m_password.pathForChild()};
     }
     m_child = new ChildRun(this);

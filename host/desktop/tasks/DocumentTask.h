@@ -3,8 +3,7 @@
 #include "Passwords.h"
 
 #include "host/desktop/children/ChildRun.h"
-#include "host/desktop/children/NameList.h"
-#include "host/desktop/children/PasswordFile.h"
+#include "host/desktop/children/HandedFile.h"
 #include "host/desktop/documents/DocumentTable.h"
 
 #include <deque>
@@ -82,8 +81,8 @@ private:
     Means m_means;
     std::deque<Part> m_parts;
     std::vector<bool> m_answered;
-    NameList m_names;
-    PasswordFile m_password;
+    HandedFile m_names;
+    HandedFile m_password;
     ChildRun* m_child = nullptr;
     bool m_isPaused = false;
     bool m_isStopping = false;
