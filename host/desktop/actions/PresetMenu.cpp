@@ -40,6 +40,7 @@ PresetMenu::PresetMenu(Workbench& workbench, ActionTable& actions, const QString
 void PresetMenu::fill()
 {
     clear();
+    delete findChild<QMenu*>(); // of what could be removed before
     m_presets = m_folder.presets();
     addPresets(Preset::Kind::View, tr("Views"));
     addPresets(Preset::Kind::ActionList, tr("Action Lists"));
