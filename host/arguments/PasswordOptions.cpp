@@ -4,6 +4,7 @@
 #include "host/files/FileDescriptor.h"
 #include "host/terminal/UsageError.h"
 
+#include <bsd/readpassphrase.h>
 #include <fcntl.h>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -23,8 +24,9 @@ void leaveNoCore()
     prctl(PR_SET_DUMPABLE, 0);
 }
 
-/// Without a buffer of somebody else's, where it would stay.
-bool readAllInto(std::string& bytes, int file)
+/// As far as the first line goes, whose writer may keep a pipe open. Without a buffer of somebody else's, where it would
+/// stay.
+bool readLineInto(std::string& bytes, int file)
 {
     bytes.resize(largestFile + 1);
     std::size_t size = 0;
@@ -32,12 +34,27 @@ bool readAllInto(std::string& bytes, int file)
         count = ::read(file, bytes.data() + size, bytes.size() - size);
         if (count < 0 && errno != EINTR)
             return false;
+        const std::size_t before = size;
         size += count > 0 ? static_cast<std::size_t>(count) : 0;
+        if (std::memchr(bytes.data() + before, '\n', size - before) != nullptr)
+            break;
     }
     if (size > largestFile)
         errno = EFBIG;
     bytes.resize(size);
     return size <= largestFile;
+}
+
+/// A person is asked, and what they type is not shown. \returns false where nobody can be asked.
+bool askFor(std::string& password)
+{
+    engine::Wiped<char> typed;
+    typed.text.resize(largestFile);
+    if (isatty(STDIN_FILENO) == 0 || readpassphrase("Password for encrypted documents: ", typed.text.data(),
+                                                    typed.text.size(), RPP_REQUIRE_TTY) == nullptr)
+        return false;
+    password.assign(typed.text.c_str());
+    return true;
 }
 
 } // namespace
@@ -69,10 +86,12 @@ void PasswordOptions::read()
     if (!m_file)
         return;
     leaveNoCore();
+    if (*m_file == "-" && askFor(m_password.text))
+        return;
     const FileDescriptor file(*m_file == "-" ? dup(STDIN_FILENO)
                                              : ::open(m_file->c_str(), O_RDONLY | O_CLOEXEC));
     engine::Wiped<char> bytes;
-    if (!file.isOpen() || !readAllInto(bytes.text, file.get()))
+    if (!file.isOpen() || !readLineInto(bytes.text, file.get()))
         throw UsageError("the password file " + *m_file + " cannot be read: " + systemError(errno));
     m_password.text.assign(bytes.text, 0, bytes.text.find_first_of("\r\n"));
 }

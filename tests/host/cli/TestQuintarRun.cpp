@@ -281,6 +281,33 @@ private slots:
                  QJsonValue("/UseOutlines"));
     }
 
+    void asksForAPasswordOnATerminal()
+    {
+        put("locked.pdf", encrypted(PdfBuilder::simple(), {"--encrypt", "secret", "owner", "256"}));
+        const QStringList words = QStringList{PROGRAM_FILE, "run", "--in-place"} + panelAndPage() +
+                                  QStringList{"--password-file", "-", "locked.pdf"};
+        QProcess terminal;
+        terminal.setWorkingDirectory(path());
+        terminal.start("script", {"-qec", words.join(' '), "/dev/null"});
+        QByteArray shown;
+        QVERIFY(
+            waitFor([&] { return (shown += terminal.readAllStandardOutput()).contains("Password for"); }));
+        terminal.write("secret\n"); // and no end of input
+        QVERIFY(terminal.waitForFinished());
+        shown += terminal.readAllStandardOutput();
+        QVERIFY2(terminal.exitCode() == 0 && !shown.contains("secret"), shown);
+    }
+
+    void readsAPasswordFromAPipeThatStaysOpen()
+    {
+        put("locked.pdf", encrypted(PdfBuilder::simple(), {"--encrypt", "secret", "owner", "256"}));
+        QProcess show;
+        show.start(PROGRAM_FILE, {"show", "--password-file", "-", path("locked.pdf")});
+        show.write("secret\n");
+        QVERIFY(show.waitForFinished());
+        QCOMPARE(show.exitCode(), 0);
+    }
+
     void writesNothingInADryRun()
     {
         const std::string original = put("in/a.pdf");
