@@ -7,10 +7,12 @@
 
 #include "pdflibrary/ViewNumbers.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QSettings>
 #include <QSpinBox>
 #include <QToolButton>
 
@@ -92,6 +94,28 @@ private slots:
         });
         QCOMPARE(bench().draft(), draft);
         answers();
+    }
+
+    void beginsWithAllThatAListDoes()
+    {
+        const QString place = TemporaryHome::actionList("two.xqq");
+        QVERIFY(QFile::copy(TEST_DATA_DIR "/manuals.xqq", place));
+        QVariantMap second = storedValue(place, "ActionPrefs0").toMap();
+        second["OpenToPageSpinBox"] = 4;
+        second["ViewerPrefsCheckBox"] = false;
+        second["CenterWinOnScreenCheckBox"] = false;
+        QSettings list(place, QSettings::IniFormat);
+        list.setValue("ActionName1", "Initial View");
+        list.setValue("ActionPrefs1", second);
+        list.sync();
+        chooseInMenu("Manuals");
+        chooseInMenu("Configure the Action…", [](QDialog& dialog) {
+            QVERIFY(person::widget<QCheckBox>(dialog, "CenterWinOnScreenCheckBox")->isChecked());
+            typePage(dialog, 4, "4");
+            person::pressOk(dialog);
+        });
+        QTRY_VERIFY(lastTrial().contains(" --set OpenToPageSpinBox=4 "));
+        QVERIFY(lastTrial().contains(" --set CenterWinOnScreenCheckBox=true "));
     }
 
     void storesListsAndFavouritesOnTheWay()

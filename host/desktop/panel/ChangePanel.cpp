@@ -192,12 +192,12 @@ QWidget* ChangePanel::makeStored()
     m_storedLines = new PlainLabel(m_stored);
     m_storedLines->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
     m_storedLines->setWordWrap(true);
-    auto* configure = new QPushButton(tr("C&onfigure…"), m_stored);
-    configure->setObjectName("configureButton");
-    connect(configure, &QPushButton::clicked, this, &ChangePanel::configureWanted);
+    m_configure = new QPushButton(tr("C&onfigure…"), m_stored);
+    m_configure->setObjectName("configureButton");
+    connect(m_configure, &QPushButton::clicked, this, &ChangePanel::configureWanted);
     column->addWidget(m_storedName);
     column->addWidget(m_storedLines);
-    column->addWidget(configure, 0, Qt::AlignLeft);
+    column->addWidget(m_configure, 0, Qt::AlignLeft);
     column->addStretch();
     return m_stored;
 }
@@ -226,6 +226,7 @@ void ChangePanel::show()
         m_storedName->setText(stored->name);
         m_storedLines->setText(stored->lines.join('\n'));
     }
+    m_configure->setEnabled(isOpen);
     m_reset->setEnabled(isOpen && !m_workbench.draft().isEmpty());
     m_destination->setEnabled(isOpen);
     m_scope->setEnabled(isOpen);

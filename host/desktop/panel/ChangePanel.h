@@ -47,6 +47,7 @@ private:
     QWidget* m_stored = nullptr;
     QLabel* m_storedName = nullptr;
     QLabel* m_storedLines = nullptr;
+    QPushButton* m_configure = nullptr;
     QVBoxLayout* m_warnings;
     DestinationRow* m_destination;
     std::vector<SettingRow*> m_rows;

@@ -103,7 +103,7 @@ void confirm(QWidget* parent, const QString& question, const QString& more, cons
 {
     if (takeAnswer())
         return then();
-    auto* box = new QMessageBox(QMessageBox::Question, parent->window()->windowTitle(), question,
+    auto* box = new QMessageBox(QMessageBox::Question, QStringLiteral("Quintar"), question,
                                 QMessageBox::Cancel, parent);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setInformativeText(more);

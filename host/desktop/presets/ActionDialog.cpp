@@ -8,6 +8,7 @@
 #include "host/settings/SettingsFolder.h"
 #include "host/terminal/UsageError.h"
 
+#include "EditInitialView/InitialViewSettings.h"
 #include "shared/CActionInterface.h"
 #include "shared/ini/StoreReport.h"
 #include "shared/ini/StoredKeys.h"
@@ -19,6 +20,17 @@ namespace host::desktop {
 
 namespace {
 
+/// What entries do that are applied one after the other: of each group, the last that has it switched on.
+SettingsMap together(const std::vector<ActionEntry>& entries)
+{
+    SettingsMap map = entries.front().settings;
+    for (const ActionEntry& entry : entries)
+        for (const initialview::Key& each : initialview::keys)
+            if (entry.settings.value(each.group != nullptr ? each.group : each.name).toBool())
+                map.insert(each.name, entry.settings.value(each.name));
+    return map;
+}
+
 SettingsMap settingsOf(const QStringList& options)
 {
     SettingsMap map;
@@ -28,10 +40,8 @@ SettingsMap settingsOf(const QStringList& options)
             if (options.at(place) == "--set")
                 setoption::apply(word, map);
             else
-                map = (options.at(place) == "--list" ? settingsfile::readActionList(word)
-                                                     : settingsfile::readFavorite(word))
-                          .at(0)
-                          .settings;
+                map = together(options.at(place) == "--list" ? settingsfile::readActionList(word)
+                                                             : settingsfile::readFavorite(word));
         }
     } catch (const UsageError&) { // gone or changed meanwhile: the dialog starts empty
     }

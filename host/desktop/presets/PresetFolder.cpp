@@ -27,6 +27,8 @@ QStringList linesOf(const StoredSettings& stored)
     for (const ActionEntry& entry : stored.entries) {
         if (entry.action != initialview::actionName)
             throw UsageError("it holds another action, \"" + entry.action.toStdString() + "\"");
+        if (!lines.isEmpty())
+            lines += QString();
         lines += settingsLines(entry.settings);
     }
     return lines;
