@@ -1,8 +1,11 @@
 #include "host/desktop/dialogs/StartQuestion.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
+#include "host/desktop/platform/Language.h"
 #include "host/desktop/presets/PresetFolder.h"
+#include "host/desktop/texts/ReasonTexts.h"
 #include "host/desktop/texts/ViewTexts.h"
+#include "support/Rows.h"
 #include "support/people/OpenedWindow.h"
 
 #include <QAbstractButton>
@@ -13,6 +16,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QTextBrowser>
+#include <QTranslator>
 #include <QtTest>
 
 using namespace host;
@@ -129,17 +133,44 @@ private slots:
         QCOMPARE(history.runs().front().reports.size(), 2);
     }
 
+    void hasNoKeyTwice_data()
+    {
+        const Rows<QString> row;
+        for (const char* language : {"en", "de", "es", "fr", "ja"})
+            row(language, language);
+    }
+
+    /// In no language and no state of the window.
     void hasNoKeyTwice()
     {
+        language::speak(std::get<0>(Rows<QString>::current()));
+        open();
         haveNoKeyTwice();
+        Workbench& bench = m_window->workbench();
         read();
-        choose("Panel", "Bookmarks");
-        QTRY_COMPARE(state(), State::Ready);
-        list()->setCurrentIndex(list()->model()->index(1, 0));
+        ChangeDraft draft;
+        draft.setStored({"A list", {"--list", "/a.xqq"}, {}});
+        bench.setDraft(draft);
         haveNoKeyTwice();
-        m_window->workbench().start();
+        draft.set(ViewEntry::PageMode, 1);
+        bench.setDraft(draft);
+        bench.setDestination({Destination::Kind::Folder, "/out", {}});
+        QTRY_COMPARE(state(), State::Ready);
+        auto* documents = m_window->findChild<QTableView*>("documents");
+        documents->setCurrentIndex(documents->model()->index(1, 0));
+        haveNoKeyTwice();
+        bench.setDestination({});
+        QTRY_COMPARE(state(), State::Ready);
+        m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::failed(1, "password") + "#hear stop\n" +
+                                 Fake::end());
+        bench.start();
+        haveNoKeyTwice();
+        bench.pause();
+        haveNoKeyTwice();
+        bench.stop();
         QTRY_COMPARE(state(), State::Results);
         haveNoKeyTwice();
+        qDeleteAll(qApp->findChildren<QTranslator*>());
     }
 
     void savesAReport()
@@ -290,12 +321,19 @@ private:
         for (const QLabel* each : m_window->findChildren<QLabel*>())
             if (each->isVisible() && each->buddy() != nullptr)
                 texts += each->text();
+        const QString shownRemedy = m_window->findChild<QAbstractButton*>("remedyButton")->text();
         QMap<QKeySequence, QString> keys;
         for (const QString& text : texts)
             if (const QKeySequence key = QKeySequence::mnemonic(text); !key.isEmpty()) {
                 QVERIFY2(!keys.contains(key), qPrintable(keys.value(key) + " and " + text));
                 keys.insert(key, text);
             }
+        using reasontexts::Remedy; // any of which the current document may want
+        for (int remedy = int(Remedy::Password); remedy <= int(Remedy::ShowFolder); ++remedy) {
+            const QString text = reasontexts::buttonOf(Remedy(remedy));
+            const QString other = keys.value(QKeySequence::mnemonic(text), shownRemedy);
+            QVERIFY2(!text.isEmpty() && other == shownRemedy, qPrintable(other + " and " + text));
+        }
     }
 
     void open()

@@ -102,7 +102,8 @@ void PreviewPane::paintEvent(QPaintEvent*)
                          m_reason.isEmpty() ? tr("Select a document to see how it opens.") : m_reason);
         return;
     }
-    QRectF scenes = area.adjusted(0, 0, 0, -titleHeight);
+    const QRectF line = lineBelow(area);
+    QRectF scenes = area.adjusted(0, 0, 0, line.top() - area.bottom() - 4);
     const double half = (scenes.width() - margin) / 2;
     const bool isSame = m_before == m_after;
     const bool isRightToLeft = layoutDirection() == Qt::RightToLeft;
@@ -119,9 +120,16 @@ void PreviewPane::paintEvent(QPaintEvent*)
         paintScene(painter, second, tr("After"), m_after);
     }
     painter.setPen(drawings::quietText(palette()));
-    const QRectF line(area.left(), area.bottom() - titleHeight + 4, area.width(), titleHeight - 4);
-    painter.drawText(line, int(Qt::AlignCenter),
-                     painter.fontMetrics().elidedText(m_followers, Qt::ElideRight, int(line.width())));
+    painter.drawText(line, int(Qt::AlignCenter) | int(Qt::TextWordWrap), m_followers);
+}
+
+/// Where it is said which viewers follow: in some languages and fonts that takes two lines.
+QRectF PreviewPane::lineBelow(const QRectF& area) const
+{
+    const QRectF words =
+        QFontMetricsF(font()).boundingRect(area, int(Qt::AlignHCenter) | int(Qt::TextWordWrap), m_followers);
+    const double height = std::max(words.height(), titleHeight - 4.0);
+    return {area.left(), area.bottom() - height, area.width(), height};
 }
 
 void PreviewPane::paintScene(QPainter& painter, const QRectF& area, const QString& title,

@@ -25,6 +25,7 @@ protected:
 
 private:
     void show();
+    QRectF lineBelow(const QRectF& area) const;
     void paintScene(QPainter& painter, const QRectF& area, const QString& title, const PreviewScene& scene);
 
     Workbench& m_workbench;

@@ -1861,7 +1861,7 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     </message>
     <message>
         <source>&amp;Undo This Run…</source>
-        <translation>Durchlauf &amp;rückgängig machen…</translation>
+        <translation>&amp;Rückgängig machen…</translation>
     </message>
     <message>
         <source>Gives each document back as it was before the run</source>

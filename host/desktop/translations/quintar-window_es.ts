@@ -432,7 +432,7 @@
     </message>
     <message>
         <source>&amp;Give Password…</source>
-        <translation>&amp;Introducir contraseña…</translation>
+        <translation>Intr&amp;oducir contraseña…</translation>
     </message>
     <message>
         <source>Append A&amp;ll the Same</source>
@@ -440,7 +440,7 @@
     </message>
     <message>
         <source>Read A&amp;gain</source>
-        <translation>Leer de n&amp;uevo</translation>
+        <translation>Leer de nuev&amp;o</translation>
     </message>
     <message>
         <source>Show in Fo&amp;lder</source>
@@ -2027,7 +2027,7 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>%1 %2</source>
         <extracomment>A number of documents, and why they cannot be changed: &quot;4 signed&quot;</extracomment>
-        <translation>%1 %2</translation>
+        <translation>%2: %1</translation>
     </message>
     <message>
         <source>, </source>

@@ -432,19 +432,19 @@
     </message>
     <message>
         <source>&amp;Give Password…</source>
-        <translation>Saisir le mot de &amp;passe…</translation>
+        <translation>Saisir &amp;un mot de passe…</translation>
     </message>
     <message>
         <source>Append A&amp;ll the Same</source>
-        <translation>A&amp;jouter malgré tout</translation>
+        <translation>Ajo&amp;uter malgré tout</translation>
     </message>
     <message>
         <source>Read A&amp;gain</source>
-        <translation>Re&amp;lire</translation>
+        <translation>Lire à no&amp;uveau</translation>
     </message>
     <message>
         <source>Show in Fo&amp;lder</source>
-        <translation>Afficher dans le dossi&amp;er</translation>
+        <translation>O&amp;uvrir le dossier</translation>
     </message>
     <message>
         <source>signed</source>
@@ -2027,7 +2027,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>%1 %2</source>
         <extracomment>A number of documents, and why they cannot be changed: &quot;4 signed&quot;</extracomment>
-        <translation>%1 %2</translation>
+        <translation>%2&#xa0;: %1</translation>
     </message>
     <message>
         <source>, </source>

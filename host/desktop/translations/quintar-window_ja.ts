@@ -425,19 +425,19 @@
     </message>
     <message>
         <source>&amp;Give Password…</source>
-        <translation>パスワードを入力(&amp;P)…</translation>
+        <translation>パスワードを入力(&amp;L)…</translation>
     </message>
     <message>
         <source>Append A&amp;ll the Same</source>
-        <translation>それでも追記する(&amp;A)</translation>
+        <translation>それでも追記する(&amp;L)</translation>
     </message>
     <message>
         <source>Read A&amp;gain</source>
-        <translation>再読み込み(&amp;G)</translation>
+        <translation>再読み込み(&amp;L)</translation>
     </message>
     <message>
         <source>Show in Fo&amp;lder</source>
-        <translation>フォルダーで表示(&amp;F)</translation>
+        <translation>フォルダーで表示(&amp;L)</translation>
     </message>
     <message>
         <source>signed</source>
@@ -1545,7 +1545,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     </message>
     <message>
         <source>&amp;Add Files…</source>
-        <translation>ファイルを追加(&amp;F)…</translation>
+        <translation>ファイルを追加(&amp;A)…</translation>
     </message>
     <message>
         <source>Add F&amp;older…</source>
