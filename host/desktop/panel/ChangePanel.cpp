@@ -3,8 +3,11 @@
 #include "GrowingArea.h"
 #include "host/desktop/look/Drawings.h"
 #include "host/desktop/look/PlainLabel.h"
+#include "host/desktop/texts/ViewTexts.h"
 
 #include <QStyle>
+
+#include <algorithm>
 
 namespace host::desktop {
 
@@ -44,6 +47,17 @@ QWidget* warningLine(const ChangeWarning& warning, QWidget* parent, const std::f
         row->addWidget(button, 0, Qt::AlignVCenter);
     }
     return line;
+}
+
+/// Of all settings, so that the values stand below one another in each group.
+int widestName(QFont font)
+{
+    font.setBold(true); // as those that are changed
+    const QFontMetrics metrics(font);
+    int widest = 0;
+    for (const viewentries::Description& each : viewentries::all())
+        widest = std::max(widest, metrics.horizontalAdvance(viewtexts::nameOf(each.entry)));
+    return widest;
 }
 
 Qt::ArrowType foldedArrow(const QWidget* widget)
@@ -161,7 +175,7 @@ void ChangePanel::addGroup(QVBoxLayout* column, const QString& title, const std:
     grid->setVerticalSpacing(2);
     grid->setHorizontalSpacing(margin);
     grid->setColumnStretch(1, 1);
-    grid->setColumnMinimumWidth(0, fontMetrics().averageCharWidth() * 17);
+    grid->setColumnMinimumWidth(0, widestName(font()));
     for (const ViewEntry entry : entries) {
         auto* row = new SettingRow(entry, grid, body);
         connect(row, &SettingRow::edited, this, &ChangePanel::edit);
