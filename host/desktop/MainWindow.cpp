@@ -2,6 +2,7 @@
 
 #include "EmptyPage.h"
 #include "ToolBar.h"
+#include "host/desktop/actions/ColumnMenus.h"
 #include "host/desktop/actions/PresetMenu.h"
 #include "host/desktop/dialogs/HelpWindow.h"
 #include "host/desktop/dialogs/HistoryDialog.h"
@@ -116,6 +117,7 @@ QWidget* MainWindow::makeList()
     column->addWidget(m_view, 1);
     column->addWidget(line(QFrame::HLine));
     column->addWidget(detail);
+    new ColumnMenus(*m_view, m_actions);
     connect(detail, &DetailLine::remedyWanted, &m_commands, &Commands::help);
     connect(m_view, &DocumentView::menuWanted, this, [this](const QPoint& place) {
         auto* menu = new QMenu(this);
@@ -191,7 +193,8 @@ void MainWindow::connectActions()
     connect(m_actions[Id::ShowPreview], &QAction::toggled, m_preview, &QWidget::setVisible);
     connect(m_actions[Id::NextPane], &QAction::triggered, this, [this] { goTo(1); });
     connect(m_actions[Id::PreviousPane], &QAction::triggered, this, [this] { goTo(-1); });
-    for (const Id id : {Id::OpenInViewer, Id::Remove, Id::CopyPaths, Id::SelectAll}) {
+    for (const Id id :
+         {Id::OpenInViewer, Id::Remove, Id::CopyPaths, Id::SelectAll, Id::ColumnLeft, Id::ColumnRight}) {
         m_actions[id]->setShortcutContext(Qt::WidgetShortcut);
         m_view->addAction(m_actions[id]);
     }

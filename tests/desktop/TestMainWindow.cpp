@@ -191,6 +191,26 @@ private slots:
                 QVERIFY2(!nameOf(each).isEmpty(), each->metaObject()->className());
     }
 
+    void choosesSortsAndMovesColumnsByKeys()
+    {
+        read();
+        QHeaderView* header = list()->horizontalHeader();
+        QVERIFY(header->isSectionHidden(int(Column::Folder)));
+        typeInMenu({Qt::Key_V, Qt::Key_C, Qt::Key_Return}); // the name always stays
+        QVERIFY(!header->isSectionHidden(int(Column::Folder)) && !header->isSectionHidden(0));
+        typeInMenu({Qt::Key_V, Qt::Key_S, Qt::Key_D});
+        QVERIFY(cell(0, Column::Name).startsWith("b.pdf"));
+        typeInMenu({Qt::Key_V, Qt::Key_S, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+        QCOMPARE(header->sortIndicatorSection(), int(Column::Title));
+        list()->setFocus();
+        list()->setCurrentIndex(list()->model()->index(0, int(Column::Title)));
+        header->setSectionHidden(int(Column::Folder), true);
+        QTest::keyClick(list(), Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(header->visualIndex(int(Column::Title)), 0);
+        QTest::keyClick(list(), Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(header->visualIndex(int(Column::Title)), 1);
+    }
+
     void takesTheViewOfARowAndKeepsPresets()
     {
         read();
@@ -265,6 +285,13 @@ private:
     }
     QAbstractButton* button(const QString& name) const { return find<QAbstractButton>(name); }
     void click(const QString& name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+    void typeInMenu(const QVector<Qt::Key>& keys) const
+    {
+        QTest::keyClick(m_window.get(), keys.front(), Qt::AltModifier);
+        for (const Qt::Key key : keys.mid(1))
+            QTest::keyClick(QApplication::activePopupWidget(), key);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+    }
     QTableView* list() const { return find<QTableView>("Documents"); }
     QString status() const { return find<QLabel>("Status")->text().replace("%n", "1"); }
     QString cell(int row, Column column) const

@@ -71,6 +71,10 @@ const Row rows[] = {
     {Id::History, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Earlier &Runs…"), "Ctrl+H", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Tells of the runs that can be undone"), false},
 
     {Id::ShowPreview, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Preview"), "F7", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Shows how the current document opens, before and after"), false},
+    {Id::Columns, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Columns"), "", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Chooses what the list tells of each document"), true},
+    {Id::SortBy, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Sort By"), "", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Chooses in which order the documents stand"), false},
+    {Id::ColumnLeft, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Move Column &Left"), "Ctrl+Shift+Left", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Moves the column that the keyboard is in"), false},
+    {Id::ColumnRight, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Move Column Ri&ght"), "Ctrl+Shift+Right", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Moves the column that the keyboard is in"), false},
     {Id::NextPane, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Next Part of the Window"), "F6", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Goes from the list to the change and on"), true},
     {Id::PreviousPane, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "P&revious Part of the Window"), "Shift+F6", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Goes back"), false},
 

@@ -1255,6 +1255,34 @@
         <source>Keys</source>
         <translation>Tasten</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Spalten</translation>
+    </message>
+    <message>
+        <source>Chooses what the list tells of each document</source>
+        <translation>Wählt, was die Liste über jedes Dokument sagt</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>So&amp;rtieren nach</translation>
+    </message>
+    <message>
+        <source>Chooses in which order the documents stand</source>
+        <translation>Wählt, in welcher Reihenfolge die Dokumente stehen</translation>
+    </message>
+    <message>
+        <source>Move Column &amp;Left</source>
+        <translation>Spalte nach &amp;links</translation>
+    </message>
+    <message>
+        <source>Moves the column that the keyboard is in</source>
+        <translation>Verschiebt die Spalte, in der die Tastatur steht</translation>
+    </message>
+    <message>
+        <source>Move Column Ri&amp;ght</source>
+        <translation>Spalte nach r&amp;echts</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1349,6 +1377,17 @@
     <message>
         <source>%1 ended too early, with exit status %2</source>
         <translation>%1 hat sich zu früh beendet, mit dem Status %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::ColumnMenus</name>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Aufsteigend</translation>
+    </message>
+    <message>
+        <source>&amp;Descending</source>
+        <translation>A&amp;bsteigend</translation>
     </message>
 </context>
 <context>

@@ -1255,6 +1255,34 @@
         <source>Keys</source>
         <translation>Teclas</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Columnas</translation>
+    </message>
+    <message>
+        <source>Chooses what the list tells of each document</source>
+        <translation>Elige qué dice la lista de cada documento</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>&amp;Ordenar por</translation>
+    </message>
+    <message>
+        <source>Chooses in which order the documents stand</source>
+        <translation>Elige el orden de los documentos</translation>
+    </message>
+    <message>
+        <source>Move Column &amp;Left</source>
+        <translation>Mover columna a la i&amp;zquierda</translation>
+    </message>
+    <message>
+        <source>Moves the column that the keyboard is in</source>
+        <translation>Mueve la columna en la que está el teclado</translation>
+    </message>
+    <message>
+        <source>Move Column Ri&amp;ght</source>
+        <translation>Mover columna a la &amp;derecha</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1349,6 +1377,17 @@
     <message>
         <source>%1 ended too early, with exit status %2</source>
         <translation>%1 terminó antes de tiempo, con el estado de salida %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::ColumnMenus</name>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Ascendente</translation>
+    </message>
+    <message>
+        <source>&amp;Descending</source>
+        <translation>&amp;Descendente</translation>
     </message>
 </context>
 <context>

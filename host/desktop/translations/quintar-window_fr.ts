@@ -1255,6 +1255,34 @@
         <source>Keys</source>
         <translation>Raccourcis clavier</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Colonnes</translation>
+    </message>
+    <message>
+        <source>Chooses what the list tells of each document</source>
+        <translation>Choisit ce que la liste dit de chaque document</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>&amp;Trier par</translation>
+    </message>
+    <message>
+        <source>Chooses in which order the documents stand</source>
+        <translation>Choisit l’ordre des documents</translation>
+    </message>
+    <message>
+        <source>Move Column &amp;Left</source>
+        <translation>Déplacer la colonne à &amp;gauche</translation>
+    </message>
+    <message>
+        <source>Moves the column that the keyboard is in</source>
+        <translation>Déplace la colonne où se trouve le clavier</translation>
+    </message>
+    <message>
+        <source>Move Column Ri&amp;ght</source>
+        <translation>Déplacer la colonne à &amp;droite</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1349,6 +1377,17 @@
     <message>
         <source>%1 ended too early, with exit status %2</source>
         <translation>%1 s’est terminé trop tôt, avec le code de sortie %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::ColumnMenus</name>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Croissant</translation>
+    </message>
+    <message>
+        <source>&amp;Descending</source>
+        <translation>&amp;Décroissant</translation>
     </message>
 </context>
 <context>

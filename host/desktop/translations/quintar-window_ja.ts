@@ -1248,6 +1248,34 @@
         <source>Keys</source>
         <translation>キー</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>列(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Chooses what the list tells of each document</source>
+        <translation>一覧に表示する項目を選びます</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>並べ替え(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Chooses in which order the documents stand</source>
+        <translation>文書の並び順を選びます</translation>
+    </message>
+    <message>
+        <source>Move Column &amp;Left</source>
+        <translation>列を左へ移動(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Moves the column that the keyboard is in</source>
+        <translation>キーボードのある列を移動します</translation>
+    </message>
+    <message>
+        <source>Move Column Ri&amp;ght</source>
+        <translation>列を右へ移動(&amp;G)</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1339,6 +1367,17 @@
     <message>
         <source>%1 ended too early, with exit status %2</source>
         <translation>%1 が途中で終了しました (終了ステータス %2)</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::ColumnMenus</name>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>昇順(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Descending</source>
+        <translation>降順(&amp;D)</translation>
     </message>
 </context>
 <context>
