@@ -173,7 +173,7 @@ void MainWindow::connectParts()
     connect(&m_workbench, &Workbench::progressed, this, &MainWindow::showState);
     connect(&m_workbench, &Workbench::draftChanged, this, [this] {
         m_change->destination()->setDestination(m_workbench.destination());
-        m_view->showColumnsOf(m_workbench.draft().view());
+        m_view->showColumnsOf(m_workbench.draft().effect());
     });
     connect(&m_workbench, &Workbench::runEnded, this, &MainWindow::runEnded);
 }

@@ -38,7 +38,8 @@ QJsonObject toJson(const ChangeDraft& draft)
     if (const auto& stored = draft.stored())
         object.insert("stored", QJsonObject{{"name", stored->name},
                                             {"options", QJsonArray::fromStringList(stored->options)},
-                                            {"lines", QJsonArray::fromStringList(stored->lines)}});
+                                            {"lines", QJsonArray::fromStringList(stored->lines)},
+                                            {"view", viewjson::write(stored->view)}});
     return object;
 }
 
@@ -50,17 +51,23 @@ QStringList textsIn(const QJsonValue& value)
     return texts;
 }
 
+ViewChange viewFrom(const QJsonValue& value)
+{
+    try {
+        return viewjson::parse(value.toObject());
+    } catch (const UsageError&) { // of another version: nothing is prepared then
+        return {};
+    }
+}
+
 ChangeDraft draftFrom(const QJsonObject& object)
 {
     ChangeDraft draft;
-    try {
-        draft.setView(viewjson::parse(object.value("view").toObject()));
-    } catch (const UsageError&) { // of another version: nothing is prepared then
-    }
+    draft.setView(viewFrom(object.value("view")));
     const QJsonObject stored = object.value("stored").toObject();
     if (!stored.isEmpty())
         draft.setStored({stored.value("name").toString(), textsIn(stored.value("options")),
-                         textsIn(stored.value("lines"))});
+                         textsIn(stored.value("lines")), viewFrom(stored.value("view"))});
     return draft;
 }
 
