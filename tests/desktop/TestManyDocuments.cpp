@@ -101,7 +101,7 @@ private slots:
         check("filtering", heart);
         bench.remove(bench.order().shown().mid(0, 5000));
         QTest::qWait(100);
-        bench.undoList();
+        bench.undoEdit();
         QTest::qWait(100);
         check("removing and undoing", heart);
         QCOMPARE(bench.order().rowCount(), documents);

@@ -44,8 +44,8 @@ const Row rows[] = {
     {Id::SaveReport, Menu::File, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Save Report…"), "Ctrl+S", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Keeps what became of each document in a file"), true},
     {Id::Quit, Menu::File, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Quit"), "Ctrl+Q", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Closes the window; list and change are there again the next time"), true},
 
-    {Id::UndoList, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Undo"), "Ctrl+Z", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Takes the last adding or removing back"), false},
-    {Id::RedoList, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Redo"), "Ctrl+Shift+Z", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Adds or removes once more"), false},
+    {Id::Undo, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Undo"), "Ctrl+Z", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Takes back what was last added, removed or set"), false},
+    {Id::Redo, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Redo"), "Ctrl+Shift+Z", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Does once more what was taken back"), false},
     {Id::Paste, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Paste Documents"), "Ctrl+V", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Adds the files, folders and paths that were copied elsewhere"), true},
     {Id::Remove, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Re&move from List"), "Del", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Takes the selected documents out of the list; the files stay"), false},
     {Id::SelectAll, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Select &All"), "Ctrl+A", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Selects all documents that are shown"), true},

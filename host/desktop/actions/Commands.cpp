@@ -53,7 +53,7 @@ Commands::Commands(Workbench& workbench, ActionTable& actions, QWidget* window)
 {
     connectAll();
     connect(&workbench.machine(), &RunMachine::changed, this, &Commands::enable);
-    connect(&workbench.list(), &ListHistory::changed, this, &Commands::enable);
+    connect(&workbench.edits(), &EditHistory::changed, this, &Commands::enable);
     connect(&workbench.history(), &RunHistory::modelReset, this, &Commands::enable);
     connect(&workbench, &Workbench::targetsChanged, this, &Commands::enable);
     connect(&workbench.order(), &DocumentOrder::selectionMoved, this, &Commands::enable);
@@ -67,8 +67,8 @@ void Commands::connectAll()
     on(Id::AddFolder, &Commands::addFolder);
     on(Id::Paste, &Commands::paste);
     on(Id::Remove, [this] { m_workbench.remove(m_workbench.order().selected()); });
-    on(Id::UndoList, [this] { m_workbench.undoList(); });
-    on(Id::RedoList, [this] { m_workbench.redoList(); });
+    on(Id::Undo, [this] { m_workbench.undoEdit(); });
+    on(Id::Redo, [this] { m_workbench.redoEdit(); });
     on(Id::SelectAll,
        [this] { m_workbench.order().select(m_workbench.order().shown(), m_workbench.order().current()); });
     on(Id::ReadAgain, [this] { m_workbench.readAgain(m_workbench.order().shown()); });
@@ -101,12 +101,12 @@ void Commands::enable()
     }
     enableStart();
     const RunMachine& machine = m_workbench.machine();
-    const ListHistory& list = m_workbench.list();
+    const EditHistory& edits = m_workbench.edits();
     m_actions[Id::Pause]->setEnabled(machine.isEnabled(Command::Pause) || machine.isEnabled(Command::Resume));
-    m_actions[Id::UndoList]->setEnabled(machine.isEnabled(Command::UndoList) && list.canUndo());
-    m_actions[Id::RedoList]->setEnabled(machine.isEnabled(Command::UndoList) && list.canRedo());
-    m_actions[Id::UndoList]->setText(list.undoText());
-    m_actions[Id::RedoList]->setText(list.redoText());
+    m_actions[Id::Undo]->setEnabled(machine.isEnabled(Command::UndoEdit) && edits.canUndo());
+    m_actions[Id::Redo]->setEnabled(machine.isEnabled(Command::UndoEdit) && edits.canRedo());
+    m_actions[Id::Undo]->setText(edits.undoText());
+    m_actions[Id::Redo]->setText(edits.redoText());
     if (m_workbench.undoableRun() < 0)
         m_actions[Id::UndoLast]->setEnabled(false);
     const bool hasCurrent = current() != nullptr;

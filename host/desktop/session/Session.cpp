@@ -127,8 +127,8 @@ QVector<QByteArray> Session::restore()
 
 QVector<QByteArray> Session::takeOver(const QJsonObject& object)
 {
-    m_workbench.setDestination(destinationFrom(object.value("destination").toObject()));
-    m_workbench.setDraft(draftFrom(object.value("draft").toObject()));
+    m_workbench.restore({draftFrom(object.value("draft").toObject()),
+                         destinationFrom(object.value("destination").toObject())});
     QVector<QByteArray> paths;
     for (const auto& path : object.value("documents").toArray())
         paths.append(QByteArray::fromPercentEncoding(path.toString().toLatin1()));

@@ -619,6 +619,13 @@
     </message>
 </context>
 <context>
+    <name>RunOrder</name>
+    <message>
+        <source>Write to</source>
+        <translation>Schreiben</translation>
+    </message>
+</context>
+<context>
     <name>SceneDrawing</name>
     <message>
         <source>no bookmarks</source>
@@ -1024,16 +1031,8 @@
         <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>Takes the last adding or removing back</source>
-        <translation>Nimmt das letzte Hinzufügen oder Entfernen zurück</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Adds or removes once more</source>
-        <translation>Fügt noch einmal hinzu oder entfernt noch einmal</translation>
     </message>
     <message>
         <source>&amp;Paste Documents</source>
@@ -1282,6 +1281,14 @@
     <message>
         <source>Move Column Ri&amp;ght</source>
         <translation>Spalte nach r&amp;echts</translation>
+    </message>
+    <message>
+        <source>Takes back what was last added, removed or set</source>
+        <translation>Nimmt das zuletzt Hinzugefügte, Entfernte oder Eingestellte zurück</translation>
+    </message>
+    <message>
+        <source>Does once more what was taken back</source>
+        <translation>Tut noch einmal, was zurückgenommen wurde</translation>
     </message>
 </context>
 <context>
@@ -1582,6 +1589,61 @@
     </message>
 </context>
 <context>
+    <name>host::desktop::EditHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Wiederherstellen: %n Dokument entfernen</numerusform>
+            <numerusform>&amp;Wiederherstellen: %n Dokumente entfernen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rückgängig: %n Dokument entfernen</numerusform>
+            <numerusform>&amp;Rückgängig: %n Dokumente entfernen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Wiederherstellen: %n Dokument hinzufügen</numerusform>
+            <numerusform>&amp;Wiederherstellen: %n Dokumente hinzufügen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rückgängig: %n Dokument hinzufügen</numerusform>
+            <numerusform>&amp;Rückgängig: %n Dokumente hinzufügen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Redo Changing the Settings</source>
+        <translation>&amp;Wiederherstellen: Einstellungen ändern</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Changing the Settings</source>
+        <translation>&amp;Rückgängig: Einstellungen ändern</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Setting “%1”</source>
+        <translation>&amp;Wiederherstellen: „%1“ einstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Setting “%1”</source>
+        <translation>&amp;Rückgängig: „%1“ einstellen</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::EmptyPage</name>
     <message>
         <source>Say how PDF documents open</source>
@@ -1664,45 +1726,6 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>Earlier runs</source>
         <translation>Frühere Durchläufe</translation>
-    </message>
-</context>
-<context>
-    <name>host::desktop::ListHistory</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederherstellen</translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Wiederherstellen: %n Dokument entfernen</numerusform>
-            <numerusform>&amp;Wiederherstellen: %n Dokumente entfernen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rückgängig: %n Dokument entfernen</numerusform>
-            <numerusform>&amp;Rückgängig: %n Dokumente entfernen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Wiederherstellen: %n Dokument hinzufügen</numerusform>
-            <numerusform>&amp;Wiederherstellen: %n Dokumente hinzufügen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rückgängig: %n Dokument hinzufügen</numerusform>
-            <numerusform>&amp;Rückgängig: %n Dokumente hinzufügen</numerusform>
-        </translation>
     </message>
 </context>
 <context>

@@ -619,6 +619,13 @@
     </message>
 </context>
 <context>
+    <name>RunOrder</name>
+    <message>
+        <source>Write to</source>
+        <translation>Escribir</translation>
+    </message>
+</context>
+<context>
     <name>SceneDrawing</name>
     <message>
         <source>no bookmarks</source>
@@ -1024,16 +1031,8 @@
         <translation>&amp;Deshacer</translation>
     </message>
     <message>
-        <source>Takes the last adding or removing back</source>
-        <translation>Revierte la última adición o retirada</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Rehacer</translation>
-    </message>
-    <message>
-        <source>Adds or removes once more</source>
-        <translation>Añade o retira otra vez</translation>
     </message>
     <message>
         <source>&amp;Paste Documents</source>
@@ -1282,6 +1281,14 @@
     <message>
         <source>Move Column Ri&amp;ght</source>
         <translation>Mover columna a la &amp;derecha</translation>
+    </message>
+    <message>
+        <source>Takes back what was last added, removed or set</source>
+        <translation>Deshace lo último que se añadió, quitó o ajustó</translation>
+    </message>
+    <message>
+        <source>Does once more what was taken back</source>
+        <translation>Vuelve a hacer lo que se deshizo</translation>
     </message>
 </context>
 <context>
@@ -1582,6 +1589,61 @@
     </message>
 </context>
 <context>
+    <name>host::desktop::EditHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rehacer: quitar %n documento</numerusform>
+            <numerusform>&amp;Rehacer: quitar %n documentos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Deshacer: quitar %n documento</numerusform>
+            <numerusform>&amp;Deshacer: quitar %n documentos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rehacer: añadir %n documento</numerusform>
+            <numerusform>&amp;Rehacer: añadir %n documentos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Deshacer: añadir %n documento</numerusform>
+            <numerusform>&amp;Deshacer: añadir %n documentos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Redo Changing the Settings</source>
+        <translation>&amp;Rehacer: cambiar los ajustes</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Changing the Settings</source>
+        <translation>&amp;Deshacer: cambiar los ajustes</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Setting “%1”</source>
+        <translation>&amp;Rehacer: ajustar «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Setting “%1”</source>
+        <translation>&amp;Deshacer: ajustar «%1»</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::EmptyPage</name>
     <message>
         <source>Say how PDF documents open</source>
@@ -1664,45 +1726,6 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>Earlier runs</source>
         <translation>Ejecuciones anteriores</translation>
-    </message>
-</context>
-<context>
-    <name>host::desktop::ListHistory</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Deshacer</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rehacer</translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rehacer: quitar %n documento</numerusform>
-            <numerusform>&amp;Rehacer: quitar %n documentos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Deshacer: quitar %n documento</numerusform>
-            <numerusform>&amp;Deshacer: quitar %n documentos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rehacer: añadir %n documento</numerusform>
-            <numerusform>&amp;Rehacer: añadir %n documentos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Deshacer: añadir %n documento</numerusform>
-            <numerusform>&amp;Deshacer: añadir %n documentos</numerusform>
-        </translation>
     </message>
 </context>
 <context>

@@ -619,6 +619,13 @@
     </message>
 </context>
 <context>
+    <name>RunOrder</name>
+    <message>
+        <source>Write to</source>
+        <translation>Écrire</translation>
+    </message>
+</context>
+<context>
     <name>SceneDrawing</name>
     <message>
         <source>no bookmarks</source>
@@ -1024,16 +1031,8 @@
         <translation>&amp;Annuler</translation>
     </message>
     <message>
-        <source>Takes the last adding or removing back</source>
-        <translation>Revient sur le dernier ajout ou retrait</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
-        <source>Adds or removes once more</source>
-        <translation>Refait l’ajout ou le retrait</translation>
     </message>
     <message>
         <source>&amp;Paste Documents</source>
@@ -1282,6 +1281,14 @@
     <message>
         <source>Move Column Ri&amp;ght</source>
         <translation>Déplacer la colonne à &amp;droite</translation>
+    </message>
+    <message>
+        <source>Takes back what was last added, removed or set</source>
+        <translation>Annule le dernier ajout, retrait ou réglage</translation>
+    </message>
+    <message>
+        <source>Does once more what was taken back</source>
+        <translation>Refait ce qui a été annulé</translation>
     </message>
 </context>
 <context>
@@ -1582,6 +1589,61 @@
     </message>
 </context>
 <context>
+    <name>host::desktop::EditHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rétablir le retrait de %n document</numerusform>
+            <numerusform>&amp;Rétablir le retrait de %n documents</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Annuler le retrait de %n document</numerusform>
+            <numerusform>&amp;Annuler le retrait de %n documents</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rétablir l’ajout de %n document</numerusform>
+            <numerusform>&amp;Rétablir l’ajout de %n documents</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Annuler l’ajout de %n document</numerusform>
+            <numerusform>&amp;Annuler l’ajout de %n documents</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Redo Changing the Settings</source>
+        <translation>&amp;Rétablir la modification des réglages</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Changing the Settings</source>
+        <translation>&amp;Annuler la modification des réglages</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Setting “%1”</source>
+        <translation>&amp;Rétablir le réglage « %1 »</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Setting “%1”</source>
+        <translation>&amp;Annuler le réglage « %1 »</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::EmptyPage</name>
     <message>
         <source>Say how PDF documents open</source>
@@ -1664,45 +1726,6 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>Earlier runs</source>
         <translation>Traitements précédents</translation>
-    </message>
-</context>
-<context>
-    <name>host::desktop::ListHistory</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rétablir</translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rétablir le retrait de %n document</numerusform>
-            <numerusform>&amp;Rétablir le retrait de %n documents</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Annuler le retrait de %n document</numerusform>
-            <numerusform>&amp;Annuler le retrait de %n documents</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rétablir l’ajout de %n document</numerusform>
-            <numerusform>&amp;Rétablir l’ajout de %n documents</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Annuler l’ajout de %n document</numerusform>
-            <numerusform>&amp;Annuler l’ajout de %n documents</numerusform>
-        </translation>
     </message>
 </context>
 <context>

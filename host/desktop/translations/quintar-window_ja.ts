@@ -612,6 +612,13 @@
     </message>
 </context>
 <context>
+    <name>RunOrder</name>
+    <message>
+        <source>Write to</source>
+        <translation>書き込み先</translation>
+    </message>
+</context>
+<context>
     <name>SceneDrawing</name>
     <message>
         <source>no bookmarks</source>
@@ -1017,16 +1024,8 @@
         <translation>元に戻す(&amp;U)</translation>
     </message>
     <message>
-        <source>Takes the last adding or removing back</source>
-        <translation>最後の追加または除外を取り消します</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>やり直す(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Adds or removes once more</source>
-        <translation>追加または除外をもう一度行います</translation>
     </message>
     <message>
         <source>&amp;Paste Documents</source>
@@ -1275,6 +1274,14 @@
     <message>
         <source>Move Column Ri&amp;ght</source>
         <translation>列を右へ移動(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Takes back what was last added, removed or set</source>
+        <translation>最後に追加、除外、設定したことを元に戻します</translation>
+    </message>
+    <message>
+        <source>Does once more what was taken back</source>
+        <translation>元に戻したことをもう一度行います</translation>
     </message>
 </context>
 <context>
@@ -1571,6 +1578,57 @@
     </message>
 </context>
 <context>
+    <name>host::desktop::EditHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直す(&amp;R)</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>%n 個の文書の除外をやり直す(&amp;R)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>%n 個の文書の除外を元に戻す(&amp;U)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>%n 個の文書の追加をやり直す(&amp;R)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>%n 個の文書の追加を元に戻す(&amp;U)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Redo Changing the Settings</source>
+        <translation>設定の変更をやり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Changing the Settings</source>
+        <translation>設定の変更を元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Setting “%1”</source>
+        <translation>「%1」の設定をやり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Setting “%1”</source>
+        <translation>「%1」の設定を元に戻す(&amp;U)</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::EmptyPage</name>
     <message>
         <source>Say how PDF documents open</source>
@@ -1652,41 +1710,6 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>Earlier runs</source>
         <translation>過去の実行</translation>
-    </message>
-</context>
-<context>
-    <name>host::desktop::ListHistory</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>元に戻す(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>やり直す(&amp;R)</translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>%n 個の文書の除外をやり直す(&amp;R)</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>%n 個の文書の除外を元に戻す(&amp;U)</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>%n 個の文書の追加をやり直す(&amp;R)</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>%n 個の文書の追加を元に戻す(&amp;U)</numerusform>
-        </translation>
     </message>
 </context>
 <context>

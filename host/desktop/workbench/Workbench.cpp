@@ -50,9 +50,9 @@ void Workbench::add(const QVector<QByteArray>& paths)
         return;
     }
     dropTask();
-    m_list.beginAdding();
+    m_edits.beginAdding();
     auto* reading = new Reading(m_table, means(), this);
-    connect(reading, &Reading::added, &m_list, &ListHistory::added);
+    connect(reading, &Reading::added, &m_edits, &EditHistory::added);
     startReading(reading);
     reading->add(paths + std::exchange(m_unread, {}));
 }
@@ -103,28 +103,28 @@ void Workbench::remove(const Ids& ids)
         return;
     dropTask();
     const DocumentId next = m_order.besides(ids);
-    m_list.remove(ids);
+    m_edits.remove(ids);
     if (next != 0)
         m_order.select({next}, next);
     follow();
 }
 
-void Workbench::undoList()
+void Workbench::undoEdit()
 {
-    if (!m_machine.isEnabled(Command::UndoList))
+    if (!m_machine.isEnabled(Command::UndoEdit))
         return;
     dropTask();
-    if (const Ids back = m_list.undo(); !back.isEmpty())
+    if (const Ids back = m_edits.undo(); !back.isEmpty())
         m_order.select(back, back.front()); // as they were when they were removed
     follow();
 }
 
-void Workbench::redoList()
+void Workbench::redoEdit()
 {
-    if (!m_machine.isEnabled(Command::UndoList))
+    if (!m_machine.isEnabled(Command::UndoEdit))
         return;
     dropTask();
-    m_list.redo();
+    m_edits.redo();
     follow();
 }
 
@@ -148,20 +148,30 @@ void Workbench::follow()
 
 void Workbench::setDraft(const ChangeDraft& draft)
 {
-    if (draft == m_runOrder.draft)
-        return;
-    m_runOrder.draft = draft;
-    leaveResults();
-    changeAll([](DocumentRecord& record) { record.check.reset(); });
-    edited();
-    emit draftChanged();
+    edit({draft, m_runOrder.destination});
 }
 
 void Workbench::setDestination(const Destination& destination)
 {
-    if (destination == m_runOrder.destination)
+    edit({m_runOrder.draft, destination});
+}
+
+void Workbench::edit(const RunOrder& order)
+{
+    if (order == m_runOrder)
         return;
-    m_runOrder.destination = destination;
+    const auto& [name, isTyped] = order.differenceFrom(m_runOrder);
+    m_edits.set({name, isTyped, [this, other = m_runOrder]() mutable {
+                     const RunOrder now = m_runOrder;
+                     restore(other);
+                     other = now;
+                 }});
+    restore(order);
+}
+
+void Workbench::restore(const RunOrder& order)
+{
+    m_runOrder = order;
     leaveResults();
     changeAll([](DocumentRecord& record) { record.check.reset(); });
     edited();
@@ -225,7 +235,7 @@ void Workbench::edited()
 
 void Workbench::changeAll(const DocumentTable::Change& change)
 {
-    m_list.changeKept(change);
+    m_edits.changeKept(change);
     m_table.changeAll(change);
 }
 

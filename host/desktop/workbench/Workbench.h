@@ -6,7 +6,7 @@
 
 #include "host/desktop/change/RunOrder.h"
 #include "host/desktop/change/SelectionSummary.h"
-#include "host/desktop/documents/ListHistory.h"
+#include "host/desktop/documents/EditHistory.h"
 #include "host/desktop/rows/DocumentOrder.h"
 #include "host/desktop/tasks/Passwords.h"
 #include "host/desktop/tasks/Reading.h"
@@ -54,7 +54,7 @@ public:
 
     DocumentTable& table() { return m_table; }
     DocumentOrder& order() { return m_order; }
-    ListHistory& list() { return m_list; }
+    EditHistory& edits() { return m_edits; }
     RunMachine& machine() { return m_machine; }
     RunHistory& history() { return m_history; }
 
@@ -64,13 +64,15 @@ public:
     QVector<QByteArray> pending() const;
     void remove(const Ids& ids);
     void readAgain(const Ids& ids);
-    void undoList();
-    void redoList();
+    void undoEdit();
+    void redoEdit();
 
     const ChangeDraft& draft() const { return m_runOrder.draft; }
     void setDraft(const ChangeDraft& draft);
     const Destination& destination() const { return m_runOrder.destination; }
     void setDestination(const Destination& destination);
+    /// Without a step that could be undone, as what an earlier session had prepared.
+    void restore(const RunOrder& order);
     const RunOrder& runOrder() const { return m_runOrder; }
 
     Scope scope() const { return m_scope; }
@@ -115,6 +117,7 @@ signals:
 private:
     void begin(DocumentTask* task, void (Workbench::*end)(const ChildRun::Ending&));
     void dropTask();
+    void edit(const RunOrder& order);
     void edited();
     void leaveResults();
     void changeAll(const DocumentTable::Change& change);
@@ -136,7 +139,7 @@ private:
     QString m_program;
     DocumentTable m_table;
     DocumentOrder m_order{m_table};
-    ListHistory m_list{m_table};
+    EditHistory m_edits{m_table};
     RunMachine m_machine;
     RunHistory m_history;
     Passwords m_passwords;

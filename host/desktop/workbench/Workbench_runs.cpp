@@ -134,7 +134,7 @@ void Workbench::endUndoing(const ChildRun::Ending& ending)
     if (ending.isComplete && !ending.wasStopped && leftAlone == 0)
         if (const QString problem = m_history.setUndone(m_undoing); !problem.isEmpty())
             emit failed(problem);
-    m_list.changeKept([](DocumentRecord& record) { record.forget(); });
+    m_edits.changeKept([](DocumentRecord& record) { record.forget(); });
     Ids ids;
     for (const DocumentRecord& record : m_table.records())
         if (record.result && record.result->kind == Outcome::Kind::Undone)
