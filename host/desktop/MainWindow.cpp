@@ -12,6 +12,7 @@
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
 #include "host/desktop/presets/PresetFolder.h"
+#include "host/desktop/session/Logout.h"
 #include "host/program/InstallLayout.h"
 
 #include <QCloseEvent>
@@ -168,6 +169,8 @@ void MainWindow::connectParts()
         if (m_workbench.machine().isWriting() && m_change->isAncestorOf(focusWidget()))
             m_view->setFocus(); // what is disabled would pass the focus on, and scroll there
     });
+    connect(new Logout(m_workbench, this), &Logout::toBeKept, this, &MainWindow::saveGeometryOnce);
+    connect(&m_session, &Session::failed, &m_commands, &Commands::failed);
     connect(&m_commands, &Commands::dialogOpens, &m_session, &Session::save);
     connect(&m_workbench.order(), &DocumentOrder::shownChanged, this, &MainWindow::showState);
     connect(&m_workbench, &Workbench::progressed, this, &MainWindow::showState);

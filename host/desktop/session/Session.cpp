@@ -71,16 +71,13 @@ ChangeDraft draftFrom(const QJsonObject& object)
     return draft;
 }
 
-/// Nothing for what no session has written, or for what cannot be read now: that stays as it is.
+/// Nothing for what no session has written, or for what cannot be read now.
 std::optional<QJsonObject> stored(const QString& path)
 {
     QFile file(path);
     const bool isRead = file.open(QIODevice::ReadOnly) && file.size() <= largestSession;
     const QJsonDocument json = isRead ? QJsonDocument::fromJson(file.readAll()) : QJsonDocument();
-    if (json.isObject())
-        return json.object();
-    qWarning("%s cannot be read, and is left as it is", qPrintable(path));
-    return std::nullopt;
+    return json.isObject() ? std::optional(json.object()) : std::nullopt;
 }
 
 } // namespace
@@ -113,8 +110,11 @@ QVector<QByteArray> Session::restore()
         if (!lock->tryLock())
             continue;
         const auto object = stored(folder.filePath(name));
-        if (!object)
+        if (!object) {
+            emit failed(tr("A list of an earlier session cannot be read, and is left as it is: %1")
+                            .arg(folder.filePath(name)));
             continue;
+        }
         m_lock = std::move(lock);
         m_file = folder.filePath(name);
         return takeOver(*object);
@@ -141,8 +141,15 @@ void Session::save()
     if (m_file.isEmpty())
         return;
     QSaveFile file(m_file);
-    if (!file.open(QIODevice::WriteOnly) || file.write(toJson()) < 0 || !file.commit())
-        qWarning("%s: %s", qPrintable(m_file), qPrintable(file.errorString()));
+    const bool hadFailed = m_hasFailed;
+    const QByteArray bytes = toJson();
+    m_hasFailed = !file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit();
+    if (!m_hasFailed || hadFailed)
+        return;
+    qWarning("%s: %s", qPrintable(m_file),
+             qPrintable(file.errorString())); // nobody may see the window any more
+    emit failed(
+        tr("List and change will not be there the next time: %1: %2").arg(m_file, file.errorString()));
 }
 
 /// Paths are bytes, so they are percent-encoded.

@@ -25,6 +25,10 @@ public:
     QVector<QByteArray> restore();
     void save();
 
+signals:
+    /// What is prepared would not survive, in a sentence. Told once until it goes well again.
+    void failed(const QString& text);
+
 private:
     QVector<QByteArray> takeOver(const QJsonObject& object);
     QByteArray toJson() const;
@@ -34,6 +38,7 @@ private:
     std::unique_ptr<QLockFile> m_lock;
     QString m_file;
     QTimer m_quiet;
+    bool m_hasFailed = false;
 };
 
 } // namespace host::desktop

@@ -1729,6 +1729,21 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     </message>
 </context>
 <context>
+    <name>host::desktop::Logout</name>
+    <message>
+        <source>A run is under way. Stop it and log out?</source>
+        <translation>Ein Durchlauf ist im Gange. Abbrechen und abmelden?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Begonnene Dokumente werden zu Ende bearbeitet; die anderen bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>&amp;Stop and Log Out</source>
+        <translation>&amp;Abbrechen und abmelden</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::MainWindow</name>
     <message>
         <source>Quintar</source>
@@ -2191,6 +2206,17 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>This run is done. Change something to start another one.</source>
         <translation>Dieser Durchlauf ist erledigt. Ändern Sie etwas, um einen neuen zu starten.</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::Session</name>
+    <message>
+        <source>A list of an earlier session cannot be read, and is left as it is: %1</source>
+        <translation>Eine Liste einer früheren Sitzung kann nicht gelesen werden und bleibt, wie sie ist: %1</translation>
+    </message>
+    <message>
+        <source>List and change will not be there the next time: %1: %2</source>
+        <translation>Liste und Änderung werden beim nächsten Mal nicht da sein: %1: %2</translation>
     </message>
 </context>
 <context>

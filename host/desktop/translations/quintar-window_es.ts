@@ -1729,6 +1729,21 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     </message>
 </context>
 <context>
+    <name>host::desktop::Logout</name>
+    <message>
+        <source>A run is under way. Stop it and log out?</source>
+        <translation>Hay una ejecución en curso. ¿Detenerla y cerrar la sesión?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Los documentos en curso se terminan; los demás quedan como están.</translation>
+    </message>
+    <message>
+        <source>&amp;Stop and Log Out</source>
+        <translation>&amp;Detener y cerrar la sesión</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::MainWindow</name>
     <message>
         <source>Quintar</source>
@@ -2191,6 +2206,17 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>This run is done. Change something to start another one.</source>
         <translation>Esta ejecución está hecha. Cambie algo para iniciar otra.</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::Session</name>
+    <message>
+        <source>A list of an earlier session cannot be read, and is left as it is: %1</source>
+        <translation>Una lista de una sesión anterior no se puede leer y se deja como está: %1</translation>
+    </message>
+    <message>
+        <source>List and change will not be there the next time: %1: %2</source>
+        <translation>La lista y el cambio no estarán la próxima vez: %1: %2</translation>
     </message>
 </context>
 <context>

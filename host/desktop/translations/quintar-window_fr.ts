@@ -1636,11 +1636,11 @@
     </message>
     <message>
         <source>&amp;Redo Setting “%1”</source>
-        <translation>&amp;Rétablir le réglage « %1 »</translation>
+        <translation>&amp;Rétablir le réglage «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>&amp;Undo Setting “%1”</source>
-        <translation>&amp;Annuler le réglage « %1 »</translation>
+        <translation>&amp;Annuler le réglage «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -1726,6 +1726,21 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>Earlier runs</source>
         <translation>Traitements précédents</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::Logout</name>
+    <message>
+        <source>A run is under way. Stop it and log out?</source>
+        <translation>Un traitement est en cours. L’arrêter et fermer la session&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Les documents en cours sont terminés&#xa0;; les autres restent tels quels.</translation>
+    </message>
+    <message>
+        <source>&amp;Stop and Log Out</source>
+        <translation>&amp;Arrêter et fermer la session</translation>
     </message>
 </context>
 <context>
@@ -2191,6 +2206,17 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>This run is done. Change something to start another one.</source>
         <translation>Ce traitement est terminé. Modifiez quelque chose pour en lancer un autre.</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::Session</name>
+    <message>
+        <source>A list of an earlier session cannot be read, and is left as it is: %1</source>
+        <translation>Une liste d’une session précédente est illisible et reste telle quelle&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>List and change will not be there the next time: %1: %2</source>
+        <translation>La liste et la modification ne seront plus là la prochaine fois&#xa0;: %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>

@@ -1713,6 +1713,21 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     </message>
 </context>
 <context>
+    <name>host::desktop::Logout</name>
+    <message>
+        <source>A run is under way. Stop it and log out?</source>
+        <translation>実行中です。中止してログアウトしますか?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>処理中の文書は最後まで処理し、ほかの文書は元のままです。</translation>
+    </message>
+    <message>
+        <source>&amp;Stop and Log Out</source>
+        <translation>中止してログアウト(&amp;S)</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::MainWindow</name>
     <message>
         <source>Quintar</source>
@@ -2162,6 +2177,17 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>This run is done. Change something to start another one.</source>
         <translation>この実行は終わりました。別の実行を始めるには、何かを変更してください。</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::Session</name>
+    <message>
+        <source>A list of an earlier session cannot be read, and is left as it is: %1</source>
+        <translation>以前のセッションの一覧を読めないため、そのまま残します: %1</translation>
+    </message>
+    <message>
+        <source>List and change will not be there the next time: %1: %2</source>
+        <translation>一覧と変更は次回まで保存されません: %1: %2</translation>
     </message>
 </context>
 <context>
