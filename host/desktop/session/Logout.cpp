@@ -28,10 +28,9 @@ void Logout::prepare(QSessionManager& manager)
     if (!m_workbench.machine().isWriting())
         return;
     if (manager.allowsInteraction()) {
-        const bool isWanted = mayStop();
-        manager.release();
-        if (!isWanted)
+        if (!mayStop())
             return manager.cancel();
+        manager.release();
     }
     stopAndWait();
     emit toBeKept();
