@@ -23,7 +23,6 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QWhatsThis>
 
 namespace host::desktop {
 
@@ -152,25 +151,20 @@ QWidget* MainWindow::makeSide()
 
 void MainWindow::connectParts()
 {
-    connect(m_change, &ChangePanel::showWanted, m_filter, &FilterBar::show);
-    connect(m_runBar, &RunBar::whyWanted, this, [this] {
-        const bool areResults = m_workbench.machine().state() == State::Results;
-        m_filter->show(areResults ? DocumentFilter::Kind::Failed : DocumentFilter::Kind::Trouble);
-    });
+    connect(m_change, &ChangePanel::showWanted, this, &MainWindow::showOnly);
+    connect(m_runBar, &RunBar::whyWanted, this, &MainWindow::showOnly);
+    connect(m_runBar, &RunBar::resultsWanted, m_actions[Id::ShowResults], &QAction::trigger);
     connect(m_runBar, &RunBar::undoWanted, &m_commands, &Commands::undoLast);
     connect(m_runBar, &RunBar::saveWanted, &m_commands, &Commands::saveReport);
-    for (auto signal : {&Workbench::said, &Workbench::failed})
-        connect(&m_workbench, signal, this,
-                [this, signal](const QString& text) { m_runBar->say(text, signal == &Workbench::failed); });
-    connect(&m_commands, &Commands::said, this, [this](const QString& text) { m_runBar->say(text, false); });
-    connect(&m_commands, &Commands::failed, this, [this](const QString& text) { m_runBar->say(text, true); });
+    connect(&m_commands, &Commands::said, m_runBar, &RunBar::say);
+    connect(&m_commands, &Commands::failed, m_runBar, &RunBar::complain);
     connect(&m_workbench.machine(), &RunMachine::changed, this, &MainWindow::showState);
     connect(&m_workbench.machine(), &RunMachine::changed, this, [this] {
         if (m_workbench.machine().isWriting() && m_change->isAncestorOf(focusWidget()))
             m_view->setFocus(); // what is disabled would pass the focus on, and scroll there
     });
     connect(new Logout(m_workbench, this), &Logout::toBeKept, this, &MainWindow::saveGeometryOnce);
-    connect(&m_session, &Session::failed, &m_commands, &Commands::failed);
+    connect(&m_session, &Session::failed, m_runBar, &RunBar::complain);
     connect(&m_commands, &Commands::dialogOpens, &m_session, &Session::save);
     connect(&m_workbench.order(), &DocumentOrder::shownChanged, this, &MainWindow::showState);
     connect(&m_workbench, &Workbench::progressed, this, &MainWindow::showState);
@@ -192,7 +186,6 @@ void MainWindow::connectActions()
     connect(m_actions[Id::Help], &QAction::triggered, m_help, &HelpWindow::showSettings);
     connect(m_actions[Id::Keys], &QAction::triggered, this,
             [this] { m_help->showPage(m_actions.keysPage()); });
-    connect(m_actions[Id::WhatsThis], &QAction::triggered, this, [] { QWhatsThis::enterWhatsThisMode(); });
     connect(m_actions[Id::ShowPreview], &QAction::toggled, m_preview, &QWidget::setVisible);
     connect(m_actions[Id::NextPane], &QAction::triggered, this, [this] { goTo(1); });
     connect(m_actions[Id::PreviousPane], &QAction::triggered, this, [this] { goTo(-1); });
@@ -225,6 +218,14 @@ void MainWindow::showState()
         title = tr("%1 % - Quintar").arg(static_cast<int>(share * 100));
     setWindowTitle(title);
     launcherprogress::show(share);
+}
+
+/// The first of them says at once what is about it, and Escape shows all again.
+void MainWindow::showOnly(DocumentFilter::Kind kind)
+{
+    m_filter->show(kind);
+    m_workbench.order().ensureCurrent();
+    m_view->setFocus();
 }
 
 /// From the list to the change and on.
@@ -291,7 +292,7 @@ void MainWindow::dropEvent(QDropEvent* event)
     event->accept();
     const QVector<QByteArray> names = droppednames::of(*event->mimeData());
     if (names.isEmpty())
-        m_runBar->say(tr("What was dropped are no files or folders."), true);
+        m_runBar->complain(tr("What was dropped are no files or folders."));
     m_workbench.add(names);
 }
 

@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QHeaderView>
 #include <QMenuBar>
 #include <QMimeData>
@@ -152,8 +153,8 @@ private slots:
         QCOMPARE(status(), QString("1 changed  ·  1 failed (1 signed)"));
         click("Show 1 Failed");
         QTRY_COMPARE(list()->model()->rowCount(), 1);
-        list()->setCurrentIndex(list()->model()->index(0, 0));
-        QVERIFY(button("Append All the Same")->isVisible());
+        QCOMPARE(m_window->focusWidget(), list());
+        QTRY_VERIFY(button("Append All the Same")->isVisible());
         m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::end());
         click("Append All the Same");
         QTRY_VERIFY(m_fake->starts().last().contains("--signed append"));
@@ -175,6 +176,26 @@ private slots:
         m_window->workbench().start();
         QTRY_COMPARE(state(), State::Results);
         haveNoKeyTwice();
+    }
+
+    void showsAllAgainAfterItShowedWhy()
+    {
+        read();
+        choose("Panel", "Bookmarks");
+        QTRY_COMPARE(state(), State::Ready);
+        for (const bool isByKey : {true, false}) {
+            click("Show Why");
+            QTRY_COMPARE(list()->model()->rowCount(), 1);
+            QCOMPARE(find<QComboBox>("Show")->currentText(), QString("Failed or cannot be changed"));
+            QTRY_VERIFY(!button("Show Why")->isVisible());
+            if (isByKey)
+                QTest::keyClick(list(), Qt::Key_Escape);
+            else
+                click("Show All");
+            QTRY_COMPARE(list()->model()->rowCount(), 2);
+            QVERIFY(!button("Show All")->isVisible());
+            QTRY_VERIFY(button("Show Why")->isVisible());
+        }
     }
 
     void savesAReport()
@@ -269,6 +290,13 @@ private slots:
         choose("Write to", "A folder");
         QTRY_VERIFY(m_fake->starts().last().contains("--output /out --base /d/"));
         QTRY_COMPARE(state(), State::Ready);
+        QVERIFY(!button("Show Results")->isVisible());
+        m_window->workbench().start();
+        QTRY_VERIFY(button("Show Results")->isVisible());
+        QDesktopServices::setUrlHandler("file", this, "open");
+        click("Show Results");
+        QDesktopServices::unsetUrlHandler("file");
+        QCOMPARE(m_opened, QUrl("file:///out"));
     }
 
     void asksBeforeItClosesARunAndKeepsTheRest()
@@ -301,6 +329,9 @@ private slots:
         auto* text = m_window->findChild<QTextBrowser*>();
         QVERIFY(text->isVisible() && text->toPlainText().contains("Which viewers follow"));
     }
+
+public:
+    Q_INVOKABLE void open(const QUrl& url) { m_opened = url; }
 
 private:
     static QString nameOf(const QWidget* widget)
@@ -384,6 +415,7 @@ private:
     std::unique_ptr<FakeQuintar> m_fake;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<MainWindow> m_window;
+    QUrl m_opened;
 };
 
 int main(int argc, char** argv)

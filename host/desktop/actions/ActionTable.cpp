@@ -67,6 +67,7 @@ const Row rows[] = {
     {Id::Pause, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Pause or Go On"), "Ctrl+P", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Begins no further document until it goes on"), false},
     {Id::Stop, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "S&top"), "Ctrl+.", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Finishes the documents that are being worked on, and begins no more"), false},
     {Id::TryAgain, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Try Failed &Again"), "Ctrl+R", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Runs once more over what failed or was not done"), true},
+    {Id::ShowResults, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Sho&w Results"), "", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Opens the folder that the run has written into"), false},
     {Id::UndoLast, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Undo Last Run…"), "Ctrl+Alt+Z", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Gives each document back as it was before the run"), true},
     {Id::History, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Earlier &Runs…"), "Ctrl+H", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Tells of the runs that can be undone"), false},
 

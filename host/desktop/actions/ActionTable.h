@@ -38,6 +38,7 @@ public:
         TryAgain,
         UndoLast,
         History,
+        ShowResults,
         Password,
         NextPane,
         PreviousPane,

@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSaveFile>
+#include <QWhatsThis>
 
 namespace host::desktop {
 
@@ -74,6 +75,7 @@ void Commands::connectAll()
     on(Id::ReadAgain, [this] { m_workbench.readAgain(m_workbench.order().shown()); });
     on(Id::OpenInViewer, &Commands::openInViewer);
     on(Id::ShowInFolder, &Commands::showInFolder);
+    on(Id::ShowResults, &Commands::showResults);
     on(Id::CopyPaths, &Commands::copyPaths);
     on(Id::CopyCommand, &Commands::copyCommand);
     on(Id::LikeThis, &Commands::likeThis);
@@ -89,6 +91,7 @@ void Commands::connectAll()
     on(Id::Password, &Commands::askPassword);
     on(Id::Configure, &Commands::configure);
     on(Id::History, &Commands::showHistory);
+    on(Id::WhatsThis, [] { QWhatsThis::enterWhatsThisMode(); });
     on(Id::About, &Commands::about);
 }
 
@@ -109,6 +112,7 @@ void Commands::enable()
     m_actions[Id::Redo]->setText(edits.redoText());
     if (m_workbench.undoableRun() < 0)
         m_actions[Id::UndoLast]->setEnabled(false);
+    m_actions[Id::ShowResults]->setEnabled(!m_workbench.resultFolder().isEmpty());
     const bool hasCurrent = current() != nullptr;
     for (const Id id : {Id::OpenInViewer, Id::ShowInFolder, Id::CopyPaths})
         m_actions[id]->setEnabled(hasCurrent);
@@ -287,6 +291,13 @@ void Commands::showInFolder()
 {
     if (current() != nullptr && !openwith::folder(current()->path))
         emit failed(tr("No file manager took %1.").arg(current()->folder));
+}
+
+void Commands::showResults()
+{
+    const QString folder = m_workbench.resultFolder();
+    if (!folder.isEmpty() && !openwith::contents(QFile::encodeName(folder)))
+        emit failed(tr("No file manager took %1.").arg(folder));
 }
 
 void Commands::copyPaths()

@@ -1290,6 +1290,14 @@
         <source>Does once more what was taken back</source>
         <translation>Tut noch einmal, was zurückgenommen wurde</translation>
     </message>
+    <message>
+        <source>Sho&amp;w Results</source>
+        <translation>Er&amp;gebnisse anzeigen</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Öffnet den Ordner, in den der Durchlauf geschrieben hat</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1696,6 +1704,14 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>%1 of %2 shown</source>
         <translation>%1 von %2 angezeigt</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>Shows all documents again (Esc)</source>
+        <translation>Zeigt wieder alle Dokumente (Esc)</translation>
     </message>
 </context>
 <context>
@@ -2113,6 +2129,14 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>Undoing… %1</source>
         <translation>Rückgängig machen… %1</translation>
+    </message>
+    <message>
+        <source>Show Res&amp;ults</source>
+        <translation>E&amp;rgebnisse anzeigen</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Öffnet den Ordner, in den der Durchlauf geschrieben hat</translation>
     </message>
 </context>
 <context>

@@ -1290,6 +1290,14 @@
         <source>Does once more what was taken back</source>
         <translation>Vuelve a hacer lo que se deshizo</translation>
     </message>
+    <message>
+        <source>Sho&amp;w Results</source>
+        <translation>&amp;Ver los resultados</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Abre la carpeta en la que escribió la ejecución</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1696,6 +1704,14 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>%1 of %2 shown</source>
         <translation>%1 de %2 mostrados</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>Mostrar todos</translation>
+    </message>
+    <message>
+        <source>Shows all documents again (Esc)</source>
+        <translation>Vuelve a mostrar todos los documentos (Esc)</translation>
     </message>
 </context>
 <context>
@@ -2113,6 +2129,14 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>Undoing… %1</source>
         <translation>Deshaciendo… %1</translation>
+    </message>
+    <message>
+        <source>Show Res&amp;ults</source>
+        <translation>Ver resultados e&amp;n su carpeta</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Abre la carpeta en la que escribió la ejecución</translation>
     </message>
 </context>
 <context>

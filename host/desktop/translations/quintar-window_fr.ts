@@ -1290,6 +1290,14 @@
         <source>Does once more what was taken back</source>
         <translation>Refait ce qui a été annulé</translation>
     </message>
+    <message>
+        <source>Sho&amp;w Results</source>
+        <translation>&amp;Voir les résultats</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Ouvre le dossier dans lequel le traitement a écrit</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1696,6 +1704,14 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>%1 of %2 shown</source>
         <translation>%1 sur %2 affichés</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Shows all documents again (Esc)</source>
+        <translation>Affiche à nouveau tous les documents (Échap)</translation>
     </message>
 </context>
 <context>
@@ -2113,6 +2129,14 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>Undoing… %1</source>
         <translation>Annulation… %1</translation>
+    </message>
+    <message>
+        <source>Show Res&amp;ults</source>
+        <translation>Voir les rés&amp;ultats</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Ouvre le dossier dans lequel le traitement a écrit</translation>
     </message>
 </context>
 <context>

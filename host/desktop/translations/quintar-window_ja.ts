@@ -1283,6 +1283,14 @@
         <source>Does once more what was taken back</source>
         <translation>元に戻したことをもう一度行います</translation>
     </message>
+    <message>
+        <source>Sho&amp;w Results</source>
+        <translation>結果を表示(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>実行の書き込み先フォルダーを開きます</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1680,6 +1688,14 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>%1 of %2 shown</source>
         <translation>%2 個中 %1 個を表示</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>すべて表示</translation>
+    </message>
+    <message>
+        <source>Shows all documents again (Esc)</source>
+        <translation>すべての文書を再び表示します (Esc)</translation>
     </message>
 </context>
 <context>
@@ -2085,6 +2101,14 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>Undoing… %1</source>
         <translation>元に戻しています… %1</translation>
+    </message>
+    <message>
+        <source>Show Res&amp;ults</source>
+        <translation>結果を表示(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>実行の書き込み先フォルダーを開きます</translation>
     </message>
 </context>
 <context>

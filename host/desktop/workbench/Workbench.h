@@ -101,6 +101,8 @@ public:
     const DocumentTask* task() const { return m_task; }
     /// Where the newest run stands in the history that can be undone, 0 for the last one; -1 for none.
     int undoableRun() const { return m_history.newestUndoable(); }
+    /// The folder that holds the results which are told of; empty if they lie elsewhere, or there are none.
+    QString resultFolder() const;
 
 signals:
     void draftChanged();
