@@ -25,6 +25,9 @@ protected:
 
 private:
     void show();
+    /// In the middle of the area. \returns what of it is taken.
+    QRectF paintOne(QPainter& painter, const QRectF& area);
+    QRectF paintBoth(QPainter& painter, const QRectF& area);
     void paintScene(QPainter& painter, const QRectF& area, const QString& title, const PreviewScene& scene);
 
     Workbench& m_workbench;
