@@ -236,7 +236,7 @@ void MainWindow::goTo(int step)
 
 void MainWindow::begin(const QVector<QByteArray>& paths)
 {
-    m_workbench.add(m_session.restore() + paths);
+    m_session.begin(paths);
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event)

@@ -318,6 +318,7 @@ private slots:
         QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/a.pdf", "/d/b.pdf"}));
         QTRY_COMPARE(state(), State::Ready);
         QCOMPARE(find<QComboBox>("Panel")->currentText(), QString("Bookmarks"));
+        QVERIFY(!m_window->workbench().edits().canUndo());
         QCOMPARE(list()->horizontalHeader()->visualIndex(0), 2);
     }
 

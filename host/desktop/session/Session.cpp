@@ -101,6 +101,16 @@ Session::~Session()
         save();
 }
 
+void Session::begin(const QVector<QByteArray>& paths)
+{
+    const QVector<QByteArray> earlier = restore();
+    if (earlier.isEmpty())
+        m_workbench.add(paths);
+    else
+        m_workbench.addAgain(earlier + paths);
+}
+
+/// \returns the documents that were in its list.
 QVector<QByteArray> Session::restore()
 {
     const QDir folder(m_folder);

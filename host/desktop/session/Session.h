@@ -21,8 +21,8 @@ public:
     ~Session() override;
 
     /// Takes over the newest session that no window holds and that can be read; begins a new one where there is none.
-    /// \returns the documents that were in its list.
-    QVector<QByteArray> restore();
+    /// \param paths of documents that come besides those that were in its list.
+    void begin(const QVector<QByteArray>& paths);
     void save();
 
 signals:
@@ -30,6 +30,7 @@ signals:
     void failed(const QString& text);
 
 private:
+    QVector<QByteArray> restore();
     QVector<QByteArray> takeOver(const QJsonObject& object);
     QByteArray toJson() const;
 

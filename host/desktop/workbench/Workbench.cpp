@@ -49,10 +49,20 @@ void Workbench::add(const QVector<QByteArray>& paths)
         emit said(tr("What you added waits until this is done."));
         return;
     }
-    dropTask();
-    m_edits.beginAdding();
     auto* reading = new Reading(m_table, means(), this);
+    m_edits.beginAdding();
     connect(reading, &Reading::added, &m_edits, &EditHistory::added);
+    addBy(reading, paths);
+}
+
+void Workbench::addAgain(const QVector<QByteArray>& paths)
+{
+    addBy(new Reading(m_table, means(), this), paths);
+}
+
+void Workbench::addBy(Reading* reading, const QVector<QByteArray>& paths)
+{
+    dropTask();
     startReading(reading);
     reading->add(paths + std::exchange(m_unread, {}));
 }

@@ -60,6 +60,8 @@ public:
 
     /// Files and folders by their absolute paths. While a run goes on they wait for its end.
     void add(const QVector<QByteArray>& paths);
+    /// What an earlier session had, before anything else: it is no step that could be undone.
+    void addAgain(const QVector<QByteArray>& paths);
     /// What was added and is not in the list yet: it waits, is being looked through, or reading it broke off.
     QVector<QByteArray> pending() const;
     void remove(const Ids& ids);
@@ -131,6 +133,7 @@ private:
     void endRunning(const ChildRun::Ending& ending);
     void endUndoing(const ChildRun::Ending& ending);
     void addWaiting();
+    void addBy(Reading* reading, const QVector<QByteArray>& paths);
     void startReading(Reading* reading);
     void run(const Ids& ids);
     void writeDown(const Running& running, bool isComplete);
