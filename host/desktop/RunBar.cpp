@@ -195,7 +195,17 @@ QString RunBar::countsInWords() const
     case State::Listed:
         break;
     }
-    return tr("Say on the right what is to change.");
+    return listedInWords();
+}
+
+/// Trying out may have been stopped.
+QString RunBar::listedInWords() const
+{
+    if (m_workbench.draft().isEmpty())
+        return tr("Say on the right what is to change.");
+    if (m_workbench.targets().isEmpty())
+        return tr("No document is shown that the change could be for.");
+    return tr("What would change is not known. Read the documents again (F5) to find out.");
 }
 
 /// The reasons of most documents first, in brackets.

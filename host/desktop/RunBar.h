@@ -44,6 +44,7 @@ private:
     void show();
     void showProgress();
     QString countsInWords() const;
+    QString listedInWords() const;
     static QString reasonsInWords(const Workbench::Counts& counts);
     static QString plannedInWords(const Workbench::Counts& counts);
     static QString doneInWords(const Workbench::Counts& counts);

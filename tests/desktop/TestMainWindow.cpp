@@ -198,6 +198,22 @@ private slots:
         }
     }
 
+    void saysWhatIsNotKnownAfterAStop()
+    {
+        const QByteArray stopped = "#hear stop\n{\"event\":\"end\",\"stopped\":true}\n";
+        read();
+        m_fake->plays("try", Fake::start() + stopped);
+        choose("Panel", "Bookmarks");
+        QTRY_VERIFY(m_fake->starts().last().contains("--dry-run"));
+        m_window->workbench().stop();
+        QTRY_VERIFY(status().startsWith("What would change is not known."));
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/e/c.pdf") + stopped);
+        m_window->workbench().add({"/e"});
+        QTRY_COMPARE(list()->model()->rowCount(), 3);
+        QTest::keyClick(m_window.get(), Qt::Key_Period, Qt::ControlModifier);
+        QTRY_VERIFY(status().startsWith("Reading was stopped."));
+    }
+
     void savesAReport()
     {
         run();

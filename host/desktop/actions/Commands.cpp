@@ -178,7 +178,9 @@ void Commands::paste()
 
 void Commands::chooseFolder()
 {
-    dialogs::askFolder(m_window, tr("Folder for the Results"), m_workbench.destination().folderPath(),
+    const QString chosen = m_workbench.destination().folderPath();
+    const QString near = RunOrder::commonFolder(m_workbench.table(), m_workbench.targets());
+    dialogs::askFolder(m_window, tr("Folder for the Results"), chosen.isEmpty() ? near : chosen,
                        [this](const QString& name) {
                            if (name.isEmpty())
                                return;

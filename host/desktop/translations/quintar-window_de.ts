@@ -2138,6 +2138,14 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <source>Opens the folder that the run has written into</source>
         <translation>Öffnet den Ordner, in den der Durchlauf geschrieben hat</translation>
     </message>
+    <message>
+        <source>No document is shown that the change could be for.</source>
+        <translation>Es wird kein Dokument gezeigt, für das die Änderung sein könnte.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again (F5) to find out.</source>
+        <translation>Was sich ändern würde, ist nicht bekannt. Lesen Sie die Dokumente neu ein (F5), um es zu erfahren.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2416,6 +2424,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
             <numerusform>Das Rückgängigmachen wurde angehalten: %n Dokument ist wieder wie vor dem Durchlauf.</numerusform>
             <numerusform>Das Rückgängigmachen wurde angehalten: %n Dokumente sind wieder wie vor dem Durchlauf.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading was stopped. What was not found until then is not in the list.</source>
+        <translation>Das Einlesen wurde abgebrochen. Was bis dahin nicht gefunden war, steht nicht in der Liste.</translation>
     </message>
 </context>
 </TS>

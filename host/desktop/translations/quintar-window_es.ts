@@ -2138,6 +2138,14 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <source>Opens the folder that the run has written into</source>
         <translation>Abre la carpeta en la que escribió la ejecución</translation>
     </message>
+    <message>
+        <source>No document is shown that the change could be for.</source>
+        <translation>No se muestra ningún documento al que aplicar el cambio.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again (F5) to find out.</source>
+        <translation>No se sabe qué cambiaría. Vuelva a leer los documentos (F5) para averiguarlo.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2416,6 +2424,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
             <numerusform>Se detuvo la operación de deshacer: %n documento está como antes de la ejecución.</numerusform>
             <numerusform>Se detuvo la operación de deshacer: %n documentos están como antes de la ejecución.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading was stopped. What was not found until then is not in the list.</source>
+        <translation>La lectura se detuvo. Lo que aún no se había encontrado no está en la lista.</translation>
     </message>
 </context>
 </TS>

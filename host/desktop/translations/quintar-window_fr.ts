@@ -2138,6 +2138,14 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <source>Opens the folder that the run has written into</source>
         <translation>Ouvre le dossier dans lequel le traitement a écrit</translation>
     </message>
+    <message>
+        <source>No document is shown that the change could be for.</source>
+        <translation>Aucun document affiché ne peut recevoir la modification.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again (F5) to find out.</source>
+        <translation>On ne sait pas ce qui changerait. Relisez les documents (F5) pour le savoir.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2416,6 +2424,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
             <numerusform>L’annulation a été arrêtée : %n document est tel qu’il était avant le traitement.</numerusform>
             <numerusform>L’annulation a été arrêtée : %n documents sont tels qu’ils étaient avant le traitement.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading was stopped. What was not found until then is not in the list.</source>
+        <translation>La lecture a été arrêtée. Ce qui n’avait pas encore été trouvé ne figure pas dans la liste.</translation>
     </message>
 </context>
 </TS>

@@ -2110,6 +2110,14 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <source>Opens the folder that the run has written into</source>
         <translation>実行の書き込み先フォルダーを開きます</translation>
     </message>
+    <message>
+        <source>No document is shown that the change could be for.</source>
+        <translation>変更の対象となる文書が表示されていません。</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again (F5) to find out.</source>
+        <translation>何が変わるか分かっていません。文書を読み直すと (F5) 分かります。</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2378,6 +2386,10 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>
             <numerusform>元に戻す処理を停止しました: %n 個の文書が実行前の状態に戻りました。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading was stopped. What was not found until then is not in the list.</source>
+        <translation>読み込みを中止しました。それまでに見つからなかったものは一覧にありません。</translation>
     </message>
 </context>
 </TS>

@@ -310,12 +310,15 @@ void Workbench::endReading(const ChildRun::Ending& ending)
 {
     const auto* reading = qobject_cast<const Reading*>(m_task.data());
     const int known = reading->known();
+    const bool wasLooking = !reading->paths().isEmpty();
     if (!ending.isComplete && !ending.wasStopped)
         m_unread = reading->paths();
     m_task->deleteLater();
     m_task.clear();
     if (!ending.isComplete && !ending.wasStopped)
         emit failed(ending.words.isEmpty() ? tr("Reading broke off.") : ending.words);
+    else if (ending.wasStopped && wasLooking)
+        emit said(tr("Reading was stopped. What was not found until then is not in the list."));
     else if (known > 0)
         emit said(tr("%n document(s) were in the list already.", "", known));
     m_passwordTrial.restore(m_table);
