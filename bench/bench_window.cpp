@@ -151,6 +151,22 @@ void useList(MainWindow& window, Heart& heart)
     heart.tell("searching");
 }
 
+/// \returns whether that ended.
+bool tryOut(Workbench& bench, Heart& heart)
+{
+    QElapsedTimer clock;
+    clock.start();
+    ChangeDraft draft;
+    draft.set(ViewEntry::PageMode, pdflibrary::BookmarksPanel);
+    bench.setDraft(draft);
+    if (!until([&bench] { return bench.machine().state() == State::Ready; }, 300))
+        return std::fprintf(stderr, "Trying out did not end\n"), false;
+    std::printf("what would change is known after %lld ms: %d of %d\n", clock.elapsed(),
+                bench.counts().willChange, bench.table().count());
+    heart.tell("trying out");
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -185,14 +201,5 @@ int main(int argc, char** argv)
                 bench.table().count(), clock.elapsed(), residentMebibytes() - before, before);
     heart.tell("filling");
     useList(window, heart);
-    clock.restart();
-    ChangeDraft draft;
-    draft.set(ViewEntry::PageMode, pdflibrary::BookmarksPanel);
-    bench.setDraft(draft);
-    if (!until([&bench] { return bench.machine().state() == State::Ready; }, 300))
-        return std::fprintf(stderr, "Trying out did not end\n"), 1;
-    std::printf("what would change is known after %lld ms: %d of %d\n", clock.elapsed(),
-                bench.counts().willChange, count);
-    heart.tell("trying out");
-    return 0;
+    return tryOut(bench, heart) ? 0 : 1;
 }

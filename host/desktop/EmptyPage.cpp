@@ -23,26 +23,9 @@ EmptyPage::EmptyPage(QWidget* parent) : QWidget(parent), m_picture(new QLabel(th
     title->setFont(font);
     m_more->setText(tr("With their bookmarks, with their title, at page 1.\n"
                        "Drop documents or folders here. Nothing is changed before you start it."));
-    auto* files = new QPushButton(tr("&Add Files…"), this);
-    auto* folder = new QPushButton(tr("Add F&older…"), this);
-    files->setObjectName("addFilesButton");
-    folder->setObjectName("addFolderButton");
-    files->setDefault(true);
-    connect(files, &QPushButton::clicked, this, &EmptyPage::addFiles);
-    connect(folder, &QPushButton::clicked, this, &EmptyPage::addFolder);
-
     m_picture->setAccessibleName(tr("A document that opens with its bookmarks and its title"));
     for (QLabel* each : {m_picture, title, m_more})
         each->setAlignment(Qt::AlignCenter);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton* each : {files, folder}) {
-        each->setMinimumWidth(150);
-        each->setMinimumHeight(34);
-        buttons->addWidget(each);
-    }
-    buttons->addStretch();
-    buttons->setSpacing(12);
     auto* column = new QVBoxLayout(this);
     column->setSpacing(14);
     column->addStretch(2);
@@ -51,9 +34,30 @@ EmptyPage::EmptyPage(QWidget* parent) : QWidget(parent), m_picture(new QLabel(th
     column->addWidget(title);
     column->addWidget(m_more);
     column->addSpacing(10);
-    column->addLayout(buttons);
+    column->addLayout(buttons());
     column->addStretch(3);
     draw();
+}
+
+QLayout* EmptyPage::buttons()
+{
+    auto* files = new QPushButton(tr("&Add Files…"), this);
+    auto* folder = new QPushButton(tr("Add F&older…"), this);
+    files->setObjectName("addFilesButton");
+    folder->setObjectName("addFolderButton");
+    files->setDefault(true);
+    connect(files, &QPushButton::clicked, this, &EmptyPage::addFiles);
+    connect(folder, &QPushButton::clicked, this, &EmptyPage::addFolder);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    for (QPushButton* each : {files, folder}) {
+        each->setMinimumWidth(150);
+        each->setMinimumHeight(34);
+        row->addWidget(each);
+    }
+    row->addStretch();
+    row->setSpacing(12);
+    return row;
 }
 
 void EmptyPage::changeEvent(QEvent* event)

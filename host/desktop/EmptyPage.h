@@ -21,6 +21,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    QLayout* buttons();
     void draw();
 
     QLabel* m_picture;

@@ -2,6 +2,7 @@
 
 #include "EmptyPage.h"
 #include "ToolBar.h"
+#include "host/desktop/actions/ColumnMenus.h"
 #include "host/desktop/actions/PresetMenu.h"
 #include "host/desktop/dialogs/HelpWindow.h"
 #include "host/desktop/dialogs/HistoryDialog.h"
@@ -11,6 +12,7 @@
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
 #include "host/desktop/presets/PresetFolder.h"
+#include "host/desktop/session/Logout.h"
 #include "host/program/InstallLayout.h"
 
 #include <QCloseEvent>
@@ -21,7 +23,6 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QWhatsThis>
 
 namespace host::desktop {
 
@@ -116,6 +117,7 @@ QWidget* MainWindow::makeList()
     column->addWidget(m_view, 1);
     column->addWidget(line(QFrame::HLine));
     column->addWidget(detail);
+    new ColumnMenus(*m_view, m_actions);
     connect(detail, &DetailLine::remedyWanted, &m_commands, &Commands::help);
     connect(m_view, &DocumentView::menuWanted, this, [this](const QPoint& place) {
         auto* menu = new QMenu(this);
@@ -149,29 +151,26 @@ QWidget* MainWindow::makeSide()
 
 void MainWindow::connectParts()
 {
-    connect(m_change, &ChangePanel::showWanted, m_filter, &FilterBar::show);
-    connect(m_runBar, &RunBar::whyWanted, this, [this] {
-        const bool areResults = m_workbench.machine().state() == State::Results;
-        m_filter->show(areResults ? DocumentFilter::Kind::Failed : DocumentFilter::Kind::Trouble);
-    });
+    connect(m_change, &ChangePanel::showWanted, this, &MainWindow::showOnly);
+    connect(m_runBar, &RunBar::whyWanted, this, &MainWindow::showOnly);
+    connect(m_runBar, &RunBar::resultsWanted, m_actions[Id::ShowResults], &QAction::trigger);
     connect(m_runBar, &RunBar::undoWanted, &m_commands, &Commands::undoLast);
     connect(m_runBar, &RunBar::saveWanted, &m_commands, &Commands::saveReport);
-    for (auto signal : {&Workbench::said, &Workbench::failed})
-        connect(&m_workbench, signal, this,
-                [this, signal](const QString& text) { m_runBar->say(text, signal == &Workbench::failed); });
-    connect(&m_commands, &Commands::said, this, [this](const QString& text) { m_runBar->say(text, false); });
-    connect(&m_commands, &Commands::failed, this, [this](const QString& text) { m_runBar->say(text, true); });
+    connect(&m_commands, &Commands::said, m_runBar, &RunBar::say);
+    connect(&m_commands, &Commands::failed, m_runBar, &RunBar::complain);
     connect(&m_workbench.machine(), &RunMachine::changed, this, &MainWindow::showState);
     connect(&m_workbench.machine(), &RunMachine::changed, this, [this] {
         if (m_workbench.machine().isWriting() && m_change->isAncestorOf(focusWidget()))
             m_view->setFocus(); // what is disabled would pass the focus on, and scroll there
     });
+    connect(new Logout(m_workbench, this), &Logout::toBeKept, this, &MainWindow::saveGeometryOnce);
+    connect(&m_session, &Session::failed, m_runBar, &RunBar::complain);
     connect(&m_commands, &Commands::dialogOpens, &m_session, &Session::save);
     connect(&m_workbench.order(), &DocumentOrder::shownChanged, this, &MainWindow::showState);
     connect(&m_workbench, &Workbench::progressed, this, &MainWindow::showState);
     connect(&m_workbench, &Workbench::draftChanged, this, [this] {
         m_change->destination()->setDestination(m_workbench.destination());
-        m_view->showColumnsOf(m_workbench.draft().view());
+        m_view->showColumnsOf(m_workbench.draft().effect());
     });
     connect(&m_workbench, &Workbench::runEnded, this, &MainWindow::runEnded);
 }
@@ -187,11 +186,11 @@ void MainWindow::connectActions()
     connect(m_actions[Id::Help], &QAction::triggered, m_help, &HelpWindow::showSettings);
     connect(m_actions[Id::Keys], &QAction::triggered, this,
             [this] { m_help->showPage(m_actions.keysPage()); });
-    connect(m_actions[Id::WhatsThis], &QAction::triggered, this, [] { QWhatsThis::enterWhatsThisMode(); });
     connect(m_actions[Id::ShowPreview], &QAction::toggled, m_preview, &QWidget::setVisible);
     connect(m_actions[Id::NextPane], &QAction::triggered, this, [this] { goTo(1); });
     connect(m_actions[Id::PreviousPane], &QAction::triggered, this, [this] { goTo(-1); });
-    for (const Id id : {Id::OpenInViewer, Id::Remove, Id::CopyPaths, Id::SelectAll}) {
+    for (const Id id :
+         {Id::OpenInViewer, Id::Remove, Id::CopyPaths, Id::SelectAll, Id::ColumnLeft, Id::ColumnRight}) {
         m_actions[id]->setShortcutContext(Qt::WidgetShortcut);
         m_view->addAction(m_actions[id]);
     }
@@ -221,6 +220,14 @@ void MainWindow::showState()
     launcherprogress::show(share);
 }
 
+/// The first of them says at once what is about it, and Escape shows all again.
+void MainWindow::showOnly(DocumentFilter::Kind kind)
+{
+    m_filter->show(kind);
+    m_workbench.order().ensureCurrent();
+    m_view->setFocus();
+}
+
 /// From the list to the change and on.
 void MainWindow::goTo(int step)
 {
@@ -229,7 +236,7 @@ void MainWindow::goTo(int step)
 
 void MainWindow::begin(const QVector<QByteArray>& paths)
 {
-    m_workbench.add(m_session.restore() + paths);
+    m_session.begin(paths);
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
@@ -285,7 +292,7 @@ void MainWindow::dropEvent(QDropEvent* event)
     event->accept();
     const QVector<QByteArray> names = droppednames::of(*event->mimeData());
     if (names.isEmpty())
-        m_runBar->say(tr("What was dropped are no files or folders."), true);
+        m_runBar->complain(tr("What was dropped are no files or folders."));
     m_workbench.add(names);
 }
 

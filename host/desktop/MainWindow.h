@@ -60,6 +60,7 @@ private:
     void connectParts();
     void connectActions();
     void showState();
+    void showOnly(DocumentFilter::Kind kind);
     void goTo(int step);
     void runEnded();
     void saveGeometryOnce();

@@ -29,6 +29,7 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
     : QWidget(parent), m_workbench(workbench), m_sign(new QLabel(this)), m_text(new ElidedLabel(this)),
       m_progress(new QProgressBar(this)),
       m_why(button(tr("Show Wh&y"), tr("Shows the documents that failed or cannot be changed"))),
+      m_results(button(tr("Show Res&ults"), tr("Opens the folder that the run has written into"))),
       m_undo(button(tr("&Undo This Run…"), tr("Gives each document back as it was before the run"))),
       m_again(button(tr("Tr&y Failed Again"), tr("Runs once more over what failed or was not done"))),
       m_save(button(tr("Save Repor&t…"), tr("Keeps what became of each document in a file"))),
@@ -49,9 +50,9 @@ RunBar::RunBar(Workbench& workbench, QWidget* parent)
 void RunBar::nameParts()
 {
     const std::pair<QWidget*, const char*> names[] = {
-        {m_text, "status"},        {m_progress, "progress"},    {m_why, "whyButton"},
-        {m_undo, "undoRunButton"}, {m_again, "tryAgainButton"}, {m_save, "saveReportButton"},
-        {m_pause, "pauseButton"},  {m_stop, "stopButton"},
+        {m_text, "status"},           {m_progress, "progress"},  {m_why, "whyButton"},
+        {m_results, "resultsButton"}, {m_undo, "undoRunButton"}, {m_again, "tryAgainButton"},
+        {m_save, "saveReportButton"}, {m_pause, "pauseButton"},  {m_stop, "stopButton"},
     };
     for (const auto& [widget, name] : names)
         widget->setObjectName(name);
@@ -65,14 +66,15 @@ void RunBar::layOutParts()
     row->addWidget(m_sign);
     row->addWidget(m_text, 1);
     row->addWidget(m_progress);
-    for (QPushButton* each : {m_why, m_again, m_save, m_undo, m_pause, m_stop})
+    for (QPushButton* each : {m_why, m_again, m_save, m_results, m_undo, m_pause, m_stop})
         row->addWidget(each);
     setMinimumHeight(m_stop->sizeHint().height() + 14);
 }
 
 void RunBar::connectParts()
 {
-    connect(m_why, &QPushButton::clicked, this, &RunBar::whyWanted);
+    connect(m_why, &QPushButton::clicked, this, [this] { emit whyWanted(why()); });
+    connect(m_results, &QPushButton::clicked, this, &RunBar::resultsWanted);
     connect(m_undo, &QPushButton::clicked, this, &RunBar::undoWanted);
     connect(m_save, &QPushButton::clicked, this, &RunBar::saveWanted);
     connect(m_again, &QPushButton::clicked, &m_workbench, &Workbench::tryAgain);
@@ -80,6 +82,8 @@ void RunBar::connectParts()
     connect(m_pause, &QPushButton::clicked, this, [this] {
         m_workbench.machine().state() == State::Paused ? m_workbench.resume() : m_workbench.pause();
     });
+    connect(&m_workbench, &Workbench::said, this, &RunBar::say);
+    connect(&m_workbench, &Workbench::failed, this, &RunBar::complain);
     m_unsay.setSingleShot(true);
     connect(&m_unsay, &QTimer::timeout, this, [this] {
         if (!m_isTrouble)
@@ -105,13 +109,20 @@ QPushButton* RunBar::button(const QString& text, const QString& help)
     return made;
 }
 
-void RunBar::say(const QString& text, bool isTrouble)
+void RunBar::tell(const QString& text, bool isTrouble)
 {
     m_said = text.simplified();
     m_isTrouble = isTrouble;
     m_unsay.start(sayMilliseconds);
     show();
     announce(m_said);
+}
+
+/// Those that the count of failures is about.
+DocumentFilter::Kind RunBar::why() const
+{
+    return m_workbench.machine().state() == State::Results ? DocumentFilter::Kind::Failed
+                                                           : DocumentFilter::Kind::Trouble;
 }
 
 void RunBar::show()
@@ -123,8 +134,10 @@ void RunBar::show()
     m_text->setToolTip(plaintext::tip(m_text->text()));
     m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
     m_sign->setVisible(!m_said.isEmpty() && m_isTrouble);
-    m_why->setVisible(areResults ? counts.failed > 0 : state == State::Ready && counts.cannot > 0);
+    m_why->setVisible((areResults ? counts.failed > 0 : state == State::Ready && counts.cannot > 0) &&
+                      m_workbench.order().filter().kind() != why());
     m_why->setText(areResults ? tr("Show %n Fa&iled", "", counts.failed) : tr("Show Wh&y"));
+    m_results->setVisible(!m_workbench.resultFolder().isEmpty());
     m_undo->setVisible(areResults && counts.changed > 0 && m_workbench.undoableRun() == 0);
     m_again->setVisible(areResults && counts.failed + counts.notDone > 0);
     m_save->setVisible(areResults);
@@ -182,7 +195,17 @@ QString RunBar::countsInWords() const
     case State::Listed:
         break;
     }
-    return tr("Say on the right what is to change.");
+    return listedInWords();
+}
+
+/// Trying out may have been stopped.
+QString RunBar::listedInWords() const
+{
+    if (m_workbench.draft().isEmpty())
+        return tr("Say on the right what is to change.");
+    if (m_workbench.targets().isEmpty())
+        return tr("No document is shown that the change could be for.");
+    return tr("What would change is not known. Read the documents again (F5) to find out.");
 }
 
 /// The reasons of most documents first, in brackets.

@@ -22,12 +22,15 @@ public:
     explicit RunBar(Workbench& workbench, QWidget* parent = nullptr);
 
     /// Says it in the place of the counts until something else happens.
-    void say(const QString& text, bool isTrouble);
+    void say(const QString& text) { tell(text, false); }
+    /// The same, and it went wrong.
+    void complain(const QString& text) { tell(text, true); }
     /// The text that stands there now.
     QString text() const { return m_text->text(); }
 
 signals:
-    void whyWanted();
+    void whyWanted(host::desktop::DocumentFilter::Kind kind);
+    void resultsWanted();
     void undoWanted();
     void saveWanted();
 
@@ -36,9 +39,12 @@ private:
     void layOutParts();
     void connectParts();
     QPushButton* button(const QString& text, const QString& help);
+    DocumentFilter::Kind why() const;
+    void tell(const QString& text, bool isTrouble);
     void show();
     void showProgress();
     QString countsInWords() const;
+    QString listedInWords() const;
     static QString reasonsInWords(const Workbench::Counts& counts);
     static QString plannedInWords(const Workbench::Counts& counts);
     static QString doneInWords(const Workbench::Counts& counts);
@@ -50,6 +56,7 @@ private:
     ElidedLabel* m_text;
     QProgressBar* m_progress;
     QPushButton* m_why;
+    QPushButton* m_results;
     QPushButton* m_undo;
     QPushButton* m_again;
     QPushButton* m_save;

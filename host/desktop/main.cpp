@@ -23,6 +23,7 @@ try {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     const std::unique_ptr<QCoreApplication> application = hostapplication::forWindows(argc, argv);
     desktop::language::choose();
+    QGuiApplication::setFallbackSessionManagementEnabled(false); // which would close windows to ask them
     QGuiApplication::setDesktopFileName("quintar-window");
     QCommandLineParser parser;
     parser.addVersionOption();

@@ -1,6 +1,7 @@
 #include "WorkerPool.h"
 
 #include "RunControl.h"
+#include "WorkerVoice.h"
 
 #include "host/cell/Cell.h"
 #include "host/cell/Sanitized.h"
@@ -18,7 +19,6 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <exception>
 #include <new>
 #include <numeric>
 #include <optional>
@@ -69,49 +69,11 @@ Failure describeEnd(int status, std::optional<int> outsideCall)
             "the worker process ended on it with status " + std::to_string(WEXITSTATUS(status))};
 }
 
-// Of this process, when it is a worker: a terminate handler takes no arguments.
-WorkerSlot* ownSlot = nullptr;
-int ownWakeUps = -1;
-
-void tell(WorkerSlot::Kind kind, std::string_view text)
-{
-    if (ownSlot->answer(kind, text)) // if the wake-up fails, the program notices the end of this process
-        while (write(ownWakeUps, "", 1) < 0 && errno == EINTR) {
-        }
-}
-
-void tellOfException()
-{
-    const Failure failure = Failure::ofException();
-    tell(WorkerSlot::Lost, std::string(1, static_cast<char>(failure.code)) + failure.text);
-}
-
-/// What `tellOfException` has told.
-Failure failureIn(const std::string& text)
-{
-    const auto code = text.empty() ? 0 : static_cast<unsigned char>(text.front());
-    return {code > 0 && isReasonCode(code) ? static_cast<ReasonCode>(code) : ReasonCode::Internal,
-            text.substr(std::min<std::size_t>(text.size(), 1))};
-}
-
 WorkOutcome outcomeOf(WorkerSlot::Answer& answer, const WorkerSlot& slot)
 {
     if (answer.kind == WorkerSlot::Answered)
         return {WorkOutcome::Answered, std::move(answer.text)};
-    return {WorkOutcome::Lost, {}, failureIn(answer.text), slot.noted()};
-}
-
-void tellOfOutsideCall(int call)
-{
-    ownSlot->outside(call);
-}
-
-/// An exception that leaves a library's destructor ends the process; its reason is told all the same.
-[[noreturn]] void tellAndAbort()
-{
-    if (std::current_exception() != nullptr)
-        tellOfException();
-    std::abort();
+    return {WorkOutcome::Lost, {}, workervoice::failureIn(answer.text), slot.noted()};
 }
 
 } // namespace
@@ -262,9 +224,7 @@ void WorkerPool::serve(Process& process, int wakeUps, pid_t parent)
     }
     limitWorker(m_limits.memoryMiB);
     WorkerSlot& slot = **process.slot;
-    ownSlot = &slot;
-    ownWakeUps = wakeUps;
-    std::set_terminate(tellAndAbort);
+    workervoice::set(slot, wakeUps);
     try {
         std::unique_ptr<Worker> worker;
         for (bool last = false; !last;) {
@@ -278,13 +238,13 @@ void WorkerPool::serve(Process& process, int wakeUps, pid_t parent)
             if (answer.text.size() > WorkerSlot::largestAnswer)
                 throw std::length_error("what there is to tell of it is longer than 512 KiB");
             const bool again = answer.again && m_round.size() > 1;
-            tell(again ? WorkerSlot::Again : WorkerSlot::Answered, answer.text);
+            workervoice::tell(again ? WorkerSlot::Again : WorkerSlot::Answered, answer.text);
             if (again)
                 slot.begin(WorkerSlot::none);
             last = answer.last;
         }
     } catch (const std::exception&) {
-        tellOfException();
+        workervoice::tellOfException();
     }
     _exit(0);
 }
@@ -294,7 +254,7 @@ std::unique_ptr<Worker> WorkerPool::lockedInWorker(int wakeUps) const
     std::unique_ptr<Worker> worker = m_makeWorker();
     std::vector<int> descriptors = worker->descriptors();
     descriptors.push_back(wakeUps);
-    m_cell.enter(descriptors, tellOfOutsideCall);
+    m_cell.enter(descriptors, workervoice::tellOfOutsideCall);
     return worker;
 }
 

@@ -31,10 +31,8 @@ void fill(DocumentTable& table, const QVector<const char*>& documents)
     table.flush();
 }
 
-QStringList warnings(const DocumentTable& table, ViewEntry entry, const ViewValue& value)
+QStringList warnings(const DocumentTable& table, const ChangeDraft& draft)
 {
-    ChangeDraft draft;
-    draft.set(entry, value);
     DocumentTable::Ids all;
     for (const DocumentRecord& record : table.records())
         all.append(record.id);
@@ -42,6 +40,13 @@ QStringList warnings(const DocumentTable& table, ViewEntry entry, const ViewValu
     for (const ChangeWarning& each : changewarnings::of(draft, SelectionSummary::of(table, all)))
         texts += each.text;
     return texts;
+}
+
+QStringList warnings(const DocumentTable& table, ViewEntry entry, const ViewValue& value)
+{
+    ChangeDraft draft;
+    draft.set(entry, value);
+    return warnings(table, draft);
 }
 
 } // namespace
@@ -79,6 +84,29 @@ private slots:
         QVERIFY(warnings(table, ViewEntry::HideToolbar, 1).join("").contains("Browsers"));
         QCOMPARE(warnings(table, ViewEntry::OpenPage, 3), QStringList());
         QCOMPARE(warnings(table, ViewEntry::PageLayout, 1), QStringList());
+        ChangeDraft stored;
+        stored.setStored({"A list", {}, {}, {}});
+        QCOMPARE(warnings(table, stored), QStringList());
+        StoredChoice choice = *stored.stored();
+        choice.view.set(ViewEntry::PageMode, pdflibrary::FullScreen);
+        stored.setStored(choice);
+        QVERIFY(warnings(table, stored).value(0).contains("Full screen"));
+    }
+
+    void warnsOfSignaturesUntilItIsToldToAppend()
+    {
+        DocumentTable table;
+        fill(table, {R"({"pages":8,"signatures":1})", R"({"pages":8,"signatures":1,"certified":true})"});
+        const auto tell = [&table](DocumentRecord::Signed how) {
+            table.changeAll([how](DocumentRecord& record) { record.howSigned = how; });
+            return warnings(table, ViewEntry::PageLayout, 1);
+        };
+        QVERIFY(tell(DocumentRecord::Signed::Refuse).value(0).contains("signed"));
+        const SelectionSummary summary = SelectionSummary::of(table, {1, 2});
+        QCOMPARE(summary.signedDocuments, 2);
+        QVERIFY(tell(DocumentRecord::Signed::Append).value(0).contains("signed"));
+        QCOMPARE(SelectionSummary::of(table, {1, 2}).signedDocuments, 1);
+        QCOMPARE(tell(DocumentRecord::Signed::AppendCertified), QStringList());
     }
 
     void becomesTheProgramsOptions()

@@ -1,4 +1,4 @@
-#include "host/desktop/documents/ListHistory.h"
+#include "host/desktop/documents/EditHistory.h"
 #include "host/desktop/rows/DocumentOrder.h"
 #include "host/desktop/rows/RowTexts.h"
 
@@ -155,7 +155,7 @@ private slots:
     {
         DocumentTable table;
         DocumentOrder order(table);
-        ListHistory history(table);
+        EditHistory history(table);
         history.beginAdding();
         history.added(table.append({"/d/a.pdf", "/d/b.pdf"}));
         read(table, 1, R"({"pages":8})");

@@ -12,9 +12,11 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QHeaderView>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QSessionManager>
 #include <QTextBrowser>
 #include <QTranslator>
 #include <QtTest>
@@ -66,13 +68,47 @@ private slots:
         QFile stored(sessions.filePath(sessions.entryList({"*.session"}).value(0)));
         QVERIFY(stored.open(QIODevice::ReadWrite) && stored.resize(stored.size() - 1));
         const QByteArray bytes = stored.readAll();
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("is left as it is"));
         open();
+        QVERIFY(status().contains("left as it is"));
         read();
         m_window.reset();
         QVERIFY(stored.seek(0));
         QCOMPARE(stored.readAll(), bytes);
         QCOMPARE(sessions.entryList({"*.session"}).size(), 2);
+    }
+
+    void tellsOnceThatItCannotKeepTheSession()
+    {
+        m_window.reset();
+        m_folder = std::make_unique<QTemporaryDir>();
+        QFile inTheWay(m_folder->filePath("sessions"));
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+        open();
+        read();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("session: "));
+        QTRY_VERIFY(status().startsWith("List and change will not be there"));
+        choose("Panel", "Bookmarks");
+        m_window->workbench().start();
+        m_window.reset(); // silent by now
+    }
+
+    void keepsAllAndStopsARunBeforeALogout()
+    {
+        read();
+        choose("Panel", "Bookmarks");
+        QTRY_COMPARE(state(), State::Ready);
+        m_fake->plays("run", Fake::start() + "#hear stop\n" + Fake::changed(0) +
+                                 "{\"event\":\"end\",\"stopped\":true}\n");
+        m_window->workbench().start();
+        auto* manager = qApp->findChild<QSessionManager*>();
+        QVERIFY(manager != nullptr && !manager->allowsInteraction());
+        emit qApp->commitDataRequest(*manager);
+        QCOMPARE(state(), State::Results);
+        QCOMPARE(m_window->workbench().counts().changed, 1); // what was worked on is finished
+        QVERIFY(m_window->isVisible());
+        const QDir sessions(m_folder->filePath("sessions"));
+        QFile stored(sessions.filePath(sessions.entryList({"*.session"}).value(0)));
+        QVERIFY(stored.open(QIODevice::ReadOnly) && stored.readAll().contains("UseOutlines"));
     }
 
     void takesWhatIsDroppedAndPasted()
@@ -121,8 +157,8 @@ private slots:
         QCOMPARE(status(), QString("1 changed  ·  1 failed (1 signed)"));
         click("Show 1 Failed");
         QTRY_COMPARE(list()->model()->rowCount(), 1);
-        list()->setCurrentIndex(list()->model()->index(0, 0));
-        QVERIFY(button("Append All the Same")->isVisible());
+        QCOMPARE(m_window->focusWidget(), list());
+        QTRY_VERIFY(button("Append All the Same")->isVisible());
         m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::end());
         click("Append All the Same");
         QTRY_VERIFY(m_fake->starts().last().contains("--signed append"));
@@ -149,7 +185,7 @@ private slots:
         Workbench& bench = m_window->workbench();
         read();
         ChangeDraft draft;
-        draft.setStored({"A list", {"--list", "/a.xqq"}, {}});
+        draft.setStored({"A list", {"--list", "/a.xqq"}, {}, {}});
         bench.setDraft(draft);
         haveNoKeyTwice();
         draft.set(ViewEntry::PageMode, 1);
@@ -171,6 +207,42 @@ private slots:
         QTRY_COMPARE(state(), State::Results);
         haveNoKeyTwice();
         qDeleteAll(qApp->findChildren<QTranslator*>());
+    }
+
+    void showsAllAgainAfterItShowedWhy()
+    {
+        read();
+        choose("Panel", "Bookmarks");
+        QTRY_COMPARE(state(), State::Ready);
+        for (const bool isByKey : {true, false}) {
+            click("Show Why");
+            QTRY_COMPARE(list()->model()->rowCount(), 1);
+            QCOMPARE(find<QComboBox>("Show")->currentText(), QString("Failed or cannot be changed"));
+            QTRY_VERIFY(!button("Show Why")->isVisible());
+            if (isByKey)
+                QTest::keyClick(list(), Qt::Key_Escape);
+            else
+                click("Show All");
+            QTRY_COMPARE(list()->model()->rowCount(), 2);
+            QVERIFY(!button("Show All")->isVisible());
+            QTRY_VERIFY(button("Show Why")->isVisible());
+        }
+    }
+
+    void saysWhatIsNotKnownAfterAStop()
+    {
+        const QByteArray stopped = "#hear stop\n{\"event\":\"end\",\"stopped\":true}\n";
+        read();
+        m_fake->plays("try", Fake::start() + stopped);
+        choose("Panel", "Bookmarks");
+        QTRY_VERIFY(m_fake->starts().last().contains("--dry-run"));
+        m_window->workbench().stop();
+        QTRY_VERIFY(status().startsWith("What would change is not known."));
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/e/c.pdf") + stopped);
+        m_window->workbench().add({"/e"});
+        QTRY_COMPARE(list()->model()->rowCount(), 3);
+        QTest::keyClick(m_window.get(), Qt::Key_Period, Qt::ControlModifier);
+        QTRY_VERIFY(status().startsWith("Reading was stopped."));
     }
 
     void savesAReport()
@@ -222,6 +294,26 @@ private slots:
                 QVERIFY2(!nameOf(each).isEmpty(), each->metaObject()->className());
     }
 
+    void choosesSortsAndMovesColumnsByKeys()
+    {
+        read();
+        QHeaderView* header = list()->horizontalHeader();
+        QVERIFY(header->isSectionHidden(int(Column::Folder)));
+        typeInMenu({Qt::Key_V, Qt::Key_C, Qt::Key_Return}); // the name always stays
+        QVERIFY(!header->isSectionHidden(int(Column::Folder)) && !header->isSectionHidden(0));
+        typeInMenu({Qt::Key_V, Qt::Key_S, Qt::Key_D});
+        QVERIFY(cell(0, Column::Name).startsWith("b.pdf"));
+        typeInMenu({Qt::Key_V, Qt::Key_S, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+        QCOMPARE(header->sortIndicatorSection(), int(Column::Title));
+        list()->setFocus();
+        list()->setCurrentIndex(list()->model()->index(0, int(Column::Title)));
+        header->setSectionHidden(int(Column::Folder), true);
+        QTest::keyClick(list(), Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(header->visualIndex(int(Column::Title)), 0);
+        QTest::keyClick(list(), Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(header->visualIndex(int(Column::Title)), 1);
+    }
+
     void takesTheViewOfARowAndKeepsPresets()
     {
         read();
@@ -245,6 +337,13 @@ private slots:
         choose("Write to", "A folder");
         QTRY_VERIFY(m_fake->starts().last().contains("--output /out --base /d/"));
         QTRY_COMPARE(state(), State::Ready);
+        QVERIFY(!button("Show Results")->isVisible());
+        m_window->workbench().start();
+        QTRY_VERIFY(button("Show Results")->isVisible());
+        QDesktopServices::setUrlHandler("file", this, "open");
+        click("Show Results");
+        QDesktopServices::unsetUrlHandler("file");
+        QCOMPARE(m_opened, QUrl("file:///out"));
     }
 
     void asksBeforeItClosesARunAndKeepsTheRest()
@@ -266,6 +365,7 @@ private slots:
         QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/a.pdf", "/d/b.pdf"}));
         QTRY_COMPARE(state(), State::Ready);
         QCOMPARE(find<QComboBox>("Panel")->currentText(), QString("Bookmarks"));
+        QVERIFY(!m_window->workbench().edits().canUndo());
         QCOMPARE(list()->horizontalHeader()->visualIndex(0), 2);
     }
 
@@ -277,6 +377,9 @@ private slots:
         auto* text = m_window->findChild<QTextBrowser*>();
         QVERIFY(text->isVisible() && text->toPlainText().contains("Which viewers follow"));
     }
+
+public:
+    Q_INVOKABLE void open(const QUrl& url) { m_opened = url; }
 
 private:
     static QString nameOf(const QWidget* widget)
@@ -296,6 +399,13 @@ private:
     }
     QAbstractButton* button(const QString& name) const { return find<QAbstractButton>(name); }
     void click(const QString& name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+    void typeInMenu(const QVector<Qt::Key>& keys) const
+    {
+        QTest::keyClick(m_window.get(), keys.front(), Qt::AltModifier);
+        for (const Qt::Key key : keys.mid(1))
+            QTest::keyClick(QApplication::activePopupWidget(), key);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+    }
     QTableView* list() const { return find<QTableView>("Documents"); }
     QString status() const { return find<QLabel>("Status")->text().replace("%n", "1"); }
     QString cell(int row, Column column) const
@@ -360,6 +470,7 @@ private:
     std::unique_ptr<FakeQuintar> m_fake;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<MainWindow> m_window;
+    QUrl m_opened;
 };
 
 int main(int argc, char** argv)

@@ -56,6 +56,18 @@ long residentKilobytes()
     return 0;
 }
 
+/// What "quintar show" says of the documents, which lie in 97 folders.
+QByteArray shown()
+{
+    QByteArray stream = FakeQuintar::start();
+    for (int number = 0; number < documents; ++number)
+        stream += FakeQuintar::found(number, "/manuals/part-" + QByteArray::number(number % 97) + "/manual-" +
+                                                 QByteArray::number((number * 7919) % documents) + ".pdf");
+    for (int number = 0; number < documents; ++number)
+        stream += FakeQuintar::document(number, number % 3 == 0 ? ",\"pageLayout\":\"OneColumn\"" : "");
+    return stream + FakeQuintar::end();
+}
+
 } // namespace
 
 class TestManyDocuments : public QObject
@@ -65,15 +77,8 @@ class TestManyDocuments : public QObject
 private slots:
     void answersAllTheTime()
     {
-        QByteArray stream = FakeQuintar::start();
-        for (int number = 0; number < documents; ++number)
-            stream +=
-                FakeQuintar::found(number, "/manuals/part-" + QByteArray::number(number % 97) + "/manual-" +
-                                               QByteArray::number((number * 7919) % documents) + ".pdf");
-        for (int number = 0; number < documents; ++number)
-            stream += FakeQuintar::document(number, number % 3 == 0 ? ",\"pageLayout\":\"OneColumn\"" : "");
         const FakeQuintar fake;
-        fake.plays("show", stream + FakeQuintar::end());
+        fake.plays("show", shown());
         const long before = residentKilobytes();
         Workbench bench(FakeQuintar::program(), QDir::tempPath());
         Heart heart;
@@ -101,7 +106,7 @@ private slots:
         check("filtering", heart);
         bench.remove(bench.order().shown().mid(0, 5000));
         QTest::qWait(100);
-        bench.undoList();
+        bench.undoEdit();
         QTest::qWait(100);
         check("removing and undoing", heart);
         QCOMPARE(bench.order().rowCount(), documents);

@@ -184,6 +184,21 @@ private slots:
         QTRY_VERIFY(presets.presets().at(0).draft == bench().draft());
     }
 
+    void keepsItsShapeWhateverTheRoomAndTheDirection()
+    {
+        read();
+        m_window->setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(find<QLabel>("destinationNote")->alignment().testFlag(Qt::AlignRight));
+        auto* preview = find<QWidget>("preview");
+        preview->resize(390, 900);
+        const QImage picture = preview->grab().toImage();
+        const QImage above = picture.copy(0, 0, picture.width(), picture.height() / 6);
+        QImage nothing = above;
+        nothing.fill(above.pixelColor(0, 0));
+        QVERIFY(above == nothing &&
+                picture.copy(0, picture.height() / 3, above.width(), above.height()) != nothing);
+    }
+
 private:
     /// Nothing that Qt would take for markup, or markup of one paragraph of words.
     static bool isHarmless(const QString& tip)

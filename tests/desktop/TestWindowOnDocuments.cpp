@@ -18,6 +18,19 @@ std::string manual(const std::string& entries)
     return PdfBuilder().catalog(entries).pages(2).bytes();
 }
 
+/// Documents in "m" with their bytes: eight to change, one that is as asked, one that is torn.
+std::map<std::string, std::string> putManuals()
+{
+    std::map<std::string, std::string> documents;
+    for (int number = 0; number < 8; ++number) {
+        const std::string name = "m/part-" + std::to_string(number) + ".pdf";
+        documents[name] = WorkFolder::put(name, manual(number == 0 ? "/PageMode /UseOutlines" : ""));
+    }
+    documents["m/n\xff.pdf"] = WorkFolder::put("m/n\xff.pdf", manual(""));
+    documents["m/torn.pdf"] = WorkFolder::put("m/torn.pdf", "no document");
+    return documents;
+}
+
 } // namespace
 
 /// The real program on real documents.
@@ -29,14 +42,7 @@ private slots:
     void changesAndGivesBack()
     {
         const WorkFolder folder;
-        std::map<std::string, std::string> documents;
-        for (int number = 0; number < 8; ++number) {
-            const std::string name = "m/part-" + std::to_string(number) + ".pdf";
-            documents[name] = WorkFolder::put(name, manual(number == 0 ? "/PageMode /UseOutlines" : ""));
-        }
-        documents["m/n\xff.pdf"] = WorkFolder::put("m/n\xff.pdf", manual(""));
-        documents["m/torn.pdf"] = WorkFolder::put("m/torn.pdf", "no document");
-
+        auto documents = putManuals();
         Workbench bench(PROGRAM_FILE, folder.path("runs"));
         QSignalSpy failed(&bench, &Workbench::failed);
         bench.add({folder.path("m").toUtf8()});

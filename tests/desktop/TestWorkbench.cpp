@@ -216,9 +216,39 @@ private slots:
         m_bench->setDraft(bookmarks());
         QTRY_COMPARE(state(), State::Ready);
         m_bench->remove({1});
-        m_bench->setDraft({});
-        m_bench->undoList();
+        m_bench->restore({}); // leaves no step
+        m_bench->undoEdit();
         QVERIFY(m_bench->table().find(1)->facts && !m_bench->table().find(1)->check);
+    }
+
+    void takesBackWhatWasDoneLast()
+    {
+        m_bench->restore({bookmarks(), {}}); // of an earlier session
+        QVERIFY(!m_bench->edits().canUndo());
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + "#wait 400\n" +
+                                  Fake::found(1, "/d/b.pdf") + Fake::document(0) + Fake::document(1) +
+                                  Fake::end());
+        m_bench->add({"/d"});
+        QTRY_VERIFY(m_bench->table().count() > 0);
+        ChangeDraft named = bookmarks();
+        for (const char* text : {"M", "Ma", "Manual"}) { // while it still reads
+            named.set(ViewEntry::Title, text);
+            m_bench->setDraft(named);
+        }
+        QTRY_COMPARE(state(), State::Ready);
+        m_bench->setDestination({Destination::Kind::Folder, "/out", {}});
+        QCOMPARE(m_bench->edits().undoText(), QString("&Undo Setting “Write to”"));
+        m_bench->undoEdit();
+        QCOMPARE(m_bench->destination().kind, Destination::Kind::InPlace);
+        m_bench->undoEdit();
+        QCOMPARE(m_bench->draft(), bookmarks());
+        m_bench->redoEdit();
+        QCOMPARE(m_bench->draft(), named);
+        m_bench->undoEdit();
+        QCOMPARE(m_bench->table().count(), 2);
+        m_bench->undoEdit();
+        QCOMPARE(m_bench->table().count(), 0);
+        QVERIFY(!m_bench->edits().canUndo());
     }
 
     void letsBeUndoneWhatBrokeOff()
@@ -297,7 +327,7 @@ private slots:
         m_bench->order().select({1}, 1);
         m_bench->remove({1});
         QCOMPARE(m_bench->order().current(), 2);
-        m_bench->undoList();
+        m_bench->undoEdit();
         QCOMPARE(m_bench->order().selected(), Workbench::Ids({1}));
         m_bench->order().select({2}, 2);
         m_bench->remove({2});

@@ -44,8 +44,8 @@ const Row rows[] = {
     {Id::SaveReport, Menu::File, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Save Report…"), "Ctrl+S", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Keeps what became of each document in a file"), true},
     {Id::Quit, Menu::File, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Quit"), "Ctrl+Q", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Closes the window; list and change are there again the next time"), true},
 
-    {Id::UndoList, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Undo"), "Ctrl+Z", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Takes the last adding or removing back"), false},
-    {Id::RedoList, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Redo"), "Ctrl+Shift+Z", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Adds or removes once more"), false},
+    {Id::Undo, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Undo"), "Ctrl+Z", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Takes back what was last added, removed or set"), false},
+    {Id::Redo, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Redo"), "Ctrl+Shift+Z", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Does once more what was taken back"), false},
     {Id::Paste, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Paste Documents"), "Ctrl+V", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Adds the files, folders and paths that were copied elsewhere"), true},
     {Id::Remove, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Re&move from List"), "Del", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Takes the selected documents out of the list; the files stay"), false},
     {Id::SelectAll, Menu::Edit, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Select &All"), "Ctrl+A", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Selects all documents that are shown"), true},
@@ -67,10 +67,15 @@ const Row rows[] = {
     {Id::Pause, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Pause or Go On"), "Ctrl+P", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Begins no further document until it goes on"), false},
     {Id::Stop, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "S&top"), "Ctrl+.", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Finishes the documents that are being worked on, and begins no more"), false},
     {Id::TryAgain, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Try Failed &Again"), "Ctrl+R", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Runs once more over what failed or was not done"), true},
+    {Id::ShowResults, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Sho&w Results"), "", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Opens the folder that the run has written into"), false},
     {Id::UndoLast, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Undo Last Run…"), "Ctrl+Alt+Z", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Gives each document back as it was before the run"), true},
     {Id::History, Menu::Run, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Earlier &Runs…"), "Ctrl+H", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Tells of the runs that can be undone"), false},
 
     {Id::ShowPreview, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Preview"), "F7", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Shows how the current document opens, before and after"), false},
+    {Id::Columns, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Columns"), "", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Chooses what the list tells of each document"), true},
+    {Id::SortBy, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Sort By"), "", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Chooses in which order the documents stand"), false},
+    {Id::ColumnLeft, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Move Column &Left"), "Ctrl+Shift+Left", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Moves the column that the keyboard is in"), false},
+    {Id::ColumnRight, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Move Column Ri&ght"), "Ctrl+Shift+Right", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Moves the column that the keyboard is in"), false},
     {Id::NextPane, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Next Part of the Window"), "F6", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Goes from the list to the change and on"), true},
     {Id::PreviousPane, Menu::View, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "P&revious Part of the Window"), "Shift+F6", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Goes back"), false},
 

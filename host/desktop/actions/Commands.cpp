@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSaveFile>
+#include <QWhatsThis>
 
 namespace host::desktop {
 
@@ -53,7 +54,7 @@ Commands::Commands(Workbench& workbench, ActionTable& actions, QWidget* window)
 {
     connectAll();
     connect(&workbench.machine(), &RunMachine::changed, this, &Commands::enable);
-    connect(&workbench.list(), &ListHistory::changed, this, &Commands::enable);
+    connect(&workbench.edits(), &EditHistory::changed, this, &Commands::enable);
     connect(&workbench.history(), &RunHistory::modelReset, this, &Commands::enable);
     connect(&workbench, &Workbench::targetsChanged, this, &Commands::enable);
     connect(&workbench.order(), &DocumentOrder::selectionMoved, this, &Commands::enable);
@@ -67,13 +68,14 @@ void Commands::connectAll()
     on(Id::AddFolder, &Commands::addFolder);
     on(Id::Paste, &Commands::paste);
     on(Id::Remove, [this] { m_workbench.remove(m_workbench.order().selected()); });
-    on(Id::UndoList, [this] { m_workbench.undoList(); });
-    on(Id::RedoList, [this] { m_workbench.redoList(); });
+    on(Id::Undo, [this] { m_workbench.undoEdit(); });
+    on(Id::Redo, [this] { m_workbench.redoEdit(); });
     on(Id::SelectAll,
        [this] { m_workbench.order().select(m_workbench.order().shown(), m_workbench.order().current()); });
     on(Id::ReadAgain, [this] { m_workbench.readAgain(m_workbench.order().shown()); });
     on(Id::OpenInViewer, &Commands::openInViewer);
     on(Id::ShowInFolder, &Commands::showInFolder);
+    on(Id::ShowResults, &Commands::showResults);
     on(Id::CopyPaths, &Commands::copyPaths);
     on(Id::CopyCommand, &Commands::copyCommand);
     on(Id::LikeThis, &Commands::likeThis);
@@ -89,6 +91,7 @@ void Commands::connectAll()
     on(Id::Password, &Commands::askPassword);
     on(Id::Configure, &Commands::configure);
     on(Id::History, &Commands::showHistory);
+    on(Id::WhatsThis, [] { QWhatsThis::enterWhatsThisMode(); });
     on(Id::About, &Commands::about);
 }
 
@@ -101,14 +104,15 @@ void Commands::enable()
     }
     enableStart();
     const RunMachine& machine = m_workbench.machine();
-    const ListHistory& list = m_workbench.list();
+    const EditHistory& edits = m_workbench.edits();
     m_actions[Id::Pause]->setEnabled(machine.isEnabled(Command::Pause) || machine.isEnabled(Command::Resume));
-    m_actions[Id::UndoList]->setEnabled(machine.isEnabled(Command::UndoList) && list.canUndo());
-    m_actions[Id::RedoList]->setEnabled(machine.isEnabled(Command::UndoList) && list.canRedo());
-    m_actions[Id::UndoList]->setText(list.undoText());
-    m_actions[Id::RedoList]->setText(list.redoText());
+    m_actions[Id::Undo]->setEnabled(machine.isEnabled(Command::UndoEdit) && edits.canUndo());
+    m_actions[Id::Redo]->setEnabled(machine.isEnabled(Command::UndoEdit) && edits.canRedo());
+    m_actions[Id::Undo]->setText(edits.undoText());
+    m_actions[Id::Redo]->setText(edits.redoText());
     if (m_workbench.undoableRun() < 0)
         m_actions[Id::UndoLast]->setEnabled(false);
+    m_actions[Id::ShowResults]->setEnabled(!m_workbench.resultFolder().isEmpty());
     const bool hasCurrent = current() != nullptr;
     for (const Id id : {Id::OpenInViewer, Id::ShowInFolder, Id::CopyPaths})
         m_actions[id]->setEnabled(hasCurrent);
@@ -174,7 +178,9 @@ void Commands::paste()
 
 void Commands::chooseFolder()
 {
-    dialogs::askFolder(m_window, tr("Folder for the Results"), m_workbench.destination().folderPath(),
+    const QString chosen = m_workbench.destination().folderPath();
+    const QString near = RunOrder::commonFolder(m_workbench.table(), m_workbench.targets());
+    dialogs::askFolder(m_window, tr("Folder for the Results"), chosen.isEmpty() ? near : chosen,
                        [this](const QString& name) {
                            if (name.isEmpty())
                                return;
@@ -287,6 +293,13 @@ void Commands::showInFolder()
 {
     if (current() != nullptr && !openwith::folder(current()->path))
         emit failed(tr("No file manager took %1.").arg(current()->folder));
+}
+
+void Commands::showResults()
+{
+    const QString folder = m_workbench.resultFolder();
+    if (!folder.isEmpty() && !openwith::contents(QFile::encodeName(folder)))
+        emit failed(tr("No file manager took %1.").arg(folder));
 }
 
 void Commands::copyPaths()

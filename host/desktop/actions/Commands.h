@@ -39,6 +39,7 @@ private:
     void connectAll();
     void openInViewer();
     void showInFolder();
+    void showResults();
     void copyPaths();
     void copyCommand();
     void likeThis();

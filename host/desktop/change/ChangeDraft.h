@@ -17,6 +17,8 @@ struct StoredChoice
     QStringList options;
     /// A line each of what they do.
     QStringList lines;
+    /// What they do as far as it concerns the view.
+    ViewChange view;
     bool operator==(const StoredChoice&) const = default;
 };
 
@@ -26,6 +28,8 @@ class ChangeDraft
 public:
     const ViewChange& view() const { return m_view; }
     const std::optional<StoredChoice>& stored() const { return m_stored; }
+    /// What it sets, also where that is stored.
+    const ViewChange& effect() const { return m_stored ? m_stored->view : m_view; }
     bool isEmpty() const { return m_view.isEmpty() && !m_stored; }
 
     /// Nothing: the entry stays as it is. Choosing an entry gives stored settings up.

@@ -82,8 +82,8 @@ std::vector<ChangeWarning> of(const ChangeDraft& draft, const SelectionSummary& 
     std::vector<ChangeWarning> warnings;
     if (draft.isEmpty())
         return warnings;
-    aboutDocuments(draft.view(), summary, warnings);
-    aboutViewers(draft.view(), warnings);
+    aboutDocuments(draft.effect(), summary, warnings);
+    aboutViewers(draft.effect(), warnings);
     return warnings;
 }
 

@@ -1,5 +1,8 @@
 #include "RunOrder.h"
 
+#include "host/desktop/texts/ViewTexts.h"
+
+#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -44,7 +47,39 @@ void name(const QVector<QByteArray>& paths, bool isInputFree, QStringList& words
     lines += below + QStringList{"END"};
 }
 
+bool isTyped(ViewEntry entry, const std::optional<ViewValue>& before, const std::optional<ViewValue>& after)
+{
+    using viewentries::Kind;
+    const Kind kind = viewentries::describe(entry).kind;
+    const bool areNumbers =
+        before && after && std::holds_alternative<int>(*before) && std::holds_alternative<int>(*after);
+    return kind == Kind::Text || kind == Kind::Language ||
+           (areNumbers && (kind == Kind::Page || kind == Kind::Count));
+}
+
 } // namespace
+
+RunOrder::Difference RunOrder::differenceFrom(const RunOrder& other) const
+{
+    if (destination != other.destination)
+        return {QCoreApplication::translate("RunOrder", "Write to"),
+                destination.kind == other.destination.kind};
+    if (draft.stored() || other.draft.stored())
+        return {};
+    Difference difference;
+    int count = 0;
+    for (const viewentries::Description& each : viewentries::all()) {
+        const auto& before = other.draft.view()[each.entry];
+        const auto& after = draft.view()[each.entry];
+        const bool isTitleKept =
+            each.entry == ViewEntry::Title && draft.view().keepsTitles() != other.draft.view().keepsTitles();
+        if (before == after && !isTitleKept)
+            continue;
+        difference = {viewtexts::nameOf(each.entry), isTyped(each.entry, before, after)};
+        ++count;
+    }
+    return count == 1 ? difference : Difference();
+}
 
 QStringList RunOrder::arguments(const QString& base) const
 {

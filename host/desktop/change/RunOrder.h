@@ -30,6 +30,16 @@ struct RunOrder
     /// The line that does the same, for a shell. Passwords are no part of it: they are read from the terminal.
     QString commandLine(const DocumentTable& table, const DocumentTable::Ids& ids) const;
 
+    /// How two orders differ.
+    struct Difference
+    {
+        /// What a person knows it by, as "Panel"; empty for several settings.
+        QString name;
+        /// It came about key by key.
+        bool isTyped = false;
+    };
+    Difference differenceFrom(const RunOrder& other) const;
+
     bool operator==(const RunOrder&) const = default;
 };
 

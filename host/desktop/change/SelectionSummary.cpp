@@ -64,15 +64,23 @@ private:
     int m_others = 0;
 };
 
-void addFacts(const DocumentFacts& facts, SelectionSummary& summary)
+bool isKeptForSignatures(const DocumentRecord& record)
 {
+    using Signed = DocumentRecord::Signed;
+    const Signed least = record.facts->isCertified ? Signed::AppendCertified : Signed::Append;
+    return record.facts->signatures > 0 && record.howSigned < least;
+}
+
+void addFacts(const DocumentRecord& record, SelectionSummary& summary)
+{
+    const DocumentFacts& facts = *record.facts;
     summary.shortest = summary.known == 0 ? facts.pages : std::min(summary.shortest, facts.pages);
     summary.longest = std::max(summary.longest, facts.pages);
     ++summary.known;
     summary.withoutBookmarks += facts.bookmarks == 0 ? 1 : 0;
     summary.withoutTitle += facts.title().isEmpty() ? 1 : 0;
     summary.encrypted += facts.isEncrypted ? 1 : 0;
-    summary.signedDocuments += facts.signatures > 0 ? 1 : 0;
+    summary.signedDocuments += isKeptForSignatures(record) ? 1 : 0;
 }
 
 } // namespace
@@ -88,7 +96,7 @@ SelectionSummary SelectionSummary::of(const DocumentTable& table, const Document
         ++summary.documents;
         if (!record->facts)
             continue;
-        addFacts(*record->facts, summary);
+        addFacts(*record, summary);
         for (const viewentries::Description& each : viewentries::all())
             counters.at(static_cast<std::size_t>(each.entry)).add(record->facts->view, each.entry);
     }

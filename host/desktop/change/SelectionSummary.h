@@ -29,6 +29,7 @@ struct SelectionSummary
     int withoutBookmarks = 0;
     int withoutTitle = 0;
     int encrypted = 0;
+    /// Those that a run leaves as they are for their signatures: they are not told to be appended to.
     int signedDocuments = 0;
     std::array<Entry, viewEntryCount> entries;
 

@@ -4,7 +4,6 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
-#include <QMenu>
 #include <QScrollBar>
 
 namespace host::desktop {
@@ -43,8 +42,6 @@ DocumentView::DocumentView(DocumentOrder& order, QSettings& settings, QWidget* p
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     header->setObjectName("columns");
     header->setAccessibleName(tr("Columns"));
-    connect(header, &QHeaderView::customContextMenuRequested, this,
-            [this](const QPoint& place) { chooseColumns(horizontalHeader()->mapToGlobal(place)); });
     connect(&order, &DocumentOrder::aboutToRearrange, this, &DocumentView::keepPlace);
     connect(&order, &DocumentOrder::rearranged, this, &DocumentView::restorePlace);
     fitRows();
@@ -116,22 +113,6 @@ void DocumentView::showColumnsOf(const ViewChange& change)
             if (change[entry] && !m_told[entry])
                 horizontalHeader()->setSectionHidden(column, false);
     m_told = change; // a column that is then hidden by hand stays hidden
-}
-
-void DocumentView::chooseColumns(const QPoint& place)
-{
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (int column = 0; column < columnCount; ++column) {
-        QAction* action = menu->addAction(columns::titleOf(static_cast<Column>(column)));
-        action->setToolTip(columns::helpOf(static_cast<Column>(column)));
-        action->setCheckable(true);
-        action->setChecked(!horizontalHeader()->isSectionHidden(column));
-        action->setEnabled(column != static_cast<int>(Column::Name));
-        connect(action, &QAction::toggled, this,
-                [this, column](bool shown) { horizontalHeader()->setSectionHidden(column, !shown); });
-    }
-    menu->popup(place);
 }
 
 void DocumentView::contextMenuEvent(QContextMenuEvent* event)

@@ -31,7 +31,6 @@ signals:
 private:
     void fitRows();
     void restoreColumns();
-    void chooseColumns(const QPoint& place);
     void keepPlace();
     void restorePlace();
 

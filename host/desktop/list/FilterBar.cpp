@@ -17,7 +17,7 @@ const int typingMilliseconds = 120;
 
 FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     : QWidget(parent), m_workbench(workbench), m_kind(new QComboBox(this)), m_search(new QLineEdit(this)),
-      m_count(new QLabel(this))
+      m_count(new QLabel(this)), m_all(new QToolButton(this))
 {
     auto* label = new QLabel(tr("&Show:"), this);
     label->setBuddy(m_kind);
@@ -26,6 +26,10 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     m_kind->setObjectName("filter");
     m_search->setObjectName("search");
     m_count->setObjectName("shownCount");
+    m_all->setObjectName("showAllButton");
+    m_all->setText(tr("Show All"));
+    m_all->setToolTip(tr("Shows all documents again (Esc)"));
+    m_all->setWhatsThis(m_all->toolTip());
     m_kind->setAccessibleName(tr("Show"));
     m_search->setAccessibleName(tr("Search"));
     m_search->setPlaceholderText(tr("Search name, folder, title"));
@@ -40,11 +44,13 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     row->addWidget(m_kind);
     row->addWidget(m_search, 1);
     row->addWidget(m_count);
+    row->addWidget(m_all);
     m_soon.setSingleShot(true);
     m_soon.setInterval(typingMilliseconds);
     connect(&m_soon, &QTimer::timeout, this, &FilterBar::apply);
     connect(m_kind, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &FilterBar::apply);
     connect(m_search, &QLineEdit::textChanged, &m_soon, QOverload<>::of(&QTimer::start));
+    connect(m_all, &QToolButton::clicked, this, &FilterBar::clear);
     connect(&workbench.order(), &DocumentOrder::shownChanged, this, &FilterBar::tell);
     tell();
 }
@@ -74,6 +80,7 @@ void FilterBar::apply()
     filter.setKind(static_cast<DocumentFilter::Kind>(m_kind->currentData().toInt()));
     filter.setSearch(m_search->text());
     m_workbench.order().setFilter(filter);
+    tell();
 }
 
 void FilterBar::tell()
@@ -83,6 +90,7 @@ void FilterBar::tell()
     m_count->setText(shown == all
                          ? tr("%n document(s)", "", all)
                          : tr("%1 of %2 shown").arg(QLocale().toString(shown), QLocale().toString(all)));
+    m_all->setVisible(!m_workbench.order().filter().isOpen());
 }
 
 } // namespace host::desktop

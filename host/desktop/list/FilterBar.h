@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QToolButton>
 #include <QWidget>
 
 namespace host::desktop {
@@ -32,6 +33,7 @@ private:
     QComboBox* m_kind;
     QLineEdit* m_search;
     QLabel* m_count;
+    QToolButton* m_all;
     QAction* m_sign = nullptr;
     QTimer m_soon;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QLabel>
 
 namespace host::desktop {
@@ -16,6 +17,23 @@ public:
     {
         setTextFormat(Qt::PlainText);
         setText(text);
+        align();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutDirectionChange)
+            align();
+        QLabel::changeEvent(event);
+    }
+
+private:
+    /// By the window's direction: by itself a label goes by that of its text.
+    void align()
+    {
+        const Qt::Alignment side = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
+        setAlignment(Qt::AlignVCenter | Qt::AlignAbsolute | side);
     }
 };
 

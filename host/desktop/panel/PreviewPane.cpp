@@ -11,8 +11,15 @@ namespace {
 
 const double margin = 12;
 const double titleHeight = 20;
-/// A single window is drawn so much wider than tall.
+const double lineHeight = 16;
+/// A single window is drawn so much wider than tall, and one of two no taller than this for its width.
 const double widest = 1.25;
+const double tallest = 4.0 / 3;
+
+QRectF centred(const QRectF& area, const QSizeF& size)
+{
+    return {area.center() - QPointF(size.width(), size.height()) / 2, size};
+}
 
 QString inWords(const PreviewScene& scene)
 {
@@ -102,34 +109,44 @@ void PreviewPane::paintEvent(QPaintEvent*)
                          m_reason.isEmpty() ? tr("Select a document to see how it opens.") : m_reason);
         return;
     }
-    const QRectF line = lineBelow(area);
-    QRectF scenes = area.adjusted(0, 0, 0, line.top() - area.bottom() - 4);
-    const double half = (scenes.width() - margin) / 2;
-    const bool isSame = m_before == m_after;
-    const bool isRightToLeft = layoutDirection() == Qt::RightToLeft;
-    QRectF first(scenes.topLeft(), QSizeF(half, scenes.height()));
-    QRectF second = first.translated(half + margin, 0);
-    if (isRightToLeft)
-        std::swap(first, second);
-    if (isSame) {
-        const double width = std::max(half, std::min(scenes.width(), scenes.height() * widest));
-        paintScene(painter, QRectF(scenes.center().x() - width / 2, scenes.top(), width, scenes.height()),
-                   tr("Opens like this"), m_before);
-    } else {
-        paintScene(painter, first, tr("Before"), m_before);
-        paintScene(painter, second, tr("After"), m_after);
-    }
+    const double words = heightOfWords(area.width());
+    const QRectF room = area.adjusted(0, 0, 0, lineHeight - titleHeight - words);
+    const QRectF scenes = m_before == m_after ? paintOne(painter, room) : paintBoth(painter, room);
     painter.setPen(drawings::quietText(palette()));
-    painter.drawText(line, int(Qt::AlignCenter) | int(Qt::TextWordWrap), m_followers);
+    const QRectF below(area.left(), scenes.bottom() + titleHeight - lineHeight, area.width(), words);
+    painter.drawText(below, int(Qt::AlignCenter) | int(Qt::TextWordWrap), m_followers);
 }
 
-/// Where it is said which viewers follow: in some languages and fonts that takes two lines.
-QRectF PreviewPane::lineBelow(const QRectF& area) const
+/// Which viewers follow takes two lines in some languages and fonts.
+double PreviewPane::heightOfWords(double width) const
 {
-    const QRectF words =
-        QFontMetricsF(font()).boundingRect(area, int(Qt::AlignHCenter) | int(Qt::TextWordWrap), m_followers);
-    const double height = std::max(words.height(), titleHeight - 4.0);
-    return {area.left(), area.bottom() - height, area.width(), height};
+    const QRectF words = QFontMetricsF(font()).boundingRect(
+        QRectF(0, 0, width, height()), int(Qt::AlignHCenter) | int(Qt::TextWordWrap), m_followers);
+    return std::max<double>(words.height(), lineHeight);
+}
+
+QRectF PreviewPane::paintOne(QPainter& painter, const QRectF& area)
+{
+    const double room = area.height() - titleHeight;
+    const double width = std::min(area.width(), std::max(area.width() / 2, room * widest));
+    const double height = std::min(room, width / widest) + titleHeight;
+    const QRectF one = centred(area, {width, height});
+    paintScene(painter, one, tr("Opens like this"), m_before);
+    return one;
+}
+
+QRectF PreviewPane::paintBoth(QPainter& painter, const QRectF& area)
+{
+    const double half = (area.width() - margin) / 2;
+    const double height = std::min(area.height(), half * tallest + titleHeight);
+    const QRectF both = centred(area, {area.width(), height});
+    QRectF before(both.topLeft(), QSizeF(half, height));
+    QRectF after = before.translated(half + margin, 0);
+    if (layoutDirection() == Qt::RightToLeft)
+        std::swap(before, after);
+    paintScene(painter, before, tr("Before"), m_before);
+    paintScene(painter, after, tr("After"), m_after);
+    return both;
 }
 
 void PreviewPane::paintScene(QPainter& painter, const QRectF& area, const QString& title,

@@ -25,7 +25,10 @@ protected:
 
 private:
     void show();
-    QRectF lineBelow(const QRectF& area) const;
+    /// In the middle of the area. \returns what of it is taken.
+    QRectF paintOne(QPainter& painter, const QRectF& area);
+    QRectF paintBoth(QPainter& painter, const QRectF& area);
+    double heightOfWords(double width) const;
     void paintScene(QPainter& painter, const QRectF& area, const QString& title, const PreviewScene& scene);
 
     Workbench& m_workbench;

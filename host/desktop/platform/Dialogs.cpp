@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <memory>
 #include <optional>
 
 namespace host::desktop::dialogs {
@@ -35,6 +36,16 @@ void makePlain(const QDialog& dialog)
 {
     for (QLabel* each : dialog.findChildren<QLabel*>())
         each->setTextFormat(Qt::PlainText);
+}
+
+QMessageBox* questionBox(QWidget* parent, const QString& question, const QString& more, const QString& verb)
+{
+    auto* box = new QMessageBox(QMessageBox::Question, QStringLiteral("Quintar"), question,
+                                QMessageBox::Cancel, parent);
+    box->setInformativeText(more);
+    makePlain(*box);
+    box->setDefaultButton(box->addButton(verb, QMessageBox::AcceptRole));
+    return box;
 }
 
 void showInput(QWidget* parent, const QString& title, const QString& label, QLineEdit::EchoMode echo,
@@ -103,15 +114,19 @@ void confirm(QWidget* parent, const QString& question, const QString& more, cons
 {
     if (takeAnswer())
         return then();
-    auto* box = new QMessageBox(QMessageBox::Question, QStringLiteral("Quintar"), question,
-                                QMessageBox::Cancel, parent);
+    QMessageBox* box = questionBox(parent, question, more, verb);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(more);
-    makePlain(*box);
-    QPushButton* yes = box->addButton(verb, QMessageBox::AcceptRole);
-    box->setDefaultButton(yes);
-    QObject::connect(yes, &QPushButton::clicked, parent, then);
+    QObject::connect(box->defaultButton(), &QPushButton::clicked, parent, then);
     box->open();
+}
+
+bool confirmNow(QWidget* parent, const QString& question, const QString& more, const QString& verb)
+{
+    if (takeAnswer())
+        return true;
+    const std::unique_ptr<QMessageBox> box(questionBox(parent, question, more, verb));
+    box->exec();
+    return box->clickedButton() == box->defaultButton();
 }
 
 void setNextAnswer(const QStringList& answer)

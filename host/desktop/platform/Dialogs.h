@@ -20,6 +20,8 @@ void askPassword(QWidget* parent, const QString& label, const WithText& then);
 /// Calls `then` only for yes. \param verb what the button for it says.
 void confirm(QWidget* parent, const QString& question, const QString& more, const QString& verb,
              const std::function<void()>& then);
+/// The same, for callers that have to have the answer before they return: it waits for it. \returns whether it is yes.
+bool confirmNow(QWidget* parent, const QString& question, const QString& more, const QString& verb);
 
 /// What the next question is answered with instead of being shown. For tests.
 void setNextAnswer(const QStringList& answer);

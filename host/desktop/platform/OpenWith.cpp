@@ -33,4 +33,9 @@ bool folder(const QByteArray& path)
     return QDesktopServices::openUrl(addressOf(path.left(path.lastIndexOf('/') + 1)));
 }
 
+bool contents(const QByteArray& folder)
+{
+    return QDesktopServices::openUrl(addressOf(folder));
+}
+
 } // namespace host::desktop::openwith

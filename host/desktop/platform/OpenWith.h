@@ -11,4 +11,7 @@ bool viewer(const QByteArray& path);
 /// Shows it in the desktop's file manager, selected where that is possible, else its folder.
 bool folder(const QByteArray& path);
 
+/// Shows what is in the folder.
+bool contents(const QByteArray& folder);
+
 } // namespace host::desktop::openwith

@@ -56,6 +56,7 @@ StoredChoice choiceOf(const SettingsMap& map)
     for (const std::string& word : setoption::wordsOf(map, leftOut))
         choice.options += {"--set", QString::fromStdString(word)};
     choice.lines = settingsLines(map);
+    choice.view = DialogSettings::viewOf(map);
     return choice;
 }
 

@@ -2,6 +2,7 @@
 
 #include "SettingsLines.h"
 #include "host/change/ViewJson.h"
+#include "host/settings/DialogSettings.h"
 #include "host/settings/SettingsFolder.h"
 #include "host/terminal/UsageError.h"
 
@@ -21,17 +22,18 @@ namespace {
 
 const char suffix[] = ".json";
 
-QStringList linesOf(const StoredSettings& stored)
+StoredChoice choiceOf(const QString& name, const QStringList& options, const StoredSettings& stored)
 {
-    QStringList lines;
+    StoredChoice choice{name, options, {}, {}};
     for (const ActionEntry& entry : stored.entries) {
         if (entry.action != initialview::actionName)
             throw UsageError("it holds another action, \"" + entry.action.toStdString() + "\"");
-        if (!lines.isEmpty())
-            lines += QString();
-        lines += settingsLines(entry.settings);
+        if (!choice.lines.isEmpty())
+            choice.lines += QString();
+        choice.lines += settingsLines(entry.settings);
+        choice.view.add(DialogSettings::viewOf(entry.settings));
     }
-    return lines;
+    return choice;
 }
 
 void addStored(const SettingsFolder& folder, Preset::Kind kind, const QString& option,
@@ -50,7 +52,7 @@ void addStored(const SettingsFolder& folder, Preset::Kind kind, const QString& o
         try {
             const StoredSettings stored = folder.describe(file);
             preset.name = QString::fromStdString(folder.nameOf(file, stored));
-            preset.draft.setStored({preset.name, {option, preset.file}, linesOf(stored)});
+            preset.draft.setStored(choiceOf(preset.name, {option, preset.file}, stored));
         } catch (const UsageError& error) {
             preset.problem = QString::fromStdString(error.what());
         }

@@ -30,6 +30,7 @@ QColor SceneDrawing::mix(double share) const
 void SceneDrawing::paint(QPainter& painter, const QRectF& area)
 {
     painter.save();
+    painter.setLayoutDirection(Qt::LeftToRight); // as everything that is drawn
     QFont font = painter.font();
     font.setPointSizeF(font.pointSizeF() * 0.85);
     painter.setFont(font);

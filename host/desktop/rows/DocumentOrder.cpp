@@ -99,6 +99,12 @@ void DocumentOrder::select(const Ids& ids, DocumentId current)
         m_selection.setCurrentIndex(index(row, 0), QItemSelectionModel::NoUpdate);
 }
 
+void DocumentOrder::ensureCurrent()
+{
+    if (current() == 0 && !m_shown.isEmpty())
+        select({m_shown.front()}, m_shown.front());
+}
+
 DocumentId DocumentOrder::besides(const Ids& ids) const
 {
     int last = -1;

@@ -33,6 +33,8 @@ public:
     /// 0 for none.
     DocumentId current() const;
     void select(const Ids& ids, DocumentId current);
+    /// Selects the first row if there is no current one.
+    void ensureCurrent();
     /// What is next to rows that go away: the one behind the last of them, else the one before; 0 for none.
     DocumentId besides(const Ids& ids) const;
     DocumentId idAt(int row) const { return m_shown.value(row); }

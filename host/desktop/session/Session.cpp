@@ -38,7 +38,8 @@ QJsonObject toJson(const ChangeDraft& draft)
     if (const auto& stored = draft.stored())
         object.insert("stored", QJsonObject{{"name", stored->name},
                                             {"options", QJsonArray::fromStringList(stored->options)},
-                                            {"lines", QJsonArray::fromStringList(stored->lines)}});
+                                            {"lines", QJsonArray::fromStringList(stored->lines)},
+                                            {"view", viewjson::write(stored->view)}});
     return object;
 }
 
@@ -50,30 +51,33 @@ QStringList textsIn(const QJsonValue& value)
     return texts;
 }
 
+ViewChange viewFrom(const QJsonValue& value)
+{
+    try {
+        return viewjson::parse(value.toObject());
+    } catch (const UsageError&) { // of another version: nothing is prepared then
+        return {};
+    }
+}
+
 ChangeDraft draftFrom(const QJsonObject& object)
 {
     ChangeDraft draft;
-    try {
-        draft.setView(viewjson::parse(object.value("view").toObject()));
-    } catch (const UsageError&) { // of another version: nothing is prepared then
-    }
+    draft.setView(viewFrom(object.value("view")));
     const QJsonObject stored = object.value("stored").toObject();
     if (!stored.isEmpty())
         draft.setStored({stored.value("name").toString(), textsIn(stored.value("options")),
-                         textsIn(stored.value("lines"))});
+                         textsIn(stored.value("lines")), viewFrom(stored.value("view"))});
     return draft;
 }
 
-/// Nothing for what no session has written, or for what cannot be read now: that stays as it is.
+/// Nothing for what no session has written, or for what cannot be read now.
 std::optional<QJsonObject> stored(const QString& path)
 {
     QFile file(path);
     const bool isRead = file.open(QIODevice::ReadOnly) && file.size() <= largestSession;
     const QJsonDocument json = isRead ? QJsonDocument::fromJson(file.readAll()) : QJsonDocument();
-    if (json.isObject())
-        return json.object();
-    qWarning("%s cannot be read, and is left as it is", qPrintable(path));
-    return std::nullopt;
+    return json.isObject() ? std::optional(json.object()) : std::nullopt;
 }
 
 } // namespace
@@ -97,6 +101,16 @@ Session::~Session()
         save();
 }
 
+void Session::begin(const QVector<QByteArray>& paths)
+{
+    const QVector<QByteArray> earlier = restore();
+    if (earlier.isEmpty())
+        m_workbench.add(paths);
+    else
+        m_workbench.addAgain(earlier + paths);
+}
+
+/// \returns the documents that were in its list.
 QVector<QByteArray> Session::restore()
 {
     const QDir folder(m_folder);
@@ -106,8 +120,11 @@ QVector<QByteArray> Session::restore()
         if (!lock->tryLock())
             continue;
         const auto object = stored(folder.filePath(name));
-        if (!object)
+        if (!object) {
+            emit failed(tr("A list of an earlier session cannot be read, and is left as it is: %1")
+                            .arg(folder.filePath(name)));
             continue;
+        }
         m_lock = std::move(lock);
         m_file = folder.filePath(name);
         return takeOver(*object);
@@ -120,8 +137,8 @@ QVector<QByteArray> Session::restore()
 
 QVector<QByteArray> Session::takeOver(const QJsonObject& object)
 {
-    m_workbench.setDestination(destinationFrom(object.value("destination").toObject()));
-    m_workbench.setDraft(draftFrom(object.value("draft").toObject()));
+    m_workbench.restore({draftFrom(object.value("draft").toObject()),
+                         destinationFrom(object.value("destination").toObject())});
     QVector<QByteArray> paths;
     for (const auto& path : object.value("documents").toArray())
         paths.append(QByteArray::fromPercentEncoding(path.toString().toLatin1()));
@@ -134,8 +151,15 @@ void Session::save()
     if (m_file.isEmpty())
         return;
     QSaveFile file(m_file);
-    if (!file.open(QIODevice::WriteOnly) || file.write(toJson()) < 0 || !file.commit())
-        qWarning("%s: %s", qPrintable(m_file), qPrintable(file.errorString()));
+    const bool hadFailed = m_hasFailed;
+    const QByteArray bytes = toJson();
+    m_hasFailed = !file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit();
+    if (!m_hasFailed || hadFailed)
+        return;
+    qWarning("%s: %s", qPrintable(m_file),
+             qPrintable(file.errorString())); // nobody may see the window any more
+    emit failed(
+        tr("List and change will not be there the next time: %1: %2").arg(m_file, file.errorString()));
 }
 
 /// Paths are bytes, so they are percent-encoded.

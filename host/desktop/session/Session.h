@@ -21,11 +21,16 @@ public:
     ~Session() override;
 
     /// Takes over the newest session that no window holds and that can be read; begins a new one where there is none.
-    /// \returns the documents that were in its list.
-    QVector<QByteArray> restore();
+    /// \param paths of documents that come besides those that were in its list.
+    void begin(const QVector<QByteArray>& paths);
     void save();
 
+signals:
+    /// What is prepared would not survive, in a sentence. Told once until it goes well again.
+    void failed(const QString& text);
+
 private:
+    QVector<QByteArray> restore();
     QVector<QByteArray> takeOver(const QJsonObject& object);
     QByteArray toJson() const;
 
@@ -34,6 +39,7 @@ private:
     std::unique_ptr<QLockFile> m_lock;
     QString m_file;
     QTimer m_quiet;
+    bool m_hasFailed = false;
 };
 
 } // namespace host::desktop

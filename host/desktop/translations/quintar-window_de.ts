@@ -619,6 +619,13 @@
     </message>
 </context>
 <context>
+    <name>RunOrder</name>
+    <message>
+        <source>Write to</source>
+        <translation>Schreiben</translation>
+    </message>
+</context>
+<context>
     <name>SceneDrawing</name>
     <message>
         <source>no bookmarks</source>
@@ -1024,16 +1031,8 @@
         <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>Takes the last adding or removing back</source>
-        <translation>Nimmt das letzte Hinzufügen oder Entfernen zurück</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Adds or removes once more</source>
-        <translation>Fügt noch einmal hinzu oder entfernt noch einmal</translation>
     </message>
     <message>
         <source>&amp;Paste Documents</source>
@@ -1255,6 +1254,50 @@
         <source>Keys</source>
         <translation>Tasten</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Spalten</translation>
+    </message>
+    <message>
+        <source>Chooses what the list tells of each document</source>
+        <translation>Wählt, was die Liste über jedes Dokument sagt</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>So&amp;rtieren nach</translation>
+    </message>
+    <message>
+        <source>Chooses in which order the documents stand</source>
+        <translation>Wählt, in welcher Reihenfolge die Dokumente stehen</translation>
+    </message>
+    <message>
+        <source>Move Column &amp;Left</source>
+        <translation>Spalte nach &amp;links</translation>
+    </message>
+    <message>
+        <source>Moves the column that the keyboard is in</source>
+        <translation>Verschiebt die Spalte, in der die Tastatur steht</translation>
+    </message>
+    <message>
+        <source>Move Column Ri&amp;ght</source>
+        <translation>Spalte nach r&amp;echts</translation>
+    </message>
+    <message>
+        <source>Takes back what was last added, removed or set</source>
+        <translation>Nimmt das zuletzt Hinzugefügte, Entfernte oder Eingestellte zurück</translation>
+    </message>
+    <message>
+        <source>Does once more what was taken back</source>
+        <translation>Tut noch einmal, was zurückgenommen wurde</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Results</source>
+        <translation>Er&amp;gebnisse anzeigen</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Öffnet den Ordner, in den der Durchlauf geschrieben hat</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1349,6 +1392,17 @@
     <message>
         <source>%1 ended too early, with exit status %2</source>
         <translation>%1 hat sich zu früh beendet, mit dem Status %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::ColumnMenus</name>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Aufsteigend</translation>
+    </message>
+    <message>
+        <source>&amp;Descending</source>
+        <translation>A&amp;bsteigend</translation>
     </message>
 </context>
 <context>
@@ -1543,6 +1597,61 @@
     </message>
 </context>
 <context>
+    <name>host::desktop::EditHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Wiederherstellen: %n Dokument entfernen</numerusform>
+            <numerusform>&amp;Wiederherstellen: %n Dokumente entfernen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rückgängig: %n Dokument entfernen</numerusform>
+            <numerusform>&amp;Rückgängig: %n Dokumente entfernen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Wiederherstellen: %n Dokument hinzufügen</numerusform>
+            <numerusform>&amp;Wiederherstellen: %n Dokumente hinzufügen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rückgängig: %n Dokument hinzufügen</numerusform>
+            <numerusform>&amp;Rückgängig: %n Dokumente hinzufügen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Redo Changing the Settings</source>
+        <translation>&amp;Wiederherstellen: Einstellungen ändern</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Changing the Settings</source>
+        <translation>&amp;Rückgängig: Einstellungen ändern</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Setting “%1”</source>
+        <translation>&amp;Wiederherstellen: „%1“ einstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Setting “%1”</source>
+        <translation>&amp;Rückgängig: „%1“ einstellen</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::EmptyPage</name>
     <message>
         <source>Say how PDF documents open</source>
@@ -1596,6 +1705,14 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <source>%1 of %2 shown</source>
         <translation>%1 von %2 angezeigt</translation>
     </message>
+    <message>
+        <source>Show All</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>Shows all documents again (Esc)</source>
+        <translation>Zeigt wieder alle Dokumente (Esc)</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::HelpWindow</name>
@@ -1628,42 +1745,18 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     </message>
 </context>
 <context>
-    <name>host::desktop::ListHistory</name>
+    <name>host::desktop::Logout</name>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
+        <source>A run is under way. Stop it and log out?</source>
+        <translation>Ein Durchlauf ist im Gange. Abbrechen und abmelden?</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederherstellen</translation>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Begonnene Dokumente werden zu Ende bearbeitet; die anderen bleiben, wie sie sind.</translation>
     </message>
-    <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Wiederherstellen: %n Dokument entfernen</numerusform>
-            <numerusform>&amp;Wiederherstellen: %n Dokumente entfernen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rückgängig: %n Dokument entfernen</numerusform>
-            <numerusform>&amp;Rückgängig: %n Dokumente entfernen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Wiederherstellen: %n Dokument hinzufügen</numerusform>
-            <numerusform>&amp;Wiederherstellen: %n Dokumente hinzufügen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rückgängig: %n Dokument hinzufügen</numerusform>
-            <numerusform>&amp;Rückgängig: %n Dokumente hinzufügen</numerusform>
-        </translation>
+    <message>
+        <source>&amp;Stop and Log Out</source>
+        <translation>&amp;Abbrechen und abmelden</translation>
     </message>
 </context>
 <context>
@@ -2037,6 +2130,22 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <source>Undoing… %1</source>
         <translation>Rückgängig machen… %1</translation>
     </message>
+    <message>
+        <source>Show Res&amp;ults</source>
+        <translation>E&amp;rgebnisse anzeigen</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Öffnet den Ordner, in den der Durchlauf geschrieben hat</translation>
+    </message>
+    <message>
+        <source>No document is shown that the change could be for.</source>
+        <translation>Es wird kein Dokument gezeigt, für das die Änderung sein könnte.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again (F5) to find out.</source>
+        <translation>Was sich ändern würde, ist nicht bekannt. Lesen Sie die Dokumente neu ein (F5), um es zu erfahren.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2129,6 +2238,17 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>This run is done. Change something to start another one.</source>
         <translation>Dieser Durchlauf ist erledigt. Ändern Sie etwas, um einen neuen zu starten.</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::Session</name>
+    <message>
+        <source>A list of an earlier session cannot be read, and is left as it is: %1</source>
+        <translation>Eine Liste einer früheren Sitzung kann nicht gelesen werden und bleibt, wie sie ist: %1</translation>
+    </message>
+    <message>
+        <source>List and change will not be there the next time: %1: %2</source>
+        <translation>Liste und Änderung werden beim nächsten Mal nicht da sein: %1: %2</translation>
     </message>
 </context>
 <context>
@@ -2304,6 +2424,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
             <numerusform>Das Rückgängigmachen wurde angehalten: %n Dokument ist wieder wie vor dem Durchlauf.</numerusform>
             <numerusform>Das Rückgängigmachen wurde angehalten: %n Dokumente sind wieder wie vor dem Durchlauf.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading was stopped. What was not found until then is not in the list.</source>
+        <translation>Das Einlesen wurde abgebrochen. Was bis dahin nicht gefunden war, steht nicht in der Liste.</translation>
     </message>
 </context>
 </TS>

@@ -91,17 +91,7 @@
     </message>
 </context>
 <context>
-    <name>host::desktop::FilterBar</name>
-    <message numerus="yes">
-        <source>%n document(s)</source>
-        <translation>
-            <numerusform>%n document</numerusform>
-            <numerusform>%n documents</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>host::desktop::ListHistory</name>
+    <name>host::desktop::EditHistory</name>
     <message numerus="yes">
         <source>&amp;Redo Removing %n Document(s)</source>
         <translation>
@@ -128,6 +118,16 @@
         <translation>
             <numerusform>&amp;Undo Adding %n Document</numerusform>
             <numerusform>&amp;Undo Adding %n Documents</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::FilterBar</name>
+    <message numerus="yes">
+        <source>%n document(s)</source>
+        <translation>
+            <numerusform>%n document</numerusform>
+            <numerusform>%n documents</numerusform>
         </translation>
     </message>
 </context>

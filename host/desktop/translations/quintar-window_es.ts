@@ -619,6 +619,13 @@
     </message>
 </context>
 <context>
+    <name>RunOrder</name>
+    <message>
+        <source>Write to</source>
+        <translation>Escribir</translation>
+    </message>
+</context>
+<context>
     <name>SceneDrawing</name>
     <message>
         <source>no bookmarks</source>
@@ -1024,16 +1031,8 @@
         <translation>&amp;Deshacer</translation>
     </message>
     <message>
-        <source>Takes the last adding or removing back</source>
-        <translation>Revierte la última adición o retirada</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Rehacer</translation>
-    </message>
-    <message>
-        <source>Adds or removes once more</source>
-        <translation>Añade o retira otra vez</translation>
     </message>
     <message>
         <source>&amp;Paste Documents</source>
@@ -1255,6 +1254,50 @@
         <source>Keys</source>
         <translation>Teclas</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Columnas</translation>
+    </message>
+    <message>
+        <source>Chooses what the list tells of each document</source>
+        <translation>Elige qué dice la lista de cada documento</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>&amp;Ordenar por</translation>
+    </message>
+    <message>
+        <source>Chooses in which order the documents stand</source>
+        <translation>Elige el orden de los documentos</translation>
+    </message>
+    <message>
+        <source>Move Column &amp;Left</source>
+        <translation>Mover columna a la i&amp;zquierda</translation>
+    </message>
+    <message>
+        <source>Moves the column that the keyboard is in</source>
+        <translation>Mueve la columna en la que está el teclado</translation>
+    </message>
+    <message>
+        <source>Move Column Ri&amp;ght</source>
+        <translation>Mover columna a la &amp;derecha</translation>
+    </message>
+    <message>
+        <source>Takes back what was last added, removed or set</source>
+        <translation>Deshace lo último que se añadió, quitó o ajustó</translation>
+    </message>
+    <message>
+        <source>Does once more what was taken back</source>
+        <translation>Vuelve a hacer lo que se deshizo</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Results</source>
+        <translation>&amp;Ver los resultados</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Abre la carpeta en la que escribió la ejecución</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1349,6 +1392,17 @@
     <message>
         <source>%1 ended too early, with exit status %2</source>
         <translation>%1 terminó antes de tiempo, con el estado de salida %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::ColumnMenus</name>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Ascendente</translation>
+    </message>
+    <message>
+        <source>&amp;Descending</source>
+        <translation>&amp;Descendente</translation>
     </message>
 </context>
 <context>
@@ -1543,6 +1597,61 @@
     </message>
 </context>
 <context>
+    <name>host::desktop::EditHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rehacer: quitar %n documento</numerusform>
+            <numerusform>&amp;Rehacer: quitar %n documentos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Deshacer: quitar %n documento</numerusform>
+            <numerusform>&amp;Deshacer: quitar %n documentos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rehacer: añadir %n documento</numerusform>
+            <numerusform>&amp;Rehacer: añadir %n documentos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Deshacer: añadir %n documento</numerusform>
+            <numerusform>&amp;Deshacer: añadir %n documentos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Redo Changing the Settings</source>
+        <translation>&amp;Rehacer: cambiar los ajustes</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Changing the Settings</source>
+        <translation>&amp;Deshacer: cambiar los ajustes</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Setting “%1”</source>
+        <translation>&amp;Rehacer: ajustar «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Setting “%1”</source>
+        <translation>&amp;Deshacer: ajustar «%1»</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::EmptyPage</name>
     <message>
         <source>Say how PDF documents open</source>
@@ -1596,6 +1705,14 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <source>%1 of %2 shown</source>
         <translation>%1 de %2 mostrados</translation>
     </message>
+    <message>
+        <source>Show All</source>
+        <translation>Mostrar todos</translation>
+    </message>
+    <message>
+        <source>Shows all documents again (Esc)</source>
+        <translation>Vuelve a mostrar todos los documentos (Esc)</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::HelpWindow</name>
@@ -1628,42 +1745,18 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     </message>
 </context>
 <context>
-    <name>host::desktop::ListHistory</name>
+    <name>host::desktop::Logout</name>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Deshacer</translation>
+        <source>A run is under way. Stop it and log out?</source>
+        <translation>Hay una ejecución en curso. ¿Detenerla y cerrar la sesión?</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rehacer</translation>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Los documentos en curso se terminan; los demás quedan como están.</translation>
     </message>
-    <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rehacer: quitar %n documento</numerusform>
-            <numerusform>&amp;Rehacer: quitar %n documentos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Deshacer: quitar %n documento</numerusform>
-            <numerusform>&amp;Deshacer: quitar %n documentos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rehacer: añadir %n documento</numerusform>
-            <numerusform>&amp;Rehacer: añadir %n documentos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Deshacer: añadir %n documento</numerusform>
-            <numerusform>&amp;Deshacer: añadir %n documentos</numerusform>
-        </translation>
+    <message>
+        <source>&amp;Stop and Log Out</source>
+        <translation>&amp;Detener y cerrar la sesión</translation>
     </message>
 </context>
 <context>
@@ -2037,6 +2130,22 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <source>Undoing… %1</source>
         <translation>Deshaciendo… %1</translation>
     </message>
+    <message>
+        <source>Show Res&amp;ults</source>
+        <translation>Ver resultados e&amp;n su carpeta</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Abre la carpeta en la que escribió la ejecución</translation>
+    </message>
+    <message>
+        <source>No document is shown that the change could be for.</source>
+        <translation>No se muestra ningún documento al que aplicar el cambio.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again (F5) to find out.</source>
+        <translation>No se sabe qué cambiaría. Vuelva a leer los documentos (F5) para averiguarlo.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2129,6 +2238,17 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>This run is done. Change something to start another one.</source>
         <translation>Esta ejecución está hecha. Cambie algo para iniciar otra.</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::Session</name>
+    <message>
+        <source>A list of an earlier session cannot be read, and is left as it is: %1</source>
+        <translation>Una lista de una sesión anterior no se puede leer y se deja como está: %1</translation>
+    </message>
+    <message>
+        <source>List and change will not be there the next time: %1: %2</source>
+        <translation>La lista y el cambio no estarán la próxima vez: %1: %2</translation>
     </message>
 </context>
 <context>
@@ -2304,6 +2424,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
             <numerusform>Se detuvo la operación de deshacer: %n documento está como antes de la ejecución.</numerusform>
             <numerusform>Se detuvo la operación de deshacer: %n documentos están como antes de la ejecución.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading was stopped. What was not found until then is not in the list.</source>
+        <translation>La lectura se detuvo. Lo que aún no se había encontrado no está en la lista.</translation>
     </message>
 </context>
 </TS>

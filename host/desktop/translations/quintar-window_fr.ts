@@ -619,6 +619,13 @@
     </message>
 </context>
 <context>
+    <name>RunOrder</name>
+    <message>
+        <source>Write to</source>
+        <translation>Écrire</translation>
+    </message>
+</context>
+<context>
     <name>SceneDrawing</name>
     <message>
         <source>no bookmarks</source>
@@ -1024,16 +1031,8 @@
         <translation>&amp;Annuler</translation>
     </message>
     <message>
-        <source>Takes the last adding or removing back</source>
-        <translation>Revient sur le dernier ajout ou retrait</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
-        <source>Adds or removes once more</source>
-        <translation>Refait l’ajout ou le retrait</translation>
     </message>
     <message>
         <source>&amp;Paste Documents</source>
@@ -1255,6 +1254,50 @@
         <source>Keys</source>
         <translation>Raccourcis clavier</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Colonnes</translation>
+    </message>
+    <message>
+        <source>Chooses what the list tells of each document</source>
+        <translation>Choisit ce que la liste dit de chaque document</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>&amp;Trier par</translation>
+    </message>
+    <message>
+        <source>Chooses in which order the documents stand</source>
+        <translation>Choisit l’ordre des documents</translation>
+    </message>
+    <message>
+        <source>Move Column &amp;Left</source>
+        <translation>Déplacer la colonne à &amp;gauche</translation>
+    </message>
+    <message>
+        <source>Moves the column that the keyboard is in</source>
+        <translation>Déplace la colonne où se trouve le clavier</translation>
+    </message>
+    <message>
+        <source>Move Column Ri&amp;ght</source>
+        <translation>Déplacer la colonne à &amp;droite</translation>
+    </message>
+    <message>
+        <source>Takes back what was last added, removed or set</source>
+        <translation>Annule le dernier ajout, retrait ou réglage</translation>
+    </message>
+    <message>
+        <source>Does once more what was taken back</source>
+        <translation>Refait ce qui a été annulé</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Results</source>
+        <translation>&amp;Voir les résultats</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Ouvre le dossier dans lequel le traitement a écrit</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1349,6 +1392,17 @@
     <message>
         <source>%1 ended too early, with exit status %2</source>
         <translation>%1 s’est terminé trop tôt, avec le code de sortie %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::ColumnMenus</name>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Croissant</translation>
+    </message>
+    <message>
+        <source>&amp;Descending</source>
+        <translation>&amp;Décroissant</translation>
     </message>
 </context>
 <context>
@@ -1543,6 +1597,61 @@
     </message>
 </context>
 <context>
+    <name>host::desktop::EditHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rétablir le retrait de %n document</numerusform>
+            <numerusform>&amp;Rétablir le retrait de %n documents</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Annuler le retrait de %n document</numerusform>
+            <numerusform>&amp;Annuler le retrait de %n documents</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Rétablir l’ajout de %n document</numerusform>
+            <numerusform>&amp;Rétablir l’ajout de %n documents</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>&amp;Annuler l’ajout de %n document</numerusform>
+            <numerusform>&amp;Annuler l’ajout de %n documents</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Redo Changing the Settings</source>
+        <translation>&amp;Rétablir la modification des réglages</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Changing the Settings</source>
+        <translation>&amp;Annuler la modification des réglages</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Setting “%1”</source>
+        <translation>&amp;Rétablir le réglage «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Setting “%1”</source>
+        <translation>&amp;Annuler le réglage «&#xa0;%1&#xa0;»</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::EmptyPage</name>
     <message>
         <source>Say how PDF documents open</source>
@@ -1596,6 +1705,14 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <source>%1 of %2 shown</source>
         <translation>%1 sur %2 affichés</translation>
     </message>
+    <message>
+        <source>Show All</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Shows all documents again (Esc)</source>
+        <translation>Affiche à nouveau tous les documents (Échap)</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::HelpWindow</name>
@@ -1628,42 +1745,18 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     </message>
 </context>
 <context>
-    <name>host::desktop::ListHistory</name>
+    <name>host::desktop::Logout</name>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
+        <source>A run is under way. Stop it and log out?</source>
+        <translation>Un traitement est en cours. L’arrêter et fermer la session&#xa0;?</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rétablir</translation>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Les documents en cours sont terminés&#xa0;; les autres restent tels quels.</translation>
     </message>
-    <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rétablir le retrait de %n document</numerusform>
-            <numerusform>&amp;Rétablir le retrait de %n documents</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Annuler le retrait de %n document</numerusform>
-            <numerusform>&amp;Annuler le retrait de %n documents</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Rétablir l’ajout de %n document</numerusform>
-            <numerusform>&amp;Rétablir l’ajout de %n documents</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>&amp;Annuler l’ajout de %n document</numerusform>
-            <numerusform>&amp;Annuler l’ajout de %n documents</numerusform>
-        </translation>
+    <message>
+        <source>&amp;Stop and Log Out</source>
+        <translation>&amp;Arrêter et fermer la session</translation>
     </message>
 </context>
 <context>
@@ -2037,6 +2130,22 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <source>Undoing… %1</source>
         <translation>Annulation… %1</translation>
     </message>
+    <message>
+        <source>Show Res&amp;ults</source>
+        <translation>Voir les rés&amp;ultats</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>Ouvre le dossier dans lequel le traitement a écrit</translation>
+    </message>
+    <message>
+        <source>No document is shown that the change could be for.</source>
+        <translation>Aucun document affiché ne peut recevoir la modification.</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again (F5) to find out.</source>
+        <translation>On ne sait pas ce qui changerait. Relisez les documents (F5) pour le savoir.</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2129,6 +2238,17 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>This run is done. Change something to start another one.</source>
         <translation>Ce traitement est terminé. Modifiez quelque chose pour en lancer un autre.</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::Session</name>
+    <message>
+        <source>A list of an earlier session cannot be read, and is left as it is: %1</source>
+        <translation>Une liste d’une session précédente est illisible et reste telle quelle&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>List and change will not be there the next time: %1: %2</source>
+        <translation>La liste et la modification ne seront plus là la prochaine fois&#xa0;: %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2304,6 +2424,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
             <numerusform>L’annulation a été arrêtée : %n document est tel qu’il était avant le traitement.</numerusform>
             <numerusform>L’annulation a été arrêtée : %n documents sont tels qu’ils étaient avant le traitement.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading was stopped. What was not found until then is not in the list.</source>
+        <translation>La lecture a été arrêtée. Ce qui n’avait pas encore été trouvé ne figure pas dans la liste.</translation>
     </message>
 </context>
 </TS>

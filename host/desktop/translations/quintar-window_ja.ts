@@ -612,6 +612,13 @@
     </message>
 </context>
 <context>
+    <name>RunOrder</name>
+    <message>
+        <source>Write to</source>
+        <translation>書き込み先</translation>
+    </message>
+</context>
+<context>
     <name>SceneDrawing</name>
     <message>
         <source>no bookmarks</source>
@@ -1017,16 +1024,8 @@
         <translation>元に戻す(&amp;U)</translation>
     </message>
     <message>
-        <source>Takes the last adding or removing back</source>
-        <translation>最後の追加または除外を取り消します</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>やり直す(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Adds or removes once more</source>
-        <translation>追加または除外をもう一度行います</translation>
     </message>
     <message>
         <source>&amp;Paste Documents</source>
@@ -1248,6 +1247,50 @@
         <source>Keys</source>
         <translation>キー</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>列(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Chooses what the list tells of each document</source>
+        <translation>一覧に表示する項目を選びます</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>並べ替え(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Chooses in which order the documents stand</source>
+        <translation>文書の並び順を選びます</translation>
+    </message>
+    <message>
+        <source>Move Column &amp;Left</source>
+        <translation>列を左へ移動(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Moves the column that the keyboard is in</source>
+        <translation>キーボードのある列を移動します</translation>
+    </message>
+    <message>
+        <source>Move Column Ri&amp;ght</source>
+        <translation>列を右へ移動(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Takes back what was last added, removed or set</source>
+        <translation>最後に追加、除外、設定したことを元に戻します</translation>
+    </message>
+    <message>
+        <source>Does once more what was taken back</source>
+        <translation>元に戻したことをもう一度行います</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Results</source>
+        <translation>結果を表示(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>実行の書き込み先フォルダーを開きます</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1339,6 +1382,17 @@
     <message>
         <source>%1 ended too early, with exit status %2</source>
         <translation>%1 が途中で終了しました (終了ステータス %2)</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::ColumnMenus</name>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>昇順(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Descending</source>
+        <translation>降順(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -1532,6 +1586,57 @@
     </message>
 </context>
 <context>
+    <name>host::desktop::EditHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直す(&amp;R)</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>%n 個の文書の除外をやり直す(&amp;R)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Removing %n Document(s)</source>
+        <translation>
+            <numerusform>%n 個の文書の除外を元に戻す(&amp;U)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Redo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>%n 個の文書の追加をやり直す(&amp;R)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Adding %n Document(s)</source>
+        <translation>
+            <numerusform>%n 個の文書の追加を元に戻す(&amp;U)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Redo Changing the Settings</source>
+        <translation>設定の変更をやり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Changing the Settings</source>
+        <translation>設定の変更を元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Setting “%1”</source>
+        <translation>「%1」の設定をやり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Setting “%1”</source>
+        <translation>「%1」の設定を元に戻す(&amp;U)</translation>
+    </message>
+</context>
+<context>
     <name>host::desktop::EmptyPage</name>
     <message>
         <source>Say how PDF documents open</source>
@@ -1584,6 +1689,14 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <source>%1 of %2 shown</source>
         <translation>%2 個中 %1 個を表示</translation>
     </message>
+    <message>
+        <source>Show All</source>
+        <translation>すべて表示</translation>
+    </message>
+    <message>
+        <source>Shows all documents again (Esc)</source>
+        <translation>すべての文書を再び表示します (Esc)</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::HelpWindow</name>
@@ -1616,38 +1729,18 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     </message>
 </context>
 <context>
-    <name>host::desktop::ListHistory</name>
+    <name>host::desktop::Logout</name>
     <message>
-        <source>&amp;Undo</source>
-        <translation>元に戻す(&amp;U)</translation>
+        <source>A run is under way. Stop it and log out?</source>
+        <translation>実行中です。中止してログアウトしますか?</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>やり直す(&amp;R)</translation>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>処理中の文書は最後まで処理し、ほかの文書は元のままです。</translation>
     </message>
-    <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>%n 個の文書の除外をやり直す(&amp;R)</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
-        <translation>
-            <numerusform>%n 個の文書の除外を元に戻す(&amp;U)</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>%n 個の文書の追加をやり直す(&amp;R)</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
-        <translation>
-            <numerusform>%n 個の文書の追加を元に戻す(&amp;U)</numerusform>
-        </translation>
+    <message>
+        <source>&amp;Stop and Log Out</source>
+        <translation>中止してログアウト(&amp;S)</translation>
     </message>
 </context>
 <context>
@@ -2009,6 +2102,22 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <source>Undoing… %1</source>
         <translation>元に戻しています… %1</translation>
     </message>
+    <message>
+        <source>Show Res&amp;ults</source>
+        <translation>結果を表示(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Opens the folder that the run has written into</source>
+        <translation>実行の書き込み先フォルダーを開きます</translation>
+    </message>
+    <message>
+        <source>No document is shown that the change could be for.</source>
+        <translation>変更の対象となる文書が表示されていません。</translation>
+    </message>
+    <message>
+        <source>What would change is not known. Read the documents again (F5) to find out.</source>
+        <translation>何が変わるか分かっていません。文書を読み直すと (F5) 分かります。</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2100,6 +2209,17 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>This run is done. Change something to start another one.</source>
         <translation>この実行は終わりました。別の実行を始めるには、何かを変更してください。</translation>
+    </message>
+</context>
+<context>
+    <name>host::desktop::Session</name>
+    <message>
+        <source>A list of an earlier session cannot be read, and is left as it is: %1</source>
+        <translation>以前のセッションの一覧を読めないため、そのまま残します: %1</translation>
+    </message>
+    <message>
+        <source>List and change will not be there the next time: %1: %2</source>
+        <translation>一覧と変更は次回まで保存されません: %1: %2</translation>
     </message>
 </context>
 <context>
@@ -2266,6 +2386,10 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>
             <numerusform>元に戻す処理を停止しました: %n 個の文書が実行前の状態に戻りました。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading was stopped. What was not found until then is not in the list.</source>
+        <translation>読み込みを中止しました。それまでに見つからなかったものは一覧にありません。</translation>
     </message>
 </context>
 </TS>

@@ -81,7 +81,7 @@ bool allows(Command command, State state)
         return !isRunning(state) && state != State::Undoing;
     case Command::Remove:
         return !isRunning(state) && !isOf(state, {State::Undoing, State::Empty, State::Reading});
-    case Command::UndoList:
+    case Command::UndoEdit:
         return !isRunning(state) && !isOf(state, {State::Undoing, State::Reading});
     case Command::Start:
         return state == State::Ready;

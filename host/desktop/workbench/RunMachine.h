@@ -34,7 +34,7 @@ public:
         Pause,
         Resume,
         Stop,
-        UndoList,
+        UndoEdit,
         UndoRun,
         TryAgain,
         Configure,

@@ -49,10 +49,20 @@ void Workbench::add(const QVector<QByteArray>& paths)
         emit said(tr("What you added waits until this is done."));
         return;
     }
-    dropTask();
-    m_list.beginAdding();
     auto* reading = new Reading(m_table, means(), this);
-    connect(reading, &Reading::added, &m_list, &ListHistory::added);
+    m_edits.beginAdding();
+    connect(reading, &Reading::added, &m_edits, &EditHistory::added);
+    addBy(reading, paths);
+}
+
+void Workbench::addAgain(const QVector<QByteArray>& paths)
+{
+    addBy(new Reading(m_table, means(), this), paths);
+}
+
+void Workbench::addBy(Reading* reading, const QVector<QByteArray>& paths)
+{
+    dropTask();
     startReading(reading);
     reading->add(paths + std::exchange(m_unread, {}));
 }
@@ -103,28 +113,28 @@ void Workbench::remove(const Ids& ids)
         return;
     dropTask();
     const DocumentId next = m_order.besides(ids);
-    m_list.remove(ids);
+    m_edits.remove(ids);
     if (next != 0)
         m_order.select({next}, next);
     follow();
 }
 
-void Workbench::undoList()
+void Workbench::undoEdit()
 {
-    if (!m_machine.isEnabled(Command::UndoList))
+    if (!m_machine.isEnabled(Command::UndoEdit))
         return;
     dropTask();
-    if (const Ids back = m_list.undo(); !back.isEmpty())
+    if (const Ids back = m_edits.undo(); !back.isEmpty())
         m_order.select(back, back.front()); // as they were when they were removed
     follow();
 }
 
-void Workbench::redoList()
+void Workbench::redoEdit()
 {
-    if (!m_machine.isEnabled(Command::UndoList))
+    if (!m_machine.isEnabled(Command::UndoEdit))
         return;
     dropTask();
-    m_list.redo();
+    m_edits.redo();
     follow();
 }
 
@@ -148,20 +158,30 @@ void Workbench::follow()
 
 void Workbench::setDraft(const ChangeDraft& draft)
 {
-    if (draft == m_runOrder.draft)
-        return;
-    m_runOrder.draft = draft;
-    leaveResults();
-    changeAll([](DocumentRecord& record) { record.check.reset(); });
-    edited();
-    emit draftChanged();
+    edit({draft, m_runOrder.destination});
 }
 
 void Workbench::setDestination(const Destination& destination)
 {
-    if (destination == m_runOrder.destination)
+    edit({m_runOrder.draft, destination});
+}
+
+void Workbench::edit(const RunOrder& order)
+{
+    if (order == m_runOrder)
         return;
-    m_runOrder.destination = destination;
+    const auto& [name, isTyped] = order.differenceFrom(m_runOrder);
+    m_edits.set({name, isTyped, [this, other = m_runOrder]() mutable {
+                     const RunOrder now = m_runOrder;
+                     restore(other);
+                     other = now;
+                 }});
+    restore(order);
+}
+
+void Workbench::restore(const RunOrder& order)
+{
+    m_runOrder = order;
     leaveResults();
     changeAll([](DocumentRecord& record) { record.check.reset(); });
     edited();
@@ -225,7 +245,7 @@ void Workbench::edited()
 
 void Workbench::changeAll(const DocumentTable::Change& change)
 {
-    m_list.changeKept(change);
+    m_edits.changeKept(change);
     m_table.changeAll(change);
 }
 
@@ -290,12 +310,15 @@ void Workbench::endReading(const ChildRun::Ending& ending)
 {
     const auto* reading = qobject_cast<const Reading*>(m_task.data());
     const int known = reading->known();
+    const bool wasLooking = !reading->paths().isEmpty();
     if (!ending.isComplete && !ending.wasStopped)
         m_unread = reading->paths();
     m_task->deleteLater();
     m_task.clear();
     if (!ending.isComplete && !ending.wasStopped)
         emit failed(ending.words.isEmpty() ? tr("Reading broke off.") : ending.words);
+    else if (ending.wasStopped && wasLooking)
+        emit said(tr("Reading was stopped. What was not found until then is not in the list."));
     else if (known > 0)
         emit said(tr("%n document(s) were in the list already.", "", known));
     m_passwordTrial.restore(m_table);

@@ -6,7 +6,7 @@
 
 #include "host/desktop/change/RunOrder.h"
 #include "host/desktop/change/SelectionSummary.h"
-#include "host/desktop/documents/ListHistory.h"
+#include "host/desktop/documents/EditHistory.h"
 #include "host/desktop/rows/DocumentOrder.h"
 #include "host/desktop/tasks/Passwords.h"
 #include "host/desktop/tasks/Reading.h"
@@ -54,23 +54,27 @@ public:
 
     DocumentTable& table() { return m_table; }
     DocumentOrder& order() { return m_order; }
-    ListHistory& list() { return m_list; }
+    EditHistory& edits() { return m_edits; }
     RunMachine& machine() { return m_machine; }
     RunHistory& history() { return m_history; }
 
     /// Files and folders by their absolute paths. While a run goes on they wait for its end.
     void add(const QVector<QByteArray>& paths);
+    /// What an earlier session had, before anything else: it is no step that could be undone.
+    void addAgain(const QVector<QByteArray>& paths);
     /// What was added and is not in the list yet: it waits, is being looked through, or reading it broke off.
     QVector<QByteArray> pending() const;
     void remove(const Ids& ids);
     void readAgain(const Ids& ids);
-    void undoList();
-    void redoList();
+    void undoEdit();
+    void redoEdit();
 
     const ChangeDraft& draft() const { return m_runOrder.draft; }
     void setDraft(const ChangeDraft& draft);
     const Destination& destination() const { return m_runOrder.destination; }
     void setDestination(const Destination& destination);
+    /// Without a step that could be undone, as what an earlier session had prepared.
+    void restore(const RunOrder& order);
     const RunOrder& runOrder() const { return m_runOrder; }
 
     Scope scope() const { return m_scope; }
@@ -99,6 +103,8 @@ public:
     const DocumentTask* task() const { return m_task; }
     /// Where the newest run stands in the history that can be undone, 0 for the last one; -1 for none.
     int undoableRun() const { return m_history.newestUndoable(); }
+    /// The folder that holds the results which are told of; empty if they lie elsewhere, or there are none.
+    QString resultFolder() const;
 
 signals:
     void draftChanged();
@@ -115,6 +121,7 @@ signals:
 private:
     void begin(DocumentTask* task, void (Workbench::*end)(const ChildRun::Ending&));
     void dropTask();
+    void edit(const RunOrder& order);
     void edited();
     void leaveResults();
     void changeAll(const DocumentTable::Change& change);
@@ -126,6 +133,7 @@ private:
     void endRunning(const ChildRun::Ending& ending);
     void endUndoing(const ChildRun::Ending& ending);
     void addWaiting();
+    void addBy(Reading* reading, const QVector<QByteArray>& paths);
     void startReading(Reading* reading);
     void run(const Ids& ids);
     void writeDown(const Running& running, bool isComplete);
@@ -136,7 +144,7 @@ private:
     QString m_program;
     DocumentTable m_table;
     DocumentOrder m_order{m_table};
-    ListHistory m_list{m_table};
+    EditHistory m_edits{m_table};
     RunMachine m_machine;
     RunHistory m_history;
     Passwords m_passwords;

@@ -83,6 +83,15 @@ void Workbench::endRunning(const ChildRun::Ending& ending)
     emit runEnded();
 }
 
+QString Workbench::resultFolder() const
+{
+    const Counts now = counts();
+    const bool isThere = m_machine.state() == State::Results && now.changed + now.unchanged > 0;
+    return isThere && m_lastOrder.destination.kind == Destination::Kind::Folder
+               ? m_lastOrder.destination.folderPath()
+               : QString();
+}
+
 /// What a run has changed that broke off is not known, if it began at all.
 void Workbench::writeDown(const Running& running, bool isComplete)
 {
@@ -134,7 +143,7 @@ void Workbench::endUndoing(const ChildRun::Ending& ending)
     if (ending.isComplete && !ending.wasStopped && leftAlone == 0)
         if (const QString problem = m_history.setUndone(m_undoing); !problem.isEmpty())
             emit failed(problem);
-    m_list.changeKept([](DocumentRecord& record) { record.forget(); });
+    m_edits.changeKept([](DocumentRecord& record) { record.forget(); });
     Ids ids;
     for (const DocumentRecord& record : m_table.records())
         if (record.result && record.result->kind == Outcome::Kind::Undone)

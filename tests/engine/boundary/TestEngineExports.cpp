@@ -8,7 +8,10 @@
 
 #include <dlfcn.h>
 
+#include <climits>
 #include <cstring>
+
+using engine::ErrorCode;
 
 namespace {
 
@@ -43,6 +46,25 @@ Result callEmpty(LoadedLibrary& library, Result (TelvarPDFLibraryCPDylibCPP1311:
     return (library.*operation)(std::remove_cvref_t<Parameters>()...);
 }
 
+/// The functions around the operations, called by hand, with an instance of their own.
+struct BufferCalls
+{
+    LoadedLibrary library;
+    int (*open)() = library.function<int()>("TPLCreateLibrary");
+    void (*close)(int) = library.function<void(int)>("TPLReleaseLibrary");
+    char* (*create)(int, int) = library.function<char*(int, int)>("TPLCreateBuffer");
+    void (*add)(int, char*, const char*,
+                int) = library.function<void(int, char*, const char*, int)>("TPLAddToBuffer");
+    void (*release)(int, char*) = library.function<void(int, char*)>("TPLReleaseBuffer");
+    int (*load)(int, const char*,
+                char*) = library.function<int(int, const char*, char*)>("TPLLoadFromString");
+    int (*lastError)(int) = library.function<int(int)>("TPLLastErrorCode");
+    const int instance = open();
+
+    ErrorCode error() const { return ErrorCode(lastError(instance)); }
+    ~BufferCalls() { close(instance); }
+};
+
 } // namespace
 
 class TestEngineExports : public QObject
@@ -73,6 +95,73 @@ private slots:
         QCOMPARE(lacking(expected, found), QString());
     }
 
+    void survivesMisuse()
+    {
+        LoadedLibrary library;
+        auto* const create = library.function<int()>("TPLCreateLibrary");
+        auto* const release = library.function<void(int)>("TPLReleaseLibrary");
+        auto* const pageCount = library.function<int(int)>("TPLPageCount");
+        auto* const version = library.function<wchar_t*(int)>("TPLLibraryVersion");
+        auto* const length = library.function<int(int)>("TPLStringResultLength");
+        for (const int unknown : {0, -1, INT_MAX}) {
+            QCOMPARE(pageCount(unknown), 0);
+            QCOMPARE(version(unknown), nullptr);
+            QCOMPARE(length(unknown), 0);
+            release(unknown);
+        }
+        const int one = create();
+        QVERIFY(one > 0);
+        QVERIFY(version(one) != nullptr);
+        QVERIFY(length(one) > 5);
+        QCOMPARE(pageCount(one), 0);
+        QCOMPARE(length(one), 0);
+        release(one);
+        release(one);
+        QCOMPARE(version(one), nullptr);
+        QVERIFY(create() != one);
+    }
+
+    void guardsItsBuffers()
+    {
+        const BufferCalls engine;
+        const int one = engine.instance;
+        QVERIFY(engine.create(one, -1) == nullptr && engine.create(0, 10) == nullptr);
+        char outside[] = "not a buffer";
+        engine.add(one, outside, "xxxx", 4);
+        QCOMPARE(outside, "not a buffer");
+        engine.release(one, outside);
+        engine.release(one, nullptr);
+        QCOMPARE(engine.load(one, nullptr, nullptr), 0);
+        QCOMPARE(engine.error(), ErrorCode::EmptyFile);
+        QCOMPARE(engine.load(one, PdfBuilder::simple().c_str(), outside), 0);
+        QCOMPARE(engine.error(), ErrorCode::BadArgument);
+        engine.create(one, 1000); // goes with its instance
+    }
+
+    void takesABufferInPieces()
+    {
+        const BufferCalls engine;
+        const BufferCalls other;
+        const int one = engine.instance;
+        const std::string bytes = PdfBuilder::simple();
+        const int size = static_cast<int>(bytes.size());
+        char* const buffer = engine.create(one, size);
+        engine.add(one, buffer, bytes.data(), 100);
+        other.add(other.instance, buffer, "wrong", 5);
+        engine.add(one, buffer, nullptr, 5);
+        engine.add(one, buffer, bytes.data(), -5);
+        engine.add(one, buffer, (bytes + "beyond").data() + 100, size - 100 + 6);
+        QCOMPARE(engine.load(one, buffer, nullptr), 1);
+        engine.release(one, buffer);
+        engine.release(one, buffer);
+
+        // A wide string belongs to the library once a call had it.
+        char* const password = engine.create(one, 8);
+        engine.add(one, password, "\0\0\0a\0\0\0b", 8);
+        QCOMPARE(engine.load(one, bytes.c_str(), password), 1);
+        QCOMPARE(engine.load(one, bytes.c_str(), password), 0);
+    }
+
     void saysOfTheRestThatItIsNotAvailable()
     {
         LoadedLibrary library;
@@ -83,7 +172,7 @@ private slots:
     {                                                                                                        \
         library.DocumentCount(); /* succeeds */                                                              \
         const auto result = callEmpty(library, &TelvarPDFLibraryCPDylibCPP1311::Name);                       \
-        if (library.LastErrorCode() != static_cast<int>(engine::ErrorCode::NotAvailable))                    \
+        if (library.LastErrorCode() != static_cast<int>(ErrorCode::NotAvailable))                            \
             available << #Name;                                                                              \
         else                                                                                                 \
             QCOMPARE(result, std::remove_cvref_t<decltype(result)>());                                       \

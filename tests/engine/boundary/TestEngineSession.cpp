@@ -348,81 +348,11 @@ private slots:
         QCOMPARE(third.GetPageMode(), 5);
     }
 
-    void survivesMisuse()
-    {
-        LoadedLibrary library;
-        auto* const create = library.function<int()>("TPLCreateLibrary");
-        auto* const release = library.function<void(int)>("TPLReleaseLibrary");
-        auto* const pageCount = library.function<int(int)>("TPLPageCount");
-        auto* const version = library.function<wchar_t*(int)>("TPLLibraryVersion");
-        auto* const length = library.function<int(int)>("TPLStringResultLength");
-        for (const int unknown : {0, -1, INT_MAX}) {
-            QCOMPARE(pageCount(unknown), 0);
-            QCOMPARE(version(unknown), nullptr);
-            QCOMPARE(length(unknown), 0);
-            release(unknown);
-        }
-        const int one = create();
-        QVERIFY(one > 0);
-        QVERIFY(version(one) != nullptr);
-        QVERIFY(length(one) > 5);
-        QCOMPARE(pageCount(one), 0);
-        QCOMPARE(length(one), 0);
-        release(one);
-        release(one);
-        QCOMPARE(version(one), nullptr);
-        QVERIFY(create() != one);
-    }
-
     void endsBeforeItsHost()
     {
         oldHost.library.emplace();
         oldHost.library->LoadFromString(PdfBuilder::simple(), L"");
         QCOMPARE(oldHost.library->PageCount(), 3); // and none at the end of the program
-    }
-
-    void guardsItsBuffers()
-    {
-        LoadedLibrary library;
-        const int one = library.function<int()>("TPLCreateLibrary")();
-        const int other = library.function<int()>("TPLCreateLibrary")();
-        auto* const create = library.function<char*(int, int)>("TPLCreateBuffer");
-        auto* const add = library.function<void(int, char*, const char*, int)>("TPLAddToBuffer");
-        auto* const release = library.function<void(int, char*)>("TPLReleaseBuffer");
-        auto* const load = library.function<int(int, char*, char*)>("TPLLoadFromString");
-        auto* const code = library.function<int(int)>("TPLLastErrorCode");
-        QVERIFY(create(one, -1) == nullptr && create(0, 10) == nullptr);
-        char outside[] = "not a buffer";
-        add(one, outside, "xxxx", 4);
-        QCOMPARE(outside, "not a buffer");
-        release(one, outside);
-        release(one, nullptr);
-
-        // In pieces, one of them beyond the end, and from the wrong instance.
-        const std::string bytes = PdfBuilder::simple();
-        const int size = static_cast<int>(bytes.size());
-        char* const buffer = create(one, size);
-        add(one, buffer, bytes.data(), 100);
-        add(other, buffer, "wrong", 5);
-        add(one, buffer, nullptr, 5);
-        add(one, buffer, bytes.data(), -5);
-        add(one, buffer, (bytes + "beyond").data() + 100, size - 100 + 6);
-        QCOMPARE(load(one, buffer, nullptr), 1);
-        QCOMPARE(load(one, nullptr, nullptr), 0);
-        QCOMPARE(code(one), static_cast<int>(ErrorCode::EmptyFile));
-        QCOMPARE(load(one, buffer, outside), 0);
-        QCOMPARE(code(one), static_cast<int>(ErrorCode::BadArgument));
-        release(one, buffer);
-        release(one, buffer);
-
-        // A wide string belongs to the library once a call had it.
-        char* const password = create(one, 8);
-        add(one, password, "\0\0\0a\0\0\0b", 8);
-        QCOMPARE(load(one, const_cast<char*>(bytes.c_str()), password), 1);
-        QCOMPARE(load(one, const_cast<char*>(bytes.c_str()), password), 0);
-        create(one, 1000); // goes with its instance
-        library.function<void(int)>("TPLReleaseLibrary")(one);
-        library.function<void(int)>("TPLReleaseLibrary")(other);
     }
 
     void servesThreadsWithAnInstanceEach()

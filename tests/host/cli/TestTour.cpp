@@ -50,17 +50,9 @@ private slots:
 
         const QJsonObject before = shown("other.pdf");
         QVERIFY(before.value("pageMode").isNull());
-        for (const QStringList& source :
-             {QStringList{"--list", "Like a book"}, QStringList{"--favorite", "Best of all"},
-              QStringList{"--tool-settings", m_home.filePath("kept.tsf")}}) {
-            const QString folder = m_home.filePath("out" + source.first());
-            const ProgramRun run(PROGRAM_FILE,
-                                 QStringList{"run", "-o", folder, m_home.filePath("other.pdf")} + source);
-            QVERIFY2(run.status == 0, run.err);
-            opensAsChosen(shown("out" + source.first() + "/other.pdf"));
-            const QJsonObject catalog = QpdfReader(folder + "/other.pdf").catalog();
-            QCOMPARE(catalog.value("/PageMode"), QJsonValue("/UseThumbs"));
-        }
+        changesAnother("--list", "Like a book");
+        changesAnother("--favorite", "Best of all");
+        changesAnother("--tool-settings", m_home.filePath("kept.tsf"));
     }
 
 private:
@@ -96,6 +88,16 @@ private:
         const CommandRun run(host::ConfigureCommand(), {m_home.filePath("seen.pdf")});
         QCOMPARE(run.status, 1); // what is kept is kept; the window itself was left without OK
         QVERIFY(kept);
+    }
+
+    void changesAnother(const QString& option, const QString& kept) const
+    {
+        const QString folder = m_home.filePath("out" + option);
+        const ProgramRun run(PROGRAM_FILE, {"run", "-o", folder, m_home.filePath("other.pdf"), option, kept});
+        QVERIFY2(run.status == 0, run.err);
+        opensAsChosen(shown("out" + option + "/other.pdf"));
+        const QJsonObject catalog = QpdfReader(folder + "/other.pdf").catalog();
+        QCOMPARE(catalog.value("/PageMode"), QJsonValue("/UseThumbs"));
     }
 
     static void opensAsChosen(const QJsonObject& view)

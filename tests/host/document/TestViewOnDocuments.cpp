@@ -4,6 +4,7 @@
 #include "host/document/ViewChanger.h"
 #include "host/document/XmpTitle.h"
 #include "pdflibrary/FileNameCodec.h"
+#include "pdflibrary/ViewerPreferences.h"
 #include "support/Rows.h"
 #include "support/documents/PdfBuilder.h"
 #include "support/documents/Rewritten.h"
@@ -162,44 +163,56 @@ struct Entry
     bool isPreference = false;
 };
 
-std::vector<Entry> entries()
+std::vector<Entry> preferences()
 {
     std::vector<Entry> all;
-    const auto catalog = [&](const QByteArray& json, const char* key, const char* value) {
-        all.push_back({"{" + json + "}", {QByteArray("catalog") + key}, value});
-    };
-    const auto preference = [&](const QByteArray& key, const QByteArray& json, const char* value) {
+    const auto add = [&](const QByteArray& key, const QByteArray& json, const QByteArray& value) {
         all.push_back({R"({"viewerPreferences":{")" + key + "\":" + json + "}}", {"/" + key}, value, true});
     };
-    for (const char* mode : {"UseNone", "UseOutlines", "FullScreen", "UseOC", "UseAttachments"})
-        catalog(QByteArray(R"("pageMode":")") + mode + '"', "/PageMode", qPrintable(QString("/") + mode));
-    catalog(R"("pageMode":null)", "/PageMode", "null");
-    for (const char* layout :
-         {"SinglePage", "TwoColumnLeft", "TwoColumnRight", "TwoPageLeft", "TwoPageRight"})
-        catalog(QByteArray(R"("pageLayout":")") + layout + '"', "/PageLayout",
-                qPrintable(QString("/") + layout));
-    catalog(R"("pageLayout":null)", "/PageLayout", "null");
-    catalog(R"("openAction":null)", "/OpenAction", "null");
-    catalog(R"("openAction":{"zoom":8.33})", "/OpenAction", "[ PAGE1 /XYZ 10 null 0.0833 ]");
-    catalog(R"("openAction":{"page":"last"})", "/OpenAction", "[ PAGE3 /XYZ 0 792 1.5 ]");
-    catalog(R"("openAction":{"type":"Fit"})", "/OpenAction", "[ PAGE1 /Fit ]");
-    catalog(R"("lang":"en-GB")", "/Lang", "(en-GB)");
-    catalog(R"("lang":null)", "/Lang", "null");
+    const auto addName = [&](const char* key, const QByteArray& name) {
+        add(key, "\"" + name + "\"", "/" + name);
+    };
     for (const char* flag : {"HideToolbar", "HideMenubar", "HideWindowUI", "CenterWindow", "DisplayDocTitle",
                              "PickTrayByPDFSize"})
-        preference(flag, "true", "true");
-    preference("FitWindow", "false", "false");
+        add(flag, "true", "true");
+    add("FitWindow", "false", "false");
     for (const char* name : {"UseNone", "UseOutlines", "UseThumbs", "UseAttachments"})
-        preference("NonFullScreenPageMode", QByteArray("\"") + name + '"', qPrintable(QString("/") + name));
-    preference("Direction", "\"R2L\"", "/R2L");
-    preference("PrintScaling", "\"None\"", "/None");
-    preference("Duplex", "\"DuplexFlipShortEdge\"", "/DuplexFlipShortEdge");
-    preference("Duplex", "\"DuplexFlipLongEdge\"", "/DuplexFlipLongEdge");
-    preference("NumCopies", "3", "3");
-    for (const char* key :
-         {"HideToolbar", "HideMenubar", "HideWindowUI", "FitWindow", "CenterWindow", "DisplayDocTitle",
-          "NonFullScreenPageMode", "Direction", "PrintScaling", "Duplex", "PickTrayByPDFSize", "NumCopies"})
-        preference(key, "null", "null");
+        addName("NonFullScreenPageMode", name);
+    addName("Direction", "R2L");
+    addName("PrintScaling", "None");
+    addName("Duplex", "DuplexFlipShortEdge");
+    addName("Duplex", "DuplexFlipLongEdge");
+    add("NumCopies", "3", "3");
+    using Preferences = std::span<const pdflibrary::PreferenceRow>;
+    for (const Preferences rows :
+         {Preferences(pdflibrary::viewerPreferences), Preferences(pdflibrary::furtherPreferences)})
+        for (const pdflibrary::PreferenceRow& row : rows)
+            add(row.pdfName + 1, "null", "null");
+    return all;
+}
+
+std::vector<Entry> entries()
+{
+    std::vector<Entry> all = preferences();
+    const auto add = [&](const QByteArray& json, const char* key, const QByteArray& value) {
+        all.push_back({"{" + json + "}", {QByteArray("catalog") + key}, value});
+    };
+    const auto addName = [&](const QByteArray& json, const char* key, const QByteArray& name) {
+        add("\"" + json + "\":\"" + name + "\"", key, "/" + name);
+    };
+    for (const char* mode : {"UseNone", "UseOutlines", "FullScreen", "UseOC", "UseAttachments"})
+        addName("pageMode", "/PageMode", mode);
+    add(R"("pageMode":null)", "/PageMode", "null");
+    for (const char* layout :
+         {"SinglePage", "TwoColumnLeft", "TwoColumnRight", "TwoPageLeft", "TwoPageRight"})
+        addName("pageLayout", "/PageLayout", layout);
+    add(R"("pageLayout":null)", "/PageLayout", "null");
+    add(R"("openAction":null)", "/OpenAction", "null");
+    add(R"("openAction":{"zoom":8.33})", "/OpenAction", "[ PAGE1 /XYZ 10 null 0.0833 ]");
+    add(R"("openAction":{"page":"last"})", "/OpenAction", "[ PAGE3 /XYZ 0 792 1.5 ]");
+    add(R"("openAction":{"type":"Fit"})", "/OpenAction", "[ PAGE1 /Fit ]");
+    add(R"("lang":"en-GB")", "/Lang", "(en-GB)");
+    add(R"("lang":null)", "/Lang", "null");
     all.push_back({R"({"title":"N\u00e9w"})", {"info/Title", "metadata"}, "<4ee977>"});
     all.push_back({R"({"title":null})", {"info/Title", "metadata"}, "null"});
     return all;

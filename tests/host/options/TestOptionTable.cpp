@@ -85,7 +85,7 @@ private slots:
                 QVERIFY2(fish.contains("__fish_seen_subcommand_from " + name + "' -l " + dashed.mid(2)),
                          named);
                 const QString form = QString::fromStdString(option.form()).replace("|", "\\|");
-                QVERIFY2(options::optionsOf(command.id).size() == 0 || option.commands.empty() ||
+                QVERIFY2(options::optionsOf(command.id).empty() || option.commands.empty() ||
                              chapter.contains("| `" + form + "` |"),
                          named);
             }

@@ -303,11 +303,16 @@ private slots:
         QCOMPARE(quintar(inPlace + QStringList{"--report", "report"}).status, 0);
         QCOMPARE(counts(resumed(inPlace, "report")),
                  QByteArray("0 changed, 0 unchanged, 0 failed, 5 done before"));
+    }
 
+    void resumesNothingThatIsNoReport()
+    {
+        const std::string document = put("a.pdf");
         put("report", "no report\n");
-        const ProgramRun refused = resumed(inPlace, "other");
+        const ProgramRun refused = apply({"--in-place", "--resume", "report", "--report", "other", "a.pdf"});
         QCOMPARE(refused.status, 2);
         QVERIFY2(refused.err.contains("line 1 tells nothing of a document"), refused.err);
+        QVERIFY(contentOf("a.pdf") == document);
     }
 
     void refusesAReportThatAnotherRunWrites()

@@ -1,55 +1,13 @@
-#include "host/cli/UndoCommand.h"
-#include "host/files/Checksum.h"
 #include "support/Rows.h"
-#include "support/documents/PdfBuilder.h"
-#include "support/folders/FileStatus.h"
-#include "support/folders/WorkFolder.h"
-#include "support/program/CommandRun.h"
-#include "support/program/ProgramRun.h"
-#include "support/program/UsageErrors.h"
+#include "support/program/UndoFixture.h"
 
 #include <QtTest>
 
 #include <functional>
-#include <map>
-#include <optional>
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-
-using namespace host;
 namespace fs = std::filesystem;
 
 namespace {
-
-/// All that undoing has to bring back.
-struct Snapshot
-{
-    std::string bytes;
-    mode_t mode;
-    std::int64_t seconds;
-    long nanoseconds;
-    bool operator==(const Snapshot&) const = default;
-};
-
-Snapshot snapshotOf(const std::string& name)
-{
-    const struct stat status = statusOf(name);
-    return {WorkFolder::contentOf(name), status.st_mode, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
-}
-
-using Snapshots = std::map<std::string, Snapshot>;
-
-/// Of all files in "in".
-Snapshots snapshots()
-{
-    Snapshots all;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator("in"))
-        if (entry.is_regular_file())
-            all.emplace(entry.path().string(), snapshotOf(entry.path().string()));
-    return all;
-}
 
 std::string damaged()
 {
@@ -64,28 +22,15 @@ std::string large()
     return builder.bytes();
 }
 
-/// Writes other bytes, and gives the file its old time again.
-void overwrite(const std::string& name, std::size_t at)
-{
-    const struct stat status = statusOf(name);
-    std::fstream(name, std::ios::binary | std::ios::in | std::ios::out).seekp(std::streamoff(at)).put('#');
-    const struct timespec times[] = {status.st_atim, status.st_mtim};
-    QCOMPARE(utimensat(AT_FDCWD, name.c_str(), times, 0), 0);
-}
-
 } // namespace
 
-class TestUndo : public QObject
+class TestUndo : public QObject, private UndoFixture
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_folder.emplace();
-        WorkFolder::put("in/a.pdf", PdfBuilder::simple());
-    }
-    void cleanup() { m_folder.reset(); }
+    void init() { begin(); }
+    void cleanup() { end(); }
 
     void bringsEveryByteAndModeBack()
     {
@@ -110,8 +55,8 @@ private slots:
         QVERIFY(snapshots() == changed);
 
         fs::current_path("/"); // the report names the documents by absolute paths
-        const CommandRun run = undo({m_folder->path("report")});
-        fs::current_path(m_folder->path().toStdString());
+        const CommandRun run = undo({path("report")});
+        fs::current_path(path("").toStdString());
         QCOMPARE(run.status, 0);
         QVERIFY2(run.out.endsWith("5 undone, 0 undone already, 0 left alone\n"), run.out);
         QVERIFY(snapshots() == before);
@@ -120,7 +65,7 @@ private slots:
 
         const CommandRun again = undo({"report"});
         QCOMPARE(again.status, 0);
-        QVERIFY(again.out.contains("undone already  " + m_folder->path("in/a.pdf").toUtf8()));
+        QVERIFY(again.out.contains("undone already  " + path("in/a.pdf").toUtf8()));
         QVERIFY(again.out.endsWith("0 undone, 5 undone already, 0 left alone\n"));
         QVERIFY(snapshots() == before);
         for (const fs::directory_entry& entry : fs::recursive_directory_iterator("."))
@@ -162,7 +107,7 @@ private slots:
             "its time", [=] { fs::last_write_time(name, fs::file_time_type::clock::now()); },
             "no longer as the report says");
         row(
-            "a byte with its old time", [=] { overwrite(name, 20); },
+            "a byte with its old time", [=] { overwrite(name, 20, "#"); },
             "what stands before the update is not what stood there");
         row(
             "gone", [=] { fs::remove(name); }, "no such file");
@@ -186,7 +131,7 @@ private slots:
         const CommandRun run = undo({"--quiet", "report"});
         QCOMPARE(run.status, 1);
         QCOMPARE(run.out, QByteArray());
-        QVERIFY2(run.err.startsWith("left alone: " + m_folder->path("in/a.pdf").toUtf8() + ": "), run.err);
+        QVERIFY2(run.err.startsWith("left alone: " + path("in/a.pdf").toUtf8() + ": "), run.err);
         QVERIFY2(run.err.toLower().contains(reason), run.err);
         QCOMPARE(run.err.count('\n'), 1);
         QVERIFY(WorkFolder::contentOf("in/a.pdf") == spoilt);
@@ -220,8 +165,8 @@ private slots:
         const std::size_t lastLines = after.rfind("startxref");
         for (const std::size_t size : {after.size(), lastLines}) {
             WorkFolder::put("in/a.pdf", after.substr(0, size));
-            QCOMPARE(undo({"report"}).out, "undone  " + m_folder->path("in/a.pdf").toUtf8() +
-                                               "\n1 undone, 0 undone already, 0 left alone\n");
+            QCOMPARE(undo({"report"}).out,
+                     "undone  " + path("in/a.pdf").toUtf8() + "\n1 undone, 0 undone already, 0 left alone\n");
             QVERIFY(snapshots() == before);
             QVERIFY(undo({"report"}).out.endsWith("\n0 undone, 1 undone already, 0 left alone\n"));
         }
@@ -231,33 +176,6 @@ private slots:
             QCOMPARE(undo({"report"}).status, 1);
             QCOMPARE(WorkFolder::contentOf("in/a.pdf"), other);
         }
-    }
-
-    // It is as it was, and what others did to it since is no matter.
-    void passesOverWhatTheRunCalledFailed()
-    {
-        QCOMPARE(change("thumbs", "report").status, 0);
-        QByteArray text = reportText("report");
-        const QByteArray done = text.split('\n').value(2);
-        QJsonObject failed = ProgramRun::jsonLines(done).value(0);
-        failed.insert("status", "failed");
-        failed.remove("undo");
-        WorkFolder::put(
-            "report", text.replace(done, QJsonDocument(failed).toJson(QJsonDocument::Compact)).toStdString());
-        WorkFolder::put("in/a.pdf", "another program's");
-        const CommandRun run = undo({"report"});
-        QCOMPARE(run.out + run.err, QByteArray("0 undone, 0 undone already, 0 left alone\n"));
-        QCOMPARE(run.status, 0);
-    }
-
-    void takesALastLineWithoutItsLineFeed()
-    {
-        const Snapshots before = snapshots();
-        QCOMPARE(change("thumbs", "report").status, 0);
-        const QByteArrayList lines = reportText("report").split('\n'); // "start", "begun", "changed"
-        WorkFolder::put("report", (lines[0] + '\n' + lines[2]).toStdString());
-        QVERIFY(undo({"report"}).out.endsWith("1 undone, 0 undone already, 0 left alone\n"));
-        QVERIFY(snapshots() == before);
     }
 
     // Killed itself, it may have cut a document off and not restored the time.
@@ -315,140 +233,6 @@ private slots:
         }
         QVERIFY(changed > 0);
     }
-
-    void mistrustsReports_data()
-    {
-        const Rows<QByteArray, QByteArray, QByteArray> row; // what is replaced in a report, and the reason
-        const QByteArray impossible = "line 3 of the report says what no run can have done";
-        row("a relative path", "\"output\":\"/", "\"output\":\"../", impossible);
-        row("a path that ends early",
-            "\"output\":", "\"outputBytes\":\"/etc/passwd%00.pdf\",\"output\":", impossible);
-        row("no path", "\"output\":", "\"output\":7,\"x\":", impossible);
-        row("a negative size", "\"undo\":{\"fileState\":\"", "\"undo\":{\"fileState\":\"-", impossible);
-        row("no size at all", "\"undo\":{\"fileState\":\"", "\"undo\":{\"fileState\":\"0 bytes, ",
-            impossible);
-        row("more than there is", "\"undo\":{\"fileState\":\"", "\"undo\":{\"fileState\":\"9", impossible);
-        row("a number as a state",
-            "\"undo\":{\"fileState\":", "\"undo\":{\"fileState\":7,\"x\":", impossible);
-        row("an array", "\"undo\":{", "\"undo\":[],\"x\":{", impossible);
-        row("no checksum", "\"sha256\":\"", "\"sha256\":\"0", impossible);
-        row("another checksum", "\"sha256\":\"", "\"sha256\":\"" + QByteArray(64, '0') + "\",\"x\":\"",
-            "what stands before the update is not what stood there");
-        row("nothing about undoing", "\"undo\":", "\"x\":", "does not tell what stood there before");
-        row("no line of a report", "{\"", "[\"", "it is no report of a run");
-        row("a line that is too long",
-            "\"file\":", "\"x\":\"" + QByteArray(2 << 20, ' ') + "\",\"file\":", "line 2 is too long");
-    }
-
-    void mistrustsReports()
-    {
-        const auto [old, with, reason] = Rows<QByteArray, QByteArray, QByteArray>::current();
-        QCOMPARE(change("thumbs", "report").status, 0);
-        const Snapshots changed = snapshots();
-        QByteArray text = reportText("report");
-        QVERIFY(text.contains(old));
-        WorkFolder::put("report", text.replace(old, with).toStdString());
-        std::optional<CommandRun> run;
-        const std::string refusal = refusalOf([&] { run = undo({"report"}); });
-        const QByteArray answer = run ? run->err : QByteArray::fromStdString(refusal);
-        QVERIFY2(answer.contains(reason), answer);
-        QVERIFY(!run || run->status == 1);
-        QVERIFY(snapshots() == changed);
-    }
-
-    // One that tells the truth about a file can still claim too much.
-    void cutsNothingButUpdates()
-    {
-        QCOMPARE(change("thumbs", "report").status, 0);
-        const struct stat status = statusOf("in/a.pdf");
-        std::fstream("in/a.pdf", std::ios::binary | std::ios::in | std::ios::out)
-            .seekp(status.st_size - 8)
-            .write("no end!\n", 8);
-        const struct timespec times[] = {status.st_atim, status.st_mtim};
-        QCOMPARE(utimensat(AT_FDCWD, "in/a.pdf", times, 0), 0);
-        const Snapshots changed = snapshots();
-        const CommandRun run = undo({"report"});
-        QVERIFY2(run.err.contains("what the report calls an update is none"), run.err);
-        QVERIFY(snapshots() == changed);
-    }
-
-    // Nor may one that knows all that there is to know of the document.
-    void cutsNoMoreThanAnUpdate()
-    {
-        const std::string original = PdfBuilder::simple();
-        QCOMPARE(change("thumbs", "report").status, 0);
-        const Snapshots changed = snapshots();
-        const QByteArray text = reportText("report");
-        for (const std::size_t size : {std::size_t{9}, original.find("1 0 obj"), original.find("2 0 obj"),
-                                       original.find("xref\n"), original.size() - 10}) {
-            const std::string left = WorkFolder::contentOf("in/a.pdf").substr(0, size);
-            QByteArray tampered = text;
-            tampered.replace("\"undo\":{\"fileState\":\"" + QByteArray::number(qint64(original.size())),
-                             "\"undo\":{\"fileState\":\"" + QByteArray::number(qint64(size)));
-            tampered.replace(QByteArray::fromStdString(checksumOf(original)),
-                             QByteArray::fromStdString(checksumOf(left)));
-            QVERIFY(tampered != text);
-            WorkFolder::put("report", tampered.toStdString());
-            const CommandRun run = undo({"report"});
-            QVERIFY2(run.err.contains("what the report calls an update is none"),
-                     QByteArray::number(qint64(size)) + run.err + run.out);
-            QVERIFY(snapshots() == changed);
-        }
-    }
-
-    void passesOverBrokenLines()
-    {
-        const Snapshots before = snapshots();
-        QCOMPARE(change("thumbs", "report").status, 0);
-        const std::string text = WorkFolder::contentOf("report");
-        WorkFolder::put("report", std::string(100, '\0') + "\n{}\n" + text + "{\"file\":");
-        const CommandRun run = undo({"report"});
-        QCOMPARE(run.status, 1);
-        QCOMPARE(run.err, QByteArray("left alone: report: line 1 and 1 more tell nothing of a document\n"));
-        QVERIFY(snapshots() == before);
-    }
-
-    void refusesReportsWithNothingToUndo()
-    {
-        const auto refusal = [](const QStringList& words) { return refusalOf([&] { undo(words); }); };
-        QVERIFY(refusal({}).starts_with("which run?"));
-        QVERIFY(refusal({"one", "two"}).starts_with("undo takes one report"));
-        QVERIFY(refusal({"missing"}).starts_with("the report missing cannot be used: "));
-        QCOMPARE(ProgramRun(PROGRAM_FILE, runWords("thumbs", "copied", "-o out")).status, 0);
-        QVERIFY(refusal({"copied"}).find("is of a run with -o, which needs no undo") != std::string::npos);
-        QCOMPARE(change("thumbs", "report").status, 0);
-        const int file = open("report", O_RDONLY | O_CLOEXEC);
-        QCOMPARE(flock(file, LOCK_EX), 0);
-        QCOMPARE(refusal({"report"}), std::string("the report report is in use by a run"));
-        close(file);
-        QCOMPARE(change("outlines", "dry", {"--dry-run"}).status, 0);
-        QCOMPARE(undo({"dry"}).out, QByteArray("0 undone, 0 undone already, 0 left alone\n"));
-    }
-
-private:
-    static QStringList runWords(const QString& mode, const QString& report,
-                                const QString& target = "--in-place")
-    {
-        return QStringList{"run", "--report", report, "--signed", "append", "in"} + target.split(' ') +
-               QStringList{"--set", "LayoutAndMagnCheckBox=true",
-                           "--set", "PageLayoutComboBox=One Column",
-                           "--set", mode == "thumbs" ? "NavigationTabComboBox=2" : "NavigationTabComboBox=1"};
-    }
-
-    /// Changes all documents in "in", in place.
-    static ProgramRun change(const QString& mode, const QString& report, const QStringList& more = {})
-    {
-        return ProgramRun(PROGRAM_FILE, runWords(mode, report) + more);
-    }
-
-    static CommandRun undo(const QStringList& words) { return CommandRun(UndoCommand(), words); }
-
-    static QByteArray reportText(const char* name)
-    {
-        return QByteArray::fromStdString(WorkFolder::contentOf(name));
-    }
-
-    std::optional<WorkFolder> m_folder;
 };
 
 QTEST_GUILESS_MAIN(TestUndo)
