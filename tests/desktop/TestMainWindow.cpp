@@ -190,22 +190,24 @@ private slots:
         haveNoKeyTwice();
         draft.set(ViewEntry::PageMode, 1);
         bench.setDraft(draft);
-        bench.setDestination({Destination::Kind::Folder, "/out", {}});
-        QTRY_COMPARE(state(), State::Ready);
-        auto* documents = m_window->findChild<QTableView*>("documents");
-        documents->setCurrentIndex(documents->model()->index(1, 0));
-        haveNoKeyTwice();
-        bench.setDestination({});
-        QTRY_COMPARE(state(), State::Ready);
         m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::failed(1, "password") + "#hear stop\n" +
                                  Fake::end());
-        bench.start();
-        haveNoKeyTwice();
-        bench.pause();
-        haveNoKeyTwice();
-        bench.stop();
-        QTRY_COMPARE(state(), State::Results);
-        haveNoKeyTwice();
+        for (const auto kind : {Destination::Kind::InPlace, Destination::Kind::Folder}) {
+            bench.setDestination({kind, "/out", {}});
+            QTRY_COMPARE(state(), State::Ready);
+            auto* documents = m_window->findChild<QTableView*>("documents");
+            documents->setCurrentIndex(documents->model()->index(1, 0));
+            haveNoKeyTwice();
+            bench.start();
+            haveNoKeyTwice();
+            bench.pause();
+            haveNoKeyTwice();
+            bench.stop();
+            QTRY_COMPARE(state(), State::Results);
+            m_window->findChild<QAbstractButton*>("whyButton")->click();
+            haveNoKeyTwice();
+            QTest::keyClick(m_window.get(), Qt::Key_Escape);
+        }
         qDeleteAll(qApp->findChildren<QTranslator*>());
     }
 

@@ -2132,7 +2132,7 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     </message>
     <message>
         <source>Show Res&amp;ults</source>
-        <translation>Voir les rés&amp;ultats</translation>
+        <translation>Voir &amp;les résultats</translation>
     </message>
     <message>
         <source>Opens the folder that the run has written into</source>

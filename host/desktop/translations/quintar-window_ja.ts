@@ -1285,7 +1285,7 @@
     </message>
     <message>
         <source>Sho&amp;w Results</source>
-        <translation>結果を表示(&amp;L)</translation>
+        <translation>結果を表示(&amp;N)</translation>
     </message>
     <message>
         <source>Opens the folder that the run has written into</source>
@@ -2104,7 +2104,7 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     </message>
     <message>
         <source>Show Res&amp;ults</source>
-        <translation>結果を表示(&amp;L)</translation>
+        <translation>結果を表示(&amp;N)</translation>
     </message>
     <message>
         <source>Opens the folder that the run has written into</source>
