@@ -18,14 +18,14 @@ namespace {
 
 const std::size_t largestFile = 64 << 10;
 
-/// This process and its workers, from now on.
+/// Of this process and its workers, from now on: the password would be in it.
 void leaveNoCore()
 {
     prctl(PR_SET_DUMPABLE, 0);
 }
 
-/// As far as the first line goes, whose writer may keep a pipe open. Without a buffer of somebody else's, where it would
-/// stay.
+/// As far as the first line goes, whose writer may keep a pipe open. Straight into the text: in a stream's buffer the
+/// password would stay.
 bool readLineInto(std::string& bytes, int file)
 {
     bytes.resize(largestFile + 1);
