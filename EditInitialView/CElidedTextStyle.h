@@ -11,13 +11,15 @@ class CElidedTextStyle : public QProxyStyle
     Q_OBJECT
 
 public:
-    /// \param list owns the style.
+    /// Gives the list this style for as long as the list lives.
+    /// \param list owns the style from then on.
     explicit CElidedTextStyle(QComboBox* list);
 
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget = nullptr) const override;
 
 public slots:
+    /// Makes the text the list's tool tip; connected with the list's currentTextChanged.
     void on_TextChanged(const QString& text);
 
 private:

@@ -6,8 +6,10 @@
 #include <QMap>
 #include <QVariant>
 
-/// The settings dialog of an Initial View action. Its lists are empty until its user fills them; a list's row
-/// is the number kept in the settings. Shown from the host's preview, it remembers its geometry.
+/// The settings dialog of an Initial View action. Its lists are empty until its user fills them; a
+/// list's row is the number kept in the settings. Shown from the host's preview, it remembers its
+/// geometry in QuintarViewerSettings.qsf of the settings folder: read by the constructor, written by the
+/// destructor. GUI thread.
 class CPrefsDialog : public CQuintarDialog
 {
     Q_OBJECT
@@ -30,9 +32,11 @@ public slots:
     void on_QDShowSaveDialog();
     /// Offers to store the settings as a favourite or in a file, then closes this dialog as rejected.
     void on_QDShowSaveCollectionDialog();
+    /// As QDialog's. After accept() the caller reads the widgets by GetPrefs().
     void accept() override;
     void reject() override;
 
 public:
+    /// The form. Whoever shows the dialog fills its lists, in the order of their rows (InitialViewSettings.h).
     Ui_EditInitialViewPrefsDialog ui;
 };

@@ -1,6 +1,6 @@
-// The window with very many documents: how soon rows are there, what they cost, and how
-// long it does not answer at the worst. bench_window FOLDER [DOCUMENTS]; the documents
-// are made below the folder where they are missing.
+// The window with very many documents: how soon rows are there, what they cost, and how long it does not
+// answer at the worst. bench_window FOLDER [DOCUMENTS]; the documents are made below the folder where
+// they are missing.
 #include "host/desktop/MainWindow.h"
 #include "host/desktop/platform/Language.h"
 #include "host/program/HostApplication.h"

@@ -4,7 +4,7 @@
 #include "pdflibrary/ErrorCodes.h"
 #include "pdflibrary/FileNameCodec.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
-#include "pdflibrary/ViewNumbers.h"
+#include "pdflibrary/ViewerPreferences.h"
 
 #include <cstdio>
 #include <map>
@@ -69,10 +69,17 @@ private:
     {
         add("mode", m_library.GetPageMode());
         add("layout", m_library.GetPageLayout());
-        for (int option = pdflibrary::HideToolBars; option <= pdflibrary::NumCopies; ++option)
-            add("preference " + textOf(option), m_library.GetViewerPreferences(option));
-        for (int entry = pdflibrary::HideToolBars; entry <= pdflibrary::TitleEntry; ++entry)
-            add("entry " + textOf(entry), m_library.GetViewerPreferences(pdflibrary::AsWritten + entry));
+        for (const pdflibrary::PreferenceRow& row : pdflibrary::allPreferences) {
+            add("preference " + textOf(row.option), m_library.GetViewerPreferences(row.option));
+            asWritten(row.option);
+        }
+        for (int entry = pdflibrary::PageModeEntry; entry <= pdflibrary::TitleEntry; ++entry)
+            asWritten(entry);
+    }
+
+    void asWritten(int entry)
+    {
+        add("entry " + textOf(entry), m_library.GetViewerPreferences(pdflibrary::AsWritten + entry));
     }
 
     void texts()

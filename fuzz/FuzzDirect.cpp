@@ -1,5 +1,5 @@
-// What the direct reader gives of a document, against libqpdf:
-// single objects, how it opens, and what is appended.
+// What the direct reader gives of a document, against libqpdf: single objects, how it opens, and
+// what is appended.
 #include "Oracle.h"
 #include "engine/syntax/ObjectParser.h"
 #include "support/engine/ReadingAccount.h"

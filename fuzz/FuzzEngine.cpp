@@ -66,9 +66,9 @@ public:
     {
         if (m_choices.oneIn(2))
             modeAndLayout();
-        for (int option = pdflibrary::HideToolBars; option <= pdflibrary::NumCopies; ++option)
+        for (const pdflibrary::PreferenceRow& row : pdflibrary::allPreferences)
             if (m_choices.oneIn(4))
-                preference(option);
+                preference(row.option);
         if (m_choices.oneIn(2))
             openAction();
         if (m_choices.oneIn(2))

@@ -1,5 +1,5 @@
-// Settings files, against QSettings in a process of its own: what
-// QSettings makes of a stranger's file may well end it.
+// Settings files, against QSettings in a process of its own: what QSettings makes of a stranger's file
+// may well end it.
 #include "Oracle.h"
 #include "StoredForm.h"
 #include "host/settings/SettingsFile.h"

@@ -36,8 +36,8 @@ inline void requireSame(const std::string& one, const std::string& other, const 
     require(one == other, what + "\n--- " + one + "\n+++ " + other);
 }
 
-/// What a target decides without being told: an input always leads to the same
-/// decisions, and each further variant to others.
+/// What a target decides without being told: an input always leads to the same decisions, and each further
+/// variant to others.
 class Choices
 {
 public:

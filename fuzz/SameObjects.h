@@ -57,8 +57,8 @@ inline bool hasDirectKids(QPDFObjectHandle object)
     return std::any_of(items.begin(), items.end(), [](const auto& kid) { return !kid.isIndirect(); });
 }
 
-/// Whether streams have no end where they say. Readers search for
-/// it then, and may find one in what is appended.
+/// Whether streams have no end where they say. Readers search for it then, and may find one in
+/// what is appended.
 inline bool hasUnendedStreams(const std::string& bytes)
 {
     const std::shared_ptr<QPDF> pdf = readByLibqpdf(bytes);

@@ -1,5 +1,5 @@
-// Runs a target over files and the files in folders, without libFuzzer: what
-// was found once is tried again with every build.
+// Runs a target over files and the files in folders, without libFuzzer: what was found once is tried again
+// with every build.
 #include "Oracle.h"
 
 #include <iostream>

@@ -17,46 +17,75 @@ enum class ErrorCode : int {
     /// The call succeeded, or 0 and empty are what it had to tell.
     None = 0,
     // Of the call itself; the document is as it was.
+    /// No such operation in this library, or no such item of SecurityInfo.
     NotAvailable = 1,
+    /// None was loaded, or the selected one was removed: load or select one first.
     NoDocument = 2,
+    /// Ids of documents are not used again: this one was removed, or never given.
     UnknownDocument = 3,
+    /// Also a wide string that is no buffer of the instance, and a file name with a NUL in it.
     BadArgument = 4,
+    /// Pages are numbered from 1 to PageCount.
     UnknownPage = 5,
+    /// The id was not given for the selected document; or, of SetDestValue, the document does not open there.
     UnknownDestination = 6,
+    /// There is nothing to append: the document as it was loaded is as asked.
     NothingChanged = 7,
+    /// The document's structure is one that is not appended to. SaveToFile may still write it.
     CannotAppend = 8,
+    /// An allocation failed, as it does at the limits of the process, too.
     OutOfMemory = 9,
+    /// A fault of the library, which no document should be able to cause.
     Internal = 10,
+    /// Of AppendToString(ForInPlace) alone; appending to a copy is possible.
     NotInPlace = 11,
+
     // Of the file that is read or written; what was at a target's path is there still.
+    /// Of a target: its folder.
     FileNotFound = 20,
     AccessDenied = 21,
+    /// A folder, pipe, socket or device, which are neither read nor replaced.
     NotARegularFile = 22,
     EmptyFile = 23,
+    /// Opened or read, for another reason than the four above.
     ReadFailed = 24,
+    /// Since it was loaded: remove it and load it again.
     SourceChanged = 25,
+    /// For a reason that has no code of its own.
     WriteFailed = 26,
+    /// No room, or the quota is used up.
     DiskFull = 27,
     FileTooLarge = 28,
     DeviceFailed = 29,
     ReadOnlyFileSystem = 30,
+
     // Of the document as it was found.
+    /// Nothing in it looks like one.
     NotAPdf = 40,
     Damaged = 41,
     NoPages = 42,
+    /// Nor is it the empty one, which is tried as well.
     WrongPassword = 43,
+    /// A security handler, or a version of the standard one, that libqpdf does not know.
     UnsupportedEncryption = 44,
     TooComplex = 45,
+    /// Made to keep a reader busy, most likely; docs/engine.md tells the limits.
     TooMuchWork = 46,
+    /// It cannot be decoded, is no UTF-8 or UTF-16, or is longer than 16 MiB.
     MetadataUnreadable = 47,
-    // Why it is not written; up to ObjectsUncertain it is in doubt what it holds.
+
+    // Why it is not written; up to ObjectsUncertain it is in doubt what it holds, and neither AppendToFile nor
+    // SaveToFile writes it.
     NewestRevisionUncertain = 60,
     ObjectStreamsUnread = 61,
     EncryptionUncertain = 62,
     ObjectsDamaged = 63,
     ObjectsUncertain = 64,
+    /// Of SaveToFile alone: AppendToFile leaves the bytes that were signed as they are.
     ByteRangesPresent = 65,
+    /// Of SaveToFile alone, found by reading the result again; it is not kept.
     RewritingLoses = 66,
+    /// Of AppendToFile alone: SaveToFile writes right lengths.
     StreamLengthsWrong = 67,
 };
 
@@ -64,7 +93,7 @@ enum class ErrorCode : int {
 struct ErrorText
 {
     ErrorCode code;
-    std::string_view text;
+    std::string_view text; ///< Lives as long as the program.
 };
 
 /// A text for every code: in English, without a full stop, to stand behind a document's name and a colon.
@@ -138,8 +167,9 @@ constexpr std::string_view errorText(int code)
 /// What EncryptionStatus returns for the selected document.
 enum EncryptionStatus {
     NotEncrypted = 0,
-    OpenedWithUserPassword = 1,
-    OpenedWithOwnerPassword = 2,
+    OpenedWithUserPassword =
+        1, ///< Also by the empty one. SecurityInfo(ModificationAllowed) tells what it allows.
+    OpenedWithOwnerPassword = 2, ///< Everything is allowed.
 };
 
 /// Forms of an update that AppendToString returns.

@@ -16,7 +16,8 @@ enum PageMode {
     PageOnly = 0,
     BookmarksPanel = 1,
     PagesPanel = 2, ///< Thumbnails.
-    FullScreen = 3,
+    FullScreen =
+        3, ///< Without menus; the panel beside the page is that of viewer preference 7 when it is left.
     LayersPanel = 4, ///< Optional content.
     AttachmentsPanel = 5,
     NoPageMode = 6, ///< Set, never read.
@@ -46,14 +47,14 @@ inline constexpr std::array pageLayoutNames{"/SinglePage",     "/OneColumn",   "
 /// GetDestType tells the last three as FitVisible, FitVisible and Zoomed; GetDestValue(DestinationForm) tells
 /// them as they are.
 enum DestinationType {
-    Zoomed = 1,
-    FitPage = 2,
-    FitWidth = 3,
-    FitHeight = 4,
-    FitVisible = 5,
-    FitBox = 6,
-    FitBoxHeight = 7,
-    FitRectangle = 8,
+    Zoomed = 1,       ///< A left and a top edge, and a zoom; the only one that SetDestValue changes.
+    FitPage = 2,      ///< The whole page in the window.
+    FitWidth = 3,     ///< Its width, from a top edge down.
+    FitHeight = 4,    ///< Its height, from a left edge on.
+    FitVisible = 5,   ///< The width of what is drawn on the page, from a top edge down.
+    FitBox = 6,       ///< All that is drawn on it.
+    FitBoxHeight = 7, ///< The height of that, from a left edge on.
+    FitRectangle = 8, ///< A rectangle of the page.
 };
 
 /// Types of explicit destinations, as they are written.
@@ -64,7 +65,7 @@ inline constexpr std::array destinationNames{"",       "/XYZ",  "/Fit",   "/FitH
 /// DestinationType that is written in the document, 0 for none that is known. SetDestValue takes
 /// DestinationZoom alone.
 enum DestinationValue {
-    DestinationLeft = 1,
+    DestinationLeft = 1, ///< This and the next three are 0 for what the destination leaves open.
     DestinationTop = 2,
     DestinationRight = 3,
     DestinationBottom = 4,

@@ -2,6 +2,7 @@
 
 #include "ViewNumbers.h"
 
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <cstddef>
@@ -21,7 +22,7 @@ struct PreferenceRow
 {
     /// The option of GetViewerPreferences and SetViewerPreferences.
     ViewerPreference option;
-    /// The entry's key in the document.
+    /// The entry's key in the document, with its slash.
     const char* pdfName;
     /// The names that the entry takes, at the library's number for each; an empty one is never taken. Empty
     /// for an entry that is true (1) or false (0).
@@ -30,11 +31,12 @@ struct PreferenceRow
     const char* key;
     /// What the dialog and the program call it, in English.
     const char* label;
-    /// What they call its values, by number; empty for yes and no.
+    /// What they call its values, by number, in English; empty for yes and no, and without a
+    /// list in the dialog.
     std::span<const char* const> valueLabels;
     /// What a missing entry reads as. Setting an entry that is missing to this number changes nothing.
     int absent = 0;
-    /// Whether it is a number, from 1.
+    /// Whether it is a number, from 1 to what an int holds.
     bool isNumber = false;
 
     /// The largest number that it takes, the smallest being 0, or 1 for a number.
@@ -42,7 +44,7 @@ struct PreferenceRow
     {
         return isNumber ? INT_MAX : names.empty() ? 1 : static_cast<int>(names.size()) - 1;
     }
-    /// Whether the library takes a number for it.
+    /// Whether the library takes a number for it. NoPreference, which removes the entry, is none of these.
     constexpr bool takes(int value) const
     {
         return value >= (isNumber ? 1 : 0) && value <= highest() &&
@@ -57,12 +59,14 @@ inline constexpr std::array titleLabels{"File Name", "Document Title"};
 inline constexpr std::array nonFullScreenModeNames{"/UseNone", "/UseOutlines", "/UseThumbs",
                                                    "",         "/UseOC",       "/UseAttachments"};
 
-/// Values of /Direction, /PrintScaling and /Duplex, by number.
+/// Values of /Direction, /PrintScaling and /Duplex, by number. All of them mean something of their own: none
+/// stands for an entry that is missing.
 inline constexpr std::array directionNames{"/L2R", "/R2L"};
 inline constexpr std::array printScalingNames{"/None", "/AppDefault"};
 inline constexpr std::array duplexNames{"/Simplex", "/DuplexFlipShortEdge", "/DuplexFlipLongEdge"};
 
-/// What dialog and program call the page modes, by number.
+/// What dialog and program call the page modes, by number. `--set` takes these words, so each stays
+/// as it is spelt.
 inline constexpr std::array pageModeLabels{
     "Page Only",   "Bookmarks Panel and Page",    "Pages Panel and Page",
     "Full screen", "Conten Group Panel and Page", "Attachments Panel and Page",
@@ -91,18 +95,28 @@ inline constexpr std::array furtherPreferences{
 };
 // clang-format on
 
-/// The row of an option; none for a number that has none.
+/// All of them, in the order of their options, for what goes over every preference.
+inline constexpr auto allPreferences = [] {
+    std::array<PreferenceRow, viewerPreferences.size() + furtherPreferences.size()> all{};
+    std::ranges::copy(furtherPreferences, std::ranges::copy(viewerPreferences, all.begin()).out);
+    return all;
+}();
+
+/// The row of an option, by value; its texts live as long as the program.
+/// \param option any number, as a caller of the library gives it.
+/// \returns none for a number that has no row, such as one with AsWritten added to it.
 constexpr std::optional<PreferenceRow> findPreference(int option)
 {
-    for (const std::span<const PreferenceRow> rows : {std::span<const PreferenceRow>(viewerPreferences),
-                                                      std::span<const PreferenceRow>(furtherPreferences)})
-        for (const PreferenceRow& row : rows)
-            if (row.option == option)
-                return row;
+    for (const PreferenceRow& row : allPreferences)
+        if (row.option == option)
+            return row;
     return {};
 }
 
-/// The row of an option.
+/// The row of an option, for those that the caller knows to be there.
+///
+///     constexpr const char* name = preference(HideMenuBar).pdfName; // "/HideMenubar"
+///
 /// \throws std::bad_optional_access for an option without one; where it is a constant, it does not compile.
 constexpr PreferenceRow preference(ViewerPreference option)
 {

@@ -14,7 +14,8 @@
 /// done, a record of where it stood (not of what was thrown) goes to StoreErrorToLog, and the operation turns
 /// the false that it gets into its own result and message. Nothing is thrown on, bad_alloc included.
 ///
-/// It may be called from any thread, and within itself.
+/// It may be called from any thread, and within itself. Of crashes it knows nothing, nor of what
+/// other threads throw.
 /// \param file, function, line where the operation stands: __FILE__, its unqualified name, __LINE__. A record
 ///     longer than 1023 bytes is cut. The strings are read during the call only.
 /// \param body called once, on the caller's thread.

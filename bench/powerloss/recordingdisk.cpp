@@ -1,6 +1,6 @@
-// A file, served by FUSE, that behaves like a disk with a cache which forgets
-// nothing: it begins with an image, and each write and each flush that reaches it
-// goes to a log, in their order. The image stays as it is.
+// A file, served by FUSE, that behaves like a disk with a cache which forgets nothing: it begins with
+// an image, and each write and each flush that reaches it goes to a log, in their order. The image
+// stays as it is.
 //
 //     recordingdisk IMAGE LOG MOUNTPOINT
 //

@@ -12,14 +12,16 @@
 ///     const char* const name = rowOf(pageLayoutNames, layout);
 namespace engine {
 
-/// Throws EngineError with `code` unless the condition holds.
+/// Throws EngineError with `code` unless the condition holds. For what a caller can do better: a fault of the
+/// library is a std::logic_error, which becomes the code Internal.
 inline void require(bool condition, ErrorCode code)
 {
     if (!condition)
         throw EngineError(code);
 }
 
-/// Whether a document can have the number; a NaN is none.
+/// Whether a document can have the number, in whatever unit: 2147483647 at most, either way. A NaN is none, nor
+/// is an infinity.
 inline bool isNumber(double value)
 {
     return value >= -pdflibrary::largestNumber && value <= pdflibrary::largestNumber;
@@ -41,7 +43,7 @@ constexpr int lastOf(const Table& table)
 
 /// The row of a table at a number.
 /// \param number 0 to lastOf(table), as requireWithin() has found; it is not checked once more.
-/// \returns a reference into the table.
+/// \returns a reference into the table, which lasts as long as that.
 template <class Table>
 constexpr const auto& rowOf(const Table& table, int number)
 {

@@ -19,15 +19,16 @@ struct OperationTypes
 {
     using I = int;
     using D = double;
-    using W = std::wstring;
-    using B = std::string;
+    using W = std::wstring; ///< Characters, 32 bits each.
+    using B = std::string;  ///< Bytes, of any value.
 #define TPL_OP(Result, Name, Arguments, ...) using Name = Result(__VA_ARGS__);
 #include "pdflibrary/operations.def"
 #undef TPL_OP
 };
 
 /// How an argument of an operation's type reaches its implementation: a number as it is, a string as a view
-/// that is valid during the call. What an implementation is to keep it copies.
+/// that is valid during the call; it may hold NULs and has none behind it. What an implementation is to keep it
+/// copies.
 template <class Type>
 using SlotArgument =
     std::conditional_t<std::is_same_v<Type, std::wstring>, std::wstring_view,
@@ -55,8 +56,9 @@ struct SlotFor<Result(Parameters...)>
     }
 };
 
-/// The implementation of every operation: one field per row of the table, "not available" unless assigned. A
-/// function of another name or signature than the row's cannot be assigned.
+/// The implementation of every operation, filled in by `exports.cpp` when it is compiled: one field per row
+/// of the table, "not available" unless assigned. A function of another name or signature than the row's
+/// cannot be assigned.
 struct OperationSlots
 {
 #define TPL_OP(Result, Name, Arguments, ...)                                                                 \

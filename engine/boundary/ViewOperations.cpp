@@ -133,7 +133,10 @@ QPDFObjectHandle changedPreferences(Document& document)
         dictionary = QPDFObjectHandle::newDictionary();
         document.catalog().replaceKey("/ViewerPreferences", dictionary);
     }
-    document.markChanged(dictionary.isIndirect() ? dictionary : document.catalog());
+    if (dictionary.isIndirect())
+        document.markChanged(dictionary);
+    else
+        document.markCatalogChanged();
     return dictionary;
 }
 

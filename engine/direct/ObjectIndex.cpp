@@ -38,7 +38,8 @@ bool ObjectIndex::read(std::int64_t offset)
         isLarge = isLarge || (section->entries && section->entries->isLarge());
         m_sections.push_back(std::move(*section));
     }
-    // Of a large section's own entry it shows when somebody asks for it.
+    // Each section in a stream lists itself. A large one is not decoded for this: what is odd in it shows when
+    // it is asked for an entry.
     return isLarge || std::all_of(m_sections.begin(), m_sections.end(), [this](const IndexSection& section) {
                return !section.entries || find(section.section.number);
            });

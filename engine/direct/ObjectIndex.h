@@ -13,9 +13,9 @@
 
 namespace engine {
 
-/// Looks up where objects lie in all sections of a well-formed cross-reference. Tables stay in the file. Of a
-/// long section only what is looked at has to be well-formed.
-/// Encrypted and hybrid documents are not accepted.
+/// Looks up where objects lie in all sections of a well-formed cross-reference. Tables stay in the
+/// file. Of a long section only what is looked at has to be well-formed. Encrypted and hybrid documents
+/// are not accepted.
 class ObjectIndex
 {
 public:

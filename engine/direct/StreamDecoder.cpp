@@ -106,7 +106,7 @@ bool StreamDecoder::inflateTo(std::size_t size)
     return result == Z_OK || m_atEnd;
 }
 
-/// Of the rows that are there whole.
+/// For the rows that are decoded to their end by now.
 bool StreamDecoder::undoPredictor()
 {
     const std::size_t row = m_columns + 1;

@@ -5,6 +5,8 @@
 #include "engine/files/EngineError.h"
 #include "engine/reading/DocumentOpening.h"
 
+#include <stdexcept>
+
 namespace engine {
 
 Document::Document(std::shared_ptr<ByteSource> source, std::string fileName, std::string_view password)
@@ -105,7 +107,14 @@ void Document::setTrailerKey(const std::string& key, const QPDFObjectHandle& val
 void Document::setCatalogKey(const std::string& key, const QPDFObjectHandle& value)
 {
     m_catalog.replaceKey(key, value);
-    markChanged(m_catalog);
+    markCatalogChanged();
+}
+
+void Document::markChanged(const QPDFObjectHandle& object)
+{
+    if (!object.isIndirect())
+        throw std::logic_error("a direct object is marked as changed");
+    m_changes.noteObject(object.getObjGen());
 }
 
 CrossReference Document::crossReference()

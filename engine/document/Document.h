@@ -87,9 +87,12 @@ public:
     /// Sets an entry of the catalog, or removes it with null, and marks the catalog as changed.
     void setCatalogKey(const std::string& key, const QPDFObjectHandle& value);
 
-    /// Notes that an indirect object differs from the source. For a direct object the caller marks the
-    /// indirect one that holds it.
-    void markChanged(const QPDFObjectHandle& object) { m_changes.noteObject(object.getObjGen()); }
+    /// Notes that an indirect object differs from the source; of a direct one, that which holds it is marked.
+    /// \throws std::logic_error for a direct object.
+    void markChanged(const QPDFObjectHandle& object);
+    /// Notes that the catalog differs. One that stands in the trailer is no object, and so no update holds it:
+    /// the document can be written anew only.
+    void markCatalogChanged() { m_changes.noteObject(m_catalog.getObjGen()); }
     const std::set<QPDFObjGen>& changedObjects() const { return m_changes.objects(); }
 
     /// True when an object was marked as changed, or the trailer was.

@@ -14,7 +14,7 @@ class Document;
 /// What an object is in a page tree.
 KidKind kindOf(Document& document, QPDFObjectHandle object);
 
-/// /Count where it can be right.
+/// The node's /Count, unless no count of pages can be like that.
 std::optional<int> statedCount(Document& document, const QPDFObjectHandle& node);
 
 /// What a kid shows without being read; nothing when it has to be read to tell.

@@ -17,7 +17,7 @@ namespace {
 // Trees of up to this many pages are walked whole, so that counts that lie do no harm.
 const int smallTree = 256;
 
-// Above this many pages what a kid more costs is to be felt where object streams are used.
+// Above this many pages, reading all kids of a node would be felt where they lie in object streams.
 const int largeTree = 10'000;
 
 } // namespace
@@ -207,17 +207,17 @@ std::optional<int> PageTree::climb(QPDFObjectHandle page)
     return number;
 }
 
-/// The indirect object in which the /Kids that list the page are written.
-QPDFObjectHandle PageTree::holderOfKids(const PagePath& path)
+/// Marks what the /Kids that list the page are written in: the first indirect object on the way up.
+void PageTree::markKidsChanged(const PagePath& path)
 {
     for (auto node = path.nodes.rbegin(); node != path.nodes.rend(); ++node) {
         QPDFObjectHandle kids = m_document.key(*node, "/Kids");
         if (kids.isIndirect())
-            return kids;
+            return m_document.markChanged(kids);
         if (node->isIndirect())
-            return *node;
+            return m_document.markChanged(*node);
     }
-    return m_document.catalog();
+    m_document.markCatalogChanged();
 }
 
 QPDFObjectHandle PageTree::reference(int number)
@@ -228,10 +228,10 @@ QPDFObjectHandle PageTree::reference(int number)
     QPDFObjectHandle made = m_document.makeIndirect(path.page);
     if (path.nodes.empty()) {
         m_document.catalog().replaceKey("/Pages", made);
-        m_document.markChanged(m_document.catalog());
+        m_document.markCatalogChanged();
     } else {
         m_document.key(path.nodes.back(), "/Kids").setArrayItem(path.kid, made);
-        m_document.markChanged(holderOfKids(path));
+        markKidsChanged(path);
     }
     m_document.markChanged(made);
     m_lastNumber = 0;

@@ -70,7 +70,7 @@ private:
     std::shared_ptr<KidCounts> countsOf(const QPDFObjectHandle& node);
     std::optional<int> believedCount();
     std::optional<PagePath> descend(int number);
-    QPDFObjectHandle holderOfKids(const PagePath& path);
+    void markKidsChanged(const PagePath& path);
     std::optional<int> climb(QPDFObjectHandle page);
 
     Document& m_document;

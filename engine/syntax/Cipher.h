@@ -7,8 +7,8 @@
 
 namespace engine {
 
-/// Encrypts strings, or streams, as a document's security handler
-/// asks; does nothing for a document without one.
+/// Encrypts strings, or streams, as a document's security handler asks; does nothing for a
+/// document without one.
 class Cipher
 {
 public:
@@ -18,8 +18,8 @@ public:
     /// \throws EngineError with CannotAppend for a method that is not known.
     Cipher(QPDF& pdf, Use use);
 
-    /// `object` is the indirect object that the string is part of, or the
-    /// stream. With AES every call gives other bytes.
+    /// `object` is the indirect object that the string is part of, or the stream. With AES every call
+    /// gives other bytes.
     std::string encrypted(const std::string& plain, QPDFObjGen object) const;
 
     bool changesAnything() const { return m_method != Method::None; }

@@ -27,8 +27,8 @@ bool areDigits(const char* text, std::size_t count)
     return all;
 }
 
-/// Whether libqpdf reads the same numbers: from one short line, which
-/// begins where it looks and ends once, without NUL.
+/// Whether libqpdf reads the same numbers: from one short line, which begins where it looks and ends
+/// once, without NUL.
 /// \param text from the end of what stands before the subsection to its first entry.
 bool isUsualHeader(std::string_view text, bool isFirst)
 {
@@ -87,8 +87,8 @@ std::optional<TableScanner::Subsection> TableScanner::nextSubsection()
     return subsection;
 }
 
-/// Steps over the entries of the usual 20 bytes, in the middle of a long subsection without a look. \returns
-/// how many there are as far as it looked.
+/// Steps over the entries of the usual 20 bytes; the middle of a long subsection is skipped unread.
+/// \returns how many there are as far as it looked.
 long long TableScanner::skipLikelyEntries(long long count)
 {
     if (count <= longSubsection || count > m_file.size() / tableEntrySize)

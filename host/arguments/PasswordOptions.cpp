@@ -17,13 +17,13 @@ namespace {
 
 const std::size_t largestFile = 64 << 10;
 
-/// This process and its workers, from now on.
+/// Of this process and its workers, from now on: the password would be in it.
 void leaveNoCore()
 {
     prctl(PR_SET_DUMPABLE, 0);
 }
 
-/// Without a buffer of somebody else's, where it would stay.
+/// Straight into the text: in a stream's buffer the password would stay.
 bool readAllInto(std::string& bytes, int file)
 {
     bytes.resize(largestFile + 1);

@@ -53,7 +53,7 @@ using Problems = std::array<int, 2>;
     _exit(write(into, &problems[1], sizeof(int)) != sizeof(int) ? 1 : 0);
 }
 
-/// What somebody forbids with death is not permitted either.
+/// Some containers kill a process for the attempt: then nothing is answered, and it counts as not permitted.
 Problems tried()
 {
     Problems problems{EPERM, EPERM};

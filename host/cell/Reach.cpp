@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-/// It, or the folder above it that is there.
+/// The path, or the nearest folder above it that is there.
 std::string existing(std::string path)
 {
     while (access(path.c_str(), F_OK) != 0 && path != SafeOutput::folderOf(path))

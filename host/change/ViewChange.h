@@ -54,8 +54,8 @@ struct Magnification
     bool operator==(const Magnification&) const = default;
 };
 
-/// What an entry is, or is set to. A number is a name's (ViewEntries), a flag's
-/// (0 or 1), a page's or a count; a text is UTF-8.
+/// What an entry is, or is set to. A number is a name's (ViewEntries), a flag's (0 or 1), a page's or a
+/// count; a text is UTF-8.
 using ViewValue =
     std::variant<Unset, int, Magnification, LastPage, FileNameAsTitle, std::string, Invalid, OtherAction>;
 

@@ -170,7 +170,7 @@ bool ConfigureCommand::showDialog()
     return isAccepted;
 }
 
-/// main would tell that nothing was begun.
+/// Not left to main, which would say that nothing was begun.
 int ConfigureCommand::deliverOrTell()
 try {
     return deliver();

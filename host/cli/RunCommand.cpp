@@ -110,7 +110,7 @@ bool RunCommand::hasStandardInput() const
     return DocumentOptions::haveStandardInput(m_words);
 }
 
-/// Standard output takes one thing only.
+/// How much: standard output takes one thing only, events, the report or a result.
 Tells RunCommand::tells()
 {
     if (m_live.events() != nullptr)
@@ -172,7 +172,7 @@ bool RunCommand::printsResult() const
     return m_output == RunDestination::standardStream;
 }
 
-/// It takes one thing only.
+/// Throws UsageError when more than one thing is to be printed there, or read from standard input.
 void RunCommand::checkStandardOutput() const
 {
     const bool printsReport = m_reportFile == Report::standardOutput;

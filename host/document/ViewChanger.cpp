@@ -24,8 +24,8 @@ namespace {
 const int zoomValue = 5; // of SetDestValue
 const int titleKey = 1;  // of SetInformation
 
-/// A missing entry does the same as an explicit default, and says
-/// what an empty text says, so it needs no change.
+/// A missing entry does the same as an explicit default, and says what an empty text says, so it
+/// needs no change.
 bool isDefault(ViewEntry entry, const ViewValue& value)
 {
     if (value == ViewValue(std::string()))
@@ -219,7 +219,7 @@ void ViewChanger::changeTitle(const ViewValue& wanted)
         return;
     const QString packet = QString::fromStdWString(m_library.GetDocumentMetadata());
     require(m_library.LastErrorCode() == 0 ? 1 : 0, ViewEntry::Title);
-    // In the metadata alone it is the one that viewers find, and that is told of the document.
+    // A title that the metadata alone has is the one that viewers show: it need not be written twice.
     if (m_present[ViewEntry::Title] == ViewValue(Unset()) && m_present.shownTitle() == wanted)
         return;
     changeEntry(ViewEntry::Title, wanted);
@@ -246,7 +246,7 @@ void ViewChanger::changeMetadata(const QString& packet, const ViewValue& title)
         altered(ViewEntry::Title, before.isEmpty() ? ViewValue() : before.toStdString(), title);
 }
 
-/// A viewer that is to show a title shows the file's name where there is none.
+/// Viewers show the file's name in its place.
 void ViewChanger::noteMissingTitle()
 {
     if (m_change[ViewEntry::DisplayDocTitle] == ViewValue(1) && !m_present.hasTitle())

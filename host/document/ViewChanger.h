@@ -32,8 +32,8 @@ public:
 
     /// Changes the selected document.
     /// \param file its name, for a title that comes from it.
-    /// \returns why it cannot be changed. After a failure part of the change may
-    /// have been made: the document must not be saved.
+    /// \returns why it cannot be changed. After a failure part of the change may have been made: the document
+    ///     must not be saved.
     Failure apply(const std::string& file);
 
     /// What the last call has altered.

@@ -33,14 +33,14 @@ public:
         while (!m_reader.atEnd()) {
             m_reader.readNext();
             const int end = static_cast<int>(m_reader.characterOffset());
-            // The offset is right behind tags alone: after text it may lie within the next one.
+            // The reader's offset is exact behind tags only: behind text it may lie within the next tag.
             m_token = {text.lastIndexOf('<', end - 1), end};
             if (m_reader.isStartElement())
                 startElement();
             else if (m_reader.isEndElement())
                 endElement(text.midRef(m_token.begin, 2) == QLatin1String("</"));
             else if (m_reader.isDTD())
-                m_odd = true; // no offset is right behind entities that it declares
+                m_odd = true; // behind entities that it declares no offset is exact
             else if (m_reader.isCharacters() && (m_inItem || m_depth == m_titleDepth))
                 m_text += m_reader.text();
         }

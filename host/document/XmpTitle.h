@@ -8,8 +8,8 @@
 /// character: its other properties, white space and padding.
 namespace host::xmptitle {
 
-/// The title in the default language, else the first one, or the plain text;
-/// nothing where there is none or the text is no XMP.
+/// The title in the default language, else the first one, or the plain text; nothing where there is none or
+/// the text is no XMP.
 std::optional<QString> read(const QString& packet);
 
 /// The packet with this title in the default language; titles in other languages stay. Of

@@ -10,8 +10,8 @@ namespace host {
 class CaseOfNames
 {
 public:
-    /// What paths have in common that may be the same there. Letters
-    /// count as the same however they are composed.
+    /// What paths have in common that may be the same there. Letters count as the same however
+    /// they are composed.
     static std::string folded(const std::string& path);
 
     /// Whether two different paths with the same folded() name one file, or would. Where a folder does not

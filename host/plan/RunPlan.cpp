@@ -38,7 +38,8 @@ void RunPlan::add(const std::string& path)
         addDocument(path, path.substr(path.rfind('/') + 1), status);
 }
 
-/// Of many names that are wrong, the first few show what is.
+/// Looks for what may be meant for the first few only: each look reads a folder, and a list may be
+/// wrong throughout.
 Failure RunPlan::whyMissing(const std::string& path, int problem)
 {
     Failure failure = Failure::ofSystem(problem, ReasonCode::ReadFailed);

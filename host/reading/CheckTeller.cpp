@@ -13,7 +13,7 @@ namespace host {
 
 namespace {
 
-/// Of what no entry tells.
+/// A difference that no entry of the view has a value for.
 const std::string otherPlace = "open page: at another place on the page";
 
 QJsonValue textOrNull(const std::string& text)

@@ -7,8 +7,8 @@
 
 namespace host {
 
-/// Reads an open file line by line, with bounded memory. A last line without its
-/// line feed may have been cut off and is no line.
+/// Reads an open file line by line, with bounded memory. A last line without its line feed may have been cut
+/// off and is no line.
 class LineReader
 {
 public:

@@ -41,8 +41,8 @@ void takeBack(int file, std::size_t written)
                           0); // nobody is left to be told
 }
 
-/// Appends the line, or nothing of it: behind the half that fits
-/// on a full disk the next line would be lost, too.
+/// Appends the line, or nothing of it: behind the half that fits on a full disk the next line
+/// would be lost, too.
 /// \returns false, with errno set, on failure.
 bool appendLine(int file, const std::string& line)
 {

@@ -48,10 +48,10 @@ public:
     /// may live a little longer. Of what it holds, only `announce` may be used from then on. \returns the
     /// file's descriptor, -1 when there is nothing to announce in.
     int leave();
-    /// Writes at once that a document is about to be replaced, with the line that will follow, and waits until
-    /// that is on the disk: should both this process and the run be killed, or the power fail, the report still
-    /// has what undoing takes. Only in a regular file.
-    /// Throws std::runtime_error when it cannot be written.
+    /// Writes at once that a document is about to be replaced, with the line that will follow, and waits
+    /// until that is on the disk: should both this process and the run be killed, or the power fail, the
+    /// report still has what undoing takes. Only in a regular file. Throws std::runtime_error when it
+    /// cannot be written.
     void announce(const Line& line);
 
     /// Takes the line of document `index`; it is written as soon as those before it are.

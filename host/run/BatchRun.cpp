@@ -187,8 +187,8 @@ void BatchRun::jobEnded(std::size_t job, const WorkOutcome& outcome)
                       {ReasonCode::Crashed, "the worker process gave no proper answer"})));
 }
 
-/// The worker may have put the change in place before it ended. Not in a dry run, whatever a worker says that was taken
-/// over: nothing is written, not by this process either.
+/// The worker may have put the change in place before it ended. Not in a dry run, whatever a worker says that
+/// was taken over: nothing is written, not by this process either.
 void BatchRun::jobLost(std::size_t job, const WorkOutcome& outcome)
 {
     std::optional<DocumentResult> result;

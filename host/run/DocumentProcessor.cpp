@@ -344,8 +344,8 @@ DocumentResult DocumentProcessor::notAppended(int code)
     return DocumentResult::failed(whyNotAppended(code));
 }
 
-/// A document that has gone, or is another one, was changed; what
-/// else errno tells kept it from being looked at.
+/// A document that has gone, or is another one, was changed; what else errno tells kept it from
+/// being looked at.
 DocumentResult DocumentProcessor::notAsRead()
 {
     const bool isChanged = errno == 0 || errno == ENOENT || errno == ENOTDIR;

@@ -87,7 +87,8 @@ bool InPlaceAppend::isAsLeft() const
     return isAsRead(m_file.get(), m_file.path(), *m_left);
 }
 
-/// Programs may set a document's time back to what it was; they cannot set the time of that.
+/// By the time of the last change of status (ctime): a program can set the time of change back,
+/// but not that one.
 bool InPlaceAppend::isUntouched() const
 {
     struct stat now;
@@ -95,7 +96,7 @@ bool InPlaceAppend::isUntouched() const
            now.st_ctim.tv_nsec == m_left->st_ctim.tv_nsec;
 }
 
-/// Wherever its path leads by now. Moving it is a change of the file, too, but not of what stands in it.
+/// Wherever its path leads by now: being moved changes a file's status, but not what stands in it.
 bool InPlaceAppend::isFileAsLeft() const
 {
     if (!m_left)
@@ -163,8 +164,8 @@ InPlaceAppend::Found InPlaceAppend::found() const
     return {m_update.starts_with(*bytes), bytes->size(), {}};
 }
 
-/// No more than it takes to know that it is not the update. Nothing when the document is another one, and, with
-/// errno set, when it cannot be read.
+/// What stands behind the document; of more than the update, one byte more. Nothing when the document is
+/// another one, and, with errno set, when it cannot be read.
 std::optional<std::string> InPlaceAppend::behindDocument() const
 {
     struct stat now;

@@ -20,8 +20,8 @@ namespace {
 constexpr std::array<decltype(statfs::f_type), 4> suitedFileSystems{EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC,
                                                                     BTRFS_SUPER_MAGIC, TMPFS_MAGIC};
 
-// Encryption may join sectors that are written one by one; memory that is a disk has
-// none; a file that may only grow cannot be cut back.
+// Encryption may join sectors that are written one by one; memory that is a disk has none; a file that may
+// only grow cannot be cut back.
 constexpr auto unsuitedAttributes = STATX_ATTR_ENCRYPTED | STATX_ATTR_DAX | STATX_ATTR_APPEND;
 
 bool liesSuitably(int file)

@@ -213,7 +213,8 @@ bool SafeOutput::exchange() const
     return renameat2(AT_FDCWD, m_temporary.c_str(), AT_FDCWD, m_target.c_str(), RENAME_EXCHANGE) == 0;
 }
 
-/// A rename over a network can be reported as failed although it was done.
+/// Whether the path leads to the file: a rename over a network can be reported as failed although it was done.
+/// errno stays.
 bool SafeOutput::isAt(const std::string& path, int file)
 {
     const int problem = errno;

@@ -22,8 +22,8 @@ public:
     /// One of its files in words: "action list" or "favourite".
     const char* kind() const { return m_kind; }
 
-    /// Makes the folder if it is missing and has a place
-    /// (HomeFolder.h). \returns empty, or why it cannot be had.
+    /// Makes the folder if it is missing and has a place (HomeFolder.h). \returns empty, or why
+    /// it cannot be had.
     std::string make() const;
 
     /// The names of its files in byte order, those in folders below it ("a/b.xqq") included. Folders of

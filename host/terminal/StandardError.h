@@ -16,8 +16,8 @@ void complainInLines(std::string_view text);
 /// "quintar: note: TEXT", in one line.
 void note(std::string_view text);
 
-/// That memory did not suffice for the rest of a run. What is thrown
-/// further than that counts as a run that was not begun.
+/// That memory did not suffice for the rest of a run. What is thrown further than that counts as a run
+/// that was not begun.
 void complainOfEarlyEnd();
 
 /// What is safe to print already.

@@ -6,8 +6,8 @@
 
 namespace host {
 
-/// A stretch of a document that a report calls an update. Who has changed the report may know all that a report tells
-/// of a document, so the stretch itself has to be what a run appends.
+/// A stretch of a document that a report calls an update. Who has changed the report may know all that a
+/// report tells of a document, so the stretch itself has to be what a run appends.
 class ClaimedUpdate
 {
 public:
@@ -15,8 +15,8 @@ public:
     ClaimedUpdate(int file, std::int64_t begin, std::int64_t end) : m_file(file), m_begin(begin), m_end(end)
     {}
 
-    /// Whether it ends as updates of runs do, and its own cross-reference stands in it, which leads to that of the
-    /// document before it, or replaces a damaged one. False as well when it cannot be read.
+    /// Whether it ends as updates of runs do, and its own cross-reference stands in it, which leads to that
+    /// of the document before it, or replaces a damaged one. False as well when it cannot be read.
     bool isOne() const;
 
     /// Empty when they cannot be read.

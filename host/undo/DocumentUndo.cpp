@@ -34,7 +34,7 @@ Failure cannotRead(int error)
     return Failure::ofSystem(error, ReasonCode::ReadFailed);
 }
 
-/// Behind isAsRead().
+/// Why isAsRead() was false, by the errno that it left.
 Failure notAsRead()
 {
     return errno == 0 ? changedMeanwhile : cannotRead(errno);
@@ -67,7 +67,7 @@ std::array<struct timespec, 2> changeTime(const FileState& state)
 
 } // namespace
 
-/// What is not as the report says is no matter where nothing was done.
+/// Of a document that the run called failed no update need be there: whatever it is like now is left alone.
 UndoResult DocumentUndo::perform(bool dryRun)
 {
     UndoResult result = attempt(dryRun);

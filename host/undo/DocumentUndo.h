@@ -60,11 +60,11 @@ private:
     const UndoPlan::Document& m_document;
     FileDescriptor m_file;
     struct stat m_present = {};
-    std::vector<const AppendedUpdate*> m_cuts; ///< The newest first.
-    bool m_isBefore = false;                   ///< The document is as it was before some update,
-    bool m_undoneAlready = false;              ///< and one that the run may have made.
-    const AppendedUpdate* m_cutOff = nullptr;  ///< It is so, but for its time.
-    bool m_olderStays = false;
+    std::vector<const AppendedUpdate*> m_cuts; ///< What is to be cut off, the newest first.
+    bool m_isBefore = false;                   ///< The document is as it was before one of the updates.
+    bool m_undoneAlready = false;              ///< And the run did not call it failed at that update.
+    const AppendedUpdate* m_cutOff = nullptr;  ///< One that is cut off already, but for the document's time.
+    bool m_olderStays = false; ///< An older update is kept, since others changed the document after it.
 };
 
 } // namespace host

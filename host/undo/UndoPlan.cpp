@@ -189,7 +189,7 @@ void UndoPlan::restrictTo(const std::vector<std::string>& names)
             m_leftAlone.push_back({*name, {ReasonCode::NotInReport, "the report tells of no change of it"}});
 }
 
-/// Puts the newest first.
+/// Puts the documents with the newest updates first. Throws UsageError where the report has nothing to undo.
 void UndoPlan::sumUp(const std::string& report)
 {
     if (m_documents.empty() && m_results > 0 && m_results == m_leftAlone.size())

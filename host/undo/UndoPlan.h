@@ -26,8 +26,8 @@ struct AppendedUpdate
     bool begun = false;
     /// Of an update whose state after is not known, all but its last lines, see Checksum.h.
     std::string unfinished = {};
-    /// The run called the document failed afterwards: it is as it was,
-    /// unless what became of it could not be told.
+    /// The run called the document failed afterwards: it is as it was, unless what became of it
+    /// could not be told.
     bool failed = false;
 };
 

@@ -53,7 +53,7 @@ std::string inWordsOrUnset(ViewEntry entry, const ViewValue& value)
     return std::holds_alternative<Unset>(value) ? unset : forTerminal(viewvalues::told(entry, value));
 }
 
-/// Of a number in the dialog's words.
+/// What the dialog calls a number; `absent` is the number of an entry that is missing.
 template <class Table>
 std::string labelOrInvalid(const Table& labels, const ViewValue& value, int absent)
 {
@@ -61,7 +61,7 @@ std::string labelOrInvalid(const Table& labels, const ViewValue& value, int abse
                                                   : labelAt(labels, numberOf(value, absent), "unknown");
 }
 
-/// In the dialog's words where it has a row.
+/// As the dialog calls it, where the dialog has a row for it.
 std::string magnificationInWords(const Magnification& zoom)
 {
     const bool hasRow = zoom.type >= pdflibrary::Zoomed && zoom.type <= pdflibrary::FitVisible;
@@ -139,7 +139,7 @@ std::string OpeningView::openActionInWords() const
            line(labelOf(key::OpenToPage), std::to_string(numberOf(page, 0)) + name);
 }
 
-/// One that means the same as its default where it is missing.
+/// Of a preference whose absence means the same as the number 0.
 std::string OpeningView::preferenceInWords(const PreferenceRow& preference) const
 {
     const ViewValue value = (*this)[entryOf(preference)];

@@ -142,7 +142,7 @@ void WorkerPool::heed(const RunControl& control)
         *m_next = *std::exchange(m_held, std::nullopt);
 }
 
-/// No further place is taken.
+/// Workers find no further place to take.
 void WorkerPool::endRound()
 {
     *m_next = m_round.size();
@@ -150,18 +150,18 @@ void WorkerPool::endRound()
         m_held = m_round.size();
 }
 
-/// The next piece that a worker took without living to name it, or whose answer it corrupted; alone, so that
-/// there is no doubt about which one it was if the next worker does not live either. Or one that a cell kept a
-/// worker from, which is then right about what it allows.
+/// A round of one piece, the next that has not ended: its worker ended before it named the piece, or
+/// corrupted its answer; alone in a round, there is no doubt about which piece it was if the next worker ends
+/// as well. Or a cell kept the worker from its files: the cell is renewed, and allows what lies there now.
 void WorkerPool::planNextRound()
 {
     const auto left =
         std::find(m_ended.begin() + static_cast<std::ptrdiff_t>(m_round.front()), m_ended.end(), false);
     m_round.clear();
-    if (left != m_ended.end())
+    if (left != m_ended.end()) {
         m_cell.renew();
-    if (left != m_ended.end())
         m_round.push_back(static_cast<std::size_t>(left - m_ended.begin()));
+    }
     m_held.reset();
     *m_next = 0;
 }
@@ -260,7 +260,7 @@ std::unique_ptr<Worker> WorkerPool::lockedInWorker(int wakeUps) const
 
 void WorkerPool::waitForNews(const Done& done, RunControl& control)
 {
-    std::vector<pollfd> waiting; // no more than there are open descriptors: poll takes that for an error
+    std::vector<pollfd> waiting; // of running workers only: poll refuses more than a process may have open
     std::vector<Process*> running;
     for (Process& process : m_processes)
         if (process.isRunning()) {
@@ -303,8 +303,8 @@ void WorkerPool::receive(Process& process, const Done& done)
         end(process, done, WorkOutcome::Lost);
 }
 
-/// \returns their number. A worker that was taken over may answer faster than it is heard, and for ever: it gets neither
-/// time nor attention for what is no news.
+/// \returns their number. A worker that was taken over may answer faster than it is heard, and for ever: it
+///     gets neither time nor attention for what is no news.
 int WorkerPool::takeAnswers(Process& process, const Done& done)
 {
     int count = 0;
@@ -328,7 +328,8 @@ bool WorkerPool::isNews(std::uint64_t place)
     return true;
 }
 
-/// A piece that is none, or has ended, is what a worker tells that was at none or has its memory corrupted.
+/// Passes over a place outside the round, and a piece that has ended: so tells a worker that was at none, or
+/// whose memory is corrupted.
 void WorkerPool::pieceEnded(std::uint64_t place, const Done& done, const WorkOutcome& outcome)
 {
     if (place >= m_round.size() || m_ended[m_round[place]])
@@ -349,7 +350,7 @@ void WorkerPool::end(Process& process, const Done& done, WorkOutcome::Kind kind,
     process.id = 0;
     process.wakeUps.close();
     takeAnswers(process, done);
-    // The only piece that there is, is what it was at, unless it was to find none.
+    // In a round of one piece, this worker took it if it was taken, whether or not it lived to say so.
     const std::uint64_t told = (*process.slot)->piece();
     const std::uint64_t place = m_round.size() == 1 && untaken() == 0 ? 0 : told;
     pieceEnded(place, done,

@@ -62,8 +62,7 @@ public:
     /// number that cannot be read counts as 0, and a reversed range names nothing.
     /// \param pageRange items separated by commas: a page, or a first and a last one joined by "-".
     /// \param pageCount a number above it is left out; a range is left out only when it starts above it.
-    /// \returns false when the text is empty.
-    ///     An item that memory cannot hold adds nothing.
+    /// \returns false when the text is empty. An item that memory cannot hold adds nothing.
     static bool GetPageList(const QString& pageRange, int pageCount, bool skipOdd, bool skipEven,
                             QList<int>* pages);
 

@@ -3,8 +3,10 @@
 #include <climits>
 #include <cmath>
 
-/// The integer part of a number; the nearest int beyond its range, 0 for what is not a number. A cast of such
-/// numbers is undefined.
+/// A number of which nobody knows where it has been (a settings map, a text field) as an int. A cast of one
+/// beyond the range of int, or of a NaN, is undefined.
+/// \returns the integer part, towards 0; the nearest int for what lies beyond the range, infinities included;
+///     0 for what is not a number. Any thread.
 inline int saturatedInt(double value)
 {
     if (std::isnan(value))

@@ -1,6 +1,7 @@
 #pragma once
 
-/// The style sheets of the dialog frame.
+/// The style sheets of the dialog frame, as CQuintarDialog sets them, some with places for QString::arg(). The
+/// images are those of the host's resources; one that is missing there leaves its place empty.
 namespace framestyles {
 
 // clang-format off
@@ -17,6 +18,7 @@ inline constexpr char mainFrame[] =
     R"(border-top-left-radius: 6px;border-bottom-left-radius: 6px;)"
     R"(border-top-right-radius: 6px;border-bottom-right-radius: 6px;})";
 
+/// A text of `mainFrame`, and what takes its place.
 struct Replacement
 {
     const char* before;
@@ -31,16 +33,18 @@ inline constexpr Replacement greyBrown[] = {
     {"rgba(40,60,90)", "rgba(40,36,36)"},
 };
 
+/// The bar at the top, with its picture at the left.
 inline constexpr char header[] =
     "QFrame#QDheaderFrame {\n"
     "background-image: url(:/Quintar/Resources/QuintarHeader.png);\n"
     "background-repeat: no-repeat;\n"
     "}";
 
+/// The two texts in it.
 inline constexpr char prefix[] = "color:white;";
 inline constexpr char title[] = "color: white;";
 
-/// %1 object name, %2 image, %3 repeat, %4 position.
+/// The pieces of the frame's shadow, in the corners: %1 object name, %2 image, %3 repeat, %4 position.
 inline constexpr char shadowCorner[] =
     "QFrame#%1 {\n"
     "background-image: url(:/Quintar/Resources/%2);\n"
@@ -49,7 +53,7 @@ inline constexpr char shadowCorner[] =
     "border: 0px transparent;\n"
     "}";
 
-/// %1 object name, %2 image, %3 repeat.
+/// And between them: %1 object name, %2 image, %3 repeat.
 inline constexpr char shadowEdge[] =
     "QFrame#%1 {\n"
     "background-image: url(:/Quintar/Resources/%2);\n"
@@ -58,6 +62,7 @@ inline constexpr char shadowEdge[] =
     "\n"
     "}";
 
+/// The buttons in the header. There is no "none.png": it stands for no picture.
 inline constexpr char headerButton[] =
     R"(QToolButton {background-color: transparent;color: white;background-image: url(none.png);border: none;})"
     R"(QToolButton QWidget {background-color: black;})"

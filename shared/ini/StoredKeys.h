@@ -11,8 +11,9 @@
 /// value, a QVariantMap. The keys are part of the files' format: none is ever renamed.
 namespace storedkeys {
 
-/// Action lists, "*.xqq": a named series of actions.
+/// Action lists, "*.xqq": a named series of actions, in CUtils::GetSequenceFolder().
 namespace actionlist {
+/// Of the file's name; the rest of it is made from the list's name, and may differ from it.
 inline constexpr char suffix[] = ".xqq";
 /// What people call the list, a text.
 inline constexpr char sequenceName[] = "SequenceName";
@@ -49,7 +50,7 @@ inline std::vector<int> entryNumbers(const QStringList& keys)
 }
 } // namespace actionlist
 
-/// Favourites, "*.ini": a settings map with an icon, a QImage.
+/// Favourites, "*.ini": a settings map with an icon, a QImage, in CUtils::GetCollectionsFolder().
 namespace favorite {
 /// Of the file's name; the rest of it is the name that people gave, as far as a file can have it.
 inline constexpr char suffix[] = ".ini";
@@ -59,13 +60,14 @@ inline constexpr char actionPrefs[] = "ActionPrefs";
 inline constexpr char actionIcon[] = "ActionIcon";
 } // namespace favorite
 
-/// Tool settings files, "*.tsf": a settings map alone.
+/// Tool settings files, "*.tsf": a settings map alone, in whatever folder a person chose.
 namespace toolsettings {
 /// That map, as the dialog writes it.
 inline constexpr char toolSettings[] = "ToolSettings";
 } // namespace toolsettings
 
-/// What the save dialogs put into a settings map beside the action's own keys.
+/// What the save dialogs put into a settings map beside the action's own keys, all texts but for one bool.
+/// Those of a list are not stored with the settings.
 namespace request {
 /// The action's name, which an action list keeps in a key of its own.
 inline constexpr char actionName[] = "ActionName";

@@ -18,7 +18,8 @@ namespace {
 
 const int leastHeight = 236;
 const int iconSide = 128;
-/// Those that the user is offered. What others hold is no picture but instructions to draw one, which may take for ever.
+/// Those that the user is offered. What others hold is no picture but instructions to draw one, which
+/// may take for ever.
 const QList<QByteArray> pictureFormats{"bmp", "jpg", "jpeg", "gif", "png", "tif", "tiff", "wmf", "emf"};
 const qint64 mostPictureBytes = qint64(256) << 20; // in memory, where each pixel takes four
 

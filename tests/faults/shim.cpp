@@ -34,8 +34,8 @@ enum Kind : std::uint32_t {
 };
 // clang-format on
 
-// What happens at the call, unless it is an errno value. Beyond
-// `allTheSame`, the call is made and told as failed.
+// What happens at the call, unless it is an errno value. Beyond `allTheSame`, the call is made and
+// told as failed.
 const std::int32_t fallShort = -1;
 const std::int32_t waitThere = -2;
 const std::int32_t allTheSame = 1000;

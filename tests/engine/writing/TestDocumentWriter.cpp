@@ -36,7 +36,7 @@ void change(Document& document)
 {
     document.catalog().replaceKey("/PageMode", QPDFObjectHandle::newName("/UseThumbs"));
     document.catalog().replaceKey("/Left", QPDFObjectHandle::newReal(72.0, 2));
-    document.markChanged(document.catalog());
+    document.markCatalogChanged();
 }
 
 QByteArray pageMode(const std::string& path)
@@ -105,6 +105,13 @@ private slots:
             QVERIFY(contentOf(target).size() < original.size() + 300);
         }
         QCOMPARE(files().size(), 2);
+    }
+
+    void marksNothingThatHasNoNumber()
+    {
+        const auto document = opened(m_source);
+        QVERIFY_EXCEPTION_THROWN(document->markChanged(QPDFObjectHandle::newDictionary()), std::logic_error);
+        QVERIFY(!document->isChanged());
     }
 
     void appendsNothingWhenItWouldNotBeRight()

@@ -183,11 +183,8 @@ std::vector<Entry> preferences()
     addName("Duplex", "DuplexFlipShortEdge");
     addName("Duplex", "DuplexFlipLongEdge");
     add("NumCopies", "3", "3");
-    using Preferences = std::span<const pdflibrary::PreferenceRow>;
-    for (const Preferences rows :
-         {Preferences(pdflibrary::viewerPreferences), Preferences(pdflibrary::furtherPreferences)})
-        for (const pdflibrary::PreferenceRow& row : rows)
-            add(row.pdfName + 1, "null", "null");
+    for (const pdflibrary::PreferenceRow& row : pdflibrary::allPreferences)
+        add(row.pdfName + 1, "null", "null");
     return all;
 }
 

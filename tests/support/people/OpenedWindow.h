@@ -7,7 +7,8 @@
 
 #include <memory>
 
-/// The main window on the screen, with a stand-in for the program and with all that it stores in a folder of the test.
+/// The main window on the screen, with a stand-in for the program and with all that it stores in a
+/// folder of the test.
 inline std::unique_ptr<host::desktop::MainWindow> openedWindow(const QTemporaryDir& folder)
 {
     auto window = std::make_unique<host::desktop::MainWindow>(
