@@ -91,6 +91,10 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given, c
     } else {
         drawChange(*painter, option, area, now, after);
     }
+    if (option.state.testFlag(QStyle::State_HasFocus)) { // some styles hardly show it in a selected row
+        painter->setPen(QPen(textColor(option, false), 1, Qt::DotLine));
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
     painter->restore();
 }
 

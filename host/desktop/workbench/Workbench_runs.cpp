@@ -85,11 +85,11 @@ void Workbench::endRunning(const ChildRun::Ending& ending)
 
 QString Workbench::resultFolder() const
 {
+    const bool isInFolder = m_lastOrder.destination.kind == Destination::Kind::Folder;
+    if (m_machine.state() != State::Results || !isInFolder)
+        return {};
     const Counts now = counts();
-    const bool isThere = m_machine.state() == State::Results && now.changed + now.unchanged > 0;
-    return isThere && m_lastOrder.destination.kind == Destination::Kind::Folder
-               ? m_lastOrder.destination.folderPath()
-               : QString();
+    return now.changed + now.unchanged > 0 ? m_lastOrder.destination.folderPath() : QString();
 }
 
 /// What a run has changed that broke off is not known, if it began at all.
