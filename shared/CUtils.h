@@ -87,6 +87,6 @@ public:
     static bool pmap_quad_rect(double uStart, double vStart, double uEnd, double vEnd, QPointF p0, QPointF p1,
                                QPointF p2, QPointF p3, QTransform& rectToQuad);
 
-private:
+    /// As SetAppName left it, empty before.
     static QString mApplicationName;
 };

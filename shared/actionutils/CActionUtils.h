@@ -156,7 +156,7 @@ public:
     /// \returns a tool image of the host's resources.
     static QIcon GetIconForTool(QString name);
 
-    /// As SetTargetLabels left them, null before; only the helpers above know whether the widgets still live.
+    /// The target widgets; null before SetTargetLabels. Whoever sets them here sees to it that they live.
     static QLabel* mNavBarLabel;
     static QTextEdit* mInfoLabel;
 
