@@ -322,15 +322,4 @@ std::vector<std::string> optionsOf(const ViewChange& change)
     return options;
 }
 
-std::string inWords(const ViewChange& change)
-{
-    std::string text;
-    for (const Description& each : viewentries::all())
-        if (const std::optional<ViewValue>& value = change[each.entry])
-            text += viewentries::label(each.entry) + ": " + wordOf(each.entry, *value) +
-                    (each.entry == ViewEntry::Title && change.keepsTitles() ? " (where there is none)" : "") +
-                    "\n";
-    return text;
-}
-
 } // namespace host::viewvalues
