@@ -2,7 +2,8 @@
 
 #include "host/desktop/look/Drawings.h"
 #include "host/desktop/look/PlainLabel.h"
-#include "host/desktop/look/WheelGuard.h"
+
+#include "shared/frame/CWheelFocusFilter.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -15,7 +16,7 @@ DestinationRow::DestinationRow(QWidget* parent)
 {
     nameParts();
     m_kind->addItems({tr("The documents themselves"), tr("A folder"), tr("Beside them, under another name")});
-    new WheelGuard(m_kind);
+    new CWheelFocusFilter(m_kind);
     m_kind->setAccessibleName(tr("Write to"));
     m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_kind->setWhatsThis(
