@@ -5,7 +5,6 @@
 
 #include "shared/frame/CWheelFocusFilter.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 
 namespace host::desktop {
