@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <climits>
 #include <cmath>
 
 namespace host::viewvalues {

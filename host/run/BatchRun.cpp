@@ -24,7 +24,6 @@
 #include <functional>
 #include <new>
 #include <set>
-#include <stdexcept>
 
 namespace host {
 
