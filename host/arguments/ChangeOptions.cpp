@@ -7,7 +7,6 @@
 #include "host/document/PresentView.h"
 #include "host/model/ModelView.h"
 #include "host/settings/SetOption.h"
-#include "host/settings/SettingsFolder.h"
 #include "host/settings/SettingsNotes.h"
 #include "host/terminal/UsageError.h"
 
@@ -29,9 +28,7 @@ ViewChange asChange(const PresentView& present)
 
 void ChangeOptions::take(OptionParser& parser)
 {
-    parser.takeValue("list", appendTo(m_lists));
-    parser.takeValue("favorite", appendTo(m_favorites));
-    parser.takeValue("tool-settings", appendTo(m_toolSettings));
+    m_stored.take(parser);
     parser.takeValue("set", appendTo(m_settingWords));
     takeViewOptions(parser);
 }
@@ -50,8 +47,7 @@ void ChangeOptions::takeViewOptions(OptionParser& parser)
 
 void ChangeOptions::check() const
 {
-    const std::size_t sources = m_lists.size() + m_favorites.size() + m_toolSettings.size() +
-                                (m_settingWords.empty() ? 0 : 1) + (changesView() ? 1 : 0);
+    const std::size_t sources = m_stored.count() + (m_settingWords.empty() ? 0 : 1) + (changesView() ? 1 : 0);
     if (sources != 1)
         throw UsageError(sources == 0
                              ? "which settings? Give view options (--page-mode, ...), --list, --favorite, "
@@ -103,15 +99,9 @@ void ChangeOptions::readChange(std::string_view password, Cell& cell)
 
 void ChangeOptions::readSettings()
 {
-    if (!m_lists.empty()) {
-        m_filesRead.push_back(SettingsFolder::actionLists().find(m_lists.front()));
-        m_entries = settingsfile::readActionList(m_filesRead.back());
-    } else if (!m_favorites.empty()) {
-        m_filesRead.push_back(SettingsFolder::favorites().find(m_favorites.front()));
-        m_entries = settingsfile::readFavorite(m_filesRead.back());
-    } else if (!m_toolSettings.empty()) {
-        m_filesRead.push_back(m_toolSettings.front());
-        m_entries = settingsfile::readToolSettings(m_filesRead.back());
+    if (m_stored.count() != 0) {
+        m_filesRead.push_back(m_stored.find());
+        m_entries = m_stored.read(m_filesRead.back());
     } else {
         ActionEntry entry{initialview::actionName, {}};
         for (const std::string& word : m_settingWords)

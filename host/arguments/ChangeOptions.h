@@ -1,7 +1,7 @@
 #pragma once
 
+#include "StoredOptions.h"
 #include "host/change/ViewChange.h"
-#include "host/settings/SettingsFile.h"
 
 #include <optional>
 #include <string>
@@ -45,9 +45,7 @@ private:
     void readSettings();
     std::string noteOnLanguage() const;
 
-    std::vector<std::string> m_lists;
-    std::vector<std::string> m_favorites;
-    std::vector<std::string> m_toolSettings;
+    StoredOptions m_stored;
     std::vector<std::string> m_settingWords;
     std::optional<std::string> m_viewFile;
     std::optional<std::string> m_model;

@@ -68,9 +68,7 @@ int ConfigureCommand::work(const std::vector<std::string>& words)
 
 void ConfigureCommand::takeOptions(OptionParser& parser)
 {
-    parser.takeValue("list", appendTo(m_lists));
-    parser.takeValue("favorite", appendTo(m_favorites));
-    parser.takeValue("tool-settings", appendTo(m_toolSettings));
+    m_stored.take(parser);
     parser.takeValue("entry", [this](const std::string& value) {
         m_entry = numberOption("--entry", value, 1, mostEntries);
     });
@@ -88,25 +86,22 @@ void ConfigureCommand::check() const
 {
     if (m_documents.size() > 1)
         throw UsageError("configure takes one document, not " + std::to_string(m_documents.size()));
-    if (m_lists.size() + m_favorites.size() + m_toolSettings.size() > 1)
+    if (m_stored.count() > 1)
         throw UsageError("settings come from one file: --list, --favorite or --tool-settings");
-    if (m_entry != 0 && m_lists.empty())
+    if (m_entry != 0 && !m_stored.namesList())
         throw UsageError("--entry goes with --list");
     m_password.check();
 }
 
 void ConfigureCommand::readSettings()
 {
-    if (!m_lists.empty()) {
-        m_source.file = SettingsFolder::actionLists().find(m_lists.front());
+    if (m_stored.count() == 0)
+        return;
+    m_source.file = m_stored.find();
+    if (m_stored.namesList())
         chooseEntry(settingsfile::describeActionList(m_source.file));
-    } else if (!m_favorites.empty()) {
-        m_source.file = SettingsFolder::favorites().find(m_favorites.front());
-        m_settings = settingsfile::readFavorite(m_source.file).front().settings;
-    } else if (!m_toolSettings.empty()) {
-        m_source.file = m_toolSettings.front();
-        m_settings = settingsfile::readToolSettings(m_source.file).front().settings;
-    }
+    else
+        m_settings = m_stored.read(m_source.file).front().settings;
 }
 
 void ConfigureCommand::chooseEntry(const StoredSettings& list)

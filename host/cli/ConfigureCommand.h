@@ -3,6 +3,7 @@
 #include "Command.h"
 
 #include "host/arguments/PasswordOptions.h"
+#include "host/arguments/StoredOptions.h"
 #include "host/cell/Cell.h"
 #include "host/settings/DialogSettings.h"
 #include "host/settings/SettingsFile.h"
@@ -41,9 +42,7 @@ private:
     static int tell(const SettingsOutput::Outcome& outcome);
 
     std::vector<std::string> m_documents;
-    std::vector<std::string> m_lists;
-    std::vector<std::string> m_favorites;
-    std::vector<std::string> m_toolSettings;
+    StoredOptions m_stored;
     PasswordOptions m_password;
     int m_entry = 0; // 0 is none in particular
     bool m_all = false;
