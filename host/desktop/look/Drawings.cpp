@@ -1,5 +1,7 @@
 #include "Drawings.h"
 
+#include "host/desktop/preview/ColorMix.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -8,14 +10,6 @@ namespace host::desktop::drawings {
 namespace {
 
 const int grid = 16;
-
-QColor mix(const QColor& one, const QColor& other, double share)
-{
-    const auto part = [share](int left, int right) {
-        return static_cast<int>(left * share + right * (1 - share));
-    };
-    return {part(one.red(), other.red()), part(one.green(), other.green()), part(one.blue(), other.blue())};
-}
 
 QPainterPath furtherShapeOf(Sign sign)
 {

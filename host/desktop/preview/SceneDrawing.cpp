@@ -1,5 +1,7 @@
 #include "SceneDrawing.h"
 
+#include "ColorMix.h"
+
 #include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QLocale>
@@ -19,12 +21,8 @@ const double ratio = 1.414; // of a page that is not known, as of most paper
 
 QColor SceneDrawing::mix(double share) const
 {
-    const QColor text = m_palette.color(QPalette::Active, QPalette::Text);
-    const QColor base = m_palette.color(QPalette::Active, QPalette::Base);
-    const auto part = [share](int one, int other) {
-        return static_cast<int>(one * share + other * (1 - share));
-    };
-    return {part(text.red(), base.red()), part(text.green(), base.green()), part(text.blue(), base.blue())};
+    return desktop::mix(m_palette.color(QPalette::Active, QPalette::Text),
+                        m_palette.color(QPalette::Active, QPalette::Base), share);
 }
 
 void SceneDrawing::paint(QPainter& painter, const QRectF& area)
