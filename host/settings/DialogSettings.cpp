@@ -31,9 +31,13 @@ constexpr std::array preferences{
     Preference{key::Show, ViewEntry::DisplayDocTitle},
 };
 
-/// Preferences that have no widget.
-constexpr std::array hiddenEntries{ViewEntry::Direction, ViewEntry::PrintScaling, ViewEntry::Duplex,
-                                   ViewEntry::PickTrayByPDFSize, ViewEntry::NumCopies};
+/// Whether it is a preference that has no widget. The one of full screen shows with the page mode.
+bool isHidden(const viewentries::Description& entry)
+{
+    const auto isShown = [&entry](const Preference& each) { return each.entry == entry.entry; };
+    return entry.preference != 0 && entry.entry != ViewEntry::NonFullScreenPageMode &&
+           std::none_of(preferences.begin(), preferences.end(), isShown);
+}
 
 /// What a preference that is missing reads as.
 int absentNumber(ViewEntry preference)
@@ -169,9 +173,7 @@ void DialogSettings::noteInvalid()
 {
     Note note{"what it has is invalid: ", "another is chosen", {}};
     for (const viewentries::Description& each : viewentries::all()) {
-        const bool isHidden =
-            std::find(hiddenEntries.begin(), hiddenEntries.end(), each.entry) != hiddenEntries.end();
-        if (isHidden || m_present[each.entry] != ViewValue(Invalid()))
+        if (isHidden(each) || m_present[each.entry] != ViewValue(Invalid()))
             continue;
         note.what += (note.entries.empty() ? "" : ", ") + viewentries::label(each.entry);
         note.entries.push_back(each.entry);
@@ -183,10 +185,11 @@ void DialogSettings::noteInvalid()
 void DialogSettings::noteHidden()
 {
     std::string list;
-    for (const ViewEntry each : hiddenEntries)
-        if (const auto& value = m_present[each]; value && *value != ViewValue(Unset()))
-            list += (list.empty() ? "" : ", ") + viewentries::label(each) + " (" +
-                    viewvalues::told(each, *value) + ")";
+    for (const viewentries::Description& each : viewentries::all())
+        if (const auto& value = m_present[each.entry];
+            isHidden(each) && value && *value != ViewValue(Unset()))
+            list += (list.empty() ? "" : ", ") + viewentries::label(each.entry) + " (" +
+                    viewvalues::told(each.entry, *value) + ")";
     if (!list.empty())
         m_notes.push_back(
             {"the window does not show everything that it has, and leaves it: " + list, {}, {}});

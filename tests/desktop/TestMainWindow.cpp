@@ -49,10 +49,16 @@ private slots:
         QVERIFY(!button("Add Folder…")->isVisible());
     }
 
-    void offersEveryEntry()
+    void offersEveryEntryAndItsValues()
     {
-        for (const viewentries::Description& entry : viewentries::all())
+        for (const viewentries::Description& entry : viewentries::all()) {
             QVERIFY2(m_window->findChild<QWidget*>(entry.option) != nullptr, entry.option);
+            const auto values = viewtexts::choices(entry.entry);
+            if (entry.kind == viewentries::Kind::Flag)
+                QVERIFY2(values.size() == 2, entry.option);
+            for (const viewentries::Name& name : entry.names)
+                QVERIFY2(std::ranges::count(values, ViewValue(name.number)) == 1, name.name);
+        }
     }
 
     void leavesASessionAloneThatItCannotRead()

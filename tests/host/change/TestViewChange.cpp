@@ -49,8 +49,10 @@ private slots:
     void takesEveryWord_data()
     {
         const Rows<QByteArray, std::string, std::string, QByteArray> add;
-        const auto row = [&add](const char* option, const char* word, const char* printed, const char* json) {
+        QStringList tried;
+        const auto row = [&](const char* option, const char* word, const char* printed, const char* json) {
             add(QString("%1 %2").arg(option, word), option, word, printed, json);
+            tried << QString("%1 %2").arg(option, printed);
         };
         const std::pair<const char*, const char*> modes[] = {{"use-none", "UseNone"},
                                                              {"use-outlines", "UseOutlines"},
@@ -117,6 +119,11 @@ private slots:
         row("title", "", "", R"({"title":null})");
         row("lang", "pt-BR", "pt-BR", R"({"lang":"pt-BR"})");
         row("lang", "unset", "unset", R"({"lang":null})");
+        for (const viewentries::Description& entry : viewentries::all()) {
+            QVERIFY2(!tried.filter(QString(entry.option) + ' ').isEmpty(), entry.option);
+            for (const viewentries::Name& name : entry.names)
+                QVERIFY2(tried.contains(QString("%1 %2").arg(entry.option, name.word)), name.word);
+        }
     }
 
     void takesEveryWord()

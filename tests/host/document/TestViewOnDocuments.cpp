@@ -172,19 +172,17 @@ std::vector<Entry> preferences()
     const auto addName = [&](const char* key, const QByteArray& name) {
         add(key, "\"" + name + "\"", "/" + name);
     };
-    for (const char* flag : {"HideToolbar", "HideMenubar", "HideWindowUI", "CenterWindow", "DisplayDocTitle",
-                             "PickTrayByPDFSize"})
-        add(flag, "true", "true");
-    add("FitWindow", "false", "false");
-    for (const char* name : {"UseNone", "UseOutlines", "UseThumbs", "UseAttachments"})
-        addName("NonFullScreenPageMode", name);
-    addName("Direction", "R2L");
-    addName("PrintScaling", "None");
-    addName("Duplex", "DuplexFlipShortEdge");
-    addName("Duplex", "DuplexFlipLongEdge");
-    add("NumCopies", "3", "3");
-    for (const pdflibrary::PreferenceRow& row : pdflibrary::allPreferences)
+    const QByteArray present = everyPreference;
+    for (const pdflibrary::PreferenceRow& row : pdflibrary::allPreferences) {
+        const QByteArray name = row.pdfName;
+        const QByteArray other = row.isNumber ? "3" : present.contains(name + " true") ? "false" : "true";
+        if (row.names.empty())
+            add(row.pdfName + 1, other, other);
+        for (const char* each : row.names)
+            if (*each != '\0' && !present.contains(name + ' ' + each))
+                addName(row.pdfName + 1, each + 1);
         add(row.pdfName + 1, "null", "null");
+    }
     return all;
 }
 
