@@ -113,7 +113,8 @@ private slots:
                 (*heard)[piece] = true;
                 ends[piece] += outcome.answer.substr(0, outcome.answer.find_last_not_of(' ') + 1) +
                                outcome.failure.text + outcome.note;
-                usleep(each == 1 && piece == 100 ? 2'300'000 : 0);
+                if (each == 1 && piece == 100)
+                    usleep(2'300'000);
             };
             RunControl control;
             Cell cell(Sandbox::Default);
