@@ -8,7 +8,6 @@
 #include "host/desktop/dialogs/HistoryDialog.h"
 #include "host/desktop/list/DetailLine.h"
 #include "host/desktop/look/PaneRing.h"
-#include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
 #include "host/desktop/presets/PresetFolder.h"
@@ -59,7 +58,7 @@ MainWindow::Places MainWindow::Places::ofUser()
 MainWindow::MainWindow(const Places& places)
     : m_settings(places.settings, QSettings::IniFormat), m_views(places.views), m_drawer(places.drawer),
       m_workbench(places.program, places.reports), m_session(m_workbench, places.sessions), m_actions(this),
-      m_commands(m_workbench, m_actions, this)
+      m_commands(m_workbench, m_actions, m_settings, this)
 {
     setObjectName(
         "QuintarClass"); // the dialogs of actions take their colours and place from a window of this name
@@ -213,7 +212,7 @@ void MainWindow::showState()
     m_bar->setEnabled(documents > 0 || m_workbench.machine().state() == State::Reading);
     QString title = tr("Quintar");
     if (documents > 0)
-        title = tr("%n document(s) - Quintar", "", documents);
+        title = tr("%Ln document(s) - Quintar", "", documents);
     if (isWorking)
         title = tr("%1 % - Quintar").arg(static_cast<int>(share * 100));
     setWindowTitle(title);
@@ -251,13 +250,10 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (m_workbench.machine().isWriting()) {
         event->ignore();
-        return dialogs::confirm(
-            this, tr("A run is under way. Stop it and close?"),
-            tr("Documents that are being worked on are finished; the others stay as they are."),
-            tr("&Stop and Close"), [this] {
-                m_closesAtEnd = true;
-                m_workbench.machine().isWriting() ? m_workbench.stop() : runEnded();
-            });
+        return m_commands.askToClose([this] {
+            m_closesAtEnd = true;
+            m_workbench.machine().isWriting() ? m_workbench.stop() : runEnded();
+        });
     }
     saveGeometryOnce();
     event->accept();

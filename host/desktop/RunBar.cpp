@@ -68,6 +68,7 @@ void RunBar::layOutParts()
     row->addWidget(m_progress);
     for (QPushButton* each : {m_why, m_again, m_save, m_results, m_undo, m_pause, m_stop})
         row->addWidget(each);
+    m_text->setMinimumHeight(2 * m_text->fontMetrics().lineSpacing()); // counts and reasons of a run in two lines
     setMinimumHeight(m_stop->sizeHint().height() + 14);
 }
 
@@ -136,7 +137,7 @@ void RunBar::show()
     m_sign->setVisible(!m_said.isEmpty() && m_isTrouble);
     m_why->setVisible((areResults ? counts.failed > 0 : state == State::Ready && counts.cannot > 0) &&
                       m_workbench.order().filter().kind() != why());
-    m_why->setText(areResults ? tr("Show %n Fa&iled", "", counts.failed) : tr("Show Wh&y"));
+    m_why->setText(areResults ? tr("Show %Ln Fa&iled", "", counts.failed) : tr("Show Wh&y"));
     m_results->setVisible(!m_workbench.resultFolder().isEmpty());
     m_undo->setVisible(areResults && counts.changed > 0 && m_workbench.undoableRun() == 0);
     m_again->setVisible(areResults && counts.failed + counts.notDone > 0);
@@ -175,7 +176,7 @@ QString RunBar::countsInWords() const
     case State::Empty:
         return tr("The list is empty.");
     case State::Reading:
-        return tr("Reading… %n document(s) so far", "", m_workbench.table().count());
+        return tr("Reading… %Ln document(s) so far", "", m_workbench.table().count());
     case State::Checking: {
         const QString problem = m_workbench.destination().problem();
         return !problem.isEmpty() ? problem : tr("Finding out what would change… %1").arg(done);
@@ -228,24 +229,30 @@ QString RunBar::reasonsInWords(const Workbench::Counts& counts)
 QString RunBar::plannedInWords(const Workbench::Counts& counts)
 {
     QString text =
-        counts.willChange == 0 ? tr("Nothing would change") : tr("%n will change", "", counts.willChange);
+        counts.willChange == 0 ? tr("Nothing would change") : tr("%Ln will change", "", counts.willChange);
     if (counts.asAsked > 0)
-        text += "  ·  " + tr("%n open so already", "", counts.asAsked);
+        text += "  ·  " + tr("%Ln open so already", "", counts.asAsked);
     if (counts.cannot > 0)
-        text += "  ·  " + tr("%n cannot be changed", "", counts.cannot) + reasonsInWords(counts);
+        text += "  ·  " + tr("%Ln cannot be changed", "", counts.cannot) + reasonsInWords(counts);
     return text;
 }
 
 QString RunBar::doneInWords(const Workbench::Counts& counts)
 {
-    QString text = tr("%n changed", "", counts.changed);
+    QStringList texts;
+    if (counts.written + counts.copied == 0)
+        texts += tr("%Ln changed", "", counts.changed);
+    else
+        texts += tr("%Ln written", "", counts.written);
+    if (counts.copied > 0)
+        texts += tr("%Ln copied as they were", "", counts.copied);
     if (counts.unchanged > 0)
-        text += "  ·  " + tr("%n as they were", "", counts.unchanged);
+        texts += tr("%Ln as they were", "", counts.unchanged);
     if (counts.failed > 0)
-        text += "  ·  " + tr("%n failed", "", counts.failed) + reasonsInWords(counts);
+        texts += tr("%Ln failed", "", counts.failed) + reasonsInWords(counts);
     if (counts.notDone > 0)
-        text += "  ·  " + tr("%n not done", "", counts.notDone);
-    return text;
+        texts += tr("%Ln not done", "", counts.notDone);
+    return texts.join("  ·  ");
 }
 
 QString RunBar::timeLeft() const
@@ -255,8 +262,8 @@ QString RunBar::timeLeft() const
         return {};
     const double each = double(m_running.elapsed()) / task->done();
     const int seconds = static_cast<int>(each * (task->total() - task->done()) / 1000) + 1;
-    return "  ·  " + (seconds < 90 ? tr("about %n second(s) left", "", seconds)
-                                   : tr("about %n minute(s) left", "", (seconds + 30) / 60));
+    return "  ·  " + (seconds < 90 ? tr("about %Ln second(s) left", "", seconds)
+                                   : tr("about %Ln minute(s) left", "", (seconds + 30) / 60));
 }
 
 /// Screen readers hear of it without the focus being there.

@@ -150,7 +150,7 @@ private slots:
         auto* question = m_window->findChild<StartQuestion*>();
         QVERIFY(question->isVisible());
         QCOMPARE(StartQuestion::question(m_window->workbench()),
-                 QString("%n document(s) will be changed in place.").replace("%n", "1"));
+                 QString("%Ln document(s) will be changed in place.").replace("%Ln", "1"));
         QCOMPARE(m_fake->starts().filter("--report").size(), 0);
         QTest::keyClick(question, Qt::Key_Return);
         QTRY_COMPARE(state(), State::Results);
@@ -409,7 +409,7 @@ private:
         QVERIFY(QApplication::activePopupWidget() == nullptr);
     }
     QTableView* list() const { return find<QTableView>("Documents"); }
-    QString status() const { return find<QLabel>("Status")->text().replace("%n", "1"); }
+    QString status() const { return find<QLabel>("Status")->text().replace("%Ln", "1"); }
     QString cell(int row, Column column) const
     {
         return list()->model()->index(row, int(column)).data(Qt::AccessibleTextRole).toString();

@@ -3,8 +3,11 @@
 #include "ActionTable.h"
 
 #include "host/desktop/presets/ActionDialog.h"
+#include "host/desktop/session/LastFolders.h"
 #include "host/desktop/texts/ReasonTexts.h"
 #include "host/desktop/workbench/Workbench.h"
+
+#include <functional>
 
 namespace host::desktop {
 
@@ -14,7 +17,8 @@ class Commands : public QObject
     Q_OBJECT
 
 public:
-    Commands(Workbench& workbench, ActionTable& actions, QWidget* window);
+    /// \param settings where it is kept in which folders documents were last looked for.
+    Commands(Workbench& workbench, ActionTable& actions, QSettings& settings, QWidget* window);
 
     void addFiles();
     void addFolder();
@@ -28,6 +32,8 @@ public:
     void configure();
     void showHistory();
     void help(reasontexts::Remedy remedy);
+    /// Asks whether what is under way is to be stopped. \param then what follows if so.
+    void askToClose(const std::function<void()>& then);
 
 signals:
     void said(const QString& text);
@@ -54,6 +60,7 @@ private:
     ActionTable& m_actions;
     QWidget* m_window;
     ActionDialog m_dialog;
+    LastFolders m_folders;
 };
 
 } // namespace host::desktop

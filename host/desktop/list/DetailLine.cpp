@@ -2,6 +2,9 @@
 
 #include "host/desktop/look/PlainLabel.h"
 #include "host/desktop/rows/RowTexts.h"
+#include "host/desktop/texts/PlainText.h"
+
+#include <QFile>
 
 #include <QHBoxLayout>
 
@@ -11,8 +14,10 @@ namespace {
 
 QString textOf(const DocumentRecord& record)
 {
-    const QString state = rowtexts::stateOf(record);
     const Outcome* outcome = record.outcome();
+    QString state = rowtexts::stateOf(record);
+    if (outcome != nullptr && !outcome->file.isEmpty())
+        state = DetailLine::tr("%1, %2").arg(state, plaintext::shown(QFile::decodeName(outcome->file)));
     QString more = rowtexts::reasonOf(record);
     if (outcome != nullptr && more.isEmpty())
         more = rowtexts::differences(*outcome);

@@ -88,7 +88,7 @@ void FilterBar::tell()
     const int all = m_workbench.table().count();
     const int shown = m_workbench.order().shown().size();
     m_count->setText(shown == all
-                         ? tr("%n document(s)", "", all)
+                         ? tr("%Ln document(s)", "", all)
                          : tr("%1 of %2 shown").arg(QLocale().toString(shown), QLocale().toString(all)));
     m_all->setVisible(!m_workbench.order().filter().isOpen());
 }

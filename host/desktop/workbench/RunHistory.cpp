@@ -199,7 +199,9 @@ QString RunHistory::textOf(const Run& run, int column) const
     case Where:
         return run.where;
     case HowMany:
-        return run.changed < 0 ? tr("not known") : tr("%n changed", "", run.changed);
+        return run.changed < 0 ? tr("not known")
+               : run.isInPlace ? tr("%Ln changed", "", run.changed)
+                               : tr("%Ln written", "", run.changed);
     case State:
         return run.isUndone    ? tr("undone")
                : run.isInPlace ? tr("can be undone")

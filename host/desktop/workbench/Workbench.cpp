@@ -254,9 +254,8 @@ void Workbench::leaveResults()
 {
     if (m_machine.state() != State::Results)
         return;
-    const bool inPlace = m_lastOrder.destination.kind == Destination::Kind::InPlace;
-    changeAll([inPlace](DocumentRecord& record) {
-        if (inPlace && record.result && record.facts && record.result->kind == Outcome::Kind::Changed) {
+    changeAll([](DocumentRecord& record) {
+        if (record.facts && record.state() == DocumentRecord::State::Changed) {
             auto facts = std::make_shared<DocumentFacts>(*record.facts);
             facts->view.view.add(record.result->after.view);
             if (record.result->after.view[ViewEntry::OpenPage])
@@ -320,7 +319,7 @@ void Workbench::endReading(const ChildRun::Ending& ending)
     else if (ending.wasStopped && wasLooking)
         emit said(tr("Reading was stopped. What was not found until then is not in the list."));
     else if (known > 0)
-        emit said(tr("%n document(s) were in the list already.", "", known));
+        emit said(tr("%Ln document(s) were in the list already.", "", known));
     m_passwordTrial.restore(m_table);
     m_machine.handle(m_table.count() > 0 ? Step::Read : Step::Emptied);
     m_order.settle();
@@ -360,6 +359,8 @@ Workbench::Counts Workbench::counts() const
         counts.cannot +=
             state == DocumentRecord::State::Cannot || state == DocumentRecord::State::Unreadable ? 1 : 0;
         counts.changed += state == DocumentRecord::State::Changed ? 1 : 0;
+        counts.written += state == DocumentRecord::State::Written ? 1 : 0;
+        counts.copied += state == DocumentRecord::State::Copied ? 1 : 0;
         counts.unchanged += state == DocumentRecord::State::Unchanged ? 1 : 0;
         counts.failed += state == DocumentRecord::State::Failed ? 1 : 0;
         if (record.isInTrouble())

@@ -89,7 +89,7 @@ QString Workbench::resultFolder() const
     if (m_machine.state() != State::Results || !isInFolder)
         return {};
     const Counts now = counts();
-    return now.changed + now.unchanged > 0 ? m_lastOrder.destination.folderPath() : QString();
+    return now.written + now.copied > 0 ? m_lastOrder.destination.folderPath() : QString();
 }
 
 /// What a run has changed that broke off is not known, if it began at all.
@@ -102,7 +102,8 @@ void Workbench::writeDown(const Running& running, bool isComplete)
     done.reports = running.reports();
     const bool hasBegun = std::any_of(done.reports.begin(), done.reports.end(),
                                       [](const QString& report) { return QFile::exists(report); });
-    done.changed = isComplete || !hasBegun ? counts().changed : -1;
+    const Counts now = counts();
+    done.changed = isComplete || !hasBegun ? now.changed + now.written + now.copied : -1;
     const auto& [note, problem] = m_history.add(done, m_lastNote);
     m_lastNote = note;
     if (!problem.isEmpty())
@@ -133,11 +134,11 @@ void Workbench::endUndoing(const ChildRun::Ending& ending)
     if (!ending.isComplete && undone == 0)
         emit failed(ending.words.isEmpty() ? tr("Undoing broke off.") : ending.words);
     else if (ending.wasStopped)
-        emit said(tr("Undoing was stopped: %n document(s) are as they were before the run.", "", undone));
+        emit said(tr("Undoing was stopped: %Ln document(s) are as they were before the run.", "", undone));
     else if (leftAlone == 0)
-        emit said(tr("%n document(s) are as they were before the run.", "", undone));
+        emit said(tr("%Ln document(s) are as they were before the run.", "", undone));
     else
-        emit failed(tr("%n document(s) were left alone, since they are no longer as the run left them.", "",
+        emit failed(tr("%Ln document(s) were left alone, since they are no longer as the run left them.", "",
                        leftAlone));
     m_history.reload(); // its report may have been passed over while it was locked
     if (ending.isComplete && !ending.wasStopped && leftAlone == 0)
