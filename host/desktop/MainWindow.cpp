@@ -6,6 +6,7 @@
 #include "host/desktop/actions/PresetMenu.h"
 #include "host/desktop/dialogs/HelpWindow.h"
 #include "host/desktop/dialogs/HistoryDialog.h"
+#include "host/desktop/dialogs/StopQuestion.h"
 #include "host/desktop/list/DetailLine.h"
 #include "host/desktop/look/PaneRing.h"
 #include "host/desktop/platform/DroppedNames.h"
@@ -250,7 +251,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (m_workbench.machine().isWriting()) {
         event->ignore();
-        return m_commands.askToClose([this] {
+        return stopquestion::ask(this, m_workbench, tr("&Stop and Close"), [this] {
             m_closesAtEnd = true;
             m_workbench.machine().isWriting() ? m_workbench.stop() : runEnded();
         });

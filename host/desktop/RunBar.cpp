@@ -68,7 +68,8 @@ void RunBar::layOutParts()
     row->addWidget(m_progress);
     for (QPushButton* each : {m_why, m_again, m_save, m_results, m_undo, m_pause, m_stop})
         row->addWidget(each);
-    m_text->setMinimumHeight(2 * m_text->fontMetrics().lineSpacing()); // counts and reasons of a run in two lines
+    m_text->setMinimumHeight(2 *
+                             m_text->fontMetrics().lineSpacing()); // counts and reasons of a run in two lines
     setMinimumHeight(m_stop->sizeHint().height() + 14);
 }
 

@@ -369,19 +369,6 @@ void Commands::askPassword()
         });
 }
 
-void Commands::askToClose(const std::function<void()>& then)
-{
-    if (m_workbench.isUndoing())
-        return dialogs::confirm(
-            m_window, tr("A run is being undone. Stop it and close?"),
-            tr("Documents that are being worked on are finished; the others stay as the run left them, and "
-               "can be given back later."),
-            tr("&Stop and Close"), then);
-    dialogs::confirm(m_window, tr("A run is under way. Stop it and close?"),
-                     tr("Documents that are being worked on are finished; the others stay as they are."),
-                     tr("&Stop and Close"), then);
-}
-
 void Commands::help(reasontexts::Remedy remedy)
 {
     switch (remedy) {

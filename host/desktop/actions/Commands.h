@@ -7,8 +7,6 @@
 #include "host/desktop/texts/ReasonTexts.h"
 #include "host/desktop/workbench/Workbench.h"
 
-#include <functional>
-
 namespace host::desktop {
 
 /// What the actions do: asks what has to be asked and passes it on to the workbench.
@@ -32,8 +30,6 @@ public:
     void configure();
     void showHistory();
     void help(reasontexts::Remedy remedy);
-    /// Asks whether what is under way is to be stopped. \param then what follows if so.
-    void askToClose(const std::function<void()>& then);
 
 signals:
     void said(const QString& text);

@@ -262,10 +262,6 @@
         <translation>Werden geändert</translation>
     </message>
     <message>
-        <source>Were changed</source>
-        <translation>Wurden geändert</translation>
-    </message>
-    <message>
         <source>Failed or cannot be changed</source>
         <translation>Fehlgeschlagen oder nicht änderbar</translation>
     </message>
@@ -284,6 +280,10 @@
     <message>
         <source>Failed in the run</source>
         <translation>Im Durchlauf fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Were changed or written</source>
+        <translation>Wurden geändert oder geschrieben</translation>
     </message>
 </context>
 <context>
@@ -617,6 +617,18 @@
         <source>; </source>
         <translation>; </translation>
     </message>
+    <message>
+        <source>result written</source>
+        <translation>Ergebnis geschrieben</translation>
+    </message>
+    <message>
+        <source>copied as it was</source>
+        <translation>unverändert kopiert</translation>
+    </message>
+    <message>
+        <source>%1, in the result %2</source>
+        <translation>%1, im Ergebnis %2</translation>
+    </message>
 </context>
 <context>
     <name>RunOrder</name>
@@ -653,6 +665,25 @@
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>StopQuestion</name>
+    <message>
+        <source>A run is being undone. Stop undoing it?</source>
+        <translation>Ein Durchlauf wird rückgängig gemacht. Abbrechen?</translation>
+    </message>
+    <message>
+        <source>A run is under way. Stop it?</source>
+        <translation>Ein Durchlauf ist im Gange. Abbrechen?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as the run left them, and the run can be undone later.</source>
+        <translation>Begonnene Dokumente werden zu Ende bearbeitet; die anderen bleiben, wie der Durchlauf sie hinterließ, und er kann später rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Begonnene Dokumente werden zu Ende bearbeitet; die anderen bleiben, wie sie sind.</translation>
     </message>
 </context>
 <context>
@@ -1518,6 +1549,10 @@
         <source>What would change is not known. Read the documents again to try once more.</source>
         <translation>Was sich ändern würde, ist nicht bekannt. Lesen Sie die Dokumente neu ein, um es noch einmal zu versuchen.</translation>
     </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1565,6 +1600,10 @@
         <source>manual.pdf becomes manual-%1.pdf.</source>
         <translation>Aus handbuch.pdf wird handbuch-%1.pdf.</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DetailLine</name>
@@ -1583,6 +1622,10 @@
     <message>
         <source>Select a document to see how it opens.</source>
         <translation>Wählen Sie ein Dokument aus, um zu sehen, wie es sich öffnet.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1747,14 +1790,6 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
 <context>
     <name>host::desktop::Logout</name>
     <message>
-        <source>A run is under way. Stop it and log out?</source>
-        <translation>Ein Durchlauf ist im Gange. Abbrechen und abmelden?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Begonnene Dokumente werden zu Ende bearbeitet; die anderen bleiben, wie sie sind.</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Log Out</source>
         <translation>&amp;Abbrechen und abmelden</translation>
     </message>
@@ -1775,14 +1810,6 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>%1 % - Quintar</source>
         <translation>%1&#xa0;% – Quintar</translation>
-    </message>
-    <message>
-        <source>A run is under way. Stop it and close?</source>
-        <translation>Ein Durchlauf ist im Gange. Abbrechen und schließen?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Begonnene Dokumente werden zu Ende bearbeitet; die anderen bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>&amp;Stop and Close</source>
@@ -2146,6 +2173,20 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <source>What would change is not known. Read the documents again (F5) to find out.</source>
         <translation>Was sich ändern würde, ist nicht bekannt. Lesen Sie die Dokumente neu ein (F5), um es zu erfahren.</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln geschrieben</numerusform>
+            <numerusform>%Ln geschrieben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln copied as they were</source>
+        <translation>
+            <numerusform>%Ln unverändert kopiert</numerusform>
+            <numerusform>%Ln unverändert kopiert</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2199,6 +2240,13 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln geschrieben</numerusform>
+            <numerusform>%Ln geschrieben</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -220,6 +220,20 @@
             <numerusform>about %Ln minutes left</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln written</numerusform>
+            <numerusform>%Ln written</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln copied as they were</source>
+        <translation>
+            <numerusform>%Ln copied as it was</numerusform>
+            <numerusform>%Ln copied as they were</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -228,6 +242,13 @@
         <translation>
             <numerusform>%Ln changed</numerusform>
             <numerusform>%Ln changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln written</numerusform>
+            <numerusform>%Ln written</numerusform>
         </translation>
     </message>
 </context>

@@ -262,10 +262,6 @@
         <translation>Cambiarán</translation>
     </message>
     <message>
-        <source>Were changed</source>
-        <translation>Han cambiado</translation>
-    </message>
-    <message>
         <source>Failed or cannot be changed</source>
         <translation>Fallidos o no modificables</translation>
     </message>
@@ -284,6 +280,10 @@
     <message>
         <source>Failed in the run</source>
         <translation>Fallidos en la ejecución</translation>
+    </message>
+    <message>
+        <source>Were changed or written</source>
+        <translation>Se han cambiado o escrito</translation>
     </message>
 </context>
 <context>
@@ -617,6 +617,18 @@
         <source>; </source>
         <translation>; </translation>
     </message>
+    <message>
+        <source>result written</source>
+        <translation>resultado escrito</translation>
+    </message>
+    <message>
+        <source>copied as it was</source>
+        <translation>copiado como estaba</translation>
+    </message>
+    <message>
+        <source>%1, in the result %2</source>
+        <translation>%1, en el resultado %2</translation>
+    </message>
 </context>
 <context>
     <name>RunOrder</name>
@@ -653,6 +665,25 @@
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>StopQuestion</name>
+    <message>
+        <source>A run is being undone. Stop undoing it?</source>
+        <translation>Se está deshaciendo una ejecución. ¿Dejar de deshacerla?</translation>
+    </message>
+    <message>
+        <source>A run is under way. Stop it?</source>
+        <translation>Hay una ejecución en curso. ¿Detenerla?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as the run left them, and the run can be undone later.</source>
+        <translation>Los documentos en curso se terminan; los demás quedan como los dejó la ejecución, que podrá deshacerse más tarde.</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Los documentos en curso se terminan; los demás quedan como están.</translation>
     </message>
 </context>
 <context>
@@ -1518,6 +1549,10 @@
         <source>What would change is not known. Read the documents again to try once more.</source>
         <translation>No se sabe qué cambiaría. Vuelva a leer los documentos para intentarlo de nuevo.</translation>
     </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1565,6 +1600,10 @@
         <source>manual.pdf becomes manual-%1.pdf.</source>
         <translation>manual.pdf pasa a ser manual-%1.pdf.</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Elegir…</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DetailLine</name>
@@ -1583,6 +1622,10 @@
     <message>
         <source>Select a document to see how it opens.</source>
         <translation>Seleccione un documento para ver cómo se abre.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1747,14 +1790,6 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
 <context>
     <name>host::desktop::Logout</name>
     <message>
-        <source>A run is under way. Stop it and log out?</source>
-        <translation>Hay una ejecución en curso. ¿Detenerla y cerrar la sesión?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Los documentos en curso se terminan; los demás quedan como están.</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Log Out</source>
         <translation>&amp;Detener y cerrar la sesión</translation>
     </message>
@@ -1775,14 +1810,6 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>%1 % - Quintar</source>
         <translation>%1&#xa0;% – Quintar</translation>
-    </message>
-    <message>
-        <source>A run is under way. Stop it and close?</source>
-        <translation>Hay una ejecución en curso. ¿Detenerla y cerrar?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Los documentos en curso se terminan; los demás quedan como están.</translation>
     </message>
     <message>
         <source>&amp;Stop and Close</source>
@@ -2146,6 +2173,20 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <source>What would change is not known. Read the documents again (F5) to find out.</source>
         <translation>No se sabe qué cambiaría. Vuelva a leer los documentos (F5) para averiguarlo.</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln escrito</numerusform>
+            <numerusform>%Ln escritos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln copied as they were</source>
+        <translation>
+            <numerusform>%Ln copiado como estaba</numerusform>
+            <numerusform>%Ln copiados como estaban</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2199,6 +2240,13 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln escrito</numerusform>
+            <numerusform>%Ln escritos</numerusform>
+        </translation>
     </message>
 </context>
 <context>

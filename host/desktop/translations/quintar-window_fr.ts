@@ -262,10 +262,6 @@
         <translation>Seront modifiés</translation>
     </message>
     <message>
-        <source>Were changed</source>
-        <translation>Ont été modifiés</translation>
-    </message>
-    <message>
         <source>Failed or cannot be changed</source>
         <translation>En échec ou non modifiables</translation>
     </message>
@@ -284,6 +280,10 @@
     <message>
         <source>Failed in the run</source>
         <translation>En échec lors du traitement</translation>
+    </message>
+    <message>
+        <source>Were changed or written</source>
+        <translation>Ont été modifiés ou écrits</translation>
     </message>
 </context>
 <context>
@@ -617,6 +617,18 @@
         <source>; </source>
         <translation>&#xa0;; </translation>
     </message>
+    <message>
+        <source>result written</source>
+        <translation>résultat écrit</translation>
+    </message>
+    <message>
+        <source>copied as it was</source>
+        <translation>copié tel quel</translation>
+    </message>
+    <message>
+        <source>%1, in the result %2</source>
+        <translation>%1, dans le résultat %2</translation>
+    </message>
 </context>
 <context>
     <name>RunOrder</name>
@@ -653,6 +665,25 @@
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>StopQuestion</name>
+    <message>
+        <source>A run is being undone. Stop undoing it?</source>
+        <translation>Un traitement est en cours d’annulation. Arrêter l’annulation&#xa0;?</translation>
+    </message>
+    <message>
+        <source>A run is under way. Stop it?</source>
+        <translation>Un traitement est en cours. L’arrêter&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as the run left them, and the run can be undone later.</source>
+        <translation>Les documents en cours sont terminés&#xa0;; les autres restent tels que le traitement les a laissés, et il pourra être annulé plus tard.</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Les documents en cours sont terminés&#xa0;; les autres restent tels quels.</translation>
     </message>
 </context>
 <context>
@@ -1518,6 +1549,10 @@
         <source>What would change is not known. Read the documents again to try once more.</source>
         <translation>On ne sait pas ce qui changerait. Relisez les documents pour réessayer.</translation>
     </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1565,6 +1600,10 @@
         <source>manual.pdf becomes manual-%1.pdf.</source>
         <translation>manuel.pdf devient manuel-%1.pdf.</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DetailLine</name>
@@ -1583,6 +1622,10 @@
     <message>
         <source>Select a document to see how it opens.</source>
         <translation>Sélectionnez un document pour voir comment il s’ouvre.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1747,14 +1790,6 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
 <context>
     <name>host::desktop::Logout</name>
     <message>
-        <source>A run is under way. Stop it and log out?</source>
-        <translation>Un traitement est en cours. L’arrêter et fermer la session&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Les documents en cours sont terminés&#xa0;; les autres restent tels quels.</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Log Out</source>
         <translation>&amp;Arrêter et fermer la session</translation>
     </message>
@@ -1775,14 +1810,6 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>%1 % - Quintar</source>
         <translation>%1&#xa0;% – Quintar</translation>
-    </message>
-    <message>
-        <source>A run is under way. Stop it and close?</source>
-        <translation>Un traitement est en cours. L’arrêter et fermer&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Les documents en cours sont terminés&#xa0;; les autres restent tels quels.</translation>
     </message>
     <message>
         <source>&amp;Stop and Close</source>
@@ -2146,6 +2173,20 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <source>What would change is not known. Read the documents again (F5) to find out.</source>
         <translation>On ne sait pas ce qui changerait. Relisez les documents (F5) pour le savoir.</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln écrit</numerusform>
+            <numerusform>%Ln écrits</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln copied as they were</source>
+        <translation>
+            <numerusform>%Ln copié tel quel</numerusform>
+            <numerusform>%Ln copiés tels quels</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2199,6 +2240,13 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>Undo</source>
         <translation>Annulation</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln écrit</numerusform>
+            <numerusform>%Ln écrits</numerusform>
+        </translation>
     </message>
 </context>
 <context>

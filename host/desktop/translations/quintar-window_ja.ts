@@ -258,10 +258,6 @@
         <translation>変更される</translation>
     </message>
     <message>
-        <source>Were changed</source>
-        <translation>変更された</translation>
-    </message>
-    <message>
         <source>Failed or cannot be changed</source>
         <translation>失敗した、または変更できない</translation>
     </message>
@@ -280,6 +276,10 @@
     <message>
         <source>Failed in the run</source>
         <translation>実行で失敗</translation>
+    </message>
+    <message>
+        <source>Were changed or written</source>
+        <translation>変更または書き出し済み</translation>
     </message>
 </context>
 <context>
@@ -610,6 +610,18 @@
         <source>; </source>
         <translation>、</translation>
     </message>
+    <message>
+        <source>result written</source>
+        <translation>結果を書き出しました</translation>
+    </message>
+    <message>
+        <source>copied as it was</source>
+        <translation>そのままコピーしました</translation>
+    </message>
+    <message>
+        <source>%1, in the result %2</source>
+        <translation>%1、結果では%2</translation>
+    </message>
 </context>
 <context>
     <name>RunOrder</name>
@@ -646,6 +658,25 @@
     <message>
         <source>, </source>
         <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>StopQuestion</name>
+    <message>
+        <source>A run is being undone. Stop undoing it?</source>
+        <translation>実行を取り消しています。取り消しを中止しますか?</translation>
+    </message>
+    <message>
+        <source>A run is under way. Stop it?</source>
+        <translation>実行中です。中止しますか?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as the run left them, and the run can be undone later.</source>
+        <translation>処理中の文書は最後まで処理し、ほかの文書は実行後のままです。実行は後で取り消せます。</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>処理中の文書は最後まで処理し、ほかの文書は元のままです。</translation>
     </message>
 </context>
 <context>
@@ -1507,6 +1538,10 @@
         <source>What would change is not known. Read the documents again to try once more.</source>
         <translation>何が変わるかは不明です。もう一度試すには文書を読み直してください。</translation>
     </message>
+    <message>
+        <source>Result</source>
+        <translation>結果</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1554,6 +1589,10 @@
         <source>manual.pdf becomes manual-%1.pdf.</source>
         <translation>manual.pdf は manual-%1.pdf になります。</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選択…</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DetailLine</name>
@@ -1572,6 +1611,10 @@
     <message>
         <source>Select a document to see how it opens.</source>
         <translation>文書を選ぶと、その開き方が表示されます。</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
     </message>
 </context>
 <context>
@@ -1731,14 +1774,6 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 <context>
     <name>host::desktop::Logout</name>
     <message>
-        <source>A run is under way. Stop it and log out?</source>
-        <translation>実行中です。中止してログアウトしますか?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>処理中の文書は最後まで処理し、ほかの文書は元のままです。</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Log Out</source>
         <translation>中止してログアウト(&amp;S)</translation>
     </message>
@@ -1758,14 +1793,6 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>%1 % - Quintar</source>
         <translation>%1 % - Quintar</translation>
-    </message>
-    <message>
-        <source>A run is under way. Stop it and close?</source>
-        <translation>実行中です。中止して閉じますか?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>処理中の文書は最後まで処理し、ほかの文書は元のままです。</translation>
     </message>
     <message>
         <source>&amp;Stop and Close</source>
@@ -2118,6 +2145,18 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <source>What would change is not known. Read the documents again (F5) to find out.</source>
         <translation>何が変わるか分かっていません。文書を読み直すと (F5) 分かります。</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln 個を書き出し</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln copied as they were</source>
+        <translation>
+            <numerusform>%Ln 個はそのままコピー</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2170,6 +2209,12 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>Undo</source>
         <translation>元に戻す</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln 個を書き出し</numerusform>
+        </translation>
     </message>
 </context>
 <context>
