@@ -159,10 +159,7 @@ void MainWindow::connectParts()
     connect(&m_commands, &Commands::said, m_runBar, &RunBar::say);
     connect(&m_commands, &Commands::failed, m_runBar, &RunBar::complain);
     connect(&m_workbench.machine(), &RunMachine::changed, this, &MainWindow::showState);
-    connect(&m_workbench.machine(), &RunMachine::changed, this, [this] {
-        if (m_workbench.machine().isWriting() && m_change->isAncestorOf(focusWidget()))
-            m_view->setFocus(); // what is disabled would pass the focus on, and scroll there
-    });
+    connect(m_change, &ChangePanel::focusLeaves, this, [this] { m_view->setFocus(); });
     connect(new Logout(m_workbench, this), &Logout::toBeKept, this, &MainWindow::saveGeometryOnce);
     connect(&m_session, &Session::failed, m_runBar, &RunBar::complain);
     connect(&m_commands, &Commands::dialogOpens, &m_session, &Session::save);

@@ -228,6 +228,8 @@ void ChangePanel::edit(ViewEntry entry, const SettingRow::Value& value)
 void ChangePanel::show()
 {
     const bool isOpen = m_workbench.machine().isEnabled(RunMachine::Command::Edit);
+    if (m_workbench.machine().isWriting() && isAncestorOf(window()->focusWidget()))
+        emit focusLeaves(); // before it is passed on from row to row, and the area scrolls there
     const SelectionSummary summary = m_workbench.summary();
     for (SettingRow* row : m_rows) {
         row->setDraft(m_workbench.draft());
