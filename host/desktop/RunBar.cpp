@@ -132,7 +132,7 @@ void RunBar::show()
     const State state = m_workbench.machine().state();
     const Workbench::Counts counts = m_workbench.counts();
     const bool areResults = state == State::Results;
-    m_text->setText(m_said.isEmpty() ? countsInWords() : m_said);
+    m_text->setText(textToShow());
     m_text->setToolTip(plaintext::tip(m_text->text()));
     m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
     m_sign->setVisible(!m_said.isEmpty() && m_isTrouble);
@@ -159,10 +159,18 @@ void RunBar::showProgress()
         return;
     m_progress->setMaximum(task->total());
     m_progress->setValue(task->done());
-    if (m_said.isEmpty())
-        m_text->setText(countsInWords());
+    m_text->setText(textToShow());
     if (m_workbench.machine().isWriting() && m_announced.hasExpired(announceMilliseconds))
         announce(m_text->text());
+}
+
+/// What went wrong stands before the counts of a run, which has ended all the same.
+QString RunBar::textToShow() const
+{
+    if (m_said.isEmpty())
+        return countsInWords();
+    const bool hasBoth = m_isTrouble && m_workbench.machine().state() == State::Results;
+    return hasBoth ? m_said + "  ·  " + countsInWords() : m_said;
 }
 
 QString RunBar::countsInWords() const

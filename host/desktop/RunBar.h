@@ -43,6 +43,7 @@ private:
     void tell(const QString& text, bool isTrouble);
     void show();
     void showProgress();
+    QString textToShow() const;
     QString countsInWords() const;
     QString listedInWords() const;
     static QString reasonsInWords(const Workbench::Counts& counts);

@@ -216,6 +216,16 @@ void Workbench::collectTargets()
     emit countsChanged();
 }
 
+Workbench::Ids Workbench::startable() const
+{
+    Ids ids;
+    for (const DocumentId id : m_targets)
+        if (const DocumentRecord* record = m_table.find(id);
+            record != nullptr && record->state() != DocumentRecord::State::LeftAlone)
+            ids.append(id);
+    return ids;
+}
+
 void Workbench::markAside()
 {
     const QSet<DocumentId> within(m_targets.begin(), m_targets.end());
@@ -279,8 +289,8 @@ void Workbench::check()
     const Ids chosen = m_order.selected();
     const QSet<DocumentId> first(chosen.begin(), chosen.end());
     Ids ids;
-    for (const DocumentId id : m_targets)
-        if (const DocumentRecord* record = m_table.find(id); record != nullptr && !record->check)
+    for (const DocumentId id : startable())
+        if (!m_table.find(id)->check)
             ids.append(id);
     std::stable_partition(ids.begin(), ids.end(), [&first](DocumentId id) { return first.contains(id); });
     auto* trial = new Running(Running::Mode::Try, m_runOrder, {}, m_table, means(), this);
@@ -356,8 +366,7 @@ Workbench::Counts Workbench::counts() const
             state == DocumentRecord::State::Waiting || state == DocumentRecord::State::Known ? 1 : 0;
         counts.willChange += state == DocumentRecord::State::WillChange ? 1 : 0;
         counts.asAsked += state == DocumentRecord::State::AsAsked ? 1 : 0;
-        counts.cannot +=
-            state == DocumentRecord::State::Cannot || state == DocumentRecord::State::Unreadable ? 1 : 0;
+        counts.cannot += record.isInTrouble() && state != DocumentRecord::State::Failed ? 1 : 0;
         counts.changed += state == DocumentRecord::State::Changed ? 1 : 0;
         counts.written += state == DocumentRecord::State::Written ? 1 : 0;
         counts.copied += state == DocumentRecord::State::Copied ? 1 : 0;

@@ -133,10 +133,13 @@ private:
     void changeAll(const DocumentTable::Change& change);
     void check();
     void collectTargets();
+    /// The targets without those that undoing left alone: they are no longer what they were when they were read.
+    Ids startable() const;
     void markAside();
     void endReading(const ChildRun::Ending& ending);
     void endChecking(const ChildRun::Ending& ending);
     void endRunning(const ChildRun::Ending& ending);
+    void tellOfUndoing(const Undoing& undoing, const ChildRun::Ending& ending);
     void endUndoing(const ChildRun::Ending& ending);
     void addWaiting();
     void addBy(Reading* reading, const QVector<QByteArray>& paths);
