@@ -18,11 +18,12 @@ QString question(const Workbench& workbench)
 QString consequence(const Workbench& workbench)
 {
     return workbench.isUndoing()
-               ? QCoreApplication::translate("StopQuestion",
-                                             "Documents that are being worked on are finished; the others stay "
-                                             "as the run left them, and the run can be undone later.")
-               : QCoreApplication::translate("StopQuestion", "Documents that are being worked on are finished; "
-                                                             "the others stay as they are.");
+               ? QCoreApplication::translate(
+                     "StopQuestion", "Documents that are being worked on are finished; the others stay "
+                                     "as the run left them, and the run can be undone later.")
+               : QCoreApplication::translate("StopQuestion",
+                                             "Documents that are being worked on are finished; "
+                                             "the others stay as they are.");
 }
 
 } // namespace

@@ -534,6 +534,14 @@
         <source>A mistake of this program. Please report it.</source>
         <translation>Ein Fehler dieses Programms. Bitte melden Sie ihn.</translation>
     </message>
+    <message>
+        <source>changed since</source>
+        <translation>seither geändert</translation>
+    </message>
+    <message>
+        <source>disk full</source>
+        <translation>Datenträger voll</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -2247,6 +2255,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
             <numerusform>%Ln geschrieben</numerusform>
             <numerusform>%Ln geschrieben</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>nothing to undo</source>
+        <translation>nichts rückgängig zu machen</translation>
     </message>
 </context>
 <context>

@@ -534,6 +534,14 @@
         <source>A mistake of this program. Please report it.</source>
         <translation>Un error de este programa. Comuníquelo, por favor.</translation>
     </message>
+    <message>
+        <source>changed since</source>
+        <translation>cambiados después</translation>
+    </message>
+    <message>
+        <source>disk full</source>
+        <translation>disco lleno</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -2247,6 +2255,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
             <numerusform>%Ln escrito</numerusform>
             <numerusform>%Ln escritos</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>nothing to undo</source>
+        <translation>nada que deshacer</translation>
     </message>
 </context>
 <context>

@@ -534,6 +534,14 @@
         <source>A mistake of this program. Please report it.</source>
         <translation>Une erreur de ce programme. Veuillez la signaler.</translation>
     </message>
+    <message>
+        <source>changed since</source>
+        <translation>modifiés depuis</translation>
+    </message>
+    <message>
+        <source>disk full</source>
+        <translation>disque plein</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -2247,6 +2255,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
             <numerusform>%Ln écrit</numerusform>
             <numerusform>%Ln écrits</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>nothing to undo</source>
+        <translation>rien à annuler</translation>
     </message>
 </context>
 <context>

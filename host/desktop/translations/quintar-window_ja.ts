@@ -527,6 +527,14 @@
         <source>A mistake of this program. Please report it.</source>
         <translation>このプログラムの誤りです。報告してください。</translation>
     </message>
+    <message>
+        <source>changed since</source>
+        <translation>その後変更</translation>
+    </message>
+    <message>
+        <source>disk full</source>
+        <translation>ディスクの空き不足</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -2215,6 +2223,10 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>
             <numerusform>%Ln 個を書き出し</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>nothing to undo</source>
+        <translation>取り消すものなし</translation>
     </message>
 </context>
 <context>
