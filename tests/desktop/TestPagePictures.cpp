@@ -76,7 +76,7 @@ private:
     /// Keeps two lines of what it is told, and answers.
     QString drawer(const QByteArray& says, const QByteArray& bytes)
     {
-        const QString path = m_folder.filePath("drawer");
+        QString path = m_folder.filePath("drawer");
         QFile::remove(path);
         QFile::remove(m_folder.filePath("heard"));
         QFile file(path);

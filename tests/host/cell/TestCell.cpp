@@ -236,6 +236,7 @@ private:
         for (const QString& word : words)
             arguments.push_back(word.toUtf8());
         std::vector<char*> pointers;
+        pointers.reserve(arguments.size() + 1);
         for (QByteArray& each : arguments)
             pointers.push_back(each.data());
         pointers.push_back(nullptr);
