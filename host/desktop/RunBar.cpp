@@ -135,26 +135,42 @@ void RunBar::show()
     m_text->setText(textToShow());
     m_text->setToolTip(plaintext::tip(m_text->text()));
     m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
-    m_sign->setVisible(!m_said.isEmpty() && m_isTrouble);
-    m_why->setVisible((areResults ? counts.failed > 0 : state == State::Ready && counts.cannot > 0) &&
-                      m_workbench.order().filter().kind() != why());
     m_why->setText(areResults ? tr("Show %Ln Fa&iled", "", counts.failed) : tr("Show Wh&y"));
-    m_results->setVisible(!m_workbench.resultFolder().isEmpty());
-    m_undo->setVisible(areResults && counts.changed > 0 && m_workbench.undoableRun() == 0);
-    m_again->setVisible(areResults && counts.failed + counts.notDone > 0);
-    m_save->setVisible(areResults);
-    m_pause->setVisible(state == State::Running || state == State::Paused);
     m_pause->setText(state == State::Paused ? tr("Go &On") : tr("Pa&use"));
     showProgress(); // which may have become idle
     if (areResults)
         announce(m_text->text());
 }
 
+/// What goes makes room before anything comes: the window would grow for both together.
+void RunBar::showParts()
+{
+    const State state = m_workbench.machine().state();
+    const Workbench::Counts counts = m_workbench.counts();
+    const bool areResults = state == State::Results;
+    const bool isWorking = m_workbench.task() != nullptr;
+    const int cannot = areResults ? counts.failed : state == State::Ready ? counts.cannot : 0;
+    const std::pair<QWidget*, bool> parts[] = {
+        {m_sign, !m_said.isEmpty() && m_isTrouble},
+        {m_why, cannot > 0 && m_workbench.order().filter().kind() != why()},
+        {m_results, !m_workbench.resultFolder().isEmpty()},
+        {m_undo, areResults && counts.changed > 0 && m_workbench.undoableRun() == 0},
+        {m_again, areResults && counts.failed + counts.notDone > 0},
+        {m_save, areResults},
+        {m_pause, state == State::Running || state == State::Paused},
+        {m_progress, isWorking},
+        {m_stop, isWorking && m_workbench.machine().isEnabled(Command::Stop)},
+    };
+    for (const bool comes : {false, true})
+        for (const auto& [part, isShown] : parts)
+            if (isShown == comes)
+                part->setVisible(comes);
+}
+
 void RunBar::showProgress()
 {
     const DocumentTask* task = m_workbench.task();
-    m_progress->setVisible(task != nullptr);
-    m_stop->setVisible(task != nullptr && m_workbench.machine().isEnabled(Command::Stop));
+    showParts();
     if (task == nullptr)
         return;
     m_progress->setMaximum(task->total());

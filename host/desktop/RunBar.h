@@ -42,6 +42,7 @@ private:
     DocumentFilter::Kind why() const;
     void tell(const QString& text, bool isTrouble);
     void show();
+    void showParts();
     void showProgress();
     QString textToShow() const;
     QString countsInWords() const;

@@ -37,6 +37,7 @@ DetailLine::DetailLine(Workbench& workbench, QWidget* parent)
     m_text->setAccessibleName(tr("About the current document"));
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_text->setMinimumWidth(1); // a long name is cut off and does not widen the window
     m_text->setMinimumHeight(m_remedy->sizeHint().height());
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 6, 12, 6);
