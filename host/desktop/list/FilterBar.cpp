@@ -2,6 +2,7 @@
 
 #include "host/desktop/look/Drawings.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -12,6 +13,7 @@ namespace host::desktop {
 namespace {
 
 const int typingMilliseconds = 120;
+const int shortestKind = 14;
 
 } // namespace
 
@@ -23,6 +25,12 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     label->setBuddy(m_kind);
     for (const DocumentFilter::Kind kind : DocumentFilter::kinds())
         m_kind->addItem(DocumentFilter::nameOf(kind), static_cast<int>(kind));
+    // The longest kind would make the window too wide for small screens.
+    m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_kind->setMinimumContentsLength(shortestKind);
+    m_kind->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_kind->view()->setMinimumWidth(m_kind->view()->sizeHintForColumn(0) +
+                                    2 * fontMetrics().averageCharWidth());
     m_kind->setObjectName("filter");
     m_search->setObjectName("search");
     m_count->setObjectName("shownCount");
@@ -41,14 +49,15 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
     row->addWidget(label);
-    row->addWidget(m_kind);
-    row->addWidget(m_search, 1);
+    row->addWidget(m_kind, 1);
+    row->addWidget(m_search, 2);
     row->addWidget(m_count);
     row->addWidget(m_all);
     m_soon.setSingleShot(true);
     m_soon.setInterval(typingMilliseconds);
     connect(&m_soon, &QTimer::timeout, this, &FilterBar::apply);
     connect(m_kind, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &FilterBar::apply);
+    connect(m_kind, &QComboBox::currentTextChanged, m_kind, &QWidget::setToolTip); // where it is cut off
     connect(m_search, &QLineEdit::textChanged, &m_soon, QOverload<>::of(&QTimer::start));
     connect(m_all, &QToolButton::clicked, this, &FilterBar::clear);
     connect(&workbench.order(), &DocumentOrder::shownChanged, this, &FilterBar::tell);

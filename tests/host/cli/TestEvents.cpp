@@ -216,7 +216,8 @@ private slots:
     {
         const auto [words] = Rows<QStringList>::current();
         WorkFolder::put("in/a.pdf", PdfBuilder::simple());
-        const ProgramRun before(PROGRAM_FILE, QStringList{"run", "--in-place", "--report", "report", "in"} + asked);
+        const ProgramRun before(PROGRAM_FILE,
+                                QStringList{"run", "--in-place", "--report", "report", "in"} + asked);
         LiveRun run(PROGRAM_FILE, words + QStringList{"--events", "--control"});
         run.process().write("pause\n");
         run.next("progress");
