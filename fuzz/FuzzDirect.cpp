@@ -1,8 +1,8 @@
 // What the direct reader gives of a document, against libqpdf: single objects, how it opens, and
 // what is appended.
 #include "Oracle.h"
+#include "accounts/ReadingAccount.h"
 #include "engine/syntax/ObjectParser.h"
-#include "support/engine/ReadingAccount.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 // Values as the library's own parser reads them, against libqpdf's.
 #include "Oracle.h"
+#include "accounts/ObjectAccount.h"
 #include "engine/files/EngineError.h"
 #include "engine/syntax/ObjectParser.h"
 #include "engine/syntax/ObjectSerializer.h"
 #include "engine/syntax/SyntaxScanner.h"
-#include "support/engine/ObjectAccount.h"
 
 namespace {
 

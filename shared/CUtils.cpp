@@ -9,6 +9,10 @@
 #include <QStandardPaths>
 #include <QThread>
 
+#include <dlfcn.h>
+
+#include <optional>
+
 QString CUtils::mApplicationName;
 
 namespace {
@@ -18,25 +22,47 @@ const char applicationFolder[] = "Plexor";
 const int lastTempFolderNumber = 99999;
 const int lastTempFileNumber = 9999;
 
-std::optional<bool> openGLSupport;
+/// Where the code of a function was loaded to.
+const void* homeOf(const void* function)
+{
+    Dl_info found{};
+    return dladdr(function, &found) != 0 ? found.dli_fbase : nullptr;
+}
 
-/// QGLFormat::openGLVersionFlags crashes where no context can be made current, so that is tried first.
-std::optional<bool> askOpenGL()
+/// Whether the program has put a function of its own in the place of QGLFormat::openGLVersionFlags.
+bool answersItself()
+{
+    return homeOf(reinterpret_cast<const void*>(&QGLFormat::openGLVersionFlags)) !=
+           homeOf(reinterpret_cast<const void*>(&QGLFormat::hasOpenGL));
+}
+
+/// Qt's own function crashes where no context can be made current, so that is tried first.
+std::optional<int> askQt()
 {
     const auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
     if (application == nullptr || QThread::currentThread() != application->thread())
         return std::nullopt;
     QOpenGLContext context;
     if (!context.create())
-        return false;
+        return 0;
     QOffscreenSurface surface;
     surface.setFormat(context.format());
     surface.create();
     if (!surface.isValid() || !context.makeCurrent(&surface))
-        return false;
+        return 0;
     const int flags = static_cast<int>(QGLFormat::openGLVersionFlags());
     context.doneCurrent();
-    return CUtils::OpenGLFlagsSuffice(flags);
+    return flags;
+}
+
+int openGLFlags()
+{
+    if (answersItself())
+        return static_cast<int>(QGLFormat::openGLVersionFlags());
+    static std::optional<int> answer;
+    if (!answer)
+        answer = askQt();
+    return answer.value_or(0);
 }
 
 void makeMissing(QDir& directory, const QString& path)
@@ -162,19 +188,8 @@ QString CUtils::GetNewTempFile(char* prefix)
     return QString();
 }
 
-bool CUtils::OpenGLFlagsSuffice(int flags)
-{
-    return flags >= 32 && (flags <= 64 || flags >= 2048);
-}
-
 bool CUtils::CheckOpenGLSupport()
 {
-    if (!openGLSupport)
-        openGLSupport = askOpenGL();
-    return openGLSupport.value_or(false);
-}
-
-void CUtils::SetOpenGLSupport(std::optional<bool> answer)
-{
-    openGLSupport = answer;
+    const int flags = openGLFlags();
+    return flags >= 32 && (flags <= 64 || flags >= 2048);
 }

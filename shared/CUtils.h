@@ -5,8 +5,6 @@
 #include <QString>
 #include <QTransform>
 
-#include <optional>
-
 /// The host's per-user folders, fresh temporary names, what the machine can draw, and the arithmetic of
 /// placing items on a page; all static.
 ///
@@ -61,16 +59,9 @@ public:
 
     /// Whether OpenGL is good enough for translucent windows. False without a GUI application, without a
     /// usable driver, and off the GUI thread. The first answer that a GUI application gives is kept, as
-    /// asking takes a context and some time.
+    /// asking takes a context and some time. A program that defines QGLFormat::openGLVersionFlags() itself is
+    /// asked each time.
     static bool CheckOpenGLSupport();
-
-    /// The test behind CheckOpenGLSupport.
-    /// \param flags as QGLFormat::openGLVersionFlags gives them.
-    static bool OpenGLFlagsSuffice(int flags);
-
-    /// Gives CheckOpenGLSupport its answer, for hosts that know better and for tests.
-    /// \param answer std::nullopt lets the machine be asked again.
-    static void SetOpenGLSupport(std::optional<bool> answer);
 
     // Placement. Any thread.
 
@@ -96,6 +87,6 @@ public:
     static bool pmap_quad_rect(double uStart, double vStart, double uEnd, double vEnd, QPointF p0, QPointF p1,
                                QPointF p2, QPointF p3, QTransform& rectToQuad);
 
-private:
+    /// As SetAppName left it, empty before.
     static QString mApplicationName;
 };

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <exception>
 #include <new>
 #include <type_traits>
 

@@ -4,7 +4,6 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 

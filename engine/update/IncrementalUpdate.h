@@ -7,7 +7,6 @@
 #include <qpdf/QPDF.hh>
 
 #include <map>
-#include <memory>
 #include <optional>
 #include <set>
 #include <string>

@@ -1,15 +1,10 @@
 #include "ListOptions.h"
 
 #include "OptionParser.h"
-#include "host/files/FileDescriptor.h"
-#include "host/terminal/NearbyFile.h"
+#include "host/terminal/NamedFile.h"
 #include "host/terminal/UsageError.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 
 namespace host {
 
@@ -49,16 +44,6 @@ std::vector<std::string> ListOptions::read() const
         begin = end + 1;
     }
     return names;
-}
-
-std::string readNamedFile(const std::string& path, std::size_t limit, const char* what)
-{
-    const FileDescriptor file(path == "-" ? dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    std::string bytes;
-    if (!file.isOpen() || !readAll(file.get(), bytes, limit))
-        throw UsageError(std::string(what) + " " + path +
-                         " cannot be read: " + suggestion::whyUnreadable(path, errno));
-    return bytes;
 }
 
 } // namespace host

@@ -30,8 +30,4 @@ private:
     bool m_nullSeparated = false;
 };
 
-/// Reads a file, "-" for standard input. Throws UsageError, also where there are more bytes than `limit`.
-/// \param what the file is called.
-std::string readNamedFile(const std::string& path, std::size_t limit, const char* what);
-
 } // namespace host

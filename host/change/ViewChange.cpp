@@ -24,6 +24,12 @@ const std::optional<ViewValue>& ViewChange::operator[](ViewEntry entry) const
     return m_values.at(static_cast<std::size_t>(entry));
 }
 
+int ViewChange::number(ViewEntry entry, int absent) const
+{
+    const auto& value = (*this)[entry];
+    return value ? numberOf(*value, absent) : absent;
+}
+
 void ViewChange::set(ViewEntry entry, ViewValue value)
 {
     m_values.at(static_cast<std::size_t>(entry)) = std::move(value);

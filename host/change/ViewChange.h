@@ -59,6 +59,13 @@ struct Magnification
 using ViewValue =
     std::variant<Unset, int, Magnification, LastPage, FileNameAsTitle, std::string, Invalid, OtherAction>;
 
+/// The number that a value is; `absent` for every other value.
+inline int numberOf(const ViewValue& value, int absent)
+{
+    const int* number = std::get_if<int>(&value);
+    return number != nullptr ? *number : absent;
+}
+
 /// A change of how a document opens: which entries, and what they are set to. What it does not name stays as
 /// it is.
 class ViewChange
@@ -67,6 +74,8 @@ public:
     bool isEmpty() const;
     /// Nothing for what stays.
     const std::optional<ViewValue>& operator[](ViewEntry entry) const;
+    /// The number that an entry is set to; `absent` for an entry that stays, and for every other value.
+    int number(ViewEntry entry, int absent) const;
     void set(ViewEntry entry, ViewValue value);
     /// The entry stays as it is.
     void remove(ViewEntry entry);

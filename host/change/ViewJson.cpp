@@ -1,8 +1,7 @@
 #include "ViewJson.h"
 
 #include "ViewValues.h"
-#include "host/files/FileDescriptor.h"
-#include "host/terminal/NearbyFile.h"
+#include "host/terminal/NamedFile.h"
 #include "host/terminal/Suggestion.h"
 #include "host/terminal/UsageError.h"
 
@@ -11,12 +10,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <climits>
 #include <cmath>
 
@@ -258,13 +253,14 @@ void parseEntries(const QJsonObject& object, ViewChange& change)
 
 std::string contentOf(const std::string& path)
 {
-    const FileDescriptor file(path == "-" ? dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    std::string bytes;
-    if (!file.isOpen() || !readAll(file.get(), bytes, largestFile))
-        throw UsageError(
-            "the view " + path + " cannot be read: " + suggestion::whyUnreadable(path, errno) +
-            (path.starts_with('{') ? "; --view takes the name of a file, or - for standard input" : ""));
-    return bytes;
+    try {
+        return readNamedFile(path, largestFile, "the view");
+    } catch (const UsageError& error) {
+        if (!path.starts_with('{'))
+            throw;
+        throw UsageError(std::string(error.what()) +
+                         "; --view takes the name of a file, or - for standard input");
+    }
 }
 
 bool saysNothing(const ViewValue& value)

@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <climits>
 #include <cmath>
 
 namespace host::viewvalues {
@@ -320,17 +319,6 @@ std::vector<std::string> optionsOf(const ViewChange& change)
     if (change.keepsTitles())
         options.emplace_back("--title-if-missing");
     return options;
-}
-
-std::string inWords(const ViewChange& change)
-{
-    std::string text;
-    for (const Description& each : viewentries::all())
-        if (const std::optional<ViewValue>& value = change[each.entry])
-            text += viewentries::label(each.entry) + ": " + wordOf(each.entry, *value) +
-                    (each.entry == ViewEntry::Title && change.keepsTitles() ? " (where there is none)" : "") +
-                    "\n";
-    return text;
 }
 
 } // namespace host::viewvalues

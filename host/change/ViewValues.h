@@ -24,9 +24,6 @@ std::string told(ViewEntry entry, const ViewValue& value);
 /// The options of "quintar run" that make the change, a word each: "--page-mode", "use-outlines".
 std::vector<std::string> optionsOf(const ViewChange& change);
 
-/// What the change sets, a line each: "page mode: use-outlines".
-std::string inWords(const ViewChange& change);
-
 /// The name with this number, or with this word, alias or ISO 32000 name; null when there is none.
 const viewentries::Name* nameOf(std::span<const viewentries::Name> names, int number);
 const viewentries::Name* nameOf(std::span<const viewentries::Name> names, const std::string& word);

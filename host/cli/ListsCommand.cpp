@@ -14,8 +14,6 @@
 
 #include <QJsonArray>
 
-#include <unistd.h>
-
 namespace host {
 
 namespace {

@@ -15,9 +15,6 @@ namespace host {
 
 namespace {
 
-const int titleKey = 1;   // of GetInformation
-const int openAction = 0; // of GetActionType: the document's own
-
 bool isSaid(const ViewValue& title)
 {
     const auto* text = std::get_if<std::string>(&title);
@@ -29,14 +26,15 @@ bool isSaid(const ViewValue& title)
 ViewValue PresentView::operator[](ViewEntry entry) const
 {
     const int option = viewentries::describe(entry).preference;
-    ViewValue value = option != 0                      ? numbered(option)
-                      : entry == ViewEntry::PageMode   ? numbered(pdflibrary::PageModeEntry)
-                      : entry == ViewEntry::PageLayout ? numbered(pdflibrary::PageLayoutEntry)
-                      : entry == ViewEntry::OpenPage   ? openPage()
-                      : entry == ViewEntry::Zoom       ? zoom()
-                      : entry == ViewEntry::Title
-                          ? text(m_library.GetInformation(titleKey), pdflibrary::TitleEntry)
-                          : text(m_library.GetCatalogInformation(L"Lang"), pdflibrary::LanguageEntry);
+    ViewValue value =
+        option != 0                      ? numbered(option)
+        : entry == ViewEntry::PageMode   ? numbered(pdflibrary::PageModeEntry)
+        : entry == ViewEntry::PageLayout ? numbered(pdflibrary::PageLayoutEntry)
+        : entry == ViewEntry::OpenPage   ? openPage()
+        : entry == ViewEntry::Zoom       ? zoom()
+        : entry == ViewEntry::Title
+            ? text(m_library.GetInformation(pdflibrary::InformationTitle), pdflibrary::TitleEntry)
+            : text(m_library.GetCatalogInformation(L"Lang"), pdflibrary::LanguageEntry);
     requireRead(entry);
     return value;
 }
@@ -96,7 +94,7 @@ ViewValue PresentView::openPage() const
     const int destination = m_library.GetOpenActionDestination();
     if (destination != 0)
         return m_library.GetDestPage(destination);
-    const std::string type = engine::fileNameFromWide(m_library.GetActionType(openAction));
+    const std::string type = engine::fileNameFromWide(m_library.GetActionType(pdflibrary::OpenAction));
     return type.empty() ? ViewValue(Unset()) : ViewValue(OtherAction{type});
 }
 

@@ -21,9 +21,6 @@ namespace host {
 
 namespace {
 
-const int zoomValue = 5; // of SetDestValue
-const int titleKey = 1;  // of SetInformation
-
 /// A missing entry does the same as an explicit default, and says what an empty text says, so it
 /// needs no change.
 bool isDefault(ViewEntry entry, const ViewValue& value)
@@ -33,13 +30,6 @@ bool isDefault(ViewEntry entry, const ViewValue& value)
     const bool isFlag = viewentries::describe(entry).kind == viewentries::Kind::Flag;
     const bool isMode = entry == ViewEntry::PageMode || entry == ViewEntry::NonFullScreenPageMode;
     return (isFlag && value == ViewValue(0)) || (isMode && value == ViewValue(pdflibrary::PageOnly));
-}
-
-/// The library's number for the value of an entry.
-int numberOf(const ViewValue& value, int absent)
-{
-    const int* number = std::get_if<int>(&value);
-    return number != nullptr ? *number : absent;
 }
 
 /// Empty for what is none.
@@ -114,7 +104,8 @@ int ViewChanger::write(ViewEntry entry, const ViewValue& wanted)
     if (entry == ViewEntry::Lang)
         return m_library.SetCatalogInformation(L"Lang", engine::wideFromFileName(textOf(wanted)));
     if (entry == ViewEntry::Title)
-        return m_library.SetInformation(titleKey, engine::wideFromFileName(textOf(wanted)));
+        return m_library.SetInformation(pdflibrary::InformationTitle,
+                                        engine::wideFromFileName(textOf(wanted)));
     return m_library.SetViewerPreferences(viewentries::describe(entry).preference,
                                           numberOf(wanted, pdflibrary::NoPreference));
 }
@@ -188,7 +179,8 @@ void ViewChanger::openAt(int page, const Magnification& zoom)
     if (!zoomAlone) // else the place on the page stays
         setDestination(page, zoom);
     if (zoomAlone || !isWhole(zoom.percent))
-        require(m_library.SetDestValue(m_library.GetOpenActionDestination(), zoomValue, zoom.percent),
+        require(m_library.SetDestValue(m_library.GetOpenActionDestination(), pdflibrary::DestinationZoom,
+                                       zoom.percent),
                 ViewEntry::Zoom);
     if (pageBefore != ViewValue(page))
         altered(ViewEntry::OpenPage, pageBefore, page);

@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <string_view>
 
 namespace host::homefolder {
 

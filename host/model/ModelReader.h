@@ -1,9 +1,8 @@
 #pragma once
 
 #include "ModelView.h"
+#include "host/program/PdfLibrary.h"
 #include "host/workers/WorkerPool.h"
-
-#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 
 #include <string>
 #include <string_view>
@@ -24,7 +23,7 @@ private:
     const std::string& m_file;
     std::string_view m_password;
     const modelview::Ask& m_ask;
-    TelvarPDFLibraryCPDylibCPP1311 m_library;
+    PdfLibrary m_library;
 };
 
 } // namespace host

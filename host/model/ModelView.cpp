@@ -3,8 +3,7 @@
 #include "ModelReader.h"
 #include "ViewRecord.h"
 #include "host/cell/Cell.h"
-#include "host/program/InstallLayout.h"
-#include "host/terminal/NearbyFile.h"
+#include "host/terminal/NamedFile.h"
 #include "host/terminal/UsageError.h"
 #include "host/workers/RunControl.h"
 #include "host/workers/SignalMask.h"
@@ -13,7 +12,6 @@
 
 #include <memory>
 #include <optional>
-#include <stdexcept>
 
 namespace host::modelview {
 
@@ -33,7 +31,7 @@ ViewChange fromOutcome(const std::string& file, const WorkOutcome& outcome)
         refuse(file, outcome.failure);
     const std::optional<ViewChange> view = viewrecord::parse(outcome.answer);
     if (!view)
-        refuse(file, {ReasonCode::Internal, "the worker process gave no proper answer"});
+        refuse(file, {ReasonCode::Crashed, "the worker process gave no proper answer"});
     return *view;
 }
 
@@ -44,11 +42,7 @@ ViewChange read(const std::string& file, std::string_view password, Cell& cell, 
     struct stat status;
     if (stat(file.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) // which no worker can reach
         refuse(file, Failure{ReasonCode::NotAFile, "it is a folder; one document is wanted"});
-    // Kept open, so that the worker finds the library in memory.
-    const std::string libraryFile = installlayout::libraryFile();
-    const TelvarPDFLibraryCPDylibCPP1311 library(installlayout::toLibraryPath(libraryFile));
-    if (!library.LibraryLoaded())
-        throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
+    const PdfLibrary keptOpen; // so that the worker finds it in memory
     Reach reach;
     reach.addFileToRead(file);
     cell.allow(reach);

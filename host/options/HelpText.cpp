@@ -2,7 +2,6 @@
 
 #include "host/settings/SetOption.h"
 
-#include <algorithm>
 #include <sstream>
 
 namespace host::helptext {

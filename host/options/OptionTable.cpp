@@ -143,7 +143,7 @@ const std::vector<Option> optionRows{
 };
 
 const std::vector<Command> commandRows{
-    {Run, "run", "change how documents open", 
+    {Run, "run", "change how documents open",
      "CHANGE (-o DIR|FILE.pdf|- | --suffix TEXT | --in-place) DOCUMENT|FOLDER|- ...",
      "Changes how PDF documents open. View options change what they name and leave the rest; settings are those "
      "of the action. A folder stands for the PDF documents in it and its subfolders, - for standard input.",
@@ -278,13 +278,6 @@ const std::vector<Command>& commands()
 const Command& command(CommandId id)
 {
     return commandRows.at(static_cast<std::size_t>(id));
-}
-
-const Command* findCommand(const std::string& name)
-{
-    const auto found = std::find_if(commandRows.begin(), commandRows.end(),
-                                    [&](const Command& each) { return each.name == name; });
-    return found == commandRows.end() ? nullptr : &*found;
 }
 
 std::vector<std::string> commandNames()

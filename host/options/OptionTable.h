@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -67,8 +66,6 @@ struct Command
 
 const std::vector<Command>& commands();
 const Command& command(CommandId id);
-/// Null for an unknown name.
-const Command* findCommand(const std::string& name);
 std::vector<std::string> commandNames();
 
 /// What every command and the program itself has: --help, --help-all.

@@ -5,7 +5,7 @@
 #include "host/files/FileDescriptor.h"
 #include "host/files/Links.h"
 #include "host/files/Paths.h"
-#include "host/terminal/NearbyFile.h"
+#include "host/terminal/NamedFile.h"
 #include "host/terminal/UsageError.h"
 
 #include <sys/stat.h>

@@ -16,11 +16,6 @@ namespace {
 /// A difference that no entry of the view has a value for.
 const std::string otherPlace = "open page: at another place on the page";
 
-QJsonValue textOrNull(const std::string& text)
-{
-    return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
-}
-
 std::string inJson(const std::string& file, const char* status, const Failure& reason, QJsonObject object)
 {
     object.insert("status", status);

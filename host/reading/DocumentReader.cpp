@@ -2,7 +2,6 @@
 
 #include "host/cell/Reach.h"
 #include "host/document/DocumentLoading.h"
-#include "host/program/InstallLayout.h"
 #include "host/workers/Record.h"
 
 #include "pdflibrary/ErrorCodes.h"
@@ -41,11 +40,8 @@ std::optional<Reading> Reading::fromRecord(const std::string& record)
 
 DocumentReader::DocumentReader(const std::vector<RunPlan::Document>& documents, std::string input,
                                std::string_view password, const MakeTeller& makeTeller)
-    : m_documents(documents), m_input(std::move(input)), m_password(password),
-      m_library(installlayout::toLibraryPath(installlayout::libraryFile()))
+    : m_documents(documents), m_input(std::move(input)), m_password(password)
 {
-    if (!m_library.LibraryLoaded())
-        throw std::runtime_error("the PDF library cannot be used: " + installlayout::libraryFile());
     m_teller = makeTeller(m_library);
 }
 

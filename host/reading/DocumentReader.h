@@ -2,9 +2,8 @@
 
 #include "host/failures/Failure.h"
 #include "host/plan/RunPlan.h"
+#include "host/program/PdfLibrary.h"
 #include "host/workers/WorkerPool.h"
-
-#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 
 #include <functional>
 #include <memory>
@@ -58,7 +57,7 @@ private:
     const std::vector<RunPlan::Document>& m_documents;
     std::string m_input;
     std::string_view m_password;
-    TelvarPDFLibraryCPDylibCPP1311 m_library;
+    PdfLibrary m_library;
     std::unique_ptr<DocumentTeller> m_teller;
 };
 

@@ -3,7 +3,6 @@
 #include "host/cell/Cell.h"
 #include "host/cell/Reach.h"
 #include "host/plan/StreamFiles.h"
-#include "host/program/InstallLayout.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/TerminalText.h"
 
@@ -11,7 +10,6 @@
 #include <QJsonObject>
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace host {
 
@@ -29,12 +27,7 @@ Reading readingOf(const WorkOutcome& outcome)
 
 int ReadingRun::run(const MakeTeller& makeTeller)
 {
-    // Kept open, so that every worker finds the library in memory.
-    const std::string libraryFile = installlayout::libraryFile();
-    const TelvarPDFLibraryCPDylibCPP1311 library(installlayout::toLibraryPath(libraryFile));
-    if (!library.LibraryLoaded())
-        throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
-
+    const PdfLibrary keptOpen; // so that every worker finds it in memory
     const std::vector<RunPlan::Document>& documents = m_plan.documents();
     WorkerPool::Limits limits = m_options.limits;
     limits.workers = static_cast<int>(

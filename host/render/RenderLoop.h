@@ -3,8 +3,6 @@
 #include "RequestQueue.h"
 #include "host/files/PipeLines.h"
 
-#include <QJsonObject>
-
 #include <cstddef>
 #include <memory>
 

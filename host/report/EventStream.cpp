@@ -10,11 +10,6 @@ namespace {
 const int formVersion = 1;
 const std::chrono::seconds longestSilence(1);
 
-QJsonValue textOrNull(const std::string& text)
-{
-    return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
-}
-
 qint64 number(std::size_t count)
 {
     return static_cast<qint64>(count);

@@ -61,11 +61,6 @@ bool appendLine(int file, const std::string& line)
     return true;
 }
 
-QJsonValue textOrNull(const std::string& text)
-{
-    return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
-}
-
 QJsonObject undoing(const DocumentResult& result)
 {
     QJsonObject object{{"fileState", QString::fromStdString(result.stateBefore)},

@@ -6,11 +6,13 @@
 #include "host/plan/Placement.h"
 #include "host/plan/StreamFiles.h"
 #include "host/program/InstallLayout.h"
+#include "host/program/PdfLibrary.h"
 #include "host/program/PluginHost.h"
 #include "host/report/Progress.h"
 #include "host/saving/SafeOutput.h"
 #include "host/terminal/ExitStatus.h"
 #include "host/terminal/StandardError.h"
+#include "host/terminal/StandardOutput.h"
 #include "host/workers/WorkerSlot.h"
 
 #include <QJsonDocument>
@@ -22,7 +24,6 @@
 #include <functional>
 #include <new>
 #include <set>
-#include <stdexcept>
 
 namespace host {
 
@@ -35,10 +36,8 @@ public:
     using Announce = std::function<void(std::size_t job, const DocumentResult& expected)>;
 
     DocumentWorker(const std::vector<DocumentJob>& jobs, CActionInterface& action,
-                   const std::string& libraryFile, const ProcessingOptions& options, Announce announce,
-                   int report)
-        : m_jobs(jobs), m_processor(action, libraryFile, options), m_announce(std::move(announce)),
-          m_report(report)
+                   const ProcessingOptions& options, Announce announce, int report)
+        : m_jobs(jobs), m_processor(action, options), m_announce(std::move(announce)), m_report(report)
     {}
 
     Answer answer(std::size_t job, WorkerSlot& slot) override
@@ -60,11 +59,6 @@ private:
     int m_report; ///< -1 for none.
 };
 
-void print(const std::string& text)
-{
-    writeAll(STDOUT_FILENO, text.data(), text.size()); // nobody may be listening
-}
-
 } // namespace
 
 BatchRun::BatchRun(const RunPlan& plan, const ProcessingOptions& options, Cell& cell, Setup setup)
@@ -77,11 +71,7 @@ BatchRun::~BatchRun() = default;
 int BatchRun::run(const WorkerPool::Limits& limits)
 {
     PluginHost plugin(installlayout::pluginFile());
-    const std::string libraryFile = installlayout::libraryFile();
-    // Kept open, so that every worker finds the library in memory.
-    const TelvarPDFLibraryCPDylibCPP1311 library(installlayout::toLibraryPath(libraryFile));
-    if (!library.LibraryLoaded())
-        throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
+    const PdfLibrary keptOpen; // so that every worker finds it in memory
 
     if (m_setup.tells >= Tells::Counts && !m_options.dryRun && isatty(STDERR_FILENO) != 0)
         m_progress = std::make_unique<Progress>(STDERR_FILENO, m_plan.documents().size());
@@ -89,7 +79,7 @@ int BatchRun::run(const WorkerPool::Limits& limits)
     if (!m_options.dryRun)
         removeLeftovers();
     try {
-        runJobs(plugin.action(), libraryFile, limits);
+        runJobs(plugin.action(), limits);
         m_progress.reset();
         sumUp();
         return exitStatus();
@@ -149,8 +139,7 @@ void BatchRun::allowJobs()
     m_cell.allow(reach);
 }
 
-void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
-                       const WorkerPool::Limits& limits)
+void BatchRun::runJobs(CActionInterface& action, const WorkerPool::Limits& limits)
 {
     WorkerPool::Limits fitting = limits;
     fitting.workers =
@@ -159,7 +148,7 @@ void BatchRun::runJobs(CActionInterface& action, const std::string& libraryFile,
     m_setup.control.takeSignals();
     const auto makeWorker = [&] {
         return std::make_unique<DocumentWorker>(
-            m_jobs, action, libraryFile, m_options,
+            m_jobs, action, m_options,
             [this](std::size_t job, const DocumentResult& expected) { announce(job, expected); },
             m_setup.report != nullptr ? m_setup.report->leave() : -1);
     };
@@ -214,7 +203,7 @@ void BatchRun::documentEnded(std::size_t document, const DocumentResult& result)
     if (m_progress)
         m_progress->advance(result.status == Status::Failed);
     else if (m_setup.tells >= Tells::Lines && result.status != Status::Failed)
-        print(RunSummary::lineFor(shownName(planned.name), result, m_options.dryRun));
+        printLines(RunSummary::lineFor(shownName(planned.name), result, m_options.dryRun));
 }
 
 Report::Line BatchRun::lineFor(const RunPlan::Document& document, const DocumentResult& result) const
@@ -266,7 +255,7 @@ void BatchRun::sumUp() const
         printError(summary.failures() + (m_setup.tells >= Tells::Notes ? summary.notes() : "") +
                    summary.notDone());
     if (m_setup.tells == Tells::Lines)
-        print(summary.counts(m_options.dryRun));
+        printLines(summary.counts(m_options.dryRun));
     else if (m_setup.tells == Tells::Counts)
         printError(summary.counts(m_options.dryRun));
     if (m_setup.report != nullptr) {

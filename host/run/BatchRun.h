@@ -61,7 +61,7 @@ private:
     DocumentJob jobFor(const RunPlan::Document& document) const;
     void removeLeftovers() const;
     void allowJobs();
-    void runJobs(CActionInterface& action, const std::string& libraryFile, const WorkerPool::Limits& limits);
+    void runJobs(CActionInterface& action, const WorkerPool::Limits& limits);
     void announce(std::size_t job, const DocumentResult& expected);
     void jobEnded(std::size_t job, const WorkOutcome& outcome);
     void jobLost(std::size_t job, const WorkOutcome& outcome);

@@ -6,7 +6,6 @@
 #include "host/files/Checksum.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/FileState.h"
-#include "host/program/InstallLayout.h"
 #include "host/saving/DocumentLock.h"
 #include "host/saving/FileAttributes.h"
 #include "host/saving/FileCopy.h"
@@ -24,7 +23,6 @@
 
 #include <cerrno>
 #include <chrono>
-#include <stdexcept>
 
 namespace host {
 
@@ -52,12 +50,9 @@ Failure whyNotAppended(int code)
 
 } // namespace
 
-DocumentProcessor::DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
-                                     const ProcessingOptions& options)
-    : m_options(options), m_library(installlayout::toLibraryPath(libraryFile))
+DocumentProcessor::DocumentProcessor(CActionInterface& action, const ProcessingOptions& options)
+    : m_options(options)
 {
-    if (!m_library.LibraryLoaded())
-        throw std::runtime_error("the PDF library cannot be used: " + libraryFile);
     m_sequence.emplace(action, m_library, m_options.entries);
 }
 

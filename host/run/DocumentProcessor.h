@@ -5,9 +5,8 @@
 #include "host/document/ViewSnapshot.h"
 #include "host/plan/DocumentJob.h"
 #include "host/plan/Placement.h"
+#include "host/program/PdfLibrary.h"
 #include "host/settings/SettingsFile.h"
-
-#include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
 
 #include <sys/stat.h>
 
@@ -65,8 +64,7 @@ class DocumentProcessor
 public:
     /// The action and the options must outlive the object. Throws std::runtime_error when the library file
     /// cannot be used.
-    DocumentProcessor(CActionInterface& action, const std::string& libraryFile,
-                      const ProcessingOptions& options);
+    DocumentProcessor(CActionInterface& action, const ProcessingOptions& options);
     DocumentProcessor(const DocumentProcessor&) = delete;
     DocumentProcessor& operator=(const DocumentProcessor&) = delete;
 
@@ -108,7 +106,7 @@ private:
     DocumentResult libraryFailure(const std::string& what = {});
 
     const ProcessingOptions& m_options;
-    TelvarPDFLibraryCPDylibCPP1311 m_library;
+    PdfLibrary m_library;
     std::optional<ActionSequence> m_sequence; ///< Once the library is known to work.
     std::optional<ViewSnapshot> m_viewBefore;
     std::optional<ViewSnapshot> m_viewAfter;

@@ -94,7 +94,7 @@ DialogSettings::DialogSettings(const ViewChange& present) : m_present(present)
 {
     m_map = {{key::LayoutAndMagn, true}, {key::ViewerPrefs, true}};
     showPageMode();
-    m_map.insert(key::PageLayout, number(ViewEntry::PageLayout, pdflibrary::NoPageLayout));
+    m_map.insert(key::PageLayout, m_present.number(ViewEntry::PageLayout, pdflibrary::NoPageLayout));
     showOpenAction();
     showPreferences();
     noteInvalid();
@@ -112,22 +112,17 @@ std::vector<std::string> DialogSettings::notes(Unshown unshown) const
     return notes;
 }
 
-int DialogSettings::number(ViewEntry entry, int absent) const
-{
-    const std::optional<ViewValue>& value = m_present[entry];
-    const int* number = value ? std::get_if<int>(&*value) : nullptr;
-    return number != nullptr ? *number : absent;
-}
-
 /// In full screen the panel is the one that shows when it is left.
 void DialogSettings::showPageMode()
 {
-    const bool isFullScreen = number(ViewEntry::PageMode, pdflibrary::PageOnly) == pdflibrary::FullScreen;
+    const bool isFullScreen =
+        m_present.number(ViewEntry::PageMode, pdflibrary::PageOnly) == pdflibrary::FullScreen;
     const ViewEntry panel = isFullScreen ? ViewEntry::NonFullScreenPageMode : ViewEntry::PageMode;
-    m_map.insert(key::NavigationTab, rowOfPageMode(number(panel, pdflibrary::PageOnly)));
+    m_map.insert(key::NavigationTab, rowOfPageMode(m_present.number(panel, pdflibrary::PageOnly)));
     m_map.insert(key::OpenInFullScreen, isFullScreen);
-    const int after = number(ViewEntry::NonFullScreenPageMode, noRow);
-    if (!isFullScreen && after != noRow && after != number(ViewEntry::PageMode, pdflibrary::PageOnly))
+    const int after = m_present.number(ViewEntry::NonFullScreenPageMode, noRow);
+    if (!isFullScreen && after != noRow &&
+        after != m_present.number(ViewEntry::PageMode, pdflibrary::PageOnly))
         m_notes.push_back({"the window cannot show its panel after full screen, " +
                                viewvalues::wordOf(ViewEntry::NonFullScreenPageMode, after),
                            "full screen and another panel are chosen",
@@ -136,7 +131,7 @@ void DialogSettings::showPageMode()
 
 void DialogSettings::showOpenAction()
 {
-    const int page = number(ViewEntry::OpenPage, firstPage);
+    const int page = m_present.number(ViewEntry::OpenPage, firstPage);
     const std::optional<ViewValue>& zoom = m_present[ViewEntry::Zoom];
     const auto* magnification = zoom ? std::get_if<Magnification>(&*zoom) : nullptr;
     const auto& opening = m_present[ViewEntry::OpenPage];
@@ -163,7 +158,7 @@ void DialogSettings::showOpenAction()
 void DialogSettings::showPreferences()
 {
     for (const Preference& each : preferences) {
-        const int value = number(each.entry, absentNumber(each.entry));
+        const int value = m_present.number(each.entry, absentNumber(each.entry));
         const bool isFlag = findKey(each.key)->type == ValueType::Flag;
         m_map.insert(each.key, isFlag ? QVariant(value == 1) : QVariant(value));
     }
@@ -206,9 +201,9 @@ ViewChange DialogSettings::changeTo(const SettingsMap& chosen) const
     ViewChange change = viewOf(settings);
     ViewChange shown = viewOf(m_map);
     shown.set(ViewEntry::NonFullScreenPageMode,
-              number(ViewEntry::NonFullScreenPageMode, pdflibrary::PageOnly));
+              m_present.number(ViewEntry::NonFullScreenPageMode, pdflibrary::PageOnly));
     const bool isPanelChosen = settings.value(key::NavigationTab) != m_map.value(key::NavigationTab);
-    if (!isPanelChosen && number(ViewEntry::NonFullScreenPageMode, noRow) != noRow)
+    if (!isPanelChosen && m_present.number(ViewEntry::NonFullScreenPageMode, noRow) != noRow)
         change.remove(ViewEntry::NonFullScreenPageMode); // full screen alone was chosen
     for (const viewentries::Description& each : viewentries::all())
         if (change[each.entry] == shown[each.entry])

@@ -54,8 +54,6 @@ private:
         std::vector<ViewEntry> entries;
     };
 
-    int number(ViewEntry entry, int absent) const;
-
     ViewChange m_present;
     SettingsMap m_map;
     std::vector<Note> m_notes;

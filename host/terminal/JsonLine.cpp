@@ -52,6 +52,11 @@ std::string jsonLine(const QJsonObject& object)
     return line.toStdString() + "\n";
 }
 
+QJsonValue textOrNull(const std::string& text)
+{
+    return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
+}
+
 void insertName(QJsonObject& object, const QString& key, const std::string& name)
 {
     const QString text = textOf(name);

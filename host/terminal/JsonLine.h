@@ -11,6 +11,9 @@ namespace host {
 /// reader of JSON undoes.
 std::string jsonLine(const QJsonObject& object);
 
+/// Null for an empty text.
+QJsonValue textOrNull(const std::string& text);
+
 /// Puts a file's name under a key, null for an empty one. JSON holds text only: bytes of the name that are
 /// none show as U+FFFD there, and all of its bytes stand percent-encoded beside, under the key with "Bytes"
 /// added.

@@ -23,4 +23,9 @@ void printResult(std::string_view text)
         throw OutputError(errno);
 }
 
+void printLines(std::string_view lines)
+{
+    writeAll(STDOUT_FILENO, lines.data(), lines.size());
+}
+
 } // namespace host

@@ -20,4 +20,8 @@ private:
 /// Prints what a command was asked for on standard output. Throws OutputError.
 void printResult(std::string_view text);
 
+/// Prints what a run tells of its documents on standard output. Nobody may be listening, so that writing fails is
+/// no failure.
+void printLines(std::string_view lines);
+
 } // namespace host

@@ -12,7 +12,6 @@
 #include "host/saving/SafeOutput.h"
 
 #include <fcntl.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>

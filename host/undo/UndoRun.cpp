@@ -8,19 +8,12 @@
 
 #include <QJsonObject>
 
-#include <unistd.h>
-
 #include <new>
 #include <set>
 
 namespace host {
 
 namespace {
-
-void print(const std::string& text)
-{
-    writeAll(STDOUT_FILENO, text.data(), text.size()); // nobody may be listening
-}
 
 const char* nameOf(UndoResult::Kind kind)
 {
@@ -112,9 +105,9 @@ void UndoRun::leaveAlone(std::size_t number, const UndoPlan::LeftAlone& what)
 void UndoRun::print(const std::string& path, const UndoResult& result) const
 {
     if (!m_options.quiet && result.kind == UndoResult::Undone)
-        host::print((m_options.dryRun ? "would undo  " : "undone  ") + forTerminal(path) + "\n");
+        printLines((m_options.dryRun ? "would undo  " : "undone  ") + forTerminal(path) + "\n");
     if (!m_options.quiet && result.kind == UndoResult::UndoneAlready)
-        host::print("undone already  " + forTerminal(path) + "\n");
+        printLines("undone already  " + forTerminal(path) + "\n");
     if (!m_options.quiet && !result.note.empty())
         printError("note: " + forTerminal(path) + ": " + forTerminal(result.note) + "\n");
     if (result.reason)
@@ -130,7 +123,7 @@ void UndoRun::sumUp() const
                                {"leftAlone", number(m_leftAlone)}},
                               m_options.control.isStopped());
     else if (!m_options.quiet)
-        host::print(counts());
+        printLines(counts());
 }
 
 /// "3 undone, 0 undone already, 1 left alone", with a line feed.

@@ -34,12 +34,6 @@ std::string labelOf(const char* key)
     return initialview::findKey(key)->label;
 }
 
-int numberOf(const ViewValue& value, int absent)
-{
-    const int* number = std::get_if<int>(&value);
-    return number != nullptr ? *number : absent;
-}
-
 ViewEntry entryOf(const PreferenceRow& preference)
 {
     for (const viewentries::Description& each : viewentries::all())

@@ -39,7 +39,7 @@ public:
 
     /// Writes the settings as an action list, named by the map's "ActionListName" with "_" for each space; or
     /// adds them to the list of that name, when there is one and "ActionListOverwrite" is not true. A name
-    /// that holds a "/" or a NUL is refused: nothing happens. No failure is reported.
+    /// that leads out of the folder or holds a NUL is refused: nothing happens. No failure is reported.
     /// \param[in,out] prefs the settings with "ActionName", "ActionListName", "ActionListCategory" and
     ///     "ActionListOverwrite". After a new list these four are gone; the map stays as it was after an
     ///     addition, and when the file in the new list's place cannot be replaced.
@@ -156,7 +156,7 @@ public:
     /// \returns a tool image of the host's resources.
     static QIcon GetIconForTool(QString name);
 
-    /// As SetTargetLabels left them, null before; only the helpers above know whether the widgets still live.
+    /// The target widgets; null before SetTargetLabels. Whoever sets them here sees to it that they live.
     static QLabel* mNavBarLabel;
     static QTextEdit* mInfoLabel;
 

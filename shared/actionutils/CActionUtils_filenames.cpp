@@ -20,9 +20,24 @@ namespace {
 const QString helpFolder = QStringLiteral(":/Quintar/Resources/HelpFiles/");
 const QString toolFolder = QStringLiteral(":/Quintar/Resources/Tools/");
 
-/// The targets belong to the host, which may end them before the action asks for them again.
-QPointer<QLabel> navBarWatch;
-QPointer<QTextEdit> infoWatch;
+/// A target belongs to the host, which may end it before the action asks for it again. Of one that was not
+/// given to SetTargetLabels the end stays unknown.
+template <class Widget>
+struct Watch
+{
+    Widget* given = nullptr;
+    QPointer<Widget> living;
+
+    void begin(Widget* target)
+    {
+        given = target;
+        living = target;
+    }
+    bool isUsable(const Widget* target) const { return target != nullptr && (target != given || living); }
+};
+
+Watch<QLabel> navBarWatch;
+Watch<QTextEdit> infoWatch;
 
 /// A folder on the way down, with what is left to visit in it.
 struct OpenFolder
@@ -122,19 +137,19 @@ void CActionUtils::SetTargetLabels(QLabel* navBarLabel, QTextEdit* infoLabel)
 {
     mNavBarLabel = navBarLabel;
     mInfoLabel = infoLabel;
-    navBarWatch = navBarLabel;
-    infoWatch = infoLabel;
+    navBarWatch.begin(navBarLabel);
+    infoWatch.begin(infoLabel);
 }
 
 void CActionUtils::SetCurrentSection(QString text)
 {
-    if (mNavBarLabel != nullptr && navBarWatch == mNavBarLabel)
+    if (navBarWatch.isUsable(mNavBarLabel))
         mNavBarLabel->setText(text);
 }
 
 void CActionUtils::SetHelpHtml(QString html)
 {
-    if (mInfoLabel != nullptr && infoWatch == mInfoLabel)
+    if (infoWatch.isUsable(mInfoLabel))
         mInfoLabel->setText(html);
 }
 

@@ -1,6 +1,5 @@
 #include "WholeFile.h"
 
-#include <QFileDevice>
 #include <QRandomGenerator>
 
 #include <fcntl.h>

@@ -23,6 +23,31 @@ const int iconSide = 128;
 const QList<QByteArray> pictureFormats{"bmp", "jpg", "jpeg", "gif", "png", "tif", "tiff", "wmf", "emf"};
 const qint64 mostPictureBytes = qint64(256) << 20; // in memory, where each pixel takes four
 
+/// Why a picture is not to be read, in words that follow its name; empty where it is.
+QString refusal(QImageReader& reader)
+{
+    if (const QByteArray format = reader.format(); !format.isEmpty() && !pictureFormats.contains(format))
+        return "is of another kind, " + QString(format);
+    const QSize size = reader.size();
+    if (4 * qint64(size.width()) * size.height() > mostPictureBytes)
+        return QString("is too large, with %1 x %2 pixels").arg(size.width()).arg(size.height());
+    return QString();
+}
+
+/// \returns an empty icon, and adds a report, where the picture cannot be read.
+QIcon iconFrom(const QString& path)
+{
+    QImageReader reader(path);
+    QString problem = refusal(reader);
+    const QPixmap picture = problem.isEmpty() ? QPixmap::fromImageReader(&reader) : QPixmap();
+    if (!picture.isNull())
+        return QIcon(picture.scaled(iconSide, iconSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    if (problem.isEmpty())
+        problem = "cannot be read: " + reader.errorString();
+    storereport::add("no icon: the picture " + path + " " + problem);
+    return QIcon();
+}
+
 void writeToolSettings(const QString& path, const QMap<QString, QVariant>& prefs)
 {
     const QString replaced = QFile::exists(path) ? ", whose other content stays" : QString();
@@ -75,23 +100,7 @@ void CSaveAsCollectionDialog::on_CollectionIcon()
         this, "Kelvane Advanced Tools", QString(), "Image files (*.bmp;*.jpg;*.gif;*.png;*.tif;*.wmf;*.emf)");
     if (path.isNull())
         return;
-    QImageReader reader(path);
-    if (const QByteArray format = reader.format(); !format.isEmpty() && !pictureFormats.contains(format)) {
-        storereport::add(
-            QString("no icon: the picture %1 is of another kind, %2").arg(path, QString(format)));
-        return;
-    }
-    const QSize size = reader.size();
-    if (4 * qint64(size.width()) * size.height() > mostPictureBytes) {
-        storereport::add(QString("no icon: the picture %1 is too large, with %2 x %3 pixels")
-                             .arg(path)
-                             .arg(size.width())
-                             .arg(size.height()));
-        return;
-    }
-    const QPixmap image = QPixmap::fromImageReader(&reader);
-    ui.icon_toolButton->setIcon(
-        QIcon(image.scaled(iconSide, iconSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
+    ui.icon_toolButton->setIcon(iconFrom(path));
 }
 
 void CSaveAsCollectionDialog::on_SaveToFile()

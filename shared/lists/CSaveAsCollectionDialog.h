@@ -26,7 +26,7 @@ public slots:
     /// Stores the favourite and accepts, unless the name is blank. Failures are not shown: the dialog closes
     /// as after success.
     void on_Save();
-    /// Lets the user pick an image for the favourite.
+    /// Lets the user pick an image for the favourite, which has none where that cannot be read.
     void on_CollectionIcon();
     /// A blank name cannot be saved.
     void on_UpdateUI();

@@ -2,7 +2,6 @@
 #include "EditInitialView/InitialViewSettings.h"
 #include "EditInitialView/editinitialview.h"
 #include "pdflibrary/TelvarPDFLibraryCPDylibCPP1311.h"
-#include "shared/CUtils.h"
 
 #include "support/Recorder.h"
 #include "support/Rows.h"
@@ -67,11 +66,7 @@ private:
     }
 
 private slots:
-    void initTestCase()
-    {
-        muteFrameWarnings();
-        CUtils::SetOpenGLSupport(false);
-    }
+    void initTestCase() { muteFrameWarnings(); }
 
     void init()
     {

@@ -193,7 +193,6 @@ private slots:
     {
         muteFrameWarnings();
         qputenv("XDG_DATA_HOME", QFile::encodeName(m_home.path()));
-        CUtils::SetOpenGLSupport(false);
     }
 
     void init() { QDir(CUtils::GetSettingsFolder()).removeRecursively(); }

@@ -1,11 +1,8 @@
 #include "host/desktop/dialogs/StartQuestion.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
-#include "host/desktop/platform/Language.h"
 #include "host/desktop/presets/PresetFolder.h"
-#include "host/desktop/texts/ReasonTexts.h"
 #include "host/desktop/texts/ViewTexts.h"
-#include "support/Rows.h"
 #include "support/people/OpenedWindow.h"
 
 #include <QAbstractButton>
@@ -14,11 +11,9 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QHeaderView>
-#include <QMenuBar>
 #include <QMimeData>
 #include <QSessionManager>
 #include <QTextBrowser>
-#include <QTranslator>
 #include <QtTest>
 
 using namespace host;
@@ -167,48 +162,6 @@ private slots:
         const RunHistory& history = m_window->workbench().history();
         QCOMPARE(history.rowCount(), 1); // both are undone together
         QCOMPARE(history.runs().front().reports.size(), 2);
-    }
-
-    void hasNoKeyTwice_data()
-    {
-        const Rows<QString> row;
-        for (const char* language : {"en", "de", "es", "fr", "ja"})
-            row(language, language);
-    }
-
-    /// In no language and no state of the window.
-    void hasNoKeyTwice()
-    {
-        language::speak(std::get<0>(Rows<QString>::current()));
-        open();
-        haveNoKeyTwice();
-        Workbench& bench = m_window->workbench();
-        read();
-        ChangeDraft draft;
-        draft.setStored({"A list", {"--list", "/a.xqq"}, {}, {}});
-        bench.setDraft(draft);
-        haveNoKeyTwice();
-        draft.set(ViewEntry::PageMode, 1);
-        bench.setDraft(draft);
-        m_fake->plays("run", Fake::start() + Fake::changed(0) + Fake::failed(1, "password") + "#hear stop\n" +
-                                 Fake::end());
-        for (const auto kind : {Destination::Kind::InPlace, Destination::Kind::Folder}) {
-            bench.setDestination({kind, "/out", {}});
-            QTRY_COMPARE(state(), State::Ready);
-            auto* documents = m_window->findChild<QTableView*>("documents");
-            documents->setCurrentIndex(documents->model()->index(1, 0));
-            haveNoKeyTwice();
-            bench.start();
-            haveNoKeyTwice();
-            bench.pause();
-            haveNoKeyTwice();
-            bench.stop();
-            QTRY_COMPARE(state(), State::Results);
-            m_window->findChild<QAbstractButton*>("whyButton")->click();
-            haveNoKeyTwice();
-            QTest::keyClick(m_window.get(), Qt::Key_Escape);
-        }
-        qDeleteAll(qApp->findChildren<QTranslator*>());
     }
 
     void showsAllAgainAfterItShowedWhy()
@@ -437,32 +390,6 @@ private:
         emit combo->activated(combo->currentIndex());
     }
     State state() const { return const_cast<MainWindow&>(*m_window).workbench().machine().state(); }
-
-    void haveNoKeyTwice() const
-    {
-        QStringList texts;
-        for (const QAction* menu : m_window->findChild<QMenuBar*>()->actions())
-            texts += menu->text();
-        for (const QAbstractButton* each : m_window->findChildren<QAbstractButton*>())
-            if (each->isVisible() && each->isEnabled())
-                texts += each->text();
-        for (const QLabel* each : m_window->findChildren<QLabel*>())
-            if (each->isVisible() && each->buddy() != nullptr)
-                texts += each->text();
-        const QString shownRemedy = m_window->findChild<QAbstractButton*>("remedyButton")->text();
-        QMap<QKeySequence, QString> keys;
-        for (const QString& text : texts)
-            if (const QKeySequence key = QKeySequence::mnemonic(text); !key.isEmpty()) {
-                QVERIFY2(!keys.contains(key), qPrintable(keys.value(key) + " and " + text));
-                keys.insert(key, text);
-            }
-        using reasontexts::Remedy; // any of which the current document may want
-        for (int remedy = int(Remedy::Password); remedy <= int(Remedy::ShowFolder); ++remedy) {
-            const QString text = reasontexts::buttonOf(Remedy(remedy));
-            const QString other = keys.value(QKeySequence::mnemonic(text), shownRemedy);
-            QVERIFY2(!text.isEmpty() && other == shownRemedy, qPrintable(other + " and " + text));
-        }
-    }
 
     void open()
     {

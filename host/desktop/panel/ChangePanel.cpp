@@ -5,8 +5,6 @@
 #include "host/desktop/look/PlainLabel.h"
 #include "host/desktop/texts/ViewTexts.h"
 
-#include <QStyle>
-
 #include <algorithm>
 
 namespace host::desktop {

@@ -2,9 +2,9 @@
 
 #include "host/desktop/look/Drawings.h"
 #include "host/desktop/look/PlainLabel.h"
-#include "host/desktop/look/WheelGuard.h"
 
-#include <QGridLayout>
+#include "shared/frame/CWheelFocusFilter.h"
+
 #include <QHBoxLayout>
 
 namespace host::desktop {
@@ -15,7 +15,7 @@ DestinationRow::DestinationRow(QWidget* parent)
 {
     nameParts();
     m_kind->addItems({tr("The documents themselves"), tr("A folder"), tr("Beside them, under another name")});
-    new WheelGuard(m_kind);
+    new CWheelFocusFilter(m_kind);
     m_kind->setAccessibleName(tr("Write to"));
     m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_kind->setWhatsThis(

@@ -1,12 +1,12 @@
 #include "SettingRow.h"
 
-#include "host/desktop/look/Drawings.h"
-#include "host/desktop/look/WheelGuard.h"
-
 #include "host/change/ViewValues.h"
+#include "host/desktop/look/Drawings.h"
 #include "host/desktop/texts/PlainText.h"
 #include "host/desktop/texts/ViewTexts.h"
 #include "host/terminal/UsageError.h"
+
+#include "shared/frame/CWheelFocusFilter.h"
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>
@@ -46,7 +46,7 @@ SettingRow::SettingRow(ViewEntry entry, QGridLayout* layout, QWidget* parent)
     m_present->setObjectName(name + "-now");
     m_box->setAccessibleName(viewtexts::nameOf(entry));
     m_box->setMinimumContentsLength(12);
-    new WheelGuard(m_box);
+    new CWheelFocusFilter(m_box);
     m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_present->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -77,7 +77,7 @@ QLayout* SettingRow::makeEditors(QWidget* parent)
         m_number = new QSpinBox(parent);
         m_number->setObjectName(m_box->objectName() + "-number");
         m_number->setRange(1, INT_MAX);
-        new WheelGuard(m_number);
+        new CWheelFocusFilter(m_number);
         m_number->setAccessibleName(tr("%1, number").arg(viewtexts::nameOf(m_entry)));
         m_number->setWhatsThis(viewtexts::helpOf(m_entry));
         connect(m_number, QOverload<int>::of(&QSpinBox::valueChanged), this, &SettingRow::tell);
@@ -234,14 +234,6 @@ void SettingRow::setEnabled(bool enabled)
          {static_cast<QWidget*>(m_box), static_cast<QWidget*>(m_number), static_cast<QWidget*>(m_text)})
         if (each != nullptr)
             each->setEnabled(enabled);
-}
-
-void SettingRow::setVisible(bool visible)
-{
-    for (QWidget* each :
-         {static_cast<QWidget*>(m_label), static_cast<QWidget*>(m_box), static_cast<QWidget*>(m_present)})
-        each->setVisible(visible);
-    choose();
 }
 
 } // namespace host::desktop

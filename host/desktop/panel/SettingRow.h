@@ -30,7 +30,6 @@ public:
     /// \param text what the documents have; empty for nothing.
     void setPresent(const QString& text, const QString& all);
     void setEnabled(bool enabled);
-    void setVisible(bool visible);
     QComboBox* box() const { return m_box; }
 
 signals:

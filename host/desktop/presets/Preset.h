@@ -2,8 +2,6 @@
 
 #include "host/desktop/change/ChangeDraft.h"
 
-#include <vector>
-
 namespace host::desktop {
 
 /// A change under a name: a view that the user keeps, or stored settings of the action.

@@ -12,16 +12,9 @@ using Panel = PreviewScene::Panel;
 using Layout = PreviewScene::Layout;
 using Fit = PreviewScene::Fit;
 
-int numberOf(const ViewChange& view, ViewEntry entry, int absent)
-{
-    const auto& value = view[entry];
-    const int* number = value ? std::get_if<int>(&*value) : nullptr;
-    return number != nullptr ? *number : absent;
-}
-
 bool isSet(const ViewChange& view, ViewEntry entry)
 {
-    return numberOf(view, entry, 0) == 1;
+    return view.number(entry, 0) == 1;
 }
 
 Panel panelOf(int mode)
@@ -80,8 +73,8 @@ QString titleBarOf(const ViewChange& view, const QString& fileName)
 PreviewScene sceneOf(const ViewChange& view, const DocumentRecord& record,
                      const QVector<PreviewScene::Bookmark>& bookmarks)
 {
-    const int mode = numberOf(view, ViewEntry::PageMode, pdflibrary::PageOnly);
-    const int layout = numberOf(view, ViewEntry::PageLayout, pdflibrary::NoPageLayout);
+    const int mode = view.number(ViewEntry::PageMode, pdflibrary::PageOnly);
+    const int layout = view.number(ViewEntry::PageLayout, pdflibrary::NoPageLayout);
     PreviewScene scene;
     scene.titleBar = titleBarOf(view, record.name);
     scene.isFullScreen = mode == pdflibrary::FullScreen;
@@ -92,7 +85,7 @@ PreviewScene sceneOf(const ViewChange& view, const DocumentRecord& record,
     scene.isRightToLeft = isSet(view, ViewEntry::Direction);
     scene.pages = std::max(1, record.facts->pages);
     const bool isLast = view[ViewEntry::OpenPage] == ViewValue(LastPage());
-    scene.page = isLast ? scene.pages : std::clamp(numberOf(view, ViewEntry::OpenPage, 1), 1, scene.pages);
+    scene.page = isLast ? scene.pages : std::clamp(view.number(ViewEntry::OpenPage, 1), 1, scene.pages);
     showZoom(view, scene);
     scene.hasToolBar = !isSet(view, ViewEntry::HideToolbar);
     scene.hasMenuBar = !isSet(view, ViewEntry::HideMenubar);

@@ -2,8 +2,6 @@
 
 #include "host/desktop/documents/DocumentRecord.h"
 
-#include <QStringList>
-
 namespace host::desktop {
 
 /// The first moment of a document in a viewer that does all that is asked, as a value: what stands where.

@@ -20,9 +20,7 @@ int numberOf(const DocumentRecord& record, Column column)
         return facts.pages;
     if (column == Column::Bookmarks)
         return facts.bookmarks;
-    const ViewValue page = facts[ViewEntry::OpenPage];
-    const int* number = std::get_if<int>(&page);
-    return number != nullptr ? *number : 0;
+    return host::numberOf(facts[ViewEntry::OpenPage], 0);
 }
 
 /// \param keyOf gives what the documents are compared by.

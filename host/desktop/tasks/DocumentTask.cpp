@@ -2,8 +2,6 @@
 
 #include "host/desktop/change/RunOrder.h"
 
-#include <QFile>
-
 namespace host::desktop {
 
 DocumentTask::DocumentTask(DocumentTable& table, const Means& means, QObject* parent)

@@ -7,7 +7,6 @@
 #include "host/desktop/documents/DocumentTable.h"
 
 #include <deque>
-#include <memory>
 
 namespace host::desktop {
 

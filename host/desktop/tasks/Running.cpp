@@ -1,7 +1,6 @@
 #include "Running.h"
 
 #include <QDateTime>
-#include <QDir>
 
 namespace host::desktop {
 

@@ -7,10 +7,10 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QLocale>
 #include <QSaveFile>
 #include <QSet>
-#include <QStandardPaths>
 
 #include <algorithm>
 

@@ -2,7 +2,6 @@
 
 #include <QAbstractTableModel>
 #include <QDateTime>
-#include <QJsonObject>
 
 #include <vector>
 

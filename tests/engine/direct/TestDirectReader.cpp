@@ -1,7 +1,7 @@
+#include "fuzz/accounts/ReadingAccount.h"
 #include "support/Rows.h"
 #include "support/documents/PdfBuilder.h"
 #include "support/documents/Rewritten.h"
-#include "support/engine/ReadingAccount.h"
 
 #include <QDir>
 #include <QtTest>

@@ -1,6 +1,6 @@
 #include "engine/syntax/ObjectParser.h"
+#include "fuzz/accounts/ObjectAccount.h"
 #include "support/Rows.h"
-#include "support/engine/ObjectAccount.h"
 
 using namespace engine;
 

@@ -9,6 +9,7 @@
 #include <climits>
 #include <cmath>
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -190,6 +191,11 @@ private slots:
         CActionUtils::SetCurrentSection("section"); // shown nowhere
         CActionUtils::SetHelpHtml("help");
         QCOMPARE(label.text(), QString("Page order"));
+        CActionUtils::mNavBarLabel = &label;
+        CActionUtils::SetCurrentSection("Margins");
+        QCOMPARE(label.text(), QString("Margins"));
+        CActionUtils::SetTargetLabels(std::make_unique<QLabel>().get(), nullptr);
+        CActionUtils::SetCurrentSection("shown by a widget that is gone");
         QCOMPARE(CActionUtils::GetIconForTool("tool.png").pixmap(3, 2).toImage().pixelColor(1, 1),
                  QColor(Qt::red));
         QVERIFY(CActionUtils::GetIconForTool("missing.png").pixmap(16, 16).isNull());

@@ -2,6 +2,7 @@
 #include "shared/frame/CQuintarDialog.h"
 
 #include "support/Methods.h"
+#include "support/OpenGLFlags.h"
 #include "support/Rows.h"
 #include "support/people/Hand.h"
 #include "support/people/Mute.h"
@@ -17,6 +18,7 @@
 #include <QWheelEvent>
 #include <QtTest>
 
+#include <climits>
 #include <memory>
 
 namespace {
@@ -104,8 +106,7 @@ class TestQuintarDialog : public QObject
 
 private slots:
     void initTestCase() { muteFrameWarnings(); }
-    void init() { CUtils::SetOpenGLSupport(false); }
-    void cleanupTestCase() { CUtils::SetOpenGLSupport(std::nullopt); }
+    void init() { openGLFlags = 0; }
 
     void buildsItsChromeInOrder()
     {
@@ -191,7 +192,7 @@ private slots:
     {
         for (const bool translucent : {false, true}) {
             for (const bool fixedSize : {false, true}) {
-                CUtils::SetOpenGLSupport(translucent);
+                openGLFlags = translucent ? 32 : 31;
                 Dialog dialog;
                 dialog.addEverything(fixedSize);
                 QCOMPARE(dialog.testAttribute(Qt::WA_TranslucentBackground), translucent);
@@ -206,6 +207,15 @@ private slots:
         }
     }
 
+    void asksForTheOpenGLThatItNeeds()
+    {
+        for (const int flags : {INT_MIN, -1, 0, 31, 65, 127, 128, 1024, 2047, 32, 63, 64, 2048, INT_MAX}) {
+            openGLFlags = flags;
+            const bool suffices = (flags >= 32 && flags <= 64) || flags >= 2048;
+            QVERIFY2(CUtils::CheckOpenGLSupport() == suffices, qPrintable(QString::number(flags)));
+        }
+    }
+
     void centresItself()
     {
         // 416 by 351, the extra width counted, whatever the width is afterwards.
@@ -213,7 +223,7 @@ private slots:
             {{100, 50, 1000, 701}, {599 - 207, 400 - 175}},
             {{-1000, -901, 800, 600}, {-600 - 207, -601 - 175}}, // left of the screen
         };
-        CUtils::SetOpenGLSupport(true);
+        openGLFlags = 2048;
         for (const auto& [preview, corner] : cornersOver) {
             QWidget host;
             host.setObjectName("QuintarPreviewClass");

@@ -10,8 +10,6 @@
 #include "support/program/CommandRun.h"
 #include "support/program/ProgramRun.h"
 
-#include <QSettings>
-
 /// What tests of "quintar configure" share: a user with a document "a.pdf", and a person at the window. Tests
 /// derive from it besides QObject.
 class ConfigureFixture

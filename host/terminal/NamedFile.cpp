@@ -1,8 +1,12 @@
-#include "NearbyFile.h"
+#include "NamedFile.h"
 
 #include "Suggestion.h"
+#include "UsageError.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/Paths.h"
+
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
@@ -46,9 +50,19 @@ std::string nearbyFile(const std::string& path, Among among)
     return {};
 }
 
-std::string whyUnreadable(const std::string& path, int problem)
+} // namespace host::suggestion
+
+namespace host {
+
+std::string readNamedFile(const std::string& path, std::size_t limit, const char* what)
 {
-    return systemError(problem) + (problem == ENOENT ? nearbyFile(path, Among::Files) : "");
+    const FileDescriptor file(path == "-" ? dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    std::string bytes;
+    if (file.isOpen() && readAll(file.get(), bytes, limit))
+        return bytes;
+    const int problem = errno;
+    throw UsageError(std::string(what) + " " + path + " cannot be read: " + systemError(problem) +
+                     (problem == ENOENT ? suggestion::nearbyFile(path, suggestion::Among::Files) : ""));
 }
 
-} // namespace host::suggestion
+} // namespace host

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace host::suggestion {
@@ -10,8 +11,12 @@ enum class Among { Documents, Files };
 /// empty when no folder and no document, or no file of any kind, beside it has a name like it.
 std::string nearbyFile(const std::string& path, Among among = Among::Documents);
 
-/// Why a file of any kind cannot be read, in words, with what may be meant where it is missing.
-/// \param problem an errno, or notARegularFile.
-std::string whyUnreadable(const std::string& path, int problem);
-
 } // namespace host::suggestion
+
+namespace host {
+
+/// Reads a file that a person has named, "-" for standard input. Throws UsageError, also where there are more bytes than
+/// `limit`. \param what the file is called.
+std::string readNamedFile(const std::string& path, std::size_t limit, const char* what);
+
+} // namespace host
