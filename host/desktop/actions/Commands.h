@@ -2,8 +2,8 @@
 
 #include "ActionTable.h"
 
+#include "host/desktop/platform/LastFolders.h"
 #include "host/desktop/presets/ActionDialog.h"
-#include "host/desktop/session/LastFolders.h"
 #include "host/desktop/texts/ReasonTexts.h"
 #include "host/desktop/workbench/Workbench.h"
 
