@@ -23,14 +23,7 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
 {
     auto* label = new QLabel(tr("&Show:"), this);
     label->setBuddy(m_kind);
-    for (const DocumentFilter::Kind kind : DocumentFilter::kinds())
-        m_kind->addItem(DocumentFilter::nameOf(kind), static_cast<int>(kind));
-    // The longest kind would make the window too wide for small screens.
-    m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_kind->setMinimumContentsLength(shortestKind);
-    m_kind->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    m_kind->view()->setMinimumWidth(m_kind->view()->sizeHintForColumn(0) +
-                                    2 * fontMetrics().averageCharWidth());
+    fillKinds();
     m_kind->setObjectName("filter");
     m_search->setObjectName("search");
     m_count->setObjectName("shownCount");
@@ -57,11 +50,23 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     m_soon.setInterval(typingMilliseconds);
     connect(&m_soon, &QTimer::timeout, this, &FilterBar::apply);
     connect(m_kind, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &FilterBar::apply);
-    connect(m_kind, &QComboBox::currentTextChanged, m_kind, &QWidget::setToolTip); // where it is cut off
     connect(m_search, &QLineEdit::textChanged, &m_soon, QOverload<>::of(&QTimer::start));
     connect(m_all, &QToolButton::clicked, this, &FilterBar::clear);
     connect(&workbench.order(), &DocumentOrder::shownChanged, this, &FilterBar::tell);
     tell();
+}
+
+void FilterBar::fillKinds()
+{
+    for (const DocumentFilter::Kind kind : DocumentFilter::kinds())
+        m_kind->addItem(DocumentFilter::nameOf(kind), static_cast<int>(kind));
+    // The longest kind would make the window too wide for small screens.
+    m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_kind->setMinimumContentsLength(shortestKind);
+    m_kind->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_kind->view()->setMinimumWidth(m_kind->view()->sizeHintForColumn(0) +
+                                    2 * fontMetrics().averageCharWidth());
+    connect(m_kind, &QComboBox::currentTextChanged, m_kind, &QWidget::setToolTip); // where it is cut off
 }
 
 void FilterBar::show(DocumentFilter::Kind kind)
