@@ -210,7 +210,11 @@ QWidget* ChangePanel::makeStored()
     column->addWidget(m_storedName);
     auto* area = new GrowingArea(m_stored);
     area->setObjectName("storedArea");
-    area->setWidget(m_storedLines);
+    auto* inside = new QWidget(area); // whose layout tells when there are more lines
+    auto* lines = new QVBoxLayout(inside);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->addWidget(m_storedLines, 0, Qt::AlignTop);
+    area->setWidget(inside);
     column->addWidget(area, 1);
     column->addWidget(m_configure, 0, Qt::AlignLeft);
     return m_stored;
