@@ -6,9 +6,9 @@
 #include "host/desktop/actions/PresetMenu.h"
 #include "host/desktop/dialogs/HelpWindow.h"
 #include "host/desktop/dialogs/HistoryDialog.h"
+#include "host/desktop/dialogs/StopQuestion.h"
 #include "host/desktop/list/DetailLine.h"
 #include "host/desktop/look/PaneRing.h"
-#include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
 #include "host/desktop/presets/PresetFolder.h"
@@ -59,7 +59,7 @@ MainWindow::Places MainWindow::Places::ofUser()
 MainWindow::MainWindow(const Places& places)
     : m_settings(places.settings, QSettings::IniFormat), m_views(places.views), m_drawer(places.drawer),
       m_workbench(places.program, places.reports), m_session(m_workbench, places.sessions), m_actions(this),
-      m_commands(m_workbench, m_actions, this)
+      m_commands(m_workbench, m_actions, m_settings, this)
 {
     setObjectName(
         "QuintarClass"); // the dialogs of actions take their colours and place from a window of this name
@@ -159,10 +159,7 @@ void MainWindow::connectParts()
     connect(&m_commands, &Commands::said, m_runBar, &RunBar::say);
     connect(&m_commands, &Commands::failed, m_runBar, &RunBar::complain);
     connect(&m_workbench.machine(), &RunMachine::changed, this, &MainWindow::showState);
-    connect(&m_workbench.machine(), &RunMachine::changed, this, [this] {
-        if (m_workbench.machine().isWriting() && m_change->isAncestorOf(focusWidget()))
-            m_view->setFocus(); // what is disabled would pass the focus on, and scroll there
-    });
+    connect(m_change, &ChangePanel::focusLeaves, this, [this] { m_view->setFocus(); });
     connect(new Logout(m_workbench, this), &Logout::toBeKept, this, &MainWindow::saveGeometryOnce);
     connect(&m_session, &Session::failed, m_runBar, &RunBar::complain);
     connect(&m_commands, &Commands::dialogOpens, &m_session, &Session::save);
@@ -213,7 +210,7 @@ void MainWindow::showState()
     m_bar->setEnabled(documents > 0 || m_workbench.machine().state() == State::Reading);
     QString title = tr("Quintar");
     if (documents > 0)
-        title = tr("%n document(s) - Quintar", "", documents);
+        title = tr("%Ln document(s) - Quintar", "", documents);
     if (isWorking)
         title = tr("%1 % - Quintar").arg(static_cast<int>(share * 100));
     setWindowTitle(title);
@@ -251,13 +248,10 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (m_workbench.machine().isWriting()) {
         event->ignore();
-        return dialogs::confirm(
-            this, tr("A run is under way. Stop it and close?"),
-            tr("Documents that are being worked on are finished; the others stay as they are."),
-            tr("&Stop and Close"), [this] {
-                m_closesAtEnd = true;
-                m_workbench.machine().isWriting() ? m_workbench.stop() : runEnded();
-            });
+        return stopquestion::ask(this, m_workbench, tr("&Stop and Close"), [this] {
+            m_closesAtEnd = true;
+            m_workbench.machine().isWriting() ? m_workbench.stop() : runEnded();
+        });
     }
     saveGeometryOnce();
     event->accept();

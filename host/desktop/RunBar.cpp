@@ -68,6 +68,8 @@ void RunBar::layOutParts()
     row->addWidget(m_progress);
     for (QPushButton* each : {m_why, m_again, m_save, m_results, m_undo, m_pause, m_stop})
         row->addWidget(each);
+    m_text->setMinimumHeight(2 *
+                             m_text->fontMetrics().lineSpacing()); // counts and reasons of a run in two lines
     setMinimumHeight(m_stop->sizeHint().height() + 14);
 }
 
@@ -130,37 +132,61 @@ void RunBar::show()
     const State state = m_workbench.machine().state();
     const Workbench::Counts counts = m_workbench.counts();
     const bool areResults = state == State::Results;
-    m_text->setText(m_said.isEmpty() ? countsInWords() : m_said);
+    m_text->setText(textToShow());
     m_text->setToolTip(plaintext::tip(m_text->text()));
     m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
-    m_sign->setVisible(!m_said.isEmpty() && m_isTrouble);
-    m_why->setVisible((areResults ? counts.failed > 0 : state == State::Ready && counts.cannot > 0) &&
-                      m_workbench.order().filter().kind() != why());
-    m_why->setText(areResults ? tr("Show %n Fa&iled", "", counts.failed) : tr("Show Wh&y"));
-    m_results->setVisible(!m_workbench.resultFolder().isEmpty());
-    m_undo->setVisible(areResults && counts.changed > 0 && m_workbench.undoableRun() == 0);
-    m_again->setVisible(areResults && counts.failed + counts.notDone > 0);
-    m_save->setVisible(areResults);
-    m_pause->setVisible(state == State::Running || state == State::Paused);
+    m_why->setText(areResults ? tr("Show %Ln Fa&iled", "", counts.failed) : tr("Show Wh&y"));
     m_pause->setText(state == State::Paused ? tr("Go &On") : tr("Pa&use"));
     showProgress(); // which may have become idle
     if (areResults)
         announce(m_text->text());
 }
 
+/// What goes makes room before anything comes: the window would grow for both together.
+void RunBar::showParts()
+{
+    const State state = m_workbench.machine().state();
+    const Workbench::Counts counts = m_workbench.counts();
+    const bool areResults = state == State::Results;
+    const bool isWorking = m_workbench.task() != nullptr;
+    const int cannot = areResults ? counts.failed : state == State::Ready ? counts.cannot : 0;
+    const std::pair<QWidget*, bool> parts[] = {
+        {m_sign, !m_said.isEmpty() && m_isTrouble},
+        {m_why, cannot > 0 && m_workbench.order().filter().kind() != why()},
+        {m_results, !m_workbench.resultFolder().isEmpty()},
+        {m_undo, areResults && counts.changed > 0 && m_workbench.undoableRun() == 0},
+        {m_again, areResults && counts.failed + counts.notDone > 0},
+        {m_save, areResults},
+        {m_pause, state == State::Running || state == State::Paused},
+        {m_progress, isWorking},
+        {m_stop, isWorking && m_workbench.machine().isEnabled(Command::Stop)},
+    };
+    for (const bool comes : {false, true})
+        for (const auto& [part, isShown] : parts)
+            if (isShown == comes)
+                part->setVisible(comes);
+}
+
 void RunBar::showProgress()
 {
     const DocumentTask* task = m_workbench.task();
-    m_progress->setVisible(task != nullptr);
-    m_stop->setVisible(task != nullptr && m_workbench.machine().isEnabled(Command::Stop));
+    showParts();
     if (task == nullptr)
         return;
     m_progress->setMaximum(task->total());
     m_progress->setValue(task->done());
-    if (m_said.isEmpty())
-        m_text->setText(countsInWords());
+    m_text->setText(textToShow());
     if (m_workbench.machine().isWriting() && m_announced.hasExpired(announceMilliseconds))
         announce(m_text->text());
+}
+
+/// What went wrong stands before the counts of a run, which has ended all the same.
+QString RunBar::textToShow() const
+{
+    if (m_said.isEmpty())
+        return countsInWords();
+    const bool hasBoth = m_isTrouble && m_workbench.machine().state() == State::Results;
+    return hasBoth ? m_said + "  ·  " + countsInWords() : m_said;
 }
 
 QString RunBar::countsInWords() const
@@ -175,7 +201,7 @@ QString RunBar::countsInWords() const
     case State::Empty:
         return tr("The list is empty.");
     case State::Reading:
-        return tr("Reading… %n document(s) so far", "", m_workbench.table().count());
+        return tr("Reading… %Ln document(s) so far", "", m_workbench.table().count());
     case State::Checking: {
         const QString problem = m_workbench.destination().problem();
         return !problem.isEmpty() ? problem : tr("Finding out what would change… %1").arg(done);
@@ -228,24 +254,30 @@ QString RunBar::reasonsInWords(const Workbench::Counts& counts)
 QString RunBar::plannedInWords(const Workbench::Counts& counts)
 {
     QString text =
-        counts.willChange == 0 ? tr("Nothing would change") : tr("%n will change", "", counts.willChange);
+        counts.willChange == 0 ? tr("Nothing would change") : tr("%Ln will change", "", counts.willChange);
     if (counts.asAsked > 0)
-        text += "  ·  " + tr("%n open so already", "", counts.asAsked);
+        text += "  ·  " + tr("%Ln open so already", "", counts.asAsked);
     if (counts.cannot > 0)
-        text += "  ·  " + tr("%n cannot be changed", "", counts.cannot) + reasonsInWords(counts);
+        text += "  ·  " + tr("%Ln cannot be changed", "", counts.cannot) + reasonsInWords(counts);
     return text;
 }
 
 QString RunBar::doneInWords(const Workbench::Counts& counts)
 {
-    QString text = tr("%n changed", "", counts.changed);
+    QStringList texts;
+    if (counts.written + counts.copied == 0)
+        texts += tr("%Ln changed", "", counts.changed);
+    else
+        texts += tr("%Ln written", "", counts.written);
+    if (counts.copied > 0)
+        texts += tr("%Ln copied as they were", "", counts.copied);
     if (counts.unchanged > 0)
-        text += "  ·  " + tr("%n as they were", "", counts.unchanged);
+        texts += tr("%Ln as they were", "", counts.unchanged);
     if (counts.failed > 0)
-        text += "  ·  " + tr("%n failed", "", counts.failed) + reasonsInWords(counts);
+        texts += tr("%Ln failed", "", counts.failed) + reasonsInWords(counts);
     if (counts.notDone > 0)
-        text += "  ·  " + tr("%n not done", "", counts.notDone);
-    return text;
+        texts += tr("%Ln not done", "", counts.notDone);
+    return texts.join("  ·  ");
 }
 
 QString RunBar::timeLeft() const
@@ -255,8 +287,8 @@ QString RunBar::timeLeft() const
         return {};
     const double each = double(m_running.elapsed()) / task->done();
     const int seconds = static_cast<int>(each * (task->total() - task->done()) / 1000) + 1;
-    return "  ·  " + (seconds < 90 ? tr("about %n second(s) left", "", seconds)
-                                   : tr("about %n minute(s) left", "", (seconds + 30) / 60));
+    return "  ·  " + (seconds < 90 ? tr("about %Ln second(s) left", "", seconds)
+                                   : tr("about %Ln minute(s) left", "", (seconds + 30) / 60));
 }
 
 /// Screen readers hear of it without the focus being there.

@@ -42,7 +42,9 @@ private:
     DocumentFilter::Kind why() const;
     void tell(const QString& text, bool isTrouble);
     void show();
+    void showParts();
     void showProgress();
+    QString textToShow() const;
     QString countsInWords() const;
     QString listedInWords() const;
     static QString reasonsInWords(const Workbench::Counts& counts);

@@ -151,7 +151,7 @@ private slots:
         auto* question = m_window->findChild<StartQuestion*>();
         QVERIFY(question->isVisible());
         QCOMPARE(StartQuestion::question(m_window->workbench()),
-                 QString("%n document(s) will be changed in place.").replace("%n", "1"));
+                 QString("%Ln document(s) will be changed in place.").replace("%Ln", "1"));
         QCOMPARE(m_fake->starts().filter("--report").size(), 0);
         QTest::keyClick(question, Qt::Key_Return);
         QTRY_COMPARE(state(), State::Results);
@@ -214,7 +214,7 @@ private slots:
         click("Save Report…");
         QFile report(file);
         QVERIFY(report.open(QIODevice::ReadOnly));
-        QVERIFY(report.readAll().contains("/d/a.pdf\tchanged\tPanel: Not set → Bookmarks\t\n"));
+        QVERIFY(report.readAll().contains("/d/a.pdf\tchanged\tPanel: Not set → Bookmarks\t\t\n"));
     }
 
     void undoesARunAfterAsking()
@@ -293,14 +293,23 @@ private slots:
     void writesToAFolder()
     {
         read();
+        QVERIFY(!m_window->findChild<QAbstractButton*>("keepAllButton")->isEnabled());
+        QVERIFY(!action("Keep All")->isEnabled());
         choose("Panel", "Bookmarks");
+        QVERIFY(action("Keep All")->isEnabled());
+        QTest::keyClick(find<QComboBox>("Write to"), Qt::Key_Down); // which may only pass by
+        QVERIFY(qApp->activeModalWidget() == nullptr);
         dialogs::setNextAnswer({"/out"});
-        choose("Write to", "A folder");
+        click("Choose the folder for the results");
         QTRY_VERIFY(m_fake->starts().last().contains("--output /out --base /d/"));
         QTRY_COMPARE(state(), State::Ready);
         QVERIFY(!button("Show Results")->isVisible());
         m_window->workbench().start();
         QTRY_VERIFY(button("Show Results")->isVisible());
+        QCOMPARE(status(), QString("1 written  ·  1 failed (1 signed)"));
+        QCOMPARE(cell(0, Column::Panel), QString("Not set, in the result Bookmarks"));
+        list()->setCurrentIndex(list()->model()->index(0, 0));
+        QVERIFY(find<QLabel>("About the current document")->text().contains("result written, /out/a.pdf"));
         QDesktopServices::setUrlHandler("file", this, "open");
         click("Show Results");
         QDesktopServices::unsetUrlHandler("file");
@@ -360,6 +369,13 @@ private:
     }
     QAbstractButton* button(const QString& name) const { return find<QAbstractButton>(name); }
     void click(const QString& name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+    QAction* action(const QString& name) const
+    {
+        for (QAction* each : m_window->findChildren<QAction*>())
+            if (each->text().remove('&') == name)
+                return each;
+        qFatal("no %s", qPrintable(name));
+    }
     void typeInMenu(const QVector<Qt::Key>& keys) const
     {
         QTest::keyClick(m_window.get(), keys.front(), Qt::AltModifier);
@@ -368,7 +384,7 @@ private:
         QVERIFY(QApplication::activePopupWidget() == nullptr);
     }
     QTableView* list() const { return find<QTableView>("Documents"); }
-    QString status() const { return find<QLabel>("Status")->text().replace("%n", "1"); }
+    QString status() const { return find<QLabel>("Status")->text().replace("%Ln", "1"); }
     QString cell(int row, Column column) const
     {
         return list()->model()->index(row, int(column)).data(Qt::AccessibleTextRole).toString();

@@ -47,7 +47,7 @@ std::vector<Message> messagesOf(const QString& path)
 
 QStringList placesIn(const QString& text)
 {
-    static const QRegularExpression place("%(\\d|n)");
+    static const QRegularExpression place("%(\\d|Ln)");
     QStringList found;
     for (auto each = place.globalMatch(text); each.hasNext();)
         found += each.next().captured();
@@ -96,7 +96,7 @@ private slots:
         QFETCH(QString, language);
         for (const Message& each : messagesOf(
                  QString(SOURCE_DIR) + "/host/desktop/translations/quintar-window_" + language + ".ts")) {
-            const int forms = each.source.contains("%n") && language != "ja" ? 2 : 1;
+            const int forms = each.source.contains("%Ln") && language != "ja" ? 2 : 1;
             QVERIFY2(each.texts.size() == forms, qPrintable(each.source));
             for (const QString& text : each.texts) {
                 QVERIFY2(placesIn(text) == placesIn(each.source), qPrintable(text));
@@ -161,7 +161,7 @@ private:
 
     static QString counted(int number)
     {
-        return QCoreApplication::translate("host::desktop::FilterBar", "%n document(s)", nullptr, number);
+        return QCoreApplication::translate("host::desktop::FilterBar", "%Ln document(s)", nullptr, number);
     }
 };
 

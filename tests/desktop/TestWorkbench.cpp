@@ -186,9 +186,31 @@ private slots:
         QCOMPARE(m_bench->task()->total(), 2);
         m_bench->add({"/e"}); // waits
         m_bench->stop();
+        QVERIFY(m_bench->isUndoing()); // which is what a question would be about
         QTRY_COMPARE(ended.size(), 1);
         QVERIFY(m_bench->history().canUndo(0));
         QTRY_COMPARE(m_fake->names(), QList<QByteArray>({"/e"}));
+    }
+
+    /// Nobody would learn why otherwise, and the next run would change what nobody has looked at.
+    void keepsAsideWhatUndoingLeftAlone()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        m_bench->start();
+        QTRY_COMPARE(state(), State::Results);
+        m_fake->plays("undo", Fake::start() + Fake::found(0, "/d/a.pdf") +
+                                  Fake::result(0, "left alone", ",\"reasonCode\":\"changedMeanwhile\"") +
+                                  Fake::end());
+        m_bench->undoRun(0);
+        QTRY_COMPARE(state(), State::Ready);
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b.pdf"}));
+        QCOMPARE(m_bench->counts().cannot, 1);
+        QCOMPARE(m_bench->counts().reasons.value("changedMeanwhile"), 1);
+        m_bench->start();
+        QTRY_COMPARE(state(), State::Results);
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b.pdf"}));
     }
 
     /// What was added is not lost, however reading it ends, and whatever stands against it.

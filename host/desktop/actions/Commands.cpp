@@ -41,22 +41,37 @@ const Gate gates[] = {
     {Id::UndoLast, Command::UndoRun},    {Id::SaveReport, Command::TryAgain},
 };
 
-/// In a field of a table with tabs between.
-QString field(QString text)
+/// Of a table with tabs between.
+QByteArray line(QStringList fields)
 {
-    return text.replace('\t', ' ').replace('\n', ' ').replace('\r', ' ');
+    for (QString& each : fields)
+        each.replace('\t', ' ').replace('\n', ' ').replace('\r', ' ');
+    return (fields.join('\t') + '\n').toUtf8();
+}
+
+QByteArray reportInWords(const DocumentTable& table)
+{
+    QByteArray text = line({Commands::tr("Document"), Commands::tr("State"), Commands::tr("Change"),
+                            Commands::tr("Reason"), Commands::tr("Result")});
+    for (const DocumentRecord& record : table.records())
+        if (record.result)
+            text += line({QFile::decodeName(record.path), rowtexts::stateOf(record),
+                          rowtexts::differences(*record.result), rowtexts::reasonOf(record),
+                          QFile::decodeName(record.result->file)});
+    return text;
 }
 
 } // namespace
 
-Commands::Commands(Workbench& workbench, ActionTable& actions, QWidget* window)
-    : QObject(window), m_workbench(workbench), m_actions(actions), m_window(window)
+Commands::Commands(Workbench& workbench, ActionTable& actions, QSettings& settings, QWidget* window)
+    : QObject(window), m_workbench(workbench), m_actions(actions), m_window(window), m_folders(settings)
 {
     connectAll();
     connect(&workbench.machine(), &RunMachine::changed, this, &Commands::enable);
     connect(&workbench.edits(), &EditHistory::changed, this, &Commands::enable);
     connect(&workbench.history(), &RunHistory::modelReset, this, &Commands::enable);
-    connect(&workbench, &Workbench::targetsChanged, this, &Commands::enable);
+    connect(&workbench, &Workbench::draftChanged, this, &Commands::enable);
+    connect(&workbench, &Workbench::countsChanged, this, &Commands::enable);
     connect(&workbench.order(), &DocumentOrder::selectionMoved, this, &Commands::enable);
     enable();
 }
@@ -118,7 +133,14 @@ void Commands::enable()
         m_actions[id]->setEnabled(hasCurrent);
     if (!hasCurrent || !current()->facts)
         m_actions[Id::LikeThis]->setEnabled(false);
-    m_actions[Id::CopyCommand]->setEnabled(!m_workbench.draft().isEmpty());
+    const bool hasChange = !m_workbench.draft().isEmpty();
+    m_actions[Id::CopyCommand]->setEnabled(hasChange && !m_workbench.targets().isEmpty());
+    if (!hasChange)
+        m_actions[Id::KeepAll]->setEnabled(false);
+    if (machine.isEnabled(Command::TryAgain)) {
+        const Workbench::Counts counts = m_workbench.counts();
+        m_actions[Id::TryAgain]->setEnabled(counts.failed + counts.notDone > 0);
+    }
 }
 
 /// What the machine alone does not know.
@@ -151,8 +173,10 @@ QVector<DocumentId> Commands::chosen() const
 
 void Commands::addFiles()
 {
-    dialogs::askFiles(m_window, tr("Add Files"), [this](const QStringList& names) {
+    const QString start = m_folders.of(LastFolders::Use::Adding);
+    dialogs::askFiles(m_window, tr("Add Files"), start, [this](const QStringList& names) {
         QVector<QByteArray> paths;
+        m_folders.keepFolderOf(LastFolders::Use::Adding, names.value(0));
         for (const QString& name : names)
             paths.append(droppednames::absolute(QFile::encodeName(name)));
         m_workbench.add(paths);
@@ -161,9 +185,12 @@ void Commands::addFiles()
 
 void Commands::addFolder()
 {
-    dialogs::askFolder(m_window, tr("Add Folder"), {}, [this](const QString& name) {
-        if (!name.isEmpty())
-            m_workbench.add({droppednames::absolute(QFile::encodeName(name))});
+    const QString start = m_folders.of(LastFolders::Use::Adding);
+    dialogs::askFolder(m_window, tr("Add Folder"), start, [this](const QString& name) {
+        if (name.isEmpty())
+            return;
+        m_folders.keepFolderOf(LastFolders::Use::Adding, name); // where its neighbours are
+        m_workbench.add({droppednames::absolute(QFile::encodeName(name))});
     });
 }
 
@@ -212,7 +239,7 @@ void Commands::undoRun(int row)
         return;
     const RunHistory::Run& run = m_workbench.history().runs().at(static_cast<std::size_t>(row));
     const QString question = run.changed < 0 ? tr("Undo this run?")
-                                             : tr("Give %n document(s) back as they were?", "", run.changed);
+                                             : tr("Give %Ln document(s) back as they were?", "", run.changed);
     dialogs::confirm(m_window, question,
                      tr("Documents that have been changed since by something else are left alone."),
                      tr("&Undo"), [this, row] { m_workbench.undoRun(row); });
@@ -220,16 +247,11 @@ void Commands::undoRun(int row)
 
 void Commands::saveReport()
 {
-    dialogs::askSaveName(m_window, tr("Save Report"), tr("report.tsv"), [this](const QString& name) {
+    const QString start = m_folders.of(LastFolders::Use::Reports) + "/" + tr("report.tsv");
+    dialogs::askSaveName(m_window, tr("Save Report"), start, [this](const QString& name) {
+        m_folders.keepFolderOf(LastFolders::Use::Reports, name);
         QSaveFile file(name);
-        QByteArray bytes =
-            (tr("Document") + "\t" + tr("State") + "\t" + tr("Change") + "\t" + tr("Reason") + "\n").toUtf8();
-        for (const DocumentRecord& record : m_workbench.table().records())
-            if (record.result)
-                bytes += (field(QFile::decodeName(record.path)) + "\t" + rowtexts::stateOf(record) + "\t" +
-                          field(rowtexts::differences(*record.result)) + "\t" +
-                          field(rowtexts::reasonOf(record)) + "\n")
-                             .toUtf8();
+        const QByteArray bytes = reportInWords(m_workbench.table());
         if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
             emit said(tr("The report is in %1.").arg(name));
         else

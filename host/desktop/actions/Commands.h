@@ -2,6 +2,7 @@
 
 #include "ActionTable.h"
 
+#include "host/desktop/platform/LastFolders.h"
 #include "host/desktop/presets/ActionDialog.h"
 #include "host/desktop/texts/ReasonTexts.h"
 #include "host/desktop/workbench/Workbench.h"
@@ -14,7 +15,8 @@ class Commands : public QObject
     Q_OBJECT
 
 public:
-    Commands(Workbench& workbench, ActionTable& actions, QWidget* window);
+    /// \param settings where it is kept in which folders documents were last looked for.
+    Commands(Workbench& workbench, ActionTable& actions, QSettings& settings, QWidget* window);
 
     void addFiles();
     void addFolder();
@@ -54,6 +56,7 @@ private:
     ActionTable& m_actions;
     QWidget* m_window;
     ActionDialog m_dialog;
+    LastFolders m_folders;
 };
 
 } // namespace host::desktop

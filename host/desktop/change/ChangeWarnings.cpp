@@ -35,25 +35,25 @@ void aboutDocuments(const ViewChange& view, const SelectionSummary& summary,
     if (sets(view, ViewEntry::PageMode, pdflibrary::BookmarksPanel) && summary.withoutBookmarks > 0)
         warnings.push_back(
             {say(QT_TRANSLATE_N_NOOP("ChangeWarnings",
-                                     "%n document(s) have no bookmarks: the panel will be empty."),
+                                     "%Ln document(s) have no bookmarks: the panel will be empty."),
                  summary.withoutBookmarks),
              DocumentFilter::Kind::NoBookmarks});
     if (sets(view, ViewEntry::DisplayDocTitle, 1) && !view[ViewEntry::Title] && summary.withoutTitle > 0)
         warnings.push_back(
-            {say(QT_TRANSLATE_N_NOOP("ChangeWarnings", "%n document(s) have no title to show."),
+            {say(QT_TRANSLATE_N_NOOP("ChangeWarnings", "%Ln document(s) have no title to show."),
                  summary.withoutTitle),
              DocumentFilter::Kind::NoTitle});
     if (number != nullptr && summary.known > 0 && *number > summary.shortest)
         warnings.push_back(
             {say(QT_TRANSLATE_N_NOOP("ChangeWarnings",
-                                     "The shortest document has %n page(s); it cannot open there."),
+                                     "The shortest document has %Ln page(s); it cannot open there."),
                  summary.shortest),
              {}});
     if (summary.signedDocuments > 0)
         warnings.push_back(
             {say(QT_TRANSLATE_N_NOOP(
                      "ChangeWarnings",
-                     "%n document(s) are signed and stay as they are, unless you say otherwise."),
+                     "%Ln document(s) are signed and stay as they are, unless you say otherwise."),
                  summary.signedDocuments),
              DocumentFilter::Kind::Signed});
 }

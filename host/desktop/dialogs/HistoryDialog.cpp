@@ -5,7 +5,15 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace host::desktop {
+
+namespace {
+
+const int widestFolder = 260;
+
+} // namespace
 
 HistoryDialog::HistoryDialog(RunHistory& history, QWidget* parent)
     : QDialog(parent), m_history(history), m_table(new QTableView(this)), m_undo(nullptr)
@@ -55,8 +63,9 @@ void HistoryDialog::fillTable()
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->resizeColumnsToContents();
-    m_table->setColumnWidth(RunHistory::What, 300);
-    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->setColumnWidth(RunHistory::Where,
+                            std::min(m_table->columnWidth(RunHistory::Where), widestFolder));
+    m_table->horizontalHeader()->setSectionResizeMode(RunHistory::What, QHeaderView::Stretch);
 }
 
 } // namespace host::desktop

@@ -63,12 +63,12 @@ QString StartQuestion::question(const Workbench& workbench)
     const Destination& where = workbench.destination();
     switch (where.kind) {
     case Destination::Kind::InPlace:
-        return tr("%n document(s) will be changed in place.", "", counts.willChange);
+        return tr("%Ln document(s) will be changed in place.", "", counts.willChange);
     case Destination::Kind::Folder:
-        return tr("%n result(s) will be written to %1.", "", counts.willChange + counts.asAsked)
+        return tr("%Ln result(s) will be written to %1.", "", counts.willChange + counts.asAsked)
             .arg(where.folderPath());
     case Destination::Kind::Suffix:
-        return tr("%n result(s) will be written beside the documents, with “-%1” added to their names.", "",
+        return tr("%Ln result(s) will be written beside the documents, with “-%1” added to their names.", "",
                   counts.willChange + counts.asAsked)
             .arg(where.suffix);
     }
@@ -80,13 +80,13 @@ QString StartQuestion::details(Workbench& workbench)
     const Workbench::Counts counts = workbench.counts();
     QStringList lines{workbench.draft().inWords()};
     if (const int files = replaced(workbench); files > 0)
-        lines += tr("%n file(s) there will be replaced.", "", files);
+        lines += tr("%Ln file(s) there will be replaced.", "", files);
     if (workbench.destination().kind == Destination::Kind::InPlace)
         lines += tr("What the run changes can be undone.");
     else
         lines += tr("The documents themselves stay as they are.");
     if (counts.cannot > 0)
-        lines += tr("%n document(s) cannot be changed and stay as they are.", "", counts.cannot);
+        lines += tr("%Ln document(s) cannot be changed and stay as they are.", "", counts.cannot);
     return lines.join('\n');
 }
 

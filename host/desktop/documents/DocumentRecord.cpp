@@ -10,9 +10,9 @@ namespace {
 
 using State = DocumentRecord::State;
 
-State stateOf(Outcome::Kind kind)
+State stateOf(const Outcome& outcome)
 {
-    switch (kind) {
+    switch (outcome.kind) {
     case Outcome::Kind::WillChange:
         return State::WillChange;
     case Outcome::Kind::AsAsked:
@@ -20,9 +20,9 @@ State stateOf(Outcome::Kind kind)
     case Outcome::Kind::Cannot:
         return State::Cannot;
     case Outcome::Kind::Changed:
-        return State::Changed;
+        return outcome.file.isEmpty() ? State::Changed : State::Written;
     case Outcome::Kind::Unchanged:
-        return State::Unchanged;
+        return outcome.file.isEmpty() ? State::Unchanged : State::Copied;
     case Outcome::Kind::Failed:
         return State::Failed;
     case Outcome::Kind::NotDone:
@@ -51,7 +51,7 @@ DocumentRecord DocumentRecord::of(DocumentId id, const QByteArray& path)
 State DocumentRecord::state() const
 {
     if (const Outcome* latest = outcome())
-        return stateOf(latest->kind);
+        return stateOf(*latest);
     if (facts)
         return State::Known;
     return troubleCode.isEmpty() && trouble.isEmpty() ? State::Waiting : State::Unreadable;

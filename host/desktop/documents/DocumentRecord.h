@@ -24,6 +24,8 @@ struct DocumentRecord
         Cannot,
         Changed,
         Unchanged,
+        Written, ///< The result is a file of its own, and the document as it was.
+        Copied,  ///< The same, and the result opens as the document does.
         Failed,
         NotDone,
         Undone,

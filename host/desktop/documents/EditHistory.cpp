@@ -107,10 +107,10 @@ QString EditHistory::textOf(const Step& step, bool again)
     if (step.kind == Step::Kind::Setting)
         return (again ? tr("&Redo Setting “%1”") : tr("&Undo Setting “%1”")).arg(step.setting.name);
     if (step.kind == Step::Kind::Removal)
-        return again ? tr("&Redo Removing %n Document(s)", "", step.ids.size())
-                     : tr("&Undo Removing %n Document(s)", "", step.ids.size());
-    return again ? tr("&Redo Adding %n Document(s)", "", step.ids.size())
-                 : tr("&Undo Adding %n Document(s)", "", step.ids.size());
+        return again ? tr("&Redo Removing %Ln Document(s)", "", step.ids.size())
+                     : tr("&Undo Removing %Ln Document(s)", "", step.ids.size());
+    return again ? tr("&Redo Adding %Ln Document(s)", "", step.ids.size())
+                 : tr("&Undo Adding %Ln Document(s)", "", step.ids.size());
 }
 
 } // namespace host::desktop

@@ -26,6 +26,8 @@ struct Outcome
     QString reasonCode;
     QString reason;
     QString note;
+    /// Where the result lies, as the file system has it; empty where the document itself is the result.
+    QByteArray file;
     /// Only the entries that differ.
     ViewReading before;
     ViewReading after;

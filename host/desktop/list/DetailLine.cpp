@@ -2,6 +2,9 @@
 
 #include "host/desktop/look/PlainLabel.h"
 #include "host/desktop/rows/RowTexts.h"
+#include "host/desktop/texts/PlainText.h"
+
+#include <QFile>
 
 #include <QHBoxLayout>
 
@@ -11,8 +14,10 @@ namespace {
 
 QString textOf(const DocumentRecord& record)
 {
-    const QString state = rowtexts::stateOf(record);
     const Outcome* outcome = record.outcome();
+    QString state = rowtexts::stateOf(record);
+    if (outcome != nullptr && !outcome->file.isEmpty())
+        state = DetailLine::tr("%1, %2").arg(state, plaintext::shown(QFile::decodeName(outcome->file)));
     QString more = rowtexts::reasonOf(record);
     if (outcome != nullptr && more.isEmpty())
         more = rowtexts::differences(*outcome);
@@ -32,6 +37,7 @@ DetailLine::DetailLine(Workbench& workbench, QWidget* parent)
     m_text->setAccessibleName(tr("About the current document"));
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_text->setMinimumWidth(1); // a long name is cut off and does not widen the window
     m_text->setMinimumHeight(m_remedy->sizeHint().height());
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 6, 12, 6);

@@ -2,6 +2,7 @@
 
 #include "host/desktop/look/Drawings.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -12,6 +13,7 @@ namespace host::desktop {
 namespace {
 
 const int typingMilliseconds = 120;
+const int shortestKind = 14;
 
 } // namespace
 
@@ -21,8 +23,7 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
 {
     auto* label = new QLabel(tr("&Show:"), this);
     label->setBuddy(m_kind);
-    for (const DocumentFilter::Kind kind : DocumentFilter::kinds())
-        m_kind->addItem(DocumentFilter::nameOf(kind), static_cast<int>(kind));
+    fillKinds();
     m_kind->setObjectName("filter");
     m_search->setObjectName("search");
     m_count->setObjectName("shownCount");
@@ -41,8 +42,8 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
     row->addWidget(label);
-    row->addWidget(m_kind);
-    row->addWidget(m_search, 1);
+    row->addWidget(m_kind, 1);
+    row->addWidget(m_search, 2);
     row->addWidget(m_count);
     row->addWidget(m_all);
     m_soon.setSingleShot(true);
@@ -53,6 +54,19 @@ FilterBar::FilterBar(Workbench& workbench, QWidget* parent)
     connect(m_all, &QToolButton::clicked, this, &FilterBar::clear);
     connect(&workbench.order(), &DocumentOrder::shownChanged, this, &FilterBar::tell);
     tell();
+}
+
+void FilterBar::fillKinds()
+{
+    for (const DocumentFilter::Kind kind : DocumentFilter::kinds())
+        m_kind->addItem(DocumentFilter::nameOf(kind), static_cast<int>(kind));
+    // The longest kind would make the window too wide for small screens.
+    m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_kind->setMinimumContentsLength(shortestKind);
+    m_kind->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_kind->view()->setMinimumWidth(m_kind->view()->sizeHintForColumn(0) +
+                                    2 * fontMetrics().averageCharWidth());
+    connect(m_kind, &QComboBox::currentTextChanged, m_kind, &QWidget::setToolTip); // where it is cut off
 }
 
 void FilterBar::show(DocumentFilter::Kind kind)
@@ -88,7 +102,7 @@ void FilterBar::tell()
     const int all = m_workbench.table().count();
     const int shown = m_workbench.order().shown().size();
     m_count->setText(shown == all
-                         ? tr("%n document(s)", "", all)
+                         ? tr("%Ln document(s)", "", all)
                          : tr("%1 of %2 shown").arg(QLocale().toString(shown), QLocale().toString(all)));
     m_all->setVisible(!m_workbench.order().filter().isOpen());
 }

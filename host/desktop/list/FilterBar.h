@@ -26,6 +26,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void fillKinds();
     void apply();
     void tell();
 

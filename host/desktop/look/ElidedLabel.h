@@ -4,7 +4,8 @@
 
 namespace host::desktop {
 
-/// A line of text that is cut off with dots where it does not fit; the whole text is its tool tip then.
+/// Text that takes the lines its height has room for and is cut off with dots where it does not fit; the whole text is
+/// its tool tip then.
 class ElidedLabel : public PlainLabel
 {
     Q_OBJECT
@@ -16,6 +17,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QStringList linesThatFit() const;
 };
 
 } // namespace host::desktop

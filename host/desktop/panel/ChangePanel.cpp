@@ -78,7 +78,7 @@ ChangePanel::ChangePanel(Workbench& workbench, QWidget* parent)
     column->setSpacing(spacing);
     column->addLayout(makeHead());
     column->addWidget(makeSettings(), 1);
-    column->addWidget(makeStored());
+    column->addWidget(makeStored(), 1);
     m_warnings->setSpacing(4);
     column->addLayout(m_warnings);
     auto* where = new QHBoxLayout;
@@ -208,9 +208,15 @@ QWidget* ChangePanel::makeStored()
     m_configure->setObjectName("configureButton");
     connect(m_configure, &QPushButton::clicked, this, &ChangePanel::configureWanted);
     column->addWidget(m_storedName);
-    column->addWidget(m_storedLines);
+    auto* area = new GrowingArea(m_stored);
+    area->setObjectName("storedArea");
+    auto* inside = new QWidget(area); // whose layout tells when there are more lines
+    auto* lines = new QVBoxLayout(inside);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->addWidget(m_storedLines, 0, Qt::AlignTop);
+    area->setWidget(inside);
+    column->addWidget(area, 1);
     column->addWidget(m_configure, 0, Qt::AlignLeft);
-    column->addStretch();
     return m_stored;
 }
 
@@ -224,6 +230,8 @@ void ChangePanel::edit(ViewEntry entry, const SettingRow::Value& value)
 void ChangePanel::show()
 {
     const bool isOpen = m_workbench.machine().isEnabled(RunMachine::Command::Edit);
+    if (m_workbench.machine().isWriting() && isAncestorOf(window()->focusWidget()))
+        emit focusLeaves(); // before it is passed on from row to row, and the area scrolls there
     const SelectionSummary summary = m_workbench.summary();
     for (SettingRow* row : m_rows) {
         row->setDraft(m_workbench.draft());
@@ -252,8 +260,8 @@ void ChangePanel::showScope()
     const int shown = m_workbench.order().shown().size();
     const int selected = m_workbench.order().selected().size();
     const bool areAll = shown == m_workbench.table().count();
-    m_scope->setItemText(0, areAll ? tr("all %n document(s)", "", shown) : tr("all %n shown", "", shown));
-    m_scope->setItemText(1, tr("the %n selected", "", selected));
+    m_scope->setItemText(0, areAll ? tr("all %Ln document(s)", "", shown) : tr("all %Ln shown", "", shown));
+    m_scope->setItemText(1, tr("the %Ln selected", "", selected));
     m_scope->setCurrentIndex(m_workbench.isForSelected() ? 1 : 0);
 }
 

@@ -27,6 +27,8 @@ public:
 signals:
     void showWanted(host::desktop::DocumentFilter::Kind kind);
     void configureWanted();
+    /// Its settings, one of which has the focus, are about to be disabled.
+    void focusLeaves();
 
 private:
     QLayout* makeHead();

@@ -23,7 +23,7 @@ DestinationRow::DestinationRow(QWidget* parent)
            "writes its results into a folder or beside them."));
     m_folder->setAccessibleName(tr("Folder for the results"));
     m_folder->setPlaceholderText(tr("Folder for the results"));
-    m_choose->setText(QStringLiteral("…"));
+    m_choose->setText(tr("Choose…"));
     m_choose->setAccessibleName(tr("Choose the folder for the results"));
     m_choose->setToolTip(m_choose->accessibleName());
     m_suffix->setAccessibleName(tr("Added to the names"));
@@ -32,8 +32,6 @@ DestinationRow::DestinationRow(QWidget* parent)
     connect(m_kind, QOverload<int>::of(&QComboBox::activated), this, [this] {
         show();
         emit edited(destination());
-        if (destination().kind == Destination::Kind::Folder && m_folder->text().isEmpty())
-            emit folderWanted();
     });
     for (QLineEdit* each : {m_folder, m_suffix})
         connect(each, &QLineEdit::textEdited, this, [this] {

@@ -12,6 +12,9 @@ namespace {
 const double margin = 12;
 const double titleHeight = 20;
 const double lineHeight = 16;
+/// On low screens the settings need the room more; below the height for words these are only the tool tip.
+const int lowest = 110;
+const int lowestWithWords = 170;
 /// A single window is drawn so much wider than tall, and one of two no taller than this for its width.
 const double widest = 1.25;
 const double tallest = 4.0 / 3;
@@ -57,7 +60,7 @@ PreviewPane::PreviewPane(Workbench& workbench, const QString& drawer, QWidget* p
 {
     setObjectName("preview");
     setAccessibleName(tr("Preview"));
-    setMinimumHeight(170);
+    setMinimumHeight(lowest);
     setWhatsThis(tr(
         "A drawing of the first moment of the current document, as it opens now and as it will. Each viewer "
         "decides for itself what of this it does."));
@@ -79,6 +82,7 @@ void PreviewPane::show()
         if (wasKnown || reason != m_reason)
             update();
         m_reason = reason;
+        setToolTip({});
         setAccessibleDescription(reason);
         return;
     }
@@ -93,6 +97,7 @@ void PreviewPane::show()
     m_before = before;
     m_after = after;
     m_followers = followersOf(after);
+    setToolTip(m_followers);
     setAccessibleDescription(
         before == after ? tr("Opens with %1.").arg(inWords(before))
                         : tr("Before: %1. After: %2. %3").arg(inWords(before), inWords(after), m_followers));
@@ -109,9 +114,11 @@ void PreviewPane::paintEvent(QPaintEvent*)
                          m_reason.isEmpty() ? tr("Select a document to see how it opens.") : m_reason);
         return;
     }
-    const double words = heightOfWords(area.width());
+    const double words = height() < lowestWithWords ? 0 : heightOfWords(area.width());
     const QRectF room = area.adjusted(0, 0, 0, lineHeight - titleHeight - words);
     const QRectF scenes = m_before == m_after ? paintOne(painter, room) : paintBoth(painter, room);
+    if (words == 0)
+        return;
     painter.setPen(drawings::quietText(palette()));
     const QRectF below(area.left(), scenes.bottom() + titleHeight - lineHeight, area.width(), words);
     painter.drawText(below, int(Qt::AlignCenter) | int(Qt::TextWordWrap), m_followers);

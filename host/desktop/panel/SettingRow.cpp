@@ -37,7 +37,7 @@ bool isNumber(ViewEntry entry)
 } // namespace
 
 SettingRow::SettingRow(ViewEntry entry, QGridLayout* layout, QWidget* parent)
-    : QObject(parent), m_entry(entry), m_label(new QLabel(viewtexts::nameOf(entry), parent)),
+    : QObject(parent), m_entry(entry), m_label(new PlainLabel(viewtexts::nameOf(entry), parent)),
       m_box(new QComboBox(parent)), m_present(new ElidedLabel(parent))
 {
     m_label->setBuddy(m_box);

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -22,9 +23,9 @@ std::optional<QStringList> takeAnswer()
 }
 
 QFileDialog* fileDialog(QWidget* parent, const QString& title, QFileDialog::FileMode mode,
-                        const WithNames& then)
+                        const QString& folder, const WithNames& then)
 {
-    auto* dialog = new QFileDialog(parent, title);
+    auto* dialog = new QFileDialog(parent, title, folder);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(mode);
     QObject::connect(dialog, &QFileDialog::filesSelected, parent, then);
@@ -66,11 +67,11 @@ void showInput(QWidget* parent, const QString& title, const QString& label, QLin
 
 } // namespace
 
-void askFiles(QWidget* parent, const QString& title, const WithNames& then)
+void askFiles(QWidget* parent, const QString& title, const QString& start, const WithNames& then)
 {
     if (const auto answer = takeAnswer())
         return then(*answer);
-    QFileDialog* dialog = fileDialog(parent, title, QFileDialog::ExistingFiles, then);
+    QFileDialog* dialog = fileDialog(parent, title, QFileDialog::ExistingFiles, start, then);
     dialog->setNameFilters({QCoreApplication::translate("Dialogs", "PDF documents (*.pdf *.PDF)"),
                             QCoreApplication::translate("Dialogs", "All files (*)")});
     dialog->open();
@@ -80,11 +81,9 @@ void askFolder(QWidget* parent, const QString& title, const QString& start, cons
 {
     if (const auto answer = takeAnswer())
         return then(answer->value(0));
-    QFileDialog* dialog = fileDialog(parent, title, QFileDialog::Directory,
+    QFileDialog* dialog = fileDialog(parent, title, QFileDialog::Directory, start,
                                      [then](const QStringList& names) { then(names.value(0)); });
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    if (!start.isEmpty())
-        dialog->setDirectory(start);
     dialog->open();
 }
 
@@ -92,10 +91,10 @@ void askSaveName(QWidget* parent, const QString& title, const QString& start, co
 {
     if (const auto answer = takeAnswer())
         return then(answer->value(0));
-    QFileDialog* dialog = fileDialog(parent, title, QFileDialog::AnyFile,
+    QFileDialog* dialog = fileDialog(parent, title, QFileDialog::AnyFile, QFileInfo(start).path(),
                                      [then](const QStringList& names) { then(names.value(0)); });
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->selectFile(start);
+    dialog->selectFile(QFileInfo(start).fileName());
     dialog->open();
 }
 

@@ -12,8 +12,10 @@ namespace host::desktop::dialogs {
 using WithNames = std::function<void(const QStringList& names)>;
 using WithText = std::function<void(const QString& text)>;
 
-void askFiles(QWidget* parent, const QString& title, const WithNames& then);
+/// \param start the folder that is shown first.
+void askFiles(QWidget* parent, const QString& title, const QString& start, const WithNames& then);
 void askFolder(QWidget* parent, const QString& title, const QString& start, const WithText& then);
+/// \param start the name that is proposed, with its folder.
 void askSaveName(QWidget* parent, const QString& title, const QString& start, const WithText& then);
 void askText(QWidget* parent, const QString& title, const QString& label, const WithText& then);
 void askPassword(QWidget* parent, const QString& label, const WithText& then);

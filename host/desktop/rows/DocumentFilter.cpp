@@ -28,7 +28,7 @@ const KindRow kindRows[] = {
     {Kind::NoBookmarks, QT_TRANSLATE_NOOP("DocumentFilter", "Have no bookmarks")},
     {Kind::OpensAtPage, QT_TRANSLATE_NOOP("DocumentFilter", "Open at a page of their own")},
     {Kind::WillChange, QT_TRANSLATE_NOOP("DocumentFilter", "Will change")},
-    {Kind::Changed, QT_TRANSLATE_NOOP("DocumentFilter", "Were changed")},
+    {Kind::Changed, QT_TRANSLATE_NOOP("DocumentFilter", "Were changed or written")},
     {Kind::Failed, QT_TRANSLATE_NOOP("DocumentFilter", "Failed in the run")},
     {Kind::Trouble, QT_TRANSLATE_NOOP("DocumentFilter", "Failed or cannot be changed")},
     {Kind::Signed, QT_TRANSLATE_NOOP("DocumentFilter", "Signed")},
@@ -104,7 +104,8 @@ bool DocumentFilter::isOfKind(const DocumentRecord& record) const
     case Kind::WillChange:
         return record.state() == DocumentRecord::State::WillChange;
     case Kind::Changed:
-        return record.state() == DocumentRecord::State::Changed;
+        return record.state() == DocumentRecord::State::Changed ||
+               record.state() == DocumentRecord::State::Written;
     case Kind::Failed:
         return record.state() == DocumentRecord::State::Failed;
     case Kind::Trouble:

@@ -7,6 +7,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace host::desktop::rowtexts {
 
@@ -31,6 +32,8 @@ const StateText stateTexts[] = {
     {State::Cannot, QT_TRANSLATE_NOOP("RowTexts", "cannot be changed"), "!"},
     {State::Changed, QT_TRANSLATE_NOOP("RowTexts", "changed"), "✓"},
     {State::Unchanged, QT_TRANSLATE_NOOP("RowTexts", "as it was"), "="},
+    {State::Written, QT_TRANSLATE_NOOP("RowTexts", "result written"), "✓"},
+    {State::Copied, QT_TRANSLATE_NOOP("RowTexts", "copied as it was"), "="},
     {State::Failed, QT_TRANSLATE_NOOP("RowTexts", "failed"), "✗"},
     {State::NotDone, QT_TRANSLATE_NOOP("RowTexts", "not done"), "…"},
     {State::Undone, QT_TRANSLATE_NOOP("RowTexts", "undone"), "↶"},
@@ -42,6 +45,11 @@ const StateText& find(State state)
 {
     return *std::find_if(std::begin(stateTexts), std::end(stateTexts),
                          [state](const StateText& each) { return each.state == state; });
+}
+
+bool isOf(State state, std::initializer_list<State> states)
+{
+    return std::find(states.begin(), states.end(), state) != states.end();
 }
 
 QString arrow(const QString& before, const QString& after)
@@ -128,9 +136,8 @@ CellText cell(const DocumentRecord& record, Column column)
         return {record.folder, {}, false};
     case Column::State: {
         const State state = record.state();
-        const bool isFine = state == State::WillChange || state == State::AsAsked ||
-                            state == State::Changed ||
-                            state == State::Unchanged; // what is noted all the same is told below the list
+        const bool isFine = isOf(state, {State::WillChange, State::AsAsked, State::Changed, State::Unchanged,
+                                         State::Written, State::Copied}); // notes are told below the list
         const QString reason = isFine ? QString() : reasonOf(record);
         return {reason.isEmpty() ? stateOf(record) : reason,
                 {},
@@ -149,6 +156,8 @@ QString spoken(const DocumentRecord& record, Column column)
     if (text.after.isEmpty())
         return text.isQuiet && !text.now.isEmpty() && column != Column::State ? viewtexts::unset() : text.now;
     const QString now = text.now == QStringLiteral("–") ? viewtexts::unset() : text.now;
+    if (record.state() == State::Written)
+        return QCoreApplication::translate("RowTexts", "%1, in the result %2").arg(now, text.after);
     return record.result ? QCoreApplication::translate("RowTexts", "%1, became %2").arg(now, text.after)
                          : QCoreApplication::translate("RowTexts", "%1, will be %2").arg(now, text.after);
 }

@@ -1,6 +1,6 @@
 #include "Logout.h"
 
-#include "host/desktop/platform/Dialogs.h"
+#include "host/desktop/dialogs/StopQuestion.h"
 
 #include <QEventLoop>
 #include <QGuiApplication>
@@ -38,10 +38,7 @@ void Logout::prepare(QSessionManager& manager)
 
 bool Logout::mayStop() const
 {
-    return dialogs::confirmNow(
-        m_window, tr("A run is under way. Stop it and log out?"),
-        tr("Documents that are being worked on are finished; the others stay as they are."),
-        tr("&Stop and Log Out"));
+    return stopquestion::askNow(m_window, m_workbench, tr("&Stop and Log Out"));
 }
 
 void Logout::stopAndWait()

@@ -36,8 +36,11 @@ QStringList Running::arguments(const Part& part)
 void Running::takeResult(DocumentId id, const ResultEvent& event)
 {
     table().change(id, [&event, this](DocumentRecord& record) {
-        (m_mode == Mode::Try ? record.check : record.result) =
-            std::make_shared<Outcome>(Outcome::fromJson(event.result, m_mode == Mode::Try));
+        Outcome outcome = Outcome::fromJson(event.result, m_mode == Mode::Try);
+        if (m_mode == Mode::Do && m_order.destination.kind != Destination::Kind::InPlace &&
+            !outcome.isTrouble())
+            outcome.file = m_order.resultOf(record.path, m_base);
+        (m_mode == Mode::Try ? record.check : record.result) = std::make_shared<Outcome>(outcome);
     });
 }
 

@@ -22,31 +22,31 @@
 <context>
     <name>ChangeWarnings</name>
     <message numerus="yes">
-        <source>%n document(s) have no bookmarks: the panel will be empty.</source>
+        <source>%Ln document(s) have no bookmarks: the panel will be empty.</source>
         <translation>
-            <numerusform>%n Dokument hat keine Lesezeichen: Die Seitenleiste wird leer sein.</numerusform>
-            <numerusform>%n Dokumente haben keine Lesezeichen: Die Seitenleiste wird leer sein.</numerusform>
+            <numerusform>%Ln Dokument hat keine Lesezeichen: Die Seitenleiste wird leer sein.</numerusform>
+            <numerusform>%Ln Dokumente haben keine Lesezeichen: Die Seitenleiste wird leer sein.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) have no title to show.</source>
+        <source>%Ln document(s) have no title to show.</source>
         <translation>
-            <numerusform>%n Dokument hat keinen Titel, der gezeigt werden könnte.</numerusform>
-            <numerusform>%n Dokumente haben keinen Titel, der gezeigt werden könnte.</numerusform>
+            <numerusform>%Ln Dokument hat keinen Titel, der gezeigt werden könnte.</numerusform>
+            <numerusform>%Ln Dokumente haben keinen Titel, der gezeigt werden könnte.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>The shortest document has %n page(s); it cannot open there.</source>
+        <source>The shortest document has %Ln page(s); it cannot open there.</source>
         <translation>
-            <numerusform>Das kürzeste Dokument hat %n Seite; es kann sich dort nicht öffnen.</numerusform>
-            <numerusform>Das kürzeste Dokument hat %n Seiten; es kann sich dort nicht öffnen.</numerusform>
+            <numerusform>Das kürzeste Dokument hat %Ln Seite; es kann sich dort nicht öffnen.</numerusform>
+            <numerusform>Das kürzeste Dokument hat %Ln Seiten; es kann sich dort nicht öffnen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) are signed and stay as they are, unless you say otherwise.</source>
+        <source>%Ln document(s) are signed and stay as they are, unless you say otherwise.</source>
         <translation>
-            <numerusform>%n Dokument ist signiert und bleibt, wie es ist, sofern Sie nichts anderes sagen.</numerusform>
-            <numerusform>%n Dokumente sind signiert und bleiben, wie sie sind, sofern Sie nichts anderes sagen.</numerusform>
+            <numerusform>%Ln Dokument ist signiert und bleibt, wie es ist, sofern Sie nichts anderes sagen.</numerusform>
+            <numerusform>%Ln Dokumente sind signiert und bleiben, wie sie sind, sofern Sie nichts anderes sagen.</numerusform>
         </translation>
     </message>
     <message>
@@ -262,10 +262,6 @@
         <translation>Werden geändert</translation>
     </message>
     <message>
-        <source>Were changed</source>
-        <translation>Wurden geändert</translation>
-    </message>
-    <message>
         <source>Failed or cannot be changed</source>
         <translation>Fehlgeschlagen oder nicht änderbar</translation>
     </message>
@@ -285,6 +281,10 @@
         <source>Failed in the run</source>
         <translation>Im Durchlauf fehlgeschlagen</translation>
     </message>
+    <message>
+        <source>Were changed or written</source>
+        <translation>Wurden geändert oder geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -300,24 +300,24 @@
 <context>
     <name>PasswordTrial</name>
     <message numerus="yes">
-        <source>The password opens none of the %n document(s) that want one.</source>
+        <source>The password opens none of the %Ln document(s) that want one.</source>
         <translation>
-            <numerusform>Das Passwort öffnet das %n Dokument nicht, das eines verlangt.</numerusform>
-            <numerusform>Das Passwort öffnet keines der %n Dokumente, die eines verlangen.</numerusform>
+            <numerusform>Das Passwort öffnet das %Ln Dokument nicht, das eines verlangt.</numerusform>
+            <numerusform>Das Passwort öffnet keines der %Ln Dokumente, die eines verlangen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>The password opens %n document(s).</source>
+        <source>The password opens %Ln document(s).</source>
         <translation>
-            <numerusform>Das Passwort öffnet %n Dokument.</numerusform>
-            <numerusform>Das Passwort öffnet %n Dokumente.</numerusform>
+            <numerusform>Das Passwort öffnet %Ln Dokument.</numerusform>
+            <numerusform>Das Passwort öffnet %Ln Dokumente.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) want another one.</source>
+        <source>%Ln document(s) want another one.</source>
         <translation>
-            <numerusform>%n Dokument verlangt ein anderes.</numerusform>
-            <numerusform>%n Dokumente verlangen ein anderes.</numerusform>
+            <numerusform>%Ln Dokument verlangt ein anderes.</numerusform>
+            <numerusform>%Ln Dokumente verlangen ein anderes.</numerusform>
         </translation>
     </message>
 </context>
@@ -534,6 +534,14 @@
         <source>A mistake of this program. Please report it.</source>
         <translation>Ein Fehler dieses Programms. Bitte melden Sie ihn.</translation>
     </message>
+    <message>
+        <source>changed since</source>
+        <translation>seither geändert</translation>
+    </message>
+    <message>
+        <source>disk full</source>
+        <translation>Datenträger voll</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -617,6 +625,18 @@
         <source>; </source>
         <translation>; </translation>
     </message>
+    <message>
+        <source>result written</source>
+        <translation>Ergebnis geschrieben</translation>
+    </message>
+    <message>
+        <source>copied as it was</source>
+        <translation>unverändert kopiert</translation>
+    </message>
+    <message>
+        <source>%1, in the result %2</source>
+        <translation>%1, im Ergebnis %2</translation>
+    </message>
 </context>
 <context>
     <name>RunOrder</name>
@@ -653,6 +673,25 @@
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>StopQuestion</name>
+    <message>
+        <source>A run is being undone. Stop undoing it?</source>
+        <translation>Ein Durchlauf wird rückgängig gemacht. Abbrechen?</translation>
+    </message>
+    <message>
+        <source>A run is under way. Stop it?</source>
+        <translation>Ein Durchlauf ist im Gange. Abbrechen?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as the run left them, and the run can be undone later.</source>
+        <translation>Begonnene Dokumente werden zu Ende bearbeitet; die anderen bleiben, wie der Durchlauf sie hinterließ, und er kann später rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Begonnene Dokumente werden zu Ende bearbeitet; die anderen bleiben, wie sie sind.</translation>
     </message>
 </context>
 <context>
@@ -1354,24 +1393,24 @@
         <translation>&amp;Konfigurieren…</translation>
     </message>
     <message numerus="yes">
-        <source>all %n document(s)</source>
+        <source>all %Ln document(s)</source>
         <translation>
-            <numerusform>das %n Dokument</numerusform>
-            <numerusform>alle %n Dokumente</numerusform>
+            <numerusform>das %Ln Dokument</numerusform>
+            <numerusform>alle %Ln Dokumente</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>all %n shown</source>
+        <source>all %Ln shown</source>
         <translation>
-            <numerusform>das %n angezeigte</numerusform>
-            <numerusform>alle %n angezeigten</numerusform>
+            <numerusform>das %Ln angezeigte</numerusform>
+            <numerusform>alle %Ln angezeigten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>the %n selected</source>
+        <source>the %Ln selected</source>
         <translation>
-            <numerusform>das %n ausgewählte</numerusform>
-            <numerusform>die %n ausgewählten</numerusform>
+            <numerusform>das %Ln ausgewählte</numerusform>
+            <numerusform>die %Ln ausgewählten</numerusform>
         </translation>
     </message>
 </context>
@@ -1428,10 +1467,10 @@
         <translation>Diesen Durchlauf rückgängig machen?</translation>
     </message>
     <message numerus="yes">
-        <source>Give %n document(s) back as they were?</source>
+        <source>Give %Ln document(s) back as they were?</source>
         <translation>
-            <numerusform>%n Dokument so wiederherstellen, wie es war?</numerusform>
-            <numerusform>%n Dokumente so wiederherstellen, wie sie waren?</numerusform>
+            <numerusform>%Ln Dokument so wiederherstellen, wie es war?</numerusform>
+            <numerusform>%Ln Dokumente so wiederherstellen, wie sie waren?</numerusform>
         </translation>
     </message>
     <message>
@@ -1518,6 +1557,10 @@
         <source>What would change is not known. Read the documents again to try once more.</source>
         <translation>Was sich ändern würde, ist nicht bekannt. Lesen Sie die Dokumente neu ein, um es noch einmal zu versuchen.</translation>
     </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1565,6 +1608,10 @@
         <source>manual.pdf becomes manual-%1.pdf.</source>
         <translation>Aus handbuch.pdf wird handbuch-%1.pdf.</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DetailLine</name>
@@ -1583,6 +1630,10 @@
     <message>
         <source>Select a document to see how it opens.</source>
         <translation>Wählen Sie ein Dokument aus, um zu sehen, wie es sich öffnet.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1607,31 +1658,31 @@
         <translation>&amp;Wiederherstellen</translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
+        <source>&amp;Redo Removing %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Wiederherstellen: %n Dokument entfernen</numerusform>
-            <numerusform>&amp;Wiederherstellen: %n Dokumente entfernen</numerusform>
+            <numerusform>&amp;Wiederherstellen: %Ln Dokument entfernen</numerusform>
+            <numerusform>&amp;Wiederherstellen: %Ln Dokumente entfernen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
+        <source>&amp;Undo Removing %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Rückgängig: %n Dokument entfernen</numerusform>
-            <numerusform>&amp;Rückgängig: %n Dokumente entfernen</numerusform>
+            <numerusform>&amp;Rückgängig: %Ln Dokument entfernen</numerusform>
+            <numerusform>&amp;Rückgängig: %Ln Dokumente entfernen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
+        <source>&amp;Redo Adding %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Wiederherstellen: %n Dokument hinzufügen</numerusform>
-            <numerusform>&amp;Wiederherstellen: %n Dokumente hinzufügen</numerusform>
+            <numerusform>&amp;Wiederherstellen: %Ln Dokument hinzufügen</numerusform>
+            <numerusform>&amp;Wiederherstellen: %Ln Dokumente hinzufügen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
+        <source>&amp;Undo Adding %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Rückgängig: %n Dokument hinzufügen</numerusform>
-            <numerusform>&amp;Rückgängig: %n Dokumente hinzufügen</numerusform>
+            <numerusform>&amp;Rückgängig: %Ln Dokument hinzufügen</numerusform>
+            <numerusform>&amp;Rückgängig: %Ln Dokumente hinzufügen</numerusform>
         </translation>
     </message>
     <message>
@@ -1695,10 +1746,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>In Name, Ordner, Titel suchen</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s)</source>
+        <source>%Ln document(s)</source>
         <translation>
-            <numerusform>%n Dokument</numerusform>
-            <numerusform>%n Dokumente</numerusform>
+            <numerusform>%Ln Dokument</numerusform>
+            <numerusform>%Ln Dokumente</numerusform>
         </translation>
     </message>
     <message>
@@ -1747,14 +1798,6 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
 <context>
     <name>host::desktop::Logout</name>
     <message>
-        <source>A run is under way. Stop it and log out?</source>
-        <translation>Ein Durchlauf ist im Gange. Abbrechen und abmelden?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Begonnene Dokumente werden zu Ende bearbeitet; die anderen bleiben, wie sie sind.</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Log Out</source>
         <translation>&amp;Abbrechen und abmelden</translation>
     </message>
@@ -1766,23 +1809,15 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Quintar</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) - Quintar</source>
+        <source>%Ln document(s) - Quintar</source>
         <translation>
-            <numerusform>%n Dokument – Quintar</numerusform>
-            <numerusform>%n Dokumente – Quintar</numerusform>
+            <numerusform>%Ln Dokument – Quintar</numerusform>
+            <numerusform>%Ln Dokumente – Quintar</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 % - Quintar</source>
         <translation>%1&#xa0;% – Quintar</translation>
-    </message>
-    <message>
-        <source>A run is under way. Stop it and close?</source>
-        <translation>Ein Durchlauf ist im Gange. Abbrechen und schließen?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Begonnene Dokumente werden zu Ende bearbeitet; die anderen bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>&amp;Stop and Close</source>
@@ -2001,10 +2036,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Fortschritt</translation>
     </message>
     <message numerus="yes">
-        <source>Show %n Fa&amp;iled</source>
+        <source>Show %Ln Fa&amp;iled</source>
         <translation>
-            <numerusform>%n Fehlgeschlagenes an&amp;zeigen</numerusform>
-            <numerusform>%n Fehlgeschlagene an&amp;zeigen</numerusform>
+            <numerusform>%Ln Fehlgeschlagenes an&amp;zeigen</numerusform>
+            <numerusform>%Ln Fehlgeschlagene an&amp;zeigen</numerusform>
         </translation>
     </message>
     <message>
@@ -2020,10 +2055,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Die Liste ist leer.</translation>
     </message>
     <message numerus="yes">
-        <source>Reading… %n document(s) so far</source>
+        <source>Reading… %Ln document(s) so far</source>
         <translation>
-            <numerusform>Einlesen… bisher %n Dokument</numerusform>
-            <numerusform>Einlesen… bisher %n Dokumente</numerusform>
+            <numerusform>Einlesen… bisher %Ln Dokument</numerusform>
+            <numerusform>Einlesen… bisher %Ln Dokumente</numerusform>
         </translation>
     </message>
     <message>
@@ -2055,66 +2090,66 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Nichts würde sich ändern</translation>
     </message>
     <message numerus="yes">
-        <source>%n will change</source>
+        <source>%Ln will change</source>
         <translation>
-            <numerusform>%n wird geändert</numerusform>
-            <numerusform>%n werden geändert</numerusform>
+            <numerusform>%Ln wird geändert</numerusform>
+            <numerusform>%Ln werden geändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n open so already</source>
+        <source>%Ln open so already</source>
         <translation>
-            <numerusform>%n öffnet sich schon so</numerusform>
-            <numerusform>%n öffnen sich schon so</numerusform>
+            <numerusform>%Ln öffnet sich schon so</numerusform>
+            <numerusform>%Ln öffnen sich schon so</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cannot be changed</source>
+        <source>%Ln cannot be changed</source>
         <translation>
-            <numerusform>%n nicht änderbar</numerusform>
-            <numerusform>%n nicht änderbar</numerusform>
+            <numerusform>%Ln nicht änderbar</numerusform>
+            <numerusform>%Ln nicht änderbar</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n changed</source>
+        <source>%Ln changed</source>
         <translation>
-            <numerusform>%n geändert</numerusform>
-            <numerusform>%n geändert</numerusform>
+            <numerusform>%Ln geändert</numerusform>
+            <numerusform>%Ln geändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n as they were</source>
+        <source>%Ln as they were</source>
         <translation>
-            <numerusform>%n wie es war</numerusform>
-            <numerusform>%n wie sie waren</numerusform>
+            <numerusform>%Ln wie es war</numerusform>
+            <numerusform>%Ln wie sie waren</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n failed</source>
+        <source>%Ln failed</source>
         <translation>
-            <numerusform>%n fehlgeschlagen</numerusform>
-            <numerusform>%n fehlgeschlagen</numerusform>
+            <numerusform>%Ln fehlgeschlagen</numerusform>
+            <numerusform>%Ln fehlgeschlagen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n not done</source>
+        <source>%Ln not done</source>
         <translation>
-            <numerusform>%n nicht erledigt</numerusform>
-            <numerusform>%n nicht erledigt</numerusform>
+            <numerusform>%Ln nicht erledigt</numerusform>
+            <numerusform>%Ln nicht erledigt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>about %n second(s) left</source>
+        <source>about %Ln second(s) left</source>
         <translation>
-            <numerusform>noch etwa %n Sekunde</numerusform>
-            <numerusform>noch etwa %n Sekunden</numerusform>
+            <numerusform>noch etwa %Ln Sekunde</numerusform>
+            <numerusform>noch etwa %Ln Sekunden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>about %n minute(s) left</source>
+        <source>about %Ln minute(s) left</source>
         <translation>
-            <numerusform>noch etwa %n Minute</numerusform>
-            <numerusform>noch etwa %n Minuten</numerusform>
+            <numerusform>noch etwa %Ln Minute</numerusform>
+            <numerusform>noch etwa %Ln Minuten</numerusform>
         </translation>
     </message>
     <message>
@@ -2146,6 +2181,20 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <source>What would change is not known. Read the documents again (F5) to find out.</source>
         <translation>Was sich ändern würde, ist nicht bekannt. Lesen Sie die Dokumente neu ein (F5), um es zu erfahren.</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln geschrieben</numerusform>
+            <numerusform>%Ln geschrieben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln copied as they were</source>
+        <translation>
+            <numerusform>%Ln unverändert kopiert</numerusform>
+            <numerusform>%Ln unverändert kopiert</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2162,10 +2211,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>nicht bekannt</translation>
     </message>
     <message numerus="yes">
-        <source>%n changed</source>
+        <source>%Ln changed</source>
         <translation>
-            <numerusform>%n geändert</numerusform>
-            <numerusform>%n geändert</numerusform>
+            <numerusform>%Ln geändert</numerusform>
+            <numerusform>%Ln geändert</numerusform>
         </translation>
     </message>
     <message>
@@ -2199,6 +2248,17 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln geschrieben</numerusform>
+            <numerusform>%Ln geschrieben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing to undo</source>
+        <translation>nichts rückgängig zu machen</translation>
     </message>
 </context>
 <context>
@@ -2305,31 +2365,31 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>&amp;Starten</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) will be changed in place.</source>
+        <source>%Ln document(s) will be changed in place.</source>
         <translation>
-            <numerusform>%n Dokument wird direkt geändert.</numerusform>
-            <numerusform>%n Dokumente werden direkt geändert.</numerusform>
+            <numerusform>%Ln Dokument wird direkt geändert.</numerusform>
+            <numerusform>%Ln Dokumente werden direkt geändert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) will be written to %1.</source>
+        <source>%Ln result(s) will be written to %1.</source>
         <translation>
-            <numerusform>%n Ergebnis wird nach %1 geschrieben.</numerusform>
-            <numerusform>%n Ergebnisse werden nach %1 geschrieben.</numerusform>
+            <numerusform>%Ln Ergebnis wird nach %1 geschrieben.</numerusform>
+            <numerusform>%Ln Ergebnisse werden nach %1 geschrieben.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) will be written beside the documents, with “-%1” added to their names.</source>
+        <source>%Ln result(s) will be written beside the documents, with “-%1” added to their names.</source>
         <translation>
-            <numerusform>%n Ergebnis wird neben das Dokument geschrieben, mit „-%1“ am Namen.</numerusform>
-            <numerusform>%n Ergebnisse werden neben die Dokumente geschrieben, mit „-%1“ an den Namen.</numerusform>
+            <numerusform>%Ln Ergebnis wird neben das Dokument geschrieben, mit „-%1“ am Namen.</numerusform>
+            <numerusform>%Ln Ergebnisse werden neben die Dokumente geschrieben, mit „-%1“ an den Namen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) there will be replaced.</source>
+        <source>%Ln file(s) there will be replaced.</source>
         <translation>
-            <numerusform>%n Datei dort wird ersetzt.</numerusform>
-            <numerusform>%n Dateien dort werden ersetzt.</numerusform>
+            <numerusform>%Ln Datei dort wird ersetzt.</numerusform>
+            <numerusform>%Ln Dateien dort werden ersetzt.</numerusform>
         </translation>
     </message>
     <message>
@@ -2341,10 +2401,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Die Dokumente selbst bleiben, wie sie sind.</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) cannot be changed and stay as they are.</source>
+        <source>%Ln document(s) cannot be changed and stay as they are.</source>
         <translation>
-            <numerusform>%n Dokument kann nicht geändert werden und bleibt, wie es ist.</numerusform>
-            <numerusform>%n Dokumente können nicht geändert werden und bleiben, wie sie sind.</numerusform>
+            <numerusform>%Ln Dokument kann nicht geändert werden und bleibt, wie es ist.</numerusform>
+            <numerusform>%Ln Dokumente können nicht geändert werden und bleiben, wie sie sind.</numerusform>
         </translation>
     </message>
 </context>
@@ -2378,10 +2438,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Das Einlesen ist abgerissen.</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) were in the list already.</source>
+        <source>%Ln document(s) were in the list already.</source>
         <translation>
-            <numerusform>%n Dokument war schon in der Liste.</numerusform>
-            <numerusform>%n Dokumente waren schon in der Liste.</numerusform>
+            <numerusform>%Ln Dokument war schon in der Liste.</numerusform>
+            <numerusform>%Ln Dokumente waren schon in der Liste.</numerusform>
         </translation>
     </message>
     <message>
@@ -2401,17 +2461,17 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Das Rückgängigmachen ist abgerissen.</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) are as they were before the run.</source>
+        <source>%Ln document(s) are as they were before the run.</source>
         <translation>
-            <numerusform>%n Dokument ist wieder wie vor dem Durchlauf.</numerusform>
-            <numerusform>%n Dokumente sind wieder wie vor dem Durchlauf.</numerusform>
+            <numerusform>%Ln Dokument ist wieder wie vor dem Durchlauf.</numerusform>
+            <numerusform>%Ln Dokumente sind wieder wie vor dem Durchlauf.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) were left alone, since they are no longer as the run left them.</source>
+        <source>%Ln document(s) were left alone, since they are no longer as the run left them.</source>
         <translation>
-            <numerusform>%n Dokument blieb unberührt, da es nicht mehr so ist, wie der Durchlauf es hinterließ.</numerusform>
-            <numerusform>%n Dokumente blieben unberührt, da sie nicht mehr so sind, wie der Durchlauf sie hinterließ.</numerusform>
+            <numerusform>%Ln Dokument blieb unberührt, da es nicht mehr so ist, wie der Durchlauf es hinterließ.</numerusform>
+            <numerusform>%Ln Dokumente blieben unberührt, da sie nicht mehr so sind, wie der Durchlauf sie hinterließ.</numerusform>
         </translation>
     </message>
     <message>
@@ -2419,10 +2479,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <translation>Kein Dokument der Liste verlangt ein Passwort.</translation>
     </message>
     <message numerus="yes">
-        <source>Undoing was stopped: %n document(s) are as they were before the run.</source>
+        <source>Undoing was stopped: %Ln document(s) are as they were before the run.</source>
         <translation>
-            <numerusform>Das Rückgängigmachen wurde angehalten: %n Dokument ist wieder wie vor dem Durchlauf.</numerusform>
-            <numerusform>Das Rückgängigmachen wurde angehalten: %n Dokumente sind wieder wie vor dem Durchlauf.</numerusform>
+            <numerusform>Das Rückgängigmachen wurde angehalten: %Ln Dokument ist wieder wie vor dem Durchlauf.</numerusform>
+            <numerusform>Das Rückgängigmachen wurde angehalten: %Ln Dokumente sind wieder wie vor dem Durchlauf.</numerusform>
         </translation>
     </message>
     <message>

@@ -22,31 +22,31 @@
 <context>
     <name>ChangeWarnings</name>
     <message numerus="yes">
-        <source>%n document(s) have no bookmarks: the panel will be empty.</source>
+        <source>%Ln document(s) have no bookmarks: the panel will be empty.</source>
         <translation>
-            <numerusform>%n documento no tiene marcadores: el panel estará vacío.</numerusform>
-            <numerusform>%n documentos no tienen marcadores: el panel estará vacío.</numerusform>
+            <numerusform>%Ln documento no tiene marcadores: el panel estará vacío.</numerusform>
+            <numerusform>%Ln documentos no tienen marcadores: el panel estará vacío.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) have no title to show.</source>
+        <source>%Ln document(s) have no title to show.</source>
         <translation>
-            <numerusform>%n documento no tiene título que mostrar.</numerusform>
-            <numerusform>%n documentos no tienen título que mostrar.</numerusform>
+            <numerusform>%Ln documento no tiene título que mostrar.</numerusform>
+            <numerusform>%Ln documentos no tienen título que mostrar.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>The shortest document has %n page(s); it cannot open there.</source>
+        <source>The shortest document has %Ln page(s); it cannot open there.</source>
         <translation>
-            <numerusform>El documento más corto tiene %n página; no puede abrirse ahí.</numerusform>
-            <numerusform>El documento más corto tiene %n páginas; no puede abrirse ahí.</numerusform>
+            <numerusform>El documento más corto tiene %Ln página; no puede abrirse ahí.</numerusform>
+            <numerusform>El documento más corto tiene %Ln páginas; no puede abrirse ahí.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) are signed and stay as they are, unless you say otherwise.</source>
+        <source>%Ln document(s) are signed and stay as they are, unless you say otherwise.</source>
         <translation>
-            <numerusform>%n documento está firmado y queda como está, salvo que indique lo contrario.</numerusform>
-            <numerusform>%n documentos están firmados y quedan como están, salvo que indique lo contrario.</numerusform>
+            <numerusform>%Ln documento está firmado y queda como está, salvo que indique lo contrario.</numerusform>
+            <numerusform>%Ln documentos están firmados y quedan como están, salvo que indique lo contrario.</numerusform>
         </translation>
     </message>
     <message>
@@ -262,10 +262,6 @@
         <translation>Cambiarán</translation>
     </message>
     <message>
-        <source>Were changed</source>
-        <translation>Han cambiado</translation>
-    </message>
-    <message>
         <source>Failed or cannot be changed</source>
         <translation>Fallidos o no modificables</translation>
     </message>
@@ -285,6 +281,10 @@
         <source>Failed in the run</source>
         <translation>Fallidos en la ejecución</translation>
     </message>
+    <message>
+        <source>Were changed or written</source>
+        <translation>Se han cambiado o escrito</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -300,24 +300,24 @@
 <context>
     <name>PasswordTrial</name>
     <message numerus="yes">
-        <source>The password opens none of the %n document(s) that want one.</source>
+        <source>The password opens none of the %Ln document(s) that want one.</source>
         <translation>
-            <numerusform>La contraseña no abre el %n documento que la pide.</numerusform>
-            <numerusform>La contraseña no abre ninguno de los %n documentos que piden una.</numerusform>
+            <numerusform>La contraseña no abre el %Ln documento que la pide.</numerusform>
+            <numerusform>La contraseña no abre ninguno de los %Ln documentos que piden una.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>The password opens %n document(s).</source>
+        <source>The password opens %Ln document(s).</source>
         <translation>
-            <numerusform>La contraseña abre %n documento.</numerusform>
-            <numerusform>La contraseña abre %n documentos.</numerusform>
+            <numerusform>La contraseña abre %Ln documento.</numerusform>
+            <numerusform>La contraseña abre %Ln documentos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) want another one.</source>
+        <source>%Ln document(s) want another one.</source>
         <translation>
-            <numerusform>%n documento pide otra.</numerusform>
-            <numerusform>%n documentos piden otra.</numerusform>
+            <numerusform>%Ln documento pide otra.</numerusform>
+            <numerusform>%Ln documentos piden otra.</numerusform>
         </translation>
     </message>
 </context>
@@ -534,6 +534,14 @@
         <source>A mistake of this program. Please report it.</source>
         <translation>Un error de este programa. Comuníquelo, por favor.</translation>
     </message>
+    <message>
+        <source>changed since</source>
+        <translation>cambiados después</translation>
+    </message>
+    <message>
+        <source>disk full</source>
+        <translation>disco lleno</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -617,6 +625,18 @@
         <source>; </source>
         <translation>; </translation>
     </message>
+    <message>
+        <source>result written</source>
+        <translation>resultado escrito</translation>
+    </message>
+    <message>
+        <source>copied as it was</source>
+        <translation>copiado como estaba</translation>
+    </message>
+    <message>
+        <source>%1, in the result %2</source>
+        <translation>%1, en el resultado %2</translation>
+    </message>
 </context>
 <context>
     <name>RunOrder</name>
@@ -653,6 +673,25 @@
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>StopQuestion</name>
+    <message>
+        <source>A run is being undone. Stop undoing it?</source>
+        <translation>Se está deshaciendo una ejecución. ¿Dejar de deshacerla?</translation>
+    </message>
+    <message>
+        <source>A run is under way. Stop it?</source>
+        <translation>Hay una ejecución en curso. ¿Detenerla?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as the run left them, and the run can be undone later.</source>
+        <translation>Los documentos en curso se terminan; los demás quedan como los dejó la ejecución, que podrá deshacerse más tarde.</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Los documentos en curso se terminan; los demás quedan como están.</translation>
     </message>
 </context>
 <context>
@@ -1354,24 +1393,24 @@
         <translation>Con&amp;figurar…</translation>
     </message>
     <message numerus="yes">
-        <source>all %n document(s)</source>
+        <source>all %Ln document(s)</source>
         <translation>
-            <numerusform>el %n documento</numerusform>
-            <numerusform>los %n documentos</numerusform>
+            <numerusform>el %Ln documento</numerusform>
+            <numerusform>los %Ln documentos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>all %n shown</source>
+        <source>all %Ln shown</source>
         <translation>
-            <numerusform>el %n mostrado</numerusform>
-            <numerusform>los %n mostrados</numerusform>
+            <numerusform>el %Ln mostrado</numerusform>
+            <numerusform>los %Ln mostrados</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>the %n selected</source>
+        <source>the %Ln selected</source>
         <translation>
-            <numerusform>el %n seleccionado</numerusform>
-            <numerusform>los %n seleccionados</numerusform>
+            <numerusform>el %Ln seleccionado</numerusform>
+            <numerusform>los %Ln seleccionados</numerusform>
         </translation>
     </message>
 </context>
@@ -1428,10 +1467,10 @@
         <translation>¿Deshacer esta ejecución?</translation>
     </message>
     <message numerus="yes">
-        <source>Give %n document(s) back as they were?</source>
+        <source>Give %Ln document(s) back as they were?</source>
         <translation>
-            <numerusform>¿Devolver %n documento a como estaba?</numerusform>
-            <numerusform>¿Devolver %n documentos a como estaban?</numerusform>
+            <numerusform>¿Devolver %Ln documento a como estaba?</numerusform>
+            <numerusform>¿Devolver %Ln documentos a como estaban?</numerusform>
         </translation>
     </message>
     <message>
@@ -1518,6 +1557,10 @@
         <source>What would change is not known. Read the documents again to try once more.</source>
         <translation>No se sabe qué cambiaría. Vuelva a leer los documentos para intentarlo de nuevo.</translation>
     </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1565,6 +1608,10 @@
         <source>manual.pdf becomes manual-%1.pdf.</source>
         <translation>manual.pdf pasa a ser manual-%1.pdf.</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Elegir…</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DetailLine</name>
@@ -1583,6 +1630,10 @@
     <message>
         <source>Select a document to see how it opens.</source>
         <translation>Seleccione un documento para ver cómo se abre.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1607,31 +1658,31 @@
         <translation>&amp;Rehacer</translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
+        <source>&amp;Redo Removing %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Rehacer: quitar %n documento</numerusform>
-            <numerusform>&amp;Rehacer: quitar %n documentos</numerusform>
+            <numerusform>&amp;Rehacer: quitar %Ln documento</numerusform>
+            <numerusform>&amp;Rehacer: quitar %Ln documentos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
+        <source>&amp;Undo Removing %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Deshacer: quitar %n documento</numerusform>
-            <numerusform>&amp;Deshacer: quitar %n documentos</numerusform>
+            <numerusform>&amp;Deshacer: quitar %Ln documento</numerusform>
+            <numerusform>&amp;Deshacer: quitar %Ln documentos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
+        <source>&amp;Redo Adding %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Rehacer: añadir %n documento</numerusform>
-            <numerusform>&amp;Rehacer: añadir %n documentos</numerusform>
+            <numerusform>&amp;Rehacer: añadir %Ln documento</numerusform>
+            <numerusform>&amp;Rehacer: añadir %Ln documentos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
+        <source>&amp;Undo Adding %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Deshacer: añadir %n documento</numerusform>
-            <numerusform>&amp;Deshacer: añadir %n documentos</numerusform>
+            <numerusform>&amp;Deshacer: añadir %Ln documento</numerusform>
+            <numerusform>&amp;Deshacer: añadir %Ln documentos</numerusform>
         </translation>
     </message>
     <message>
@@ -1695,10 +1746,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Buscar nombre, carpeta, título</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s)</source>
+        <source>%Ln document(s)</source>
         <translation>
-            <numerusform>%n documento</numerusform>
-            <numerusform>%n documentos</numerusform>
+            <numerusform>%Ln documento</numerusform>
+            <numerusform>%Ln documentos</numerusform>
         </translation>
     </message>
     <message>
@@ -1747,14 +1798,6 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
 <context>
     <name>host::desktop::Logout</name>
     <message>
-        <source>A run is under way. Stop it and log out?</source>
-        <translation>Hay una ejecución en curso. ¿Detenerla y cerrar la sesión?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Los documentos en curso se terminan; los demás quedan como están.</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Log Out</source>
         <translation>&amp;Detener y cerrar la sesión</translation>
     </message>
@@ -1766,23 +1809,15 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Quintar</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) - Quintar</source>
+        <source>%Ln document(s) - Quintar</source>
         <translation>
-            <numerusform>%n documento – Quintar</numerusform>
-            <numerusform>%n documentos – Quintar</numerusform>
+            <numerusform>%Ln documento – Quintar</numerusform>
+            <numerusform>%Ln documentos – Quintar</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 % - Quintar</source>
         <translation>%1&#xa0;% – Quintar</translation>
-    </message>
-    <message>
-        <source>A run is under way. Stop it and close?</source>
-        <translation>Hay una ejecución en curso. ¿Detenerla y cerrar?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Los documentos en curso se terminan; los demás quedan como están.</translation>
     </message>
     <message>
         <source>&amp;Stop and Close</source>
@@ -2001,10 +2036,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Progreso</translation>
     </message>
     <message numerus="yes">
-        <source>Show %n Fa&amp;iled</source>
+        <source>Show %Ln Fa&amp;iled</source>
         <translation>
-            <numerusform>Ve&amp;r %n fallido</numerusform>
-            <numerusform>Ve&amp;r %n fallidos</numerusform>
+            <numerusform>Ve&amp;r %Ln fallido</numerusform>
+            <numerusform>Ve&amp;r %Ln fallidos</numerusform>
         </translation>
     </message>
     <message>
@@ -2020,10 +2055,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>La lista está vacía.</translation>
     </message>
     <message numerus="yes">
-        <source>Reading… %n document(s) so far</source>
+        <source>Reading… %Ln document(s) so far</source>
         <translation>
-            <numerusform>Leyendo… %n documento hasta ahora</numerusform>
-            <numerusform>Leyendo… %n documentos hasta ahora</numerusform>
+            <numerusform>Leyendo… %Ln documento hasta ahora</numerusform>
+            <numerusform>Leyendo… %Ln documentos hasta ahora</numerusform>
         </translation>
     </message>
     <message>
@@ -2055,66 +2090,66 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>No cambiaría nada</translation>
     </message>
     <message numerus="yes">
-        <source>%n will change</source>
+        <source>%Ln will change</source>
         <translation>
-            <numerusform>%n cambiará</numerusform>
-            <numerusform>%n cambiarán</numerusform>
+            <numerusform>%Ln cambiará</numerusform>
+            <numerusform>%Ln cambiarán</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n open so already</source>
+        <source>%Ln open so already</source>
         <translation>
-            <numerusform>%n ya se abre así</numerusform>
-            <numerusform>%n ya se abren así</numerusform>
+            <numerusform>%Ln ya se abre así</numerusform>
+            <numerusform>%Ln ya se abren así</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cannot be changed</source>
+        <source>%Ln cannot be changed</source>
         <translation>
-            <numerusform>%n no se puede cambiar</numerusform>
-            <numerusform>%n no se pueden cambiar</numerusform>
+            <numerusform>%Ln no se puede cambiar</numerusform>
+            <numerusform>%Ln no se pueden cambiar</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n changed</source>
+        <source>%Ln changed</source>
         <translation>
-            <numerusform>%n cambiado</numerusform>
-            <numerusform>%n cambiados</numerusform>
+            <numerusform>%Ln cambiado</numerusform>
+            <numerusform>%Ln cambiados</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n as they were</source>
+        <source>%Ln as they were</source>
         <translation>
-            <numerusform>%n como estaba</numerusform>
-            <numerusform>%n como estaban</numerusform>
+            <numerusform>%Ln como estaba</numerusform>
+            <numerusform>%Ln como estaban</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n failed</source>
+        <source>%Ln failed</source>
         <translation>
-            <numerusform>%n fallido</numerusform>
-            <numerusform>%n fallidos</numerusform>
+            <numerusform>%Ln fallido</numerusform>
+            <numerusform>%Ln fallidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n not done</source>
+        <source>%Ln not done</source>
         <translation>
-            <numerusform>%n sin hacer</numerusform>
-            <numerusform>%n sin hacer</numerusform>
+            <numerusform>%Ln sin hacer</numerusform>
+            <numerusform>%Ln sin hacer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>about %n second(s) left</source>
+        <source>about %Ln second(s) left</source>
         <translation>
-            <numerusform>queda %n segundo aprox.</numerusform>
-            <numerusform>quedan %n segundos aprox.</numerusform>
+            <numerusform>queda %Ln segundo aprox.</numerusform>
+            <numerusform>quedan %Ln segundos aprox.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>about %n minute(s) left</source>
+        <source>about %Ln minute(s) left</source>
         <translation>
-            <numerusform>queda %n minuto aprox.</numerusform>
-            <numerusform>quedan %n minutos aprox.</numerusform>
+            <numerusform>queda %Ln minuto aprox.</numerusform>
+            <numerusform>quedan %Ln minutos aprox.</numerusform>
         </translation>
     </message>
     <message>
@@ -2146,6 +2181,20 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <source>What would change is not known. Read the documents again (F5) to find out.</source>
         <translation>No se sabe qué cambiaría. Vuelva a leer los documentos (F5) para averiguarlo.</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln escrito</numerusform>
+            <numerusform>%Ln escritos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln copied as they were</source>
+        <translation>
+            <numerusform>%Ln copiado como estaba</numerusform>
+            <numerusform>%Ln copiados como estaban</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2162,10 +2211,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>desconocido</translation>
     </message>
     <message numerus="yes">
-        <source>%n changed</source>
+        <source>%Ln changed</source>
         <translation>
-            <numerusform>%n cambiado</numerusform>
-            <numerusform>%n cambiados</numerusform>
+            <numerusform>%Ln cambiado</numerusform>
+            <numerusform>%Ln cambiados</numerusform>
         </translation>
     </message>
     <message>
@@ -2199,6 +2248,17 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln escrito</numerusform>
+            <numerusform>%Ln escritos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing to undo</source>
+        <translation>nada que deshacer</translation>
     </message>
 </context>
 <context>
@@ -2305,31 +2365,31 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>&amp;Iniciar</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) will be changed in place.</source>
+        <source>%Ln document(s) will be changed in place.</source>
         <translation>
-            <numerusform>Se cambiará %n documento directamente.</numerusform>
-            <numerusform>Se cambiarán %n documentos directamente.</numerusform>
+            <numerusform>Se cambiará %Ln documento directamente.</numerusform>
+            <numerusform>Se cambiarán %Ln documentos directamente.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) will be written to %1.</source>
+        <source>%Ln result(s) will be written to %1.</source>
         <translation>
-            <numerusform>Se escribirá %n resultado en %1.</numerusform>
-            <numerusform>Se escribirán %n resultados en %1.</numerusform>
+            <numerusform>Se escribirá %Ln resultado en %1.</numerusform>
+            <numerusform>Se escribirán %Ln resultados en %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) will be written beside the documents, with “-%1” added to their names.</source>
+        <source>%Ln result(s) will be written beside the documents, with “-%1” added to their names.</source>
         <translation>
-            <numerusform>Se escribirá %n resultado junto al documento, con «-%1» añadido a su nombre.</numerusform>
-            <numerusform>Se escribirán %n resultados junto a los documentos, con «-%1» añadido a sus nombres.</numerusform>
+            <numerusform>Se escribirá %Ln resultado junto al documento, con «-%1» añadido a su nombre.</numerusform>
+            <numerusform>Se escribirán %Ln resultados junto a los documentos, con «-%1» añadido a sus nombres.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) there will be replaced.</source>
+        <source>%Ln file(s) there will be replaced.</source>
         <translation>
-            <numerusform>Se reemplazará %n archivo allí.</numerusform>
-            <numerusform>Se reemplazarán %n archivos allí.</numerusform>
+            <numerusform>Se reemplazará %Ln archivo allí.</numerusform>
+            <numerusform>Se reemplazarán %Ln archivos allí.</numerusform>
         </translation>
     </message>
     <message>
@@ -2341,10 +2401,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Los propios documentos quedan como están.</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) cannot be changed and stay as they are.</source>
+        <source>%Ln document(s) cannot be changed and stay as they are.</source>
         <translation>
-            <numerusform>%n documento no se puede cambiar y queda como está.</numerusform>
-            <numerusform>%n documentos no se pueden cambiar y quedan como están.</numerusform>
+            <numerusform>%Ln documento no se puede cambiar y queda como está.</numerusform>
+            <numerusform>%Ln documentos no se pueden cambiar y quedan como están.</numerusform>
         </translation>
     </message>
 </context>
@@ -2378,10 +2438,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>La lectura se interrumpió.</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) were in the list already.</source>
+        <source>%Ln document(s) were in the list already.</source>
         <translation>
-            <numerusform>%n documento ya estaba en la lista.</numerusform>
-            <numerusform>%n documentos ya estaban en la lista.</numerusform>
+            <numerusform>%Ln documento ya estaba en la lista.</numerusform>
+            <numerusform>%Ln documentos ya estaban en la lista.</numerusform>
         </translation>
     </message>
     <message>
@@ -2401,17 +2461,17 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Se interrumpió el deshacer.</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) are as they were before the run.</source>
+        <source>%Ln document(s) are as they were before the run.</source>
         <translation>
-            <numerusform>%n documento está como antes de la ejecución.</numerusform>
-            <numerusform>%n documentos están como antes de la ejecución.</numerusform>
+            <numerusform>%Ln documento está como antes de la ejecución.</numerusform>
+            <numerusform>%Ln documentos están como antes de la ejecución.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) were left alone, since they are no longer as the run left them.</source>
+        <source>%Ln document(s) were left alone, since they are no longer as the run left them.</source>
         <translation>
-            <numerusform>%n documento quedó intacto, pues ya no está como lo dejó la ejecución.</numerusform>
-            <numerusform>%n documentos quedaron intactos, pues ya no están como los dejó la ejecución.</numerusform>
+            <numerusform>%Ln documento quedó intacto, pues ya no está como lo dejó la ejecución.</numerusform>
+            <numerusform>%Ln documentos quedaron intactos, pues ya no están como los dejó la ejecución.</numerusform>
         </translation>
     </message>
     <message>
@@ -2419,10 +2479,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <translation>Ningún documento de la lista pide una contraseña.</translation>
     </message>
     <message numerus="yes">
-        <source>Undoing was stopped: %n document(s) are as they were before the run.</source>
+        <source>Undoing was stopped: %Ln document(s) are as they were before the run.</source>
         <translation>
-            <numerusform>Se detuvo la operación de deshacer: %n documento está como antes de la ejecución.</numerusform>
-            <numerusform>Se detuvo la operación de deshacer: %n documentos están como antes de la ejecución.</numerusform>
+            <numerusform>Se detuvo la operación de deshacer: %Ln documento está como antes de la ejecución.</numerusform>
+            <numerusform>Se detuvo la operación de deshacer: %Ln documentos están como antes de la ejecución.</numerusform>
         </translation>
     </message>
     <message>

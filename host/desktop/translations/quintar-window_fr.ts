@@ -22,31 +22,31 @@
 <context>
     <name>ChangeWarnings</name>
     <message numerus="yes">
-        <source>%n document(s) have no bookmarks: the panel will be empty.</source>
+        <source>%Ln document(s) have no bookmarks: the panel will be empty.</source>
         <translation>
-            <numerusform>%n document n’a pas de signets&#xa0;: le volet sera vide.</numerusform>
-            <numerusform>%n documents n’ont pas de signets&#xa0;: le volet sera vide.</numerusform>
+            <numerusform>%Ln document n’a pas de signets&#xa0;: le volet sera vide.</numerusform>
+            <numerusform>%Ln documents n’ont pas de signets&#xa0;: le volet sera vide.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) have no title to show.</source>
+        <source>%Ln document(s) have no title to show.</source>
         <translation>
-            <numerusform>%n document n’a pas de titre à afficher.</numerusform>
-            <numerusform>%n documents n’ont pas de titre à afficher.</numerusform>
+            <numerusform>%Ln document n’a pas de titre à afficher.</numerusform>
+            <numerusform>%Ln documents n’ont pas de titre à afficher.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>The shortest document has %n page(s); it cannot open there.</source>
+        <source>The shortest document has %Ln page(s); it cannot open there.</source>
         <translation>
-            <numerusform>Le document le plus court a %n page&#xa0;; il ne peut pas s’ouvrir là.</numerusform>
-            <numerusform>Le document le plus court a %n pages&#xa0;; il ne peut pas s’ouvrir là.</numerusform>
+            <numerusform>Le document le plus court a %Ln page&#xa0;; il ne peut pas s’ouvrir là.</numerusform>
+            <numerusform>Le document le plus court a %Ln pages&#xa0;; il ne peut pas s’ouvrir là.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) are signed and stay as they are, unless you say otherwise.</source>
+        <source>%Ln document(s) are signed and stay as they are, unless you say otherwise.</source>
         <translation>
-            <numerusform>%n document est signé et reste tel quel, sauf avis contraire de votre part.</numerusform>
-            <numerusform>%n documents sont signés et restent tels quels, sauf avis contraire de votre part.</numerusform>
+            <numerusform>%Ln document est signé et reste tel quel, sauf avis contraire de votre part.</numerusform>
+            <numerusform>%Ln documents sont signés et restent tels quels, sauf avis contraire de votre part.</numerusform>
         </translation>
     </message>
     <message>
@@ -262,10 +262,6 @@
         <translation>Seront modifiés</translation>
     </message>
     <message>
-        <source>Were changed</source>
-        <translation>Ont été modifiés</translation>
-    </message>
-    <message>
         <source>Failed or cannot be changed</source>
         <translation>En échec ou non modifiables</translation>
     </message>
@@ -285,6 +281,10 @@
         <source>Failed in the run</source>
         <translation>En échec lors du traitement</translation>
     </message>
+    <message>
+        <source>Were changed or written</source>
+        <translation>Ont été modifiés ou écrits</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -300,24 +300,24 @@
 <context>
     <name>PasswordTrial</name>
     <message numerus="yes">
-        <source>The password opens none of the %n document(s) that want one.</source>
+        <source>The password opens none of the %Ln document(s) that want one.</source>
         <translation>
-            <numerusform>Le mot de passe n’ouvre pas le %n document qui en demande un.</numerusform>
-            <numerusform>Le mot de passe n’ouvre aucun des %n documents qui en demandent un.</numerusform>
+            <numerusform>Le mot de passe n’ouvre pas le %Ln document qui en demande un.</numerusform>
+            <numerusform>Le mot de passe n’ouvre aucun des %Ln documents qui en demandent un.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>The password opens %n document(s).</source>
+        <source>The password opens %Ln document(s).</source>
         <translation>
-            <numerusform>Le mot de passe ouvre %n document.</numerusform>
-            <numerusform>Le mot de passe ouvre %n documents.</numerusform>
+            <numerusform>Le mot de passe ouvre %Ln document.</numerusform>
+            <numerusform>Le mot de passe ouvre %Ln documents.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) want another one.</source>
+        <source>%Ln document(s) want another one.</source>
         <translation>
-            <numerusform>%n document en demande un autre.</numerusform>
-            <numerusform>%n documents en demandent un autre.</numerusform>
+            <numerusform>%Ln document en demande un autre.</numerusform>
+            <numerusform>%Ln documents en demandent un autre.</numerusform>
         </translation>
     </message>
 </context>
@@ -534,6 +534,14 @@
         <source>A mistake of this program. Please report it.</source>
         <translation>Une erreur de ce programme. Veuillez la signaler.</translation>
     </message>
+    <message>
+        <source>changed since</source>
+        <translation>modifiés depuis</translation>
+    </message>
+    <message>
+        <source>disk full</source>
+        <translation>disque plein</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -617,6 +625,18 @@
         <source>; </source>
         <translation>&#xa0;; </translation>
     </message>
+    <message>
+        <source>result written</source>
+        <translation>résultat écrit</translation>
+    </message>
+    <message>
+        <source>copied as it was</source>
+        <translation>copié tel quel</translation>
+    </message>
+    <message>
+        <source>%1, in the result %2</source>
+        <translation>%1, dans le résultat %2</translation>
+    </message>
 </context>
 <context>
     <name>RunOrder</name>
@@ -653,6 +673,25 @@
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>StopQuestion</name>
+    <message>
+        <source>A run is being undone. Stop undoing it?</source>
+        <translation>Un traitement est en cours d’annulation. Arrêter l’annulation&#xa0;?</translation>
+    </message>
+    <message>
+        <source>A run is under way. Stop it?</source>
+        <translation>Un traitement est en cours. L’arrêter&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as the run left them, and the run can be undone later.</source>
+        <translation>Les documents en cours sont terminés&#xa0;; les autres restent tels que le traitement les a laissés, et il pourra être annulé plus tard.</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>Les documents en cours sont terminés&#xa0;; les autres restent tels quels.</translation>
     </message>
 </context>
 <context>
@@ -1354,24 +1393,24 @@
         <translation>Confi&amp;gurer…</translation>
     </message>
     <message numerus="yes">
-        <source>all %n document(s)</source>
+        <source>all %Ln document(s)</source>
         <translation>
-            <numerusform>le %n document</numerusform>
-            <numerusform>les %n documents</numerusform>
+            <numerusform>le %Ln document</numerusform>
+            <numerusform>les %Ln documents</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>all %n shown</source>
+        <source>all %Ln shown</source>
         <translation>
-            <numerusform>le %n affiché</numerusform>
-            <numerusform>les %n affichés</numerusform>
+            <numerusform>le %Ln affiché</numerusform>
+            <numerusform>les %Ln affichés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>the %n selected</source>
+        <source>the %Ln selected</source>
         <translation>
-            <numerusform>le %n sélectionné</numerusform>
-            <numerusform>les %n sélectionnés</numerusform>
+            <numerusform>le %Ln sélectionné</numerusform>
+            <numerusform>les %Ln sélectionnés</numerusform>
         </translation>
     </message>
 </context>
@@ -1428,10 +1467,10 @@
         <translation>Annuler ce traitement&#xa0;?</translation>
     </message>
     <message numerus="yes">
-        <source>Give %n document(s) back as they were?</source>
+        <source>Give %Ln document(s) back as they were?</source>
         <translation>
-            <numerusform>Rendre %n document tel qu’il était&#xa0;?</numerusform>
-            <numerusform>Rendre %n documents tels qu’ils étaient&#xa0;?</numerusform>
+            <numerusform>Rendre %Ln document tel qu’il était&#xa0;?</numerusform>
+            <numerusform>Rendre %Ln documents tels qu’ils étaient&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -1518,6 +1557,10 @@
         <source>What would change is not known. Read the documents again to try once more.</source>
         <translation>On ne sait pas ce qui changerait. Relisez les documents pour réessayer.</translation>
     </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1565,6 +1608,10 @@
         <source>manual.pdf becomes manual-%1.pdf.</source>
         <translation>manuel.pdf devient manuel-%1.pdf.</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DetailLine</name>
@@ -1583,6 +1630,10 @@
     <message>
         <source>Select a document to see how it opens.</source>
         <translation>Sélectionnez un document pour voir comment il s’ouvre.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1607,31 +1658,31 @@
         <translation>&amp;Rétablir</translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
+        <source>&amp;Redo Removing %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Rétablir le retrait de %n document</numerusform>
-            <numerusform>&amp;Rétablir le retrait de %n documents</numerusform>
+            <numerusform>&amp;Rétablir le retrait de %Ln document</numerusform>
+            <numerusform>&amp;Rétablir le retrait de %Ln documents</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
+        <source>&amp;Undo Removing %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Annuler le retrait de %n document</numerusform>
-            <numerusform>&amp;Annuler le retrait de %n documents</numerusform>
+            <numerusform>&amp;Annuler le retrait de %Ln document</numerusform>
+            <numerusform>&amp;Annuler le retrait de %Ln documents</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
+        <source>&amp;Redo Adding %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Rétablir l’ajout de %n document</numerusform>
-            <numerusform>&amp;Rétablir l’ajout de %n documents</numerusform>
+            <numerusform>&amp;Rétablir l’ajout de %Ln document</numerusform>
+            <numerusform>&amp;Rétablir l’ajout de %Ln documents</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
+        <source>&amp;Undo Adding %Ln Document(s)</source>
         <translation>
-            <numerusform>&amp;Annuler l’ajout de %n document</numerusform>
-            <numerusform>&amp;Annuler l’ajout de %n documents</numerusform>
+            <numerusform>&amp;Annuler l’ajout de %Ln document</numerusform>
+            <numerusform>&amp;Annuler l’ajout de %Ln documents</numerusform>
         </translation>
     </message>
     <message>
@@ -1695,10 +1746,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Rechercher nom, dossier, titre</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s)</source>
+        <source>%Ln document(s)</source>
         <translation>
-            <numerusform>%n document</numerusform>
-            <numerusform>%n documents</numerusform>
+            <numerusform>%Ln document</numerusform>
+            <numerusform>%Ln documents</numerusform>
         </translation>
     </message>
     <message>
@@ -1747,14 +1798,6 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
 <context>
     <name>host::desktop::Logout</name>
     <message>
-        <source>A run is under way. Stop it and log out?</source>
-        <translation>Un traitement est en cours. L’arrêter et fermer la session&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Les documents en cours sont terminés&#xa0;; les autres restent tels quels.</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Log Out</source>
         <translation>&amp;Arrêter et fermer la session</translation>
     </message>
@@ -1766,23 +1809,15 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Quintar</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) - Quintar</source>
+        <source>%Ln document(s) - Quintar</source>
         <translation>
-            <numerusform>%n document – Quintar</numerusform>
-            <numerusform>%n documents – Quintar</numerusform>
+            <numerusform>%Ln document – Quintar</numerusform>
+            <numerusform>%Ln documents – Quintar</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 % - Quintar</source>
         <translation>%1&#xa0;% – Quintar</translation>
-    </message>
-    <message>
-        <source>A run is under way. Stop it and close?</source>
-        <translation>Un traitement est en cours. L’arrêter et fermer&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>Les documents en cours sont terminés&#xa0;; les autres restent tels quels.</translation>
     </message>
     <message>
         <source>&amp;Stop and Close</source>
@@ -2001,10 +2036,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Progression</translation>
     </message>
     <message numerus="yes">
-        <source>Show %n Fa&amp;iled</source>
+        <source>Show %Ln Fa&amp;iled</source>
         <translation>
-            <numerusform>Vo&amp;ir %n échec</numerusform>
-            <numerusform>Vo&amp;ir %n échecs</numerusform>
+            <numerusform>Vo&amp;ir %Ln échec</numerusform>
+            <numerusform>Vo&amp;ir %Ln échecs</numerusform>
         </translation>
     </message>
     <message>
@@ -2020,10 +2055,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>La liste est vide.</translation>
     </message>
     <message numerus="yes">
-        <source>Reading… %n document(s) so far</source>
+        <source>Reading… %Ln document(s) so far</source>
         <translation>
-            <numerusform>Lecture… %n document jusqu’ici</numerusform>
-            <numerusform>Lecture… %n documents jusqu’ici</numerusform>
+            <numerusform>Lecture… %Ln document jusqu’ici</numerusform>
+            <numerusform>Lecture… %Ln documents jusqu’ici</numerusform>
         </translation>
     </message>
     <message>
@@ -2055,66 +2090,66 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Rien ne changerait</translation>
     </message>
     <message numerus="yes">
-        <source>%n will change</source>
+        <source>%Ln will change</source>
         <translation>
-            <numerusform>%n sera modifié</numerusform>
-            <numerusform>%n seront modifiés</numerusform>
+            <numerusform>%Ln sera modifié</numerusform>
+            <numerusform>%Ln seront modifiés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n open so already</source>
+        <source>%Ln open so already</source>
         <translation>
-            <numerusform>%n s’ouvre déjà ainsi</numerusform>
-            <numerusform>%n s’ouvrent déjà ainsi</numerusform>
+            <numerusform>%Ln s’ouvre déjà ainsi</numerusform>
+            <numerusform>%Ln s’ouvrent déjà ainsi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cannot be changed</source>
+        <source>%Ln cannot be changed</source>
         <translation>
-            <numerusform>%n non modifiable</numerusform>
-            <numerusform>%n non modifiables</numerusform>
+            <numerusform>%Ln non modifiable</numerusform>
+            <numerusform>%Ln non modifiables</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n changed</source>
+        <source>%Ln changed</source>
         <translation>
-            <numerusform>%n modifié</numerusform>
-            <numerusform>%n modifiés</numerusform>
+            <numerusform>%Ln modifié</numerusform>
+            <numerusform>%Ln modifiés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n as they were</source>
+        <source>%Ln as they were</source>
         <translation>
-            <numerusform>%n tel quel</numerusform>
-            <numerusform>%n tels quels</numerusform>
+            <numerusform>%Ln tel quel</numerusform>
+            <numerusform>%Ln tels quels</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n failed</source>
+        <source>%Ln failed</source>
         <translation>
-            <numerusform>%n échec</numerusform>
-            <numerusform>%n échecs</numerusform>
+            <numerusform>%Ln échec</numerusform>
+            <numerusform>%Ln échecs</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n not done</source>
+        <source>%Ln not done</source>
         <translation>
-            <numerusform>%n non fait</numerusform>
-            <numerusform>%n non faits</numerusform>
+            <numerusform>%Ln non fait</numerusform>
+            <numerusform>%Ln non faits</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>about %n second(s) left</source>
+        <source>about %Ln second(s) left</source>
         <translation>
-            <numerusform>encore %n seconde environ</numerusform>
-            <numerusform>encore %n secondes environ</numerusform>
+            <numerusform>encore %Ln seconde environ</numerusform>
+            <numerusform>encore %Ln secondes environ</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>about %n minute(s) left</source>
+        <source>about %Ln minute(s) left</source>
         <translation>
-            <numerusform>encore %n minute environ</numerusform>
-            <numerusform>encore %n minutes environ</numerusform>
+            <numerusform>encore %Ln minute environ</numerusform>
+            <numerusform>encore %Ln minutes environ</numerusform>
         </translation>
     </message>
     <message>
@@ -2146,6 +2181,20 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <source>What would change is not known. Read the documents again (F5) to find out.</source>
         <translation>On ne sait pas ce qui changerait. Relisez les documents (F5) pour le savoir.</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln écrit</numerusform>
+            <numerusform>%Ln écrits</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln copied as they were</source>
+        <translation>
+            <numerusform>%Ln copié tel quel</numerusform>
+            <numerusform>%Ln copiés tels quels</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2162,10 +2211,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>inconnu</translation>
     </message>
     <message numerus="yes">
-        <source>%n changed</source>
+        <source>%Ln changed</source>
         <translation>
-            <numerusform>%n modifié</numerusform>
-            <numerusform>%n modifiés</numerusform>
+            <numerusform>%Ln modifié</numerusform>
+            <numerusform>%Ln modifiés</numerusform>
         </translation>
     </message>
     <message>
@@ -2199,6 +2248,17 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>Undo</source>
         <translation>Annulation</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln écrit</numerusform>
+            <numerusform>%Ln écrits</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing to undo</source>
+        <translation>rien à annuler</translation>
     </message>
 </context>
 <context>
@@ -2305,31 +2365,31 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>&amp;Lancer</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) will be changed in place.</source>
+        <source>%Ln document(s) will be changed in place.</source>
         <translation>
-            <numerusform>%n document sera modifié sur place.</numerusform>
-            <numerusform>%n documents seront modifiés sur place.</numerusform>
+            <numerusform>%Ln document sera modifié sur place.</numerusform>
+            <numerusform>%Ln documents seront modifiés sur place.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) will be written to %1.</source>
+        <source>%Ln result(s) will be written to %1.</source>
         <translation>
-            <numerusform>%n résultat sera écrit dans %1.</numerusform>
-            <numerusform>%n résultats seront écrits dans %1.</numerusform>
+            <numerusform>%Ln résultat sera écrit dans %1.</numerusform>
+            <numerusform>%Ln résultats seront écrits dans %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) will be written beside the documents, with “-%1” added to their names.</source>
+        <source>%Ln result(s) will be written beside the documents, with “-%1” added to their names.</source>
         <translation>
-            <numerusform>%n résultat sera écrit à côté du document, avec «&#xa0;-%1&#xa0;» ajouté à son nom.</numerusform>
-            <numerusform>%n résultats seront écrits à côté des documents, avec «&#xa0;-%1&#xa0;» ajouté à leurs noms.</numerusform>
+            <numerusform>%Ln résultat sera écrit à côté du document, avec «&#xa0;-%1&#xa0;» ajouté à son nom.</numerusform>
+            <numerusform>%Ln résultats seront écrits à côté des documents, avec «&#xa0;-%1&#xa0;» ajouté à leurs noms.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) there will be replaced.</source>
+        <source>%Ln file(s) there will be replaced.</source>
         <translation>
-            <numerusform>%n fichier y sera remplacé.</numerusform>
-            <numerusform>%n fichiers y seront remplacés.</numerusform>
+            <numerusform>%Ln fichier y sera remplacé.</numerusform>
+            <numerusform>%Ln fichiers y seront remplacés.</numerusform>
         </translation>
     </message>
     <message>
@@ -2341,10 +2401,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Les documents eux-mêmes restent tels quels.</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) cannot be changed and stay as they are.</source>
+        <source>%Ln document(s) cannot be changed and stay as they are.</source>
         <translation>
-            <numerusform>%n document ne peut pas être modifié et reste tel quel.</numerusform>
-            <numerusform>%n documents ne peuvent pas être modifiés et restent tels quels.</numerusform>
+            <numerusform>%Ln document ne peut pas être modifié et reste tel quel.</numerusform>
+            <numerusform>%Ln documents ne peuvent pas être modifiés et restent tels quels.</numerusform>
         </translation>
     </message>
 </context>
@@ -2378,10 +2438,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>La lecture s’est interrompue.</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) were in the list already.</source>
+        <source>%Ln document(s) were in the list already.</source>
         <translation>
-            <numerusform>%n document était déjà dans la liste.</numerusform>
-            <numerusform>%n documents étaient déjà dans la liste.</numerusform>
+            <numerusform>%Ln document était déjà dans la liste.</numerusform>
+            <numerusform>%Ln documents étaient déjà dans la liste.</numerusform>
         </translation>
     </message>
     <message>
@@ -2401,17 +2461,17 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>L’annulation s’est interrompue.</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) are as they were before the run.</source>
+        <source>%Ln document(s) are as they were before the run.</source>
         <translation>
-            <numerusform>%n document est tel qu’il était avant le traitement.</numerusform>
-            <numerusform>%n documents sont tels qu’ils étaient avant le traitement.</numerusform>
+            <numerusform>%Ln document est tel qu’il était avant le traitement.</numerusform>
+            <numerusform>%Ln documents sont tels qu’ils étaient avant le traitement.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) were left alone, since they are no longer as the run left them.</source>
+        <source>%Ln document(s) were left alone, since they are no longer as the run left them.</source>
         <translation>
-            <numerusform>%n document a été laissé tel quel, car il n’est plus comme le traitement l’avait laissé.</numerusform>
-            <numerusform>%n documents ont été laissés tels quels, car ils ne sont plus comme le traitement les avait laissés.</numerusform>
+            <numerusform>%Ln document a été laissé tel quel, car il n’est plus comme le traitement l’avait laissé.</numerusform>
+            <numerusform>%Ln documents ont été laissés tels quels, car ils ne sont plus comme le traitement les avait laissés.</numerusform>
         </translation>
     </message>
     <message>
@@ -2419,10 +2479,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <translation>Aucun document de la liste ne demande de mot de passe.</translation>
     </message>
     <message numerus="yes">
-        <source>Undoing was stopped: %n document(s) are as they were before the run.</source>
+        <source>Undoing was stopped: %Ln document(s) are as they were before the run.</source>
         <translation>
-            <numerusform>L’annulation a été arrêtée : %n document est tel qu’il était avant le traitement.</numerusform>
-            <numerusform>L’annulation a été arrêtée : %n documents sont tels qu’ils étaient avant le traitement.</numerusform>
+            <numerusform>L’annulation a été arrêtée : %Ln document est tel qu’il était avant le traitement.</numerusform>
+            <numerusform>L’annulation a été arrêtée : %Ln documents sont tels qu’ils étaient avant le traitement.</numerusform>
         </translation>
     </message>
     <message>

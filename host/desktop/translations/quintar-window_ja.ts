@@ -22,27 +22,27 @@
 <context>
     <name>ChangeWarnings</name>
     <message numerus="yes">
-        <source>%n document(s) have no bookmarks: the panel will be empty.</source>
+        <source>%Ln document(s) have no bookmarks: the panel will be empty.</source>
         <translation>
-            <numerusform>%n 個の文書にしおりがありません。パネルは空になります。</numerusform>
+            <numerusform>%Ln 個の文書にしおりがありません。パネルは空になります。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) have no title to show.</source>
+        <source>%Ln document(s) have no title to show.</source>
         <translation>
-            <numerusform>%n 個の文書に表示できるタイトルがありません。</numerusform>
+            <numerusform>%Ln 個の文書に表示できるタイトルがありません。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>The shortest document has %n page(s); it cannot open there.</source>
+        <source>The shortest document has %Ln page(s); it cannot open there.</source>
         <translation>
-            <numerusform>最も短い文書は %n ページです。そのページでは開けません。</numerusform>
+            <numerusform>最も短い文書は %Ln ページです。そのページでは開けません。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) are signed and stay as they are, unless you say otherwise.</source>
+        <source>%Ln document(s) are signed and stay as they are, unless you say otherwise.</source>
         <translation>
-            <numerusform>%n 個の文書は署名済みです。指定しないかぎり元のままです。</numerusform>
+            <numerusform>%Ln 個の文書は署名済みです。指定しないかぎり元のままです。</numerusform>
         </translation>
     </message>
     <message>
@@ -258,10 +258,6 @@
         <translation>変更される</translation>
     </message>
     <message>
-        <source>Were changed</source>
-        <translation>変更された</translation>
-    </message>
-    <message>
         <source>Failed or cannot be changed</source>
         <translation>失敗した、または変更できない</translation>
     </message>
@@ -281,6 +277,10 @@
         <source>Failed in the run</source>
         <translation>実行で失敗</translation>
     </message>
+    <message>
+        <source>Were changed or written</source>
+        <translation>変更または書き出し済み</translation>
+    </message>
 </context>
 <context>
     <name>EventReader</name>
@@ -296,21 +296,21 @@
 <context>
     <name>PasswordTrial</name>
     <message numerus="yes">
-        <source>The password opens none of the %n document(s) that want one.</source>
+        <source>The password opens none of the %Ln document(s) that want one.</source>
         <translation>
-            <numerusform>パスワードを必要とする %n 件の文書は、このパスワードでは開けません。</numerusform>
+            <numerusform>パスワードを必要とする %Ln 件の文書は、このパスワードでは開けません。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>The password opens %n document(s).</source>
+        <source>The password opens %Ln document(s).</source>
         <translation>
-            <numerusform>このパスワードで %n 件の文書が開けます。</numerusform>
+            <numerusform>このパスワードで %Ln 件の文書が開けます。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) want another one.</source>
+        <source>%Ln document(s) want another one.</source>
         <translation>
-            <numerusform>%n 件の文書には別のパスワードが必要です。</numerusform>
+            <numerusform>%Ln 件の文書には別のパスワードが必要です。</numerusform>
         </translation>
     </message>
 </context>
@@ -527,6 +527,14 @@
         <source>A mistake of this program. Please report it.</source>
         <translation>このプログラムの誤りです。報告してください。</translation>
     </message>
+    <message>
+        <source>changed since</source>
+        <translation>その後変更</translation>
+    </message>
+    <message>
+        <source>disk full</source>
+        <translation>ディスクの空き不足</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -610,6 +618,18 @@
         <source>; </source>
         <translation>、</translation>
     </message>
+    <message>
+        <source>result written</source>
+        <translation>結果を書き出しました</translation>
+    </message>
+    <message>
+        <source>copied as it was</source>
+        <translation>そのままコピーしました</translation>
+    </message>
+    <message>
+        <source>%1, in the result %2</source>
+        <translation>%1、結果では%2</translation>
+    </message>
 </context>
 <context>
     <name>RunOrder</name>
@@ -646,6 +666,25 @@
     <message>
         <source>, </source>
         <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>StopQuestion</name>
+    <message>
+        <source>A run is being undone. Stop undoing it?</source>
+        <translation>実行を取り消しています。取り消しを中止しますか?</translation>
+    </message>
+    <message>
+        <source>A run is under way. Stop it?</source>
+        <translation>実行中です。中止しますか?</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as the run left them, and the run can be undone later.</source>
+        <translation>処理中の文書は最後まで処理し、ほかの文書は実行後のままです。実行は後で取り消せます。</translation>
+    </message>
+    <message>
+        <source>Documents that are being worked on are finished; the others stay as they are.</source>
+        <translation>処理中の文書は最後まで処理し、ほかの文書は元のままです。</translation>
     </message>
 </context>
 <context>
@@ -1347,21 +1386,21 @@
         <translation>設定(&amp;O)…</translation>
     </message>
     <message numerus="yes">
-        <source>all %n document(s)</source>
+        <source>all %Ln document(s)</source>
         <translation>
-            <numerusform>すべての %n 個の文書</numerusform>
+            <numerusform>すべての %Ln 個の文書</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>all %n shown</source>
+        <source>all %Ln shown</source>
         <translation>
-            <numerusform>表示中の %n 個すべて</numerusform>
+            <numerusform>表示中の %Ln 個すべて</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>the %n selected</source>
+        <source>the %Ln selected</source>
         <translation>
-            <numerusform>選択した %n 個</numerusform>
+            <numerusform>選択した %Ln 個</numerusform>
         </translation>
     </message>
 </context>
@@ -1418,9 +1457,9 @@
         <translation>この実行を元に戻しますか?</translation>
     </message>
     <message numerus="yes">
-        <source>Give %n document(s) back as they were?</source>
+        <source>Give %Ln document(s) back as they were?</source>
         <translation>
-            <numerusform>%n 個の文書を元の状態に戻しますか?</numerusform>
+            <numerusform>%Ln 個の文書を元の状態に戻しますか?</numerusform>
         </translation>
     </message>
     <message>
@@ -1507,6 +1546,10 @@
         <source>What would change is not known. Read the documents again to try once more.</source>
         <translation>何が変わるかは不明です。もう一度試すには文書を読み直してください。</translation>
     </message>
+    <message>
+        <source>Result</source>
+        <translation>結果</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DestinationRow</name>
@@ -1554,6 +1597,10 @@
         <source>manual.pdf becomes manual-%1.pdf.</source>
         <translation>manual.pdf は manual-%1.pdf になります。</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選択…</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::DetailLine</name>
@@ -1572,6 +1619,10 @@
     <message>
         <source>Select a document to see how it opens.</source>
         <translation>文書を選ぶと、その開き方が表示されます。</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
     </message>
 </context>
 <context>
@@ -1596,27 +1647,27 @@
         <translation>やり直す(&amp;R)</translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Redo Removing %n Document(s)</source>
+        <source>&amp;Redo Removing %Ln Document(s)</source>
         <translation>
-            <numerusform>%n 個の文書の除外をやり直す(&amp;R)</numerusform>
+            <numerusform>%Ln 個の文書の除外をやり直す(&amp;R)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Undo Removing %n Document(s)</source>
+        <source>&amp;Undo Removing %Ln Document(s)</source>
         <translation>
-            <numerusform>%n 個の文書の除外を元に戻す(&amp;U)</numerusform>
+            <numerusform>%Ln 個の文書の除外を元に戻す(&amp;U)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Redo Adding %n Document(s)</source>
+        <source>&amp;Redo Adding %Ln Document(s)</source>
         <translation>
-            <numerusform>%n 個の文書の追加をやり直す(&amp;R)</numerusform>
+            <numerusform>%Ln 個の文書の追加をやり直す(&amp;R)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>&amp;Undo Adding %n Document(s)</source>
+        <source>&amp;Undo Adding %Ln Document(s)</source>
         <translation>
-            <numerusform>%n 個の文書の追加を元に戻す(&amp;U)</numerusform>
+            <numerusform>%Ln 個の文書の追加を元に戻す(&amp;U)</numerusform>
         </translation>
     </message>
     <message>
@@ -1680,9 +1731,9 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>名前、フォルダー、タイトルを検索</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s)</source>
+        <source>%Ln document(s)</source>
         <translation>
-            <numerusform>%n 個の文書</numerusform>
+            <numerusform>%Ln 個の文書</numerusform>
         </translation>
     </message>
     <message>
@@ -1731,14 +1782,6 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
 <context>
     <name>host::desktop::Logout</name>
     <message>
-        <source>A run is under way. Stop it and log out?</source>
-        <translation>実行中です。中止してログアウトしますか?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>処理中の文書は最後まで処理し、ほかの文書は元のままです。</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Log Out</source>
         <translation>中止してログアウト(&amp;S)</translation>
     </message>
@@ -1750,22 +1793,14 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>Quintar</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) - Quintar</source>
+        <source>%Ln document(s) - Quintar</source>
         <translation>
-            <numerusform>%n 個の文書 - Quintar</numerusform>
+            <numerusform>%Ln 個の文書 - Quintar</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 % - Quintar</source>
         <translation>%1 % - Quintar</translation>
-    </message>
-    <message>
-        <source>A run is under way. Stop it and close?</source>
-        <translation>実行中です。中止して閉じますか?</translation>
-    </message>
-    <message>
-        <source>Documents that are being worked on are finished; the others stay as they are.</source>
-        <translation>処理中の文書は最後まで処理し、ほかの文書は元のままです。</translation>
     </message>
     <message>
         <source>&amp;Stop and Close</source>
@@ -1984,9 +2019,9 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>進行状況</translation>
     </message>
     <message numerus="yes">
-        <source>Show %n Fa&amp;iled</source>
+        <source>Show %Ln Fa&amp;iled</source>
         <translation>
-            <numerusform>失敗した %n 個を表示(&amp;Y)</numerusform>
+            <numerusform>失敗した %Ln 個を表示(&amp;Y)</numerusform>
         </translation>
     </message>
     <message>
@@ -2002,9 +2037,9 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>一覧は空です。</translation>
     </message>
     <message numerus="yes">
-        <source>Reading… %n document(s) so far</source>
+        <source>Reading… %Ln document(s) so far</source>
         <translation>
-            <numerusform>読み込み中… 現在 %n 個の文書</numerusform>
+            <numerusform>読み込み中… 現在 %Ln 個の文書</numerusform>
         </translation>
     </message>
     <message>
@@ -2036,57 +2071,57 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>変更されるものはありません</translation>
     </message>
     <message numerus="yes">
-        <source>%n will change</source>
+        <source>%Ln will change</source>
         <translation>
-            <numerusform>%n 個が変更されます</numerusform>
+            <numerusform>%Ln 個が変更されます</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n open so already</source>
+        <source>%Ln open so already</source>
         <translation>
-            <numerusform>%n 個はすでにそのように開きます</numerusform>
+            <numerusform>%Ln 個はすでにそのように開きます</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cannot be changed</source>
+        <source>%Ln cannot be changed</source>
         <translation>
-            <numerusform>%n 個は変更できません</numerusform>
+            <numerusform>%Ln 個は変更できません</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n changed</source>
+        <source>%Ln changed</source>
         <translation>
-            <numerusform>%n 個を変更しました</numerusform>
+            <numerusform>%Ln 個を変更しました</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n as they were</source>
+        <source>%Ln as they were</source>
         <translation>
-            <numerusform>%n 個は元のまま</numerusform>
+            <numerusform>%Ln 個は元のまま</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n failed</source>
+        <source>%Ln failed</source>
         <translation>
-            <numerusform>%n 個が失敗</numerusform>
+            <numerusform>%Ln 個が失敗</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n not done</source>
+        <source>%Ln not done</source>
         <translation>
-            <numerusform>%n 個が未処理</numerusform>
+            <numerusform>%Ln 個が未処理</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>about %n second(s) left</source>
+        <source>about %Ln second(s) left</source>
         <translation>
-            <numerusform>残り約 %n 秒</numerusform>
+            <numerusform>残り約 %Ln 秒</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>about %n minute(s) left</source>
+        <source>about %Ln minute(s) left</source>
         <translation>
-            <numerusform>残り約 %n 分</numerusform>
+            <numerusform>残り約 %Ln 分</numerusform>
         </translation>
     </message>
     <message>
@@ -2118,6 +2153,18 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <source>What would change is not known. Read the documents again (F5) to find out.</source>
         <translation>何が変わるか分かっていません。文書を読み直すと (F5) 分かります。</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln 個を書き出し</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln copied as they were</source>
+        <translation>
+            <numerusform>%Ln 個はそのままコピー</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunHistory</name>
@@ -2134,9 +2181,9 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>不明</translation>
     </message>
     <message numerus="yes">
-        <source>%n changed</source>
+        <source>%Ln changed</source>
         <translation>
-            <numerusform>%n 個を変更</numerusform>
+            <numerusform>%Ln 個を変更</numerusform>
         </translation>
     </message>
     <message>
@@ -2170,6 +2217,16 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>Undo</source>
         <translation>元に戻す</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln 個を書き出し</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing to undo</source>
+        <translation>取り消すものなし</translation>
     </message>
 </context>
 <context>
@@ -2276,27 +2333,27 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>開始(&amp;S)</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) will be changed in place.</source>
+        <source>%Ln document(s) will be changed in place.</source>
         <translation>
-            <numerusform>%n 個の文書を直接変更します。</numerusform>
+            <numerusform>%Ln 個の文書を直接変更します。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) will be written to %1.</source>
+        <source>%Ln result(s) will be written to %1.</source>
         <translation>
-            <numerusform>%n 個の結果を %1 に書き込みます。</numerusform>
+            <numerusform>%Ln 個の結果を %1 に書き込みます。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) will be written beside the documents, with “-%1” added to their names.</source>
+        <source>%Ln result(s) will be written beside the documents, with “-%1” added to their names.</source>
         <translation>
-            <numerusform>%n 個の結果を、名前に「-%1」を付けて文書の隣に書き込みます。</numerusform>
+            <numerusform>%Ln 個の結果を、名前に「-%1」を付けて文書の隣に書き込みます。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) there will be replaced.</source>
+        <source>%Ln file(s) there will be replaced.</source>
         <translation>
-            <numerusform>そこにある %n 個のファイルを置き換えます。</numerusform>
+            <numerusform>そこにある %Ln 個のファイルを置き換えます。</numerusform>
         </translation>
     </message>
     <message>
@@ -2308,9 +2365,9 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>元の文書はそのままです。</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) cannot be changed and stay as they are.</source>
+        <source>%Ln document(s) cannot be changed and stay as they are.</source>
         <translation>
-            <numerusform>%n 個の文書は変更できないため、元のままです。</numerusform>
+            <numerusform>%Ln 個の文書は変更できないため、元のままです。</numerusform>
         </translation>
     </message>
 </context>
@@ -2344,9 +2401,9 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>読み込みが途中で終わりました。</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) were in the list already.</source>
+        <source>%Ln document(s) were in the list already.</source>
         <translation>
-            <numerusform>%n 個の文書はすでに一覧にありました。</numerusform>
+            <numerusform>%Ln 個の文書はすでに一覧にありました。</numerusform>
         </translation>
     </message>
     <message>
@@ -2366,15 +2423,15 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>元に戻す処理が途中で終わりました。</translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) are as they were before the run.</source>
+        <source>%Ln document(s) are as they were before the run.</source>
         <translation>
-            <numerusform>%n 個の文書が実行前の状態に戻りました。</numerusform>
+            <numerusform>%Ln 個の文書が実行前の状態に戻りました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n document(s) were left alone, since they are no longer as the run left them.</source>
+        <source>%Ln document(s) were left alone, since they are no longer as the run left them.</source>
         <translation>
-            <numerusform>%n 個の文書は、実行直後の状態ではないため、そのまま残しました。</numerusform>
+            <numerusform>%Ln 個の文書は、実行直後の状態ではないため、そのまま残しました。</numerusform>
         </translation>
     </message>
     <message>
@@ -2382,9 +2439,9 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <translation>パスワードを必要とする文書はリストにありません。</translation>
     </message>
     <message numerus="yes">
-        <source>Undoing was stopped: %n document(s) are as they were before the run.</source>
+        <source>Undoing was stopped: %Ln document(s) are as they were before the run.</source>
         <translation>
-            <numerusform>元に戻す処理を停止しました: %n 個の文書が実行前の状態に戻りました。</numerusform>
+            <numerusform>元に戻す処理を停止しました: %Ln 個の文書が実行前の状態に戻りました。</numerusform>
         </translation>
     </message>
     <message>

@@ -52,14 +52,14 @@ std::pair<QString, bool> PasswordTrial::end(const DocumentTable& table)
         }
     if (opened == 0)
         return {QCoreApplication::translate("PasswordTrial",
-                                            "The password opens none of the %n document(s) that want one.",
+                                            "The password opens none of the %Ln document(s) that want one.",
                                             "", closed),
                 false};
     QString text =
-        QCoreApplication::translate("PasswordTrial", "The password opens %n document(s).", "", opened);
+        QCoreApplication::translate("PasswordTrial", "The password opens %Ln document(s).", "", opened);
     if (closed > 0)
         text += " " +
-                QCoreApplication::translate("PasswordTrial", "%n document(s) want another one.", "", closed);
+                QCoreApplication::translate("PasswordTrial", "%Ln document(s) want another one.", "", closed);
     return {text, true};
 }
 

@@ -199,11 +199,14 @@ QString RunHistory::textOf(const Run& run, int column) const
     case Where:
         return run.where;
     case HowMany:
-        return run.changed < 0 ? tr("not known") : tr("%n changed", "", run.changed);
+        return run.changed < 0 ? tr("not known")
+               : run.isInPlace ? tr("%Ln changed", "", run.changed)
+                               : tr("%Ln written", "", run.changed);
     case State:
-        return run.isUndone    ? tr("undone")
-               : run.isInPlace ? tr("can be undone")
-                               : tr("documents are as they were");
+        return run.isUndone       ? tr("undone")
+               : !run.isInPlace   ? tr("documents are as they were")
+               : run.changed == 0 ? tr("nothing to undo")
+                                  : tr("can be undone");
     default:
         return {};
     }

@@ -216,6 +216,16 @@ void Workbench::collectTargets()
     emit countsChanged();
 }
 
+Workbench::Ids Workbench::startable() const
+{
+    Ids ids;
+    for (const DocumentId id : m_targets)
+        if (const DocumentRecord* record = m_table.find(id);
+            record != nullptr && record->state() != DocumentRecord::State::LeftAlone)
+            ids.append(id);
+    return ids;
+}
+
 void Workbench::markAside()
 {
     const QSet<DocumentId> within(m_targets.begin(), m_targets.end());
@@ -254,9 +264,8 @@ void Workbench::leaveResults()
 {
     if (m_machine.state() != State::Results)
         return;
-    const bool inPlace = m_lastOrder.destination.kind == Destination::Kind::InPlace;
-    changeAll([inPlace](DocumentRecord& record) {
-        if (inPlace && record.result && record.facts && record.result->kind == Outcome::Kind::Changed) {
+    changeAll([](DocumentRecord& record) {
+        if (record.facts && record.state() == DocumentRecord::State::Changed) {
             auto facts = std::make_shared<DocumentFacts>(*record.facts);
             facts->view.view.add(record.result->after.view);
             if (record.result->after.view[ViewEntry::OpenPage])
@@ -280,8 +289,8 @@ void Workbench::check()
     const Ids chosen = m_order.selected();
     const QSet<DocumentId> first(chosen.begin(), chosen.end());
     Ids ids;
-    for (const DocumentId id : m_targets)
-        if (const DocumentRecord* record = m_table.find(id); record != nullptr && !record->check)
+    for (const DocumentId id : startable())
+        if (!m_table.find(id)->check)
             ids.append(id);
     std::stable_partition(ids.begin(), ids.end(), [&first](DocumentId id) { return first.contains(id); });
     auto* trial = new Running(Running::Mode::Try, m_runOrder, {}, m_table, means(), this);
@@ -320,7 +329,7 @@ void Workbench::endReading(const ChildRun::Ending& ending)
     else if (ending.wasStopped && wasLooking)
         emit said(tr("Reading was stopped. What was not found until then is not in the list."));
     else if (known > 0)
-        emit said(tr("%n document(s) were in the list already.", "", known));
+        emit said(tr("%Ln document(s) were in the list already.", "", known));
     m_passwordTrial.restore(m_table);
     m_machine.handle(m_table.count() > 0 ? Step::Read : Step::Emptied);
     m_order.settle();
@@ -357,9 +366,10 @@ Workbench::Counts Workbench::counts() const
             state == DocumentRecord::State::Waiting || state == DocumentRecord::State::Known ? 1 : 0;
         counts.willChange += state == DocumentRecord::State::WillChange ? 1 : 0;
         counts.asAsked += state == DocumentRecord::State::AsAsked ? 1 : 0;
-        counts.cannot +=
-            state == DocumentRecord::State::Cannot || state == DocumentRecord::State::Unreadable ? 1 : 0;
+        counts.cannot += record.isInTrouble() && state != DocumentRecord::State::Failed ? 1 : 0;
         counts.changed += state == DocumentRecord::State::Changed ? 1 : 0;
+        counts.written += state == DocumentRecord::State::Written ? 1 : 0;
+        counts.copied += state == DocumentRecord::State::Copied ? 1 : 0;
         counts.unchanged += state == DocumentRecord::State::Unchanged ? 1 : 0;
         counts.failed += state == DocumentRecord::State::Failed ? 1 : 0;
         if (record.isInTrouble())

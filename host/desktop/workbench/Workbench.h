@@ -43,6 +43,9 @@ public:
         int cannot = 0;
         int changed = 0;
         int unchanged = 0;
+        /// Results that are files of their own; the documents are as they were.
+        int written = 0;
+        int copied = 0;
         int failed = 0;
         int notDone = 0;
         /// Those that are in trouble by the code of their reason.
@@ -84,6 +87,9 @@ public:
     const Ids& targets() const { return m_targets; }
     SelectionSummary summary() const { return SelectionSummary::of(m_table, m_targets); }
     Counts counts() const;
+
+    /// Whether a run is being taken back, or that is being stopped.
+    bool isUndoing() const { return qobject_cast<const Undoing*>(m_task.data()) != nullptr; }
 
     void start();
     void pause();
@@ -127,10 +133,13 @@ private:
     void changeAll(const DocumentTable::Change& change);
     void check();
     void collectTargets();
+    /// The targets without those that undoing left alone: they are no longer what they were when they were read.
+    Ids startable() const;
     void markAside();
     void endReading(const ChildRun::Ending& ending);
     void endChecking(const ChildRun::Ending& ending);
     void endRunning(const ChildRun::Ending& ending);
+    void tellOfUndoing(const Undoing& undoing, const ChildRun::Ending& ending);
     void endUndoing(const ChildRun::Ending& ending);
     void addWaiting();
     void addBy(Reading* reading, const QVector<QByteArray>& paths);

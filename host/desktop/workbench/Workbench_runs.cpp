@@ -14,7 +14,7 @@ using State = RunMachine::State;
 void Workbench::start()
 {
     if (m_machine.isEnabled(Command::Start))
-        run(m_targets);
+        run(startable());
 }
 
 void Workbench::tryAgain()
@@ -89,7 +89,7 @@ QString Workbench::resultFolder() const
     if (m_machine.state() != State::Results || !isInFolder)
         return {};
     const Counts now = counts();
-    return now.changed + now.unchanged > 0 ? m_lastOrder.destination.folderPath() : QString();
+    return now.written + now.copied > 0 ? m_lastOrder.destination.folderPath() : QString();
 }
 
 /// What a run has changed that broke off is not known, if it began at all.
@@ -102,7 +102,8 @@ void Workbench::writeDown(const Running& running, bool isComplete)
     done.reports = running.reports();
     const bool hasBegun = std::any_of(done.reports.begin(), done.reports.end(),
                                       [](const QString& report) { return QFile::exists(report); });
-    done.changed = isComplete || !hasBegun ? counts().changed : -1;
+    const Counts now = counts();
+    done.changed = isComplete || !hasBegun ? now.changed + now.written + now.copied : -1;
     const auto& [note, problem] = m_history.add(done, m_lastNote);
     m_lastNote = note;
     if (!problem.isEmpty())
@@ -122,23 +123,30 @@ void Workbench::undoRun(int row)
     undoing->start(m_history.runs().at(static_cast<std::size_t>(row)).reports);
 }
 
-/// The documents of the run are read again; what was left alone says why until then.
+void Workbench::tellOfUndoing(const Undoing& undoing, const ChildRun::Ending& ending)
+{
+    const QString undone = tr("%Ln document(s) are as they were before the run.", "", undoing.undone());
+    if (!ending.isComplete && undoing.undone() == 0)
+        return emit failed(ending.words.isEmpty() ? tr("Undoing broke off.") : ending.words);
+    if (ending.wasStopped)
+        return emit said(tr("Undoing was stopped: %Ln document(s) are as they were before the run.", "",
+                            undoing.undone()));
+    if (undoing.leftAlone() == 0)
+        return emit said(undone);
+    const QString leftAlone =
+        tr("%Ln document(s) were left alone, since they are no longer as the run left them.", "",
+           undoing.leftAlone());
+    emit failed(undoing.undone() == 0 ? leftAlone : leftAlone + " " + undone);
+}
+
+/// The documents of the run are read again; what was left alone says why until a person has it read again.
 void Workbench::endUndoing(const ChildRun::Ending& ending)
 {
     const auto* undoing = qobject_cast<const Undoing*>(m_task.data());
-    const int undone = undoing->undone();
     const int leftAlone = undoing->leftAlone();
+    tellOfUndoing(*undoing, ending);
     m_task->deleteLater();
     m_task.clear();
-    if (!ending.isComplete && undone == 0)
-        emit failed(ending.words.isEmpty() ? tr("Undoing broke off.") : ending.words);
-    else if (ending.wasStopped)
-        emit said(tr("Undoing was stopped: %n document(s) are as they were before the run.", "", undone));
-    else if (leftAlone == 0)
-        emit said(tr("%n document(s) are as they were before the run.", "", undone));
-    else
-        emit failed(tr("%n document(s) were left alone, since they are no longer as the run left them.", "",
-                       leftAlone));
     m_history.reload(); // its report may have been passed over while it was locked
     if (ending.isComplete && !ending.wasStopped && leftAlone == 0)
         if (const QString problem = m_history.setUndone(m_undoing); !problem.isEmpty())
