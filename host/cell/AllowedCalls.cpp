@@ -22,7 +22,8 @@ scmp_arg_cmp lacks(unsigned argument, scmp_datum_t bits)
     return {argument, SCMP_CMP_MASKED_EQ, bits, 0};
 }
 
-const unsigned protection = 2; // the argument of mmap and mprotect
+const unsigned protection = 2; // the arguments of mmap, and of mprotect
+const unsigned mapping = 3;
 
 // clang-format off
 Group ofSanitizers()
@@ -42,10 +43,14 @@ std::vector<Group> table(pid_t self)
 {
     const auto process = static_cast<scmp_datum_t>(self);
     std::vector<Group> groups = {
-        {"memory, which never becomes code: what is run is loaded before",
-         {{SCMP_SYS(brk)}, {SCMP_SYS(mmap), {lacks(protection, PROT_EXEC)}},
-          {SCMP_SYS(mmap2), {lacks(protection, PROT_EXEC)}}, {SCMP_SYS(mprotect), {lacks(protection, PROT_EXEC)}},
-          {SCMP_SYS(mremap)}, {SCMP_SYS(munmap)}, {SCMP_SYS(madvise)}}},
+        {"memory, which never becomes code: what is run is loaded before; nor memory to share, which the limit of a"
+         " process's memory does not count",
+         {{SCMP_SYS(brk)}, {SCMP_SYS(mmap), {lacks(protection, PROT_EXEC), lacks(mapping, MAP_SHARED)}},
+          {SCMP_SYS(mmap), {lacks(protection, PROT_EXEC), lacks(mapping, MAP_ANONYMOUS)}},
+          {SCMP_SYS(mmap2), {lacks(protection, PROT_EXEC), lacks(mapping, MAP_SHARED)}},
+          {SCMP_SYS(mmap2), {lacks(protection, PROT_EXEC), lacks(mapping, MAP_ANONYMOUS)}},
+          {SCMP_SYS(mprotect), {lacks(protection, PROT_EXEC)}}, {SCMP_SYS(mremap)}, {SCMP_SYS(munmap)},
+          {SCMP_SYS(madvise)}}},
         {"finding and reading documents; what may be opened is for the kernel's other lock",
          {{SCMP_SYS(open)}, {SCMP_SYS(openat)}, {SCMP_SYS(close)}, {SCMP_SYS(read)}, {SCMP_SYS(pread64)},
           {SCMP_SYS(lseek)}, {SCMP_SYS(_llseek)}, {SCMP_SYS(stat)}, {SCMP_SYS(lstat)}, {SCMP_SYS(fstat)},

@@ -1,6 +1,7 @@
 #include "Misdeeds.h"
 
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/ptrace.h>
 #include <sys/socket.h>
 #include <sys/syscall.h>
@@ -89,6 +90,12 @@ bool spies()
     return false;
 }
 
+/// Memory that does not count.
+bool shares()
+{
+    return mmap(nullptr, 4096, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0) != MAP_FAILED;
+}
+
 struct Misdeed
 {
     const wchar_t* name;
@@ -100,6 +107,7 @@ const Misdeed all[] = {
     {L"connects", connects},  {L"forks", forks},
     {L"executes", executes},  {L"traces", traces},
     {L"signals", signals},    {L"spies", spies},
+    {L"shares", shares},
 };
 
 } // namespace

@@ -104,6 +104,7 @@ private slots:
         row("traces", calls("ptrace"));
         row("signals", calls("kill"));
         row("spies", denied);
+        row("shares", calls("mmap"));
     }
 
     void keepsDocumentsFrom()
