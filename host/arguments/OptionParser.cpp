@@ -1,7 +1,7 @@
 #include "OptionParser.h"
 
-#include "UnknownWords.h"
 #include "host/options/HelpText.h"
+#include "host/options/UnknownWords.h"
 #include "host/terminal/UsageError.h"
 
 #include <getopt.h>
