@@ -92,7 +92,7 @@ OutputFile::OutputFile(const std::string& path) : m_target(isUnfinished(path) ? 
     if (replaces && !S_ISREG(status.st_mode))
         throw EngineError(ErrorCode::NotARegularFile);
     create(folderOf(m_target), replaces ? 0600 : 0666);
-    if (replaces && ::fchmod(m_fd, status.st_mode & 07777) != 0)
+    if (replaces && ::fchmod(m_fd, status.st_mode & 01777) != 0)
         fail(errno);
 }
 

@@ -19,6 +19,8 @@ public:
     void addFileToRead(const std::string& file);
     /// \param folder may be made later; then the one above it that is there is meant.
     void addFolderToWrite(const std::string& folder) { m_folders.insert(folder); }
+    /// Whether there is any folder to write.
+    bool isWritten() const { return !m_folders.empty(); }
 
     /// Throws std::system_error.
     void allowBy(Landlock& landlock) const;

@@ -4,6 +4,7 @@
 #include "WorkerVoice.h"
 
 #include "host/cell/Cell.h"
+#include "host/cell/ProcessLimits.h"
 #include "host/cell/Sanitized.h"
 #include "host/files/FileDescriptor.h"
 
@@ -47,12 +48,9 @@ void limitWorker(int memoryMiB)
 {
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
+    processlimits::limitMemory(memoryMiB);
     if (sanitized)
         return;
-    // Counts what the worker allocates, not the files and libraries that it maps.
-    const auto bytes = static_cast<rlim_t>(memoryMiB) << 20;
-    const rlimit memory{bytes, bytes};
-    setrlimit(RLIMIT_DATA, &memory);
     // What a crash or a library prints would tear up the progress bar; the reason reaches the user otherwise.
     const FileDescriptor null(open("/dev/null", O_WRONLY | O_CLOEXEC));
     dup2(null.get(), STDERR_FILENO);

@@ -105,6 +105,9 @@ private slots:
         row("signals", calls("kill"));
         row("spies", denied);
         row("shares", calls("mmap"));
+        row("lends", calls("fchmod"));
+        row("grants", denied);
+        row("scribbles", denied);
     }
 
     void keepsDocumentsFrom()
@@ -114,7 +117,8 @@ private slots:
         for (const QString& each : {QString("0-slow.pdf"), name, QString("2-good.pdf")})
             m_folder->put(each.toStdString(), PdfBuilder::simple());
         const int listener = listenAt("socket");
-        const QStringList words{"run", "--jobs", "2", "--page-mode", "bookmarks", "--sandbox"};
+        const QStringList words{"run",       "--jobs",   "2",      "--page-mode",
+                                "bookmarks", "--report", "report", "--sandbox"};
         const QStringList documents{"0-slow.pdf", name, "2-good.pdf"};
 
         const Program kept(Program::Nothing, m_program,
@@ -125,13 +129,24 @@ private slots:
 
         const Program free(Program::Nothing, m_program, words + QStringList{"off", "-o", "free"} + documents);
         close(listener);
-        if (geteuid() != 0 && name.contains("traces"))
-            QSKIP("only root may trace any process here");
+        if (geteuid() != 0 && (name.contains("traces") || name.contains("grants")))
+            QSKIP("only root may do that here");
         if (name.contains("executes")) // another program, which reads no documents
             QVERIFY2(free.err.contains(": the worker process "), free.err);
         else
             QCOMPARE(QString(free.err), QString());
         QCOMPARE(fs::exists("written"), name.contains("writes"));
+    }
+
+    void changesNoModeWhereNothingIsWritten()
+    {
+        m_folder->put("1-bares.pdf", PdfBuilder::simple());
+        const auto errors = [&](const QString& sandbox) {
+            return QString(
+                Program(Program::Nothing, m_program, {"show", "--sandbox", sandbox, "1-bares.pdf"}).err);
+        };
+        QCOMPARE(errors("require"), "quintar: 1-bares.pdf: " + calls("fchmod") + "\n");
+        QCOMPARE(errors("off"), QString());
     }
 
     void tellsWhatTheKernelLacks_data()
