@@ -115,7 +115,7 @@ void OutputFile::create(const std::string& folder, unsigned mode)
 
 void OutputFile::createAt(const std::string& name, unsigned mode)
 {
-    m_fd = ::open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    m_fd = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
     if (m_fd >= 0)
         m_temporary = name;
 }

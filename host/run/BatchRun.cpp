@@ -136,6 +136,8 @@ void BatchRun::allowJobs()
         if (!m_options.dryRun)
             reach.addFolderToWrite(SafeOutput::folderOf(job.target));
     }
+    if (m_options.rewrite) // to compare the result
+        reach.readWritten();
     m_cell.allow(reach);
 }
 

@@ -138,6 +138,30 @@ private slots:
         QCOMPARE(fs::exists("written"), name.contains("writes"));
     }
 
+    /// A result of its own is written into a folder, but nothing else that is there is read, nor is more than
+    /// that folder written.
+    void reachesNothingBesideAResult_data()
+    {
+        const Rows<QString, QString> row; // the document, and its result
+        row("reads", "1-reads-key.pdf", "result.pdf");
+        row("writes", "1-writes-outside.pdf", "not/there/yet/result.pdf");
+    }
+
+    void reachesNothingBesideAResult()
+    {
+        const auto [document, result] = Rows<QString, QString>::current();
+        m_folder->put(document.toStdString(), PdfBuilder::simple());
+        const auto errors = [&, document = document, result = result](const QString& sandbox) {
+            return QString(
+                Program(Program::Nothing, m_program,
+                        {"run", "--page-mode", "bookmarks", "--sandbox", sandbox, "-o", result, document})
+                    .err);
+        };
+        QCOMPARE(errors("require"), "failed: " + document + ": " + denied + "\n");
+        QVERIFY(!fs::exists("written"));
+        QCOMPARE(errors("off"), QString());
+    }
+
     void changesNoModeWhereNothingIsWritten()
     {
         m_folder->put("1-bares.pdf", PdfBuilder::simple());
@@ -290,11 +314,11 @@ private:
         rules.allow(".ssh/id", Landlock::Access::Read);
         rules.allow("not there", Landlock::Access::Read);
         prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
-        return rules.enter() && opens("in/file", O_RDWR | O_TRUNC) && opens("in/new", O_WRONLY | O_CREAT) &&
-               opens(".ssh/id", O_RDONLY) && !opens(".ssh/id", O_RDWR) &&
-               !opens(".ssh/id2", O_RDWR | O_CREAT) && !opens("/proc/self/status", O_RDONLY) &&
-               !opens(".ssh", O_RDONLY) && rename("in/new", "in/newer") == 0 &&
-               rename("in/newer", "newer") != 0;
+        return rules.enter() && opens("in/file", O_WRONLY | O_TRUNC) && !opens("in/file", O_RDONLY) &&
+               opens("in/new", O_WRONLY | O_CREAT) && opens(".ssh/id", O_RDONLY) &&
+               !opens(".ssh/id", O_RDWR) && !opens(".ssh/id2", O_RDWR | O_CREAT) &&
+               !opens("/proc/self/status", O_RDONLY) && !opens(".ssh", O_RDONLY) &&
+               rename("in/new", "in/newer") == 0 && rename("in/newer", "newer") != 0;
     }
 
     std::optional<WorkFolder> m_folder;
