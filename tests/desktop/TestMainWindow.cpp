@@ -246,7 +246,7 @@ private slots:
         m_fake->plays("undo",
                       Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::result(0, "undone") + Fake::end());
         const auto buttonFor = [this](int row) {
-            QTest::keyClick(m_window.get(), Qt::Key_H, Qt::ControlModifier);
+            action("Earlier Runs…")->trigger();
             auto* table = find<HistoryDialog>("Earlier Runs")->findChild<QTableView*>();
             const bool isNewest = table->currentIndex().row() == 0;
             table->setCurrentIndex(table->model()->index(row, 0));
