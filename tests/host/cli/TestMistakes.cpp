@@ -80,6 +80,7 @@ private slots:
         row("run --in-place -n --like folder a.pdf", "folder: it is a folder; one document is wanted");
         row("run --in-place -n --view {\"pageMode\":null} a.pdf", "--view takes the name of a file");
         row("run --in-place -n --like no.pdf a.pdf", "no.pdf: no such file");
+        row("run --in-place -n --like round.pdf a.pdf", "round.pdf: too many levels of symbolic links");
         row("run --in-place -n --like manul.pdf a.pdf", "did you mean \"manual.pdf\"?");
         row("run --in-place -n --page-mode none a.pdf a.pdf", "a.pdf is named twice");
         row("run --bookmarks -o x a.pdf", "did you mean \"--page-mode bookmarks\"?");
@@ -121,6 +122,7 @@ private slots:
         WorkFolder::put("manual.pdf", PdfBuilder::simple());
         WorkFolder::put("folder/a.pdf", PdfBuilder::simple());
         WorkFolder::put("list.txt", "a.pdf\n");
+        QVERIFY(QFile::link("round.pdf", "round.pdf"));
         WorkFolder::put("missing.json", R"({"titleIfMissing":true})");
         WorkFolder::put("named.json", R"({"titleFromFileName":true})");
         QVERIFY(QFile::copy(TEST_DATA_DIR "/manuals.xqq", TemporaryHome::actionList("manuals.xqq")));
