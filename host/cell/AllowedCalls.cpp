@@ -37,7 +37,7 @@ Group ofSanitizers()
             {{SCMP_SYS(pipe)}, {SCMP_SYS(pipe2)}, {SCMP_SYS(sigaltstack)}, {SCMP_SYS(rt_sigaction)},
              {SCMP_SYS(sched_yield)}, {SCMP_SYS(getuid)}, {SCMP_SYS(uname)}, {SCMP_SYS(prlimit64)}, {SCMP_SYS(prctl)},
              {SCMP_SYS(dup)}, {SCMP_SYS(ioctl), {equals(1, TCGETS)}},
-             // which they open without a mode, and so with any
+             // with no mode, and so with any
              {SCMP_SYS(open)}, {SCMP_SYS(openat)}}};
 }
 // clang-format on
@@ -58,7 +58,8 @@ std::vector<Group> toRead(pid_t self)
           {SCMP_SYS(mprotect), {lacks(protection, PROT_EXEC)}}, {SCMP_SYS(mremap)}, {SCMP_SYS(munmap)},
           {SCMP_SYS(madvise)}}},
         {"finding and reading documents; what may be opened is for the kernel's other lock",
-         {{SCMP_SYS(open), {lacks(2, rightsOfOwner)}}, {SCMP_SYS(openat), {lacks(3, rightsOfOwner)}},
+         {{SCMP_SYS(open), {lacks(1, O_ACCMODE | O_CREAT | O_TRUNC)}},
+          {SCMP_SYS(openat), {lacks(2, O_ACCMODE | O_CREAT | O_TRUNC)}},
           {SCMP_SYS(close)}, {SCMP_SYS(read)}, {SCMP_SYS(pread64)}, {SCMP_SYS(lseek)}, {SCMP_SYS(_llseek)},
           {SCMP_SYS(stat)}, {SCMP_SYS(lstat)}, {SCMP_SYS(fstat)}, {SCMP_SYS(newfstatat)}, {SCMP_SYS(stat64)},
           {SCMP_SYS(lstat64)}, {SCMP_SYS(fstat64)}, {SCMP_SYS(fstatat64)}, {SCMP_SYS(statx)}, {SCMP_SYS(readlink)},
@@ -81,8 +82,11 @@ std::vector<Group> toRead(pid_t self)
 std::vector<Group> toWrite()
 {
     return {
-        {"writing results, and the reports of runs in place",
-         {{SCMP_SYS(pwrite64)}, {SCMP_SYS(copy_file_range)}, {SCMP_SYS(ioctl), {equals(1, FICLONE)}},
+        {"writing results, and the reports of runs in place; before Linux 6.2 the other lock lets files be emptied"
+         " that may only be read",
+         {{SCMP_SYS(open), {lacks(1, O_TRUNC), lacks(2, rightsOfOwner)}},
+          {SCMP_SYS(openat), {lacks(2, O_TRUNC), lacks(3, rightsOfOwner)}},
+          {SCMP_SYS(pwrite64)}, {SCMP_SYS(copy_file_range)}, {SCMP_SYS(ioctl), {equals(1, FICLONE)}},
           {SCMP_SYS(ftruncate)}, {SCMP_SYS(ftruncate64)}, {SCMP_SYS(rename)}, {SCMP_SYS(renameat)},
           {SCMP_SYS(renameat2)}, {SCMP_SYS(unlink)}, {SCMP_SYS(unlinkat)}, {SCMP_SYS(mkdir)}, {SCMP_SYS(mkdirat)}}},
         {"giving a result, by its descriptor, what the document has besides its content",

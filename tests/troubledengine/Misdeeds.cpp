@@ -107,6 +107,12 @@ bool gives(const char* document, mode_t mode)
     return fchmod(file, mode) == 0 && fchmod(file, 0644) == 0;
 }
 
+/// Empties a document that it may only read.
+bool empties()
+{
+    return open(home("1-empties.pdf").c_str(), O_RDONLY | O_TRUNC) >= 0;
+}
+
 /// All who start it do so as its owner.
 bool lends()
 {
@@ -149,7 +155,7 @@ const Misdeed all[] = {
     {L"signals", signals},     {L"spies", spies},
     {L"shares", shares},       {L"lends", lends},
     {L"bares", bares},         {L"grants", grants},
-    {L"scribbles", scribbles},
+    {L"scribbles", scribbles}, {L"empties", empties},
 };
 
 } // namespace
