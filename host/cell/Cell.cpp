@@ -153,6 +153,7 @@ void Cell::enter(const std::vector<int>& descriptors, callfilter::Outside outsid
     if (m_landlock)
         require(m_landlock->enter());
     closeAllBut(descriptors);
+    processlimits::forgetEnvironment();
     if (m_state.limitsCalls())
         require(callfilter::enter(outside, m_reach.isWritten() ? allowedcalls::toWrite()
                                                                : std::vector<allowedcalls::Group>()));

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <cstring>
 
 namespace host::processlimits {
 
@@ -64,6 +65,13 @@ rlim_t mappedNow()
 bool giveUpPrivileges()
 {
     return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && giveUpCapabilities();
+}
+
+void forgetEnvironment()
+{
+    for (char** each = environ; each != nullptr && *each != nullptr; ++each)
+        explicit_bzero(*each, std::strlen(*each));
+    clearenv();
 }
 
 void limitMemory(int mebibytes)

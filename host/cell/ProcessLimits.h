@@ -7,6 +7,9 @@ namespace host::processlimits {
 /// \returns false with errno set.
 bool giveUpPrivileges();
 
+/// Its environment, in which there may be secrets.
+void forgetEnvironment();
+
 /// More memory than that, which this process allocates. What the kernel does not count as such (memory that is
 /// taken as a stack) is within that as well and some more, together with what the process has mapped by now:
 /// whatever it maps later is to be small. Sanitizers need memory without bound, and get it.

@@ -60,6 +60,8 @@ Failure describeEnd(int status, std::optional<int> outsideCall)
 {
     if (outsideCall && WIFEXITED(status) && WEXITSTATUS(status) == callfilter::endedStatus)
         return {ReasonCode::Hostile, "did what no document needs (" + callfilter::nameOf(*outsideCall) + ")"};
+    if (WIFSIGNALED(status) && WTERMSIG(status) == SIGSYS)
+        return {ReasonCode::Hostile, "did what no document needs (a call of another kind of machine)"};
     if (WIFSIGNALED(status))
         return {ReasonCode::Crashed,
                 "the worker process crashed on it: " + std::string(strsignal(WTERMSIG(status)))};

@@ -26,10 +26,12 @@ namespace misdeeds {
 namespace {
 
 pid_t parent = 0;
+const char* homeFolder = nullptr; ///< In the environment.
+std::string homePath;
 
 std::string home(const char* name)
 {
-    return std::string(std::getenv("HOME")) + "/" + name;
+    return homePath + "/" + name;
 }
 
 bool canRead(const std::string& path)
@@ -94,6 +96,19 @@ bool spies()
     return false;
 }
 
+bool learns()
+{
+    return homePath == homeFolder;
+}
+
+#if defined(__x86_64__)
+/// Makes a call that is numbered otherwise than those of this machine; whether the kernel has it does not matter.
+bool switches()
+{
+    return syscall(0x40000000 + SYS_getpid) != 0;
+}
+#endif
+
 /// Memory that does not count.
 bool shares()
 {
@@ -149,13 +164,25 @@ struct Misdeed
 };
 
 const Misdeed all[] = {
-    {L"reads-key", readsKey},  {L"writes-outside", writesOutside},
-    {L"connects", connects},   {L"forks", forks},
-    {L"executes", executes},   {L"traces", traces},
-    {L"signals", signals},     {L"spies", spies},
-    {L"shares", shares},       {L"lends", lends},
-    {L"bares", bares},         {L"grants", grants},
-    {L"scribbles", scribbles}, {L"empties", empties},
+    {L"reads-key", readsKey},
+    {L"writes-outside", writesOutside},
+    {L"connects", connects},
+    {L"forks", forks},
+    {L"executes", executes},
+    {L"traces", traces},
+    {L"signals", signals},
+    {L"spies", spies},
+    {L"shares", shares},
+    {L"lends", lends},
+    {L"bares", bares},
+    {L"grants", grants},
+    {L"scribbles", scribbles},
+    {L"empties", empties},
+    {L"learns", learns},
+#if defined(__x86_64__)
+    {L"switches", switches}
+#endif
+    ,
 };
 
 } // namespace
@@ -163,6 +190,8 @@ const Misdeed all[] = {
 void prepare()
 {
     parent = getppid();
+    homeFolder = std::getenv("HOME");
+    homePath = homeFolder;
 }
 
 bool allDone(const std::wstring& name)
