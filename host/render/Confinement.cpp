@@ -67,6 +67,7 @@ void enter()
     limit(RLIMIT_FSIZE, 0);
     limit(RLIMIT_NPROC, 0);
     processlimits::limitMemory(memoryMiB);
+    processlimits::forgetEnvironment();
     if (kernel.limitsFiles())
         limitFiles();
     if (kernel.limitsCalls())
