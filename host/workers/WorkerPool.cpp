@@ -56,12 +56,13 @@ void limitWorker(int memoryMiB)
     dup2(null.get(), STDERR_FILENO);
 }
 
-Failure describeEnd(int status, std::optional<int> outsideCall)
+/// \param areCallsLimited the kernel then ends a process by this signal for calls numbered as on another machine.
+Failure describeEnd(int status, std::optional<int> outsideCall, bool areCallsLimited)
 {
     if (outsideCall && WIFEXITED(status) && WEXITSTATUS(status) == callfilter::endedStatus)
         return {ReasonCode::Hostile, "did what no document needs (" + callfilter::nameOf(*outsideCall) + ")"};
-    if (WIFSIGNALED(status) && WTERMSIG(status) == SIGSYS)
-        return {ReasonCode::Hostile, "did what no document needs (a call of another kind of machine)"};
+    if (areCallsLimited && WIFSIGNALED(status) && WTERMSIG(status) == SIGSYS)
+        return {ReasonCode::Hostile, "did what no document needs (a forbidden system call)"};
     if (WIFSIGNALED(status))
         return {ReasonCode::Crashed,
                 "the worker process crashed on it: " + std::string(strsignal(WTERMSIG(status)))};
@@ -356,7 +357,7 @@ void WorkerPool::end(Process& process, const Done& done, WorkOutcome::Kind kind,
     pieceEnded(place, done,
                {kind,
                 {},
-                why ? why : describeEnd(status, (*process.slot)->outsideCall()),
+                why ? why : describeEnd(status, (*process.slot)->outsideCall(), m_cell.state().limitsCalls()),
                 told == place ? (*process.slot)->noted() : std::string()});
     process.slot.reset();
     if (told >= m_round.size() && status != 0 && ++m_fruitless >= mostFruitless)

@@ -111,7 +111,7 @@ private slots:
         row("scribbles", denied);
         row("learns", denied);
 #if defined(__x86_64__)
-        row("switches", calls("a call of another kind of machine"));
+        row("switches", calls("a forbidden system call"));
 #endif
         row("empties", sanitized ? denied : calls("openat"));
     }
