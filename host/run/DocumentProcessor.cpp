@@ -339,13 +339,14 @@ DocumentResult DocumentProcessor::notAppended(int code)
     return DocumentResult::failed(whyNotAppended(code));
 }
 
-/// A document that has gone, or is another one (which may be out of this process's reach), was changed; what
-/// else errno tells kept it from being looked at.
+/// A document that has gone, or is another one, was changed; what else errno tells kept it from being looked at.
+/// Another one may be out of this process's reach: in place it is left as it is, else a new worker reads it.
 DocumentResult DocumentProcessor::notAsRead(const DocumentJob& job) const
 {
     const int problem = errno;
     struct stat now;
-    const bool isOther = stat(job.source.c_str(), &now) == 0 && !isSameState(now, m_original);
+    const bool isOther =
+        m_options.inPlace && stat(job.source.c_str(), &now) == 0 && !isSameState(now, m_original);
     const bool isChanged = isOther || problem == 0 || problem == ENOENT || problem == ENOTDIR;
     return DocumentResult::failed(isChanged ? Failure::ofLibrary(int(engine::ErrorCode::SourceChanged))
                                             : Failure::ofSystem(problem, ReasonCode::ReadFailed));
