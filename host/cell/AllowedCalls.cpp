@@ -1,6 +1,6 @@
 #include "AllowedCalls.h"
 
-#include "Sanitized.h"
+#include "ProcessLimits.h"
 
 #include <fcntl.h>
 #include <linux/fs.h>

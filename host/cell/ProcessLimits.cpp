@@ -1,6 +1,5 @@
 #include "ProcessLimits.h"
 
-#include "Sanitized.h"
 #include "host/files/FileDescriptor.h"
 
 #include <fcntl.h>

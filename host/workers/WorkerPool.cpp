@@ -5,7 +5,6 @@
 
 #include "host/cell/Cell.h"
 #include "host/cell/ProcessLimits.h"
-#include "host/cell/Sanitized.h"
 #include "host/files/FileDescriptor.h"
 
 #include <fcntl.h>

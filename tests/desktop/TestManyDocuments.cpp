@@ -1,4 +1,4 @@
-#include "host/cell/Sanitized.h"
+#include "host/cell/ProcessLimits.h"
 #include "host/desktop/workbench/Workbench.h"
 #include "support/program/FakeQuintar.h"
 

@@ -1,6 +1,6 @@
 // Documents that take their readers over, and what comes of it.
 #include "host/cell/Cell.h"
-#include "host/cell/Sanitized.h"
+#include "host/cell/ProcessLimits.h"
 #include "support/Rows.h"
 #include "support/documents/PdfBuilder.h"
 #include "support/documents/SpecialDocuments.h"

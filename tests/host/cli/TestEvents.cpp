@@ -1,5 +1,5 @@
 // What other programs see of a run that they have started, and how they steer it.
-#include "host/cell/Sanitized.h"
+#include "host/cell/ProcessLimits.h"
 #include "host/failures/Failure.h"
 #include "support/Rows.h"
 #include "support/documents/SpecialDocuments.h"

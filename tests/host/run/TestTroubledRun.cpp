@@ -1,6 +1,6 @@
 // Runs that meet full disks, other programs, signals, and documents that crash, hang or eat memory; and what
 // their reports are to the next run.
-#include "host/cell/Sanitized.h"
+#include "host/cell/ProcessLimits.h"
 #include "support/Rows.h"
 #include "support/program/BatchFixture.h"
 

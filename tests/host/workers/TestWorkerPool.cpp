@@ -1,5 +1,5 @@
 #include "host/cell/Cell.h"
-#include "host/cell/Sanitized.h"
+#include "host/cell/ProcessLimits.h"
 #include "host/workers/RunControl.h"
 #include "host/workers/SharedMemory.h"
 #include "host/workers/WorkerPool.h"
