@@ -3,9 +3,10 @@
 #include "host/desktop/look/PlainLabel.h"
 
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <unistd.h>
 
 namespace host::desktop {
 
@@ -21,7 +22,7 @@ int replaced(Workbench& workbench)
         if (record == nullptr || !record->check || record->check->isTrouble())
             continue;
         const QByteArray result = workbench.runOrder().resultOf(record->path, base);
-        count += result != record->path && QFile::exists(QFile::decodeName(result)) ? 1 : 0;
+        count += result != record->path && access(result.constData(), F_OK) == 0 ? 1 : 0;
     }
     return count;
 }
