@@ -251,8 +251,31 @@ private slots:
         QTest::keyClick(m_window.get(), Qt::Key_F6);
         for (QWidget* each : m_window->findChildren<QWidget*>())
             if (each->isVisible() && (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus &&
-                !each->inherits("QScrollArea") && !each->inherits("QMenuBar"))
+                !each->inherits("QMenuBar"))
                 QVERIFY2(!nameOf(each).isEmpty(), each->metaObject()->className());
+    }
+
+    void tellsScreenReadersWhatStandsThere()
+    {
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") +
+                                  Fake::document(0).replace("\"bookmarks\":3", "\"bookmarks\":0") +
+                                  Fake::end());
+        read();
+        choose("Panel", "Bookmarks");
+        QTRY_COMPARE(state(), State::Ready);
+        for (QComboBox* each :
+             m_window->findChildren<QComboBox*>()) // whose name is their value, for Qt on X11
+            QVERIFY2(!QAccessible::queryAccessibleInterface(each)->relations(QAccessible::Label).isEmpty(),
+                     qPrintable(each->objectName()));
+        for (const char* name : {"About the current document", "Status"})
+            QCOMPARE(find<QLabel>(name)->accessibleDescription(), find<QLabel>(name)->text());
+        QStringList stops;
+        for (QWidget* each = find<QComboBox>("Change for"); stops.value(0) != "Write to";
+             each = each->nextInFocusChain())
+            if (each->isVisible() && (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus)
+                stops.prepend(nameOf(each));
+        const int shown = stops.indexOf(QRegularExpression("^Show them: .*"));
+        QVERIFY2(shown > 0 && stops.indexOf("Panel") > shown, qPrintable(stops.join("; ")));
     }
 
     void choosesSortsAndMovesColumnsByKeys()

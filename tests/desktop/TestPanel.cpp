@@ -122,10 +122,14 @@ private slots:
         folder->selectAll();
         QTest::keyClicks(folder, "out");
         QVERIFY(find<QLabel>("destinationNote")->text().contains("slash"));
+        emit bench().failed("quintar: no such thing");
+        QVERIFY(find<QLabel>("status")->text().contains("no such thing"));
         folder->selectAll();
         QTest::keyClicks(folder, "~/out");
         QTRY_COMPARE(state(), State::Ready);
         QVERIFY(m_fake->starts().last().contains("--output " + QDir::homePath() + "/out "));
+        QVERIFY(
+            find<QLabel>("status")->text().contains("1 will change")); // the trouble was with another folder
     }
 
     void showsTheColumnOfWhatIsChanged()
