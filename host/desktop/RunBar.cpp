@@ -209,8 +209,8 @@ QString RunBar::countsInWords() const
     case State::Reading:
         return tr("Reading… %Ln document(s) so far", "", m_workbench.table().count());
     case State::Checking: {
-        const QString problem = m_workbench.destination().problem();
-        return !problem.isEmpty() ? problem : tr("Finding out what would change… %1").arg(done);
+        return m_workbench.problem().isEmpty() ? tr("Finding out what would change… %1").arg(done)
+                                               : m_workbench.problem();
     }
     case State::Ready:
         return plannedInWords(counts);

@@ -121,18 +121,21 @@ private slots:
         order.draft.set(ViewEntry::Title, std::nullopt);
         order.destination = {Destination::Kind::Folder, "/out", {}};
         QCOMPARE(order.arguments("/d"),
-                 QStringList({"--page-mode", "use-outlines", "--output", "/out", "--base", "/d"}));
+                 QStringList({"--page-mode", "use-outlines", "--output", "/out/", "--base", "/d"}));
         QCOMPARE(order.resultOf("/d/e/b.pdf", "/d/"), QByteArray("/out/e/b.pdf"));
         order.destination = {Destination::Kind::Suffix, {}, "new"};
         QCOMPARE(order.resultOf("/d/e/b.PDF", "/d/"), QByteArray("/d/e/b-new.PDF"));
         QCOMPARE(order.resultOf("/d.e/b", "/d/"), QByteArray("/d.e/b-new"));
         order.destination = {Destination::Kind::Folder, "/out", {}};
+        for (const char* suffix : {"", "a/b", "-a", "a.pdf"})
+            QVERIFY(!Destination({Destination::Kind::Suffix, {}, suffix}).problem().isEmpty());
         DocumentTable table;
-        table.append({"/d/it's.pdf", "/d/e/b.pdf"});
+        table.append({"/d/it's.pdf", "/d/e/b.pdf", "/d/\xff/a.pdf"});
+        QCOMPARE(RunOrder::commonFolder(table, {3}), QString("/d/"));
         QCOMPARE(
             order.commandLine(table, {1, 2}),
             QString(
-                R"(quintar run --page-mode use-outlines --output /out --base /d/ '/d/it'\''s.pdf' /d/e/b.pdf)"));
+                R"(quintar run --page-mode use-outlines --output /out/ --base /d/ '/d/it'\''s.pdf' /d/e/b.pdf)"));
     }
 
     /// By a shell, over documents whose names are printed one a line.

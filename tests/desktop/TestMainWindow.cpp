@@ -315,6 +315,8 @@ private slots:
 
     void writesToAFolder()
     {
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::found(1, "/d/e/b.pdf") +
+                                  Fake::document(0) + Fake::document(1) + Fake::end());
         read();
         QVERIFY(!m_window->findChild<QAbstractButton*>("keepAllButton")->isEnabled());
         QVERIFY(!action("Keep All")->isEnabled());
@@ -324,7 +326,7 @@ private slots:
         QVERIFY(qApp->activeModalWidget() == nullptr);
         dialogs::setNextAnswer({"/out"});
         click("Choose the folder for the results");
-        QTRY_VERIFY(m_fake->starts().last().contains("--output /out --base /d/"));
+        QTRY_VERIFY(m_fake->starts().last().contains("--output /out/ --base /d/ "));
         QTRY_COMPARE(state(), State::Ready);
         QVERIFY(!button("Show Results")->isVisible());
         m_window->workbench().start();
@@ -337,6 +339,13 @@ private slots:
         click("Show Results");
         QDesktopServices::unsetUrlHandler("file");
         QCOMPARE(m_opened, QUrl("file:///out"));
+        click("Try Failed Again");
+        QTRY_VERIFY(m_fake->starts().last().contains("--base /d/ ")); // not the folder of what failed
+        QTRY_COMPARE(state(), State::Results);
+        m_window->workbench().setDestination({Destination::Kind::Folder, "/d/", {}});
+        QTRY_VERIFY(status().contains("lie in this folder"));
+        m_window->workbench().setDestination({Destination::Kind::Folder, "/out", {}});
+        QTRY_COMPARE(state(), State::Ready);
     }
 
     void asksBeforeItClosesARunAndKeepsTheRest()

@@ -118,7 +118,7 @@ private slots:
         QTest::keyClick(m_window.get(), Qt::Key_Return, Qt::ControlModifier);
         QVERIFY(m_window->findChild<StartQuestion*>() == nullptr);
         QTRY_COMPARE(state(), State::Ready);
-        QVERIFY(m_fake->starts().last().contains("--output /outY "));
+        QVERIFY(m_fake->starts().last().contains("--output /outY/ "));
         folder->selectAll();
         QTest::keyClicks(folder, "out");
         QVERIFY(find<QLabel>("destinationNote")->text().contains("slash"));
@@ -127,7 +127,7 @@ private slots:
         folder->selectAll();
         QTest::keyClicks(folder, "~/out");
         QTRY_COMPARE(state(), State::Ready);
-        QVERIFY(m_fake->starts().last().contains("--output " + QDir::homePath() + "/out "));
+        QVERIFY(m_fake->starts().last().contains("--output " + QDir::homePath() + "/out/ "));
         QVERIFY(
             find<QLabel>("status")->text().contains("1 will change")); // the trouble was with another folder
     }

@@ -5,6 +5,7 @@
 #include "host/files/Paths.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -51,6 +52,12 @@ void name(const QVector<QByteArray>& paths, bool isInputFree, QStringList& words
     lines += below + QStringList{"END"};
 }
 
+/// \param folder ends in a slash, as what is returned does.
+QByteArray above(const QByteArray& folder)
+{
+    return folder.left(folder.lastIndexOf('/', -2) + 1);
+}
+
 bool isTyped(ViewEntry entry, const std::optional<ViewValue>& before, const std::optional<ViewValue>& after)
 {
     using viewentries::Kind;
@@ -90,6 +97,16 @@ QStringList RunOrder::arguments(const QString& base) const
     return draft.arguments() + destination.arguments(base);
 }
 
+QString RunOrder::problem(const QString& base) const
+{
+    const bool isSource = destination.kind == Destination::Kind::Folder &&
+                          QDir::cleanPath(destination.folderPath()) == QDir::cleanPath(base);
+    return isSource ? QCoreApplication::translate(
+                          "RunOrder", "The documents themselves lie in this folder. Choose another one, or "
+                                      "write to the documents themselves.")
+                    : destination.problem();
+}
+
 QString RunOrder::commonFolder(const DocumentTable& table, const DocumentTable::Ids& ids)
 {
     QByteArray common;
@@ -103,8 +120,10 @@ QString RunOrder::commonFolder(const DocumentTable& table, const DocumentTable::
             common = folder;
         isFirst = false;
         while (!common.isEmpty() && !folder.startsWith(common))
-            common = common.left(common.lastIndexOf('/', -2) + 1);
+            common = above(common);
     }
+    while (QFile::encodeName(QFile::decodeName(common)) != common) // no option could hold it
+        common = above(common);
     return QFile::decodeName(common.isEmpty() ? QByteArray("/") : common);
 }
 

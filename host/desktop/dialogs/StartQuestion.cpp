@@ -15,7 +15,7 @@ namespace {
 /// How many of the results are there already.
 int replaced(Workbench& workbench)
 {
-    const QString base = RunOrder::commonFolder(workbench.table(), workbench.targets());
+    const QString base = workbench.base();
     int count = 0;
     for (const DocumentId id : workbench.targets()) {
         const DocumentRecord* record = workbench.table().find(id);

@@ -243,6 +243,7 @@ void Workbench::edited()
         return;
     if (state == State::Checking)
         dropTask();
+    m_problem.clear();
     if (m_runOrder.draft.isEmpty() || m_targets.isEmpty()) {
         m_checkSoon.stop();
         m_machine.handle(Step::Cleared);
@@ -282,7 +283,9 @@ void Workbench::check()
 {
     if (m_machine.state() != State::Checking)
         return;
-    if (const QString problem = m_runOrder.destination.problem(); !problem.isEmpty()) {
+    const QString folder = base();
+    m_problem = m_runOrder.problem(folder);
+    if (!m_problem.isEmpty()) {
         emit countsChanged();
         return;
     }
@@ -295,7 +298,7 @@ void Workbench::check()
     std::stable_partition(ids.begin(), ids.end(), [&first](DocumentId id) { return first.contains(id); });
     auto* trial = new Running(Running::Mode::Try, m_runOrder, {}, m_table, means(), this);
     begin(trial, &Workbench::endChecking);
-    trial->start(ids);
+    trial->start(ids, folder);
 }
 
 void Workbench::begin(DocumentTask* task, void (Workbench::*end)(const ChildRun::Ending&))
