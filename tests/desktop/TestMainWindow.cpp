@@ -340,7 +340,8 @@ private slots:
         QDesktopServices::unsetUrlHandler("file");
         QCOMPARE(m_opened, QUrl("file:///out"));
         click("Try Failed Again");
-        QTRY_VERIFY(m_fake->starts().last().contains("--base /d/ ")); // not the folder of what failed
+        QTRY_COMPARE(m_fake->names(), QList<QByteArray>({"/d/e/b.pdf"}));
+        QVERIFY(m_fake->starts().last().contains("--base /d/ ")); // not the folder of what failed
         QTRY_COMPARE(state(), State::Results);
         m_window->workbench().setDestination({Destination::Kind::Folder, "/d/", {}});
         QTRY_VERIFY(status().contains("lie in this folder"));
