@@ -75,6 +75,16 @@ private slots:
         QCOMPARE(namesOf(order), QStringList({"manual-10.pdf"}));
         QCOMPARE(order.selected(), Ids({1}));
         QCOMPARE(order.current(), 1);
+        filter.setSearch("9");
+        order.setFilter(filter);
+        QCOMPARE(order.selected(), Ids());
+        order.setFilter({});
+        QCOMPARE(order.selected(), Ids({1, 4}));
+        QCOMPARE(order.current(), 1);
+        order.setFilter(filter);
+        order.select({3}, 3); // as a person does, who means no others
+        order.setFilter({});
+        QCOMPARE(order.selected(), Ids({3}));
     }
 
     void leavesNewRowsAtTheEndUntilItIsQuiet()
