@@ -78,6 +78,21 @@ private slots:
         QCOMPARE(sessions.entryList({"*.session"}).size(), 2);
     }
 
+    void findsWhatWasPreparedBehindAnEmptyWindow()
+    {
+        read();
+        {
+            const std::unique_ptr<MainWindow> other = openedWindow(*m_folder);
+            other->begin({});
+            m_window.reset();
+            QTest::qWait(20); // times of files
+            other->close();
+        }
+        QCOMPARE(QDir(m_folder->filePath("sessions")).entryList({"*.session"}).size(), 2);
+        open();
+        QTRY_COMPARE(m_window->workbench().table().count(), 2);
+    }
+
     void tellsOnceThatItCannotKeepTheSession()
     {
         m_window.reset();
