@@ -290,6 +290,22 @@ private slots:
         QCOMPARE(m_bench->undoableRun(), 0);
     }
 
+    void tellsWhatRunsOfAWindowThatCrashedWere()
+    {
+        const auto write = [this](const char* name, const QByteArray& line) {
+            QFile report(m_reports->filePath(name));
+            QVERIFY(report.open(QIODevice::WriteOnly) && report.write(line) == line.size() &&
+                    report.flush() &&
+                    report.setFileTime(QDateTime::fromSecsSinceEpoch(1), QFileDevice::FileModificationTime));
+        };
+        write("2026-11-24T121417.277Z.jsonl", R"({"change":{"pageMode":"UseOutlines"},"inPlace":true})");
+        write("2026-11-24T121418.277Z.jsonl", R"({"change":null,"inPlace":false})");
+        const RunHistory history(m_reports->path());
+        QCOMPARE(history.newestUndoable(), 1); // what was written elsewhere needs no undoing
+        QCOMPARE(history.runs().at(1).what, QString("Broken off: Panel: Bookmarks"));
+        QVERIFY(!history.canUndo(0) && history.runs().at(0).what.contains("broken off"));
+    }
+
     void forgetsAnEarlierCheckAtEachEdit()
     {
         read();
