@@ -1,5 +1,6 @@
 #include "host/desktop/documents/EditHistory.h"
 #include "host/desktop/rows/DocumentOrder.h"
+#include "host/desktop/texts/ReasonTexts.h"
 #include "host/desktop/rows/RowTexts.h"
 
 #include <QJsonDocument>
@@ -149,6 +150,8 @@ private slots:
         QCOMPARE(rowtexts::spoken(record, Column::Name), QString("a.pdf, will change"));
         record.isAside = true;
         QCOMPARE(rowtexts::cell(record, Column::Panel).after, QString());
+        QVERIFY(reasontexts::textOf("internal", "no such thing").endsWith("(No such thing)"));
+        QVERIFY(!reasontexts::textOf("damaged", "no such thing").contains("such"));
     }
 
     void leavesOutWhatItDoesNotUnderstand()
