@@ -1,7 +1,7 @@
 #include "host/desktop/documents/EditHistory.h"
 #include "host/desktop/rows/DocumentOrder.h"
-#include "host/desktop/texts/ReasonTexts.h"
 #include "host/desktop/rows/RowTexts.h"
+#include "host/desktop/texts/ReasonTexts.h"
 
 #include <QJsonDocument>
 #include <QtTest>
