@@ -25,7 +25,7 @@ QString Destination::problem() const
         return QCoreApplication::translate("Destination", "What is added to the names cannot hold a slash.");
     if (kind == Kind::Suffix && (suffix.startsWith('-') || suffix.endsWith(".pdf", Qt::CaseInsensitive)))
         return QCoreApplication::translate("Destination",
-                                           "The hyphen and the .pdf are added without being said.");
+                                           "Leave out the hyphen and .pdf: they are added anyway.");
     return {};
 }
 

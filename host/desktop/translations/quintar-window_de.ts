@@ -215,6 +215,10 @@
         <source>The folder has to begin with a slash or with ~/.</source>
         <translation>Der Ordner muss mit einem Schrägstrich oder mit ~/ beginnen.</translation>
     </message>
+    <message>
+        <source>Leave out the hyphen and .pdf: they are added anyway.</source>
+        <translation>Bindestrich und .pdf weglassen: Sie werden ohnehin ergänzt.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -643,6 +647,10 @@
     <message>
         <source>Write to</source>
         <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>The documents themselves lie in this folder. Choose another one, or write to the documents themselves.</source>
+        <translation>Die Dokumente selbst liegen in diesem Ordner. Wählen Sie einen anderen, oder schreiben Sie in die Dokumente selbst.</translation>
     </message>
 </context>
 <context>
@@ -1353,10 +1361,6 @@
         <translation>Nich&amp;ts ändern</translation>
     </message>
     <message>
-        <source>&amp;Write to</source>
-        <translation>Schre&amp;iben</translation>
-    </message>
-    <message>
         <source>Cha&amp;nge for</source>
         <translation>&amp;Für</translation>
     </message>
@@ -1611,6 +1615,10 @@
     <message>
         <source>Choose…</source>
         <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>&amp;Write to</source>
+        <translation>Schre&amp;iben</translation>
     </message>
 </context>
 <context>
@@ -2259,6 +2267,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>nothing to undo</source>
         <translation>nichts rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>Broken off: %1</source>
+        <translation>Abgerissen: %1</translation>
     </message>
 </context>
 <context>

@@ -215,6 +215,10 @@
         <source>The folder has to begin with a slash or with ~/.</source>
         <translation>La carpeta debe empezar por una barra o por ~/.</translation>
     </message>
+    <message>
+        <source>Leave out the hyphen and .pdf: they are added anyway.</source>
+        <translation>Omita el guion y .pdf: se añaden de todos modos.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -643,6 +647,10 @@
     <message>
         <source>Write to</source>
         <translation>Escribir</translation>
+    </message>
+    <message>
+        <source>The documents themselves lie in this folder. Choose another one, or write to the documents themselves.</source>
+        <translation>Los propios documentos están en esta carpeta. Elija otra o escriba en los propios documentos.</translation>
     </message>
 </context>
 <context>
@@ -1353,10 +1361,6 @@
         <translation>Mantener &amp;todo</translation>
     </message>
     <message>
-        <source>&amp;Write to</source>
-        <translation>Escri&amp;bir</translation>
-    </message>
-    <message>
         <source>Cha&amp;nge for</source>
         <translation>&amp;Para</translation>
     </message>
@@ -1611,6 +1615,10 @@
     <message>
         <source>Choose…</source>
         <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>&amp;Write to</source>
+        <translation>Escri&amp;bir</translation>
     </message>
 </context>
 <context>
@@ -2259,6 +2267,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>nothing to undo</source>
         <translation>nada que deshacer</translation>
+    </message>
+    <message>
+        <source>Broken off: %1</source>
+        <translation>Interrumpida: %1</translation>
     </message>
 </context>
 <context>

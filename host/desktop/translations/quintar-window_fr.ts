@@ -215,6 +215,10 @@
         <source>The folder has to begin with a slash or with ~/.</source>
         <translation>Le dossier doit commencer par une barre oblique ou par ~/.</translation>
     </message>
+    <message>
+        <source>Leave out the hyphen and .pdf: they are added anyway.</source>
+        <translation>Omettez le trait d’union et .pdf : ils sont ajoutés de toute façon.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -643,6 +647,10 @@
     <message>
         <source>Write to</source>
         <translation>Écrire</translation>
+    </message>
+    <message>
+        <source>The documents themselves lie in this folder. Choose another one, or write to the documents themselves.</source>
+        <translation>Les documents eux-mêmes se trouvent dans ce dossier. Choisissez-en un autre, ou écrivez dans les documents eux-mêmes.</translation>
     </message>
 </context>
 <context>
@@ -1353,10 +1361,6 @@
         <translation>Tout conser&amp;ver</translation>
     </message>
     <message>
-        <source>&amp;Write to</source>
-        <translation>&amp;Écrire</translation>
-    </message>
-    <message>
         <source>Cha&amp;nge for</source>
         <translation>P&amp;our</translation>
     </message>
@@ -1611,6 +1615,10 @@
     <message>
         <source>Choose…</source>
         <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>&amp;Write to</source>
+        <translation>&amp;Écrire</translation>
     </message>
 </context>
 <context>
@@ -2259,6 +2267,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>nothing to undo</source>
         <translation>rien à annuler</translation>
+    </message>
+    <message>
+        <source>Broken off: %1</source>
+        <translation>Interrompu : %1</translation>
     </message>
 </context>
 <context>

@@ -211,6 +211,10 @@
         <source>The folder has to begin with a slash or with ~/.</source>
         <translation>フォルダーはスラッシュまたは ~/ で始めてください。</translation>
     </message>
+    <message>
+        <source>Leave out the hyphen and .pdf: they are added anyway.</source>
+        <translation>ハイフンと .pdf は自動的に付くので、入力しないでください。</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -636,6 +640,10 @@
     <message>
         <source>Write to</source>
         <translation>書き込み先</translation>
+    </message>
+    <message>
+        <source>The documents themselves lie in this folder. Choose another one, or write to the documents themselves.</source>
+        <translation>このフォルダーには文書そのものがあります。別のフォルダーを選ぶか、文書そのものに書き込んでください。</translation>
     </message>
 </context>
 <context>
@@ -1346,10 +1354,6 @@
         <translation>すべて維持(&amp;K)</translation>
     </message>
     <message>
-        <source>&amp;Write to</source>
-        <translation>書き込み先(&amp;W)</translation>
-    </message>
-    <message>
         <source>Cha&amp;nge for</source>
         <translation>対象(&amp;B)</translation>
     </message>
@@ -1600,6 +1604,10 @@
     <message>
         <source>Choose…</source>
         <translation>選択…</translation>
+    </message>
+    <message>
+        <source>&amp;Write to</source>
+        <translation>書き込み先(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -2227,6 +2235,10 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>nothing to undo</source>
         <translation>取り消すものなし</translation>
+    </message>
+    <message>
+        <source>Broken off: %1</source>
+        <translation>途中で終わった実行: %1</translation>
     </message>
 </context>
 <context>
