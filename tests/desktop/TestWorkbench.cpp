@@ -100,6 +100,32 @@ private slots:
         QVERIFY(m_bench->table().find(1)->facts);
     }
 
+    void triesWhatWasGivenOnWhatComesLater()
+    {
+        m_fake->plays("show",
+                      Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::failed(0, "password") + Fake::end());
+        read();
+        QSignalSpy failed(m_bench.get(), &Workbench::failed);
+        for (const char* password : {"wrong", "of others"}) {
+            m_bench->givePassword(password);
+            QTRY_COMPARE(failed.size(), 1);
+            failed.clear();
+        }
+        m_fake->plays("show",
+                      Fake::start() + Fake::found(0, "/d/b.pdf") + Fake::failed(0, "password") + Fake::end());
+        const int starts = m_fake->starts().size();
+        m_bench->add({"/d/b.pdf"});
+        QTRY_COMPARE(m_fake->starts().size(), starts + 3); // without one, and with each
+        QTRY_COMPARE(state(), State::Listed);
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b.pdf"}));
+        QCOMPARE(m_fake->password(), QByteArray("of others\n"));
+        QCOMPARE(m_bench->table().find(2)->password, -1);
+        QVERIFY(failed.isEmpty()); // nobody asked
+        m_bench->readAgain({1, 2});
+        QTRY_COMPARE(m_fake->starts().size(), starts + 4);
+        QTRY_COMPARE(state(), State::Listed);
+    }
+
     /// What has no answer is not done, and the reason is told.
     void reckonsWithBadPrograms_data()
     {

@@ -340,6 +340,8 @@ void Workbench::endReading(const ChildRun::Ending& ending)
     emit progressed();
     edited();
     tellOfPassword();
+    if (ending.isComplete && !ending.wasStopped)
+        tryKnownPasswords();
 }
 
 void Workbench::endChecking(const ChildRun::Ending& ending)
@@ -357,6 +359,8 @@ void Workbench::endChecking(const ChildRun::Ending& ending)
     emit progressed();
     emit countsChanged();
     tellOfPassword();
+    if (ending.isComplete && !ending.wasStopped)
+        tryKnownPasswords();
 }
 
 Workbench::Counts Workbench::counts() const

@@ -152,6 +152,7 @@ private:
     void writeDown(const Running& running, bool isComplete);
     void follow();
     void tellOfPassword();
+    void tryKnownPasswords();
     DocumentTask::Means means() const { return {m_program, m_passwords}; }
 
     QString m_program;

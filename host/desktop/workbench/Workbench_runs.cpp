@@ -194,7 +194,7 @@ void Workbench::givePassword(const QByteArray& password)
     if (!m_machine.isEnabled(Command::Remove))
         return;
     dropTask();
-    const Ids ids = m_passwordTrial.begin(m_table, m_passwords.add(password));
+    const Ids ids = m_passwordTrial.begin(m_table, m_passwords.add(password), PasswordTrial::On::All);
     if (ids.isEmpty())
         return emit said(tr("No document of the list wants a password."));
     readAgain(ids);
@@ -206,7 +206,19 @@ void Workbench::tellOfPassword()
     if (!m_passwordTrial.isUnderWay() || m_machine.state() == State::Checking)
         return;
     const auto& [text, hasOpened] = m_passwordTrial.end(m_table);
-    hasOpened ? emit said(text) : emit failed(text);
+    if (!text.isEmpty())
+        hasOpened ? emit said(text) : emit failed(text);
+}
+
+/// What came since they were given, or has turned out to want one since, asks nobody again.
+void Workbench::tryKnownPasswords()
+{
+    if (m_passwordTrial.isUnderWay())
+        return;
+    for (int password = 0; password < m_passwords.count(); ++password)
+        if (const Ids ids = m_passwordTrial.begin(m_table, password, PasswordTrial::On::NewOnes);
+            !ids.isEmpty())
+            return readAgain(ids);
 }
 
 } // namespace host::desktop
