@@ -130,9 +130,10 @@ private slots:
     void takesWhatIsDroppedAndPasted()
     {
         QMimeData data;
-        data.setData("text/uri-list",
-                     "# from elsewhere\r\nfile:///d/b%FF%20c.pdf\r\nhttp://x/y.pdf\r\nfile://host/e\r\n");
-        QCOMPARE(droppednames::of(data), QVector<QByteArray>({"/d/b\xff c.pdf", "/e"}));
+        data.setData(
+            "text/uri-list",
+            "# from elsewhere\r\nfile:///d/b%FF%20c.pdf\r\nhttp://x/y.pdf\r\nfile://host/e\r\nfile:/f\r\n");
+        QCOMPARE(droppednames::of(data), QVector<QByteArray>({"/d/b\xff c.pdf", "/e", "/f"}));
         QDragEnterEvent enter(QPoint(5, 5), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton,
                               Qt::NoModifier);
         QApplication::sendEvent(m_window.get(), &enter);
@@ -142,7 +143,7 @@ private slots:
         QApplication::sendEvent(m_window.get(), &drop);
         QCOMPARE(drop.dropAction(), Qt::CopyAction);
         QTRY_COMPARE(state(), State::Listed);
-        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b\xff c.pdf", "/e"}));
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b\xff c.pdf", "/e", "/f"}));
 
         QApplication::clipboard()->setText("\"/p/one two.pdf\"\nnot a path\n");
         m_fake->plays("show",

@@ -64,6 +64,9 @@ private slots:
 
     void showsWhatReordersAsEscapes()
     {
+        ChangeDraft stored;
+        stored.setStored({"a\u202eb", {}, {}, {}});
+        QCOMPARE(stored.inWords(), QString("a\\u202eb"));
         read("/d/a\\u202efdp.pdf", "b\\u202e");
         QCOMPARE(bench().order().index(0, int(Column::Name)).data().toString(), QString("a\\u202efdp.pdf"));
         QCOMPARE(bench().order().index(0, int(Column::Title)).data().toString(), QString("b\\u202e"));

@@ -229,7 +229,7 @@ void ChangePanel::show()
     m_settings->setVisible(!stored);
     m_stored->setVisible(stored.has_value());
     if (stored) {
-        m_storedName->setText(stored->name);
+        m_storedName->setText(m_workbench.draft().inWords());
         m_storedLines->setText(stored->lines.join('\n'));
     }
     m_configure->setEnabled(isOpen);
