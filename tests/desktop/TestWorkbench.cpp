@@ -100,6 +100,20 @@ private slots:
         QVERIFY(m_bench->table().find(1)->facts);
     }
 
+    void believesTheNamesThatAreFound()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        // The first one is a folder by now, which has another document.
+        m_fake->plays("run", Fake::start() + Fake::found(0, "/d/a.pdf/x.pdf") + Fake::found(1, "/d/b.pdf") +
+                                 Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
+        m_bench->start();
+        QTRY_COMPARE(state(), State::Results);
+        QCOMPARE(m_bench->table().find(1)->state(), DocumentRecord::State::NotDone);
+        QCOMPARE(m_bench->table().find(2)->state(), DocumentRecord::State::Failed);
+    }
+
     void triesWhatWasGivenOnWhatComesLater()
     {
         m_fake->plays("show",
