@@ -93,7 +93,7 @@ void compare(const std::string& file, std::string_view bytes)
     const initext::Values texts = initext::parse({bytes.data(), static_cast<int>(bytes.size())});
     require(QStringList(values.keys()) == QStringList(theirs->keys()), "other keys");
     for (auto value = values.begin(); value != values.end(); ++value)
-        if (*value && !differsOnPurpose(texts[value.key()], **value))
+        if (*value && !differsOnPurpose(texts[initext::normalizedKey(value.key())], **value))
             requireSame(storedForm(**value).toHex().toStdString(),
                         theirs->value(value.key()).toHex().toStdString(),
                         "value of " + value.key().toStdString());

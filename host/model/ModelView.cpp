@@ -41,9 +41,10 @@ ViewChange fromOutcome(const std::string& file, const WorkOutcome& outcome)
 ViewChange read(const std::string& file, std::string_view password, Cell& cell, const Ask& ask)
 {
     struct stat status;
-    if (stat(file.c_str(), &status) != 0)
+    const bool isThere = stat(file.c_str(), &status) == 0;
+    if (!isThere && errno != ENOENT)
         refuse(file, Failure::ofSystem(errno, ReasonCode::ReadFailed));
-    if (S_ISDIR(status.st_mode)) // which no worker can reach
+    if (isThere && S_ISDIR(status.st_mode)) // which no worker can reach
         refuse(file, Failure{ReasonCode::NotAFile, "it is a folder; one document is wanted"});
     const PdfLibrary keptOpen; // so that the worker finds it in memory
     Reach reach;

@@ -1,3 +1,4 @@
+#include "host/desktop/dialogs/HistoryDialog.h"
 #include "host/desktop/dialogs/StartQuestion.h"
 #include "host/desktop/platform/Dialogs.h"
 #include "host/desktop/platform/DroppedNames.h"
@@ -247,6 +248,33 @@ private slots:
         click("Undo This Run…");
         QTRY_COMPARE(m_fake->starts().filter(QRegularExpression("^undo ")).size(), 1);
         QTRY_VERIFY(!m_window->workbench().machine().isWriting());
+    }
+
+    void undoesAnEarlierRun()
+    {
+        run();
+        choose("Panel", "Attachments");
+        QTRY_COMPARE(state(), State::Ready);
+        m_window->workbench().start();
+        QTRY_COMPARE(state(), State::Results);
+        const auto& runs = m_window->workbench().history().runs();
+        const QString earlier = runs.at(1).reports.value(0);
+        m_fake->plays("undo",
+                      Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::result(0, "undone") + Fake::end());
+        const auto buttonFor = [this](int row) {
+            action("Earlier Runs…")->trigger();
+            auto* table = find<HistoryDialog>("Earlier Runs")->findChild<QTableView*>();
+            const bool isNewest = table->currentIndex().row() == 0;
+            table->setCurrentIndex(table->model()->index(row, 0));
+            return isNewest ? table->window()->findChild<QPushButton*>("undoRunButton") : nullptr;
+        };
+        dialogs::setNextAnswer({"yes"});
+        QTest::mouseClick(buttonFor(1), Qt::LeftButton);
+        QTRY_VERIFY(runs.at(1).isUndone && m_window->findChild<HistoryDialog*>() == nullptr);
+        QVERIFY(!runs.at(0).isUndone);
+        const QStringList undone = m_fake->starts().filter(QRegularExpression("^undo "));
+        QVERIFY2(undone.size() == 1 && undone.first().contains(earlier), qPrintable(undone.join('\n')));
+        QVERIFY(!buttonFor(1)->isEnabled());
     }
 
     void keepsKeyboardAndNames()
