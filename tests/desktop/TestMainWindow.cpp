@@ -13,7 +13,6 @@
 #include <QDesktopServices>
 #include <QHeaderView>
 #include <QMimeData>
-#include <QSessionManager>
 #include <QTextBrowser>
 #include <QtTest>
 
@@ -60,72 +59,6 @@ private slots:
             for (const viewentries::Name& name : entry.names)
                 QVERIFY2(std::ranges::count(values, ViewValue(name.number)) == 1, name.name);
         }
-    }
-
-    void leavesASessionAloneThatItCannotRead()
-    {
-        read();
-        m_window.reset();
-        const QDir sessions(m_folder->filePath("sessions"));
-        QFile stored(sessions.filePath(sessions.entryList({"*.session"}).value(0)));
-        QVERIFY(stored.open(QIODevice::ReadWrite) && stored.resize(stored.size() - 1));
-        const QByteArray bytes = stored.readAll();
-        open();
-        QVERIFY(status().contains("left as it is"));
-        read();
-        m_window.reset();
-        QVERIFY(stored.seek(0));
-        QCOMPARE(stored.readAll(), bytes);
-        QCOMPARE(sessions.entryList({"*.session"}).size(), 2);
-    }
-
-    void findsWhatWasPreparedBehindAnEmptyWindow()
-    {
-        read();
-        {
-            const std::unique_ptr<MainWindow> other = openedWindow(*m_folder);
-            other->begin({});
-            m_window.reset();
-            QTest::qWait(20); // times of files
-            other->close();
-        }
-        QCOMPARE(QDir(m_folder->filePath("sessions")).entryList({"*.session"}).size(), 2);
-        open();
-        QTRY_COMPARE(m_window->workbench().table().count(), 2);
-    }
-
-    void tellsOnceThatItCannotKeepTheSession()
-    {
-        m_window.reset();
-        m_folder = std::make_unique<QTemporaryDir>();
-        QFile inTheWay(m_folder->filePath("sessions"));
-        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-        open();
-        read();
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("session: "));
-        QTRY_VERIFY(status().startsWith("List and change will not be there"));
-        choose("Panel", "Bookmarks");
-        m_window->workbench().start();
-        m_window.reset(); // silent by now
-    }
-
-    void keepsAllAndStopsARunBeforeALogout()
-    {
-        read();
-        choose("Panel", "Bookmarks");
-        QTRY_COMPARE(state(), State::Ready);
-        m_fake->plays("run", Fake::start() + "#hear stop\n" + Fake::changed(0) +
-                                 "{\"event\":\"end\",\"stopped\":true}\n");
-        m_window->workbench().start();
-        auto* manager = qApp->findChild<QSessionManager*>();
-        QVERIFY(manager != nullptr && !manager->allowsInteraction());
-        emit qApp->commitDataRequest(*manager);
-        QCOMPARE(state(), State::Results);
-        QCOMPARE(m_window->workbench().counts().changed, 1); // what was worked on is finished
-        QVERIFY(m_window->isVisible());
-        const QDir sessions(m_folder->filePath("sessions"));
-        QFile stored(sessions.filePath(sessions.entryList({"*.session"}).value(0)));
-        QVERIFY(stored.open(QIODevice::ReadOnly) && stored.readAll().contains("UseOutlines"));
     }
 
     void takesWhatIsDroppedAndPasted()

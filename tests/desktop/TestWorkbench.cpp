@@ -100,6 +100,15 @@ private slots:
         QVERIFY(m_bench->table().find(1)->facts);
     }
 
+    void saysThatNothingWasFound()
+    {
+        QSignalSpy failed(m_bench.get(), &Workbench::failed);
+        m_fake->plays("show", Fake::start() + Fake::end());
+        m_bench->add({"/empty"});
+        QTRY_COMPARE(failed.size(), 1);
+        QCOMPARE(state(), State::Empty);
+    }
+
     void believesTheNamesThatAreFound()
     {
         read();

@@ -26,6 +26,7 @@ void Reading::takeFound(const FoundEvent& event)
         return DocumentTask::takeFound(event);
     if (event.number != underWay().size())
         return;
+    countMore();
     const DocumentTable::Ids ids = table().append({event.path});
     underWay().append(ids.isEmpty() ? table().idOf(event.path) : ids.front());
     if (ids.isEmpty())

@@ -2501,5 +2501,9 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <source>Reading was stopped. What was not found until then is not in the list.</source>
         <translation>Das Einlesen wurde abgebrochen. Was bis dahin nicht gefunden war, steht nicht in der Liste.</translation>
     </message>
+    <message>
+        <source>No PDF document was found there.</source>
+        <translation>Dort wurde kein PDF-Dokument gefunden.</translation>
+    </message>
 </context>
 </TS>

@@ -2501,5 +2501,9 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <source>Reading was stopped. What was not found until then is not in the list.</source>
         <translation>La lectura se detuvo. Lo que aún no se había encontrado no está en la lista.</translation>
     </message>
+    <message>
+        <source>No PDF document was found there.</source>
+        <translation>No se encontró allí ningún documento PDF.</translation>
+    </message>
 </context>
 </TS>

@@ -2501,5 +2501,9 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <source>Reading was stopped. What was not found until then is not in the list.</source>
         <translation>La lecture a été arrêtée. Ce qui n’avait pas encore été trouvé ne figure pas dans la liste.</translation>
     </message>
+    <message>
+        <source>No PDF document was found there.</source>
+        <translation>Aucun document PDF n’y a été trouvé.</translation>
+    </message>
 </context>
 </TS>

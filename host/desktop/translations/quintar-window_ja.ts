@@ -2460,5 +2460,9 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <source>Reading was stopped. What was not found until then is not in the list.</source>
         <translation>読み込みを中止しました。それまでに見つからなかったものは一覧にありません。</translation>
     </message>
+    <message>
+        <source>No PDF document was found there.</source>
+        <translation>そこに PDF 文書は見つかりませんでした。</translation>
+    </message>
 </context>
 </TS>

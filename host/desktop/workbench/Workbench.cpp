@@ -323,6 +323,7 @@ void Workbench::endReading(const ChildRun::Ending& ending)
     const auto* reading = qobject_cast<const Reading*>(m_task.data());
     const int known = reading->known();
     const bool wasLooking = !reading->paths().isEmpty();
+    const bool isNoneFound = wasLooking && reading->total() == 0;
     if (!ending.isComplete && !ending.wasStopped)
         m_unread = reading->paths();
     m_task->deleteLater();
@@ -333,6 +334,8 @@ void Workbench::endReading(const ChildRun::Ending& ending)
         emit said(tr("Reading was stopped. What was not found until then is not in the list."));
     else if (known > 0)
         emit said(tr("%Ln document(s) were in the list already.", "", known));
+    else if (isNoneFound)
+        emit failed(tr("No PDF document was found there."));
     m_passwordTrial.restore(m_table);
     m_machine.handle(m_table.count() > 0 ? Step::Read : Step::Emptied);
     m_order.settle();
