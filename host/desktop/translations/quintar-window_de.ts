@@ -1150,10 +1150,6 @@
         <translation>&amp;Neu einlesen</translation>
     </message>
     <message>
-        <source>Reads all documents once more</source>
-        <translation>Liest alle Dokumente noch einmal ein</translation>
-    </message>
-    <message>
         <source>&amp;Like This Document</source>
         <translation>&amp;Wie dieses Dokument</translation>
     </message>
@@ -1344,6 +1340,10 @@
     <message>
         <source>Opens the folder that the run has written into</source>
         <translation>Öffnet den Ordner, in den der Durchlauf geschrieben hat</translation>
+    </message>
+    <message>
+        <source>Reads the documents that are shown once more</source>
+        <translation>Liest die angezeigten Dokumente noch einmal ein</translation>
     </message>
 </context>
 <context>

@@ -1150,10 +1150,6 @@
         <translation>&amp;Leer de nuevo</translation>
     </message>
     <message>
-        <source>Reads all documents once more</source>
-        <translation>Lee otra vez todos los documentos</translation>
-    </message>
-    <message>
         <source>&amp;Like This Document</source>
         <translation>&amp;Como este documento</translation>
     </message>
@@ -1344,6 +1340,10 @@
     <message>
         <source>Opens the folder that the run has written into</source>
         <translation>Abre la carpeta en la que escribió la ejecución</translation>
+    </message>
+    <message>
+        <source>Reads the documents that are shown once more</source>
+        <translation>Lee otra vez los documentos mostrados</translation>
     </message>
 </context>
 <context>

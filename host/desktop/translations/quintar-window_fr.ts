@@ -1150,10 +1150,6 @@
         <translation>&amp;Relire</translation>
     </message>
     <message>
-        <source>Reads all documents once more</source>
-        <translation>Relit tous les documents</translation>
-    </message>
-    <message>
         <source>&amp;Like This Document</source>
         <translation>&amp;Comme ce document</translation>
     </message>
@@ -1344,6 +1340,10 @@
     <message>
         <source>Opens the folder that the run has written into</source>
         <translation>Ouvre le dossier dans lequel le traitement a écrit</translation>
+    </message>
+    <message>
+        <source>Reads the documents that are shown once more</source>
+        <translation>Relit les documents affichés</translation>
     </message>
 </context>
 <context>

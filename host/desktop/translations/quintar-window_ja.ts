@@ -1143,10 +1143,6 @@
         <translation>再読み込み(&amp;G)</translation>
     </message>
     <message>
-        <source>Reads all documents once more</source>
-        <translation>すべての文書をもう一度読み込みます</translation>
-    </message>
-    <message>
         <source>&amp;Like This Document</source>
         <translation>この文書と同じにする(&amp;L)</translation>
     </message>
@@ -1337,6 +1333,10 @@
     <message>
         <source>Opens the folder that the run has written into</source>
         <translation>実行の書き込み先フォルダーを開きます</translation>
+    </message>
+    <message>
+        <source>Reads the documents that are shown once more</source>
+        <translation>表示中の文書をもう一度読み込みます</translation>
     </message>
 </context>
 <context>
