@@ -92,7 +92,7 @@ OutputFile::OutputFile(const std::string& path) : m_target(isUnfinished(path) ? 
     if (replaces && !S_ISREG(status.st_mode))
         throw EngineError(ErrorCode::NotARegularFile);
     create(folderOf(m_target), replaces ? 0600 : 0666);
-    if (replaces && ::fchmod(m_fd, status.st_mode & 07777) != 0)
+    if (replaces && ::fchmod(m_fd, status.st_mode & 01777) != 0)
         fail(errno);
 }
 
@@ -115,7 +115,7 @@ void OutputFile::create(const std::string& folder, unsigned mode)
 
 void OutputFile::createAt(const std::string& name, unsigned mode)
 {
-    m_fd = ::open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    m_fd = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
     if (m_fd >= 0)
         m_temporary = name;
 }

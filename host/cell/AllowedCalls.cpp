@@ -6,6 +6,7 @@
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/mman.h>
+#include <sys/stat.h>
 
 namespace host::allowedcalls {
 
@@ -25,6 +26,9 @@ scmp_arg_cmp lacks(unsigned argument, scmp_datum_t bits)
 const unsigned protection = 2; // the arguments of mmap, and of mprotect
 const unsigned mapping = 3;
 
+/// A file with these would run with its owner's rights, whoever starts it, and whatever a worker put into it.
+const scmp_datum_t rightsOfOwner = S_ISUID | S_ISGID;
+
 // clang-format off
 Group ofSanitizers()
 {
@@ -32,14 +36,16 @@ Group ofSanitizers()
             " try memory by writing it to a pipe",
             {{SCMP_SYS(pipe)}, {SCMP_SYS(pipe2)}, {SCMP_SYS(sigaltstack)}, {SCMP_SYS(rt_sigaction)},
              {SCMP_SYS(sched_yield)}, {SCMP_SYS(getuid)}, {SCMP_SYS(uname)}, {SCMP_SYS(prlimit64)}, {SCMP_SYS(prctl)},
-             {SCMP_SYS(dup)}, {SCMP_SYS(ioctl), {equals(1, TCGETS)}}}};
+             {SCMP_SYS(dup)}, {SCMP_SYS(ioctl), {equals(1, TCGETS)}},
+             // with no mode, and so with any
+             {SCMP_SYS(open)}, {SCMP_SYS(openat)}}};
 }
 // clang-format on
 
 } // namespace
 
 // clang-format off
-std::vector<Group> table(pid_t self)
+std::vector<Group> toRead(pid_t self)
 {
     const auto process = static_cast<scmp_datum_t>(self);
     std::vector<Group> groups = {
@@ -52,23 +58,13 @@ std::vector<Group> table(pid_t self)
           {SCMP_SYS(mprotect), {lacks(protection, PROT_EXEC)}}, {SCMP_SYS(mremap)}, {SCMP_SYS(munmap)},
           {SCMP_SYS(madvise)}}},
         {"finding and reading documents; what may be opened is for the kernel's other lock",
-         {{SCMP_SYS(open)}, {SCMP_SYS(openat)}, {SCMP_SYS(close)}, {SCMP_SYS(read)}, {SCMP_SYS(pread64)},
-          {SCMP_SYS(lseek)}, {SCMP_SYS(_llseek)}, {SCMP_SYS(stat)}, {SCMP_SYS(lstat)}, {SCMP_SYS(fstat)},
-          {SCMP_SYS(newfstatat)}, {SCMP_SYS(stat64)}, {SCMP_SYS(lstat64)}, {SCMP_SYS(fstat64)}, {SCMP_SYS(fstatat64)},
-          {SCMP_SYS(statx)}, {SCMP_SYS(readlink)}, {SCMP_SYS(readlinkat)}, {SCMP_SYS(access)}, {SCMP_SYS(faccessat)},
-          {SCMP_SYS(getcwd)}}},
-        {"writing results, and the reports of runs in place",
-         {{SCMP_SYS(write)}, {SCMP_SYS(pwrite64)}, {SCMP_SYS(copy_file_range)},
-          {SCMP_SYS(ioctl), {equals(1, FICLONE)}}, {SCMP_SYS(ftruncate)}, {SCMP_SYS(ftruncate64)},
-          {SCMP_SYS(rename)}, {SCMP_SYS(renameat)}, {SCMP_SYS(renameat2)}, {SCMP_SYS(unlink)}, {SCMP_SYS(unlinkat)},
-          {SCMP_SYS(mkdir)}, {SCMP_SYS(mkdirat)}}},
-        {"giving a result, by its descriptor, what the document has besides its content",
-         {{SCMP_SYS(fchmod)}, {SCMP_SYS(fchown)}, {SCMP_SYS(fchown32)}, {SCMP_SYS(umask)}, {SCMP_SYS(fgetxattr)},
-          {SCMP_SYS(flistxattr)}, {SCMP_SYS(fsetxattr)}, {SCMP_SYS(fremovexattr)},
-          {SCMP_SYS(utimensat), {equals(1, 0)}}, {SCMP_SYS(utimensat_time64), {equals(1, 0)}}}},
-        {"putting results on the disk, and keeping others from a document that is changed where it is",
-         {{SCMP_SYS(fsync)}, {SCMP_SYS(fdatasync)}, {SCMP_SYS(syncfs)}, {SCMP_SYS(flock)}, {SCMP_SYS(fstatfs)},
-          {SCMP_SYS(fstatfs64)}}},
+         {{SCMP_SYS(open), {lacks(1, O_ACCMODE | O_CREAT | O_TRUNC)}},
+          {SCMP_SYS(openat), {lacks(2, O_ACCMODE | O_CREAT | O_TRUNC)}},
+          {SCMP_SYS(close)}, {SCMP_SYS(read)}, {SCMP_SYS(pread64)}, {SCMP_SYS(lseek)}, {SCMP_SYS(_llseek)},
+          {SCMP_SYS(stat)}, {SCMP_SYS(lstat)}, {SCMP_SYS(fstat)}, {SCMP_SYS(newfstatat)}, {SCMP_SYS(stat64)},
+          {SCMP_SYS(lstat64)}, {SCMP_SYS(fstat64)}, {SCMP_SYS(fstatat64)}, {SCMP_SYS(statx)}, {SCMP_SYS(readlink)},
+          {SCMP_SYS(readlinkat)}, {SCMP_SYS(access)}, {SCMP_SYS(faccessat)}, {SCMP_SYS(getcwd)}}},
+        {"waking up the program", {{SCMP_SYS(write)}}},
         {"time, waiting, and what libraries ask the kernel for: random numbers, locks, how much memory there is",
          {{SCMP_SYS(clock_gettime)}, {SCMP_SYS(clock_gettime64)}, {SCMP_SYS(gettimeofday)}, {SCMP_SYS(time)},
           {SCMP_SYS(nanosleep)}, {SCMP_SYS(clock_nanosleep)}, {SCMP_SYS(clock_nanosleep_time64)},
@@ -81,6 +77,27 @@ std::vector<Group> table(pid_t self)
     if (sanitized)
         groups.push_back(ofSanitizers());
     return groups;
+}
+
+std::vector<Group> toWrite()
+{
+    return {
+        {"writing results, and the reports of runs in place; before Linux 6.2 the other lock lets files be emptied"
+         " that may only be read",
+         {{SCMP_SYS(open), {lacks(1, O_TRUNC), lacks(2, rightsOfOwner)}},
+          {SCMP_SYS(openat), {lacks(2, O_TRUNC), lacks(3, rightsOfOwner)}},
+          {SCMP_SYS(pwrite64)}, {SCMP_SYS(copy_file_range)}, {SCMP_SYS(ioctl), {equals(1, FICLONE)}},
+          {SCMP_SYS(ftruncate)}, {SCMP_SYS(ftruncate64)}, {SCMP_SYS(rename)}, {SCMP_SYS(renameat)},
+          {SCMP_SYS(renameat2)}, {SCMP_SYS(unlink)}, {SCMP_SYS(unlinkat)}, {SCMP_SYS(mkdir)}, {SCMP_SYS(mkdirat)}}},
+        {"giving a result, by its descriptor, what the document has besides its content",
+         {{SCMP_SYS(fchmod), {lacks(1, rightsOfOwner)}}, {SCMP_SYS(fchown)}, {SCMP_SYS(fchown32)},
+          {SCMP_SYS(umask)}, {SCMP_SYS(fgetxattr)}, {SCMP_SYS(flistxattr)}, {SCMP_SYS(fsetxattr)},
+          {SCMP_SYS(fremovexattr)}, {SCMP_SYS(utimensat), {equals(1, 0)}},
+          {SCMP_SYS(utimensat_time64), {equals(1, 0)}}}},
+        {"putting results on the disk, and keeping others from a document that is changed where it is",
+         {{SCMP_SYS(fsync)}, {SCMP_SYS(fdatasync)}, {SCMP_SYS(syncfs)}, {SCMP_SYS(flock)}, {SCMP_SYS(fstatfs)},
+          {SCMP_SYS(fstatfs64)}}},
+    };
 }
 // clang-format on
 

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// The system calls that a worker makes, and nothing else is needed for reading and writing documents.
+/// The system calls that a worker makes.
 namespace host::allowedcalls {
 
 struct Call
@@ -21,7 +21,10 @@ struct Group
     std::vector<Call> calls;
 };
 
+/// What reading documents takes, and telling of them.
 /// \param self the process that makes them: some are allowed for itself only.
-std::vector<Group> table(pid_t self);
+std::vector<Group> toRead(pid_t self);
+/// What writing results takes besides.
+std::vector<Group> toWrite();
 
 } // namespace host::allowedcalls

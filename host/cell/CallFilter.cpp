@@ -59,7 +59,7 @@ bool enter(Outside outside, const std::vector<allowedcalls::Group>& further)
     if (!handleOutside(outside))
         return false;
     const Filter filter(seccomp_init(SCMP_ACT_TRAP), seccomp_release);
-    std::vector<allowedcalls::Group> groups = allowedcalls::table(getpid());
+    std::vector<allowedcalls::Group> groups = allowedcalls::toRead(getpid());
     groups.insert(groups.end(), further.begin(), further.end());
     int problem = filter == nullptr ? -ENOMEM : fill(filter.get(), groups);
     if (problem == 0)

@@ -16,9 +16,9 @@ inline constexpr int endedStatus = 128 + SIGSYS;
 /// in a signal handler.
 using Outside = void (*)(int call);
 
-/// From now on this process, which must have given up new privileges and has one thread, makes the calls of
-/// AllowedCalls.h and the further ones, or ends. \returns false with errno set.
-bool enter(Outside outside, const std::vector<allowedcalls::Group>& further = {});
+/// From now on this process, which must have given up new privileges and has one thread, makes the calls that
+/// reading takes (AllowedCalls.h) and the further ones, or ends. \returns false with errno set.
+bool enter(Outside outside, const std::vector<allowedcalls::Group>& further);
 
 /// "socket", or the number of a call that has no name here.
 std::string nameOf(int call);

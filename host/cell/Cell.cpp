@@ -1,6 +1,7 @@
 #include "Cell.h"
 
 #include "OpenDescriptors.h"
+#include "ProcessLimits.h"
 #include "host/files/FileDescriptor.h"
 #include "host/terminal/UsageError.h"
 
@@ -19,11 +20,6 @@
 namespace host {
 
 namespace {
-
-bool giveUpPrivileges()
-{
-    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0;
-}
 
 int problemOf(bool done)
 {
@@ -45,11 +41,11 @@ using Problems = std::array<int, 2>;
 [[noreturn]] void tryOut(int into)
 {
     Problems problems{};
-    const bool mayTry = giveUpPrivileges();
+    const bool mayTry = processlimits::giveUpPrivileges();
     problems[0] = problemOf(mayTry && enterEmpty());
     if (write(into, &problems[0], sizeof(int)) != sizeof(int))
         _exit(1);
-    problems[1] = problemOf(mayTry && callfilter::enter([](int) {}));
+    problems[1] = problemOf(mayTry && callfilter::enter([](int) {}, allowedcalls::toWrite()));
     _exit(write(into, &problems[1], sizeof(int)) != sizeof(int) ? 1 : 0);
 }
 
@@ -153,12 +149,14 @@ void Cell::enter(const std::vector<int>& descriptors, callfilter::Outside outsid
             throw std::runtime_error("the worker process cannot be locked in: " + systemError(errno));
     };
     require(leadNowhere({STDIN_FILENO, STDOUT_FILENO}));
-    require(giveUpPrivileges() || !(m_state.limitsFiles() || m_state.limitsCalls()));
+    require(processlimits::giveUpPrivileges() || !(m_state.limitsFiles() || m_state.limitsCalls()));
     if (m_landlock)
         require(m_landlock->enter());
     closeAllBut(descriptors);
+    processlimits::forgetEnvironment();
     if (m_state.limitsCalls())
-        require(callfilter::enter(outside));
+        require(callfilter::enter(outside, m_reach.isWritten() ? allowedcalls::toWrite()
+                                                               : std::vector<allowedcalls::Group>()));
 }
 
 } // namespace host

@@ -58,9 +58,9 @@ Rights rightsOf(Landlock::Access access)
         return LANDLOCK_ACCESS_FS_READ_FILE;
     if (access == Landlock::Access::Browse)
         return LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
-    return LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_WRITE_FILE | truncateFile |
-           LANDLOCK_ACCESS_FS_READ_DIR | LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_MAKE_DIR |
-           LANDLOCK_ACCESS_FS_REMOVE_FILE;
+    const Rights read = access == Landlock::Access::ReadAndWrite ? LANDLOCK_ACCESS_FS_READ_FILE : 0;
+    return read | LANDLOCK_ACCESS_FS_WRITE_FILE | truncateFile | LANDLOCK_ACCESS_FS_READ_DIR |
+           LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_MAKE_DIR | LANDLOCK_ACCESS_FS_REMOVE_FILE;
 }
 
 const Rights rightsOfFiles = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_WRITE_FILE | truncateFile;

@@ -13,9 +13,10 @@ class Landlock
 {
 public:
     enum class Access {
-        Read,   ///< Files.
-        Browse, ///< Files, and folders are listed.
-        Write,  ///< Files are also made, changed and removed, and folders made and listed.
+        Read,         ///< Files.
+        Browse,       ///< Files, and folders are listed.
+        Write,        ///< Files are made, changed and removed, but not read; folders are made and listed.
+        ReadAndWrite, ///< As Write, and files are read.
     };
 
     /// The newest version of the interface that this program knows.

@@ -40,8 +40,9 @@ void Reach::allowBy(Landlock& landlock) const
     std::set<std::string> written;
     for (const std::string& folder : m_folders)
         written.insert(existing(folder));
+    const auto access = m_readsWritten ? Landlock::Access::ReadAndWrite : Landlock::Access::Write;
     for (const std::string& folder : written)
-        landlock.allow(folder, Landlock::Access::Write);
+        landlock.allow(folder, access);
 }
 
 bool isOutOfReach(const std::string& path)

@@ -19,6 +19,10 @@ public:
     void addFileToRead(const std::string& file);
     /// \param folder may be made later; then the one above it that is there is meant.
     void addFolderToWrite(const std::string& folder) { m_folders.insert(folder); }
+    /// What is written is read again.
+    void readWritten() { m_readsWritten = true; }
+    /// Whether there is any folder to write.
+    bool isWritten() const { return !m_folders.empty(); }
 
     /// Throws std::system_error.
     void allowBy(Landlock& landlock) const;
@@ -28,6 +32,7 @@ private:
     std::size_t m_fileCount = 0;
     std::set<std::string> m_foldersOfFiles;
     std::set<std::string> m_folders;
+    bool m_readsWritten = false;
 };
 
 /// Whether it is the cell that keeps this process from a file, or from a folder or the one above it that is

@@ -140,6 +140,8 @@ bool RunDestination::isEarlierResult(const std::string& document) const
 
 Failure RunDestination::makeFolder() const
 {
+    if (m_kind == Kind::File && !isStandardOutput())
+        return SafeOutput::makeFolder(SafeOutput::folderOf(m_path));
     return m_kind == Kind::Folder ? SafeOutput::makeFolder(m_path) : Failure();
 }
 

@@ -46,7 +46,7 @@ public:
     /// that it belongs to is there.
     bool isEarlierResult(const std::string& document) const;
 
-    /// Makes the folder for the results.
+    /// Makes the folder for the results, or for the one result: a worker has no business above it.
     Failure makeFolder() const;
 
 private:

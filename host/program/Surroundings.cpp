@@ -11,7 +11,7 @@ namespace host::surroundings {
 
 namespace {
 
-/// Of Qt, the C library, drivers of OpenGL, and what themes of desktops and libraries below bring along.
+/// Of Qt, the C library, Xlib, drivers of OpenGL, and what themes of desktops and libraries below bring along.
 constexpr std::array placesOfCode{
     "LD_LIBRARY_PATH",
     "QT_PLUGIN_PATH",
@@ -20,6 +20,8 @@ constexpr std::array placesOfCode{
     "QML2_IMPORT_PATH",
     "GCONV_PATH",
     "LIBGL_DRIVERS_PATH",
+    "LIBGL_DRIVERS_DIR",
+    "GBM_DRIVERS_PATH",
     "GBM_BACKENDS_PATH",
     "__EGL_VENDOR_LIBRARY_DIRS",
     "__EGL_VENDOR_LIBRARY_FILENAMES",
@@ -28,6 +30,10 @@ constexpr std::array placesOfCode{
     "VK_DRIVER_FILES",
     "VK_ICD_FILENAMES",
     "VK_LAYER_PATH",
+    "VK_ADD_LAYER_PATH",
+    "VK_ADD_DRIVER_FILES",
+    "QT_VULKAN_LIB",
+    "XLOCALELIBDIR",
     "GTK_PATH",
     "GTK_EXE_PREFIX",
     "GTK_MODULES",

@@ -1,7 +1,7 @@
 #include "Confinement.h"
 
 #include "host/cell/Cell.h"
-#include "host/cell/Sanitized.h"
+#include "host/cell/ProcessLimits.h"
 #include "host/files/FileDescriptor.h"
 
 #include <sys/prctl.h>
@@ -62,12 +62,12 @@ void enter()
 {
     const CellState kernel = Cell(Sandbox::Try).state();
     require(prctl(PR_SET_PDEATHSIG, SIGKILL));
-    require(prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0));
+    require(processlimits::giveUpPrivileges() ? 0 : -1);
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_FSIZE, 0);
     limit(RLIMIT_NPROC, 0);
-    if (!sanitized)
-        limit(RLIMIT_DATA, static_cast<rlim_t>(memoryMiB) << 20);
+    processlimits::limitMemory(memoryMiB);
+    processlimits::forgetEnvironment();
     if (kernel.limitsFiles())
         limitFiles();
     if (kernel.limitsCalls())

@@ -56,7 +56,7 @@ private:
     const std::vector<DocumentJob>& m_jobs;
     DocumentProcessor m_processor;
     Announce m_announce;
-    int m_report; ///< -1 for none.
+    int m_report; ///< Where it announces, -1 for nowhere.
 };
 
 } // namespace
@@ -136,6 +136,8 @@ void BatchRun::allowJobs()
         if (!m_options.dryRun)
             reach.addFolderToWrite(SafeOutput::folderOf(job.target));
     }
+    if (m_options.rewrite) // to compare the result
+        reach.readWritten();
     m_cell.allow(reach);
 }
 
@@ -147,10 +149,11 @@ void BatchRun::runJobs(CActionInterface& action, const WorkerPool::Limits& limit
     allowJobs();
     m_setup.control.takeSignals();
     const auto makeWorker = [&] {
+        const int report = m_setup.report != nullptr ? m_setup.report->leave() : -1;
         return std::make_unique<DocumentWorker>(
             m_jobs, action, m_options,
             [this](std::size_t job, const DocumentResult& expected) { announce(job, expected); },
-            m_setup.report != nullptr ? m_setup.report->leave() : -1);
+            m_options.inPlace && !m_options.dryRun ? report : -1);
     };
     WorkerPool pool(fitting, makeWorker, m_cell);
     pool.run(

@@ -69,7 +69,7 @@ DocumentResult DocumentProcessor::process(const DocumentJob& job, const BeforePl
     }
     result.milliseconds = millisecondsTaken();
     m_keptOut =
-        result.status == Status::Failed &&
+        result.status == Status::Failed && result.reason.code != ReasonCode::ChangedMeanwhile &&
         (isOutOfReach(job.source) || (!m_options.dryRun && isOutOfReach(SafeOutput::folderOf(job.target))));
     return result;
 }
@@ -300,13 +300,13 @@ DocumentResult DocumentProcessor::commit(SafeOutput& output, const DocumentJob& 
 {
     const FileDescriptor source = openRegularFile(job.source);
     if (!source.isOpen())
-        return notAsRead();
+        return notAsRead(job);
     if (m_options.inPlace && lockDocument(source.get()) == DocumentLock::Held)
         return DocumentResult::failed(documentLocked);
     if (const Failure problem = tellWhatStoodBefore(result, source.get()); problem)
         return DocumentResult::failed(problem);
     if (!isAsRead(source.get(), job.source, m_original))
-        return notAsRead();
+        return notAsRead(job);
     const auto beforeRename = [&](const struct stat& finished, const std::string& note) {
         result.milliseconds = millisecondsTaken();
         result.note = notesWith(note);
@@ -339,13 +339,17 @@ DocumentResult DocumentProcessor::notAppended(int code)
     return DocumentResult::failed(whyNotAppended(code));
 }
 
-/// A document that has gone, or is another one, was changed; what else errno tells kept it from
-/// being looked at.
-DocumentResult DocumentProcessor::notAsRead()
+/// A document that has gone, or is another one, was changed; what else errno tells kept it from being looked at.
+/// Another one may be out of this process's reach: in place it is left as it is, else a new worker reads it.
+DocumentResult DocumentProcessor::notAsRead(const DocumentJob& job) const
 {
-    const bool isChanged = errno == 0 || errno == ENOENT || errno == ENOTDIR;
+    const int problem = errno;
+    struct stat now;
+    const bool isOther =
+        m_options.inPlace && stat(job.source.c_str(), &now) == 0 && !isSameState(now, m_original);
+    const bool isChanged = isOther || problem == 0 || problem == ENOENT || problem == ENOTDIR;
     return DocumentResult::failed(isChanged ? Failure::ofLibrary(int(engine::ErrorCode::SourceChanged))
-                                            : Failure::ofSystem(errno, ReasonCode::ReadFailed));
+                                            : Failure::ofSystem(problem, ReasonCode::ReadFailed));
 }
 
 DocumentResult DocumentProcessor::libraryFailure(const std::string& what)

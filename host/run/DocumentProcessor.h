@@ -101,7 +101,7 @@ private:
     DocumentResult rewrite(const DocumentJob& job);
     DocumentResult copy(const DocumentJob& job);
     DocumentResult commit(SafeOutput& output, const DocumentJob& job, DocumentResult result);
-    static DocumentResult notAsRead();
+    DocumentResult notAsRead(const DocumentJob& job) const;
     DocumentResult notAppended(int code);
     DocumentResult libraryFailure(const std::string& what = {});
 

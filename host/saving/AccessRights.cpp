@@ -3,6 +3,7 @@
 #include <endian.h>
 #include <linux/posix_acl.h>
 #include <linux/posix_acl_xattr.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cstring>
@@ -28,7 +29,7 @@ void append(std::string& bytes, const Value& value)
 
 } // namespace
 
-AccessRights::AccessRights(mode_t mode, std::string_view list) : m_special(mode & 07000)
+AccessRights::AccessRights(mode_t mode, std::string_view list) : m_sticky(mode & S_ISVTX)
 {
     if (readList(list))
         return;
@@ -73,7 +74,6 @@ void AccessRights::dropOwner()
     const unsigned owner = base(ACL_USER_OBJ).rights;
     for (Entry& entry : m_entries)
         entry.rights &= owner;
-    m_special = 0;
 }
 
 void AccessRights::dropGroup()
@@ -81,7 +81,6 @@ void AccessRights::dropGroup()
     Entry& group = base(ACL_GROUP_OBJ);
     base(ACL_OTHER).rights &= group.rights & mask();
     group.rights = 0;
-    m_special = 0;
 }
 
 void AccessRights::dropList()
@@ -104,7 +103,7 @@ void AccessRights::dropList()
 mode_t AccessRights::mode() const
 {
     const Entry* const group = find(find(ACL_MASK) != nullptr ? ACL_MASK : ACL_GROUP_OBJ);
-    return m_special | find(ACL_USER_OBJ)->rights << 6 | group->rights << 3 | find(ACL_OTHER)->rights;
+    return m_sticky | find(ACL_USER_OBJ)->rights << 6 | group->rights << 3 | find(ACL_OTHER)->rights;
 }
 
 std::string AccessRights::list() const

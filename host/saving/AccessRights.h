@@ -11,7 +11,8 @@ namespace host {
 
 /// Who may do what with a file: its mode and its access control list. What cannot be kept is taken out so
 /// that nobody is granted more than before: whoever matched an entry that goes falls to the later ones, which
-/// are narrowed to what that entry gave.
+/// are narrowed to what that entry gave. Nor does it let the file run with its owner's rights: no document has
+/// use for that.
 class AccessRights
 {
 public:
@@ -27,7 +28,7 @@ public:
     /// The file cannot have a list.
     void dropList();
 
-    /// Permission bits, with set-user-id and its like as long as owner and group are kept.
+    /// Permission bits, the sticky one included.
     mode_t mode() const;
     /// The value of system.posix_acl_access; empty when the mode says it all.
     std::string list() const;
@@ -48,7 +49,7 @@ private:
     Entry& base(unsigned tag) { return const_cast<Entry&>(*find(tag)); }
     unsigned mask() const;
 
-    unsigned m_special; ///< Set-user-id, set-group-id, sticky.
+    unsigned m_sticky;
     std::vector<Entry> m_entries;
     bool m_unknown = false;
 };

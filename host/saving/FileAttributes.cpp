@@ -87,7 +87,9 @@ bool FileAttributes::giveTo(int target, std::vector<std::string>& notKept) const
     if (fstat(m_file, &status) != 0)
         return false;
     const std::optional<std::string> list = attribute(m_file, accessList);
-    AccessRights rights(status.st_mode & 07777, list.value_or("?"));
+    AccessRights rights(status.st_mode, list.value_or("?"));
+    if ((status.st_mode & (S_ISUID | S_ISGID)) != 0)
+        add(notKept, "set-user-ID or set-group-ID");
     giveExtended(target, notKept); // first: as another owner's, or in its mode, it may not be allowed
     giveOwner(target, status, rights, notKept);
     return giveRights(target, rights, notKept);

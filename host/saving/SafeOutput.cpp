@@ -133,7 +133,7 @@ SafeOutput::Outcome SafeOutput::commit(const FileAttributes& attributes, bool fl
                        {}};
     };
     std::vector<std::string> notKept;
-    const FileDescriptor file(::open(m_temporary.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
+    const FileDescriptor file(::open(m_temporary.c_str(), O_WRONLY | O_CLOEXEC | O_NOFOLLOW));
     struct stat finished;
     if (!file.isOpen() || !attributes.giveTo(file.get(), notKept) || (flush && !flushFile(file.get())) ||
         fstat(file.get(), &finished) != 0)

@@ -4,6 +4,7 @@
 #include "WorkerVoice.h"
 
 #include "host/cell/Cell.h"
+#include "host/cell/ProcessLimits.h"
 #include "host/cell/Sanitized.h"
 #include "host/files/FileDescriptor.h"
 
@@ -47,21 +48,21 @@ void limitWorker(int memoryMiB)
 {
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
+    processlimits::limitMemory(memoryMiB);
     if (sanitized)
         return;
-    // Counts what the worker allocates, not the files and libraries that it maps.
-    const auto bytes = static_cast<rlim_t>(memoryMiB) << 20;
-    const rlimit memory{bytes, bytes};
-    setrlimit(RLIMIT_DATA, &memory);
     // What a crash or a library prints would tear up the progress bar; the reason reaches the user otherwise.
     const FileDescriptor null(open("/dev/null", O_WRONLY | O_CLOEXEC));
     dup2(null.get(), STDERR_FILENO);
 }
 
-Failure describeEnd(int status, std::optional<int> outsideCall)
+/// \param areCallsLimited the kernel then ends a process by this signal for calls numbered as on another machine.
+Failure describeEnd(int status, std::optional<int> outsideCall, bool areCallsLimited)
 {
     if (outsideCall && WIFEXITED(status) && WEXITSTATUS(status) == callfilter::endedStatus)
         return {ReasonCode::Hostile, "did what no document needs (" + callfilter::nameOf(*outsideCall) + ")"};
+    if (areCallsLimited && WIFSIGNALED(status) && WTERMSIG(status) == SIGSYS)
+        return {ReasonCode::Hostile, "did what no document needs (a forbidden system call)"};
     if (WIFSIGNALED(status))
         return {ReasonCode::Crashed,
                 "the worker process crashed on it: " + std::string(strsignal(WTERMSIG(status)))};
@@ -356,7 +357,7 @@ void WorkerPool::end(Process& process, const Done& done, WorkOutcome::Kind kind,
     pieceEnded(place, done,
                {kind,
                 {},
-                why ? why : describeEnd(status, (*process.slot)->outsideCall()),
+                why ? why : describeEnd(status, (*process.slot)->outsideCall(), m_cell.state().limitsCalls()),
                 told == place ? (*process.slot)->noted() : std::string()});
     process.slot.reset();
     if (told >= m_round.size() && status != 0 && ++m_fruitless >= mostFruitless)

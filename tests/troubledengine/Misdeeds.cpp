@@ -1,12 +1,16 @@
 #include "Misdeeds.h"
 
 #include <fcntl.h>
+#include <linux/capability.h>
+#include <linux/xattr.h>
 #include <sys/mman.h>
 #include <sys/ptrace.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/un.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -22,10 +26,12 @@ namespace misdeeds {
 namespace {
 
 pid_t parent = 0;
+const char* homeFolder = nullptr; ///< In the environment.
+std::string homePath;
 
 std::string home(const char* name)
 {
-    return std::string(std::getenv("HOME")) + "/" + name;
+    return homePath + "/" + name;
 }
 
 bool canRead(const std::string& path)
@@ -90,10 +96,65 @@ bool spies()
     return false;
 }
 
+bool learns()
+{
+    return homePath == homeFolder;
+}
+
+#if defined(__x86_64__)
+/// Makes a call that is numbered otherwise than those of this machine; whether the kernel has it does not matter.
+bool switches()
+{
+    return syscall(0x40000000 + SYS_getpid) != 0;
+}
+#endif
+
 /// Memory that does not count.
 bool shares()
 {
     return mmap(nullptr, 4096, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0) != MAP_FAILED;
+}
+
+/// Whether it can give a document that it may only read another mode.
+bool gives(const char* document, mode_t mode)
+{
+    const int file = open(home(document).c_str(), O_RDONLY);
+    return fchmod(file, mode) == 0 && fchmod(file, 0644) == 0;
+}
+
+/// Empties a document that it may only read.
+bool empties()
+{
+    return open(home("1-empties.pdf").c_str(), O_RDONLY | O_TRUNC) >= 0;
+}
+
+/// All who start it do so as its owner.
+bool lends()
+{
+    return gives("1-lends.pdf", 04755);
+}
+
+bool bares()
+{
+    return gives("1-bares.pdf", 0666);
+}
+
+/// Has all who start a document do so with rights of root.
+bool grants()
+{
+    const int file = open(home("1-grants.pdf").c_str(), O_RDONLY);
+    const vfs_cap_data rights{VFS_CAP_REVISION_2 | VFS_CAP_FLAGS_EFFECTIVE, {{1 << CAP_CHOWN, 0}, {0, 0}}};
+    return fsetxattr(file, XATTR_NAME_CAPS, &rights, sizeof rights, 0) == 0;
+}
+
+/// It has the report open, and nothing else that is a file.
+bool scribbles()
+{
+    struct stat status;
+    for (int file = STDERR_FILENO + 1; file < 100; ++file)
+        if (fstat(file, &status) == 0 && S_ISREG(status.st_mode))
+            return true;
+    return false;
 }
 
 struct Misdeed
@@ -103,11 +164,25 @@ struct Misdeed
 };
 
 const Misdeed all[] = {
-    {L"reads-key", readsKey}, {L"writes-outside", writesOutside},
-    {L"connects", connects},  {L"forks", forks},
-    {L"executes", executes},  {L"traces", traces},
-    {L"signals", signals},    {L"spies", spies},
+    {L"reads-key", readsKey},
+    {L"writes-outside", writesOutside},
+    {L"connects", connects},
+    {L"forks", forks},
+    {L"executes", executes},
+    {L"traces", traces},
+    {L"signals", signals},
+    {L"spies", spies},
     {L"shares", shares},
+    {L"lends", lends},
+    {L"bares", bares},
+    {L"grants", grants},
+    {L"scribbles", scribbles},
+    {L"empties", empties},
+    {L"learns", learns},
+#if defined(__x86_64__)
+    {L"switches", switches}
+#endif
+    ,
 };
 
 } // namespace
@@ -115,6 +190,8 @@ const Misdeed all[] = {
 void prepare()
 {
     parent = getppid();
+    homeFolder = std::getenv("HOME");
+    homePath = homeFolder;
 }
 
 bool allDone(const std::wstring& name)

@@ -9,7 +9,7 @@ namespace misdeeds {
 void prepare();
 
 /// Does what the name of a document asks for: "reads-key", "writes-outside", "connects", "forks", "executes",
-/// "traces", "signals", "spies", "shares". \returns whether it could; true for a name that asks for nothing.
+/// "traces", "signals", "spies", "shares", "lends", "bares", "grants", "scribbles", "empties", "learns", "switches". \returns whether it could; true for a name that asks for nothing.
 bool allDone(const std::wstring& name);
 
 } // namespace misdeeds

@@ -1,5 +1,6 @@
 // Documents that take their readers over, and what comes of it.
 #include "host/cell/Cell.h"
+#include "host/cell/Sanitized.h"
 #include "support/Rows.h"
 #include "support/documents/PdfBuilder.h"
 #include "support/documents/SpecialDocuments.h"
@@ -105,17 +106,27 @@ private slots:
         row("signals", calls("kill"));
         row("spies", denied);
         row("shares", calls("mmap"));
+        row("lends", calls("fchmod"));
+        row("grants", denied);
+        row("scribbles", denied);
+        row("learns", denied);
+#if defined(__x86_64__)
+        row("switches", calls("a forbidden system call"));
+#endif
+        row("empties", sanitized ? denied : calls("openat"));
     }
 
     void keepsDocumentsFrom()
     {
         const auto [reason] = Rows<QString>::current();
         const QString name = QString("1-%1.pdf").arg(QTest::currentDataTag());
-        for (const QString& each : {QString("0-slow.pdf"), name, QString("2-good.pdf")})
+        const QString other = name.contains("spies") ? "0-slow.pdf" : "0-good.pdf";
+        for (const QString& each : {other, name, QString("2-good.pdf")})
             m_folder->put(each.toStdString(), PdfBuilder::simple());
         const int listener = listenAt("socket");
-        const QStringList words{"run", "--jobs", "2", "--page-mode", "bookmarks", "--sandbox"};
-        const QStringList documents{"0-slow.pdf", name, "2-good.pdf"};
+        const QStringList words{"run",       "--jobs",   "2",      "--page-mode",
+                                "bookmarks", "--report", "report", "--sandbox"};
+        const QStringList documents{other, name, "2-good.pdf"};
 
         const Program kept(Program::Nothing, m_program,
                            words + QStringList{"require", "-o", "kept"} + documents);
@@ -125,13 +136,49 @@ private slots:
 
         const Program free(Program::Nothing, m_program, words + QStringList{"off", "-o", "free"} + documents);
         close(listener);
-        if (geteuid() != 0 && name.contains("traces"))
-            QSKIP("only root may trace any process here");
+        if (geteuid() != 0 && (name.contains("traces") || name.contains("grants")))
+            QSKIP("only root may do that here");
         if (name.contains("executes")) // another program, which reads no documents
             QVERIFY2(free.err.contains(": the worker process "), free.err);
         else
-            QCOMPARE(QString(free.err), QString());
+            QCOMPARE(QString(free.err),
+                     name.contains("empties") ? "failed: " + name + ": the file is empty\n" : QString());
         QCOMPARE(fs::exists("written"), name.contains("writes"));
+    }
+
+    /// A result of its own is written into a folder, but nothing else that is there is read, nor is more than
+    /// that folder written.
+    void reachesNothingBesideAResult_data()
+    {
+        const Rows<QString, QString> row; // the document, and its result
+        row("reads", "1-reads-key.pdf", "result.pdf");
+        row("writes", "1-writes-outside.pdf", "not/there/yet/result.pdf");
+    }
+
+    void reachesNothingBesideAResult()
+    {
+        const auto [document, result] = Rows<QString, QString>::current();
+        m_folder->put(document.toStdString(), PdfBuilder::simple());
+        const auto errors = [&, document = document, result = result](const QString& sandbox) {
+            return QString(
+                Program(Program::Nothing, m_program,
+                        {"run", "--page-mode", "bookmarks", "--sandbox", sandbox, "-o", result, document})
+                    .err);
+        };
+        QCOMPARE(errors("require"), "failed: " + document + ": " + denied + "\n");
+        QVERIFY(!fs::exists("written"));
+        QCOMPARE(errors("off"), QString());
+    }
+
+    void changesNoModeWhereNothingIsWritten()
+    {
+        m_folder->put("1-bares.pdf", PdfBuilder::simple());
+        const auto errors = [&](const QString& sandbox) {
+            return QString(
+                Program(Program::Nothing, m_program, {"show", "--sandbox", sandbox, "1-bares.pdf"}).err);
+        };
+        QCOMPARE(errors("require"), "quintar: 1-bares.pdf: " + calls("fchmod") + "\n");
+        QCOMPARE(errors("off"), QString());
     }
 
     void tellsWhatTheKernelLacks_data()
@@ -275,11 +322,11 @@ private:
         rules.allow(".ssh/id", Landlock::Access::Read);
         rules.allow("not there", Landlock::Access::Read);
         prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
-        return rules.enter() && opens("in/file", O_RDWR | O_TRUNC) && opens("in/new", O_WRONLY | O_CREAT) &&
-               opens(".ssh/id", O_RDONLY) && !opens(".ssh/id", O_RDWR) &&
-               !opens(".ssh/id2", O_RDWR | O_CREAT) && !opens("/proc/self/status", O_RDONLY) &&
-               !opens(".ssh", O_RDONLY) && rename("in/new", "in/newer") == 0 &&
-               rename("in/newer", "newer") != 0;
+        return rules.enter() && opens("in/file", O_WRONLY | O_TRUNC) && !opens("in/file", O_RDONLY) &&
+               opens("in/new", O_WRONLY | O_CREAT) && opens(".ssh/id", O_RDONLY) &&
+               !opens(".ssh/id", O_RDWR) && !opens(".ssh/id2", O_RDWR | O_CREAT) &&
+               !opens("/proc/self/status", O_RDONLY) && !opens(".ssh", O_RDONLY) &&
+               rename("in/new", "in/newer") == 0 && rename("in/newer", "newer") != 0;
     }
 
     std::optional<WorkFolder> m_folder;

@@ -106,12 +106,22 @@ private slots:
     {
         if (geteuid() == 0)
             QCOMPARE(chown("original", 1234, 2345), 0);
-        QCOMPARE(chmod("original", 02751), 0);
+        QCOMPARE(chmod("original", 01751), 0);
         QCOMPARE(give(FileAttributes::Take::All), std::string());
         const struct stat status = statusOf("target");
-        QCOMPARE(status.st_mode & 07777, 02751u);
+        QCOMPARE(status.st_mode & 07777, 01751u);
         QCOMPARE(status.st_uid, statusOf("original").st_uid);
         QCOMPARE(status.st_gid, statusOf("original").st_gid);
+    }
+
+    // What a file with these bits holds runs with its owner's rights.
+    void dropsRightsOfOwner()
+    {
+        for (const mode_t bit : {04000u, 02000u}) {
+            QCOMPARE(chmod("original", 0751 | bit), 0);
+            QCOMPARE(give(FileAttributes::Take::All), std::string("set-user-ID or set-group-ID"));
+            QCOMPARE(statusOf("target").st_mode & 07777, 0751u);
+        }
     }
 
     void keepsListAndExtendedAttributes()

@@ -1,10 +1,12 @@
 #include "host/cell/Cell.h"
+#include "host/cell/Sanitized.h"
 #include "host/workers/RunControl.h"
 #include "host/workers/SharedMemory.h"
 #include "host/workers/WorkerPool.h"
 #include "host/workers/WorkerSlot.h"
 #include "support/Rows.h"
 
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <array>
@@ -33,6 +35,13 @@ void waitUntilHeard()
 bool runOutOfMemory()
 {
     throw std::bad_alloc();
+}
+
+/// Which no limit of data counts.
+bool takesMemoryAsStack()
+{
+    return mmap(nullptr, std::size_t{2} << 30, PROT_READ | PROT_WRITE,
+                MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE | MAP_GROWSDOWN, -1, 0) != MAP_FAILED;
 }
 
 } // namespace
@@ -85,6 +94,9 @@ private slots:
         });
         row("out of memory in a destructor", 50, "the document needs more memory than there is",
             [](int) noexcept { return runOutOfMemory(); });
+        if (!sanitized)
+            row("taking memory as stacks", 50, "the document needs more memory than there is",
+                [](int) { return takesMemoryAsStack() || runOutOfMemory(); });
         // The program is busy with piece 100 for longer than a worker may take, which may not be ended for
         // it.
         row("busy program", 1, "did it", [](int piece) {
