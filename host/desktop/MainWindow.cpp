@@ -8,6 +8,7 @@
 #include "host/desktop/dialogs/HistoryDialog.h"
 #include "host/desktop/dialogs/StopQuestion.h"
 #include "host/desktop/list/DetailLine.h"
+#include "host/desktop/look/FirstSize.h"
 #include "host/desktop/look/PaneRing.h"
 #include "host/desktop/platform/DroppedNames.h"
 #include "host/desktop/platform/LauncherProgress.h"
@@ -21,7 +22,6 @@
 #include <QFrame>
 #include <QMenu>
 #include <QMimeData>
-#include <QScreen>
 #include <QStandardPaths>
 
 namespace host::desktop {
@@ -30,10 +30,6 @@ using Id = ActionTable::Id;
 using State = RunMachine::State;
 
 namespace {
-
-const QSize firstSize(1280, 880);
-/// For the frame that a window manager adds.
-const int frameRoom = 40;
 
 QWidget* line(QFrame::Shape shape)
 {
@@ -67,7 +63,7 @@ MainWindow::MainWindow(const Places& places)
     place();
     connectParts();
     connectActions();
-    resize(firstSize.boundedTo(screen()->availableSize() - QSize(frameRoom, frameRoom)));
+    resize(firstSize(*this, {1280, 880}));
     restoreGeometry(m_settings.value("window/geometry").toByteArray());
     m_splitter->restoreState(m_settings.value("window/splitter").toByteArray());
     m_actions[Id::ShowPreview]->setChecked(m_settings.value("window/preview", true).toBool());

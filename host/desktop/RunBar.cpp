@@ -92,6 +92,11 @@ void RunBar::connectParts()
             m_said.clear();
         show();
     });
+    connect(&m_workbench, &Workbench::draftChanged, this, [this] {
+        if (m_isTrouble) // which may have been with what is changed now
+            m_said.clear();
+        show();
+    });
     connect(&m_workbench, &Workbench::countsChanged, this, &RunBar::show);
     connect(&m_workbench, &Workbench::progressed, this, &RunBar::showProgress);
     connect(&m_workbench.machine(), &RunMachine::changed, this, [this] {
@@ -134,6 +139,7 @@ void RunBar::show()
     const bool areResults = state == State::Results;
     m_text->setText(textToShow());
     m_text->setToolTip(plaintext::tip(m_text->text()));
+    m_text->setAccessibleDescription(m_text->text());
     m_sign->setPixmap(drawings::icon(drawings::Sign::Warning, palette()).pixmap(16, 16));
     m_why->setText(areResults ? tr("Show %Ln Fa&iled", "", counts.failed) : tr("Show Wh&y"));
     m_pause->setText(state == State::Paused ? tr("Go &On") : tr("Pa&use"));
@@ -203,8 +209,8 @@ QString RunBar::countsInWords() const
     case State::Reading:
         return tr("Reading… %Ln document(s) so far", "", m_workbench.table().count());
     case State::Checking: {
-        const QString problem = m_workbench.destination().problem();
-        return !problem.isEmpty() ? problem : tr("Finding out what would change… %1").arg(done);
+        return m_workbench.problem().isEmpty() ? tr("Finding out what would change… %1").arg(done)
+                                               : m_workbench.problem();
     }
     case State::Ready:
         return plannedInWords(counts);

@@ -1,5 +1,6 @@
 #include "Report.h"
 
+#include "host/failures/Failure.h"
 #include "host/files/DiskFlush.h"
 #include "host/terminal/JsonLine.h"
 #include "host/terminal/UsageError.h"
@@ -197,8 +198,13 @@ int Report::leave()
 void Report::announce(const Line& line)
 {
     const std::string text = toJson(line, begun);
-    if (m_file.isOpen() && (!appendLine(m_file.get(), text) || !flushFile(m_file.get())))
-        throw std::runtime_error("the report " + m_path + " cannot be written: " + systemError(errno));
+    if (!m_file.isOpen() || (appendLine(m_file.get(), text) && flushFile(m_file.get())))
+        return;
+    Failure failure =
+        Failure::ofSystem(errno, ReasonCode::WriteFailed, "the report " + m_path + " cannot be written: ");
+    if (failure.code != ReasonCode::NoSpace)
+        failure.code = ReasonCode::WriteFailed; // others would be taken for the document's own
+    throw DocumentError(failure);
 }
 
 void Report::write(const std::string& line)

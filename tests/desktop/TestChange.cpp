@@ -2,6 +2,7 @@
 #include "host/desktop/change/RunOrder.h"
 #include "host/desktop/preview/PreviewScene.h"
 #include "host/desktop/workbench/RunMachine.h"
+#include "host/terminal/TerminalText.h"
 
 #include "pdflibrary/ViewNumbers.h"
 
@@ -120,14 +121,21 @@ private slots:
         order.draft.set(ViewEntry::Title, std::nullopt);
         order.destination = {Destination::Kind::Folder, "/out", {}};
         QCOMPARE(order.arguments("/d"),
-                 QStringList({"--page-mode", "use-outlines", "--output", "/out", "--base", "/d"}));
+                 QStringList({"--page-mode", "use-outlines", "--output", "/out/", "--base", "/d"}));
         QCOMPARE(order.resultOf("/d/e/b.pdf", "/d/"), QByteArray("/out/e/b.pdf"));
+        order.destination = {Destination::Kind::Suffix, {}, "new"};
+        QCOMPARE(order.resultOf("/d/e/b.PDF", "/d/"), QByteArray("/d/e/b-new.PDF"));
+        QCOMPARE(order.resultOf("/d.e/b", "/d/"), QByteArray("/d.e/b-new"));
+        order.destination = {Destination::Kind::Folder, "/out", {}};
+        for (const char* suffix : {"", "a/b", "-a", "a.pdf"})
+            QVERIFY(!Destination({Destination::Kind::Suffix, {}, suffix}).problem().isEmpty());
         DocumentTable table;
-        table.append({"/d/it's.pdf", "/d/e/b.pdf"});
+        table.append({"/d/it's.pdf", "/d/e/b.pdf", "/d/\xff/a.pdf"});
+        QCOMPARE(RunOrder::commonFolder(table, {3}), QString("/d/"));
         QCOMPARE(
             order.commandLine(table, {1, 2}),
             QString(
-                R"(quintar run --page-mode use-outlines --output /out --base /d/ '/d/it'\''s.pdf' /d/e/b.pdf)"));
+                R"(quintar run --page-mode use-outlines --output /out/ --base /d/ '/d/it'\''s.pdf' /d/e/b.pdf)"));
     }
 
     /// By a shell, over documents whose names are printed one a line.
@@ -136,16 +144,19 @@ private slots:
         QVector<QByteArray> paths;
         for (int place = 0; place < 30; ++place)
             paths += "/d/$it's `" + QByteArray::number(place) + "`.pdf";
-        paths += {"/d/\xff'.pdf", "/d/a\nb.pdf"};
+        paths += {"/d/\xff'.pdf", "/d/a\nb.pdf", "/d/\x1b[201~\r.pdf", "/d/\xe2\x80\xae.pdf"};
         DocumentTable table;
         const DocumentTable::Ids ids = table.append(paths);
         table.change(ids.at(3), [](DocumentRecord& record) { record.password = 0; });
         RunOrder order;
         order.draft.set(ViewEntry::PageMode, pdflibrary::BookmarksPanel);
+        const QString command = order.commandLine(table, ids);
+        for (const QChar each : command) // a terminal would take it for a key, or show something else
+            QVERIFY(each == '\n' || !misleads(each.unicode()));
         QProcess shell;
         shell.start("bash", {"-c", "quintar() { [[ \" $* \" == *' --files-from - '* ]] && cat; "
                                    "for each; do [[ $each == /* ]] && printf '%s\\0' \"$each\"; done; }\n" +
-                                       order.commandLine(table, ids)});
+                                       command});
         QVERIFY(shell.waitForFinished());
         QByteArray told = shell.readAllStandardOutput().replace(".pdf\n", QByteArray(".pdf\0", 5));
         QList<QByteArray> names = told.split('\0');

@@ -1,6 +1,7 @@
 #include "host/desktop/documents/EditHistory.h"
 #include "host/desktop/rows/DocumentOrder.h"
 #include "host/desktop/rows/RowTexts.h"
+#include "host/desktop/texts/ReasonTexts.h"
 
 #include <QJsonDocument>
 #include <QtTest>
@@ -75,6 +76,16 @@ private slots:
         QCOMPARE(namesOf(order), QStringList({"manual-10.pdf"}));
         QCOMPARE(order.selected(), Ids({1}));
         QCOMPARE(order.current(), 1);
+        filter.setSearch("9");
+        order.setFilter(filter);
+        QCOMPARE(order.selected(), Ids());
+        order.setFilter({});
+        QCOMPARE(order.selected(), Ids({1, 4}));
+        QCOMPARE(order.current(), 1);
+        order.setFilter(filter);
+        order.select({3}, 3); // as a person does, who means no others
+        order.setFilter({});
+        QCOMPARE(order.selected(), Ids({3}));
     }
 
     void leavesNewRowsAtTheEndUntilItIsQuiet()
@@ -139,6 +150,8 @@ private slots:
         QCOMPARE(rowtexts::spoken(record, Column::Name), QString("a.pdf, will change"));
         record.isAside = true;
         QCOMPARE(rowtexts::cell(record, Column::Panel).after, QString());
+        QVERIFY(reasontexts::textOf("internal", "no such thing").endsWith("(No such thing)"));
+        QVERIFY(!reasontexts::textOf("damaged", "no such thing").contains("such"));
     }
 
     void leavesOutWhatItDoesNotUnderstand()

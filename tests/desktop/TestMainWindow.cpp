@@ -13,7 +13,6 @@
 #include <QDesktopServices>
 #include <QHeaderView>
 #include <QMimeData>
-#include <QSessionManager>
 #include <QTextBrowser>
 #include <QtTest>
 
@@ -62,63 +61,13 @@ private slots:
         }
     }
 
-    void leavesASessionAloneThatItCannotRead()
-    {
-        read();
-        m_window.reset();
-        const QDir sessions(m_folder->filePath("sessions"));
-        QFile stored(sessions.filePath(sessions.entryList({"*.session"}).value(0)));
-        QVERIFY(stored.open(QIODevice::ReadWrite) && stored.resize(stored.size() - 1));
-        const QByteArray bytes = stored.readAll();
-        open();
-        QVERIFY(status().contains("left as it is"));
-        read();
-        m_window.reset();
-        QVERIFY(stored.seek(0));
-        QCOMPARE(stored.readAll(), bytes);
-        QCOMPARE(sessions.entryList({"*.session"}).size(), 2);
-    }
-
-    void tellsOnceThatItCannotKeepTheSession()
-    {
-        m_window.reset();
-        m_folder = std::make_unique<QTemporaryDir>();
-        QFile inTheWay(m_folder->filePath("sessions"));
-        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-        open();
-        read();
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("session: "));
-        QTRY_VERIFY(status().startsWith("List and change will not be there"));
-        choose("Panel", "Bookmarks");
-        m_window->workbench().start();
-        m_window.reset(); // silent by now
-    }
-
-    void keepsAllAndStopsARunBeforeALogout()
-    {
-        read();
-        choose("Panel", "Bookmarks");
-        QTRY_COMPARE(state(), State::Ready);
-        m_fake->plays("run", Fake::start() + "#hear stop\n" + Fake::changed(0) +
-                                 "{\"event\":\"end\",\"stopped\":true}\n");
-        m_window->workbench().start();
-        auto* manager = qApp->findChild<QSessionManager*>();
-        QVERIFY(manager != nullptr && !manager->allowsInteraction());
-        emit qApp->commitDataRequest(*manager);
-        QCOMPARE(state(), State::Results);
-        QCOMPARE(m_window->workbench().counts().changed, 1); // what was worked on is finished
-        QVERIFY(m_window->isVisible());
-        const QDir sessions(m_folder->filePath("sessions"));
-        QFile stored(sessions.filePath(sessions.entryList({"*.session"}).value(0)));
-        QVERIFY(stored.open(QIODevice::ReadOnly) && stored.readAll().contains("UseOutlines"));
-    }
-
     void takesWhatIsDroppedAndPasted()
     {
         QMimeData data;
-        data.setData("text/uri-list",
-                     "# from elsewhere\r\nfile:///d/b%FF%20c.pdf\r\nhttp://x/y.pdf\r\nfile://host/e\r\n");
-        QCOMPARE(droppednames::of(data), QVector<QByteArray>({"/d/b\xff c.pdf", "/e"}));
+        data.setData(
+            "text/uri-list",
+            "# from elsewhere\r\nfile:///d/b%FF%20c.pdf\r\nhttp://x/y.pdf\r\nfile://host/e\r\nfile:/f\r\n");
+        QCOMPARE(droppednames::of(data), QVector<QByteArray>({"/d/b\xff c.pdf", "/e", "/f"}));
         QDragEnterEvent enter(QPoint(5, 5), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton,
                               Qt::NoModifier);
         QApplication::sendEvent(m_window.get(), &enter);
@@ -128,7 +77,7 @@ private slots:
         QApplication::sendEvent(m_window.get(), &drop);
         QCOMPARE(drop.dropAction(), Qt::CopyAction);
         QTRY_COMPARE(state(), State::Listed);
-        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b\xff c.pdf", "/e"}));
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b\xff c.pdf", "/e", "/f"}));
 
         QApplication::clipboard()->setText("\"/p/one two.pdf\"\nnot a path\n");
         m_fake->plays("show",
@@ -279,8 +228,31 @@ private slots:
         QTest::keyClick(m_window.get(), Qt::Key_F6);
         for (QWidget* each : m_window->findChildren<QWidget*>())
             if (each->isVisible() && (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus &&
-                !each->inherits("QScrollArea") && !each->inherits("QMenuBar"))
+                !each->inherits("QMenuBar"))
                 QVERIFY2(!nameOf(each).isEmpty(), each->metaObject()->className());
+    }
+
+    void tellsScreenReadersWhatStandsThere()
+    {
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") +
+                                  Fake::document(0).replace("\"bookmarks\":3", "\"bookmarks\":0") +
+                                  Fake::end());
+        read();
+        choose("Panel", "Bookmarks");
+        QTRY_COMPARE(state(), State::Ready);
+        for (QComboBox* each :
+             m_window->findChildren<QComboBox*>()) // whose name is their value, for Qt on X11
+            QVERIFY2(!QAccessible::queryAccessibleInterface(each)->relations(QAccessible::Label).isEmpty(),
+                     qPrintable(each->objectName()));
+        for (const char* name : {"About the current document", "Status"})
+            QCOMPARE(find<QLabel>(name)->accessibleDescription(), find<QLabel>(name)->text());
+        QStringList stops;
+        for (QWidget* each = find<QComboBox>("Change for"); stops.value(0) != "Write to";
+             each = each->nextInFocusChain())
+            if (each->isVisible() && (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus)
+                stops.prepend(nameOf(each));
+        const int shown = stops.indexOf(QRegularExpression("^Show them: .*"));
+        QVERIFY2(shown > 0 && stops.indexOf("Panel") > shown, qPrintable(stops.join("; ")));
     }
 
     void choosesSortsAndMovesColumnsByKeys()
@@ -320,6 +292,8 @@ private slots:
 
     void writesToAFolder()
     {
+        m_fake->plays("show", Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::found(1, "/d/e/b.pdf") +
+                                  Fake::document(0) + Fake::document(1) + Fake::end());
         read();
         QVERIFY(!m_window->findChild<QAbstractButton*>("keepAllButton")->isEnabled());
         QVERIFY(!action("Keep All")->isEnabled());
@@ -329,7 +303,7 @@ private slots:
         QVERIFY(qApp->activeModalWidget() == nullptr);
         dialogs::setNextAnswer({"/out"});
         click("Choose the folder for the results");
-        QTRY_VERIFY(m_fake->starts().last().contains("--output /out --base /d/"));
+        QTRY_VERIFY(m_fake->starts().last().contains("--output /out/ --base /d/ "));
         QTRY_COMPARE(state(), State::Ready);
         QVERIFY(!button("Show Results")->isVisible());
         m_window->workbench().start();
@@ -342,6 +316,14 @@ private slots:
         click("Show Results");
         QDesktopServices::unsetUrlHandler("file");
         QCOMPARE(m_opened, QUrl("file:///out"));
+        click("Try Failed Again");
+        QTRY_COMPARE(m_fake->names(), QList<QByteArray>({"/d/e/b.pdf"}));
+        QVERIFY(m_fake->starts().last().contains("--base /d/ ")); // not the folder of what failed
+        QTRY_COMPARE(state(), State::Results);
+        m_window->workbench().setDestination({Destination::Kind::Folder, "/d/", {}});
+        QTRY_VERIFY(status().contains("lie in this folder"));
+        m_window->workbench().setDestination({Destination::Kind::Folder, "/out", {}});
+        QTRY_COMPARE(state(), State::Ready);
     }
 
     void asksBeforeItClosesARunAndKeepsTheRest()

@@ -64,6 +64,9 @@ private slots:
 
     void showsWhatReordersAsEscapes()
     {
+        ChangeDraft stored;
+        stored.setStored({"a\u202eb", {}, {}, {}});
+        QCOMPARE(stored.inWords(), QString("a\\u202eb"));
         read("/d/a\\u202efdp.pdf", "b\\u202e");
         QCOMPARE(bench().order().index(0, int(Column::Name)).data().toString(), QString("a\\u202efdp.pdf"));
         QCOMPARE(bench().order().index(0, int(Column::Title)).data().toString(), QString("b\\u202e"));
@@ -118,14 +121,18 @@ private slots:
         QTest::keyClick(m_window.get(), Qt::Key_Return, Qt::ControlModifier);
         QVERIFY(m_window->findChild<StartQuestion*>() == nullptr);
         QTRY_COMPARE(state(), State::Ready);
-        QVERIFY(m_fake->starts().last().contains("--output /outY "));
+        QVERIFY(m_fake->starts().last().contains("--output /outY/ "));
         folder->selectAll();
         QTest::keyClicks(folder, "out");
         QVERIFY(find<QLabel>("destinationNote")->text().contains("slash"));
+        emit bench().failed("quintar: no such thing");
+        QVERIFY(find<QLabel>("status")->text().contains("no such thing"));
         folder->selectAll();
         QTest::keyClicks(folder, "~/out");
         QTRY_COMPARE(state(), State::Ready);
-        QVERIFY(m_fake->starts().last().contains("--output " + QDir::homePath() + "/out "));
+        QVERIFY(m_fake->starts().last().contains("--output " + QDir::homePath() + "/out/ "));
+        QVERIFY(
+            find<QLabel>("status")->text().contains("1 will change")); // the trouble was with another folder
     }
 
     void showsTheColumnOfWhatIsChanged()

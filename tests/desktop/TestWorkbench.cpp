@@ -100,6 +100,55 @@ private slots:
         QVERIFY(m_bench->table().find(1)->facts);
     }
 
+    void saysThatNothingWasFound()
+    {
+        QSignalSpy failed(m_bench.get(), &Workbench::failed);
+        m_fake->plays("show", Fake::start() + Fake::end());
+        m_bench->add({"/empty"});
+        QTRY_COMPARE(failed.size(), 1);
+        QCOMPARE(state(), State::Empty);
+    }
+
+    void believesTheNamesThatAreFound()
+    {
+        read();
+        m_bench->setDraft(bookmarks());
+        QTRY_COMPARE(state(), State::Ready);
+        // The first one is a folder by now, which has another document.
+        m_fake->plays("run", Fake::start() + Fake::found(0, "/d/a.pdf/x.pdf") + Fake::found(1, "/d/b.pdf") +
+                                 Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
+        m_bench->start();
+        QTRY_COMPARE(state(), State::Results);
+        QCOMPARE(m_bench->table().find(1)->state(), DocumentRecord::State::NotDone);
+        QCOMPARE(m_bench->table().find(2)->state(), DocumentRecord::State::Failed);
+    }
+
+    void triesWhatWasGivenOnWhatComesLater()
+    {
+        m_fake->plays("show",
+                      Fake::start() + Fake::found(0, "/d/a.pdf") + Fake::failed(0, "password") + Fake::end());
+        read();
+        QSignalSpy failed(m_bench.get(), &Workbench::failed);
+        for (const char* password : {"wrong", "of others"}) {
+            m_bench->givePassword(password);
+            QTRY_COMPARE(failed.size(), 1);
+            failed.clear();
+        }
+        m_fake->plays("show",
+                      Fake::start() + Fake::found(0, "/d/b.pdf") + Fake::failed(0, "password") + Fake::end());
+        const int starts = m_fake->starts().size();
+        m_bench->add({"/d/b.pdf"});
+        QTRY_COMPARE(m_fake->starts().size(), starts + 3); // without one, and with each
+        QTRY_COMPARE(state(), State::Listed);
+        QCOMPARE(m_fake->names(), QList<QByteArray>({"/d/b.pdf"}));
+        QCOMPARE(m_fake->password(), QByteArray("of others\n"));
+        QCOMPARE(m_bench->table().find(2)->password, -1);
+        QVERIFY(failed.isEmpty()); // nobody asked
+        m_bench->readAgain({1, 2});
+        QTRY_COMPARE(m_fake->starts().size(), starts + 4);
+        QTRY_COMPARE(state(), State::Listed);
+    }
+
     /// What has no answer is not done, and the reason is told.
     void reckonsWithBadPrograms_data()
     {
@@ -122,7 +171,8 @@ private slots:
         m_bench->start();
         QTRY_COMPARE(state(), State::Results);
         QCOMPARE(failed.size(), 1);
-        QVERIFY(!failed.front().front().toString().isEmpty());
+        const QString words = failed.front().front().toString();
+        QVERIFY2(!words.isEmpty() && !words.startsWith("quintar:"), qPrintable(words));
         QVERIFY(m_bench->counts().notDone >= 1);
         QCOMPARE(m_bench->counts().changed + m_bench->counts().notDone, 2);
     }
@@ -288,6 +338,22 @@ private slots:
         QTRY_COMPARE(state(), State::Results);
         QCOMPARE(m_bench->history().runs().front().changed, -1);
         QCOMPARE(m_bench->undoableRun(), 0);
+    }
+
+    void tellsWhatRunsOfAWindowThatCrashedWere()
+    {
+        const auto write = [this](const char* name, const QByteArray& line) {
+            QFile report(m_reports->filePath(name));
+            QVERIFY(report.open(QIODevice::WriteOnly) && report.write(line) == line.size() &&
+                    report.flush() &&
+                    report.setFileTime(QDateTime::fromSecsSinceEpoch(1), QFileDevice::FileModificationTime));
+        };
+        write("2026-11-24T121417.277Z.jsonl", R"({"change":{"pageMode":"UseOutlines"},"inPlace":true})");
+        write("2026-11-24T121418.277Z.jsonl", R"({"change":null,"inPlace":false})");
+        const RunHistory history(m_reports->path());
+        QCOMPARE(history.newestUndoable(), 1); // what was written elsewhere needs no undoing
+        QCOMPARE(history.runs().at(1).what, QString("Broken off: Panel: Bookmarks"));
+        QVERIFY(!history.canUndo(0) && history.runs().at(0).what.contains("broken off"));
     }
 
     void forgetsAnEarlierCheckAtEachEdit()

@@ -55,7 +55,7 @@ const Row rows[] = {
     {Id::ShowInFolder, Menu::Document, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Show in &Folder"), "Ctrl+Shift+F", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Shows the current document in the file manager"), false},
     {Id::CopyPaths, Menu::Document, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Copy Paths"), "Ctrl+C", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Copies the paths of the selected documents"), false},
     {Id::Password, Menu::Document, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Give &Password…"), "", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Tries a password on all documents that want one"), true},
-    {Id::ReadAgain, Menu::Document, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Read A&gain"), "F5", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Reads all documents once more"), false},
+    {Id::ReadAgain, Menu::Document, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Read A&gain"), "F5", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Reads the documents that are shown once more"), false},
 
     {Id::LikeThis, Menu::Change, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "&Like This Document"), "Ctrl+L", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Makes documents open as the current one does"), false},
     {Id::Configure, Menu::Change, QT_TRANSLATE_NOOP("host::desktop::ActionTable", "C&onfigure the Action…"), "Ctrl+E", QT_TRANSLATE_NOOP("host::desktop::ActionTable", "Makes the settings in the action's own window"), false},

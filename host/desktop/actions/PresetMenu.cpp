@@ -9,10 +9,10 @@ using Id = ActionTable::Id;
 
 namespace {
 
-/// A name is no mnemonic.
-QString asMenuText(QString name)
+/// A name is no mnemonic, and what stands behind a tabulator is no key.
+QString asMenuText(const QString& name)
 {
-    return name.replace('&', "&&");
+    return plaintext::shown(name).replace('&', "&&");
 }
 
 QString helpOf(const Preset& preset)

@@ -1,6 +1,7 @@
 #include "ChangeDraft.h"
 
 #include "host/change/ViewValues.h"
+#include "host/desktop/texts/PlainText.h"
 #include "host/desktop/texts/ViewTexts.h"
 
 #include <QCoreApplication>
@@ -68,7 +69,7 @@ QStringList ChangeDraft::arguments() const
 QString ChangeDraft::inWords() const
 {
     if (m_stored)
-        return m_stored->name;
+        return plaintext::shown(m_stored->name);
     QStringList texts;
     for (const viewentries::Description& each : viewentries::all())
         if (const auto& value = m_view[each.entry])

@@ -7,7 +7,10 @@ namespace host::desktop {
 
 QString Destination::folderPath() const
 {
-    return folder == "~" || folder.startsWith("~/") ? QDir::homePath() + folder.mid(1) : folder;
+    QString path = folder == "~" || folder.startsWith("~/") ? QDir::homePath() + folder.mid(1) : folder;
+    while (path.size() > 1 && path.endsWith('/'))
+        path.chop(1);
+    return path;
 }
 
 QString Destination::problem() const
@@ -20,6 +23,9 @@ QString Destination::problem() const
         return QCoreApplication::translate("Destination", "Say what is added to the names.");
     if (kind == Kind::Suffix && suffix.contains('/'))
         return QCoreApplication::translate("Destination", "What is added to the names cannot hold a slash.");
+    if (kind == Kind::Suffix && (suffix.startsWith('-') || suffix.endsWith(".pdf", Qt::CaseInsensitive)))
+        return QCoreApplication::translate("Destination",
+                                           "Leave out the hyphen and .pdf: they are added anyway.");
     return {};
 }
 
@@ -29,7 +35,7 @@ QStringList Destination::arguments(const QString& base) const
     case Kind::InPlace:
         return {"--in-place"};
     case Kind::Folder:
-        return {"--output", folderPath(), "--base", base};
+        return {"--output", folderPath() + "/", "--base", base}; // a folder, whatever its name ends in
     case Kind::Suffix:
         return {"--suffix", suffix};
     }

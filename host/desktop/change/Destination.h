@@ -14,7 +14,7 @@ struct Destination
     QString folder;
     QString suffix = QStringLiteral("new");
 
-    /// The folder as it was typed, with the home folder in the place of "~/".
+    /// The folder as it was typed, with the home folder in the place of "~/", and without a slash at its end.
     QString folderPath() const;
     /// Empty, or what is missing before a run can begin; for people.
     QString problem() const;

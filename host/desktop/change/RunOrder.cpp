@@ -1,8 +1,11 @@
 #include "RunOrder.h"
 
+#include "host/desktop/texts/PlainText.h"
 #include "host/desktop/texts/ViewTexts.h"
+#include "host/files/Paths.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -12,12 +15,19 @@ namespace {
 
 const int mostNamed = 20;
 
-/// As a shell understands it: in single quotes if need be, and what is no text by its bytes.
+/// What is no text, or would lead a terminal or its reader astray: some control characters end a paste or begin the
+/// command before it is read.
+bool isPlain(const QByteArray& word)
+{
+    const QString text = QString::fromUtf8(word);
+    return text.toUtf8() == word && plaintext::shown(text) == text;
+}
+
+/// As a shell understands it: in single quotes if need be, and what is not plain by its bytes.
 QString quoted(const QByteArray& word)
 {
     static const QRegularExpression plain("^[A-Za-z0-9_@%+=:,./-]+$");
-    const QString text = QString::fromUtf8(word);
-    if (text.toUtf8() == word && !word.contains('\n')) {
+    if (const QString text = QString::fromUtf8(word); isPlain(word)) {
         QString inner = text;
         return plain.match(text).hasMatch() ? text : "'" + inner.replace("'", "'\\''") + "'";
     }
@@ -27,17 +37,12 @@ QString quoted(const QByteArray& word)
     return "$'" + bytes + "'";
 }
 
-bool fitsALine(const QByteArray& path)
-{
-    return QString::fromUtf8(path).toUtf8() == path && !path.contains('\n');
-}
-
 /// Many names follow the command, a line each, so that it can be read.
 void name(const QVector<QByteArray>& paths, bool isInputFree, QStringList& words, QStringList& lines)
 {
     QStringList below;
     for (const QByteArray& path : paths)
-        if (isInputFree && paths.size() > mostNamed && fitsALine(path))
+        if (isInputFree && paths.size() > mostNamed && isPlain(path))
             below += QString::fromUtf8(path);
         else
             words += quoted(path);
@@ -45,6 +50,12 @@ void name(const QVector<QByteArray>& paths, bool isInputFree, QStringList& words
         return;
     words += "--files-from - <<'END'";
     lines += below + QStringList{"END"};
+}
+
+/// \param folder ends in a slash, as what is returned does.
+QByteArray above(const QByteArray& folder)
+{
+    return folder.left(folder.lastIndexOf('/', -2) + 1);
 }
 
 bool isTyped(ViewEntry entry, const std::optional<ViewValue>& before, const std::optional<ViewValue>& after)
@@ -86,6 +97,16 @@ QStringList RunOrder::arguments(const QString& base) const
     return draft.arguments() + destination.arguments(base);
 }
 
+QString RunOrder::problem(const QString& base) const
+{
+    const bool isSource = destination.kind == Destination::Kind::Folder &&
+                          QDir::cleanPath(destination.folderPath()) == QDir::cleanPath(base);
+    return isSource ? QCoreApplication::translate(
+                          "RunOrder", "The documents themselves lie in this folder. Choose another one, or "
+                                      "write to the documents themselves.")
+                    : destination.problem();
+}
+
 QString RunOrder::commonFolder(const DocumentTable& table, const DocumentTable::Ids& ids)
 {
     QByteArray common;
@@ -99,8 +120,10 @@ QString RunOrder::commonFolder(const DocumentTable& table, const DocumentTable::
             common = folder;
         isFirst = false;
         while (!common.isEmpty() && !folder.startsWith(common))
-            common = common.left(common.lastIndexOf('/', -2) + 1);
+            common = above(common);
     }
+    while (QFile::encodeName(QFile::decodeName(common)) != common) // no option could hold it
+        common = above(common);
     return QFile::decodeName(common.isEmpty() ? QByteArray("/") : common);
 }
 
@@ -112,8 +135,8 @@ QByteArray RunOrder::resultOf(const QByteArray& path, const QString& base) const
     case Destination::Kind::Folder:
         return QFile::encodeName(destination.folderPath()) + "/" + path.mid(QFile::encodeName(base).size());
     case Destination::Kind::Suffix: {
-        const auto dot = path.lastIndexOf('.');
-        return path.left(dot) + "-" + QFile::encodeName(destination.suffix) + path.mid(dot);
+        const auto stem = static_cast<int>(endOfStem(path.toStdString()));
+        return path.left(stem) + "-" + QFile::encodeName(destination.suffix) + path.mid(stem);
     }
     }
     return path;

@@ -16,7 +16,9 @@ struct RunOrder
 
     /// The program's options, without those about documents, reports and output.
     QStringList arguments(const QString& base) const;
-    /// The deepest folder in which all of the documents lie.
+    /// Empty, or why no run can begin over the documents; for people. \param base as for arguments().
+    QString problem(const QString& base) const;
+    /// The deepest folder in which all of the documents lie, and whose name is text.
     static QString commonFolder(const DocumentTable& table, const DocumentTable::Ids& ids);
     /// Where the result of a document goes. \param base as for arguments().
     QByteArray resultOf(const QByteArray& path, const QString& base) const;

@@ -3,6 +3,7 @@
 #include "EventReader.h"
 
 #include <QElapsedTimer>
+#include <QRegularExpression>
 
 namespace host::desktop {
 
@@ -124,6 +125,13 @@ void ChildRun::breakOff(const QString& reason)
     m_process->kill();
 }
 
+/// What it said, without the name that each line begins with on a terminal, where several programs speak.
+QString ChildRun::errorsInWords() const
+{
+    static const QRegularExpression name("^quintar: (note: )?", QRegularExpression::MultilineOption);
+    return QString::fromLocal8Bit(m_errors).remove(name).trimmed();
+}
+
 /// What it said last may still wait to be read.
 void ChildRun::end()
 {
@@ -136,7 +144,7 @@ void ChildRun::finish()
     m_tick.stop();
     m_ending.isComplete = m_ending.isComplete && !m_isBroken;
     if (m_ending.words.isEmpty())
-        m_ending.words = QString::fromLocal8Bit(m_errors).trimmed();
+        m_ending.words = errorsInWords();
     if (m_ending.words.isEmpty() && !m_ending.isComplete && !m_ending.wasStopped)
         m_ending.words = m_process->exitStatus() == QProcess::CrashExit
                              ? tr("%1 crashed").arg(m_process->program())

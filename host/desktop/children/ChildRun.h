@@ -46,6 +46,7 @@ private:
     void tick();
     bool take();
     void keepErrors();
+    QString errorsInWords() const;
     void breakOff(const QString& reason);
     void end();
     void finish();

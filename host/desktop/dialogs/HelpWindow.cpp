@@ -1,5 +1,7 @@
 #include "HelpWindow.h"
 
+#include "host/desktop/look/FirstSize.h"
+
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -16,7 +18,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window), m_text(ne
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_text);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    resize(720, 760);
+    resize(firstSize(*this, {720, 760}));
 }
 
 void HelpWindow::showSettings()

@@ -1,5 +1,7 @@
 #include "HistoryDialog.h"
 
+#include "host/desktop/look/FirstSize.h"
+
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -46,7 +48,7 @@ HistoryDialog::HistoryDialog(RunHistory& history, QWidget* parent)
     column->addWidget(text);
     column->addWidget(m_table, 1);
     column->addWidget(buttons);
-    resize(860, 420);
+    resize(firstSize(*this, {860, 420}));
 }
 
 void HistoryDialog::fillTable()

@@ -3,9 +3,10 @@
 #include "host/desktop/look/PlainLabel.h"
 
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <unistd.h>
 
 namespace host::desktop {
 
@@ -14,14 +15,14 @@ namespace {
 /// How many of the results are there already.
 int replaced(Workbench& workbench)
 {
-    const QString base = RunOrder::commonFolder(workbench.table(), workbench.targets());
+    const QString base = workbench.base();
     int count = 0;
     for (const DocumentId id : workbench.targets()) {
         const DocumentRecord* record = workbench.table().find(id);
         if (record == nullptr || !record->check || record->check->isTrouble())
             continue;
         const QByteArray result = workbench.runOrder().resultOf(record->path, base);
-        count += result != record->path && QFile::exists(QFile::decodeName(result)) ? 1 : 0;
+        count += result != record->path && access(result.constData(), F_OK) == 0 ? 1 : 0;
     }
     return count;
 }

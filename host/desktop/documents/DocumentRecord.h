@@ -50,6 +50,8 @@ struct DocumentRecord
     std::shared_ptr<const Outcome> result;
     /// Which of the session's passwords opens it; -1 for none.
     int password = -1;
+    /// How many of them it was read with, from the first one on.
+    int passwordsTried = 0;
     /// The change is not for it now, so its check is not shown.
     bool isAside = false;
     Signed howSigned = Signed::Refuse;

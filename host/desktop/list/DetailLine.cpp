@@ -63,6 +63,7 @@ void DetailLine::show()
     m_remedy->setToolTip(reason);
     m_remedy->setText(reasontexts::buttonOf(m_kind));
     m_text->setText(record != nullptr ? textOf(*record) : tr("Select a document to see how it opens."));
+    m_text->setAccessibleDescription(m_text->text()); // its name says what it is about
 }
 
 } // namespace host::desktop

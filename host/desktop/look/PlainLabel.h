@@ -20,6 +20,16 @@ public:
         align();
     }
 
+    /// What stands above or before a part of the window.
+    static PlainLabel* heading(const QString& text, QWidget* parent)
+    {
+        auto* label = new PlainLabel(text, parent);
+        QFont font = label->font();
+        font.setWeight(QFont::DemiBold);
+        label->setFont(font);
+        return label;
+    }
+
 protected:
     void changeEvent(QEvent* event) override
     {

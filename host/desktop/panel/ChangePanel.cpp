@@ -14,15 +14,6 @@ namespace {
 const int spacing = 8;
 const int margin = 12;
 
-QLabel* heading(const QString& text, QWidget* parent)
-{
-    auto* label = new QLabel(text, parent);
-    QFont font = label->font();
-    font.setWeight(QFont::DemiBold);
-    label->setFont(font);
-    return label;
-}
-
 /// A line that says something is wrong: a sign, words, and perhaps a button.
 QWidget* warningLine(const ChangeWarning& warning, QWidget* parent, const std::function<void()>& show)
 {
@@ -67,8 +58,7 @@ Qt::ArrowType foldedArrow(const QWidget* widget)
 
 ChangePanel::ChangePanel(Workbench& workbench, QWidget* parent)
     : QWidget(parent), m_workbench(workbench), m_scope(new QComboBox(this)), m_presets(new QToolButton(this)),
-      m_reset(new QPushButton(tr("&Keep All"), this)), m_warnings(new QVBoxLayout),
-      m_destination(new DestinationRow(this))
+      m_reset(new QPushButton(tr("&Keep All"), this)), m_warnings(new QVBoxLayout), m_destination(nullptr)
 {
     m_scope->setObjectName("scope");
     m_presets->setObjectName("presetsButton");
@@ -81,13 +71,9 @@ ChangePanel::ChangePanel(Workbench& workbench, QWidget* parent)
     column->addWidget(makeStored(), 1);
     m_warnings->setSpacing(4);
     column->addLayout(m_warnings);
-    auto* where = new QHBoxLayout;
-    auto* label = heading(tr("&Write to"), this);
-    label->setBuddy(m_destination->findChild<QComboBox*>());
-    where->addWidget(label, 0, Qt::AlignTop);
-    where->addSpacing(margin);
-    where->addWidget(m_destination, 1);
-    column->addLayout(where);
+    m_destination =
+        new DestinationRow(this); // after the settings, so that the tabulator comes to it after them
+    column->addWidget(m_destination);
 
     m_destination->setDestination(workbench.destination());
     connect(m_destination, &DestinationRow::edited, &workbench, &Workbench::setDestination);
@@ -100,7 +86,7 @@ ChangePanel::ChangePanel(Workbench& workbench, QWidget* parent)
 
 QLayout* ChangePanel::makeHead()
 {
-    auto* label = heading(tr("Cha&nge for"), this);
+    auto* label = PlainLabel::heading(tr("Cha&nge for"), this);
     label->setBuddy(m_scope);
     m_scope->setAccessibleName(tr("Change for"));
     m_scope->setWhatsThis(
@@ -149,6 +135,7 @@ QWidget* ChangePanel::makeSettings()
              false);
     column->addStretch();
     area->setWidget(inside);
+    area->setFocusPolicy(Qt::NoFocus); // it scrolls to the setting that has the focus
     m_settings = area;
     return area;
 }
@@ -199,8 +186,7 @@ QWidget* ChangePanel::makeStored()
     m_stored = new QWidget(this);
     auto* column = new QVBoxLayout(m_stored);
     column->setContentsMargins(0, 0, 0, 0);
-    m_storedName = heading({}, m_stored);
-    m_storedName->setTextFormat(Qt::PlainText);
+    m_storedName = PlainLabel::heading({}, m_stored);
     m_storedLines = new PlainLabel(m_stored);
     m_storedLines->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
     m_storedLines->setWordWrap(true);
@@ -243,7 +229,7 @@ void ChangePanel::show()
     m_settings->setVisible(!stored);
     m_stored->setVisible(stored.has_value());
     if (stored) {
-        m_storedName->setText(stored->name);
+        m_storedName->setText(m_workbench.draft().inWords());
         m_storedLines->setText(stored->lines.join('\n'));
     }
     m_configure->setEnabled(isOpen);
@@ -275,9 +261,15 @@ void ChangePanel::showWarnings(const SelectionSummary& summary)
         item->widget()->deleteLater();
         delete item;
     }
-    for (const ChangeWarning& warning : m_shownWarnings)
-        m_warnings->addWidget(
-            warningLine(warning, this, [this, warning] { emit showWanted(*warning.show); }));
+    QWidget* last = m_configure;
+    for (const ChangeWarning& warning : m_shownWarnings) {
+        QWidget* line = warningLine(warning, this, [this, warning] { emit showWanted(*warning.show); });
+        m_warnings->addWidget(line);
+        if (auto* button = line->findChild<QToolButton*>()) {
+            setTabOrder(last, button);
+            last = button;
+        }
+    }
 }
 
 } // namespace host::desktop

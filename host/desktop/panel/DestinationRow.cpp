@@ -58,12 +58,18 @@ void DestinationRow::layOutParts()
     where->addWidget(m_folder);
     where->addWidget(m_choose);
     where->addWidget(m_suffix);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = new QVBoxLayout;
     column->setSpacing(6);
     column->addWidget(m_kind);
     column->addLayout(where);
     column->addWidget(m_note);
+    auto* label = PlainLabel::heading(tr("&Write to"), this);
+    label->setBuddy(m_kind); // screen readers take it from a label beside it only
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(label, 0, Qt::AlignTop);
+    row->addSpacing(12);
+    row->addLayout(column, 1);
 }
 
 Destination DestinationRow::destination() const

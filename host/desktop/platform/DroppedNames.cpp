@@ -8,12 +8,14 @@ namespace host::desktop::droppednames {
 
 namespace {
 
-const QByteArray scheme = "file://";
+const QByteArray scheme = "file:/";
 
-/// QUrl would replace bytes that are no text. A host's name, which may stand before the path, is passed over.
+/// QUrl would replace bytes that are no text. A host's name, which may stand before the path, is passed over; some
+/// programs write no place for one.
 QByteArray pathOf(const QByteArray& address)
 {
-    const int slash = address.indexOf('/', scheme.size());
+    const int behind = scheme.size();
+    const int slash = address.mid(behind, 1) == "/" ? address.indexOf('/', behind + 1) : behind - 1;
     return slash < 0 ? QByteArray() : QByteArray::fromPercentEncoding(address.mid(slash));
 }
 

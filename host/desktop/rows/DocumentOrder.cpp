@@ -7,6 +7,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 
 namespace host::desktop {
 
@@ -48,6 +49,7 @@ DocumentOrder::DocumentOrder(DocumentTable& table, QObject* parent)
     connect(&table, &DocumentTable::appended, this, &DocumentOrder::takeAppended);
     connect(&table, &DocumentTable::changed, this, &DocumentOrder::takeChanged);
     connect(&table, &DocumentTable::rearranged, this, &DocumentOrder::refresh);
+    connect(&m_selection, &QItemSelectionModel::selectionChanged, this, &DocumentOrder::forgetHidden);
     connect(&m_selection, &QItemSelectionModel::selectionChanged, this, &DocumentOrder::selectionMoved);
     connect(&m_selection, &QItemSelectionModel::currentRowChanged, this, &DocumentOrder::selectionMoved);
 }
@@ -263,17 +265,31 @@ QModelIndexList DocumentOrder::movedIndexes(const QModelIndexList& old, const Id
 
 void DocumentOrder::replace(Ids ids)
 {
-    const Ids chosen = selected();
-    const DocumentId focus = current();
+    const Ids chosen = selected() + m_hidden;
+    const DocumentId focus = current() != 0 ? current() : m_hiddenCurrent;
+    m_isReplacing = true;
     emit aboutToRearrange();
     beginResetModel();
     m_shown = std::move(ids);
     number();
     endResetModel();
     select(chosen, focus);
+    m_isReplacing = false;
+    const auto isHidden = [this](DocumentId id) { return rowOf(id) < 0 && m_table.find(id) != nullptr; };
+    m_hidden.clear();
+    std::copy_if(chosen.begin(), chosen.end(), std::back_inserter(m_hidden), isHidden);
+    m_hiddenCurrent = isHidden(focus) ? focus : 0;
     emit rearranged();
     emit shownChanged();
     emit selectionMoved();
+}
+
+void DocumentOrder::forgetHidden()
+{
+    if (m_isReplacing)
+        return;
+    m_hidden.clear();
+    m_hiddenCurrent = 0;
 }
 
 void DocumentOrder::number()

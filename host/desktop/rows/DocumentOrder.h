@@ -11,7 +11,8 @@
 namespace host::desktop {
 
 /// The documents that are shown, in their order. Selection and current row belong to documents and stay with
-/// them, however the rows are sorted and filtered.
+/// them, however the rows are sorted; what a filter hides is selected again when it is shown again, unless something
+/// else has been selected meanwhile.
 class DocumentOrder : public QAbstractTableModel
 {
     Q_OBJECT
@@ -64,6 +65,7 @@ private:
     void refresh();
     void arrange(Ids& ids) const;
     void replace(Ids ids);
+    void forgetHidden();
     void moveTo(Ids ids);
     void number();
     QModelIndexList movedIndexes(const QModelIndexList& old, const Ids& ids) const;
@@ -73,6 +75,10 @@ private:
     Ids m_shown;
     QHash<DocumentId, int> m_rows;
     QItemSelectionModel m_selection;
+    /// What was selected, and the current one of it, when a filter hid them.
+    Ids m_hidden;
+    DocumentId m_hiddenCurrent = 0;
+    bool m_isReplacing = false;
     int m_sortColumn = 0;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     QTimer m_quiet;

@@ -80,6 +80,12 @@ std::optional<QJsonObject> stored(const QString& path)
     return json.isObject() ? std::optional(json.object()) : std::nullopt;
 }
 
+bool isPrepared(const QJsonObject& object)
+{
+    return !object.value("documents").toArray().isEmpty() ||
+           !draftFrom(object.value("draft").toObject()).isEmpty();
+}
+
 } // namespace
 
 Session::Session(Workbench& workbench, const QString& folder, QObject* parent)
@@ -110,10 +116,12 @@ void Session::begin(const QVector<QByteArray>& paths)
         m_workbench.addAgain(earlier + paths);
 }
 
+/// The newest one that no window has, and has something prepared: one that was opened and closed meanwhile hides none.
 /// \returns the documents that were in its list.
 QVector<QByteArray> Session::restore()
 {
     const QDir folder(m_folder);
+    QJsonObject found;
     for (const QString& name : folder.entryList({"*.session"}, QDir::Files, QDir::Time)) {
         auto lock = std::make_unique<QLockFile>(folder.filePath(name + ".lock"));
         lock->setStaleLockTime(0);
@@ -125,10 +133,16 @@ QVector<QByteArray> Session::restore()
                             .arg(folder.filePath(name)));
             continue;
         }
-        m_lock = std::move(lock);
-        m_file = folder.filePath(name);
-        return takeOver(*object);
+        if (m_file.isEmpty() || isPrepared(*object)) {
+            m_lock = std::move(lock);
+            m_file = folder.filePath(name);
+            found = *object;
+        }
+        if (isPrepared(found))
+            break;
     }
+    if (!m_file.isEmpty())
+        return takeOver(found);
     m_file = folder.filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + ".session");
     m_lock = std::make_unique<QLockFile>(m_file + ".lock");
     m_lock->tryLock();

@@ -60,7 +60,9 @@ void DocumentTask::startPart()
     if (m_parts.empty())
         return emit finished({true, false, {}, {}});
     const Part& next = m_parts.front();
-    m_answered.assign(static_cast<std::size_t>(next.ids.size()), false);
+    m_found.clear();
+    m_answered.clear();
+    m_told.clear();
     QStringList words = arguments(next);
     words += {"--events", "--control"};
     if (const QVector<QByteArray> list = names(next); !list.isEmpty()) {
@@ -99,10 +101,10 @@ void DocumentTask::takeOne(const Event& event)
         return takeElsewhere(*result);
     if (id == 0)
         return;
-    m_answered.resize(static_cast<std::size_t>(underWay().size()));
-    if (!m_answered[static_cast<std::size_t>(number)])
+    if (!m_answered.contains(number))
         countDone();
-    m_answered[static_cast<std::size_t>(number)] = true;
+    m_answered.insert(number);
+    m_told.insert(id);
     if (document != nullptr)
         takeDocument(id, *document);
     else
@@ -111,12 +113,15 @@ void DocumentTask::takeOne(const Event& event)
 
 DocumentId DocumentTask::idOf(int number) const
 {
-    return m_parts.empty() ? 0 : m_parts.front().ids.value(number);
+    return m_parts.empty() ? 0 : m_found.value(number, m_parts.front().ids.value(number));
 }
 
 void DocumentTask::takeDocument(DocumentId, const DocumentEvent&) {}
 
-void DocumentTask::takeFound(const FoundEvent&) {}
+void DocumentTask::takeFound(const FoundEvent& event)
+{
+    m_found.insert(event.number, m_table.idOf(event.path));
+}
 
 void DocumentTask::takeElsewhere(const ResultEvent&) {}
 
@@ -138,12 +143,11 @@ void DocumentTask::endPart(const ChildRun::Ending& ending)
 
 void DocumentTask::leavePart(const ChildRun::Ending& ending)
 {
-    m_answered.resize(static_cast<std::size_t>(underWay().size()));
-    for (int number = 0; number < underWay().size(); ++number)
-        if (!m_answered[static_cast<std::size_t>(number)])
-            leave(underWay().at(number), ending);
+    for (const DocumentId id : underWay())
+        if (!m_told.contains(id))
+            leave(id, ending);
     m_parts.pop_front();
-    m_answered.clear();
+    m_told.clear();
 }
 
 void DocumentTask::end(const ChildRun::Ending& ending)

@@ -6,6 +6,9 @@
 #include "host/desktop/children/HandedFile.h"
 #include "host/desktop/documents/DocumentTable.h"
 
+#include <QHash>
+#include <QSet>
+
 #include <deque>
 
 namespace host::desktop {
@@ -55,6 +58,8 @@ protected:
     virtual QVector<QByteArray> names(const Part& part) const;
     virtual void takeResult(DocumentId id, const ResultEvent& event) = 0;
     virtual void takeDocument(DocumentId id, const DocumentEvent& event);
+    /// By default, which document of the list a number stands for: a name that was given may be a folder's by now, so
+    /// that others are found in its place, or none.
     virtual void takeFound(const FoundEvent& event);
     /// A result whose number belongs to no document of the list.
     virtual void takeElsewhere(const ResultEvent& event);
@@ -79,7 +84,10 @@ private:
     DocumentTable& m_table;
     Means m_means;
     std::deque<Part> m_parts;
-    std::vector<bool> m_answered;
+    /// By numbers, where they are not those of the names that were given.
+    QHash<int, DocumentId> m_found;
+    QSet<int> m_answered;
+    QSet<DocumentId> m_told;
     HandedFile m_names;
     HandedFile m_password;
     ChildRun* m_child = nullptr;

@@ -22,8 +22,11 @@ QVector<QByteArray> Reading::names(const Part& part) const
 /// A document that is in the list already has its answer there; the number is used up all the same.
 void Reading::takeFound(const FoundEvent& event)
 {
-    if (m_paths.isEmpty() || event.number != underWay().size())
+    if (m_paths.isEmpty())
+        return DocumentTask::takeFound(event);
+    if (event.number != underWay().size())
         return;
+    countMore();
     const DocumentTable::Ids ids = table().append({event.path});
     underWay().append(ids.isEmpty() ? table().idOf(event.path) : ids.front());
     if (ids.isEmpty())

@@ -9,9 +9,9 @@ Running::Running(Mode mode, const RunOrder& order, const QString& reports, Docum
     : DocumentTask(table, means, parent), m_mode(mode), m_order(order), m_folder(reports)
 {}
 
-void Running::start(const DocumentTable::Ids& ids)
+void Running::start(const DocumentTable::Ids& ids, const QString& base)
 {
-    m_base = RunOrder::commonFolder(table(), ids);
+    m_base = base;
     for (const DocumentId id : ids)
         table().change(id, [this](DocumentRecord& record) {
             record.result.reset();

@@ -20,7 +20,8 @@ public:
     const RunOrder& order() const { return m_order; }
     /// The reports that were begun.
     const QStringList& reports() const { return m_reports; }
-    void start(const DocumentTable::Ids& ids);
+    /// \param base the folder below which results in a folder keep their paths.
+    void start(const DocumentTable::Ids& ids, const QString& base);
 
 protected:
     QStringList arguments(const Part& part) override;

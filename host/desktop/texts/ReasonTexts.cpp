@@ -90,12 +90,14 @@ QString translate(const char* text)
 
 QString textOf(const QString& code, const QString& words)
 {
-    if (const Reason* known = find(code))
-        return translate(known->text);
-    QString sentence = plaintext::shown(words.simplified());
-    if (!sentence.isEmpty())
-        sentence[0] = sentence[0].toUpper();
-    return sentence;
+    QString own = plaintext::shown(words.simplified());
+    if (!own.isEmpty())
+        own[0] = own[0].toUpper();
+    const Reason* known = find(code);
+    if (known == nullptr)
+        return own;
+    const bool tellsOwn = code == "internal" && !own.isEmpty(); // who reports a mistake needs them
+    return tellsOwn ? translate(known->text) + " (" + own + ")" : translate(known->text);
 }
 
 QString briefly(const QString& code)

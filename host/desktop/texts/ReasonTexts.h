@@ -8,7 +8,8 @@ namespace host::desktop::reasontexts {
 /// What helps against a reason.
 enum class Remedy { None, Password, AppendSigned, AppendCertified, ReadAgain, ShowFolder };
 
-/// The user's words for the program's code; for a code that is not known, the program's own words.
+/// The user's words for the program's code; the program's own words for a code that is not known, and behind them for a
+/// mistake of the program, which is to be reported.
 QString textOf(const QString& code, const QString& words);
 
 /// A word or two for counting documents: "44 signed".

@@ -215,6 +215,10 @@
         <source>The folder has to begin with a slash or with ~/.</source>
         <translation>Der Ordner muss mit einem Schrägstrich oder mit ~/ beginnen.</translation>
     </message>
+    <message>
+        <source>Leave out the hyphen and .pdf: they are added anyway.</source>
+        <translation>Bindestrich und .pdf weglassen: Sie werden ohnehin ergänzt.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -643,6 +647,10 @@
     <message>
         <source>Write to</source>
         <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>The documents themselves lie in this folder. Choose another one, or write to the documents themselves.</source>
+        <translation>Die Dokumente selbst liegen in diesem Ordner. Wählen Sie einen anderen, oder schreiben Sie in die Dokumente selbst.</translation>
     </message>
 </context>
 <context>
@@ -1142,10 +1150,6 @@
         <translation>&amp;Neu einlesen</translation>
     </message>
     <message>
-        <source>Reads all documents once more</source>
-        <translation>Liest alle Dokumente noch einmal ein</translation>
-    </message>
-    <message>
         <source>&amp;Like This Document</source>
         <translation>&amp;Wie dieses Dokument</translation>
     </message>
@@ -1337,6 +1341,10 @@
         <source>Opens the folder that the run has written into</source>
         <translation>Öffnet den Ordner, in den der Durchlauf geschrieben hat</translation>
     </message>
+    <message>
+        <source>Reads the documents that are shown once more</source>
+        <translation>Liest die angezeigten Dokumente noch einmal ein</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1351,10 +1359,6 @@
     <message>
         <source>&amp;Keep All</source>
         <translation>Nich&amp;ts ändern</translation>
-    </message>
-    <message>
-        <source>&amp;Write to</source>
-        <translation>Schre&amp;iben</translation>
     </message>
     <message>
         <source>Cha&amp;nge for</source>
@@ -1611,6 +1615,10 @@
     <message>
         <source>Choose…</source>
         <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>&amp;Write to</source>
+        <translation>Schre&amp;iben</translation>
     </message>
 </context>
 <context>
@@ -2260,6 +2268,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
         <source>nothing to undo</source>
         <translation>nichts rückgängig zu machen</translation>
     </message>
+    <message>
+        <source>Broken off: %1</source>
+        <translation>Abgerissen: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunMachine</name>
@@ -2488,6 +2500,10 @@ Ziehen Sie Dokumente oder Ordner hierher. Nichts wird geändert, bevor Sie es st
     <message>
         <source>Reading was stopped. What was not found until then is not in the list.</source>
         <translation>Das Einlesen wurde abgebrochen. Was bis dahin nicht gefunden war, steht nicht in der Liste.</translation>
+    </message>
+    <message>
+        <source>No PDF document was found there.</source>
+        <translation>Dort wurde kein PDF-Dokument gefunden.</translation>
     </message>
 </context>
 </TS>

@@ -215,6 +215,10 @@
         <source>The folder has to begin with a slash or with ~/.</source>
         <translation>La carpeta debe empezar por una barra o por ~/.</translation>
     </message>
+    <message>
+        <source>Leave out the hyphen and .pdf: they are added anyway.</source>
+        <translation>Omita el guion y .pdf: se añaden de todos modos.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -643,6 +647,10 @@
     <message>
         <source>Write to</source>
         <translation>Escribir</translation>
+    </message>
+    <message>
+        <source>The documents themselves lie in this folder. Choose another one, or write to the documents themselves.</source>
+        <translation>Los propios documentos están en esta carpeta. Elija otra o escriba en los propios documentos.</translation>
     </message>
 </context>
 <context>
@@ -1142,10 +1150,6 @@
         <translation>&amp;Leer de nuevo</translation>
     </message>
     <message>
-        <source>Reads all documents once more</source>
-        <translation>Lee otra vez todos los documentos</translation>
-    </message>
-    <message>
         <source>&amp;Like This Document</source>
         <translation>&amp;Como este documento</translation>
     </message>
@@ -1337,6 +1341,10 @@
         <source>Opens the folder that the run has written into</source>
         <translation>Abre la carpeta en la que escribió la ejecución</translation>
     </message>
+    <message>
+        <source>Reads the documents that are shown once more</source>
+        <translation>Lee otra vez los documentos mostrados</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1351,10 +1359,6 @@
     <message>
         <source>&amp;Keep All</source>
         <translation>Mantener &amp;todo</translation>
-    </message>
-    <message>
-        <source>&amp;Write to</source>
-        <translation>Escri&amp;bir</translation>
     </message>
     <message>
         <source>Cha&amp;nge for</source>
@@ -1611,6 +1615,10 @@
     <message>
         <source>Choose…</source>
         <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>&amp;Write to</source>
+        <translation>Escri&amp;bir</translation>
     </message>
 </context>
 <context>
@@ -2260,6 +2268,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
         <source>nothing to undo</source>
         <translation>nada que deshacer</translation>
     </message>
+    <message>
+        <source>Broken off: %1</source>
+        <translation>Interrumpida: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunMachine</name>
@@ -2488,6 +2500,10 @@ Suelte aquí documentos o carpetas. No se cambia nada hasta que usted lo inicie.
     <message>
         <source>Reading was stopped. What was not found until then is not in the list.</source>
         <translation>La lectura se detuvo. Lo que aún no se había encontrado no está en la lista.</translation>
+    </message>
+    <message>
+        <source>No PDF document was found there.</source>
+        <translation>No se encontró allí ningún documento PDF.</translation>
     </message>
 </context>
 </TS>

@@ -215,6 +215,10 @@
         <source>The folder has to begin with a slash or with ~/.</source>
         <translation>Le dossier doit commencer par une barre oblique ou par ~/.</translation>
     </message>
+    <message>
+        <source>Leave out the hyphen and .pdf: they are added anyway.</source>
+        <translation>Omettez le trait d’union et .pdf : ils sont ajoutés de toute façon.</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -643,6 +647,10 @@
     <message>
         <source>Write to</source>
         <translation>Écrire</translation>
+    </message>
+    <message>
+        <source>The documents themselves lie in this folder. Choose another one, or write to the documents themselves.</source>
+        <translation>Les documents eux-mêmes se trouvent dans ce dossier. Choisissez-en un autre, ou écrivez dans les documents eux-mêmes.</translation>
     </message>
 </context>
 <context>
@@ -1142,10 +1150,6 @@
         <translation>&amp;Relire</translation>
     </message>
     <message>
-        <source>Reads all documents once more</source>
-        <translation>Relit tous les documents</translation>
-    </message>
-    <message>
         <source>&amp;Like This Document</source>
         <translation>&amp;Comme ce document</translation>
     </message>
@@ -1337,6 +1341,10 @@
         <source>Opens the folder that the run has written into</source>
         <translation>Ouvre le dossier dans lequel le traitement a écrit</translation>
     </message>
+    <message>
+        <source>Reads the documents that are shown once more</source>
+        <translation>Relit les documents affichés</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1351,10 +1359,6 @@
     <message>
         <source>&amp;Keep All</source>
         <translation>Tout conser&amp;ver</translation>
-    </message>
-    <message>
-        <source>&amp;Write to</source>
-        <translation>&amp;Écrire</translation>
     </message>
     <message>
         <source>Cha&amp;nge for</source>
@@ -1611,6 +1615,10 @@
     <message>
         <source>Choose…</source>
         <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>&amp;Write to</source>
+        <translation>&amp;Écrire</translation>
     </message>
 </context>
 <context>
@@ -2260,6 +2268,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
         <source>nothing to undo</source>
         <translation>rien à annuler</translation>
     </message>
+    <message>
+        <source>Broken off: %1</source>
+        <translation>Interrompu : %1</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunMachine</name>
@@ -2488,6 +2500,10 @@ Déposez ici des documents ou des dossiers. Rien n’est modifié avant que vous
     <message>
         <source>Reading was stopped. What was not found until then is not in the list.</source>
         <translation>La lecture a été arrêtée. Ce qui n’avait pas encore été trouvé ne figure pas dans la liste.</translation>
+    </message>
+    <message>
+        <source>No PDF document was found there.</source>
+        <translation>Aucun document PDF n’y a été trouvé.</translation>
     </message>
 </context>
 </TS>

@@ -211,6 +211,10 @@
         <source>The folder has to begin with a slash or with ~/.</source>
         <translation>フォルダーはスラッシュまたは ~/ で始めてください。</translation>
     </message>
+    <message>
+        <source>Leave out the hyphen and .pdf: they are added anyway.</source>
+        <translation>ハイフンと .pdf は自動的に付くので、入力しないでください。</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>
@@ -636,6 +640,10 @@
     <message>
         <source>Write to</source>
         <translation>書き込み先</translation>
+    </message>
+    <message>
+        <source>The documents themselves lie in this folder. Choose another one, or write to the documents themselves.</source>
+        <translation>このフォルダーには文書そのものがあります。別のフォルダーを選ぶか、文書そのものに書き込んでください。</translation>
     </message>
 </context>
 <context>
@@ -1135,10 +1143,6 @@
         <translation>再読み込み(&amp;G)</translation>
     </message>
     <message>
-        <source>Reads all documents once more</source>
-        <translation>すべての文書をもう一度読み込みます</translation>
-    </message>
-    <message>
         <source>&amp;Like This Document</source>
         <translation>この文書と同じにする(&amp;L)</translation>
     </message>
@@ -1330,6 +1334,10 @@
         <source>Opens the folder that the run has written into</source>
         <translation>実行の書き込み先フォルダーを開きます</translation>
     </message>
+    <message>
+        <source>Reads the documents that are shown once more</source>
+        <translation>表示中の文書をもう一度読み込みます</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::ChangePanel</name>
@@ -1344,10 +1352,6 @@
     <message>
         <source>&amp;Keep All</source>
         <translation>すべて維持(&amp;K)</translation>
-    </message>
-    <message>
-        <source>&amp;Write to</source>
-        <translation>書き込み先(&amp;W)</translation>
     </message>
     <message>
         <source>Cha&amp;nge for</source>
@@ -1600,6 +1604,10 @@
     <message>
         <source>Choose…</source>
         <translation>選択…</translation>
+    </message>
+    <message>
+        <source>&amp;Write to</source>
+        <translation>書き込み先(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -2228,6 +2236,10 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
         <source>nothing to undo</source>
         <translation>取り消すものなし</translation>
     </message>
+    <message>
+        <source>Broken off: %1</source>
+        <translation>途中で終わった実行: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::desktop::RunMachine</name>
@@ -2447,6 +2459,10 @@ Drop documents or folders here. Nothing is changed before you start it.</source>
     <message>
         <source>Reading was stopped. What was not found until then is not in the list.</source>
         <translation>読み込みを中止しました。それまでに見つからなかったものは一覧にありません。</translation>
+    </message>
+    <message>
+        <source>No PDF document was found there.</source>
+        <translation>そこに PDF 文書は見つかりませんでした。</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace host::desktop {
 
 bool PasswordTrial::isWanted(const DocumentRecord& record)
@@ -10,17 +12,21 @@ bool PasswordTrial::isWanted(const DocumentRecord& record)
     return code == "password" || code == "permission";
 }
 
-DocumentTable::Ids PasswordTrial::begin(DocumentTable& table, int password)
+DocumentTable::Ids PasswordTrial::begin(DocumentTable& table, int password, On which)
 {
     m_before.clear();
+    m_which = which;
     DocumentTable::Ids ids;
     for (const DocumentRecord& record : table.records())
-        if (isWanted(record)) {
+        if (isWanted(record) && (which == On::All || record.passwordsTried <= password)) {
             ids.append(record.id);
             m_before.insert(record.id, record);
         }
     for (const DocumentId id : ids)
-        table.change(id, [password](DocumentRecord& record) { record.password = password; });
+        table.change(id, [password](DocumentRecord& record) {
+            record.password = password;
+            record.passwordsTried = std::max(record.passwordsTried, password + 1);
+        });
     return ids;
 }
 
@@ -50,6 +56,8 @@ std::pair<QString, bool> PasswordTrial::end(const DocumentTable& table)
                 record->facts && !before.facts; // though it may want the owner's to be changed
             ++(isRead || !isWanted(*record) ? opened : closed);
         }
+    if (opened == 0 && m_which == On::NewOnes)
+        return {};
     if (opened == 0)
         return {QCoreApplication::translate("PasswordTrial",
                                             "The password opens none of the %Ln document(s) that want one.",
@@ -57,7 +65,7 @@ std::pair<QString, bool> PasswordTrial::end(const DocumentTable& table)
                 false};
     QString text =
         QCoreApplication::translate("PasswordTrial", "The password opens %Ln document(s).", "", opened);
-    if (closed > 0)
+    if (closed > 0 && m_which == On::All) // others may open them yet
         text += " " +
                 QCoreApplication::translate("PasswordTrial", "%Ln document(s) want another one.", "", closed);
     return {text, true};

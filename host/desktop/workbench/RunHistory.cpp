@@ -1,7 +1,11 @@
 #include "RunHistory.h"
 
+#include "host/change/ViewJson.h"
+#include "host/desktop/change/ChangeDraft.h"
+#include "host/desktop/change/Destination.h"
 #include "host/desktop/texts/PlainText.h"
 #include "host/files/FileDescriptor.h"
+#include "host/terminal/UsageError.h"
 
 #include <QDir>
 #include <QFile>
@@ -79,13 +83,31 @@ bool isUnderWay(const QString& report)
     return file.get() >= 0 && flock(file.get(), LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
-/// A report that no note tells of: its window has crashed.
+/// Empty for settings that are no view, and for what no run has written.
+QString changeIn(const QJsonObject& start)
+{
+    ChangeDraft draft;
+    try {
+        draft.setView(viewjson::parse(start.value("change").toObject()));
+    } catch (const UsageError&) { // the report of another version
+    }
+    return draft.inWords();
+}
+
+/// A report that no note tells of: its window has crashed. Its first line says what the run was to do.
 RunHistory::Run fromReport(const QString& path)
 {
     RunHistory::Run run;
+    QFile file(path);
+    const bool isOpen = file.open(QIODevice::ReadOnly);
+    const QJsonObject start =
+        QJsonDocument::fromJson(isOpen ? file.readLine(largestNote) : QByteArray()).object();
+    const QString what = changeIn(start);
     run.when = timeOf(QFileInfo(path).completeBaseName());
-    run.what = RunHistory::tr("A run that was broken off");
-    run.isInPlace = true;
+    run.what = what.isEmpty() ? RunHistory::tr("A run that was broken off")
+                              : RunHistory::tr("Broken off: %1").arg(what);
+    run.isInPlace = start.value("inPlace").toBool(true);
+    run.where = run.isInPlace ? Destination().inWords() : QString();
     run.changed = -1;
     run.reports = QStringList{path};
     run.note = QString(path).replace(".jsonl", ".json");

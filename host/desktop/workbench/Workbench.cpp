@@ -243,6 +243,7 @@ void Workbench::edited()
         return;
     if (state == State::Checking)
         dropTask();
+    m_problem.clear();
     if (m_runOrder.draft.isEmpty() || m_targets.isEmpty()) {
         m_checkSoon.stop();
         m_machine.handle(Step::Cleared);
@@ -282,7 +283,9 @@ void Workbench::check()
 {
     if (m_machine.state() != State::Checking)
         return;
-    if (const QString problem = m_runOrder.destination.problem(); !problem.isEmpty()) {
+    const QString folder = base();
+    m_problem = m_runOrder.problem(folder);
+    if (!m_problem.isEmpty()) {
         emit countsChanged();
         return;
     }
@@ -295,7 +298,7 @@ void Workbench::check()
     std::stable_partition(ids.begin(), ids.end(), [&first](DocumentId id) { return first.contains(id); });
     auto* trial = new Running(Running::Mode::Try, m_runOrder, {}, m_table, means(), this);
     begin(trial, &Workbench::endChecking);
-    trial->start(ids);
+    trial->start(ids, folder);
 }
 
 void Workbench::begin(DocumentTask* task, void (Workbench::*end)(const ChildRun::Ending&))
@@ -320,6 +323,7 @@ void Workbench::endReading(const ChildRun::Ending& ending)
     const auto* reading = qobject_cast<const Reading*>(m_task.data());
     const int known = reading->known();
     const bool wasLooking = !reading->paths().isEmpty();
+    const bool isNoneFound = wasLooking && reading->total() == 0;
     if (!ending.isComplete && !ending.wasStopped)
         m_unread = reading->paths();
     m_task->deleteLater();
@@ -330,6 +334,8 @@ void Workbench::endReading(const ChildRun::Ending& ending)
         emit said(tr("Reading was stopped. What was not found until then is not in the list."));
     else if (known > 0)
         emit said(tr("%Ln document(s) were in the list already.", "", known));
+    else if (isNoneFound)
+        emit failed(tr("No PDF document was found there."));
     m_passwordTrial.restore(m_table);
     m_machine.handle(m_table.count() > 0 ? Step::Read : Step::Emptied);
     m_order.settle();
@@ -337,6 +343,8 @@ void Workbench::endReading(const ChildRun::Ending& ending)
     emit progressed();
     edited();
     tellOfPassword();
+    if (ending.isComplete && !ending.wasStopped)
+        tryKnownPasswords();
 }
 
 void Workbench::endChecking(const ChildRun::Ending& ending)
@@ -354,6 +362,8 @@ void Workbench::endChecking(const ChildRun::Ending& ending)
     emit progressed();
     emit countsChanged();
     tellOfPassword();
+    if (ending.isComplete && !ending.wasStopped)
+        tryKnownPasswords();
 }
 
 Workbench::Counts Workbench::counts() const

@@ -79,6 +79,10 @@ public:
     /// Without a step that could be undone, as what an earlier session had prepared.
     void restore(const RunOrder& order);
     const RunOrder& runOrder() const { return m_runOrder; }
+    /// The folder below which results in a folder keep their paths.
+    QString base() const { return RunOrder::commonFolder(m_table, startable()); }
+    /// Empty, or why it cannot be found out what would change.
+    const QString& problem() const { return m_problem; }
 
     Scope scope() const { return m_scope; }
     void setScope(Scope scope);
@@ -144,10 +148,11 @@ private:
     void addWaiting();
     void addBy(Reading* reading, const QVector<QByteArray>& paths);
     void startReading(Reading* reading);
-    void run(const Ids& ids);
+    void run(const Ids& ids, const QString& base);
     void writeDown(const Running& running, bool isComplete);
     void follow();
     void tellOfPassword();
+    void tryKnownPasswords();
     DocumentTask::Means means() const { return {m_program, m_passwords}; }
 
     QString m_program;
@@ -159,8 +164,10 @@ private:
     Passwords m_passwords;
     PasswordTrial m_passwordTrial;
     RunOrder m_runOrder;
+    QString m_problem;
     /// Of the run whose results are shown.
     RunOrder m_lastOrder;
+    QString m_lastBase;
     Scope m_scope = Scope::Automatic;
     Ids m_targets;
     /// Of the run whose results are shown.

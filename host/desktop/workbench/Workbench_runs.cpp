@@ -14,7 +14,7 @@ using State = RunMachine::State;
 void Workbench::start()
 {
     if (m_machine.isEnabled(Command::Start))
-        run(startable());
+        run(startable(), base());
 }
 
 void Workbench::tryAgain()
@@ -26,10 +26,10 @@ void Workbench::tryAgain()
         if (record.result && (record.result->isTrouble() || record.result->kind == Outcome::Kind::NotDone))
             ids.append(record.id);
     if (!ids.isEmpty())
-        run(ids);
+        run(ids, m_lastBase); // where the others have been written
 }
 
-void Workbench::run(const Ids& ids)
+void Workbench::run(const Ids& ids, const QString& base)
 {
     auto* running = new Running(Running::Mode::Do, m_runOrder, m_history.folder(), m_table, means(), this);
     if (!QDir().mkpath(m_history.folder())) {
@@ -38,11 +38,12 @@ void Workbench::run(const Ids& ids)
             tr("Nothing is begun: the folder for reports cannot be made: %1").arg(m_history.folder()));
     }
     m_lastOrder = m_runOrder;
+    m_lastBase = base;
     if (m_machine.state() != State::Results)
         m_lastNote.clear();
     begin(running, &Workbench::endRunning);
     m_machine.handle(Step::Started);
-    running->start(ids);
+    running->start(ids, base);
 }
 
 void Workbench::pause()
@@ -183,7 +184,7 @@ void Workbench::appendAllTheSame(const Ids& ids)
     if (again.isEmpty())
         return;
     if (m_machine.state() == State::Results)
-        run(again);
+        run(again, m_lastBase);
     else
         edited();
 }
@@ -193,7 +194,7 @@ void Workbench::givePassword(const QByteArray& password)
     if (!m_machine.isEnabled(Command::Remove))
         return;
     dropTask();
-    const Ids ids = m_passwordTrial.begin(m_table, m_passwords.add(password));
+    const Ids ids = m_passwordTrial.begin(m_table, m_passwords.add(password), PasswordTrial::On::All);
     if (ids.isEmpty())
         return emit said(tr("No document of the list wants a password."));
     readAgain(ids);
@@ -205,7 +206,19 @@ void Workbench::tellOfPassword()
     if (!m_passwordTrial.isUnderWay() || m_machine.state() == State::Checking)
         return;
     const auto& [text, hasOpened] = m_passwordTrial.end(m_table);
-    hasOpened ? emit said(text) : emit failed(text);
+    if (!text.isEmpty())
+        hasOpened ? emit said(text) : emit failed(text);
+}
+
+/// What came since they were given, or has turned out to want one since, asks nobody again.
+void Workbench::tryKnownPasswords()
+{
+    if (m_passwordTrial.isUnderWay())
+        return;
+    for (int password = 0; password < m_passwords.count(); ++password)
+        if (const Ids ids = m_passwordTrial.begin(m_table, password, PasswordTrial::On::NewOnes);
+            !ids.isEmpty())
+            return readAgain(ids);
 }
 
 } // namespace host::desktop

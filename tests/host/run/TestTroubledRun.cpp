@@ -61,6 +61,12 @@ private slots:
             QVERIFY(!fs::exists("disk/out/a.pdf"));
             QCOMPARE(strays(), QStringList());
         }
+        put("b.pdf", original);
+        const ProgramRun run = apply({"--in-place", "--events", "--report", "disk/report", "b.pdf"});
+        QVERIFY2(run.out.contains("report cannot be written: no space left") &&
+                     run.out.contains("\"noSpace\""),
+                 run.out);
+        QVERIFY(contentOf("b.pdf") == original);
     }
 
     void survivesAFullReport()
