@@ -9,6 +9,7 @@ void DocumentOptions::take(OptionParser& parser)
 {
     m_password.take(parser);
     m_list.take(parser);
+    parser.takeFlag("no-folders", m_refusesFolders);
 }
 
 bool DocumentOptions::haveStandardInput(const std::vector<std::string>& words)
@@ -42,11 +43,17 @@ void DocumentOptions::read(const std::vector<std::string>& words)
     m_filesRead.push_back(m_list.file());
 }
 
+void DocumentOptions::addTo(RunPlan& plan) const
+{
+    const auto folders = m_refusesFolders ? RunPlan::Folders::Refused : RunPlan::Folders::Searched;
+    for (const std::string& input : m_inputs)
+        input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input, folders);
+}
+
 RunPlan DocumentOptions::planForReading(RunPlan::Found found) const
 {
     RunPlan plan(RunDestination::none(), std::move(found));
-    for (const std::string& input : m_inputs)
-        input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input);
+    addTo(plan);
     return plan;
 }
 

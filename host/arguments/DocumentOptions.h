@@ -28,6 +28,8 @@ public:
 
     /// Documents and folders: those that are named by themselves, and then those of the list.
     const std::vector<std::string>& inputs() const { return m_inputs; }
+    /// Throws UsageError.
+    void addTo(RunPlan& plan) const;
     /// The documents for a command that only reads them. Throws UsageError.
     RunPlan planForReading(RunPlan::Found found) const;
     /// Whether an option names it; documents may come from it as well.
@@ -39,6 +41,7 @@ public:
 private:
     PasswordOptions m_password;
     ListOptions m_list;
+    bool m_refusesFolders = false;
     std::vector<std::string> m_inputs;
     std::vector<std::string> m_filesRead;
 };

@@ -232,8 +232,7 @@ RunPlan RunCommand::plan(const RunDestination& destination)
 {
     m_live.begin(name(), m_documentOptions.inputs(), m_reportFile.value_or(""));
     RunPlan plan(destination, m_live.found());
-    for (const std::string& input : m_documentOptions.inputs())
-        input == RunDestination::standardStream ? plan.addStandardInput() : plan.add(input);
+    m_documentOptions.addTo(plan);
     const std::vector<std::string> filesRead = this->filesRead();
     plan.checkTargets(filesRead);
     if (!m_options.dryRun) // which writes nothing

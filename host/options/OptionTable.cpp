@@ -89,6 +89,9 @@ const std::vector<Option> optionRows{
      Files, {}, {Undo}, Group::Documents, rare},
     {"null", 0, "", "the names in that list end with NUL instead", "",
      Nothing, {}, {Run, Show, Check, Undo}, Group::Documents, rare},
+    {"no-folders", 0, "", "takes every name for a document's",
+     "a folder fails, and is not searched for documents",
+     Nothing, {}, {Run, Show, Check}, Group::Documents, rare},
 
     {"signed", 0, "HOW", "what becomes of signed documents",
      "refused (the default), or changed by an update behind what is signed; certified ones with append-certified only",

@@ -23,13 +23,15 @@ const int mostSuggestions = 10;
 
 } // namespace
 
-void RunPlan::add(const std::string& path)
+void RunPlan::add(const std::string& path, Folders folders)
 {
     if (path.empty())
         throw UsageError("a document's name is empty");
     struct stat status;
     if (stat(path.c_str(), &status) != 0)
         append({path, {}, whyMissing(path, errno)});
+    else if (S_ISDIR(status.st_mode) && folders == Folders::Refused)
+        append({path, {}, Failure::ofSystem(EISDIR, ReasonCode::NotAFile)});
     else if (S_ISDIR(status.st_mode))
         addFolder(withoutTrailingSlashes(path));
     else if (!S_ISREG(status.st_mode))

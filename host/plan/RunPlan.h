@@ -36,8 +36,13 @@ public:
         : m_destination(std::move(destination)), m_found(std::move(found))
     {}
 
+    enum class Folders {
+        Searched, ///< For documents.
+        Refused,  ///< Such a name is a document that cannot be worked on.
+    };
+
     /// Adds a document, or the documents in a folder.
-    void add(const std::string& path);
+    void add(const std::string& path, Folders folders = Folders::Searched);
     /// Adds the document that comes from standard input. Throws UsageError when its result has no place.
     void addStandardInput();
 

@@ -91,6 +91,26 @@ private slots:
         QVERIFY(QFile::exists(folder.path("out/one/a.pdf")) && QFile::exists(folder.path("out/two/a.pdf")));
         QCOMPARE(bench.undoableRun(), -1);
     }
+
+    void leavesAloneWhatIsNotInTheList()
+    {
+        const WorkFolder folder;
+        WorkFolder::put("a.pdf", manual(""));
+        WorkFolder::put("b.pdf", manual(""));
+        Workbench bench(PROGRAM_FILE, folder.path("runs"));
+        ChangeDraft draft;
+        draft.set(ViewEntry::DisplayDocTitle, 1);
+        bench.setDraft(draft);
+        bench.add({folder.path("a.pdf").toUtf8(), folder.path("b.pdf").toUtf8()});
+        QTRY_COMPARE_WITH_TIMEOUT(bench.machine().state(), State::Ready, 30000);
+        QVERIFY(QFile::remove("a.pdf"));
+        WorkFolder::put("a.pdf/x.pdf", manual(""));
+        bench.start();
+        QTRY_COMPARE_WITH_TIMEOUT(bench.machine().state(), State::Results, 30000);
+        QVERIFY(WorkFolder::contentOf("a.pdf/x.pdf") == manual(""));
+        QCOMPARE(bench.table().find(1)->state(), DocumentRecord::State::Failed);
+        QCOMPARE(bench.table().find(2)->state(), DocumentRecord::State::Changed);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestWindowOnDocuments)

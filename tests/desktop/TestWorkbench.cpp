@@ -51,8 +51,8 @@ private slots:
 
         m_bench->start();
         QTRY_COMPARE(state(), State::Results);
-        QVERIFY(m_fake->starts().last().startsWith("run --page-mode use-outlines --in-place --report " +
-                                                   m_reports->path()));
+        QVERIFY(m_fake->starts().last().startsWith(
+            "run --no-folders --page-mode use-outlines --in-place --report " + m_reports->path()));
         QCOMPARE(m_bench->counts().changed, 1);
         QCOMPARE(m_bench->counts().failed, 1);
         QCOMPARE(m_bench->undoableRun(), 0);
@@ -107,20 +107,6 @@ private slots:
         m_bench->add({"/empty"});
         QTRY_COMPARE(failed.size(), 1);
         QCOMPARE(state(), State::Empty);
-    }
-
-    void believesTheNamesThatAreFound()
-    {
-        read();
-        m_bench->setDraft(bookmarks());
-        QTRY_COMPARE(state(), State::Ready);
-        // The first one is a folder by now, which has another document.
-        m_fake->plays("run", Fake::start() + Fake::found(0, "/d/a.pdf/x.pdf") + Fake::found(1, "/d/b.pdf") +
-                                 Fake::changed(0) + Fake::failed(1, "signed") + Fake::end());
-        m_bench->start();
-        QTRY_COMPARE(state(), State::Results);
-        QCOMPARE(m_bench->table().find(1)->state(), DocumentRecord::State::NotDone);
-        QCOMPARE(m_bench->table().find(2)->state(), DocumentRecord::State::Failed);
     }
 
     void triesWhatWasGivenOnWhatComesLater()

@@ -42,8 +42,8 @@ void Outline::ask()
     m_asked = m_wanted;
     m_askedFacts = m_wantedFacts;
     m_names = HandedFile::ofNames(QVector<QByteArray>{m_asked});
-    QStringList words{"show",      "--outline",    QString::number(mostBookmarks), "--events",
-                      "--control", "--files-from", m_names.pathForChild(),         "--null"};
+    QStringList words{"show",         "--outline",    QString::number(mostBookmarks), "--events", "--control",
+                      "--no-folders", "--files-from", m_names.pathForChild(),         "--null"};
     m_passwordFile = {};
     if (!m_password.isEmpty()) {
         m_passwordFile = HandedFile::ofPassword(m_password);

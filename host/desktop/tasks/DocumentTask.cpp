@@ -60,9 +60,7 @@ void DocumentTask::startPart()
     if (m_parts.empty())
         return emit finished({true, false, {}, {}});
     const Part& next = m_parts.front();
-    m_found.clear();
-    m_answered.clear();
-    m_told.clear();
+    m_answered.assign(static_cast<std::size_t>(next.ids.size()), false);
     QStringList words = arguments(next);
     words += {"--events", "--control"};
     if (const QVector<QByteArray> list = names(next); !list.isEmpty()) {
@@ -101,10 +99,10 @@ void DocumentTask::takeOne(const Event& event)
         return takeElsewhere(*result);
     if (id == 0)
         return;
-    if (!m_answered.contains(number))
+    m_answered.resize(static_cast<std::size_t>(underWay().size()));
+    if (!m_answered[static_cast<std::size_t>(number)])
         countDone();
-    m_answered.insert(number);
-    m_told.insert(id);
+    m_answered[static_cast<std::size_t>(number)] = true;
     if (document != nullptr)
         takeDocument(id, *document);
     else
@@ -113,15 +111,12 @@ void DocumentTask::takeOne(const Event& event)
 
 DocumentId DocumentTask::idOf(int number) const
 {
-    return m_parts.empty() ? 0 : m_found.value(number, m_parts.front().ids.value(number));
+    return m_parts.empty() ? 0 : m_parts.front().ids.value(number);
 }
 
 void DocumentTask::takeDocument(DocumentId, const DocumentEvent&) {}
 
-void DocumentTask::takeFound(const FoundEvent& event)
-{
-    m_found.insert(event.number, m_table.idOf(event.path));
-}
+void DocumentTask::takeFound(const FoundEvent&) {}
 
 void DocumentTask::takeElsewhere(const ResultEvent&) {}
 
@@ -143,11 +138,12 @@ void DocumentTask::endPart(const ChildRun::Ending& ending)
 
 void DocumentTask::leavePart(const ChildRun::Ending& ending)
 {
-    for (const DocumentId id : underWay())
-        if (!m_told.contains(id))
-            leave(id, ending);
+    m_answered.resize(static_cast<std::size_t>(underWay().size()));
+    for (int number = 0; number < underWay().size(); ++number)
+        if (!m_answered[static_cast<std::size_t>(number)])
+            leave(underWay().at(number), ending);
     m_parts.pop_front();
-    m_told.clear();
+    m_answered.clear();
 }
 
 void DocumentTask::end(const ChildRun::Ending& ending)

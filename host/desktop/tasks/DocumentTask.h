@@ -6,9 +6,6 @@
 #include "host/desktop/children/HandedFile.h"
 #include "host/desktop/documents/DocumentTable.h"
 
-#include <QHash>
-#include <QSet>
-
 #include <deque>
 
 namespace host::desktop {
@@ -58,8 +55,6 @@ protected:
     virtual QVector<QByteArray> names(const Part& part) const;
     virtual void takeResult(DocumentId id, const ResultEvent& event) = 0;
     virtual void takeDocument(DocumentId id, const DocumentEvent& event);
-    /// By default, which document of the list a number stands for: a name that was given may be a folder's by now, so
-    /// that others are found in its place, or none.
     virtual void takeFound(const FoundEvent& event);
     /// A result whose number belongs to no document of the list.
     virtual void takeElsewhere(const ResultEvent& event);
@@ -84,10 +79,7 @@ private:
     DocumentTable& m_table;
     Means m_means;
     std::deque<Part> m_parts;
-    /// By numbers, where they are not those of the names that were given.
-    QHash<int, DocumentId> m_found;
-    QSet<int> m_answered;
-    QSet<DocumentId> m_told;
+    std::vector<bool> m_answered;
     HandedFile m_names;
     HandedFile m_password;
     ChildRun* m_child = nullptr;

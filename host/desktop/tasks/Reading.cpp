@@ -11,7 +11,7 @@ void Reading::add(const QVector<QByteArray>& paths)
 
 QStringList Reading::arguments(const Part&)
 {
-    return {"show"};
+    return m_paths.isEmpty() ? QStringList{"show", "--no-folders"} : QStringList{"show"};
 }
 
 QVector<QByteArray> Reading::names(const Part& part) const
@@ -22,9 +22,7 @@ QVector<QByteArray> Reading::names(const Part& part) const
 /// A document that is in the list already has its answer there; the number is used up all the same.
 void Reading::takeFound(const FoundEvent& event)
 {
-    if (m_paths.isEmpty())
-        return DocumentTask::takeFound(event);
-    if (event.number != underWay().size())
+    if (m_paths.isEmpty() || event.number != underWay().size())
         return;
     countMore();
     const DocumentTable::Ids ids = table().append({event.path});

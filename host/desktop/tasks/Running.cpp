@@ -24,8 +24,8 @@ void Running::start(const DocumentTable::Ids& ids, const QString& base)
 
 QStringList Running::arguments(const Part& part)
 {
-    const QStringList words =
-        QStringList{"run"} + m_order.arguments(m_base) + RunOrder::argumentsOf(part.howSigned);
+    const QStringList words = QStringList{"run", "--no-folders"} + m_order.arguments(m_base) +
+                              RunOrder::argumentsOf(part.howSigned);
     if (m_mode == Mode::Try)
         return words + QStringList{"--dry-run"};
     const QString time = QDateTime::currentDateTimeUtc().toString("yyyy-MM-ddTHHmmss.zzzZ");

@@ -39,6 +39,8 @@ private slots:
         QVERIFY(refusalFor(plan).empty());
         plan.add("in/folder.pdf");
         QCOMPARE(plan.notes(), std::vector<std::string>{"no PDF documents in in/folder.pdf"});
+        plan.add("in", RunPlan::Folders::Refused);
+        QCOMPARE(plan.documents().back().problem.code, ReasonCode::NotAFile);
 
         const fs::path here = fs::current_path();
         const std::string name(250, 'd');
