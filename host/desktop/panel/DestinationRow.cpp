@@ -5,6 +5,7 @@
 
 #include "shared/frame/CWheelFocusFilter.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 
 namespace host::desktop {
@@ -58,18 +59,17 @@ void DestinationRow::layOutParts()
     where->addWidget(m_folder);
     where->addWidget(m_choose);
     where->addWidget(m_suffix);
-    auto* column = new QVBoxLayout;
-    column->setSpacing(6);
-    column->addWidget(m_kind);
-    column->addLayout(where);
-    column->addWidget(m_note);
     auto* label = PlainLabel::heading(tr("&Write to"), this);
     label->setBuddy(m_kind); // screen readers take it from a label beside it only
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(label, 0, Qt::AlignTop);
-    row->addSpacing(12);
-    row->addLayout(column, 1);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(6);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(m_kind, 0, 1);
+    grid->addLayout(where, 1, 1);
+    grid->addWidget(m_note, 2, 1);
+    grid->setColumnStretch(1, 1);
 }
 
 Destination DestinationRow::destination() const
