@@ -26,6 +26,9 @@ class TestActionDialog : public QObject
 {
     Q_OBJECT
 
+public:
+    static void initMain() { Q_INIT_RESOURCE(quintar); }
+
 private slots:
     void initTestCase() { muteFrameWarnings(); }
     void init()
@@ -237,11 +240,5 @@ private:
     std::unique_ptr<MainWindow> m_window;
 };
 
-int main(int argc, char** argv)
-{
-    Q_INIT_RESOURCE(quintar);
-    QApplication application(argc, argv);
-    TestActionDialog test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(TestActionDialog)
 #include "TestActionDialog.moc"

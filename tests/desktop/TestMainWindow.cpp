@@ -26,6 +26,9 @@ class TestMainWindow : public QObject
 {
     Q_OBJECT
 
+public:
+    static void initMain() { Q_INIT_RESOURCE(quintar); }
+
 private slots:
     void init()
     {
@@ -186,10 +189,7 @@ private slots:
     void undoesAnEarlierRun()
     {
         run();
-        choose("Panel", "Attachments");
-        QTRY_COMPARE(state(), State::Ready);
-        m_window->workbench().start();
-        QTRY_COMPARE(state(), State::Results);
+        run("Attachments");
         const auto& runs = m_window->workbench().history().runs();
         const QString earlier = runs.at(1).reports.value(0);
         m_fake->plays("undo",
@@ -419,10 +419,11 @@ private:
         m_window->workbench().add({"/d"});
         QTRY_COMPARE(state(), State::Listed);
     }
-    void run()
+    void run(const QString& panel = "Bookmarks")
     {
-        read();
-        choose("Panel", "Bookmarks");
+        if (state() == State::Empty)
+            read();
+        choose("Panel", panel);
         QTRY_COMPARE(state(), State::Ready);
         m_window->workbench().start();
         QTRY_COMPARE(state(), State::Results);
@@ -434,11 +435,5 @@ private:
     QUrl m_opened;
 };
 
-int main(int argc, char** argv)
-{
-    Q_INIT_RESOURCE(quintar);
-    QApplication application(argc, argv);
-    TestMainWindow test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(TestMainWindow)
 #include "TestMainWindow.moc"

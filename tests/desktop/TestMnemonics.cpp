@@ -21,6 +21,9 @@ class TestMnemonics : public QObject
 {
     Q_OBJECT
 
+public:
+    static void initMain() { Q_INIT_RESOURCE(quintar); }
+
 private slots:
     void init()
     {
@@ -111,11 +114,5 @@ private:
     std::unique_ptr<MainWindow> m_window;
 };
 
-int main(int argc, char** argv)
-{
-    Q_INIT_RESOURCE(quintar);
-    QApplication application(argc, argv);
-    TestMnemonics test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(TestMnemonics)
 #include "TestMnemonics.moc"

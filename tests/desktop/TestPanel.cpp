@@ -21,6 +21,9 @@ class TestPanel : public QObject
 {
     Q_OBJECT
 
+public:
+    static void initMain() { Q_INIT_RESOURCE(quintar); }
+
 private slots:
     void init()
     {
@@ -256,11 +259,5 @@ private:
     std::unique_ptr<MainWindow> m_window;
 };
 
-int main(int argc, char** argv)
-{
-    Q_INIT_RESOURCE(quintar);
-    QApplication application(argc, argv);
-    TestPanel test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(TestPanel)
 #include "TestPanel.moc"

@@ -16,6 +16,9 @@ class TestSession : public QObject
 {
     Q_OBJECT
 
+public:
+    static void initMain() { Q_INIT_RESOURCE(quintar); }
+
 private slots:
     void init()
     {
@@ -122,11 +125,5 @@ private:
     std::unique_ptr<MainWindow> m_window;
 };
 
-int main(int argc, char** argv)
-{
-    Q_INIT_RESOURCE(quintar);
-    QApplication application(argc, argv);
-    TestSession test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(TestSession)
 #include "TestSession.moc"
