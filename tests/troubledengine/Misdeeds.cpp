@@ -164,25 +164,17 @@ struct Misdeed
 };
 
 const Misdeed all[] = {
-    {L"reads-key", readsKey},
-    {L"writes-outside", writesOutside},
-    {L"connects", connects},
-    {L"forks", forks},
-    {L"executes", executes},
-    {L"traces", traces},
-    {L"signals", signals},
-    {L"spies", spies},
-    {L"shares", shares},
-    {L"lends", lends},
-    {L"bares", bares},
-    {L"grants", grants},
-    {L"scribbles", scribbles},
-    {L"empties", empties},
+    {L"reads-key", readsKey},  {L"writes-outside", writesOutside},
+    {L"connects", connects},   {L"forks", forks},
+    {L"executes", executes},   {L"traces", traces},
+    {L"signals", signals},     {L"spies", spies},
+    {L"shares", shares},       {L"lends", lends},
+    {L"bares", bares},         {L"grants", grants},
+    {L"scribbles", scribbles}, {L"empties", empties},
     {L"learns", learns},
 #if defined(__x86_64__)
-    {L"switches", switches}
+    {L"switches", switches},
 #endif
-    ,
 };
 
 } // namespace

@@ -8,8 +8,8 @@ namespace misdeeds {
 /// To be called in the worker before it is locked in.
 void prepare();
 
-/// Does what the name of a document asks for: "reads-key", "writes-outside", "connects", "forks", "executes",
-/// "traces", "signals", "spies", "shares", "lends", "bares", "grants", "scribbles", "empties", "learns", "switches". \returns whether it could; true for a name that asks for nothing.
+/// Does what the name of a document asks for, such as "reads-key": each is a function of Misdeeds.cpp. \returns whether
+/// it could; true for a name that asks for nothing.
 bool allDone(const std::wstring& name);
 
 } // namespace misdeeds
